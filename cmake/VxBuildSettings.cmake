@@ -1,0 +1,53 @@
+# SPDX-License-Identifier: MIT
+# Copyright The VxPrinterStatus authors
+#
+# What every target of the project is compiled with. Targets take it by linking vx_build_settings.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Build type" FORCE)
+endif()
+
+find_program(VX_CCACHE ccache)
+mark_as_advanced(VX_CCACHE)
+if(VX_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${VX_CCACHE}")
+endif()
+
+set(VX_SANITIZE "" CACHE STRING "Sanitizers to build with: empty, address or thread")
+set_property(CACHE VX_SANITIZE PROPERTY STRINGS "" address thread)
+
+add_library(vx_build_settings INTERFACE)
+if(MSVC)
+    target_compile_options(vx_build_settings INTERFACE /W4 /WX /utf-8 /permissive- /Zc:__cplusplus)
+else()
+    target_compile_options(vx_build_settings INTERFACE
+        -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+endif()
+target_compile_definitions(vx_build_settings INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_JAVA_STYLE_ITERATORS)
+
+if(VX_SANITIZE STREQUAL "address")
+    set(VX_SANITIZE_FLAGS -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+elseif(VX_SANITIZE STREQUAL "thread")
+    set(VX_SANITIZE_FLAGS -fsanitize=thread -fno-omit-frame-pointer)
+elseif(VX_SANITIZE)
+    message(FATAL_ERROR "VX_SANITIZE is \"${VX_SANITIZE}\": expected nothing, address or thread")
+endif()
+if(VX_SANITIZE_FLAGS)
+    # For every target, those of the platform folder included: a half-instrumented process reports
+    # what is not there.
+    add_compile_options(${VX_SANITIZE_FLAGS})
+    add_link_options(${VX_SANITIZE_FLAGS})
+endif()

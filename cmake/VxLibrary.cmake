@@ -1,0 +1,27 @@
+# SPDX-License-Identifier: MIT
+# Copyright The VxPrinterStatus authors
+#
+# The library itself, put together from the objects of status/, winprint/ and ipc/.
+
+include(GNUInstallDirs)
+
+set(VX_PUBLIC_HEADERS
+    printer_status_controller.h printer_status_thread.h printer_status_information.h
+    printer_types.h windows_printer_info.h vx_ipc_supplyd_controller.h vx_ipc_m4_controller.h
+    vx_ipc_printqd_controller.h supply_information.h print_job_meta_data.h vxprinterstatus_export.h)
+
+# The objects are a target of their own so that a test can link them and replace what they call.
+foreach(kind SHARED)
+    add_library(vxprinterstatus ${kind})
+endforeach()
+add_library(Vx::PrinterStatus ALIAS vxprinterstatus)
+target_link_libraries(vxprinterstatus
+    PUBLIC Qt6::Core Qt6::Gui Vx::WindowsApi Vx::Ipc
+    PRIVATE vx_build_settings vx_winprint vx_ipc_endpoints vx_status)
+set_target_properties(vxprinterstatus PROPERTIES
+    OUTPUT_NAME vxprinterstatus
+    EXPORT_NAME PrinterStatus
+    LINKER_LANGUAGE CXX)
+if(WIN32)
+    set_target_properties(vxprinterstatus PROPERTIES PREFIX "")
+endif()

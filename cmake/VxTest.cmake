@@ -1,0 +1,22 @@
+# SPDX-License-Identifier: MIT
+# Copyright The VxPrinterStatus authors
+#
+# vx_add_test(<name> SOURCES <file>... [LIBRARIES <target>...])
+#
+# One Qt Test executable, registered with CTest under its name. Tests run beside each other, so none
+# may use a fixed file, port or name outside its own process.
+function(vx_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+    if(arg_UNPARSED_ARGUMENTS OR NOT arg_SOURCES)
+        message(FATAL_ERROR "vx_add_test(${name}): expected SOURCES <file>... [LIBRARIES <target>...]")
+    endif()
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE vx_build_settings Qt6::Test ${arg_LIBRARIES})
+    set_target_properties(${name} PROPERTIES
+        RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests"
+        WIN32_EXECUTABLE OFF)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT 60
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FORCE_STDERR_LOGGING=1")
+endfunction()

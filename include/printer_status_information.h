@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include "vxprinterstatus_export.h"
+
+#include <QtCore/QMetaType>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+
+/// The status record of one printer, a plain value that travels inside a `QVariant`.
+///
+/// A host reads it by property name, from C++ or QML:
+/// @code
+/// for (const QVariant& entry : controller.getAvailablePrinters()) {
+///     const auto printer = entry.value<PrinterStatusInformation>();
+///     qDebug() << printer.printerName << controller.getStatusTitle(printer.statusEnum);
+/// }
+/// @endcode
+/// Texts are empty and percentages 0 until the printer has reported them.
+class VX_PRINTERSTATUS_EXPORT PrinterStatusInformation
+{
+    Q_GADGET
+    Q_PROPERTY(QString printerName MEMBER printerName)
+    Q_PROPERTY(int statusEnum MEMBER statusEnum)
+    Q_PROPERTY(bool printerOnline MEMBER printerOnline)
+    Q_PROPERTY(bool printerRemote MEMBER printerRemote)
+    Q_PROPERTY(bool printerNonAdmin MEMBER printerNonAdmin)
+    Q_PROPERTY(bool printerDefault MEMBER printerDefault)
+    Q_PROPERTY(int ribbon1Percentage MEMBER ribbon1Percentage)
+    Q_PROPERTY(QString ribbon1ColorHex MEMBER ribbon1ColorHex)
+    Q_PROPERTY(QString ribbon1ColorName MEMBER ribbon1ColorName)
+    Q_PROPERTY(QString ribbon1SKU MEMBER ribbon1SKU)
+    Q_PROPERTY(int ribbon2Percentage MEMBER ribbon2Percentage)
+    Q_PROPERTY(QString ribbon2ColorHex MEMBER ribbon2ColorHex)
+    Q_PROPERTY(QString ribbon2ColorName MEMBER ribbon2ColorName)
+    Q_PROPERTY(QString ribbon2SKU MEMBER ribbon2SKU)
+    Q_PROPERTY(QString softwareVersion MEMBER softwareVersion)
+    Q_PROPERTY(int supplyPercentage MEMBER supplyPercentage)
+    Q_PROPERTY(QString supplyColorHex MEMBER supplyColorHex)
+    Q_PROPERTY(QString supplyColorName MEMBER supplyColorName)
+    Q_PROPERTY(QString supplySKU MEMBER supplySKU)
+    Q_PROPERTY(QString supplyMaterialName MEMBER supplyMaterialName)
+    Q_PROPERTY(bool ribbon2Visible MEMBER ribbon2Visible)
+
+public:
+    /// The printer's name in the Windows print spooler.
+    QString printerName;
+    /// Status code: 0 disconnected, 1 ready, 254 print spooler not running, 255 not known (yet),
+    /// 256 network printer, 257 offline, 258 not managed, anything else the driver's error code.
+    /// `PrinterStatusController::getStatusTitle` gives its title.
+    int statusEnum = 255;
+    /// False once the printer was found offline, true again at its next readable report.
+    bool printerOnline = true;
+    /// A network printer; it is listed but never watched.
+    bool printerRemote = false;
+    /// The user may not administer the printer; it is listed but never watched.
+    bool printerNonAdmin = false;
+    /// Set when the printer is made the active printer and never cleared, so several records can
+    /// carry it: `PrinterStatusController::activeDefaultPrinter` names the one that is active.
+    bool printerDefault = false;
+    /// Ribbon 1 left, in percent from 0 to 100; 0 also when it is not known.
+    int ribbon1Percentage = 0;
+    /// Ribbon 1's colour as "#rrggbb".
+    QString ribbon1ColorHex;
+    /// Ribbon 1's colour by name, in the application's language.
+    QString ribbon1ColorName;
+    /// Ribbon 1's stock-keeping unit.
+    QString ribbon1SKU;
+    /// Ribbon 2 left, in percent from 0 to 100; 0 also when it is not known.
+    int ribbon2Percentage = 0;
+    /// Ribbon 2's colour as "#rrggbb".
+    QString ribbon2ColorHex;
+    /// Ribbon 2's colour by name, in the application's language.
+    QString ribbon2ColorName;
+    /// Ribbon 2's stock-keeping unit.
+    QString ribbon2SKU;
+    /// The firmware's version text, whole, as the printer reports it.
+    QString softwareVersion;
+    /// Supply left, in percent from 0 to 100; 0 also when it is not known.
+    int supplyPercentage = 0;
+    /// The supply's colour as "#rrggbb".
+    QString supplyColorHex;
+    /// The supply's colour by name, in the application's language.
+    QString supplyColorName;
+    /// The supply's stock-keeping unit, "-1" when no supply is loaded.
+    QString supplySKU;
+    /// The supply's material by name, in the application's language.
+    QString supplyMaterialName;
+    /// Whether the model has a second ribbon.
+    bool ribbon2Visible = false;
+};
+Q_DECLARE_METATYPE(PrinterStatusInformation)
