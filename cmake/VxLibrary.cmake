@@ -11,9 +11,7 @@ set(VX_PUBLIC_HEADERS
     vx_ipc_printqd_controller.h supply_information.h print_job_meta_data.h vxprinterstatus_export.h)
 
 # The objects are a target of their own so that a test can link them and replace what they call.
-foreach(kind SHARED)
-    add_library(vxprinterstatus ${kind})
-endforeach()
+add_library(vxprinterstatus SHARED)
 add_library(Vx::PrinterStatus ALIAS vxprinterstatus)
 target_link_libraries(vxprinterstatus
     PUBLIC Qt6::Core Qt6::Gui Vx::WindowsApi Vx::Ipc

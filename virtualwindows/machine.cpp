@@ -1,0 +1,3 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "virtualwindows/machine.h"
