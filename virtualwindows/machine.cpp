@@ -1,3 +1,252 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-#include "virtualwindows/machine.h"
+#include "internals.h"
+
+#include <QtCore/QtEndian>
+
+#include <algorithm>
+
+namespace virtualwindows {
+
+PrinterValue PrinterValue::text(const QByteArray& name, const QByteArray& value)
+{
+    QByteArray data = value;
+    data.append('\0');
+    return {name, REG_SZ, data};
+}
+
+PrinterValue PrinterValue::number(const QByteArray& name, quint32 value)
+{
+    QByteArray data(sizeof value, Qt::Uninitialized);
+    qToLittleEndian(value, data.data());
+    return {name, REG_DWORD, data};
+}
+
+PrinterValue PrinterValue::binary(const QByteArray& name, const QByteArray& bytes)
+{
+    return {name, REG_BINARY, bytes};
+}
+
+Machine::Machine()
+    : d(std::make_unique<Private>())
+{}
+Machine::~Machine() = default;
+
+Machine& Machine::instance()
+{
+    // Never destroyed: threads may still be in a call while the process ends.
+    static Machine& machine = *new Machine;
+    return machine;
+}
+
+void Machine::reset()
+{
+    driveTime(false);
+    const std::lock_guard guard(d->lock);
+    d->objects.clear();
+    d->misuses.clear();
+    d->printers.clear();
+    d->defaultPrinter = QString();
+    d->spoolerState = SERVICE_RUNNING;
+    d->nextJob = 1;
+    d->notifications.clear();
+    d->deviceClasses.clear();
+    d->calls.clear();
+    d->recording = false;
+    d->hook = nullptr;
+    d->failures = {};
+    for (std::atomic<int>& count : d->counts)
+        count = 0;
+    d->drivenNow = {};
+    d->updateAttention();
+}
+
+std::shared_ptr<Printer> Machine::Private::printerNamed(const QString& name) const
+{
+    // The spooler knows no letter case in names; a machine set up with names that differ in nothing
+    // else still tells them apart.
+    const auto isNamed = [&](Qt::CaseSensitivity sensitivity) {
+        return [&name, sensitivity](const std::shared_ptr<Printer>& printer) {
+            return !printer->setup.name.isNull() &&
+                   printer->setup.name.compare(name, sensitivity) == 0;
+        };
+    };
+    for (const Qt::CaseSensitivity sensitivity : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
+        const auto found = std::find_if(printers.begin(), printers.end(), isNamed(sensitivity));
+        if (found != printers.end())
+            return *found;
+    }
+    return {};
+}
+
+void Machine::Private::notify(const Printer* printer, DWORD change)
+{
+    std::erase_if(notifications, [](const auto& notification) { return notification.expired(); });
+    for (const auto& entry : notifications) {
+        const std::shared_ptr<ChangeNotification> notification = entry.lock();
+        const bool isAsked = !notification->printer || notification->printer.get() == printer;
+        const DWORD told = change & notification->filter;
+        if (!isAsked || !told)
+            continue;
+        notification->changes |= told;
+        signal(*notification);
+    }
+}
+
+void Machine::Private::setSpoolerState(DWORD state)
+{
+    spoolerState = state;
+    if (isSpoolerRunning())
+        return;
+    // Whatever the service had handed out died with it.
+    for (const auto& [value, object] : objects) {
+        if (object->kind == Object::Kind::Printer) {
+            static_cast<PrinterHandleObject&>(*object).dead = true;
+        } else if (object->kind == Object::Kind::ChangeNotification) {
+            auto& notification = static_cast<ChangeNotification&>(*object);
+            notification.dead = true;
+            notification.signalled = false;
+        }
+    }
+    notifications.clear();
+}
+
+void Machine::setSpoolerState(quint32 state)
+{
+    const std::lock_guard guard(d->lock);
+    d->setSpoolerState(state);
+}
+
+quint32 Machine::spoolerState() const
+{
+    const std::lock_guard guard(d->lock);
+    return d->spoolerState;
+}
+
+namespace {
+
+/// A printer that a test or a story names; that it is not there is a mistake of theirs, which must
+/// not pass unseen.
+Printer& existing(Machine::Private& machine, const QString& name)
+{
+    const std::shared_ptr<Printer> printer = machine.printerNamed(name);
+    if (!printer)
+        qFatal("virtualwindows: there is no printer \"%s\"", qPrintable(name));
+    return *printer;
+}
+
+template <typename Change>
+void changePrinter(Machine::Private& machine, const QString& name, Change change)
+{
+    const std::lock_guard guard(machine.lock);
+    Printer& printer = existing(machine, name);
+    change(printer);
+    machine.notify(&printer, PRINTER_CHANGE_SET_PRINTER);
+}
+
+} // namespace
+
+void Machine::addPrinter(const PrinterSetup& setup)
+{
+    const std::lock_guard guard(d->lock);
+    auto printer = std::make_shared<Printer>();
+    printer->setup = setup;
+    d->printers.append(printer);
+    d->notify(printer.get(), PRINTER_CHANGE_ADD_PRINTER);
+}
+
+void Machine::removePrinter(const QString& name)
+{
+    const std::lock_guard guard(d->lock);
+    d->removePrinter(existing(*d, name));
+}
+
+void Machine::Private::removePrinter(Printer& printer)
+{
+    if (defaultPrinter == printer.setup.name)
+        defaultPrinter = QString();
+    printer.deleted = true;
+    notify(&printer, PRINTER_CHANGE_DELETE_PRINTER);
+    printers.removeIf([&](const auto& entry) { return entry.get() == &printer; });
+}
+
+void Machine::renamePrinter(const QString& name, const QString& newName)
+{
+    changePrinter(*d, name, [&](Printer& printer) {
+        if (d->defaultPrinter == printer.setup.name)
+            d->defaultPrinter = newName;
+        printer.setup.name = newName;
+    });
+}
+
+void Machine::setAttributes(const QString& name, quint32 attributes)
+{
+    changePrinter(*d, name, [&](Printer& printer) { printer.setup.attributes = attributes; });
+}
+
+void Machine::setStatus(const QString& name, quint32 status)
+{
+    changePrinter(*d, name, [&](Printer& printer) { printer.setup.status = status; });
+}
+
+void Machine::setPort(const QString& name, const QString& port)
+{
+    changePrinter(*d, name, [&](Printer& printer) { printer.setup.port = port; });
+}
+
+void Machine::setDriver(const QString& name, const QString& driver)
+{
+    changePrinter(*d, name, [&](Printer& printer) { printer.setup.driver = driver; });
+}
+
+void Machine::setAdministrable(const QString& name, bool administrable)
+{
+    changePrinter(*d, name, [&](Printer& printer) { printer.setup.administrable = administrable; });
+}
+
+void Machine::setDefaultPrinter(const QString& name)
+{
+    const std::lock_guard guard(d->lock);
+    d->defaultPrinter = name;
+}
+
+QStringList Machine::printers() const
+{
+    const std::lock_guard guard(d->lock);
+    QStringList names;
+    for (const auto& printer : std::as_const(d->printers))
+        names.append(printer->setup.name);
+    return names;
+}
+
+void Machine::publish(const QString& printer, const PrinterValue& value)
+{
+    publish(printer, QList<PrinterValue>{value});
+}
+
+void Machine::publish(const QString& printer, const QList<PrinterValue>& values)
+{
+    changePrinter(*d, printer, [&](Printer& entry) {
+        for (const PrinterValue& value : values)
+            entry.values.insert(value.name.toLower(), Value::fromNarrow(value.type, value.data));
+    });
+}
+
+void Machine::unpublish(const QString& printer, const QByteArray& valueName)
+{
+    changePrinter(*d, printer, [&](Printer& entry) { entry.values.remove(valueName.toLower()); });
+}
+
+void Machine::notify(const QString& printer, quint32 change)
+{
+    const std::lock_guard guard(d->lock);
+    d->notify(&existing(*d, printer), change);
+}
+
+QList<PrintJob> Machine::jobs(const QString& printer) const
+{
+    const std::lock_guard guard(d->lock);
+    return existing(*d, printer).jobs;
+}
+
+} // namespace virtualwindows

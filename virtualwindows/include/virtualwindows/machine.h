@@ -28,7 +28,7 @@ struct PrinterSetup
 };
 
 /// A value that a driver publishes, as the registry types it (REG_SZ 1, REG_BINARY 3, REG_DWORD 4).
-struct PrinterValue
+struct VIRTUALWINDOWS_EXPORT PrinterValue
 {
     QByteArray name;
     quint32 type = 0;
@@ -80,18 +80,18 @@ struct HandleMisuse
 /// HKEY_LOCAL_MACHINE\SYSTEM\ControlSet001\Control\DeviceClasses\.
 struct DeviceSetup
 {
-    QString classGuid;    ///< key name of the interface class, braces included
-    QString interfaceKey; ///< key name of the device interface; any length, any characters
-    QVariant portNumber;  ///< "Port Number"; invalid: the value is absent
+    QString classGuid;     ///< key name of the interface class, braces included
+    QString interfaceKey;  ///< key name of the device interface; any length, any characters
+    QVariant portNumber;   ///< "Port Number"; invalid: the value is absent
     QVariant serialNumber; ///< "Serial Number"; invalid: the value is absent
 };
 
 /// The one virtual Windows machine of this process: what the calls of <windows.h> and <winspool.h>
 /// act on, and the handle by which a test or a demonstration drives it.
 ///
-/// All members may be called on any thread. Changes made here are what drivers, users and the system
-/// do: they do not appear in the log of calls and need no running spooler, but they signal change
-/// notifications as the real thing does.
+/// All members may be called on any thread. Changes made here are what drivers, users and the
+/// system do: they do not appear in the log of calls and need no running spooler, but they signal
+/// change notifications as the real thing does.
 class VIRTUALWINDOWS_EXPORT Machine
 {
 public:
@@ -141,7 +141,8 @@ public:
     /// block the caller, which is how a test holds a thread at a point of its choice.
     void setCallHook(std::function<void(const Call&)> hook);
 
-    // Planned failures: the call does nothing and fails with the error. nth counts from 1, from now.
+    // Planned failures: the call does nothing and fails with the error. nth counts from 1, from
+    // now.
     void failCall(const QString& function, int nth, quint32 error);
     void failCallsFrom(const QString& function, int nth, quint32 error);
     void clearFailures();
@@ -173,12 +174,14 @@ private:
     Machine();
     ~Machine();
     Q_DISABLE_COPY_MOVE(Machine)
-    struct Private;
-    std::unique_ptr<Private> d;
 
 public:
     /// For the implementation of the calls alone.
+    struct Private;
     Private& internals() { return *d; }
+
+private:
+    std::unique_ptr<Private> d;
 };
 
 /// The device registry as the library reads it: paths with backslashes, from the name of the hive.

@@ -1,0 +1,298 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "internals.h"
+
+#include <algorithm>
+
+using namespace virtualwindows;
+
+namespace {
+
+thread_local DWORD lastError = 0;
+std::atomic<DWORD> nextThreadId = 4;
+
+} // namespace
+
+// What waits and who wakes them.
+namespace virtualwindows {
+
+bool Machine::Private::trySatisfy(Waiter& waiter)
+{
+    const auto isSignalled = [](const std::shared_ptr<Waitable>& object) {
+        return object && object->signalled;
+    };
+    const auto take = [](Waitable& object) {
+        if (!object.manualReset)
+            object.signalled = false;
+    };
+
+    if (waiter.all) {
+        // All or nothing: no object is taken before every one of them can be.
+        if (!std::all_of(waiter.objects.begin(), waiter.objects.end(), isSignalled))
+            return false;
+        for (const auto& object : waiter.objects)
+            take(*object);
+        finish(waiter, WAIT_OBJECT_0);
+        return true;
+    }
+
+    const auto first = std::find_if(waiter.objects.begin(), waiter.objects.end(), isSignalled);
+    if (first == waiter.objects.end())
+        return false;
+    take(**first);
+    finish(waiter, WAIT_OBJECT_0 + static_cast<DWORD>(first - waiter.objects.begin()));
+    return true;
+}
+
+void Machine::Private::finish(Waiter& waiter, DWORD result)
+{
+    waiter.done = true;
+    waiter.result = result;
+    for (const auto& object : waiter.objects) {
+        if (object)
+            std::erase(object->waiters, &waiter);
+    }
+    std::erase(waiting, &waiter);
+    waiter.wake.notify_one();
+}
+
+void Machine::Private::signal(Waitable& object)
+{
+    object.signalled = true;
+    // First come, first served; an object that resets itself goes to one of them.
+    const std::vector<Waiter*> waiters = object.waiters;
+    for (Waiter* waiter : waiters) {
+        if (!object.signalled)
+            return;
+        trySatisfy(*waiter);
+    }
+}
+
+DWORD Machine::Private::wait(const HANDLE* handles, DWORD count, bool all, DWORD milliseconds,
+                             Function function)
+{
+    std::unique_lock guard(lock);
+
+    Waiter waiter;
+    waiter.all = all;
+    waiter.objects.reserve(count);
+    for (DWORD index = 0; index < count; ++index) {
+        // As an object to wait for this value is the process itself, which does not end under us.
+        if (handles[index] == INVALID_HANDLE_VALUE) {
+            waiter.objects.emplace_back();
+            continue;
+        }
+        const auto found = objects.find(reinterpret_cast<quintptr>(handles[index]));
+        const bool isNotification =
+            found != objects.end() && found->second->kind == Object::Kind::ChangeNotification;
+        auto object = find<Waitable>(
+            handles[index], isNotification ? Object::Kind::ChangeNotification : Object::Kind::Event,
+            function);
+        if (!object)
+            return WAIT_FAILED;
+        waiter.objects.push_back(std::move(object));
+    }
+
+    if (trySatisfy(waiter))
+        return waiter.result;
+    if (milliseconds == 0)
+        return WAIT_TIMEOUT;
+
+    waiter.endless = milliseconds == INFINITE;
+    const std::chrono::milliseconds timeOut(milliseconds);
+    waiter.deadline = std::chrono::steady_clock::now() + timeOut;
+    waiter.drivenDeadline = drivenNow + timeOut;
+    for (const auto& object : waiter.objects) {
+        if (object)
+            object->waiters.push_back(&waiter);
+    }
+    waiting.push_back(&waiter);
+    if (watchers > 0)
+        waitingChanged.notify_all();
+
+    while (!waiter.done) {
+        if (driven || waiter.endless)
+            waiter.wake.wait(guard);
+        else if (waiter.wake.wait_until(guard, waiter.deadline) == std::cv_status::timeout &&
+                 !waiter.done && !driven)
+            finish(waiter, WAIT_TIMEOUT);
+    }
+    return waiter.result;
+}
+
+void Machine::driveTime(bool driven)
+{
+    const std::lock_guard guard(d->lock);
+    if (d->driven == driven)
+        return;
+    d->driven = driven;
+    // Waits that are under way keep what is left of their time.
+    const auto now = std::chrono::steady_clock::now();
+    for (Waiter* waiter : d->waiting) {
+        if (driven)
+            waiter->drivenDeadline =
+                d->drivenNow + std::chrono::ceil<std::chrono::milliseconds>(waiter->deadline - now);
+        else
+            waiter->deadline = now + (waiter->drivenDeadline - d->drivenNow);
+        waiter->wake.notify_one();
+    }
+}
+
+void Machine::advance(std::chrono::milliseconds time)
+{
+    const std::lock_guard guard(d->lock);
+    d->drivenNow += time;
+    // Earlier time-outs end first.
+    std::vector<Waiter*> due;
+    std::copy_if(
+        d->waiting.begin(), d->waiting.end(), std::back_inserter(due),
+        [&](Waiter* waiter) { return !waiter->endless && waiter->drivenDeadline <= d->drivenNow; });
+    std::stable_sort(due.begin(), due.end(), [](const Waiter* left, const Waiter* right) {
+        return left->drivenDeadline < right->drivenDeadline;
+    });
+    for (Waiter* waiter : due)
+        d->finish(*waiter, WAIT_TIMEOUT);
+}
+
+bool Machine::waitForWaitingThreads(int count, std::chrono::milliseconds limit)
+{
+    std::unique_lock guard(d->lock);
+    ++d->watchers;
+    const bool reached = d->waitingChanged.wait_for(
+        guard, limit, [&] { return static_cast<int>(d->waiting.size()) >= count; });
+    --d->watchers;
+    return reached;
+}
+
+int Machine::waitingThreads() const
+{
+    const std::lock_guard guard(d->lock);
+    return static_cast<int>(d->waiting.size());
+}
+
+} // namespace virtualwindows
+
+DWORD WINAPI GetLastError()
+{
+    return lastError;
+}
+
+void WINAPI SetLastError(DWORD dwErrCode)
+{
+    lastError = dwErrCode;
+}
+
+DWORD WINAPI GetCurrentThreadId()
+{
+    thread_local const DWORD id = nextThreadId.fetch_add(4);
+    return id;
+}
+
+HANDLE WINAPI CreateEventW(LPSECURITY_ATTRIBUTES /*lpEventAttributes*/, BOOL bManualReset,
+                           BOOL bInitialState, LPCWSTR lpName)
+{
+    const DWORD planned = machine().begin(Function::CreateEventW, [&] {
+        return QStringList{text(DWORD(bManualReset)), text(DWORD(bInitialState)), text(lpName)};
+    });
+    if (planned)
+        return failWith<HANDLE>(planned, nullptr);
+    // Names are shared between processes, and this machine ends with its own.
+    if (lpName)
+        return failWith<HANDLE>(ERROR_INVALID_PARAMETER, nullptr);
+
+    auto event = std::make_shared<Event>();
+    event->manualReset = bManualReset != FALSE;
+    event->signalled = bInitialState != FALSE;
+    const std::lock_guard guard(machine().lock);
+    return machine().open(event);
+}
+
+namespace {
+
+template <typename Change>
+BOOL changeEvent(HANDLE handle, Function function, Change change)
+{
+    if (const DWORD planned = machine().begin(function, [&] { return QStringList{text(handle)}; }))
+        return failWith(planned, FALSE);
+    const DWORD before = GetLastError();
+    const std::lock_guard guard(machine().lock);
+    const auto event = machine().find<Event>(handle, Object::Kind::Event, function);
+    if (!event)
+        return FALSE;
+    SetLastError(before);
+    change(*event);
+    return TRUE;
+}
+
+} // namespace
+
+BOOL WINAPI SetEvent(HANDLE hEvent)
+{
+    return changeEvent(hEvent, Function::SetEvent, [](Event& event) { machine().signal(event); });
+}
+
+BOOL WINAPI ResetEvent(HANDLE hEvent)
+{
+    return changeEvent(hEvent, Function::ResetEvent, [](Event& event) { event.signalled = false; });
+}
+
+DWORD WINAPI WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds)
+{
+    const DWORD planned = machine().begin(Function::WaitForSingleObject, [&] {
+        return QStringList{text(hHandle), text(dwMilliseconds)};
+    });
+    if (planned)
+        return failWith(planned, WAIT_FAILED);
+    const DWORD before = GetLastError();
+    const DWORD result =
+        machine().wait(&hHandle, 1, false, dwMilliseconds, Function::WaitForSingleObject);
+    if (result != WAIT_FAILED)
+        SetLastError(before);
+    return result;
+}
+
+DWORD WINAPI WaitForMultipleObjects(DWORD nCount, const HANDLE* lpHandles, BOOL bWaitAll,
+                                    DWORD dwMilliseconds)
+{
+    const DWORD planned = machine().begin(Function::WaitForMultipleObjects, [&] {
+        QStringList arguments{text(nCount)};
+        for (DWORD index = 0; lpHandles && index < nCount; ++index)
+            arguments.append(text(lpHandles[index]));
+        return arguments << text(DWORD(bWaitAll)) << text(dwMilliseconds);
+    });
+    if (planned)
+        return failWith(planned, WAIT_FAILED);
+    if (nCount == 0 || nCount > MAXIMUM_WAIT_OBJECTS || !lpHandles)
+        return failWith(ERROR_INVALID_PARAMETER, WAIT_FAILED);
+    if (bWaitAll) {
+        std::vector<HANDLE> sorted(lpHandles, lpHandles + nCount);
+        std::sort(sorted.begin(), sorted.end());
+        if (std::adjacent_find(sorted.begin(), sorted.end()) != sorted.end())
+            return failWith(ERROR_INVALID_PARAMETER, WAIT_FAILED);
+    }
+    const DWORD before = GetLastError();
+    const DWORD result = machine().wait(lpHandles, nCount, bWaitAll != FALSE, dwMilliseconds,
+                                        Function::WaitForMultipleObjects);
+    if (result != WAIT_FAILED)
+        SetLastError(before);
+    return result;
+}
+
+BOOL WINAPI CloseHandle(HANDLE hObject)
+{
+    const DWORD planned =
+        machine().begin(Function::CloseHandle, [&] { return QStringList{text(hObject)}; });
+    // The process' own pseudo handle needs no closing, and closing it does nothing.
+    if (!planned && hObject == INVALID_HANDLE_VALUE)
+        return TRUE;
+    const DWORD before = GetLastError();
+    const std::lock_guard guard(machine().lock);
+    // A closing that is planned to fail closes all the same: nobody calls it again, and what fails
+    // is the answer.
+    if (!machine().close(hObject, Object::Kind::Event, Function::CloseHandle))
+        return FALSE;
+    if (planned)
+        return failWith(planned, FALSE);
+    SetLastError(before);
+    return TRUE;
+}

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "internals.h"
+
+namespace virtualwindows {
+
+namespace {
+
+constexpr quintptr firstHandle = 0x10000;
+constexpr quintptr handleStep = 4; // the two low bits of a handle are zero on Windows
+
+const char* kindName(Object::Kind kind)
+{
+    switch (kind) {
+    case Object::Kind::Event:
+        return "an event";
+    case Object::Kind::ChangeNotification:
+        return "a change notification";
+    case Object::Kind::Printer:
+        return "a printer";
+    case Object::Kind::ServiceManager:
+        return "a service manager";
+    case Object::Kind::Service:
+        return "a service";
+    }
+    return "";
+}
+
+bool isClosing(Function function)
+{
+    switch (function) {
+    case Function::CloseHandle:
+    case Function::ClosePrinter:
+    case Function::CloseServiceHandle:
+    case Function::FindClosePrinterChangeNotification:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Functions that wait take either kind of waitable object; those of the service manager that close
+/// take either of its kinds.
+bool accepts(Object::Kind wanted, Object::Kind kind)
+{
+    if (wanted == kind)
+        return true;
+    return wanted == Object::Kind::ServiceManager && kind == Object::Kind::Service;
+}
+
+} // namespace
+
+HANDLE Machine::Private::open(const std::shared_ptr<Object>& object)
+{
+    const quintptr value = nextHandle;
+    nextHandle += handleStep; // never handed out again, so that late uses are known as such
+    objects.emplace(value, object);
+    return reinterpret_cast<HANDLE>(value);
+}
+
+void Machine::Private::enterMisuse(HandleMisuse::Kind kind, HANDLE handle, Function function,
+                                   const char* what)
+{
+    const QString name = QString::fromLatin1(functionName(function));
+    misuses.append({kind, reinterpret_cast<quintptr>(handle), name,
+                    QStringLiteral("%1 was handed %2, %3")
+                        .arg(name, text(handle), QString::fromLatin1(what))});
+}
+
+std::shared_ptr<Object> Machine::Private::findObject(HANDLE handle, Object::Kind kind,
+                                                     Function function)
+{
+    SetLastError(ERROR_INVALID_HANDLE);
+    // Programs keep this value for having no handle and may well close it; it fails, and harms no
+    // other handle.
+    if (handle == INVALID_HANDLE_VALUE)
+        return {};
+
+    const auto value = reinterpret_cast<quintptr>(handle);
+    const auto found = objects.find(value);
+    if (found != objects.end()) {
+        if (accepts(kind, found->second->kind))
+            return found->second;
+        enterMisuse(HandleMisuse::Kind::NotAHandle, handle, function,
+                    kindName(found->second->kind));
+        return {};
+    }
+    const bool wasHandedOut = value >= firstHandle && value < nextHandle && value % handleStep == 0;
+    if (!wasHandedOut)
+        enterMisuse(HandleMisuse::Kind::NotAHandle, handle, function, "which was never handed out");
+    else if (isClosing(function))
+        enterMisuse(HandleMisuse::Kind::ClosedTwice, handle, function, "which is closed already");
+    else
+        enterMisuse(HandleMisuse::Kind::UsedAfterClose, handle, function, "which is closed");
+    return {};
+}
+
+std::shared_ptr<Object> Machine::Private::close(HANDLE handle, Object::Kind kind, Function function)
+{
+    std::shared_ptr<Object> object = findObject(handle, kind, function);
+    if (object)
+        objects.erase(reinterpret_cast<quintptr>(handle));
+    return object;
+}
+
+int Machine::openHandles() const
+{
+    const std::lock_guard guard(d->lock);
+    return static_cast<int>(d->objects.size());
+}
+
+QList<HandleMisuse> Machine::misuses() const
+{
+    const std::lock_guard guard(d->lock);
+    return d->misuses;
+}
+
+QList<HandleMisuse> Machine::settle() const
+{
+    const std::lock_guard guard(d->lock);
+    QList<HandleMisuse> entries = d->misuses;
+    for (const auto& [value, object] : d->objects) {
+        const QString function = QString::fromLatin1(functionName(object->openedBy));
+        entries.append({HandleMisuse::Kind::Leaked, value, function,
+                        QStringLiteral("%1, %2 that %3 opened, was never closed")
+                            .arg(text(reinterpret_cast<HANDLE>(value)),
+                                 QString::fromLatin1(kindName(object->kind)), function)});
+    }
+    return entries;
+}
+
+} // namespace virtualwindows

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "internals.h"
+
+using namespace virtualwindows;
+
+namespace {
+
+constexpr char16_t spoolerService[] = u"Spooler";
+constexpr char16_t activeDatabase[] = u"ServicesActive";
+
+SC_HANDLE asServiceHandle(HANDLE handle)
+{
+    return static_cast<SC_HANDLE>(handle);
+}
+
+bool isNamed(LPCWSTR name, const char16_t* wanted)
+{
+    return QString::fromUtf16(name).compare(QString::fromUtf16(wanted), Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+SC_HANDLE WINAPI OpenSCManagerW(LPCWSTR lpMachineName, LPCWSTR lpDatabaseName,
+                                DWORD dwDesiredAccess)
+{
+    const DWORD planned = machine().begin(Function::OpenSCManagerW, [&] {
+        return QStringList{text(lpMachineName), text(lpDatabaseName), text(dwDesiredAccess)};
+    });
+    if (planned)
+        return failWith<SC_HANDLE>(planned, nullptr);
+    if (lpMachineName && *lpMachineName)
+        return failWith<SC_HANDLE>(RPC_S_SERVER_UNAVAILABLE, nullptr);
+    if (lpDatabaseName && !isNamed(lpDatabaseName, activeDatabase))
+        return failWith<SC_HANDLE>(ERROR_DATABASE_DOES_NOT_EXIST, nullptr);
+
+    const auto manager =
+        std::make_shared<ServiceObject>(Object::Kind::ServiceManager, Function::OpenSCManagerW);
+    manager->access = dwDesiredAccess;
+    const std::lock_guard guard(machine().lock);
+    return asServiceHandle(machine().open(manager));
+}
+
+SC_HANDLE WINAPI OpenServiceW(SC_HANDLE hSCManager, LPCWSTR lpServiceName, DWORD dwDesiredAccess)
+{
+    const DWORD planned = machine().begin(Function::OpenServiceW, [&] {
+        return QStringList{text(HANDLE(hSCManager)), text(lpServiceName), text(dwDesiredAccess)};
+    });
+    if (planned)
+        return failWith<SC_HANDLE>(planned, nullptr);
+
+    const DWORD before = GetLastError();
+    const std::lock_guard guard(machine().lock);
+    const auto manager = machine().find<ServiceObject>(hSCManager, Object::Kind::ServiceManager,
+                                                       Function::OpenServiceW);
+    if (!manager || manager->kind != Object::Kind::ServiceManager)
+        return nullptr;
+    if (!lpServiceName)
+        return failWith<SC_HANDLE>(ERROR_INVALID_NAME, nullptr);
+    if (!isNamed(lpServiceName, spoolerService))
+        return failWith<SC_HANDLE>(ERROR_SERVICE_DOES_NOT_EXIST, nullptr);
+
+    SetLastError(before);
+    const auto service =
+        std::make_shared<ServiceObject>(Object::Kind::Service, Function::OpenServiceW);
+    service->access = dwDesiredAccess;
+    return asServiceHandle(machine().open(service));
+}
+
+BOOL WINAPI QueryServiceStatus(SC_HANDLE hService, LPSERVICE_STATUS lpServiceStatus)
+{
+    const DWORD planned = machine().begin(Function::QueryServiceStatus,
+                                          [&] { return QStringList{text(HANDLE(hService))}; });
+    if (planned)
+        return failWith(planned, FALSE);
+
+    const DWORD before = GetLastError();
+    const std::lock_guard guard(machine().lock);
+    const auto service = machine().find<ServiceObject>(hService, Object::Kind::Service,
+                                                       Function::QueryServiceStatus);
+    if (!service)
+        return FALSE;
+    if (!(service->access & SERVICE_QUERY_STATUS))
+        return failWith(ERROR_ACCESS_DENIED, FALSE);
+
+    SetLastError(before);
+    *lpServiceStatus = {};
+    lpServiceStatus->dwServiceType = SERVICE_WIN32_OWN_PROCESS | SERVICE_INTERACTIVE_PROCESS;
+    lpServiceStatus->dwCurrentState = machine().spoolerState;
+    lpServiceStatus->dwControlsAccepted = machine().isSpoolerRunning() ? SERVICE_ACCEPT_STOP : 0;
+    return TRUE;
+}
+
+BOOL WINAPI CloseServiceHandle(SC_HANDLE hSCObject)
+{
+    const DWORD planned = machine().begin(Function::CloseServiceHandle,
+                                          [&] { return QStringList{text(HANDLE(hSCObject))}; });
+    const DWORD before = GetLastError();
+    const std::lock_guard guard(machine().lock);
+    if (!machine().close(hSCObject, Object::Kind::ServiceManager, Function::CloseServiceHandle))
+        return FALSE;
+    if (planned)
+        return failWith(planned, FALSE);
+    SetLastError(before);
+    return TRUE;
+}

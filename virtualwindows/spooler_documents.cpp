@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// Print jobs: documents, pages and their bytes.
+#include "spooler_handles.h"
+
+#include <algorithm>
+
+using namespace virtualwindows;
+
+namespace {
+
+QString fromWide(LPCWSTR text)
+{
+    return text ? QString::fromUtf16(text) : QString();
+}
+
+/// The job being written; null: the last error says why.
+PrintJob* openJob(PrinterHandleObject& handle)
+{
+    if (!handle.openJob) {
+        SetLastError(ERROR_SPL_NO_STARTDOC);
+        return nullptr;
+    }
+    QList<PrintJob>& jobs = handle.printer->jobs;
+    const auto found = std::find_if(jobs.begin(), jobs.end(),
+                                    [&](const PrintJob& job) { return job.id == handle.openJob; });
+    if (found == jobs.end()) {
+        SetLastError(ERROR_PRINT_CANCELLED);
+        return nullptr;
+    }
+    return &*found;
+}
+
+/// What the four calls on an open document share: step is done with the handle and its job.
+template <typename Step>
+BOOL inDocument(HANDLE handle, Function function, const QStringList& arguments, Step step)
+{
+    if (const DWORD planned = machine().begin(function, [&] { return arguments; }))
+        return failWith(planned, FALSE);
+    const DWORD before = GetLastError();
+    const std::lock_guard guard(machine().lock);
+    const auto object = handleOfPrinter(handle, function, PRINTER_ACCESS_USE);
+    PrintJob* job = object ? openJob(*object) : nullptr;
+    if (!job || !step(*object, *job))
+        return FALSE;
+    SetLastError(before);
+    return TRUE;
+}
+
+} // namespace
+
+void virtualwindows::endDocument(PrinterHandleObject& handle)
+{
+    PrintJob* job = handle.openJob ? openJob(handle) : nullptr;
+    handle.openJob = 0;
+    handle.pageOpen = false;
+    if (!job)
+        return;
+    job->finished = true;
+    machine().notify(handle.printer.get(), PRINTER_CHANGE_SET_JOB);
+}
+
+DWORD WINAPI StartDocPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pDocInfo)
+{
+    const DWORD planned = machine().begin(Function::StartDocPrinterW, [&] {
+        return QStringList{text(hPrinter), text(Level)};
+    });
+    if (planned)
+        return failWith<DWORD>(planned, 0);
+
+    const DWORD before = GetLastError();
+    const std::lock_guard guard(machine().lock);
+    const auto object = handleOfPrinter(hPrinter, Function::StartDocPrinterW, PRINTER_ACCESS_USE);
+    if (!object)
+        return 0;
+    if (Level != 1)
+        return failWith<DWORD>(ERROR_INVALID_LEVEL, 0);
+    if (!pDocInfo)
+        return failWith<DWORD>(ERROR_INVALID_PARAMETER, 0);
+    if (object->openJob)
+        return failWith<DWORD>(ERROR_INVALID_PRINTER_STATE, 0);
+
+    const auto& info = *reinterpret_cast<const DOC_INFO_1W*>(pDocInfo);
+    PrintJob job;
+    job.id = machine().nextJob++;
+    job.document = fromWide(info.pDocName);
+    job.outputFile = fromWide(info.pOutputFile);
+    job.datatype = fromWide(info.pDatatype);
+    object->openJob = job.id;
+    object->printer->jobs.append(job);
+    machine().notify(object->printer.get(), PRINTER_CHANGE_ADD_JOB);
+    SetLastError(before);
+    return job.id;
+}
+
+BOOL WINAPI StartPagePrinter(HANDLE hPrinter)
+{
+    return inDocument(hPrinter, Function::StartPagePrinter, {text(hPrinter)},
+                      [](PrinterHandleObject& handle, PrintJob& job) {
+                          job.pages.append(QByteArray());
+                          handle.pageOpen = true;
+                          return true;
+                      });
+}
+
+BOOL WINAPI WritePrinter(HANDLE hPrinter, LPVOID pBuf, DWORD cbBuf, LPDWORD pcWritten)
+{
+    if (pcWritten)
+        *pcWritten = 0;
+    return inDocument(hPrinter, Function::WritePrinter, {text(hPrinter), text(cbBuf)},
+                      [&](PrinterHandleObject& handle, PrintJob& job) {
+                          if (!pcWritten || (cbBuf && !pBuf)) {
+                              SetLastError(ERROR_INVALID_PARAMETER);
+                              return false;
+                          }
+                          // Bytes outside of a page are the spooler's to pass on all the same.
+                          if (job.pages.isEmpty())
+                              job.pages.append(QByteArray());
+                          job.pages.last().append(static_cast<const char*>(pBuf),
+                                                  static_cast<qsizetype>(cbBuf));
+                          *pcWritten = cbBuf;
+                          machine().notify(handle.printer.get(), PRINTER_CHANGE_WRITE_JOB);
+                          return true;
+                      });
+}
+
+BOOL WINAPI EndPagePrinter(HANDLE hPrinter)
+{
+    return inDocument(hPrinter, Function::EndPagePrinter, {text(hPrinter)},
+                      [](PrinterHandleObject& handle, PrintJob& /*job*/) {
+                          if (!handle.pageOpen) {
+                              SetLastError(ERROR_INVALID_PRINTER_STATE);
+                              return false;
+                          }
+                          handle.pageOpen = false;
+                          return true;
+                      });
+}
+
+BOOL WINAPI EndDocPrinter(HANDLE hPrinter)
+{
+    return inDocument(hPrinter, Function::EndDocPrinter, {text(hPrinter)},
+                      [](PrinterHandleObject& handle, PrintJob& /*job*/) {
+                          endDocument(handle);
+                          return true;
+                      });
+}
