@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include "Logger.h"
+
+#include <QtCore/QMutex>
+
+#include <atomic>
+
+/// A place that records go to. Records of several threads reach it one at a time.
+class CUTELOGGERSHARED_EXPORT AbstractAppender
+{
+public:
+    AbstractAppender();
+    virtual ~AbstractAppender();
+    Q_DISABLE_COPY_MOVE(AbstractAppender)
+
+    /// The least level that is taken; `Debug` unless set.
+    Logger::LogLevel detailsLevel() const;
+    void setDetailsLevel(Logger::LogLevel level);
+    void setDetailsLevel(const QString& level);
+
+    /// Appends the record if its level is high enough.
+    void write(const QDateTime& timeStamp, Logger::LogLevel logLevel, const char* file, int line,
+               const char* function, const QString& category, const QString& message);
+
+protected:
+    virtual void append(const QDateTime& timeStamp, Logger::LogLevel logLevel, const char* file,
+                        int line, const char* function, const QString& category,
+                        const QString& message) = 0;
+
+    /// The record as the appenders of this library write it, with its line end.
+    static QString formatted(const QDateTime& timeStamp, Logger::LogLevel logLevel,
+                             const char* file, int line, const char* function,
+                             const QString& category, const QString& message);
+
+private:
+    std::atomic<Logger::LogLevel> m_detailsLevel = Logger::Debug;
+    QMutex m_mutex;
+};

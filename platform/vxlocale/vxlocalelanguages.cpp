@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "vxlocalelanguages.h"
+
+#include <QtCore/QLocale>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace {
+
+struct Language
+{
+    QLocale::Language language;
+    QLocale::Script script; ///< `AnyScript` where the language is one, however it is written.
+    qint32 id;
+};
+
+constexpr qint32 English = 0;
+
+constexpr std::array Languages{
+    Language{QLocale::English, QLocale::AnyScript, English},
+    Language{QLocale::German, QLocale::AnyScript, 1},
+    Language{QLocale::French, QLocale::AnyScript, 2},
+    Language{QLocale::Spanish, QLocale::AnyScript, 3},
+    Language{QLocale::Japanese, QLocale::AnyScript, 4},
+    Language{QLocale::Italian, QLocale::AnyScript, 5},
+    Language{QLocale::Chinese, QLocale::SimplifiedHanScript, 6},
+    Language{QLocale::Portuguese, QLocale::AnyScript, 7},
+    Language{QLocale::Dutch, QLocale::AnyScript, 8},
+    Language{QLocale::Polish, QLocale::AnyScript, 9},
+    Language{QLocale::Korean, QLocale::AnyScript, 10},
+    Language{QLocale::Chinese, QLocale::TraditionalHanScript, 11},
+};
+
+std::optional<qint32> listedId(const QString& localeName)
+{
+    const QLocale locale(localeName);
+    const auto found = std::ranges::find_if(Languages, [&locale](const Language& candidate) {
+        return candidate.language == locale.language() &&
+               (candidate.script == QLocale::AnyScript || candidate.script == locale.script());
+    });
+    if (found == Languages.end())
+        return std::nullopt;
+    return found->id;
+}
+
+} // namespace
+
+VXLocaleLanguages::VXLocaleLanguages(QObject* parent)
+    : QObject(parent)
+{}
+
+VXLocaleLanguages::~VXLocaleLanguages() = default;
+
+qint32 VXLocaleLanguages::getCurrentLanguageId() const
+{
+    return languageId(QLocale::system().uiLanguages());
+}
+
+qint32 VXLocaleLanguages::languageId(const QStringList& localeNames)
+{
+    for (const QString& name : localeNames) {
+        if (const std::optional<qint32> id = listedId(name))
+            return *id;
+    }
+    return English;
+}

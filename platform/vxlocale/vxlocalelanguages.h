@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtCore/QStringList>
+
+/// The languages that names in the supply database can be had in, by their numbers.
+///
+/// | id | language | id | language |
+/// |---|---|---|---|
+/// | 0 | English, and every language not listed | 6 | Chinese, simplified |
+/// | 1 | German | 7 | Portuguese |
+/// | 2 | French | 8 | Dutch |
+/// | 3 | Spanish | 9 | Polish |
+/// | 4 | Japanese | 10 | Korean |
+/// | 5 | Italian | 11 | Chinese, traditional |
+///
+/// The numbers are stored in databases and never change; new languages are added at the end. A
+/// database need not have names in each of them.
+class VXLocaleLanguages : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit VXLocaleLanguages(QObject* parent = nullptr);
+    ~VXLocaleLanguages() override;
+
+    /// The number of the language that the user of the running system reads: the first listed one
+    /// among those that the system's locale names, in the user's order of preference.
+    qint32 getCurrentLanguageId() const;
+
+    /// The number of the first listed language among locale names such as "de-CH" or "zh_TW"; 0
+    /// when none of them is listed.
+    static qint32 languageId(const QStringList& localeNames);
+};
