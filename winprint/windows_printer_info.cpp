@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "windows_printer_info.h"
+
+#include "device_serial_numbers.h"
+#include "log_lines.h"
+#include "printer_serial_file.h"
+#include "spooler_block.h"
+#include "wide_text.h"
+#include "windows_handles.h"
+
+#include <windowserrors.h>
+
+#include <QtCore/QDebug>
+
+#include <algorithm>
+#include <memory>
+#include <span>
+#include <stdexcept>
+
+using VXPrinting::PrinterType;
+
+namespace {
+
+constexpr QLatin1String brandPrefix("Stratamark ");
+constexpr QLatin1String makerPrefix("Harlow Devices ");
+
+struct Model
+{
+    QLatin1String name;
+    PrinterType type;
+};
+constexpr Model models[] = {
+    {QLatin1String("Alder"), PrinterType::Alder},
+    {QLatin1String("AlderMax"), PrinterType::AlderMax},
+    {QLatin1String("BirchMax"), PrinterType::BirchMax},
+    {QLatin1String("CedarMax"), PrinterType::CedarMax},
+};
+
+constexpr int partsOfAnIpv4Address = 4;
+
+bool isOffline(const PRINTER_INFO_2W& info)
+{
+    return (info.Attributes & PRINTER_ATTRIBUTE_WORK_OFFLINE) ||
+           (info.Status & PRINTER_STATUS_OFFLINE);
+}
+
+/// What is asked once for a whole enumeration.
+struct Lookups
+{
+    DeviceSerialNumbers serialNumbers;
+    PrinterSerialFile serialFile;
+
+    QString serialNumberOnPort(unsigned short port)
+    {
+        const DeviceSerialNumbers::Answer answer = serialNumbers.onPort(port);
+        if (answer.onPort)
+            serialFile.record(answer.serialNumber);
+        return answer.serialNumber;
+    }
+};
+
+/// Everything of a record that follows from the port and the flags; `portName` holds the spooler's
+/// name of the port.
+void fillFromPortAndFlags(AvailablePrinters& printer, const PRINTER_INFO_2W& info, Lookups& lookups)
+{
+    printer.portName.remove(QLatin1String("USB"));
+    printer.serialNumber =
+        lookups.serialNumberOnPort(static_cast<unsigned short>(printer.portName.toUInt()));
+
+    constexpr DWORD reach = PRINTER_ATTRIBUTE_NETWORK | PRINTER_ATTRIBUTE_LOCAL;
+    printer.isNetworkPrinter =
+        (info.Attributes & reach) != PRINTER_ATTRIBUTE_LOCAL ||
+        printer.portName.split(QLatin1Char('.')).size() == partsOfAnIpv4Address;
+    printer.isShared = (info.Attributes & PRINTER_ATTRIBUTE_SHARED) != 0;
+    printer.isOffline = isOffline(info);
+}
+
+QString requiredText(const WCHAR* text, const char* what)
+{
+    if (!text)
+        throw std::logic_error(std::string("the print spooler lists a printer without a ") + what);
+    return fromWide(text);
+}
+
+/// Code and text of a Windows error as the log shows them.
+void streamError(QDebug& stream, DWORD error)
+{
+    stream << error << WindowsErrors::winError(error);
+}
+
+} // namespace
+
+PRINTER_INFO_2W* WindowsPrinterInfo::getPrinterInfo2(HANDLE printer)
+{
+    DWORD needed = 0;
+    if (!GetPrinterW(printer, 2, nullptr, 0, &needed)) {
+        const DWORD error = GetLastError();
+        if (error != ERROR_INSUFFICIENT_BUFFER) {
+            log_lines::stream(log_lines::printerInfoSizing,
+                              [&](QDebug& line) { streamError(line, error); });
+            return nullptr;
+        }
+    }
+
+    SpoolerBlock block(std::max<DWORD>(needed, sizeof(PRINTER_INFO_2W)));
+    if (block.isNull()) {
+        log_lines::stream(log_lines::printerInfoMemory,
+                          [](QDebug& line) { line << "Failure to allocate memory."; });
+        return nullptr;
+    }
+
+    if (!GetPrinterW(printer, 2, block.bytes(), block.size(), &needed)) {
+        const DWORD error = GetLastError();
+        log_lines::stream(log_lines::printerInfoReading, [&](QDebug& line) {
+            line << "Failure to access the printer ";
+            streamError(line, error);
+        });
+        return nullptr;
+    }
+    return block.release<PRINTER_INFO_2W>();
+}
+
+bool WindowsPrinterInfo::isPrinterOffline(PRINTER_INFO_2W* info)
+{
+    return isOffline(*info);
+}
+
+bool WindowsPrinterInfo::isPrinterOffline(HANDLE printer)
+{
+    const std::unique_ptr<PRINTER_INFO_2W, decltype(&std::free)> info(getPrinterInfo2(printer),
+                                                                      &std::free);
+    return !info || isOffline(*info);
+}
+
+bool WindowsPrinterInfo::isPrinterOffline(const QString& printerName)
+{
+    const PrinterHandle printer = openPrinter(printerName);
+    return !printer.isValid() || isPrinterOffline(printer.get());
+}
+
+QString WindowsPrinterInfo::getDefaultPrinterName()
+{
+    DWORD length = 0;
+    GetDefaultPrinterW(nullptr, &length);
+    if (length == 0)
+        return {};
+
+    const auto name = std::make_unique<WCHAR[]>(length);
+    if (!GetDefaultPrinterW(name.get(), &length))
+        return {};
+    return fromWide(name.get());
+}
+
+bool WindowsPrinterInfo::isPrinterAdmin(const QString& printerName)
+{
+    return openPrinterForAdministration(printerName).isValid();
+}
+
+PrinterType WindowsPrinterInfo::printerType(const QString& name)
+{
+    if (name.startsWith(brandPrefix, Qt::CaseInsensitive)) {
+        const QStringView model = QStringView(name).sliced(brandPrefix.size());
+        for (const Model& known : models) {
+            if (model.compare(known.name, Qt::CaseInsensitive) == 0)
+                return known.type;
+        }
+        return PrinterType::Generic;
+    }
+    if (name.startsWith(makerPrefix, Qt::CaseInsensitive))
+        return PrinterType::Generic;
+    return PrinterType::Unknown;
+}
+
+QList<AvailablePrinters> WindowsPrinterInfo::getAvailablePrinters()
+{
+    constexpr DWORD kinds = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
+    DWORD needed = 0;
+    DWORD count = 0;
+    EnumPrintersW(kinds, nullptr, 2, nullptr, 0, &needed, &count);
+
+    const SpoolerBlock block(needed);
+    if (block.isNull() ||
+        !EnumPrintersW(kinds, nullptr, 2, block.bytes(), block.size(), &needed, &count) ||
+        count == 0)
+        return {};
+
+    QList<AvailablePrinters> printers;
+    printers.reserve(count);
+    Lookups lookups;
+    for (const PRINTER_INFO_2W& info : std::span(block.as<PRINTER_INFO_2W>(), count)) {
+        AvailablePrinters printer;
+        printer.printerName = requiredText(info.pPrinterName, "name");
+        printer.portName = requiredText(info.pPortName, "port");
+        printer.driverName = requiredText(info.pDriverName, "driver");
+        fillFromPortAndFlags(printer, info, lookups);
+        printers.append(printer);
+    }
+    return printers;
+}
+
+AvailablePrinters WindowsPrinterInfo::getAvailablePrinterInfo(const QString& printerName)
+{
+    AvailablePrinters printer;
+    printer.printerName = printerName;
+
+    const PrinterHandle handle = openPrinter(printerName);
+    if (!handle.isValid())
+        return printer;
+    const std::unique_ptr<PRINTER_INFO_2W, decltype(&std::free)> info(getPrinterInfo2(handle.get()),
+                                                                      &std::free);
+    if (!info)
+        return printer;
+
+    printer.portName = fromWide(info->pPortName);
+    printer.driverName = fromWide(info->pDriverName);
+    Lookups lookups;
+    fillFromPortAndFlags(printer, *info, lookups);
+    return printer;
+}
+
+QString WindowsPrinterInfo::getDriverGUID()
+{
+    return DeviceSerialNumbers::driverGuid();
+}
+
+QString WindowsPrinterInfo::getDeviceSerialNumber(unsigned short port)
+{
+    return Lookups().serialNumberOnPort(port);
+}
+
+void WindowsPrinterInfo::addPrinterSerialToIniFile(const QString& serialNumber)
+{
+    PrinterSerialFile().record(serialNumber);
+}

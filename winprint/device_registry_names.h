@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include <QtCore/QLatin1String>
+
+namespace device_registry {
+
+/// Control set 001 itself, not the current one: it is where the maker's driver is looked for.
+inline constexpr QLatin1String
+    deviceClassesKey("HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control\\DeviceClasses\\");
+inline constexpr QLatin1String parametersSuffix("\\#\\Device Parameters");
+inline constexpr QLatin1String portNumberValue("Port Number");
+inline constexpr QLatin1String serialNumberValue("Serial Number");
+
+} // namespace device_registry
