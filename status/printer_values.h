@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include <QtCore/QString>
+
+#include <limits>
+
+#include <windows.h>
+
+/// The values that the maker's driver publishes for each printer, and how each is read. What is
+/// written here is the driver's side of the bargain: names, sizes and limits are not ours to even
+/// out.
+namespace printer_values {
+
+struct TextValue
+{
+    const char* name;
+    DWORD capacity;   ///< bytes offered
+    DWORD leastBytes; ///< what the spooler says the value takes must lie between these two
+    DWORD mostBytes;
+};
+
+struct NumberValue
+{
+    const char* name;
+    LONG ceiling; ///< a larger number, read as signed, is not plausible
+};
+
+inline constexpr DWORD anySize = std::numeric_limits<DWORD>::max();
+inline constexpr LONG noCeiling = std::numeric_limits<LONG>::max();
+
+inline constexpr TextValue supplyId{"SupplyIdentifier", 21, 21, 21};
+inline constexpr TextValue statusCode{"StatusCode", 128, 0, 128};
+inline constexpr TextValue softwareVersion{"SoftwareVersion", 37, 0, anySize};
+inline constexpr TextValue ethernetConfig{"EthernetConfig", 74, 0, anySize};
+inline constexpr DWORD largestCapacity = statusCode.capacity;
+
+inline constexpr NumberValue ribbon1Id{"Ribbon1Identifier", 100000};
+inline constexpr NumberValue ribbon2Id{"Ribbon2Identifier", 100000};
+// The supply's mileage has no prefix while the ribbons' have, and the three ceilings differ: rolls
+// and ribbons are of different lengths.
+inline constexpr NumberValue supplyMileage{"Mileage", 152400};
+inline constexpr NumberValue ribbon1Mileage{"Ribbon1Mileage", 130000};
+inline constexpr NumberValue ribbon2Mileage{"Ribbon2Mileage", 120700};
+inline constexpr NumberValue updateProgress{"UpdateProgress", noCeiling};
+inline constexpr NumberValue updateError{"UpdateError", noCeiling};
+
+/// The value's text up to its first zero; empty when it is absent, of another type or out of
+/// bounds.
+QString read(HANDLE printer, const TextValue& value);
+
+/// The value as unsigned decimal text; empty when it is absent, of another type or not plausible.
+QString read(HANDLE printer, const NumberValue& value);
+
+} // namespace printer_values
