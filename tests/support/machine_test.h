@@ -10,8 +10,8 @@
 /// Base of every test that runs on the virtual Windows.
 ///
 /// Each test function gets a machine as new and a settings folder of its own. After it, the ledger
-/// of handles is settled: a handle that leaked or was misused fails the function that did it. A test
-/// whose subject is a call on a dead handle names it with allowMisuse().
+/// of handles is settled: a handle that leaked or was misused fails the function that did it. A
+/// test whose subject is a call on a dead handle names it with allowMisuse().
 ///
 /// A derived class that needs an init() or cleanup() of its own overrides these and calls them.
 class MachineTest : public QObject
@@ -27,7 +27,7 @@ protected:
     /// One misuse of that kind by that function is what this test is about; it must then happen.
     void allowMisuse(Kind kind, const QString& function);
 
-private Q_SLOTS:
+protected Q_SLOTS:
     virtual void init();
     virtual void cleanup();
 
