@@ -1,0 +1,494 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// What a monitoring thread reads, in what order, and what it reports of it.
+#include "thread_test.h"
+
+#include <QtCore/QMetaMethod>
+
+namespace {
+
+const QStringList valuesInReadingOrder{
+    QStringLiteral("SupplyIdentifier"),  QStringLiteral("Ribbon1Identifier"),
+    QStringLiteral("Ribbon2Identifier"), QStringLiteral("StatusCode"),
+    QStringLiteral("SoftwareVersion"),   QStringLiteral("EthernetConfig"),
+    QStringLiteral("Mileage"),           QStringLiteral("Ribbon1Mileage"),
+    QStringLiteral("Ribbon2Mileage"),    QStringLiteral("UpdateProgress"),
+    QStringLiteral("UpdateError"),
+};
+
+/// The calls of one read of the printer, without the handles.
+QStringList oneRead()
+{
+    QStringList calls;
+    for (const QString& value : valuesInReadingOrder)
+        calls.append(QStringLiteral("GetPrinterDataA ") + value);
+    return calls << QStringLiteral("GetPrinterW 1") << QStringLiteral("GetPrinterW 1");
+}
+
+/// Calls as "function argument": the value's name of a reading, the level of a record.
+QStringList outline(const QList<Call>& calls)
+{
+    QStringList lines;
+    for (const Call& call : calls) {
+        const bool isRead = call.function.startsWith(QLatin1String("GetPrinter"));
+        lines.append(isRead ? call.function + QLatin1Char(' ') + call.arguments.at(1)
+                            : call.function);
+    }
+    return lines;
+}
+
+} // namespace
+
+class PrinterStatusThreadTest : public ThreadTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void signalsOfTheMetaObject();
+    void firstReadReportsEverythingInOrder();
+    void firstReadOfASilentPrinterReportsItsName();
+    void startAndFirstReadCallInOrder();
+    void startAndFirstReadCallWithTheseArguments();
+    void notificationReadsThroughTheOpenHandle();
+    void notificationThatChangesNothing();
+    void valueThatChangesAlone_data();
+    void valueThatChangesAlone();
+    void valueThatDisappears();
+    void everyValueChangesAtOnce();
+    void onlyRibbon2Changes();
+    void onlyRibbon1Changes();
+    void bothRibbonsChange();
+    void changeOfLetterCaseIsAChange();
+    void renamedPrinterKeepsItsDashboardName();
+    void changeBetweenWakeUpAndReArmingIsNotLost();
+    void unreadablePrinterIsReadThroughAFreshHandle();
+    void statusLike255IsNotUnreadable_data();
+    void statusLike255IsNotUnreadable();
+    void unreadablePrinterWithoutFullAccess();
+    void printerNameOutsideOfLatin1();
+    void nameIsTakenAtTheMomentOfEachReport();
+    void oneThreadReportsOnItsOwnThread();
+};
+
+void PrinterStatusThreadTest::signalsOfTheMetaObject()
+{
+    const QMetaObject& meta = PrinterStatusThread::staticMetaObject;
+    QStringList declared;
+    for (int index = meta.methodOffset(); index < meta.methodCount(); ++index) {
+        const QMetaMethod method = meta.method(index);
+        const QByteArray kind = method.methodType() == QMetaMethod::Signal ? "signal " : "slot ";
+        declared.append(QString::fromLatin1(kind + method.methodSignature() + ' ' +
+                                            method.parameterNames().join(' ')));
+    }
+    const auto valueSignal = [](const char* name, const char* argument) {
+        return QStringLiteral("signal %1(QString,QString) dashboardPrinterName %2")
+            .arg(QLatin1String(name), QLatin1String(argument));
+    };
+    const QStringList expected{
+        valueSignal("supplyIdChanged", "newId"),
+        QStringLiteral("signal ribbonIdsChanged(QString,QStringList) dashboardPrinterName newIds"),
+        valueSignal("printerStatusChanged", "newStatus"),
+        valueSignal("supplyIntMileageChanged", "newMileage"),
+        valueSignal("ribbon1IntMileageChanged", "newMileage"),
+        valueSignal("ribbon2IntMileageChanged", "newMileage"),
+        valueSignal("printerNameChangedSignal", "newName"),
+        valueSignal("softwareVersionChanged", "newVersion"),
+        valueSignal("updateProgressChanged", "newProgress"),
+        valueSignal("updateErrorChanged", "newError"),
+        valueSignal("ethernetConfigChanged", "newEthernetConfig"),
+        QStringLiteral("slot stop() "),
+    };
+    QCOMPARE(declared, expected);
+    QCOMPARE(meta.superClass(), &QThread::staticMetaObject);
+}
+
+void PrinterStatusThreadTest::firstReadReportsEverythingInOrder()
+{
+    machine().publish(labelPrinter, everyValue());
+    watch();
+
+    const QList<Report> expected{
+        status("1"),
+        report("supplyIdChanged", QString::fromLatin1(supplyIdentifier('1'))),
+        {QStringLiteral("ribbonIdsChanged"),
+         labelPrinter,
+         {QStringLiteral("101"), QStringLiteral("102")}},
+        report("supplyIntMileageChanged", QStringLiteral("103")),
+        report("ribbon1IntMileageChanged", QStringLiteral("104")),
+        report("ribbon2IntMileageChanged", QStringLiteral("105")),
+        report("printerNameChangedSignal", labelPrinter),
+        report("softwareVersionChanged", QStringLiteral("version 1")),
+        report("ethernetConfigChanged", QStringLiteral("network 1")),
+        report("updateProgressChanged", QStringLiteral("106")),
+        report("updateErrorChanged", QStringLiteral("107")),
+    };
+    QCOMPARE(takeReports(), expected);
+    QVERIFY(logged().isEmpty());
+}
+
+void PrinterStatusThreadTest::firstReadOfASilentPrinterReportsItsName()
+{
+    watch();
+    QCOMPARE(takeReports(), QList<Report>{report("printerNameChangedSignal", labelPrinter)});
+}
+
+void PrinterStatusThreadTest::startAndFirstReadCallInOrder()
+{
+    machine().recordCalls();
+    watch();
+
+    const QStringList expected =
+        QStringList{QStringLiteral("OpenPrinterA"),
+                    QStringLiteral("FindFirstPrinterChangeNotification"),
+                    QStringLiteral("OpenPrinterA")}
+        << oneRead()
+        << QStringList{
+               QStringLiteral("ClosePrinter"),       QStringLiteral("CreateEventW"),
+               QStringLiteral("OpenSCManagerW"),     QStringLiteral("OpenServiceW"),
+               QStringLiteral("QueryServiceStatus"), QStringLiteral("WaitForMultipleObjects")};
+    QCOMPARE(outline(machine().calls()), expected);
+}
+
+void PrinterStatusThreadTest::startAndFirstReadCallWithTheseArguments()
+{
+    machine().recordCalls();
+    watch();
+
+    const QList<Call> opened = machine().calls(QStringLiteral("OpenPrinterA"));
+    QCOMPARE(opened.at(0).arguments, (QStringList{labelPrinter, QStringLiteral("0")}));
+    QCOMPARE(opened.at(1).arguments, (QStringList{labelPrinter, QString::number(0x000F000C)}));
+
+    const QStringList asked = lastCall("FindFirstPrinterChangeNotification").arguments;
+    QCOMPARE(asked.mid(1), (QStringList{QString::number(0x7777FFFF), QStringLiteral("0"),
+                                        QStringLiteral("0x0")}));
+    const QString printer = asked.first();
+
+    // The first read goes through the handle with full access, which is closed after it.
+    const QString fullAccess =
+        machine().calls(QStringLiteral("GetPrinterDataA")).first().arguments.first();
+    QVERIFY(fullAccess != printer);
+    QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{fullAccess});
+
+    QCOMPARE(lastCall("CreateEventW").arguments,
+             (QStringList{QStringLiteral("1"), QStringLiteral("0"), QStringLiteral("null")}));
+    QCOMPARE(lastCall("OpenSCManagerW").arguments,
+             (QStringList{QStringLiteral("null"), QStringLiteral("null"), QStringLiteral("0")}));
+    QCOMPARE(lastCall("OpenServiceW").arguments.mid(1),
+             (QStringList{QStringLiteral("Spooler"), QStringLiteral("4")}));
+
+    const QStringList waited = lastCall("WaitForMultipleObjects").arguments;
+    QCOMPARE(waited.size(), 5);
+    QCOMPARE(waited.at(0), QStringLiteral("2"));
+    QCOMPARE(waited.mid(3), (QStringList{QStringLiteral("0"), QStringLiteral("5000")}));
+}
+
+void PrinterStatusThreadTest::notificationReadsThroughTheOpenHandle()
+{
+    machine().recordCalls();
+    watch();
+    const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
+    const QString change = lastCall("WaitForMultipleObjects").arguments.at(2);
+    machine().clearCalls();
+
+    publish(PrinterValue::text("StatusCode", "1"));
+
+    QCOMPARE(outline(machine().calls()),
+             QStringList{QStringLiteral("FindNextPrinterChangeNotification")}
+                 << oneRead() << QStringLiteral("WaitForMultipleObjects"));
+    QCOMPARE(lastCall("FindNextPrinterChangeNotification").arguments,
+             (QStringList{change, QStringLiteral("0x0"), QStringLiteral("0x0")}));
+    for (const char* function : {"GetPrinterDataA", "GetPrinterW"}) {
+        const QList<Call> reads = machine().calls(QString::fromLatin1(function));
+        for (const Call& read : reads)
+            QCOMPARE(read.arguments.first(), printer);
+    }
+    QCOMPARE(takeReports().last(), status("1"));
+}
+
+void PrinterStatusThreadTest::notificationThatChangesNothing()
+{
+    machine().publish(labelPrinter, everyValue());
+    watch();
+    takeReports();
+
+    machine().notify(labelPrinter, 0x2);
+    settle();
+    machine().publish(labelPrinter, everyValue());
+    settle();
+    QCOMPARE(takeReports(), QList<Report>());
+    QCOMPARE(machine().callCount(QStringLiteral("FindNextPrinterChangeNotification")), 2);
+}
+
+void PrinterStatusThreadTest::valueThatChangesAlone_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("signal");
+    QTest::addColumn<QStringList>("values");
+
+    const auto row = [](int index, const char* signal, const QStringList& values) {
+        QTest::newRow(signal) << index << QString::fromLatin1(signal) << values;
+    };
+    row(0, "supplyIdChanged", {QString::fromLatin1(supplyIdentifier('2'))});
+    row(3, "printerStatusChanged", {QStringLiteral("2")});
+    row(4, "softwareVersionChanged", {QStringLiteral("version 2")});
+    row(5, "ethernetConfigChanged", {QStringLiteral("network 2")});
+    row(6, "supplyIntMileageChanged", {QStringLiteral("203")});
+    row(7, "ribbon1IntMileageChanged", {QStringLiteral("204")});
+    row(8, "ribbon2IntMileageChanged", {QStringLiteral("205")});
+    row(9, "updateProgressChanged", {QStringLiteral("206")});
+    row(10, "updateErrorChanged", {QStringLiteral("207")});
+}
+
+void PrinterStatusThreadTest::valueThatChangesAlone()
+{
+    QFETCH(const int, index);
+    QFETCH(const QString, signal);
+    QFETCH(const QStringList, values);
+
+    machine().publish(labelPrinter, everyValue());
+    watch();
+    takeReports();
+
+    publish(everyValue('2').at(index));
+    QCOMPARE(takeReports(), (QList<Report>{{signal, labelPrinter, values}}));
+    publish(everyValue('2').at(index));
+    QCOMPARE(takeReports(), QList<Report>());
+}
+
+void PrinterStatusThreadTest::valueThatDisappears()
+{
+    machine().publish(labelPrinter, everyValue());
+    watch();
+    takeReports();
+
+    machine().unpublish(labelPrinter, "Mileage");
+    settle();
+    QCOMPARE(takeReports(), QList<Report>{report("supplyIntMileageChanged", {})});
+
+    // Neither is a number that is not plausible.
+    publish(PrinterValue::number("Ribbon1Identifier", 100001));
+    QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("ribbonIdsChanged"),
+                                            labelPrinter,
+                                            {QString(), QStringLiteral("102")}}}));
+}
+
+void PrinterStatusThreadTest::everyValueChangesAtOnce()
+{
+    machine().publish(labelPrinter, everyValue());
+    watch();
+    takeReports();
+
+    machine().publish(labelPrinter, everyValue('2'));
+    settle();
+    QStringList order;
+    const QList<Report> reports = takeReports();
+    for (const Report& report : reports)
+        order.append(report.signal);
+    QCOMPARE(order, (QStringList{
+                        QStringLiteral("printerStatusChanged"),
+                        QStringLiteral("supplyIdChanged"),
+                        QStringLiteral("ribbonIdsChanged"),
+                        QStringLiteral("supplyIntMileageChanged"),
+                        QStringLiteral("ribbon1IntMileageChanged"),
+                        QStringLiteral("ribbon2IntMileageChanged"),
+                        QStringLiteral("softwareVersionChanged"),
+                        QStringLiteral("ethernetConfigChanged"),
+                        QStringLiteral("updateProgressChanged"),
+                        QStringLiteral("updateErrorChanged"),
+                    }));
+}
+
+void PrinterStatusThreadTest::onlyRibbon2Changes()
+{
+    machine().publish(labelPrinter, everyValue());
+    watch();
+    takeReports();
+
+    publish(PrinterValue::number("Ribbon2Identifier", 77));
+    QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("ribbonIdsChanged"),
+                                            labelPrinter,
+                                            {QStringLiteral("101"), QStringLiteral("77")}}}));
+    publish(PrinterValue::number("Ribbon2Identifier", 77));
+    QCOMPARE(takeReports(), QList<Report>());
+}
+
+void PrinterStatusThreadTest::onlyRibbon1Changes()
+{
+    machine().publish(labelPrinter, everyValue());
+    watch();
+    takeReports();
+
+    publish(PrinterValue::number("Ribbon1Identifier", 77));
+    QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("ribbonIdsChanged"),
+                                            labelPrinter,
+                                            {QStringLiteral("77"), QStringLiteral("102")}}}));
+    publish(PrinterValue::number("Ribbon1Identifier", 77));
+    QCOMPARE(takeReports(), QList<Report>());
+}
+
+void PrinterStatusThreadTest::bothRibbonsChange()
+{
+    machine().publish(labelPrinter, everyValue());
+    watch();
+    takeReports();
+
+    machine().publish(labelPrinter, {PrinterValue::number("Ribbon1Identifier", 7),
+                                     PrinterValue::number("Ribbon2Identifier", 8)});
+    settle();
+    QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("ribbonIdsChanged"),
+                                            labelPrinter,
+                                            {QStringLiteral("7"), QStringLiteral("8")}}}));
+}
+
+void PrinterStatusThreadTest::changeOfLetterCaseIsAChange()
+{
+    machine().publish(labelPrinter, PrinterValue::text("SoftwareVersion", "boot"));
+    watch();
+    takeReports();
+    publish(PrinterValue::text("SoftwareVersion", "BOOT"));
+    QCOMPARE(takeReports(),
+             QList<Report>{report("softwareVersionChanged", QStringLiteral("BOOT"))});
+}
+
+void PrinterStatusThreadTest::renamedPrinterKeepsItsDashboardName()
+{
+    watch();
+    takeReports();
+    const QString newName = QStringLiteral("Renamed Printer");
+    machine().renamePrinter(labelPrinter, newName);
+    settle();
+    QCOMPARE(takeReports(), QList<Report>{report("printerNameChangedSignal", newName)});
+
+    machine().publish(newName, PrinterValue::text("StatusCode", "5"));
+    settle();
+    QCOMPARE(takeReports(), QList<Report>{status("5")});
+}
+
+void PrinterStatusThreadTest::changeBetweenWakeUpAndReArmingIsNotLost()
+{
+    watch();
+    takeReports();
+    // As the thread, woken by the first value, goes to re-arm, the second one is published.
+    bool isSecondPublished = false;
+    machine().setCallHook([&](const Call& call) {
+        if (isSecondPublished ||
+            call.function != QLatin1String("FindNextPrinterChangeNotification"))
+            return;
+        isSecondPublished = true;
+        machine().publish(labelPrinter, PrinterValue::text("StatusCode", "2"));
+    });
+    publish(PrinterValue::text("StatusCode", "1"));
+    QCOMPARE(takeReports(), QList<Report>{status("2")});
+
+    // And one after the re-arming, while the values are being read.
+    bool isThirdPublished = false;
+    machine().setCallHook([&](const Call& call) {
+        if (isThirdPublished || call.function != QLatin1String("GetPrinterW"))
+            return;
+        isThirdPublished = true;
+        machine().publish(labelPrinter, PrinterValue::text("StatusCode", "4"));
+    });
+    publish(PrinterValue::text("StatusCode", "3"));
+    QCOMPARE(takeReports(), (QList<Report>{status("3"), status("4")}));
+}
+
+void PrinterStatusThreadTest::unreadablePrinterIsReadThroughAFreshHandle()
+{
+    machine().publish(labelPrinter, PrinterValue::text("StatusCode", "255"));
+    watch();
+    QCOMPARE(takeReports().first(), status("255"));
+    machine().recordCalls();
+
+    publish(PrinterValue::text("StatusCode", "1"));
+    QCOMPARE(takeReports(), QList<Report>{status("1")});
+    const QStringList expected =
+        QStringList{QStringLiteral("FindNextPrinterChangeNotification"),
+                    QStringLiteral("OpenPrinterA")}
+        << oneRead()
+        << QStringList{QStringLiteral("ClosePrinter"), QStringLiteral("WaitForMultipleObjects")};
+    QCOMPARE(outline(machine().calls()), expected);
+    QCOMPARE(lastCall("OpenPrinterA").arguments,
+             (QStringList{labelPrinter, QString::number(0x000F000C)}));
+    QCOMPARE(lastCall("ClosePrinter").arguments.first(),
+             lastCall("GetPrinterDataA").arguments.first());
+
+    // Readable again: the next one goes through the handle that stays open.
+    machine().clearCalls();
+    publish(PrinterValue::text("StatusCode", "2"));
+    QVERIFY(!functionsCalled().contains(QStringLiteral("OpenPrinterA")));
+}
+
+void PrinterStatusThreadTest::statusLike255IsNotUnreadable_data()
+{
+    QTest::addColumn<QByteArray>("code");
+    for (const char* code : {"0255", "255 ", "25", "254", "2550"})
+        QTest::newRow(code) << QByteArray(code);
+}
+
+void PrinterStatusThreadTest::statusLike255IsNotUnreadable()
+{
+    QFETCH(const QByteArray, code);
+    machine().publish(labelPrinter, PrinterValue::text("StatusCode", code));
+    watch();
+    machine().recordCalls();
+    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(!functionsCalled().contains(QStringLiteral("OpenPrinterA")));
+}
+
+void PrinterStatusThreadTest::unreadablePrinterWithoutFullAccess()
+{
+    machine().publish(labelPrinter, PrinterValue::text("StatusCode", "255"));
+    watch();
+    takeReports();
+    machine().recordCalls();
+    machine().setAdministrable(labelPrinter, false);
+    settle();
+
+    // It is read through the handle at hand, which is not closed for that.
+    publish(PrinterValue::text("StatusCode", "1"));
+    QCOMPARE(takeReports(), QList<Report>{status("1")});
+    QVERIFY(!functionsCalled().contains(QStringLiteral("ClosePrinter")));
+}
+
+void PrinterStatusThreadTest::printerNameOutsideOfLatin1()
+{
+    const QString name = QStringLiteral("Étiquettes 日本 №1");
+    machine().addPrinter({.name = name, .driver = QStringLiteral("Stratamark Alder")});
+    thread().setMonitoredPrinterName(name);
+    watch();
+    QCOMPARE(takeReports(),
+             (QList<Report>{{QStringLiteral("printerNameChangedSignal"), name, {name}}}));
+}
+
+void PrinterStatusThreadTest::nameIsTakenAtTheMomentOfEachReport()
+{
+    watch();
+    takeReports();
+    // Set while the thread is held at the reading, so that no lock is needed to be sure of the
+    // order.
+    machine().setCallHook([&](const Call& call) {
+        if (call.function == QLatin1String("GetPrinterW"))
+            thread().setMonitoredPrinterName(QStringLiteral("Another Name"));
+    });
+    publish(PrinterValue::text("StatusCode", "6"));
+    QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("printerStatusChanged"),
+                                            QStringLiteral("Another Name"),
+                                            {QStringLiteral("6")}}}));
+}
+
+void PrinterStatusThreadTest::oneThreadReportsOnItsOwnThread()
+{
+    machine().recordCalls();
+    Qt::HANDLE reportingThread = nullptr;
+    connect(
+        &thread(), &PrinterStatusThread::printerNameChangedSignal, &thread(),
+        [&] { reportingThread = QThread::currentThreadId(); }, Qt::DirectConnection);
+    watch();
+    const QList<Call> calls = machine().calls();
+    for (const Call& call : calls)
+        QCOMPARE(call.thread, reportingThread);
+    QVERIFY(reportingThread != QThread::currentThreadId());
+}
+
+QTEST_GUILESS_MAIN(PrinterStatusThreadTest)
+#include "tst_printer_status_thread.moc"

@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// How a monitoring thread is brought to its end, whenever that comes.
+#include "thread_test.h"
+
+#include <QtCore/QSemaphore>
+
+#include <thread>
+
+namespace {
+
+QString name(const char* function)
+{
+    return QString::fromLatin1(function);
+}
+
+/// Holds whoever calls a function until it is let go.
+class HeldCall
+{
+public:
+    HeldCall(virtualwindows::Machine& machine, const char* function)
+    {
+        machine.setCallHook([this, function = name(function)](const Call& call) {
+            if (call.function != function)
+                return;
+            m_reached.release();
+            m_goOn.acquire();
+        });
+    }
+    bool waitUntilReached() { return m_reached.tryAcquire(1, 20000); }
+    void letGo() { m_goOn.release(1000); }
+
+private:
+    QSemaphore m_reached;
+    QSemaphore m_goOn;
+};
+
+} // namespace
+
+class PrinterStatusThreadEndTest : public ThreadTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void stopEndsAWaitAndClosesInOrder();
+    void stopOnlySignals();
+    void stopBeforeTheStartDoesNothing();
+    void stopBeforeTheEventExistsDoesNothing();
+    void stopTwice();
+    void stopWhileTheEventIsBeingClosed();
+    void stopAfterTheEnd();
+    void stopThatFailsCanBeRepeated();
+    void stopWhileTheSpoolerIsDown();
+    void stopWinsOverAPendingNotification();
+    void endsWhenTheEventCannotBeMade();
+    void canBeStartedAgain();
+    void stopsAndStartsAtRandomMoments();
+};
+
+void PrinterStatusThreadEndTest::stopEndsAWaitAndClosesInOrder()
+{
+    machine().recordCalls();
+    watch();
+    const QStringList waited = lastCall("WaitForMultipleObjects").arguments;
+    const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
+    machine().clearCalls();
+
+    thread().stop();
+    QVERIFY(thread().wait(20000));
+    QCOMPARE(functionsCalled(),
+             (QStringList{name("SetEvent"), name("CloseHandle"),
+                          name("FindClosePrinterChangeNotification"), name("ClosePrinter"),
+                          name("CloseServiceHandle"), name("CloseServiceHandle")}));
+    QCOMPARE(lastCall("SetEvent").arguments, QStringList{waited.at(1)});
+    QCOMPARE(lastCall("CloseHandle").arguments, QStringList{waited.at(1)});
+    QCOMPARE(lastCall("FindClosePrinterChangeNotification").arguments, QStringList{waited.at(2)});
+    QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
+    QCOMPARE(machine().openHandles(), 0);
+}
+
+void PrinterStatusThreadEndTest::stopOnlySignals()
+{
+    watch();
+    HeldCall closing(machine(), "CloseHandle");
+    thread().stop();
+    QVERIFY(closing.waitUntilReached());
+    QVERIFY(thread().isRunning());
+    closing.letGo();
+    QVERIFY(thread().wait(20000));
+}
+
+void PrinterStatusThreadEndTest::stopBeforeTheStartDoesNothing()
+{
+    thread().stop();
+    QCOMPARE(machine().callCount(name("SetEvent")), 0);
+    watch();
+    QVERIFY(thread().isRunning());
+}
+
+void PrinterStatusThreadEndTest::stopBeforeTheEventExistsDoesNothing()
+{
+    HeldCall creating(machine(), "CreateEventW");
+    thread().start();
+    QVERIFY(creating.waitUntilReached());
+    thread().stop();
+    QCOMPARE(machine().callCount(name("SetEvent")), 0);
+    creating.letGo();
+    QVERIFY(machine().waitForWaitingThreads(1));
+    QVERIFY(thread().isRunning());
+}
+
+void PrinterStatusThreadEndTest::stopTwice()
+{
+    watch();
+    thread().stop();
+    thread().stop();
+    QVERIFY(thread().wait(20000));
+    QCOMPARE(machine().callCount(name("SetEvent")), 1);
+}
+
+void PrinterStatusThreadEndTest::stopWhileTheEventIsBeingClosed()
+{
+    watch();
+    HeldCall closing(machine(), "FindClosePrinterChangeNotification");
+    thread().stop();
+    QVERIFY(closing.waitUntilReached());
+    // The event is closed by now: signalling it would be signalling whatever has its handle next.
+    thread().stop();
+    QCOMPARE(machine().callCount(name("SetEvent")), 1);
+    closing.letGo();
+    QVERIFY(thread().wait(20000));
+}
+
+void PrinterStatusThreadEndTest::stopAfterTheEnd()
+{
+    watch();
+    endThread();
+    const int signalled = machine().callCount(name("SetEvent"));
+    thread().stop();
+    QCOMPARE(machine().callCount(name("SetEvent")), signalled);
+}
+
+void PrinterStatusThreadEndTest::stopThatFailsCanBeRepeated()
+{
+    watch();
+    machine().failCall(name("SetEvent"), 1, ERROR_INVALID_HANDLE);
+    thread().stop();
+    QVERIFY(thread().isRunning());
+    thread().stop();
+    QVERIFY(thread().wait(20000));
+}
+
+void PrinterStatusThreadEndTest::stopWhileTheSpoolerIsDown()
+{
+    watch();
+    machine().stopSpooler();
+    pass(5000ms);
+    thread().stop();
+    QVERIFY(thread().wait(20000));
+}
+
+void PrinterStatusThreadEndTest::stopWinsOverAPendingNotification()
+{
+    watch();
+    takeReports();
+    // Both are signalled when the thread comes back to its wait.
+    HeldCall reading(machine(), "GetPrinterW");
+    machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
+    QVERIFY(reading.waitUntilReached());
+    machine().publish(labelPrinter, PrinterValue::text("StatusCode", "2"));
+    thread().stop();
+    reading.letGo();
+    QVERIFY(thread().wait(20000));
+    QCOMPARE(takeReports(), QList<Report>{status("1")});
+}
+
+void PrinterStatusThreadEndTest::endsWhenTheEventCannotBeMade()
+{
+    machine().failCall(name("CreateEventW"), 1, ERROR_NOT_ENOUGH_MEMORY);
+    thread().start();
+    QVERIFY(thread().wait(20000));
+    QCOMPARE(takeReports(), QList<Report>{report("printerNameChangedSignal", labelPrinter)});
+    QCOMPARE(machine().callCount(name("OpenSCManagerW")), 0);
+    QCOMPARE(machine().callCount(name("WaitForMultipleObjects")), 0);
+    QCOMPARE(machine().openHandles(), 0);
+}
+
+void PrinterStatusThreadEndTest::canBeStartedAgain()
+{
+    watch();
+    endThread();
+    takeReports();
+    // What was seen before is forgotten.
+    watch();
+    QCOMPARE(takeReports(), QList<Report>{report("printerNameChangedSignal", labelPrinter)});
+}
+
+void PrinterStatusThreadEndTest::stopsAndStartsAtRandomMoments()
+{
+    machine().driveTime(false);
+    std::atomic<bool> isOver = false;
+    std::thread driver([&] {
+        for (char digit = '0'; !isOver; digit = digit == '9' ? '0' : static_cast<char>(digit + 1))
+            machine().publish(labelPrinter, everyValue(digit));
+    });
+    std::thread stopper([&] {
+        while (!isOver)
+            thread().stop();
+    });
+    for (int round = 0; round < 300; ++round) {
+        thread().start();
+        if (!thread().wait(20000))
+            break;
+    }
+    const bool allEnded = thread().isFinished();
+    isOver = true;
+    driver.join();
+    stopper.join();
+    QVERIFY(allEnded);
+    QCOMPARE(machine().openHandles(), 0);
+}
+
+QTEST_GUILESS_MAIN(PrinterStatusThreadEndTest)
+#include "tst_printer_status_thread_end.moc"

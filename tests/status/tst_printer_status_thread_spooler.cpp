@@ -1,0 +1,436 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// What a monitoring thread does when the spooler stops, starts or refuses something.
+#include "log_lines.h"
+#include "thread_test.h"
+
+namespace {
+
+const QString noHandle = QStringLiteral("0xffffffffffffffff");
+
+QString name(const char* function)
+{
+    return QString::fromLatin1(function);
+}
+
+LogRecord openingFailed()
+{
+    return libraryLine("printer_status_thread", 198,
+                       "bool PrinterStatusThread::initPrinterHandles(PHANDLE, PHANDLE)",
+                       QStringLiteral("Label Printer: Failed to open printer"));
+}
+
+LogRecord notificationFailed()
+{
+    return libraryLine("printer_status_thread", 208,
+                       "bool PrinterStatusThread::initPrinterHandles(PHANDLE, PHANDLE)",
+                       QStringLiteral("Label Printer: Failed to create event objects"));
+}
+
+LogRecord fullAccessFailed()
+{
+    return libraryLine(
+        "printer_status_thread", 264,
+        "void PrinterStatusThread::getLatestPrinterData(bool, HANDLE, QString&, QString&, "
+        "QString&, QString&, QString&, QString&, QString&, QString&, QString&, QString&, QString&, "
+        "QString&)",
+        QStringLiteral("Label Printer: Failed to open printer with PRINTER_ALL_ACCESS"));
+}
+
+} // namespace
+
+class PrinterStatusThreadSpoolerTest : public ThreadTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pollsAfterFiveSecondsWithoutNotification();
+    void notificationDelaysThePoll();
+    void stoppingSpoolerIsReported();
+    void eachStateShortOfRunningIsReportedAgain();
+    void stoppingIsReportedEvenWhenTheLastStatusSaysSo();
+    void spoolerThatComesBack();
+    void comesBackWithTheStatusUnchanged();
+    void comesBackWithoutThePrinter();
+    void comesBackWithoutTheNotification();
+    void failedQueryCountsAsAStateOfItsOwn();
+    void firstQueryThatFailedLeaksNothing();
+    void serviceThatCannotBeAskedIsNotTakenForStopped_data();
+    void serviceThatCannotBeAskedIsNotTakenForStopped();
+    void printerThatCannotBeOpened();
+    void printerThatCannotBeOpenedIsNotTriedAgain();
+    void spoolerDownAtTheStart();
+    void notificationThatCannotBeHad();
+    void fullAccessThatIsRefused();
+    void failedWaitIsTriedAgain();
+    void failedReArmingStillReads();
+    void printerThatIsRemoved();
+};
+
+void PrinterStatusThreadSpoolerTest::pollsAfterFiveSecondsWithoutNotification()
+{
+    watch();
+    QCOMPARE(machine().callCount(name("QueryServiceStatus")), 1);
+    pass(4999ms);
+    QCOMPARE(machine().callCount(name("QueryServiceStatus")), 1);
+    pass(1ms);
+    QCOMPARE(machine().callCount(name("QueryServiceStatus")), 2);
+    pass(5000ms);
+    QCOMPARE(machine().callCount(name("QueryServiceStatus")), 3);
+    // The poll reads no printer.
+    QCOMPARE(machine().callCount(name("GetPrinterDataA")), 11);
+}
+
+void PrinterStatusThreadSpoolerTest::notificationDelaysThePoll()
+{
+    watch();
+    for (int second = 0; second < 20; ++second) {
+        pass(4000ms);
+        publish(PrinterValue::number("Mileage", static_cast<quint32>(second)));
+    }
+    QCOMPARE(machine().callCount(name("QueryServiceStatus")), 1);
+}
+
+void PrinterStatusThreadSpoolerTest::stoppingSpoolerIsReported()
+{
+    machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
+    machine().recordCalls();
+    watch();
+    takeReports();
+    const QStringList waited = lastCall("WaitForMultipleObjects").arguments;
+    const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
+    machine().clearCalls();
+
+    machine().stopSpooler();
+    pass(4999ms);
+    QCOMPARE(takeReports(), QList<Report>());
+    pass(1ms);
+    QCOMPARE(takeReports(), QList<Report>{status("254")});
+
+    QCOMPARE(functionsCalled(),
+             (QStringList{name("WaitForMultipleObjects"), name("QueryServiceStatus"),
+                          name("FindClosePrinterChangeNotification"), name("ClosePrinter"),
+                          name("WaitForMultipleObjects")})
+                 .mid(1));
+    QCOMPARE(lastCall("FindClosePrinterChangeNotification").arguments, QStringList{waited.at(2)});
+    QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
+    // From now on it waits for its end alone.
+    const QStringList waits = lastCall("WaitForMultipleObjects").arguments;
+    QCOMPARE(waits, (QStringList{QStringLiteral("1"), waited.at(1), QStringLiteral("0"),
+                                 QStringLiteral("5000")}));
+    QVERIFY(logged().isEmpty());
+}
+
+void PrinterStatusThreadSpoolerTest::eachStateShortOfRunningIsReportedAgain()
+{
+    watch();
+    takeReports();
+    machine().recordCalls();
+    for (const quint32 state : {SERVICE_STOP_PENDING, SERVICE_STOPPED, SERVICE_START_PENDING}) {
+        machine().clearCalls();
+        machine().setSpoolerState(state);
+        pass(5000ms);
+        QCOMPARE(takeReports(), QList<Report>{status("254")});
+        pass(5000ms);
+        QCOMPARE(takeReports(), QList<Report>());
+        // Closing is done at each of them, though after the first nothing is open.
+        QCOMPARE(machine().calls(name("FindClosePrinterChangeNotification")).size(), 1);
+        QCOMPARE(machine().calls(name("ClosePrinter")).size(), 1);
+    }
+    QCOMPARE(lastCall("FindClosePrinterChangeNotification").arguments, QStringList{noHandle});
+    QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{noHandle});
+}
+
+void PrinterStatusThreadSpoolerTest::stoppingIsReportedEvenWhenTheLastStatusSaysSo()
+{
+    machine().publish(labelPrinter, PrinterValue::text("StatusCode", "254"));
+    watch();
+    QCOMPARE(takeReports().first(), status("254"));
+    machine().stopSpooler();
+    pass(5000ms);
+    QCOMPARE(takeReports(), QList<Report>{status("254")});
+}
+
+void PrinterStatusThreadSpoolerTest::spoolerThatComesBack()
+{
+    machine().publish(labelPrinter, everyValue());
+    watch();
+    machine().stopSpooler();
+    pass(5000ms);
+    takeReports();
+    machine().publish(labelPrinter, PrinterValue::number("Mileage", 4711));
+    machine().recordCalls();
+
+    machine().startSpooler();
+    pass(5000ms);
+    QCOMPARE(takeReports(), (QList<Report>{status("1"), report("supplyIntMileageChanged",
+                                                               QStringLiteral("4711"))}));
+
+    // Opened for watching, and read through a handle with full access of its own.
+    const QList<Call> opened = machine().calls(name("OpenPrinterA"));
+    QCOMPARE(opened.size(), 2);
+    QCOMPARE(opened.at(0).arguments, (QStringList{labelPrinter, QStringLiteral("0")}));
+    QCOMPARE(opened.at(1).arguments, (QStringList{labelPrinter, QString::number(0x000F000C)}));
+    const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
+    QVERIFY(lastCall("GetPrinterDataA").arguments.first() != printer);
+    QCOMPARE(lastCall("ClosePrinter").arguments.first(),
+             lastCall("GetPrinterDataA").arguments.first());
+    const QStringList waits = lastCall("WaitForMultipleObjects").arguments;
+    QCOMPARE(waits.first(), QStringLiteral("2"));
+    QVERIFY(waits.at(2) != noHandle);
+
+    // And watched as before.
+    publish(PrinterValue::text("StatusCode", "3"));
+    QCOMPARE(takeReports(), QList<Report>{status("3")});
+    machine().stopSpooler();
+    pass(5000ms);
+    QCOMPARE(takeReports(), QList<Report>{status("254")});
+}
+
+void PrinterStatusThreadSpoolerTest::comesBackWithTheStatusUnchanged()
+{
+    machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
+    watch();
+    takeReports();
+    machine().stopSpooler();
+    pass(5000ms);
+    machine().startSpooler();
+    pass(5000ms);
+    // "1" is news again after "254"; the name is not.
+    QCOMPARE(takeReports(), (QList<Report>{status("254"), status("1")}));
+}
+
+void PrinterStatusThreadSpoolerTest::comesBackWithoutThePrinter()
+{
+    watch();
+    machine().stopSpooler();
+    pass(5000ms);
+    takeReports();
+
+    machine().failCall(name("OpenPrinterA"), 1, ERROR_INVALID_PRINTER_NAME);
+    machine().recordCalls();
+    machine().startSpooler();
+    pass(5000ms);
+    QCOMPARE(takeReports(), QList<Report>{status("254")});
+    QCOMPARE(logged(), QList<LogRecord>{openingFailed()});
+    QCOMPARE(machine().calls(name("OpenPrinterA")).size(), 1);
+    QCOMPARE(machine().calls(name("GetPrinterDataA")).size(), 0);
+    QCOMPARE(lastCall("WaitForMultipleObjects").arguments.first(), QStringLiteral("1"));
+
+    // Nothing is tried again before the service has changed its state.
+    pass(5000ms);
+    QCOMPARE(machine().calls(name("OpenPrinterA")).size(), 1);
+    machine().stopSpooler();
+    pass(5000ms);
+    QCOMPARE(takeReports(), QList<Report>{status("254")});
+    machine().startSpooler();
+    machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
+    pass(5000ms);
+    QCOMPARE(takeReports(), QList<Report>{status("1")});
+}
+
+void PrinterStatusThreadSpoolerTest::comesBackWithoutTheNotification()
+{
+    watch();
+    machine().stopSpooler();
+    pass(5000ms);
+    takeReports();
+
+    machine().failCall(name("FindFirstPrinterChangeNotification"), 1, ERROR_NOT_ENOUGH_MEMORY);
+    machine().recordCalls();
+    machine().startSpooler();
+    pass(5000ms);
+    QCOMPARE(takeReports(), QList<Report>{status("254")});
+    QCOMPARE(logged(), QList<LogRecord>{notificationFailed()});
+    const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
+    QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
+
+    // The closed printer's handle is what is closed when the service goes down the next time.
+    allowMisuse(Kind::ClosedTwice, name("ClosePrinter"));
+    machine().clearCalls();
+    machine().stopSpooler();
+    pass(5000ms);
+    QCOMPARE(takeReports(), QList<Report>{status("254")});
+    QCOMPARE(lastCall("FindClosePrinterChangeNotification").arguments, QStringList{noHandle});
+    QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
+}
+
+void PrinterStatusThreadSpoolerTest::failedQueryCountsAsAStateOfItsOwn()
+{
+    watch();
+    takeReports();
+    machine().failCall(name("QueryServiceStatus"), 1, ERROR_INVALID_HANDLE);
+    pass(5000ms);
+    QCOMPARE(takeReports(), QList<Report>{status("254")});
+    pass(5000ms);
+    // The printer publishes no status, which after "254" is a change to nothing.
+    QCOMPARE(takeReports(), QList<Report>{status("")});
+    publish(PrinterValue::text("StatusCode", "1"));
+    QCOMPARE(takeReports(), QList<Report>{status("1")});
+}
+
+void PrinterStatusThreadSpoolerTest::firstQueryThatFailedLeaksNothing()
+{
+    machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
+    machine().failCall(name("QueryServiceStatus"), 1, ERROR_INVALID_HANDLE);
+    watch();
+    takeReports();
+    const int open = machine().openHandles();
+    machine().recordCalls();
+
+    // The service now "comes back" while the printer is open and watched: it is opened afresh, and
+    // what was open is closed.
+    pass(5000ms);
+    QCOMPARE(machine().openHandles(), open);
+    QCOMPARE(takeReports(), QList<Report>());
+    QCOMPARE(machine().calls(name("FindClosePrinterChangeNotification")).size(), 1);
+    QCOMPARE(machine().calls(name("FindFirstPrinterChangeNotification")).size(), 1);
+    publish(PrinterValue::text("StatusCode", "2"));
+    QCOMPARE(takeReports(), QList<Report>{status("2")});
+}
+
+void PrinterStatusThreadSpoolerTest::serviceThatCannotBeAskedIsNotTakenForStopped_data()
+{
+    QTest::addColumn<QString>("function");
+    QTest::newRow("manager") << name("OpenSCManagerW");
+    QTest::newRow("service") << name("OpenServiceW");
+}
+
+void PrinterStatusThreadSpoolerTest::serviceThatCannotBeAskedIsNotTakenForStopped()
+{
+    QFETCH(const QString, function);
+    machine().failCall(function, 1, ERROR_ACCESS_DENIED);
+    watch();
+    takeReports();
+    machine().stopSpooler();
+    pass(5000ms);
+    pass(5000ms);
+    QCOMPARE(takeReports(), QList<Report>());
+}
+
+void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpened()
+{
+    thread().setMonitoredPrinterName(QStringLiteral("No Such Printer"));
+    machine().recordCalls();
+    watch();
+    QCOMPARE(logged(), QList<LogRecord>{libraryLine(
+                           "printer_status_thread", 198,
+                           "bool PrinterStatusThread::initPrinterHandles(PHANDLE, PHANDLE)",
+                           QStringLiteral("No Such Printer: Failed to open printer"))});
+    QCOMPARE(takeReports(), QList<Report>());
+    QCOMPARE(machine().calls(name("OpenPrinterA")).size(), 1);
+    QCOMPARE(machine().calls(name("GetPrinterDataA")).size(), 0);
+    const QStringList waits = lastCall("WaitForMultipleObjects").arguments;
+    QCOMPARE(waits.first(), QStringLiteral("2"));
+    QCOMPARE(waits.at(2), noHandle);
+
+    machine().clearCalls();
+    endThread();
+    QCOMPARE(functionsCalled().filter(QStringLiteral("Close")),
+             (QStringList{name("CloseHandle"), name("FindClosePrinterChangeNotification"),
+                          name("ClosePrinter"), name("CloseServiceHandle"),
+                          name("CloseServiceHandle")}));
+    QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{noHandle});
+}
+
+void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpenedIsNotTriedAgain()
+{
+    machine().failCall(name("OpenPrinterA"), 1, ERROR_INVALID_PRINTER_NAME);
+    watch();
+    for (int poll = 0; poll < 10; ++poll)
+        pass(5000ms);
+    QCOMPARE(machine().callCount(name("OpenPrinterA")), 1);
+    QCOMPARE(machine().callCount(name("QueryServiceStatus")), 11);
+    QCOMPARE(takeReports(), QList<Report>());
+
+    // A change of the service is what opens it.
+    machine().stopSpooler();
+    pass(5000ms);
+    QCOMPARE(takeReports(), QList<Report>{status("254")});
+    machine().startSpooler();
+    pass(5000ms);
+    QCOMPARE(takeReports(),
+             (QList<Report>{status(""), report("printerNameChangedSignal", labelPrinter)}));
+}
+
+void PrinterStatusThreadSpoolerTest::spoolerDownAtTheStart()
+{
+    machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
+    machine().stopSpooler();
+    watch();
+    QCOMPARE(logged(), QList<LogRecord>{openingFailed()});
+    pass(5000ms);
+    QCOMPARE(takeReports(), QList<Report>()); // the state is the one found at the start
+
+    machine().startSpooler();
+    pass(5000ms);
+    QCOMPARE(takeReports(),
+             (QList<Report>{status("1"), report("printerNameChangedSignal", labelPrinter)}));
+}
+
+void PrinterStatusThreadSpoolerTest::notificationThatCannotBeHad()
+{
+    machine().failCall(name("FindFirstPrinterChangeNotification"), 1, ERROR_NOT_ENOUGH_MEMORY);
+    machine().recordCalls();
+    watch();
+    QCOMPARE(logged(), QList<LogRecord>{notificationFailed()});
+    QCOMPARE(takeReports(), QList<Report>());
+    const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
+    QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
+    QCOMPARE(lastCall("WaitForMultipleObjects").arguments.at(2), noHandle);
+
+    allowMisuse(Kind::ClosedTwice, name("ClosePrinter"));
+    machine().clearCalls();
+    endThread();
+    QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
+}
+
+void PrinterStatusThreadSpoolerTest::fullAccessThatIsRefused()
+{
+    machine().setAdministrable(labelPrinter, false);
+    machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
+    machine().recordCalls();
+    watch();
+    QCOMPARE(logged(), QList<LogRecord>{fullAccessFailed()});
+    QCOMPARE(takeReports(),
+             (QList<Report>{status("1"), report("printerNameChangedSignal", labelPrinter)}));
+    QCOMPARE(lastCall("GetPrinterDataA").arguments.first(),
+             lastCall("FindFirstPrinterChangeNotification").arguments.first());
+    QCOMPARE(machine().calls(name("ClosePrinter")).size(), 0);
+}
+
+void PrinterStatusThreadSpoolerTest::failedWaitIsTriedAgain()
+{
+    machine().failCall(name("WaitForMultipleObjects"), 1, ERROR_INVALID_HANDLE);
+    watch();
+    takeReports();
+    QCOMPARE(machine().callCount(name("WaitForMultipleObjects")), 2);
+    QCOMPARE(machine().callCount(name("QueryServiceStatus")), 1);
+    publish(PrinterValue::text("StatusCode", "1"));
+    QCOMPARE(takeReports(), QList<Report>{status("1")});
+}
+
+void PrinterStatusThreadSpoolerTest::failedReArmingStillReads()
+{
+    watch();
+    takeReports();
+    machine().failCall(name("FindNextPrinterChangeNotification"), 1, ERROR_INVALID_HANDLE);
+    // Not re-armed, the notification is still signalled, so that the next turn re-arms it.
+    publish(PrinterValue::text("StatusCode", "1"));
+    QCOMPARE(takeReports(), QList<Report>{status("1")});
+    QCOMPARE(machine().callCount(name("FindNextPrinterChangeNotification")), 2);
+}
+
+void PrinterStatusThreadSpoolerTest::printerThatIsRemoved()
+{
+    machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
+    watch();
+    takeReports();
+    machine().removePrinter(labelPrinter);
+    settle();
+    // Nothing can be read any more.
+    QCOMPARE(takeReports(), (QList<Report>{status(""), report("printerNameChangedSignal", {})}));
+}
+
+QTEST_GUILESS_MAIN(PrinterStatusThreadSpoolerTest)
+#include "tst_printer_status_thread_spooler.moc"
