@@ -74,8 +74,6 @@ public:
 
     /// The record of one printer. `printerName` is always the name given; everything else stays at
     /// its default when the printer cannot be opened or read.
-    ///
-    /// @throws std::logic_error when the spooler gives the printer no port or no driver name.
     static AvailablePrinters getAvailablePrinterInfo(const QString& printerName);
 
     /// The interface-class GUID that the maker's USB devices are registered under, as the registry

@@ -61,13 +61,15 @@ inline void write(const LogLine& line, const QString& text)
         .write(text);
 }
 
-/// Writes a line item by item: `items` streams them, each of which is followed by a blank.
+/// Writes a line item by item: `items` streams them, each of which is followed by a blank. Texts
+/// are not quoted.
 template <typename Items>
 void stream(const LogLine& line, Items&& items)
 {
     QString text;
     {
         QDebug debug(&text);
+        debug.noquote();
         items(debug);
     }
     write(line, text);

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// Blocks from the spooler: what happens without memory, and that each is released on every path.
+#include "log_recorder.h"
+#include "machine_test.h"
+
+#include "printer_status_thread.h"
+#include "windows_handles.h"
+#include "windows_printer_info.h"
+
+#include <cstdlib>
+#include <set>
+#include <stdexcept>
+
+namespace {
+
+// What the library's own objects allocate; nothing else in the process goes through here.
+std::set<void*> allocated;
+int allocationsUntilFailure = -1;
+
+} // namespace
+
+extern "C" {
+void* __real_malloc(std::size_t size);
+void __real_free(void* block);
+
+void* __wrap_malloc(std::size_t size)
+{
+    if (allocationsUntilFailure > 0 && --allocationsUntilFailure == 0)
+        return nullptr;
+    void* block = __real_malloc(size);
+    allocated.insert(block);
+    return block;
+}
+
+void __wrap_free(void* block)
+{
+    allocated.erase(block);
+    __real_free(block);
+}
+}
+
+class PrinterInfoMemoryTest : public MachineTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() override
+    {
+        MachineTest::init();
+        machine().addPrinter(
+            {.name = QStringLiteral("Printer"), .driver = QStringLiteral("Stratamark Alder")});
+        allocated.clear();
+        allocationsUntilFailure = -1;
+    }
+    void cleanup() override
+    {
+        allocationsUntilFailure = -1;
+        QVERIFY(allocated.empty());
+        MachineTest::cleanup();
+    }
+
+    void recordIsTheCallersToRelease();
+    void recordWithoutMemory();
+    void offlineWithoutMemory();
+    void enumerationWithoutMemory();
+    void nameWithoutMemory();
+    void everyPathReleases();
+    void raisingReleases();
+
+private:
+    static const inline QString m_name = QStringLiteral("Printer");
+};
+
+void PrinterInfoMemoryTest::recordIsTheCallersToRelease()
+{
+    const PrinterHandle printer = openPrinter(m_name);
+    PRINTER_INFO_2W* info = WindowsPrinterInfo::getPrinterInfo2(printer.get());
+    QVERIFY(info);
+    QCOMPARE(allocated, std::set<void*>{info});
+    std::free(info);
+}
+
+void PrinterInfoMemoryTest::recordWithoutMemory()
+{
+    const LogRecorder log;
+    const PrinterHandle printer = openPrinter(m_name);
+    allocationsUntilFailure = 1;
+    QVERIFY(!WindowsPrinterInfo::getPrinterInfo2(printer.get()));
+    QCOMPARE(log.records(),
+             QList<LogRecord>{
+                 libraryLine("windows_printer_info", 233,
+                             "static PRINTER_INFO_2* WindowsPrinterInfo::getPrinterInfo2(HANDLE)",
+                             QStringLiteral("Failure to allocate memory. "))});
+    QCOMPARE(machine().callCount(QStringLiteral("GetPrinterW")), 1);
+}
+
+void PrinterInfoMemoryTest::offlineWithoutMemory()
+{
+    QVERIFY(!WindowsPrinterInfo::isPrinterOffline(m_name));
+    allocationsUntilFailure = 1;
+    QVERIFY(WindowsPrinterInfo::isPrinterOffline(m_name));
+}
+
+void PrinterInfoMemoryTest::enumerationWithoutMemory()
+{
+    QCOMPARE(WindowsPrinterInfo::getAvailablePrinters().size(), 1);
+    allocationsUntilFailure = 1;
+    QVERIFY(WindowsPrinterInfo::getAvailablePrinters().isEmpty());
+}
+
+void PrinterInfoMemoryTest::nameWithoutMemory()
+{
+    PrinterStatusThread thread;
+    const PrinterHandle printer = openPrinter(m_name);
+    QCOMPARE(thread.getPrinterNameFromHandle(printer.get()), m_name);
+    allocationsUntilFailure = 1;
+    QVERIFY(thread.getPrinterNameFromHandle(printer.get()).isEmpty());
+}
+
+void PrinterInfoMemoryTest::everyPathReleases()
+{
+    WindowsPrinterInfo::getAvailablePrinters();
+    WindowsPrinterInfo::getAvailablePrinterInfo(m_name);
+    WindowsPrinterInfo::isPrinterOffline(m_name);
+    QVERIFY(allocated.empty());
+
+    for (const char* function : {"EnumPrintersW", "GetPrinterW"}) {
+        for (int call : {1, 2}) {
+            machine().failCall(QString::fromLatin1(function), call, ERROR_ACCESS_DENIED);
+            WindowsPrinterInfo::getAvailablePrinters();
+            WindowsPrinterInfo::getAvailablePrinterInfo(m_name);
+            WindowsPrinterInfo::isPrinterOffline(m_name);
+            machine().clearFailures();
+            QVERIFY(allocated.empty());
+        }
+    }
+}
+
+void PrinterInfoMemoryTest::raisingReleases()
+{
+    machine().addPrinter({.name = QString(), .driver = QStringLiteral("Stratamark Alder")});
+    QVERIFY_EXCEPTION_THROWN(WindowsPrinterInfo::getAvailablePrinters(), std::logic_error);
+    QVERIFY(allocated.empty());
+}
+
+QTEST_GUILESS_MAIN(PrinterInfoMemoryTest)
+#include "tst_printer_info_memory.moc"
