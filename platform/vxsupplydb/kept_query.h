@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include <QtCore/QCache>
+#include <QtCore/QVariant>
+#include <QtSql/QSqlDatabase>
+#include <QtSql/QSqlError>
+#include <QtSql/QSqlQuery>
+
+#include <memory>
+#include <optional>
+
+/// A statement that is prepared once and whose latest answers are kept.
+///
+/// An answer is default-constructed and each row is read into it, so a key that the database does
+/// not know has the answer with the defaults, which is kept too. The least recently used answers
+/// go when their cost together exceeds the capacity.
+template <typename Key, typename Answer>
+class KeptQuery
+{
+public:
+    using ReadRow = void (*)(const QSqlQuery& row, Answer& answer);
+    using Cost = qsizetype (*)(const Answer& answer);
+
+    KeptQuery(
+        const char* statement, ReadRow readRow, qsizetype capacity,
+        Cost cost = [](const Answer&) -> qsizetype { return 1; })
+        : m_statement(statement)
+        , m_readRow(readRow)
+        , m_cost(cost)
+        , m_answers(capacity)
+    {}
+
+    /// The answer to a key; the values are bound to the statement's parameters when it must be
+    /// asked. The reference holds until the next call. An answer that could not be had in whole has
+    /// the defaults and is not kept.
+    template <typename... Values>
+    const Answer& answer(const QSqlDatabase& database, const Key& key, const Values&... values)
+    {
+        if (const Answer* kept = m_answers.object(key))
+            return *kept;
+        m_unkept = Answer();
+        auto fresh = std::make_unique<Answer>();
+        if (!ask(database, *fresh, {QVariant(values)...}))
+            return m_unkept;
+        const qsizetype cost = m_cost(*fresh);
+        if (cost > m_answers.maxCost()) {
+            m_unkept = std::move(*fresh);
+            return m_unkept;
+        }
+        const Answer& answer = *fresh;
+        m_answers.insert(key, fresh.release(), cost);
+        return answer;
+    }
+
+    /// Forgets the answers.
+    void clear() { m_answers.clear(); }
+
+    /// Forgets the answers and lets go of the connection.
+    void reset()
+    {
+        clear();
+        m_query.reset();
+    }
+
+private:
+    bool ask(const QSqlDatabase& database, Answer& answer, const QVariantList& values)
+    {
+        if (!database.isOpen() || !prepare(database))
+            return false;
+        for (qsizetype i = 0; i < values.size(); ++i)
+            m_query->bindValue(static_cast<int>(i), values.at(i));
+        if (!m_query->exec())
+            return false;
+        while (m_query->next())
+            m_readRow(*m_query, answer);
+        const bool isWhole = !m_query->lastError().isValid();
+        m_query->finish(); // or the file stays locked
+        return isWhole;
+    }
+
+    bool prepare(const QSqlDatabase& database)
+    {
+        if (m_query)
+            return true;
+        QSqlQuery query(database);
+        query.setForwardOnly(true);
+        if (!query.prepare(QString::fromLatin1(m_statement)))
+            return false;
+        m_query = std::move(query);
+        return true;
+    }
+
+    const char* m_statement;
+    ReadRow m_readRow;
+    Cost m_cost;
+    QCache<Key, Answer> m_answers;
+    Answer m_unkept{};
+    std::optional<QSqlQuery> m_query;
+};

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include <QtCore/QStringList>
+
+/// How a supply database lies in its file: what the reader and the tool that builds it share.
+namespace SupplyDbSchema {
+
+/// Marks an SQLite file as a supply database: the letters "VXSD".
+constexpr quint32 ApplicationId = 0x56585344;
+/// Grows with every change that an older reader would misunderstand.
+constexpr quint32 Version = 1;
+
+/// The language that every name is had in, and that stands in where another is missing.
+constexpr int FallbackLanguage = 0;
+
+constexpr int MaxSkuLength = 40;
+constexpr int MaxNameLength = 200;
+constexpr int MaxImageBytes = 256 * 1024;
+constexpr int MaxKind = 999999;
+constexpr int MaxRibbonNumber = 100000;
+
+/// The statements that make an empty database, one each, in their order.
+QStringList statements();
+
+/// Whether a text could be a SKU at all: SKUs are short and of few characters.
+bool isSku(const QString& text);
+
+} // namespace SupplyDbSchema

@@ -1,0 +1,707 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "vxsupplydatabase.h"
+
+#include "kept_query.h"
+#include "supplyc.h"
+#include "supplydb_connection.h"
+#include "supplydb_schema.h"
+
+#include <QtCore/QHash>
+
+#include <optional>
+#include <tuple>
+#include <utility>
+
+namespace {
+
+// The SKU of an empty place in a printer.
+const QString NothingLoaded = QStringLiteral("-1");
+const QString BlankSupplyId = QStringLiteral("00000000000000000000");
+const QStringList BlankRibbonIds{QString(), QStringLiteral("-1"), QStringLiteral("4294967295"),
+                                 QStringLiteral("0")};
+
+constexpr qsizetype KeptRecords = 256;
+constexpr qsizetype KeptSettings = 2048;
+constexpr qsizetype KeptListEntries = 16384;
+constexpr qsizetype KeptImageBytes = 4 * 1024 * 1024;
+
+// What is asked of one thing goes in small groups. Qt prepares each column of an answer anew, so a
+// first question that had to read all there is would take several times as long.
+
+struct Colour
+{
+    int rgb = -1;
+    QString name;
+    QString nameEn;
+};
+constexpr const char* ColourSql = R"(
+    SELECT c.rgb, n.english, t.text
+    FROM supply s
+    JOIN colour c ON c.id = s.colour_id
+    JOIN name n ON n.id = c.name_id
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?2
+    WHERE s.sku = ?1)";
+
+struct SecondColour : Colour
+{
+    double width = -1.0;
+};
+constexpr const char* SecondColourSql = R"(
+    SELECT c.rgb, n.english, t.text, s.second_colour_width
+    FROM supply s
+    JOIN colour c ON c.id = s.second_colour_id
+    JOIN name n ON n.id = c.name_id
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?2
+    WHERE s.sku = ?1)";
+
+struct Material
+{
+    int id = -1;
+    QString name;
+};
+constexpr const char* MaterialSql = R"(
+    SELECT m.id, coalesce(t.text, n.english)
+    FROM supply s
+    JOIN material m ON m.id = s.material_id
+    JOIN name n ON n.id = m.name_id
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?2
+    WHERE s.sku = ?1)";
+
+struct Format
+{
+    int id = -1;
+    QString name;
+    QString type;
+};
+constexpr const char* FormatSql = R"(
+    SELECT f.id, coalesce(t.text, n.english), f.type
+    FROM supply s
+    JOIN format f ON f.id = s.format_id
+    JOIN name n ON n.id = f.name_id
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?2
+    WHERE s.sku = ?1)";
+
+struct Size
+{
+    double width = -1.0;
+    double length = -1.0;
+    double labelLength = -1.0;
+    double separatorWidth = -1.0;
+};
+constexpr const char* SizeSql = R"(
+    SELECT width, length, coalesce(label_length, -1.0), coalesce(separator_width, -1.0)
+    FROM supply
+    WHERE sku = ?1)";
+
+struct Arrangement
+{
+    int isLandscape = 1;
+    int multiUpCount = 1;
+    double multiUpGap = -1.0;
+};
+constexpr const char* ArrangementSql = R"(
+    SELECT is_landscape, multi_up_count, coalesce(multi_up_gap, -1.0)
+    FROM supply
+    WHERE sku = ?1)";
+
+constexpr const char* BackgroundSql = R"(
+    SELECT b.image
+    FROM supply s
+    JOIN background b ON b.id = s.background_id
+    WHERE s.sku = ?1)";
+
+// The place of a supply's format, by printer model.
+using TypeIndices = QHash<QString, int>;
+constexpr const char* TypeIndicesSql = R"(
+    SELECT p.model, p.position
+    FROM supply s
+    JOIN printer_format p ON p.format_id = s.format_id
+    WHERE s.sku = ?1)";
+
+// Longer models first, so that the first one found in a printer's name is the one meant. The model
+// of all other printers is the empty text, which is found in any name.
+constexpr const char* ModelsSql = R"(
+    SELECT DISTINCT model FROM printer_format ORDER BY length(model) DESC, model)";
+
+struct Ribbon
+{
+    QString type;
+    double width = -1.0;
+    double length = -1.0;
+    int panels = -1;
+};
+constexpr const char* RibbonSql = R"(
+    SELECT type, width, length, (SELECT count(*) FROM ribbon_panel WHERE ribbon_sku = ?1)
+    FROM ribbon
+    WHERE sku = ?1)";
+
+using PanelKey = std::pair<QString, int>;
+constexpr const char* PanelColourSql = R"(
+    SELECT c.rgb, n.english, t.text
+    FROM ribbon_panel p
+    JOIN colour c ON c.id = p.colour_id
+    JOIN name n ON n.id = c.name_id
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?3
+    WHERE p.ribbon_sku = ?1 AND p.panel = ?2)";
+
+struct SettingKey
+{
+    QString ribbonSku;
+    int panel;
+    QString supplySku;
+
+    friend bool operator==(const SettingKey&, const SettingKey&) = default;
+    friend size_t qHash(const SettingKey& key, size_t seed = 0)
+    {
+        return qHashMulti(seed, key.ribbonSku, key.panel, key.supplySku);
+    }
+};
+struct PrintSetting
+{
+    int heat = -1;
+    int heatOffset = -1;
+    int maxSpeed = -1;
+    int tension = -1;
+};
+constexpr const char* SettingSql = R"(
+    SELECT heat, heat_offset, max_speed, tension
+    FROM print_setting
+    WHERE ribbon_sku = ?1 AND panel = ?2 AND supply_sku = ?3)";
+
+constexpr const char* SupplyOfKindSql = "SELECT supply_sku FROM supply_kind WHERE kind = ?1";
+constexpr const char* RibbonOfNumberSql = "SELECT ribbon_sku FROM ribbon_number WHERE number = ?1";
+
+struct Catalogue
+{
+    QStringList skus;
+    QVariantHash colours;
+};
+constexpr const char* SuppliesSql = R"(
+    SELECT s.sku, c.rgb
+    FROM supply s
+    JOIN colour c ON c.id = s.colour_id
+    ORDER BY s.sku)";
+constexpr const char* RibbonsSql = R"(
+    SELECT r.sku, c.rgb
+    FROM ribbon r
+    LEFT JOIN ribbon_panel p ON p.ribbon_sku = r.sku AND p.panel = 1
+    LEFT JOIN colour c ON c.id = p.colour_id
+    ORDER BY r.sku)";
+
+// The key of an answer to a question that takes none.
+constexpr int Whole = 0;
+
+QString textOr(const QVariant& translation, const QString& english)
+{
+    return translation.isNull() ? english : translation.toString();
+}
+
+void readColour(const QSqlQuery& row, Colour& colour)
+{
+    colour.rgb = row.value(0).toInt();
+    colour.nameEn = row.value(1).toString();
+    colour.name = textOr(row.value(2), colour.nameEn);
+}
+
+void readText(const QSqlQuery& row, QString& text)
+{
+    text = row.value(0).toString();
+}
+
+void readCatalogue(const QSqlQuery& row, Catalogue& catalogue)
+{
+    const QString sku = row.value(0).toString();
+    catalogue.skus.append(sku);
+    catalogue.colours.insert(sku, row.isNull(1) ? -1 : row.value(1).toInt());
+}
+
+qsizetype imageBytes(const QByteArray& image)
+{
+    return 1 + image.size();
+}
+
+qsizetype catalogueEntries(const Catalogue& catalogue)
+{
+    return 1 + catalogue.skus.size();
+}
+
+} // namespace
+
+class VXSupplyDatabase::Private
+{
+public:
+    SupplyDbConnection connection;
+    int languageId = SupplyDbSchema::FallbackLanguage;
+    QString supplyId;
+    QStringList ribbonIds;
+    std::optional<QString> supplySku;
+    std::optional<QStringList> ribbonSkus;
+
+    KeptQuery<QString, Colour> colours{ColourSql, readColour, KeptRecords};
+    KeptQuery<QString, SecondColour> secondColours{SecondColourSql,
+                                                   [](const QSqlQuery& row, SecondColour& colour) {
+                                                       readColour(row, colour);
+                                                       colour.width = row.value(3).toDouble();
+                                                   },
+                                                   KeptRecords};
+    KeptQuery<QString, Material> materials{
+        MaterialSql,
+        [](const QSqlQuery& row, Material& material) {
+            material = {row.value(0).toInt(), row.value(1).toString()};
+        },
+        KeptRecords};
+    KeptQuery<QString, Format> formats{
+        FormatSql,
+        [](const QSqlQuery& row, Format& format) {
+            format = {row.value(0).toInt(), row.value(1).toString(), row.value(2).toString()};
+        },
+        KeptRecords};
+    KeptQuery<QString, Size> sizes{SizeSql,
+                                   [](const QSqlQuery& row, Size& size) {
+                                       size = {row.value(0).toDouble(), row.value(1).toDouble(),
+                                               row.value(2).toDouble(), row.value(3).toDouble()};
+                                   },
+                                   KeptRecords};
+    KeptQuery<QString, Arrangement> arrangements{
+        ArrangementSql,
+        [](const QSqlQuery& row, Arrangement& arrangement) {
+            arrangement = {row.value(0).toInt(), row.value(1).toInt(), row.value(2).toDouble()};
+        },
+        KeptRecords};
+    KeptQuery<QString, QByteArray> backgrounds{
+        BackgroundSql,
+        [](const QSqlQuery& row, QByteArray& image) { image = row.value(0).toByteArray(); },
+        KeptImageBytes, imageBytes};
+    KeptQuery<QString, TypeIndices> typeIndices{TypeIndicesSql,
+                                                [](const QSqlQuery& row, TypeIndices& indices) {
+                                                    indices.insert(row.value(0).toString(),
+                                                                   row.value(1).toInt());
+                                                },
+                                                KeptRecords};
+    KeptQuery<int, QStringList> models{
+        ModelsSql,
+        [](const QSqlQuery& row, QStringList& names) { names.append(row.value(0).toString()); }, 1};
+    KeptQuery<QString, Ribbon> ribbons{RibbonSql,
+                                       [](const QSqlQuery& row, Ribbon& ribbon) {
+                                           ribbon = {row.value(0).toString(),
+                                                     row.value(1).toDouble(),
+                                                     row.value(2).toDouble(), row.value(3).toInt()};
+                                       },
+                                       KeptRecords};
+    KeptQuery<PanelKey, Colour> panelColours{PanelColourSql, readColour, KeptRecords};
+    KeptQuery<SettingKey, PrintSetting> settings{
+        SettingSql,
+        [](const QSqlQuery& row, PrintSetting& setting) {
+            setting = {row.value(0).toInt(), row.value(1).toInt(), row.value(2).toInt(),
+                       row.value(3).toInt()};
+        },
+        KeptSettings};
+    KeptQuery<int, QString> suppliesOfKinds{SupplyOfKindSql, readText, KeptRecords};
+    KeptQuery<int, QString> ribbonsOfNumbers{RibbonOfNumberSql, readText, KeptRecords};
+    KeptQuery<int, Catalogue> supplies{SuppliesSql, readCatalogue, KeptListEntries,
+                                       catalogueEntries};
+    KeptQuery<int, Catalogue> allRibbons{RibbonsSql, readCatalogue, KeptListEntries,
+                                         catalogueEntries};
+
+    void resetQueries()
+    {
+        std::apply([](auto&... query) { (query.reset(), ...); },
+                   std::tie(colours, secondColours, materials, formats, sizes, arrangements,
+                            backgrounds, typeIndices, models, ribbons, panelColours, settings,
+                            suppliesOfKinds, ribbonsOfNumbers, supplies, allRibbons));
+        supplySku.reset();
+        ribbonSkus.reset();
+    }
+
+    void clearNames()
+    {
+        colours.clear();
+        secondColours.clear();
+        materials.clear();
+        formats.clear();
+        panelColours.clear();
+    }
+
+    // A text that cannot be a SKU is not asked for: what is kept would be as long as callers like.
+    template <typename Answer>
+    const Answer& ofSku(KeptQuery<QString, Answer>& query, const QString& sku)
+    {
+        static const Answer unknown{};
+        if (!SupplyDbSchema::isSku(sku))
+            return unknown;
+        return query.answer(connection.database(), sku, sku);
+    }
+    template <typename Answer>
+    const Answer& named(KeptQuery<QString, Answer>& query, const QString& sku)
+    {
+        static const Answer unknown{};
+        if (!SupplyDbSchema::isSku(sku))
+            return unknown;
+        return query.answer(connection.database(), sku, sku, languageId);
+    }
+
+    const Colour& panelColour(const QString& ribbonSku, int panel)
+    {
+        static const Colour unknown{};
+        if (!SupplyDbSchema::isSku(ribbonSku))
+            return unknown;
+        return panelColours.answer(connection.database(), {ribbonSku, panel}, ribbonSku, panel,
+                                   languageId);
+    }
+
+    const PrintSetting& setting(const QString& ribbonSku, int panel, const QString& supplySkuText)
+    {
+        static const PrintSetting unknown{};
+        if (!SupplyDbSchema::isSku(ribbonSku) || !SupplyDbSchema::isSku(supplySkuText))
+            return unknown;
+        return settings.answer(connection.database(), {ribbonSku, panel, supplySkuText}, ribbonSku,
+                               panel, supplySkuText);
+    }
+
+    QVariantList firstPanelSettings(const QStringList& skus, const QString& supplySkuText,
+                                    int PrintSetting::*wanted)
+    {
+        QVariantList values;
+        values.reserve(skus.size());
+        for (const QString& sku : skus)
+            values.append(setting(sku, 1, supplySkuText).*wanted);
+        return values;
+    }
+
+    QStringList panelRgbs(const QString& ribbonSku)
+    {
+        QStringList rgbs;
+        const int panels = ofSku(ribbons, ribbonSku).panels;
+        for (int panel = 1; panel <= panels; ++panel)
+            rgbs.append(QString::number(panelColour(ribbonSku, panel).rgb));
+        return rgbs;
+    }
+
+    QString loadedSupplySku()
+    {
+        if (supplyId.isEmpty() || supplyId == NothingLoaded || supplyId == BlankSupplyId)
+            return NothingLoaded;
+        const SupplyC decoded(supplyId);
+        if (!decoded.isDecoded())
+            return {};
+        return suppliesOfKinds.answer(connection.database(), decoded.kind, decoded.kind);
+    }
+
+    QString loadedRibbonSku(const QString& id)
+    {
+        if (BlankRibbonIds.contains(id))
+            return NothingLoaded;
+        bool isNumber = false;
+        const int number = id.toInt(&isNumber);
+        if (!isNumber)
+            return {};
+        return ribbonsOfNumbers.answer(connection.database(), number, number);
+    }
+
+    QString model(const QString& printerName)
+    {
+        const QStringList& names = models.answer(connection.database(), Whole);
+        for (const QString& name : names) {
+            if (printerName.contains(name, Qt::CaseInsensitive))
+                return name;
+        }
+        return {};
+    }
+
+    const Catalogue& supplyCatalogue() { return supplies.answer(connection.database(), Whole); }
+    const Catalogue& ribbonCatalogue() { return allRibbons.answer(connection.database(), Whole); }
+};
+
+VXSupplyDatabase::VXSupplyDatabase(QObject* parent)
+    : QObject(parent)
+    , d(std::make_unique<Private>())
+{}
+
+VXSupplyDatabase::~VXSupplyDatabase() = default;
+
+void VXSupplyDatabase::setup(const QString& databasePath, const QString& connectionName)
+{
+    d->resetQueries();
+    d->connection.open(databasePath, connectionName);
+}
+
+void VXSupplyDatabase::setLanguageId(int languageId)
+{
+    if (d->languageId == languageId)
+        return;
+    d->languageId = languageId;
+    d->clearNames();
+}
+
+void VXSupplyDatabase::setSupplyId(const QString& id)
+{
+    d->supplyId = id;
+    d->supplySku.reset();
+}
+
+void VXSupplyDatabase::setRibbonIds(const QStringList& ids)
+{
+    d->ribbonIds = ids;
+    d->ribbonSkus.reset();
+}
+
+QString VXSupplyDatabase::supplyId() const
+{
+    return d->supplyId;
+}
+
+QString VXSupplyDatabase::supplySKU() const
+{
+    if (!d->supplySku)
+        d->supplySku = d->loadedSupplySku();
+    return *d->supplySku;
+}
+
+QStringList VXSupplyDatabase::supplyRibbonSKUs() const
+{
+    if (!d->ribbonSkus) {
+        QStringList skus;
+        for (const QString& id : std::as_const(d->ribbonIds))
+            skus.append(d->loadedRibbonSku(id));
+        d->ribbonSkus = skus;
+    }
+    return *d->ribbonSkus;
+}
+
+QString VXSupplyDatabase::supplySupplyRGB() const
+{
+    const int rgb = supplyColorRGB(supplySKU());
+    return rgb < 0 ? QString() : QString::number(rgb);
+}
+
+QStringList VXSupplyDatabase::supplyRibbon1RGBs() const
+{
+    return d->panelRgbs(supplyRibbonSKUs().value(0));
+}
+
+QStringList VXSupplyDatabase::supplyRibbon2RGBs() const
+{
+    return d->panelRgbs(supplyRibbonSKUs().value(1));
+}
+
+QStringList VXSupplyDatabase::supplySKUList() const
+{
+    return d->supplyCatalogue().skus;
+}
+
+QStringList VXSupplyDatabase::supplyRibbonSKUList() const
+{
+    return d->ribbonCatalogue().skus;
+}
+
+QVariantHash VXSupplyDatabase::supplyColorHash() const
+{
+    return d->supplyCatalogue().colours;
+}
+
+QVariantHash VXSupplyDatabase::supplyRibbonColorHash() const
+{
+    return d->ribbonCatalogue().colours;
+}
+
+int VXSupplyDatabase::supplyMaterial(const QString& sku) const
+{
+    return d->named(d->materials, sku).id;
+}
+
+QString VXSupplyDatabase::supplyMaterialName(const QString& sku) const
+{
+    return d->named(d->materials, sku).name;
+}
+
+int VXSupplyDatabase::supplyFormat(const QString& sku) const
+{
+    return d->named(d->formats, sku).id;
+}
+
+QString VXSupplyDatabase::supplyFormatName(const QString& sku) const
+{
+    return d->named(d->formats, sku).name;
+}
+
+QString VXSupplyDatabase::supplyFormatType(const QString& sku) const
+{
+    return d->named(d->formats, sku).type;
+}
+
+int VXSupplyDatabase::supplyColorRGB(const QString& sku) const
+{
+    return d->named(d->colours, sku).rgb;
+}
+
+QString VXSupplyDatabase::supplyColorName(const QString& sku) const
+{
+    return d->named(d->colours, sku).name;
+}
+
+QString VXSupplyDatabase::supplyColorNameEn(const QString& sku) const
+{
+    return d->named(d->colours, sku).nameEn;
+}
+
+int VXSupplyDatabase::supplySecColorRGB(const QString& sku) const
+{
+    return d->named(d->secondColours, sku).rgb;
+}
+
+QString VXSupplyDatabase::supplySecColorName(const QString& sku) const
+{
+    return d->named(d->secondColours, sku).name;
+}
+
+QString VXSupplyDatabase::supplySecColorNameEn(const QString& sku) const
+{
+    return d->named(d->secondColours, sku).nameEn;
+}
+
+double VXSupplyDatabase::supplySecColorWidth(const QString& sku) const
+{
+    return d->named(d->secondColours, sku).width;
+}
+
+double VXSupplyDatabase::supplyWidth(const QString& sku) const
+{
+    return d->ofSku(d->sizes, sku).width;
+}
+
+double VXSupplyDatabase::supplyLength(const QString& sku) const
+{
+    return d->ofSku(d->sizes, sku).length;
+}
+
+double VXSupplyDatabase::supplyNonContinuousLength(const QString& sku) const
+{
+    return d->ofSku(d->sizes, sku).labelLength;
+}
+
+double VXSupplyDatabase::supplySeparatorWidth(const QString& sku) const
+{
+    return d->ofSku(d->sizes, sku).separatorWidth;
+}
+
+int VXSupplyDatabase::supplyIsLandscape(const QString& sku) const
+{
+    return d->ofSku(d->arrangements, sku).isLandscape;
+}
+
+int VXSupplyDatabase::supplyMultiUpCount(const QString& sku) const
+{
+    return d->ofSku(d->arrangements, sku).multiUpCount;
+}
+
+double VXSupplyDatabase::supplyMultiUpGapSize(const QString& sku) const
+{
+    return d->ofSku(d->arrangements, sku).multiUpGap;
+}
+
+QByteArray VXSupplyDatabase::supplyBackgroundImage(const QString& sku) const
+{
+    return d->ofSku(d->backgrounds, sku);
+}
+
+int VXSupplyDatabase::supplyTypeIndex(const QString& sku, const QString& printerName) const
+{
+    return d->ofSku(d->typeIndices, sku).value(d->model(printerName), -1);
+}
+
+QString VXSupplyDatabase::supplyRibbonType(const QString& ribbonSku) const
+{
+    return d->ofSku(d->ribbons, ribbonSku).type;
+}
+
+int VXSupplyDatabase::supplyRibbonPanels(const QString& ribbonSku) const
+{
+    return d->ofSku(d->ribbons, ribbonSku).panels;
+}
+
+double VXSupplyDatabase::supplyRibbonWidth(const QString& ribbonSku) const
+{
+    return d->ofSku(d->ribbons, ribbonSku).width;
+}
+
+double VXSupplyDatabase::supplyRibbonLength(const QString& ribbonSku) const
+{
+    return d->ofSku(d->ribbons, ribbonSku).length;
+}
+
+QString VXSupplyDatabase::supplyRibbonColorName(const QString& ribbonSku, int panel) const
+{
+    return d->panelColour(ribbonSku, panel).name;
+}
+
+int VXSupplyDatabase::supplyRibbonColorRGB(const QString& ribbonSku, int panel) const
+{
+    return d->panelColour(ribbonSku, panel).rgb;
+}
+
+int VXSupplyDatabase::supplyRibbonHeat(const QString& ribbonSku, int panel,
+                                       const QString& supplySku) const
+{
+    return d->setting(ribbonSku, panel, supplySku).heat;
+}
+
+int VXSupplyDatabase::supplyRibbonHeatOffset(const QString& ribbonSku, int panel,
+                                             const QString& supplySku) const
+{
+    return d->setting(ribbonSku, panel, supplySku).heatOffset;
+}
+
+int VXSupplyDatabase::supplyRibbonMaxSpeed(const QString& ribbonSku, int panel,
+                                           const QString& supplySku) const
+{
+    return d->setting(ribbonSku, panel, supplySku).maxSpeed;
+}
+
+int VXSupplyDatabase::supplyRibbonTension(const QString& ribbonSku, int panel,
+                                          const QString& supplySku) const
+{
+    return d->setting(ribbonSku, panel, supplySku).tension;
+}
+
+QStringList VXSupplyDatabase::supplyRibbonsColorNames(const QStringList& ribbonSkus) const
+{
+    QStringList names;
+    names.reserve(ribbonSkus.size());
+    for (const QString& sku : ribbonSkus)
+        names.append(d->panelColour(sku, 1).name);
+    return names;
+}
+
+QVariantList VXSupplyDatabase::supplyRibbonsColorRGBs(const QStringList& ribbonSkus) const
+{
+    QVariantList rgbs;
+    rgbs.reserve(ribbonSkus.size());
+    for (const QString& sku : ribbonSkus)
+        rgbs.append(d->panelColour(sku, 1).rgb);
+    return rgbs;
+}
+
+QVariantList VXSupplyDatabase::supplyRibbonsHeats(const QStringList& ribbonSkus,
+                                                  const QString& supplySku) const
+{
+    return d->firstPanelSettings(ribbonSkus, supplySku, &PrintSetting::heat);
+}
+
+QVariantList VXSupplyDatabase::supplyRibbonsHeatOffsets(const QStringList& ribbonSkus,
+                                                        const QString& supplySku) const
+{
+    return d->firstPanelSettings(ribbonSkus, supplySku, &PrintSetting::heatOffset);
+}
+
+QVariantList VXSupplyDatabase::supplyRibbonsMaxSpeeds(const QStringList& ribbonSkus,
+                                                      const QString& supplySku) const
+{
+    return d->firstPanelSettings(ribbonSkus, supplySku, &PrintSetting::maxSpeed);
+}
+
+QVariantList VXSupplyDatabase::supplyRibbonsTensions(const QStringList& ribbonSkus,
+                                                     const QString& supplySku) const
+{
+    return d->firstPanelSettings(ribbonSkus, supplySku, &PrintSetting::tension);
+}
