@@ -1,0 +1,308 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "vx_ipc_supplyd_controller.h"
+
+#include "server_types.h"
+
+#include <vxlocalelanguages.h>
+#include <vxsupplydatabase.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QtAlgorithms>
+
+namespace {
+
+// Stands for no particular printer.
+const QString SharedKey = QStringLiteral("-");
+
+// What an identifier reads when nothing is loaded or none is given away.
+const QString NoIdentifier = QStringLiteral("-1");
+
+const QString& orShared(const QString& printerName)
+{
+    return printerName.isEmpty() ? SharedKey : printerName;
+}
+
+QString databasePath()
+{
+    return QCoreApplication::applicationDirPath() + QLatin1Char('/') + QStringLiteral("roll.db");
+}
+
+} // namespace
+
+VXIPCSUPPLYDController::VXIPCSUPPLYDController()
+    : IVXIPCSUPPLYD(SupplyDatabaseServer, nullptr)
+{
+    qRegisterMetaType<SupplyInformation>("SupplyInformation");
+    VXLocaleLanguages languages;
+    languageId = languages.getCurrentLanguageId();
+    defaultDatabase = openDatabase(QStringLiteral("SUPPLY_INFO_QT_SQL_CONNECTION_NAME"));
+    databases.insert(SharedKey, defaultDatabase);
+}
+
+VXIPCSUPPLYDController::~VXIPCSUPPLYDController()
+{
+    qDeleteAll(databases);
+}
+
+void VXIPCSUPPLYDController::addNewPrinter(const QString& printerName)
+{
+    if (databases.contains(printerName))
+        return;
+    databases.insert(printerName, openDatabase(printerName + QStringLiteral("_CONNECTION_NAME")));
+}
+
+VXSupplyDatabase* VXIPCSUPPLYDController::openDatabase(const QString& connectionName) const
+{
+    auto* database = new VXSupplyDatabase;
+    database->setup(databasePath(), connectionName);
+    database->setLanguageId(languageId);
+    return database;
+}
+
+VXSupplyDatabase* VXIPCSUPPLYDController::databaseForPrinter(const QString& printerName) const
+{
+    return databases.value(printerName, defaultDatabase);
+}
+
+VXSupplyDatabase* VXIPCSUPPLYDController::sharedDatabase() const
+{
+    return databases.value(SharedKey);
+}
+
+void VXIPCSUPPLYDController::setSupplyId(const QString& id, const QString& printerName)
+{
+    if (printerName.isEmpty()) // must not reach the shared database, as queries do
+        return;
+    databaseForPrinter(printerName)->setSupplyId(id);
+}
+
+void VXIPCSUPPLYDController::setRibbonIds(const QStringList& ids, const QString& printerName)
+{
+    if (printerName.isEmpty()) // must not reach the shared database, as queries do
+        return;
+    databaseForPrinter(printerName)->setRibbonIds(ids);
+}
+
+QString VXIPCSUPPLYDController::supplySKUCached(QString printerName)
+{
+    // Alone among the queries this one does not ask the shared database for an empty name.
+    if (printerName.isEmpty())
+        return NoIdentifier;
+    return databaseForPrinter(printerName)->supplySKU();
+}
+
+// Asked by printer: the argument names one.
+
+QStringList VXIPCSUPPLYDController::supplyRibbonSKUsCached(QString printerName)
+{
+    return databaseForPrinter(orShared(printerName))->supplyRibbonSKUs();
+}
+
+QString VXIPCSUPPLYDController::supplySupplyRGB(QString printerName)
+{
+    return databaseForPrinter(orShared(printerName))->supplySupplyRGB();
+}
+
+QStringList VXIPCSUPPLYDController::supplyRibbon1RGBs(QString printerName)
+{
+    return databaseForPrinter(orShared(printerName))->supplyRibbon1RGBs();
+}
+
+QStringList VXIPCSUPPLYDController::supplyRibbon2RGBs(QString printerName)
+{
+    return databaseForPrinter(orShared(printerName))->supplyRibbon2RGBs();
+}
+
+QString VXIPCSUPPLYDController::supplyMaterialName(QString sku, QString printerName)
+{
+    return databaseForPrinter(orShared(printerName))->supplyMaterialName(sku);
+}
+
+QString VXIPCSUPPLYDController::supplyFormatName(QString sku, QString printerName)
+{
+    return databaseForPrinter(orShared(printerName))->supplyFormatName(sku);
+}
+
+int VXIPCSUPPLYDController::supplyColorRGB(QString sku, QString printerName)
+{
+    return databaseForPrinter(orShared(printerName))->supplyColorRGB(sku);
+}
+
+QString VXIPCSUPPLYDController::supplyColorName(QString sku, QString printerName)
+{
+    return databaseForPrinter(orShared(printerName))->supplyColorName(sku);
+}
+
+double VXIPCSUPPLYDController::supplyWidth(QString sku, QString printerName)
+{
+    return databaseForPrinter(orShared(printerName))->supplyWidth(sku);
+}
+
+double VXIPCSUPPLYDController::supplyNonContinuousLength(QString sku, QString printerName)
+{
+    return databaseForPrinter(orShared(printerName))->supplyNonContinuousLength(sku);
+}
+
+int VXIPCSUPPLYDController::supplyTypeIndex(QString sku, QString printerName)
+{
+    const QString& name = orShared(printerName);
+    return databaseForPrinter(name)->supplyTypeIndex(sku, name);
+}
+
+SupplyInformation VXIPCSUPPLYDController::supplyInformation(QString printerName)
+{
+    const QString& name = orShared(printerName);
+    const QStringList ribbonSkus = databaseForPrinter(name)->supplyRibbonSKUs();
+    const QString supplySku = databaseForPrinter(name)->supplySKU();
+    return supplyInformationBySKUs(supplySku, ribbonSkus, name);
+}
+
+SupplyInformation VXIPCSUPPLYDController::supplyInformationBySKUs(QString supplySku,
+                                                                  QStringList ribbonSkus,
+                                                                  QString printerName)
+{
+    const QString& name = orShared(printerName);
+    VXSupplyDatabase* const database = databaseForPrinter(name);
+    const QString ribbon1Sku = ribbonSkus.value(0);
+    const QString ribbon2Sku = ribbonSkus.value(1);
+
+    SupplyInformation record;
+    record.supplyId = database->supplyId(); // what is loaded, which need not be what is asked about
+    record.supplySku = supplySku;
+    record.ribbonSkus = ribbonSkus;
+    record.secColorWidth = static_cast<float>(database->supplySecColorWidth(supplySku));
+    record.secColorRGB = database->supplySecColorRGB(supplySku);
+    record.secColorName = database->supplySecColorName(supplySku);
+    record.secColorNameEn = database->supplySecColorNameEn(supplySku);
+    record.supplyLength = static_cast<float>(database->supplyLength(supplySku));
+    record.material = database->supplyMaterial(supplySku);
+    record.materialName = database->supplyMaterialName(supplySku);
+    record.format = database->supplyFormat(supplySku);
+    record.formatName = database->supplyFormatName(supplySku);
+    record.formatType = database->supplyFormatType(supplySku);
+    record.colorRGB = database->supplyColorRGB(supplySku);
+    record.colorName = database->supplyColorName(supplySku);
+    record.colorNameEn = database->supplyColorNameEn(supplySku);
+    record.supplyWidth = static_cast<float>(database->supplyWidth(supplySku));
+    record.isLandscape = database->supplyIsLandscape(supplySku);
+    record.backgroundImage = database->supplyBackgroundImage(supplySku);
+    record.separatorWidth = static_cast<float>(database->supplySeparatorWidth(supplySku));
+    record.nonContinuousLength = static_cast<float>(database->supplyNonContinuousLength(supplySku));
+    record.typeIndex = database->supplyTypeIndex(supplySku, name);
+    record.ribbon1Panels = database->supplyRibbonPanels(ribbon1Sku);
+    record.ribbon2Panels = database->supplyRibbonPanels(ribbon2Sku);
+    record.ribbon1Width = static_cast<float>(database->supplyRibbonWidth(ribbon1Sku));
+    record.ribbon2Width = static_cast<float>(database->supplyRibbonWidth(ribbon2Sku));
+    record.ribbon1Length = static_cast<float>(database->supplyRibbonLength(ribbon1Sku));
+    record.ribbon2Length = static_cast<float>(database->supplyRibbonLength(ribbon2Sku));
+    record.ribbonColorNames = database->supplyRibbonsColorNames(ribbonSkus);
+    record.ribbonColorRGBs = database->supplyRibbonsColorRGBs(ribbonSkus);
+    record.ribbonHeats = database->supplyRibbonsHeats(ribbonSkus, supplySku);
+    record.ribbonHeatOffsets = database->supplyRibbonsHeatOffsets(ribbonSkus, supplySku);
+    record.ribbonMaxSpeeds = database->supplyRibbonsMaxSpeeds(ribbonSkus, supplySku);
+    record.ribbonTensions = database->supplyRibbonsTensions(ribbonSkus, supplySku);
+    record.ribbonTypes.append(database->supplyRibbonType(ribbon1Sku));
+    record.ribbonTypes.append(database->supplyRibbonType(ribbon2Sku));
+    record.multiUpCount = database->supplyMultiUpCount(supplySku);
+    record.multiUpGapSize = static_cast<float>(database->supplyMultiUpGapSize(supplySku));
+    return record;
+}
+
+// Asked of the shared database, even where the caller knows the printer: no argument names one.
+
+QStringList VXIPCSUPPLYDController::supplySKUList()
+{
+    return sharedDatabase()->supplySKUList();
+}
+
+QStringList VXIPCSUPPLYDController::supplyRibbonSKUList()
+{
+    return sharedDatabase()->supplyRibbonSKUList();
+}
+
+QVariantHash VXIPCSUPPLYDController::supplyColorHash()
+{
+    return sharedDatabase()->supplyColorHash();
+}
+
+QVariantHash VXIPCSUPPLYDController::supplyRibbonColorHash()
+{
+    return sharedDatabase()->supplyRibbonColorHash();
+}
+
+int VXIPCSUPPLYDController::supplyIsLandscape(QString sku)
+{
+    return sharedDatabase()->supplyIsLandscape(sku);
+}
+
+QByteArray VXIPCSUPPLYDController::supplyBackgroundImage(QString sku)
+{
+    return sharedDatabase()->supplyBackgroundImage(sku);
+}
+
+int VXIPCSUPPLYDController::supplyRibbonPanels(QString ribbonSku)
+{
+    return sharedDatabase()->supplyRibbonPanels(ribbonSku);
+}
+
+double VXIPCSUPPLYDController::supplyRibbonWidth(QString ribbonSku)
+{
+    return sharedDatabase()->supplyRibbonWidth(ribbonSku);
+}
+
+double VXIPCSUPPLYDController::supplyRibbonLength(QString ribbonSku)
+{
+    return sharedDatabase()->supplyRibbonLength(ribbonSku);
+}
+
+QString VXIPCSUPPLYDController::supplyRibbonColorName(QString ribbonSku, int panel)
+{
+    return sharedDatabase()->supplyRibbonColorName(ribbonSku, panel);
+}
+
+int VXIPCSUPPLYDController::supplyRibbonColorRGB(QString ribbonSku, int panel)
+{
+    return sharedDatabase()->supplyRibbonColorRGB(ribbonSku, panel);
+}
+
+int VXIPCSUPPLYDController::supplyRibbonHeat(QString ribbonSku, int panel, QString supplySku)
+{
+    return sharedDatabase()->supplyRibbonHeat(ribbonSku, panel, supplySku);
+}
+
+int VXIPCSUPPLYDController::supplyRibbonHeatOffset(QString ribbonSku, int panel, QString supplySku)
+{
+    return sharedDatabase()->supplyRibbonHeatOffset(ribbonSku, panel, supplySku);
+}
+
+int VXIPCSUPPLYDController::supplyRibbonMaxSpeed(QString ribbonSku, int panel, QString supplySku)
+{
+    return sharedDatabase()->supplyRibbonMaxSpeed(ribbonSku, panel, supplySku);
+}
+
+int VXIPCSUPPLYDController::supplyRibbonTension(QString ribbonSku, int panel, QString supplySku)
+{
+    return sharedDatabase()->supplyRibbonTension(ribbonSku, panel, supplySku);
+}
+
+QString VXIPCSUPPLYDController::supplyRibbonType(QString ribbonSku)
+{
+    return sharedDatabase()->supplyRibbonType(ribbonSku);
+}
+
+// Answered without any database: the interface's placeholders.
+// clang-format off
+QString VXIPCSUPPLYDController::supplyId()             { return NoIdentifier; }
+QString VXIPCSUPPLYDController::supplySupplyUID()      { return NoIdentifier; }
+QString VXIPCSUPPLYDController::supplyRibbon1UID()     { return NoIdentifier; }
+QString VXIPCSUPPLYDController::supplyRibbon2UID()     { return NoIdentifier; }
+double  VXIPCSUPPLYDController::supplySupplyPercent()  { return 0.0; }
+double  VXIPCSUPPLYDController::supplyRibbon1Percent() { return 0.0; }
+double  VXIPCSUPPLYDController::supplyRibbon2Percent() { return 0.0; }
+
+void VXIPCSUPPLYDController::supplyModuleReady(int, int, QString) { }
+void VXIPCSUPPLYDController::applicationWasClicked()              { }
+void VXIPCSUPPLYDController::setModulePrinterName(QString)        { }
+void VXIPCSUPPLYDController::openLabelFile(QString)               { }
+// clang-format on
