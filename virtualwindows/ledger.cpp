@@ -39,13 +39,12 @@ bool isClosing(Function function)
     }
 }
 
-/// Functions that wait take either kind of waitable object; those of the service manager that close
-/// take either of its kinds.
-bool accepts(Object::Kind wanted, Object::Kind kind)
+/// The service manager and its services are closed by the same function.
+bool accepts(Object::Kind wanted, Object::Kind kind, Function function)
 {
     if (wanted == kind)
         return true;
-    return wanted == Object::Kind::ServiceManager && kind == Object::Kind::Service;
+    return function == Function::CloseServiceHandle && kind == Object::Kind::Service;
 }
 
 } // namespace
@@ -70,17 +69,18 @@ void Machine::Private::enterMisuse(HandleMisuse::Kind kind, HANDLE handle, Funct
 std::shared_ptr<Object> Machine::Private::findObject(HANDLE handle, Object::Kind kind,
                                                      Function function)
 {
+    const auto value = reinterpret_cast<quintptr>(handle);
+    const auto found = objects.find(value);
+    if (found != objects.end() && accepts(kind, found->second->kind, function))
+        return found->second;
+
     SetLastError(ERROR_INVALID_HANDLE);
     // Programs keep this value for having no handle and may well close it; it fails, and harms no
     // other handle.
     if (handle == INVALID_HANDLE_VALUE)
         return {};
 
-    const auto value = reinterpret_cast<quintptr>(handle);
-    const auto found = objects.find(value);
     if (found != objects.end()) {
-        if (accepts(kind, found->second->kind))
-            return found->second;
         enterMisuse(HandleMisuse::Kind::NotAHandle, handle, function,
                     kindName(found->second->kind));
         return {};

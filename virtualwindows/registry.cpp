@@ -69,7 +69,8 @@ namespace registry {
 
 QStringList childGroups(const QString& path)
 {
-    machine().begin(Function::RegistryKey, [&] { return QStringList{path}; });
+    if (machine().begin(Function::RegistryKey, [&] { return QStringList{path}; }))
+        return {};
     bool startsAtRoot = false;
     const QStringList names = namesBelowRoot(path, startsAtRoot);
     if (!startsAtRoot)
@@ -101,7 +102,8 @@ QStringList childGroups(const QString& path)
 
 QVariant value(const QString& path, const QString& valueName)
 {
-    machine().begin(Function::RegistryKey, [&] { return QStringList{path, valueName}; });
+    if (machine().begin(Function::RegistryKey, [&] { return QStringList{path, valueName}; }))
+        return {};
     bool startsAtRoot = false;
     const QStringList names = namesBelowRoot(path, startsAtRoot);
     constexpr qsizetype depthOfParameters = 4;

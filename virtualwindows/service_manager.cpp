@@ -49,18 +49,16 @@ SC_HANDLE WINAPI OpenServiceW(SC_HANDLE hSCManager, LPCWSTR lpServiceName, DWORD
     if (planned)
         return failWith<SC_HANDLE>(planned, nullptr);
 
-    const DWORD before = GetLastError();
     const std::lock_guard guard(machine().lock);
     const auto manager = machine().find<ServiceObject>(hSCManager, Object::Kind::ServiceManager,
                                                        Function::OpenServiceW);
-    if (!manager || manager->kind != Object::Kind::ServiceManager)
+    if (!manager)
         return nullptr;
     if (!lpServiceName)
         return failWith<SC_HANDLE>(ERROR_INVALID_NAME, nullptr);
     if (!isNamed(lpServiceName, spoolerService))
         return failWith<SC_HANDLE>(ERROR_SERVICE_DOES_NOT_EXIST, nullptr);
 
-    SetLastError(before);
     const auto service =
         std::make_shared<ServiceObject>(Object::Kind::Service, Function::OpenServiceW);
     service->access = dwDesiredAccess;

@@ -142,7 +142,8 @@ public:
     void setCallHook(std::function<void(const Call&)> hook);
 
     // Planned failures: the call does nothing and fails with the error. nth counts from 1, from
-    // now.
+    // now. A call that closes a handle closes it all the same: nobody closes twice. Readings of the
+    // device registry go by the name "RegistryKey" and find nothing when they fail.
     void failCall(const QString& function, int nth, quint32 error);
     void failCallsFrom(const QString& function, int nth, quint32 error);
     void clearFailures();
