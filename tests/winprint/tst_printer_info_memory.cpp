@@ -18,19 +18,32 @@ namespace {
 std::set<void*> allocated;
 int allocationsUntilFailure = -1;
 
+template <typename Allocation>
+void* allocate(Allocation allocation)
+{
+    if (allocationsUntilFailure > 0 && --allocationsUntilFailure == 0)
+        return nullptr;
+    void* block = allocation();
+    allocated.insert(block);
+    return block;
+}
+
 } // namespace
 
 extern "C" {
 void* __real_malloc(std::size_t size);
+void* __real_calloc(std::size_t count, std::size_t size);
 void __real_free(void* block);
 
 void* __wrap_malloc(std::size_t size)
 {
-    if (allocationsUntilFailure > 0 && --allocationsUntilFailure == 0)
-        return nullptr;
-    void* block = __real_malloc(size);
-    allocated.insert(block);
-    return block;
+    return allocate([&] { return __real_malloc(size); });
+}
+
+// What an optimizing compiler makes of malloc and clearing.
+void* __wrap_calloc(std::size_t count, std::size_t size)
+{
+    return allocate([&] { return __real_calloc(count, size); });
 }
 
 void __wrap_free(void* block)

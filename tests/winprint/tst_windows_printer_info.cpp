@@ -99,7 +99,7 @@ private:
     AvailablePrinters onlyPrinter()
     {
         const QList<AvailablePrinters> printers = WindowsPrinterInfo::getAvailablePrinters();
-        return printers.size() == 1 ? printers.first() : AvailablePrinters{name("not one printer")};
+        return printers.value(printers.size() == 1 ? 0 : -1);
     }
     QList<LogRecord> logged() { return m_log->records(); }
 

@@ -19,8 +19,8 @@ namespace virtualwindows {
 /// A printer as it is added to the virtual spooler.
 struct PrinterSetup
 {
-    QString name;
-    QString driver;                          ///< null: the spooler reports a null pointer
+    QString name{};
+    QString driver{};                          ///< null: the spooler reports a null pointer
     QString port = QStringLiteral("USB001"); ///< null: the spooler reports a null pointer
     quint32 attributes = 0x40;               ///< PRINTER_ATTRIBUTE_* (default: local)
     quint32 status = 0;                      ///< PRINTER_STATUS_*
