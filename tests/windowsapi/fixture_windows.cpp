@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "fixture.h"
+
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QFile>
+#include <QtCore/QThread>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace {
+
+constexpr wchar_t environment[] = L"Windows x64";
+
+QStringList& installedDrivers()
+{
+    static QStringList names;
+    return names;
+}
+
+std::optional<bool>& spoolerRanBefore()
+{
+    static std::optional<bool> ran;
+    return ran;
+}
+
+/// Wine says so in a function of its own; Windows has no such function.
+bool isWine()
+{
+    static const bool wine =
+        GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+    return wine;
+}
+
+/// Every behaviour that Wine's spooler, kernel and service manager are without.
+constexpr std::array wineLacks{
+    Behaviour::AccessRights,       Behaviour::ChangeNotifications, Behaviour::DatabaseNames,
+    Behaviour::DeletedPrinters,    Behaviour::DistinctWaitObjects, Behaviour::JobCounts,
+    Behaviour::PageCalls,          Behaviour::PrinterCommands,     Behaviour::PrinterRecordChecks,
+    Behaviour::UniquePrinterNames,
+};
+
+ServiceHandle openSpooler()
+{
+    const ServiceHandle manager(OpenSCManagerW(nullptr, nullptr, SC_MANAGER_CONNECT));
+    if (!manager)
+        return {};
+    return ServiceHandle(OpenServiceW(manager.get(), L"Spooler",
+                                      SERVICE_QUERY_STATUS | SERVICE_START | SERVICE_STOP));
+}
+
+DWORD stateOf(const ServiceHandle& service)
+{
+    SERVICE_STATUS status{};
+    return QueryServiceStatus(service.get(), &status) ? status.dwCurrentState : 0;
+}
+
+/// The service manager tells of a service's state only when it is asked.
+bool waitForState(const ServiceHandle& service, DWORD state)
+{
+    const QDeadlineTimer limit(20000);
+    while (stateOf(service) != state) {
+        if (limit.hasExpired())
+            return false;
+        QThread::msleep(10);
+    }
+    return true;
+}
+
+} // namespace
+
+void fixture::system::begin()
+{
+    spoolerRanBefore().reset();
+}
+
+QStringList fixture::system::end(const QStringList& /*allowedMisuses*/)
+{
+    QStringList wrong;
+    const QStringList drivers = std::exchange(installedDrivers(), {});
+    for (const QString& driver : drivers) {
+        WideText environmentText(QString::fromWCharArray(environment));
+        if (!DeletePrinterDriverExW(nullptr, environmentText, WideText(driver), 0, 0))
+            wrong.append(QStringLiteral("the driver \"%1\" stays: error %2")
+                             .arg(driver, QString::number(GetLastError())));
+    }
+    if (spoolerRanBefore().has_value() && !setSpoolerRunning(*spoolerRanBefore()))
+        wrong.append(QStringLiteral("the service \"Spooler\" could not be put back"));
+    return wrong;
+}
+
+bool fixture::system::installDriver(const QString& name)
+{
+    if (installedDrivers().contains(name))
+        return true;
+    WideText driver(name);
+    WideText environmentText(QString::fromWCharArray(environment));
+    WideText file(QStringLiteral("localspl.dll"));
+    DRIVER_INFO_3W info{};
+    info.cVersion = 3;
+    info.pName = driver;
+    info.pEnvironment = environmentText;
+    info.pDriverPath = file;
+    info.pDataFile = file;
+    info.pConfigFile = file;
+    if (!AddPrinterDriverExW(nullptr, 3, reinterpret_cast<LPBYTE>(&info), APD_COPY_NEW_FILES))
+        return false;
+    installedDrivers().append(name);
+    return true;
+}
+
+bool fixture::setSpoolerRunning(bool running)
+{
+    const ServiceHandle service = openSpooler();
+    if (!service)
+        return false;
+    const bool runs = stateOf(service) == SERVICE_RUNNING;
+    if (!spoolerRanBefore().has_value())
+        spoolerRanBefore() = runs;
+    if (runs == running)
+        return true;
+    SERVICE_STATUS status{};
+    const BOOL asked = running ? StartServiceW(service.get(), 0, nullptr)
+                               : ControlService(service.get(), SERVICE_CONTROL_STOP, &status);
+    return asked && waitForState(service, running ? SERVICE_RUNNING : SERVICE_STOPPED);
+}
+
+bool fixture::has(Behaviour behaviour)
+{
+    return !isWine() || std::find(wineLacks.begin(), wineLacks.end(), behaviour) == wineLacks.end();
+}
+
+QByteArray fixture::printedBytes(const QString& /*printer*/, const QString& outputFile)
+{
+    QFile file(outputFile);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+std::chrono::nanoseconds fixture::processorTimeOfThisThread()
+{
+    FILETIME created{};
+    FILETIME ended{};
+    FILETIME kernel{};
+    FILETIME user{};
+    GetThreadTimes(GetCurrentThread(), &created, &ended, &kernel, &user);
+    const auto hundredsOfNanoseconds = [](const FILETIME& time) {
+        return (static_cast<qint64>(time.dwHighDateTime) << 32) | time.dwLowDateTime;
+    };
+    return std::chrono::nanoseconds(100 *
+                                    (hundredsOfNanoseconds(kernel) + hundredsOfNanoseconds(user)));
+}

@@ -1,0 +1,445 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// Waiting for changes of printers: which changes are told, and that none is lost.
+
+#include "fixture.h"
+
+#include <QtTest/QtTest>
+
+#include <functional>
+#include <thread>
+
+namespace {
+
+struct NotificationCloser
+{
+    void operator()(HANDLE handle) const { FindClosePrinterChangeNotification(handle); }
+};
+using Notification = std::unique_ptr<void, NotificationCloser>;
+
+Notification watch(const PrinterHandle& printer, DWORD filter = PRINTER_CHANGE_PRINTER)
+{
+    const HANDLE handle = FindFirstPrinterChangeNotification(printer.get(), filter, 0, nullptr);
+    return Notification(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
+}
+
+/// The real spooler tells of a change from a thread of its own, some time after the change.
+constexpr DWORD longEnough = 20000;
+constexpr DWORD fairlySure = 100;
+
+bool isTold(const Notification& notification)
+{
+    return WaitForSingleObject(notification.get(), longEnough) == WAIT_OBJECT_0;
+}
+
+bool isQuiet(const Notification& notification)
+{
+    return WaitForSingleObject(notification.get(), fairlySure) == WAIT_TIMEOUT;
+}
+
+/// Re-arms; the changes that were told, or all bits when the call failed.
+DWORD rearm(const Notification& notification)
+{
+    DWORD change = 0x77777777;
+    return FindNextPrinterChangeNotification(notification.get(), &change, nullptr, nullptr)
+               ? change
+               : 0xFFFFFFFF;
+}
+
+void writeValue(const PrinterHandle& printer)
+{
+    BYTE data = 1;
+    SetPrinterDataW(printer.get(), WideText(QStringLiteral("StatusCode")), REG_BINARY, &data, 1);
+}
+
+DWORD startDocument(const PrinterHandle& printer)
+{
+    WideText document(QStringLiteral("Label"));
+    WideText datatype(QStringLiteral("RAW"));
+    DOC_INFO_1W info{};
+    info.pDocName = document;
+    info.pDatatype = datatype;
+    return StartDocPrinterW(printer.get(), 1, reinterpret_cast<LPBYTE>(&info));
+}
+
+using Action = std::function<void(const PrinterHandle&)>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Action)
+
+class ChangeNotificationsTest : public WindowsApiTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() override;
+    void cleanup() override;
+
+    void nothingIsToldAtFirst();
+    void changeIsTold_data();
+    void changeIsTold();
+    void changeOutsideTheFilterIsNotTold_data();
+    void changeOutsideTheFilterIsNotTold();
+    void staysSignalledUntilItIsRearmed();
+    void changesAreCollected();
+    void changeBeforeRearmingIsNotLost();
+    void rearmingWithoutAChange();
+    void changeNeedNotBeAsked();
+
+    void otherPrintersAreNotTold();
+    void printServerTellsOfAllPrinters();
+    void printServerTellsOfANewPrinter();
+    void notificationsAreIndependent();
+
+    void waitingThreadIsWoken();
+    void waitsBesideEvents();
+
+    void refusesWithoutAFilter();
+    void refusesABadPrinter_data();
+    void refusesABadPrinter();
+    void badNotificationFails_data();
+    void badNotificationFails();
+    void invalidHandleValueIsNoNotification();
+    void closingLeavesThePrinterOpen();
+
+private:
+    QString m_name;
+    PrinterHandle m_printer;
+};
+
+void ChangeNotificationsTest::init()
+{
+    WindowsApiTest::init();
+    NEEDS_BEHAVIOUR(Behaviour::ChangeNotifications);
+    m_name = fixture::uniqueName(QStringLiteral("Vx Changes"));
+    QVERIFY(fixture::addPrinter({.name = m_name}));
+    m_printer = openPrinter(m_name);
+    QVERIFY(m_printer);
+}
+
+void ChangeNotificationsTest::cleanup()
+{
+    m_printer.reset();
+    WindowsApiTest::cleanup();
+}
+
+void ChangeNotificationsTest::nothingIsToldAtFirst()
+{
+    writeValue(m_printer);
+    const Notification notification = watch(m_printer, PRINTER_CHANGE_ALL);
+    QVERIFY(notification);
+    QVERIFY(isQuiet(notification));
+}
+
+void ChangeNotificationsTest::changeIsTold_data()
+{
+    QTest::addColumn<DWORD>("filter");
+    QTest::addColumn<Action>("action");
+    QTest::addColumn<DWORD>("change");
+    const auto row = [](const char* what, DWORD change, const Action& action) {
+        QTest::addRow("%s, asked for alone", what) << change << action << change;
+        QTest::addRow("%s, asked for with all", what)
+            << DWORD{PRINTER_CHANGE_ALL} << action << change;
+    };
+    row("value", PRINTER_CHANGE_SET_PRINTER, writeValue);
+    row("pause", PRINTER_CHANGE_SET_PRINTER, [](const PrinterHandle& printer) {
+        SetPrinterW(printer.get(), 0, nullptr, PRINTER_CONTROL_PAUSE);
+    });
+    row("new job", PRINTER_CHANGE_ADD_JOB, [](const PrinterHandle& printer) {
+        startDocument(printer);
+        EndDocPrinter(printer.get());
+    });
+    row("bytes", PRINTER_CHANGE_WRITE_JOB, [](const PrinterHandle& printer) {
+        startDocument(printer);
+        char byte = 'x';
+        DWORD written = 0;
+        WritePrinter(printer.get(), &byte, 1, &written);
+        EndDocPrinter(printer.get());
+    });
+    row("deletion", PRINTER_CHANGE_DELETE_PRINTER,
+        [](const PrinterHandle& printer) { DeletePrinter(printer.get()); });
+}
+
+void ChangeNotificationsTest::changeIsTold()
+{
+    QFETCH(DWORD, filter);
+    QFETCH(Action, action);
+    QFETCH(DWORD, change);
+    const Notification notification = watch(m_printer, filter);
+    QVERIFY(notification);
+    action(m_printer);
+    QVERIFY(isTold(notification));
+    DWORD told = rearm(notification);
+    // What follows a change may come in a telling of its own.
+    while (!(told & change) && isTold(notification))
+        told |= rearm(notification);
+    QCOMPARE(told & change, change);
+    QCOMPARE(told & ~filter, DWORD{0});
+}
+
+void ChangeNotificationsTest::changeOutsideTheFilterIsNotTold_data()
+{
+    QTest::addColumn<DWORD>("filter");
+    QTest::addColumn<Action>("action");
+    const Action print = [](const PrinterHandle& printer) {
+        startDocument(printer);
+        EndDocPrinter(printer.get());
+    };
+    QTest::newRow("value, jobs asked for") << DWORD{PRINTER_CHANGE_JOB} << Action(writeValue);
+    QTest::newRow("value, deletion asked for")
+        << DWORD{PRINTER_CHANGE_DELETE_PRINTER} << Action(writeValue);
+    QTest::newRow("job, printers asked for") << DWORD{PRINTER_CHANGE_SET_PRINTER} << print;
+    QTest::newRow("job, bytes asked for") << DWORD{PRINTER_CHANGE_WRITE_JOB} << print;
+}
+
+void ChangeNotificationsTest::changeOutsideTheFilterIsNotTold()
+{
+    QFETCH(DWORD, filter);
+    QFETCH(Action, action);
+    const Notification notification = watch(m_printer, filter);
+    QVERIFY(notification);
+    action(m_printer);
+    QVERIFY(isQuiet(notification));
+}
+
+void ChangeNotificationsTest::staysSignalledUntilItIsRearmed()
+{
+    const Notification notification = watch(m_printer);
+    writeValue(m_printer);
+    for (int wait = 0; wait < 3; ++wait)
+        QVERIFY(isTold(notification));
+    QCOMPARE(rearm(notification), DWORD{PRINTER_CHANGE_SET_PRINTER});
+    QVERIFY(isQuiet(notification));
+    writeValue(m_printer);
+    QVERIFY(isTold(notification));
+}
+
+void ChangeNotificationsTest::changesAreCollected()
+{
+    const Notification notification = watch(m_printer, PRINTER_CHANGE_ALL);
+    for (int change = 0; change < 5; ++change)
+        writeValue(m_printer);
+    QVERIFY(startDocument(m_printer) != 0);
+    QVERIFY(EndDocPrinter(m_printer.get()));
+    constexpr DWORD expected = PRINTER_CHANGE_SET_PRINTER | PRINTER_CHANGE_ADD_JOB;
+    DWORD told = 0;
+    int tellings = 0;
+    while ((told & expected) != expected && isTold(notification)) {
+        told |= rearm(notification);
+        ++tellings;
+    }
+    QCOMPARE(told & expected, expected);
+    QVERIFY2(tellings <= 2, qPrintable(QString::number(tellings)));
+}
+
+void ChangeNotificationsTest::changeBeforeRearmingIsNotLost()
+{
+    const Notification notification = watch(m_printer, PRINTER_CHANGE_ALL);
+    writeValue(m_printer);
+    QVERIFY(isTold(notification));
+    // The waiting thread has been woken, and has not re-armed yet.
+    QVERIFY(startDocument(m_printer) != 0);
+    DWORD told = rearm(notification);
+    QVERIFY(told & PRINTER_CHANGE_SET_PRINTER);
+    // The change is in that answer, or the notification is signalled for it anew.
+    while (!(told & PRINTER_CHANGE_ADD_JOB) && isTold(notification))
+        told |= rearm(notification);
+    QVERIFY(told & PRINTER_CHANGE_ADD_JOB);
+    QVERIFY(EndDocPrinter(m_printer.get()));
+}
+
+void ChangeNotificationsTest::rearmingWithoutAChange()
+{
+    const Notification notification = watch(m_printer);
+    QCOMPARE(rearm(notification), DWORD{0});
+    QVERIFY(isQuiet(notification));
+    writeValue(m_printer);
+    QVERIFY(isTold(notification));
+    QCOMPARE(rearm(notification), DWORD{PRINTER_CHANGE_SET_PRINTER});
+    QCOMPARE(rearm(notification), DWORD{0});
+}
+
+void ChangeNotificationsTest::changeNeedNotBeAsked()
+{
+    const Notification notification = watch(m_printer);
+    writeValue(m_printer);
+    QVERIFY(isTold(notification));
+    QVERIFY(FindNextPrinterChangeNotification(notification.get(), nullptr, nullptr, nullptr));
+    QVERIFY(isQuiet(notification));
+}
+
+void ChangeNotificationsTest::otherPrintersAreNotTold()
+{
+    const QString otherName = fixture::uniqueName(QStringLiteral("Vx Changes"));
+    QVERIFY(fixture::addPrinter({.name = otherName}));
+    const PrinterHandle other = openPrinter(otherName);
+    const Notification notification = watch(m_printer, PRINTER_CHANGE_ALL);
+    writeValue(other);
+    QVERIFY(isQuiet(notification));
+    const Notification ofOther = watch(other);
+    writeValue(other);
+    QVERIFY(isTold(ofOther));
+    QVERIFY(isQuiet(notification));
+}
+
+void ChangeNotificationsTest::printServerTellsOfAllPrinters()
+{
+    HANDLE handle = nullptr;
+    QVERIFY(OpenPrinterW(nullptr, &handle, nullptr));
+    const PrinterHandle server(handle);
+    const Notification notification = watch(server, PRINTER_CHANGE_SET_PRINTER);
+    QVERIFY(notification);
+    writeValue(m_printer);
+    QVERIFY(isTold(notification));
+    QCOMPARE(rearm(notification), DWORD{PRINTER_CHANGE_SET_PRINTER});
+}
+
+void ChangeNotificationsTest::printServerTellsOfANewPrinter()
+{
+    HANDLE handle = nullptr;
+    QVERIFY(OpenPrinterW(nullptr, &handle, nullptr));
+    const PrinterHandle server(handle);
+    const Notification notification = watch(server, PRINTER_CHANGE_ADD_PRINTER);
+    QVERIFY(notification);
+    writeValue(m_printer);
+    QVERIFY(isQuiet(notification));
+    QVERIFY(fixture::addPrinter({.name = fixture::uniqueName(QStringLiteral("Vx New"))}));
+    QVERIFY(isTold(notification));
+    QCOMPARE(rearm(notification), DWORD{PRINTER_CHANGE_ADD_PRINTER});
+}
+
+void ChangeNotificationsTest::notificationsAreIndependent()
+{
+    const PrinterHandle again = openPrinter(m_name);
+    const Notification first = watch(m_printer);
+    const Notification second = watch(m_printer);
+    const Notification third = watch(again);
+    writeValue(m_printer);
+    QVERIFY(isTold(first));
+    QVERIFY(isTold(second));
+    QVERIFY(isTold(third));
+    QCOMPARE(rearm(first), DWORD{PRINTER_CHANGE_SET_PRINTER});
+    QVERIFY(isQuiet(first));
+    QVERIFY(isTold(second));
+    QCOMPARE(rearm(second), DWORD{PRINTER_CHANGE_SET_PRINTER});
+    QCOMPARE(rearm(third), DWORD{PRINTER_CHANGE_SET_PRINTER});
+}
+
+void ChangeNotificationsTest::waitingThreadIsWoken()
+{
+    const Notification notification = watch(m_printer);
+    const EventHandle started(CreateEventW(nullptr, FALSE, FALSE, nullptr));
+    DWORD result = WAIT_FAILED;
+    {
+        const std::jthread waiter([&] {
+            SetEvent(started.get());
+            result = WaitForSingleObject(notification.get(), longEnough);
+        });
+        WaitForSingleObject(started.get(), INFINITE);
+        writeValue(m_printer);
+    }
+    QCOMPARE(result, DWORD{WAIT_OBJECT_0});
+}
+
+void ChangeNotificationsTest::waitsBesideEvents()
+{
+    const Notification notification = watch(m_printer);
+    const EventHandle first(CreateEventW(nullptr, TRUE, FALSE, nullptr));
+    const EventHandle last(CreateEventW(nullptr, TRUE, TRUE, nullptr));
+    const HANDLE handles[] = {first.get(), notification.get(), last.get()};
+    QCOMPARE(WaitForMultipleObjects(3, handles, FALSE, 0), DWORD{WAIT_OBJECT_0 + 2});
+    writeValue(m_printer);
+    QVERIFY(isTold(notification));
+    QCOMPARE(WaitForMultipleObjects(3, handles, FALSE, 0), DWORD{WAIT_OBJECT_0 + 1});
+    QVERIFY(SetEvent(first.get()));
+    QCOMPARE(WaitForMultipleObjects(3, handles, FALSE, 0), DWORD{WAIT_OBJECT_0});
+    QCOMPARE(WaitForMultipleObjects(3, handles, TRUE, 0), DWORD{WAIT_OBJECT_0});
+}
+
+void ChangeNotificationsTest::refusesWithoutAFilter()
+{
+    QCOMPARE(errorOf([&] {
+                 return FindFirstPrinterChangeNotification(m_printer.get(), 0, 0, nullptr) !=
+                        INVALID_HANDLE_VALUE;
+             }),
+             DWORD{ERROR_INVALID_PARAMETER});
+}
+
+void ChangeNotificationsTest::refusesABadPrinter_data()
+{
+    QTest::addColumn<bool>("closed");
+    QTest::newRow("null") << false;
+    QTest::newRow("closed") << true;
+}
+
+void ChangeNotificationsTest::refusesABadPrinter()
+{
+    QFETCH(bool, closed);
+    expectMisuse(QStringLiteral("FindFirstPrinterChangeNotification"));
+    const HANDLE handle = closed ? m_printer.get() : nullptr;
+    if (closed)
+        m_printer.reset();
+    QCOMPARE(errorOf([&] {
+                 return FindFirstPrinterChangeNotification(handle, PRINTER_CHANGE_PRINTER, 0,
+                                                           nullptr) != INVALID_HANDLE_VALUE;
+             }),
+             DWORD{ERROR_INVALID_HANDLE});
+}
+
+void ChangeNotificationsTest::badNotificationFails_data()
+{
+    QTest::addColumn<QString>("function");
+    QTest::addColumn<bool>("closed");
+    for (const char* function : {"FindNextPrinterChangeNotification",
+                                 "FindClosePrinterChangeNotification", "WaitForSingleObject"})
+        for (const bool closed : {false, true})
+            QTest::addRow("%s, %s", function, closed ? "closed" : "null")
+                << QString::fromLatin1(function) << closed;
+}
+
+void ChangeNotificationsTest::badNotificationFails()
+{
+    QFETCH(QString, function);
+    QFETCH(bool, closed);
+    expectMisuse(function);
+    HANDLE handle = nullptr;
+    if (closed) {
+        handle = watch(m_printer).release();
+        QVERIFY(FindClosePrinterChangeNotification(handle));
+    }
+    DWORD change = 7777;
+    const DWORD error = errorOf([&] {
+        if (function == QLatin1String("FindNextPrinterChangeNotification"))
+            return FindNextPrinterChangeNotification(handle, &change, nullptr, nullptr) != FALSE;
+        if (function == QLatin1String("FindClosePrinterChangeNotification"))
+            return FindClosePrinterChangeNotification(handle) != FALSE;
+        return WaitForSingleObject(handle, INFINITE) != WAIT_FAILED;
+    });
+    QCOMPARE(error, DWORD{ERROR_INVALID_HANDLE});
+    QCOMPARE(change, DWORD{7777});
+}
+
+void ChangeNotificationsTest::invalidHandleValueIsNoNotification()
+{
+    QCOMPARE(errorOf([] { return FindClosePrinterChangeNotification(INVALID_HANDLE_VALUE); }),
+             DWORD{ERROR_INVALID_HANDLE});
+    QCOMPARE(errorOf([] {
+                 return FindNextPrinterChangeNotification(INVALID_HANDLE_VALUE, nullptr, nullptr,
+                                                          nullptr);
+             }),
+             DWORD{ERROR_INVALID_HANDLE});
+}
+
+void ChangeNotificationsTest::closingLeavesThePrinterOpen()
+{
+    Notification notification = watch(m_printer);
+    QVERIFY(FindClosePrinterChangeNotification(notification.release()));
+    writeValue(m_printer);
+    notification = watch(m_printer);
+    QVERIFY(notification);
+    QVERIFY(isQuiet(notification));
+}
+
+QTEST_GUILESS_MAIN(ChangeNotificationsTest)
+#include "tst_change_notifications.moc"

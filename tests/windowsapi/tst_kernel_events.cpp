@@ -1,0 +1,542 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// Events, and the calls that wait for them.
+
+#include "fixture.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtTest/QtTest>
+
+#include <atomic>
+#include <thread>
+#include <vector>
+
+namespace {
+
+EventHandle manualEvent(bool signalled = false)
+{
+    return EventHandle(CreateEventW(nullptr, TRUE, signalled, nullptr));
+}
+
+EventHandle autoEvent(bool signalled = false)
+{
+    return EventHandle(CreateEventW(nullptr, FALSE, signalled, nullptr));
+}
+
+bool isSignalled(const EventHandle& event)
+{
+    return WaitForSingleObject(event.get(), 0) == WAIT_OBJECT_0;
+}
+
+DWORD waitAny(const std::vector<HANDLE>& handles, DWORD milliseconds = 0)
+{
+    return WaitForMultipleObjects(static_cast<DWORD>(handles.size()), handles.data(), FALSE,
+                                  milliseconds);
+}
+
+DWORD waitAll(const std::vector<HANDLE>& handles, DWORD milliseconds = 0)
+{
+    return WaitForMultipleObjects(static_cast<DWORD>(handles.size()), handles.data(), TRUE,
+                                  milliseconds);
+}
+
+HANDLE closedHandle()
+{
+    const HANDLE handle = CreateEventW(nullptr, TRUE, TRUE, nullptr);
+    CloseHandle(handle);
+    return handle;
+}
+
+} // namespace
+
+class KernelEventsTest : public WindowsApiTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initialState_data();
+    void initialState();
+    void manualEventStaysSignalled();
+    void autoEventEndsOneWait();
+    void settingIsNotCounted();
+    void resetEvent_data();
+    void resetEvent();
+
+    void lowestSignalledIndexWins_data();
+    void lowestSignalledIndexWins();
+    void waitingForAnyTakesOnlyWhatItReports();
+    void sameEventTwiceInAnAnyWait();
+    void waitingForAllTakesNothingBeforeAllAreSignalled();
+    void waitingForAllTakesAll();
+    void numberOfObjects_data();
+    void numberOfObjects();
+    void allRefusesAnObjectThatIsListedTwice();
+
+    void timeOut_data();
+    void timeOut();
+
+    void invalidHandleValueIsNeverSignalled_data();
+    void invalidHandleValueIsNeverSignalled();
+    void invalidHandleValueLeavesTheOthersAlone();
+    void invalidHandleValueIsNoEvent();
+    void closingInvalidHandleValueHasNoEffect();
+
+    void badHandleFails_data();
+    void badHandleFails();
+    void badHandleInAListTakesNothing();
+
+    void lastErrorIsOfTheThread();
+    void successLeavesTheLastErrorAlone();
+
+    void settingWakesAThread_data();
+    void settingWakesAThread();
+    void manualEventWakesEveryThread();
+    void autoEventWakesOneThreadASetting();
+    void threadWaitsForAll();
+    void threadTakesTheSignalledOne();
+    void waitingUsesNoProcessor();
+};
+
+void KernelEventsTest::initialState_data()
+{
+    QTest::addColumn<bool>("manualReset");
+    QTest::addColumn<bool>("initial");
+    QTest::newRow("manual, signalled") << true << true;
+    QTest::newRow("manual, not signalled") << true << false;
+    QTest::newRow("auto, signalled") << false << true;
+    QTest::newRow("auto, not signalled") << false << false;
+}
+
+void KernelEventsTest::initialState()
+{
+    QFETCH(bool, manualReset);
+    QFETCH(bool, initial);
+    const EventHandle event(CreateEventW(nullptr, manualReset, initial, nullptr));
+    QVERIFY(event);
+    QCOMPARE(isSignalled(event), initial);
+    QCOMPARE(isSignalled(event), initial && manualReset);
+}
+
+void KernelEventsTest::manualEventStaysSignalled()
+{
+    const EventHandle event = manualEvent();
+    QVERIFY(SetEvent(event.get()));
+    for (int wait = 0; wait < 3; ++wait)
+        QCOMPARE(WaitForSingleObject(event.get(), INFINITE), DWORD{WAIT_OBJECT_0});
+    QVERIFY(ResetEvent(event.get()));
+    QCOMPARE(WaitForSingleObject(event.get(), 0), DWORD{WAIT_TIMEOUT});
+}
+
+void KernelEventsTest::autoEventEndsOneWait()
+{
+    const EventHandle event = autoEvent();
+    QVERIFY(SetEvent(event.get()));
+    QCOMPARE(WaitForSingleObject(event.get(), INFINITE), DWORD{WAIT_OBJECT_0});
+    QCOMPARE(WaitForSingleObject(event.get(), 0), DWORD{WAIT_TIMEOUT});
+}
+
+void KernelEventsTest::settingIsNotCounted()
+{
+    const EventHandle event = autoEvent();
+    QVERIFY(SetEvent(event.get()));
+    QVERIFY(SetEvent(event.get()));
+    QVERIFY(isSignalled(event));
+    QVERIFY(!isSignalled(event));
+}
+
+void KernelEventsTest::resetEvent_data()
+{
+    QTest::addColumn<bool>("manualReset");
+    QTest::newRow("manual") << true;
+    QTest::newRow("auto") << false;
+}
+
+void KernelEventsTest::resetEvent()
+{
+    QFETCH(bool, manualReset);
+    const EventHandle event(CreateEventW(nullptr, manualReset, TRUE, nullptr));
+    QVERIFY(ResetEvent(event.get()));
+    QVERIFY(!isSignalled(event));
+    QVERIFY(ResetEvent(event.get()));
+    QVERIFY(SetEvent(event.get()));
+    QVERIFY(isSignalled(event));
+}
+
+void KernelEventsTest::lowestSignalledIndexWins_data()
+{
+    QTest::addColumn<QList<int>>("signalled");
+    QTest::addColumn<DWORD>("result");
+    QTest::newRow("none") << QList<int>{} << DWORD{WAIT_TIMEOUT};
+    QTest::newRow("first") << QList<int>{0} << DWORD{WAIT_OBJECT_0};
+    QTest::newRow("last") << QList<int>{3} << DWORD{WAIT_OBJECT_0 + 3};
+    QTest::newRow("two") << QList<int>{2, 1} << DWORD{WAIT_OBJECT_0 + 1};
+    QTest::newRow("all") << QList<int>{3, 2, 1, 0} << DWORD{WAIT_OBJECT_0};
+}
+
+void KernelEventsTest::lowestSignalledIndexWins()
+{
+    QFETCH(QList<int>, signalled);
+    QFETCH(DWORD, result);
+    std::vector<EventHandle> events;
+    std::vector<HANDLE> handles;
+    for (int index = 0; index < 4; ++index) {
+        events.push_back(index % 2 ? autoEvent() : manualEvent());
+        handles.push_back(events.back().get());
+    }
+    for (const int index : signalled)
+        QVERIFY(SetEvent(handles[static_cast<std::size_t>(index)]));
+    QCOMPARE(waitAny(handles), result);
+}
+
+void KernelEventsTest::waitingForAnyTakesOnlyWhatItReports()
+{
+    const EventHandle first = autoEvent(true);
+    const EventHandle second = autoEvent(true);
+    QCOMPARE(waitAny({first.get(), second.get()}), DWORD{WAIT_OBJECT_0});
+    QVERIFY(!isSignalled(first));
+    QVERIFY(isSignalled(second));
+}
+
+void KernelEventsTest::sameEventTwiceInAnAnyWait()
+{
+    const EventHandle event = autoEvent(true);
+    QCOMPARE(waitAny({event.get(), event.get()}), DWORD{WAIT_OBJECT_0});
+    QCOMPARE(waitAny({event.get(), event.get()}), DWORD{WAIT_TIMEOUT});
+}
+
+void KernelEventsTest::waitingForAllTakesNothingBeforeAllAreSignalled()
+{
+    const EventHandle first = autoEvent(true);
+    const EventHandle second = autoEvent();
+    QCOMPARE(waitAll({first.get(), second.get()}), DWORD{WAIT_TIMEOUT});
+    QCOMPARE(waitAll({first.get(), second.get()}, 20), DWORD{WAIT_TIMEOUT});
+    QVERIFY(isSignalled(first));
+}
+
+void KernelEventsTest::waitingForAllTakesAll()
+{
+    const EventHandle first = autoEvent(true);
+    const EventHandle second = manualEvent(true);
+    const EventHandle third = autoEvent(true);
+    QCOMPARE(waitAll({first.get(), second.get(), third.get()}, INFINITE), DWORD{WAIT_OBJECT_0});
+    QVERIFY(!isSignalled(first));
+    QVERIFY(isSignalled(second));
+    QVERIFY(!isSignalled(third));
+}
+
+void KernelEventsTest::numberOfObjects_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<DWORD>("error");
+    QTest::newRow("none") << 0 << DWORD{ERROR_INVALID_PARAMETER};
+    QTest::newRow("one") << 1 << DWORD{ERROR_SUCCESS};
+    QTest::newRow("as many as can be") << MAXIMUM_WAIT_OBJECTS << DWORD{ERROR_SUCCESS};
+    QTest::newRow("one too many") << MAXIMUM_WAIT_OBJECTS + 1 << DWORD{ERROR_INVALID_PARAMETER};
+}
+
+void KernelEventsTest::numberOfObjects()
+{
+    QFETCH(int, count);
+    QFETCH(DWORD, error);
+    std::vector<EventHandle> events;
+    // One more than is waited for, so that the list is never a null pointer.
+    std::vector<HANDLE> handles;
+    for (int index = 0; index <= count; ++index) {
+        events.push_back(manualEvent(index == count - 1));
+        handles.push_back(events.back().get());
+    }
+    DWORD result = WAIT_FAILED;
+    QCOMPARE(errorOf([&] {
+                 result =
+                     WaitForMultipleObjects(static_cast<DWORD>(count), handles.data(), FALSE, 0);
+                 return result != WAIT_FAILED;
+             }),
+             error);
+    if (error == ERROR_SUCCESS)
+        QCOMPARE(result, static_cast<DWORD>(WAIT_OBJECT_0) + static_cast<DWORD>(count - 1));
+}
+
+void KernelEventsTest::allRefusesAnObjectThatIsListedTwice()
+{
+    NEEDS_BEHAVIOUR(Behaviour::DistinctWaitObjects);
+    const EventHandle first = manualEvent(true);
+    const EventHandle second = manualEvent(true);
+    QCOMPARE(errorOf([&] {
+                 return waitAll({first.get(), second.get(), first.get()}) != WAIT_FAILED;
+             }),
+             DWORD{ERROR_INVALID_PARAMETER});
+}
+
+void KernelEventsTest::timeOut_data()
+{
+    QTest::addColumn<bool>("all");
+    QTest::addColumn<int>("milliseconds");
+    QTest::newRow("any, at once") << false << 0;
+    QTest::newRow("any, after a while") << false << 60;
+    QTest::newRow("all, at once") << true << 0;
+    QTest::newRow("all, after a while") << true << 60;
+}
+
+void KernelEventsTest::timeOut()
+{
+    QFETCH(bool, all);
+    QFETCH(int, milliseconds);
+    const EventHandle first = manualEvent(all);
+    const EventHandle second = manualEvent();
+    const std::vector<HANDLE> handles{first.get(), second.get()};
+
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(WaitForMultipleObjects(2, handles.data(), all, static_cast<DWORD>(milliseconds)),
+             DWORD{WAIT_TIMEOUT});
+    // The clock of Windows ticks every 16 ms at worst, and a wait may end with the tick before.
+    constexpr int tick = 16;
+    QVERIFY2(timer.elapsed() >= milliseconds - tick, qPrintable(QString::number(timer.elapsed())));
+}
+
+void KernelEventsTest::invalidHandleValueIsNeverSignalled_data()
+{
+    QTest::addColumn<int>("milliseconds");
+    QTest::newRow("at once") << 0;
+    QTest::newRow("after a while") << 30;
+}
+
+void KernelEventsTest::invalidHandleValueIsNeverSignalled()
+{
+    QFETCH(int, milliseconds);
+    const auto limit = static_cast<DWORD>(milliseconds);
+    const EventHandle unset = manualEvent();
+    const EventHandle set = autoEvent(true);
+    QCOMPARE(WaitForSingleObject(INVALID_HANDLE_VALUE, limit), DWORD{WAIT_TIMEOUT});
+    QCOMPARE(waitAny({INVALID_HANDLE_VALUE, unset.get()}, limit), DWORD{WAIT_TIMEOUT});
+    QCOMPARE(waitAll({INVALID_HANDLE_VALUE, set.get()}, limit), DWORD{WAIT_TIMEOUT});
+    QVERIFY(isSignalled(set));
+}
+
+void KernelEventsTest::invalidHandleValueLeavesTheOthersAlone()
+{
+    const EventHandle event = autoEvent(true);
+    QCOMPARE(waitAny({INVALID_HANDLE_VALUE, event.get()}, INFINITE), DWORD{WAIT_OBJECT_0 + 1});
+    QVERIFY(SetEvent(event.get()));
+    QCOMPARE(waitAny({event.get(), INVALID_HANDLE_VALUE}, INFINITE), DWORD{WAIT_OBJECT_0});
+}
+
+void KernelEventsTest::invalidHandleValueIsNoEvent()
+{
+    QCOMPARE(errorOf([] { return SetEvent(INVALID_HANDLE_VALUE); }), DWORD{ERROR_INVALID_HANDLE});
+    QCOMPARE(errorOf([] { return ResetEvent(INVALID_HANDLE_VALUE); }), DWORD{ERROR_INVALID_HANDLE});
+}
+
+void KernelEventsTest::closingInvalidHandleValueHasNoEffect()
+{
+    QVERIFY(CloseHandle(INVALID_HANDLE_VALUE));
+    QVERIFY(CloseHandle(INVALID_HANDLE_VALUE));
+    QCOMPARE(WaitForSingleObject(INVALID_HANDLE_VALUE, 0), DWORD{WAIT_TIMEOUT});
+}
+
+void KernelEventsTest::badHandleFails_data()
+{
+    QTest::addColumn<QString>("function");
+    QTest::addColumn<bool>("closed");
+    for (const char* function :
+         {"SetEvent", "ResetEvent", "CloseHandle", "WaitForSingleObject", "WaitForMultipleObjects"})
+        for (const bool closed : {false, true})
+            QTest::addRow("%s, %s", function, closed ? "closed" : "null")
+                << QString::fromLatin1(function) << closed;
+}
+
+void KernelEventsTest::badHandleFails()
+{
+    QFETCH(QString, function);
+    QFETCH(bool, closed);
+    expectMisuse(function);
+    const HANDLE handle = closed ? closedHandle() : nullptr;
+    const DWORD error = errorOf([&] {
+        if (function == QLatin1String("SetEvent"))
+            return SetEvent(handle) != FALSE;
+        if (function == QLatin1String("ResetEvent"))
+            return ResetEvent(handle) != FALSE;
+        if (function == QLatin1String("CloseHandle"))
+            return CloseHandle(handle) != FALSE;
+        if (function == QLatin1String("WaitForSingleObject"))
+            return WaitForSingleObject(handle, INFINITE) != WAIT_FAILED;
+        return waitAny({handle}, INFINITE) != WAIT_FAILED;
+    });
+    QCOMPARE(error, DWORD{ERROR_INVALID_HANDLE});
+}
+
+void KernelEventsTest::badHandleInAListTakesNothing()
+{
+    expectMisuse(QStringLiteral("WaitForMultipleObjects"));
+    const EventHandle event = autoEvent(true);
+    const HANDLE closed = closedHandle();
+    QCOMPARE(errorOf([&] {
+                 return waitAny({event.get(), closed}) != WAIT_FAILED;
+             }),
+             DWORD{ERROR_INVALID_HANDLE});
+    QVERIFY(isSignalled(event));
+}
+
+void KernelEventsTest::lastErrorIsOfTheThread()
+{
+    SetLastError(1234);
+    DWORD atStart = 1;
+    DWORD atEnd = 0;
+    std::jthread([&] {
+        atStart = GetLastError();
+        SetEvent(INVALID_HANDLE_VALUE);
+        atEnd = GetLastError();
+    }).join();
+    QCOMPARE(atStart, DWORD{ERROR_SUCCESS});
+    QCOMPARE(atEnd, DWORD{ERROR_INVALID_HANDLE});
+    QCOMPARE(GetLastError(), DWORD{1234});
+}
+
+void KernelEventsTest::successLeavesTheLastErrorAlone()
+{
+    const EventHandle event = manualEvent();
+    const HANDLE handle = event.get();
+    SetLastError(1234);
+    SetEvent(handle);
+    QCOMPARE(GetLastError(), DWORD{1234});
+    WaitForSingleObject(handle, 0);
+    QCOMPARE(GetLastError(), DWORD{1234});
+    ResetEvent(handle);
+    QCOMPARE(GetLastError(), DWORD{1234});
+    // A time-out is an answer, not a failure.
+    WaitForMultipleObjects(1, &handle, FALSE, 0);
+    QCOMPARE(GetLastError(), DWORD{1234});
+}
+
+void KernelEventsTest::settingWakesAThread_data()
+{
+    QTest::addColumn<bool>("manualReset");
+    QTest::addColumn<DWORD>("milliseconds");
+    QTest::newRow("manual, without a limit") << true << DWORD{INFINITE};
+    QTest::newRow("auto, without a limit") << false << DWORD{INFINITE};
+    QTest::newRow("manual, with a limit") << true << DWORD{50000};
+    QTest::newRow("auto, with a limit") << false << DWORD{50000};
+}
+
+void KernelEventsTest::settingWakesAThread()
+{
+    QFETCH(bool, manualReset);
+    QFETCH(DWORD, milliseconds);
+    const EventHandle event(CreateEventW(nullptr, manualReset, FALSE, nullptr));
+    const EventHandle started = autoEvent();
+    DWORD result = WAIT_FAILED;
+    {
+        const std::jthread waiter([&] {
+            SetEvent(started.get());
+            result = WaitForSingleObject(event.get(), milliseconds);
+        });
+        QCOMPARE(WaitForSingleObject(started.get(), INFINITE), DWORD{WAIT_OBJECT_0});
+        QVERIFY(SetEvent(event.get()));
+    }
+    QCOMPARE(result, DWORD{WAIT_OBJECT_0});
+    QCOMPARE(isSignalled(event), manualReset);
+}
+
+void KernelEventsTest::manualEventWakesEveryThread()
+{
+    const EventHandle event = manualEvent();
+    std::atomic<int> woken = 0;
+    {
+        std::vector<std::jthread> waiters;
+        for (int count = 0; count < 4; ++count) {
+            waiters.emplace_back([&] {
+                if (WaitForSingleObject(event.get(), INFINITE) == WAIT_OBJECT_0)
+                    ++woken;
+            });
+        }
+        QVERIFY(SetEvent(event.get()));
+    }
+    QCOMPARE(woken.load(), 4);
+}
+
+void KernelEventsTest::autoEventWakesOneThreadASetting()
+{
+    constexpr int threads = 4;
+    const EventHandle event = autoEvent();
+    const EventHandle woke = autoEvent();
+    std::atomic<int> woken = 0;
+    std::vector<std::jthread> waiters;
+    for (int count = 0; count < threads; ++count) {
+        waiters.emplace_back([&] {
+            if (WaitForSingleObject(event.get(), INFINITE) != WAIT_OBJECT_0)
+                return;
+            ++woken;
+            SetEvent(woke.get());
+        });
+    }
+    QList<int> afterEachSetting;
+    for (int count = 0; count < threads; ++count) {
+        SetEvent(event.get());
+        WaitForSingleObject(woke.get(), INFINITE);
+        afterEachSetting.append(woken);
+    }
+    waiters.clear();
+    QCOMPARE(afterEachSetting, QList<int>({1, 2, 3, 4}));
+    QVERIFY(!isSignalled(event));
+}
+
+void KernelEventsTest::threadWaitsForAll()
+{
+    const EventHandle first = autoEvent();
+    const EventHandle second = autoEvent();
+    const EventHandle started = autoEvent();
+    std::atomic<bool> bothSet = false;
+    bool wasEarly = false;
+    DWORD result = WAIT_FAILED;
+    {
+        const std::jthread waiter([&] {
+            SetEvent(started.get());
+            result = waitAll({first.get(), second.get()}, INFINITE);
+            wasEarly = !bothSet;
+        });
+        WaitForSingleObject(started.get(), INFINITE);
+        SetEvent(second.get());
+        // Still there: the waiting thread takes nothing before it can take both.
+        const bool secondIsLeft = isSignalled(second);
+        SetEvent(second.get());
+        bothSet = true;
+        SetEvent(first.get());
+        QVERIFY(secondIsLeft);
+    }
+    QVERIFY(!wasEarly);
+    QCOMPARE(result, DWORD{WAIT_OBJECT_0});
+    QVERIFY(!isSignalled(first));
+    QVERIFY(!isSignalled(second));
+}
+
+void KernelEventsTest::threadTakesTheSignalledOne()
+{
+    const EventHandle first = autoEvent();
+    const EventHandle second = autoEvent();
+    const EventHandle started = autoEvent();
+    DWORD result = WAIT_FAILED;
+    {
+        const std::jthread waiter([&] {
+            SetEvent(started.get());
+            result = waitAny({first.get(), INVALID_HANDLE_VALUE, second.get()}, INFINITE);
+        });
+        WaitForSingleObject(started.get(), INFINITE);
+        SetEvent(second.get());
+    }
+    QCOMPARE(result, DWORD{WAIT_OBJECT_0 + 2});
+}
+
+void KernelEventsTest::waitingUsesNoProcessor()
+{
+    using namespace std::chrono_literals;
+    const EventHandle event = manualEvent();
+    const EventHandle other = autoEvent();
+    const auto before = fixture::processorTimeOfThisThread();
+    QCOMPARE(waitAny({event.get(), other.get(), INVALID_HANDLE_VALUE}, 400), DWORD{WAIT_TIMEOUT});
+    const auto used = fixture::processorTimeOfThisThread() - before;
+    // A wait that asked again and again would have had the processor for most of the 400 ms.
+    QVERIFY2(used < 50ms, qPrintable(QString::number(used / 1us) + QStringLiteral(" us")));
+}
+
+QTEST_GUILESS_MAIN(KernelEventsTest)
+#include "tst_kernel_events.moc"

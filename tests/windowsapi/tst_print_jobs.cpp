@@ -1,0 +1,282 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// Documents, their pages and the bytes that are sent to a printer.
+
+#include "fixture.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include <vector>
+
+class PrintJobsTest : public WindowsApiTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() override;
+    void cleanup() override;
+
+    void bytesArriveInOrder();
+    void pagesFollowEachOther();
+    void bytesAreNotInterpreted();
+    void writingNothing();
+    void jobsHaveNumbersOfTheirOwn();
+    void jobIsCountedWhileItIsWritten();
+
+    void documentNeedsALevel_data();
+    void documentNeedsALevel();
+    void onlyOneDocumentAtATime();
+    void handlesHaveDocumentsOfTheirOwn();
+    void outsideOfADocument_data();
+    void outsideOfADocument();
+    void afterTheDocument();
+    void badHandleFails_data();
+    void badHandleFails();
+
+private:
+    DWORD startDocument(const PrinterHandle& printer, const QString& name);
+    DWORD startDocument() { return startDocument(m_printer, QStringLiteral("label.bin")); }
+    bool write(const PrinterHandle& printer, QByteArray bytes);
+    QByteArray printed(const QString& name = QStringLiteral("label.bin")) const
+    {
+        return fixture::printedBytes(m_name, outputFile(name));
+    }
+    QString outputFile(const QString& name) const
+    {
+        return QDir::toNativeSeparators(m_folder->filePath(name));
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_name;
+    PrinterHandle m_printer;
+};
+
+void PrintJobsTest::init()
+{
+    WindowsApiTest::init();
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+    m_name = fixture::uniqueName(QStringLiteral("Vx Jobs"));
+    QVERIFY(fixture::addPrinter({.name = m_name}));
+    m_printer = openPrinter(m_name);
+    QVERIFY(m_printer);
+}
+
+void PrintJobsTest::cleanup()
+{
+    m_printer.reset();
+    WindowsApiTest::cleanup();
+}
+
+DWORD PrintJobsTest::startDocument(const PrinterHandle& printer, const QString& name)
+{
+    WideText document(QStringLiteral("Label"));
+    WideText file(outputFile(name));
+    WideText datatype(QStringLiteral("RAW"));
+    DOC_INFO_1W info{};
+    info.pDocName = document;
+    info.pOutputFile = file;
+    info.pDatatype = datatype;
+    return StartDocPrinterW(printer.get(), 1, reinterpret_cast<LPBYTE>(&info));
+}
+
+bool PrintJobsTest::write(const PrinterHandle& printer, QByteArray bytes)
+{
+    DWORD written = 7777;
+    return WritePrinter(printer.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written) &&
+           written == static_cast<DWORD>(bytes.size());
+}
+
+void PrintJobsTest::bytesArriveInOrder()
+{
+    QVERIFY(startDocument() != 0);
+    QVERIFY(StartPagePrinter(m_printer.get()));
+    QVERIFY(write(m_printer, "first, "));
+    QVERIFY(write(m_printer, "second"));
+    QVERIFY(EndPagePrinter(m_printer.get()));
+    QVERIFY(EndDocPrinter(m_printer.get()));
+    QCOMPARE(printed(), "first, second");
+}
+
+void PrintJobsTest::pagesFollowEachOther()
+{
+    QVERIFY(startDocument() != 0);
+    for (const char* page : {"one ", "two ", "three"}) {
+        QVERIFY(StartPagePrinter(m_printer.get()));
+        QVERIFY(write(m_printer, page));
+        QVERIFY(EndPagePrinter(m_printer.get()));
+    }
+    QVERIFY(EndDocPrinter(m_printer.get()));
+    QCOMPARE(printed(), "one two three");
+}
+
+void PrintJobsTest::bytesAreNotInterpreted()
+{
+    QByteArray bytes;
+    for (int value = 0; value < 256; ++value)
+        bytes.append(static_cast<char>(value));
+    bytes = bytes.repeated(300);
+    QVERIFY(startDocument() != 0);
+    QVERIFY(StartPagePrinter(m_printer.get()));
+    QVERIFY(write(m_printer, bytes));
+    QVERIFY(EndPagePrinter(m_printer.get()));
+    QVERIFY(EndDocPrinter(m_printer.get()));
+    QVERIFY(printed() == bytes);
+}
+
+void PrintJobsTest::writingNothing()
+{
+    QVERIFY(startDocument() != 0);
+    QVERIFY(StartPagePrinter(m_printer.get()));
+    QVERIFY(write(m_printer, "a"));
+    QVERIFY(write(m_printer, QByteArray()));
+    QVERIFY(write(m_printer, "b"));
+    QVERIFY(EndPagePrinter(m_printer.get()));
+    QVERIFY(EndDocPrinter(m_printer.get()));
+    QCOMPARE(printed(), "ab");
+}
+
+void PrintJobsTest::jobsHaveNumbersOfTheirOwn()
+{
+    QList<DWORD> numbers;
+    for (int document = 0; document < 3; ++document) {
+        numbers.append(startDocument());
+        QVERIFY(write(m_printer, "x"));
+        QVERIFY(EndDocPrinter(m_printer.get()));
+    }
+    QVERIFY(!numbers.contains(DWORD{0}));
+    QVERIFY(numbers.at(0) != numbers.at(1));
+    QVERIFY(numbers.at(1) != numbers.at(2));
+    QVERIFY(numbers.at(0) != numbers.at(2));
+}
+
+void PrintJobsTest::jobIsCountedWhileItIsWritten()
+{
+    NEEDS_BEHAVIOUR(Behaviour::JobCounts);
+    const auto jobCount = [this] {
+        DWORD needed = 0;
+        GetPrinterW(m_printer.get(), 2, nullptr, 0, &needed);
+        std::vector<BYTE> block(needed);
+        const BOOL done = GetPrinterW(m_printer.get(), 2, block.data(), needed, &needed);
+        return done ? reinterpret_cast<const PRINTER_INFO_2W*>(block.data())->cJobs : DWORD{7777};
+    };
+    QCOMPARE(jobCount(), DWORD{0});
+    QVERIFY(startDocument() != 0);
+    QCOMPARE(jobCount(), DWORD{1});
+    QVERIFY(EndDocPrinter(m_printer.get()));
+    QTRY_COMPARE(jobCount(), DWORD{0});
+}
+
+void PrintJobsTest::documentNeedsALevel_data()
+{
+    QTest::addColumn<DWORD>("level");
+    QTest::newRow("0") << DWORD{0};
+    QTest::newRow("17") << DWORD{17};
+}
+
+void PrintJobsTest::documentNeedsALevel()
+{
+    QFETCH(DWORD, level);
+    DOC_INFO_1W info{};
+    QCOMPARE(errorOf([&] {
+                 return StartDocPrinterW(m_printer.get(), level, reinterpret_cast<LPBYTE>(&info));
+             }),
+             DWORD{ERROR_INVALID_LEVEL});
+}
+
+void PrintJobsTest::onlyOneDocumentAtATime()
+{
+    QVERIFY(startDocument() != 0);
+    QCOMPARE(errorOf([&] { return startDocument(m_printer, QStringLiteral("other.bin")); }),
+             DWORD{ERROR_INVALID_PRINTER_STATE});
+    QVERIFY(write(m_printer, "still the first"));
+    QVERIFY(EndDocPrinter(m_printer.get()));
+    QCOMPARE(printed(), "still the first");
+}
+
+void PrintJobsTest::handlesHaveDocumentsOfTheirOwn()
+{
+    const PrinterHandle other = openPrinter(m_name);
+    QVERIFY(startDocument() != 0);
+    QVERIFY(startDocument(other, QStringLiteral("other.bin")) != 0);
+    QVERIFY(write(other, "b"));
+    QVERIFY(write(m_printer, "a"));
+    QVERIFY(EndDocPrinter(m_printer.get()));
+    QCOMPARE(errorOf([&] { return write(m_printer, "a"); }), DWORD{ERROR_SPL_NO_STARTDOC});
+    QVERIFY(write(other, "b"));
+    QVERIFY(EndDocPrinter(other.get()));
+    QCOMPARE(printed(QStringLiteral("other.bin")), "bb");
+}
+
+void PrintJobsTest::outsideOfADocument_data()
+{
+    QTest::addColumn<QString>("function");
+    for (const char* function :
+         {"StartPagePrinter", "WritePrinter", "EndPagePrinter", "EndDocPrinter"})
+        QTest::newRow(function) << QString::fromLatin1(function);
+}
+
+namespace {
+
+/// Calls one of the functions that work on an open document.
+BOOL callInDocument(const QString& function, HANDLE printer)
+{
+    char byte = 'x';
+    DWORD written = 0;
+    if (function == QLatin1String("StartPagePrinter"))
+        return StartPagePrinter(printer);
+    if (function == QLatin1String("WritePrinter"))
+        return WritePrinter(printer, &byte, 1, &written);
+    if (function == QLatin1String("EndPagePrinter"))
+        return EndPagePrinter(printer);
+    return EndDocPrinter(printer);
+}
+
+} // namespace
+
+void PrintJobsTest::outsideOfADocument()
+{
+    QFETCH(QString, function);
+    if (function.contains(QLatin1String("Page")))
+        NEEDS_BEHAVIOUR(Behaviour::PageCalls);
+    QCOMPARE(errorOf([&] { return callInDocument(function, m_printer.get()); }),
+             DWORD{ERROR_SPL_NO_STARTDOC});
+}
+
+void PrintJobsTest::afterTheDocument()
+{
+    QVERIFY(startDocument() != 0);
+    QVERIFY(write(m_printer, "x"));
+    QVERIFY(EndDocPrinter(m_printer.get()));
+    DWORD written = 7777;
+    char byte = 'y';
+    QCOMPARE(errorOf([&] { return WritePrinter(m_printer.get(), &byte, 1, &written); }),
+             DWORD{ERROR_SPL_NO_STARTDOC});
+    QCOMPARE(errorOf([&] { return EndDocPrinter(m_printer.get()); }), DWORD{ERROR_SPL_NO_STARTDOC});
+    QCOMPARE(printed(), "x");
+}
+
+void PrintJobsTest::badHandleFails_data()
+{
+    outsideOfADocument_data();
+    QTest::newRow("StartDocPrinterW") << QStringLiteral("StartDocPrinterW");
+}
+
+void PrintJobsTest::badHandleFails()
+{
+    QFETCH(QString, function);
+    if (function.contains(QLatin1String("Page")))
+        NEEDS_BEHAVIOUR(Behaviour::PageCalls);
+    expectMisuse(function);
+    const DWORD error = errorOf([&]() -> BOOL {
+        if (function == QLatin1String("StartDocPrinterW"))
+            return startDocument(PrinterHandle(), QStringLiteral("none.bin")) != 0;
+        return callInDocument(function, nullptr);
+    });
+    QCOMPARE(error, DWORD{ERROR_INVALID_HANDLE});
+}
+
+QTEST_GUILESS_MAIN(PrintJobsTest)
+#include "tst_print_jobs.moc"

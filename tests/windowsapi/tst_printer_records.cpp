@@ -1,0 +1,754 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// The spooler's records of printers: reading, changing, listing, adding and deleting them.
+
+#include "fixture.h"
+
+#include <QtTest/QtTest>
+
+#include <vector>
+
+namespace {
+
+constexpr BYTE filler = 0xCC;
+constexpr DWORD noSize = 7777;
+
+/// A block that a call filled with records and their texts.
+struct Block
+{
+    BOOL done = FALSE;
+    DWORD error = 0;
+    DWORD needed = noSize;
+    DWORD returned = noSize;
+    std::vector<BYTE> bytes;
+
+    template <typename Record>
+    const Record& record(std::size_t index = 0) const
+    {
+        return reinterpret_cast<const Record*>(bytes.data())[index];
+    }
+    bool isUntouched() const
+    {
+        return std::all_of(bytes.begin(), bytes.end(), [](BYTE byte) { return byte == filler; });
+    }
+    /// The text and its terminating zero lie in the block behind the records.
+    bool holds(LPCWSTR text, std::size_t sizeOfRecords) const
+    {
+        const auto* start = reinterpret_cast<const BYTE*>(text);
+        const auto size = static_cast<std::size_t>(fromWide(text).size() + 1) * sizeof(WCHAR);
+        return start >= bytes.data() + sizeOfRecords && start + size <= bytes.data() + needed;
+    }
+};
+
+Block getPrinter(HANDLE printer, DWORD level, DWORD size)
+{
+    Block block;
+    block.bytes.assign(size, filler);
+    block.error = errorOf([&] {
+        block.done =
+            GetPrinterW(printer, level, size ? block.bytes.data() : nullptr, size, &block.needed);
+        return block.done;
+    });
+    return block;
+}
+
+/// With a block of the size that is asked for.
+Block getPrinter(HANDLE printer, DWORD level)
+{
+    return getPrinter(printer, level, getPrinter(printer, level, 0).needed);
+}
+
+Block enumPrinters(DWORD flags, DWORD size, DWORD level = 2)
+{
+    Block block;
+    block.bytes.assign(size, filler);
+    block.error = errorOf([&] {
+        block.done = EnumPrintersW(flags, nullptr, level, size ? block.bytes.data() : nullptr, size,
+                                   &block.needed, &block.returned);
+        return block.done;
+    });
+    return block;
+}
+
+QStringList listedPrinters(DWORD flags)
+{
+    const Block block = enumPrinters(flags, enumPrinters(flags, 0).needed);
+    QStringList names;
+    for (DWORD index = 0; block.done && index < block.returned; ++index)
+        names.append(fromWide(block.record<PRINTER_INFO_2W>(index).pPrinterName));
+    return names;
+}
+
+QString defaultPrinter()
+{
+    DWORD size = 0;
+    GetDefaultPrinterW(nullptr, &size);
+    std::vector<WCHAR> name(size);
+    return size && GetDefaultPrinterW(name.data(), &size) ? fromWide(name.data()) : QString();
+}
+
+/// The user's choice of a default printer outlives these tests.
+class KeptDefaultPrinter
+{
+public:
+    KeptDefaultPrinter() = default;
+    ~KeptDefaultPrinter()
+    {
+        if (!m_before.isEmpty())
+            SetDefaultPrinterW(WideText(m_before));
+    }
+    Q_DISABLE_COPY_MOVE(KeptDefaultPrinter)
+
+private:
+    const QString m_before = defaultPrinter();
+};
+
+constexpr DWORD allLocal = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
+
+} // namespace
+
+class PrinterRecordsTest : public WindowsApiTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() override;
+    void cleanup() override;
+
+    void sizeOfARecord_data();
+    void sizeOfARecord();
+    void longRecord();
+    void shortRecord();
+    void attributes_data();
+    void attributes();
+    void unknownLevel_data();
+    void unknownLevel();
+    void badHandleFails_data();
+    void badHandleFails();
+
+    void changingARecord();
+    void changingTheName();
+    void changingToANameThatIsTaken();
+    void changingNeedsTheRightToAdminister();
+    void pausing();
+    void unknownCommand();
+
+    void sizeOfAList();
+    void listHoldsRecords();
+    void listGrowsBetweenSizingAndFilling();
+    void listedByFlags_data();
+    void listedByFlags();
+    void listOfNothing();
+    void listOfAnUnknownLevel();
+
+    void choosingTheDefaultPrinter();
+    void sizeOfTheDefaultPrintersName();
+    void defaultPrinterWithoutACount();
+    void choosingAnAbsentPrinter();
+    void choosingNothingKeepsTheChoice_data();
+    void choosingNothingKeepsTheChoice();
+    void deletedPrinterIsNoDefault();
+
+    void addingGivesAHandleThatAdministers();
+    void addingRefuses_data();
+    void addingRefuses();
+    void addingTwice_data();
+    void addingTwice();
+
+    void deletedPrinterIsGone();
+    void handlesOfADeletedPrinter();
+    void nameOfADeletedPrinterIsFree();
+    void deletingNeedsTheRightToAdminister();
+
+private:
+    QString m_name;
+    PrinterHandle m_printer;
+};
+
+void PrinterRecordsTest::init()
+{
+    WindowsApiTest::init();
+    m_name = fixture::uniqueName(QStringLiteral("Vx Record"));
+    QVERIFY(fixture::addPrinter({.name = m_name,
+                                 .driver = QStringLiteral("Vx Record Driver"),
+                                 .port = QStringLiteral("USB004")}));
+    m_printer = openPrinter(m_name);
+    QVERIFY(m_printer);
+}
+
+void PrinterRecordsTest::cleanup()
+{
+    m_printer.reset();
+    WindowsApiTest::cleanup();
+}
+
+void PrinterRecordsTest::sizeOfARecord_data()
+{
+    QTest::addColumn<DWORD>("level");
+    QTest::addColumn<int>("sizeOfRecord");
+    QTest::newRow("1") << DWORD{1} << static_cast<int>(sizeof(PRINTER_INFO_1W));
+    QTest::newRow("2") << DWORD{2} << static_cast<int>(sizeof(PRINTER_INFO_2W));
+}
+
+void PrinterRecordsTest::sizeOfARecord()
+{
+    QFETCH(DWORD, level);
+    QFETCH(int, sizeOfRecord);
+    const Block sizing = getPrinter(m_printer.get(), level, 0);
+    QCOMPARE(sizing.error, DWORD{ERROR_INSUFFICIENT_BUFFER});
+    const DWORD needed = sizing.needed;
+    QVERIFY(needed > static_cast<DWORD>(sizeOfRecord + m_name.size() * 2));
+    QVERIFY(needed < 10000);
+
+    const Block tooShort = getPrinter(m_printer.get(), level, needed - 1);
+    QCOMPARE(tooShort.error, DWORD{ERROR_INSUFFICIENT_BUFFER});
+    QCOMPARE(tooShort.needed, needed);
+
+    const Block exact = getPrinter(m_printer.get(), level, needed);
+    QCOMPARE(exact.error, DWORD{ERROR_SUCCESS});
+    QCOMPARE(exact.needed, needed);
+
+    const Block larger = getPrinter(m_printer.get(), level, needed + 500);
+    QCOMPARE(larger.error, DWORD{ERROR_SUCCESS});
+    QCOMPARE(larger.needed, needed);
+}
+
+void PrinterRecordsTest::longRecord()
+{
+    const Block block = getPrinter(m_printer.get(), 2);
+    QCOMPARE(block.error, DWORD{ERROR_SUCCESS});
+    const auto& record = block.record<PRINTER_INFO_2W>();
+    QCOMPARE(fromWide(record.pPrinterName), m_name);
+    QCOMPARE(fromWide(record.pDriverName), QStringLiteral("Vx Record Driver"));
+    QCOMPARE(fromWide(record.pPortName), QStringLiteral("USB004"));
+    QCOMPARE(fromWide(record.pPrintProcessor).toLower(), QStringLiteral("winprint"));
+    QCOMPARE(fromWide(record.pDatatype), QStringLiteral("RAW"));
+    QCOMPARE(fromWide(record.pServerName), QString());
+    QCOMPARE(record.Attributes, DWORD{PRINTER_ATTRIBUTE_LOCAL});
+    QCOMPARE(record.Status, DWORD{0});
+    QCOMPARE(record.cJobs, DWORD{0});
+    for (const LPWSTR text : {record.pPrinterName, record.pDriverName, record.pPortName,
+                              record.pPrintProcessor, record.pDatatype})
+        QVERIFY(block.holds(text, sizeof record));
+}
+
+void PrinterRecordsTest::shortRecord()
+{
+    const Block block = getPrinter(m_printer.get(), 1);
+    QCOMPARE(block.error, DWORD{ERROR_SUCCESS});
+    const auto& record = block.record<PRINTER_INFO_1W>();
+    QCOMPARE(fromWide(record.pName), m_name);
+    QVERIFY(fromWide(record.pDescription).startsWith(m_name));
+    QVERIFY(record.Flags & PRINTER_ENUM_ICON8);
+    QVERIFY(block.holds(record.pName, sizeof record));
+    QVERIFY(block.holds(record.pDescription, sizeof record));
+}
+
+void PrinterRecordsTest::attributes_data()
+{
+    QTest::addColumn<DWORD>("attributes");
+    QTest::newRow("local") << DWORD{PRINTER_ATTRIBUTE_LOCAL};
+    QTest::newRow("shared") << DWORD{PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_SHARED};
+    QTest::newRow("offline") << DWORD{PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_WORK_OFFLINE};
+}
+
+void PrinterRecordsTest::attributes()
+{
+    QFETCH(DWORD, attributes);
+    const QString name = fixture::uniqueName(QStringLiteral("Vx Attributes"));
+    QVERIFY(fixture::addPrinter({.name = name, .attributes = attributes}));
+    const PrinterHandle printer = openPrinter(name);
+    const Block block = getPrinter(printer.get(), 2);
+    QCOMPARE(block.error, DWORD{ERROR_SUCCESS});
+    QCOMPARE(block.record<PRINTER_INFO_2W>().Attributes, attributes);
+}
+
+void PrinterRecordsTest::unknownLevel_data()
+{
+    QTest::addColumn<QString>("function");
+    QTest::newRow("GetPrinterW") << QStringLiteral("GetPrinterW");
+    QTest::newRow("SetPrinterW") << QStringLiteral("SetPrinterW");
+}
+
+void PrinterRecordsTest::unknownLevel()
+{
+    QFETCH(QString, function);
+    constexpr DWORD unknown = 17;
+    if (function == QLatin1String("GetPrinterW")) {
+        const Block block = getPrinter(m_printer.get(), unknown, 1000);
+        QCOMPARE(block.error, DWORD{ERROR_INVALID_LEVEL});
+        QVERIFY(block.isUntouched());
+        return;
+    }
+    PRINTER_INFO_2W info{};
+    QCOMPARE(errorOf([&] {
+                 return SetPrinterW(m_printer.get(), unknown, reinterpret_cast<LPBYTE>(&info), 0);
+             }),
+             DWORD{ERROR_INVALID_LEVEL});
+}
+
+void PrinterRecordsTest::badHandleFails_data()
+{
+    QTest::addColumn<QString>("function");
+    QTest::addColumn<bool>("closed");
+    for (const char* function : {"GetPrinterW", "DeletePrinter"})
+        for (const bool closed : {false, true})
+            QTest::addRow("%s, %s", function, closed ? "closed" : "null")
+                << QString::fromLatin1(function) << closed;
+}
+
+void PrinterRecordsTest::badHandleFails()
+{
+    QFETCH(QString, function);
+    QFETCH(bool, closed);
+    expectMisuse(function);
+    const HANDLE handle = closed ? m_printer.get() : nullptr;
+    if (closed)
+        m_printer.reset();
+    const DWORD error = function == QLatin1String("GetPrinterW")
+                            ? getPrinter(handle, 2, 1000).error
+                            : errorOf([&] { return DeletePrinter(handle); });
+    QCOMPARE(error, DWORD{ERROR_INVALID_HANDLE});
+}
+
+namespace {
+
+/// What every change of a record starts from: the record as it is.
+struct ChangedRecord
+{
+    explicit ChangedRecord(HANDLE printer)
+        : block(getPrinter(printer, 2))
+        , info(block.record<PRINTER_INFO_2W>())
+    {
+        info.pSecurityDescriptor = nullptr; // it is to stay as it is
+    }
+    BOOL apply(HANDLE printer)
+    {
+        return SetPrinterW(printer, 2, reinterpret_cast<LPBYTE>(&info), 0);
+    }
+
+    Block block;
+    PRINTER_INFO_2W info;
+};
+
+} // namespace
+
+void PrinterRecordsTest::changingARecord()
+{
+    ChangedRecord changed(m_printer.get());
+    WideText comment(QStringLiteral("by the door"));
+    WideText location(QStringLiteral("Hall 2"));
+    WideText port(QStringLiteral("USB007"));
+    changed.info.pComment = comment;
+    changed.info.pLocation = location;
+    changed.info.pPortName = port;
+    changed.info.Attributes = PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_WORK_OFFLINE;
+    QVERIFY(changed.apply(m_printer.get()));
+
+    const PrinterHandle other = openPrinter(m_name);
+    const Block block = getPrinter(other.get(), 2);
+    const auto& record = block.record<PRINTER_INFO_2W>();
+    QCOMPARE(fromWide(record.pComment), QStringLiteral("by the door"));
+    QCOMPARE(fromWide(record.pLocation), QStringLiteral("Hall 2"));
+    QCOMPARE(fromWide(record.pPortName), QStringLiteral("USB007"));
+    QCOMPARE(fromWide(record.pDriverName), QStringLiteral("Vx Record Driver"));
+    QCOMPARE(record.Attributes, DWORD{PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_WORK_OFFLINE});
+}
+
+void PrinterRecordsTest::changingTheName()
+{
+    NEEDS_BEHAVIOUR(Behaviour::UniquePrinterNames);
+    const QString newName = fixture::uniqueName(QStringLiteral("Vx Renamed"));
+    WideText name(newName);
+    ChangedRecord changed(m_printer.get());
+    changed.info.pPrinterName = name;
+    QVERIFY(changed.apply(m_printer.get()));
+    QVERIFY(listedPrinters(allLocal).contains(newName));
+    QVERIFY(!listedPrinters(allLocal).contains(m_name));
+    // The handle is the printer's, not the name's.
+    QCOMPARE(fromWide(getPrinter(m_printer.get(), 2).record<PRINTER_INFO_2W>().pPrinterName),
+             newName);
+    QVERIFY(DeletePrinter(m_printer.get()));
+}
+
+void PrinterRecordsTest::changingToANameThatIsTaken()
+{
+    NEEDS_BEHAVIOUR(Behaviour::UniquePrinterNames);
+    const QString taken = fixture::uniqueName(QStringLiteral("Vx Taken"));
+    QVERIFY(fixture::addPrinter({.name = taken}));
+    WideText name(taken);
+    ChangedRecord changed(m_printer.get());
+    changed.info.pPrinterName = name;
+    QCOMPARE(errorOf([&] { return changed.apply(m_printer.get()); }),
+             DWORD{ERROR_PRINTER_ALREADY_EXISTS});
+    QVERIFY(listedPrinters(allLocal).contains(m_name));
+}
+
+void PrinterRecordsTest::changingNeedsTheRightToAdminister()
+{
+    NEEDS_BEHAVIOUR(Behaviour::AccessRights);
+    const PrinterHandle used = openPrinter(m_name, PRINTER_ACCESS_USE);
+    ChangedRecord changed(used.get());
+    changed.info.Attributes |= PRINTER_ATTRIBUTE_WORK_OFFLINE;
+    QCOMPARE(errorOf([&] { return changed.apply(used.get()); }), DWORD{ERROR_ACCESS_DENIED});
+    QCOMPARE(getPrinter(used.get(), 2).record<PRINTER_INFO_2W>().Attributes,
+             DWORD{PRINTER_ATTRIBUTE_LOCAL});
+}
+
+void PrinterRecordsTest::pausing()
+{
+    NEEDS_BEHAVIOUR(Behaviour::PrinterCommands);
+    const auto isPaused = [this] {
+        return (getPrinter(m_printer.get(), 2).record<PRINTER_INFO_2W>().Status &
+                PRINTER_STATUS_PAUSED) != 0;
+    };
+    QVERIFY(SetPrinterW(m_printer.get(), 0, nullptr, PRINTER_CONTROL_PAUSE));
+    QVERIFY(isPaused());
+    QVERIFY(SetPrinterW(m_printer.get(), 0, nullptr, PRINTER_CONTROL_RESUME));
+    QVERIFY(!isPaused());
+}
+
+void PrinterRecordsTest::unknownCommand()
+{
+    NEEDS_BEHAVIOUR(Behaviour::PrinterCommands);
+    QCOMPARE(errorOf([&] { return SetPrinterW(m_printer.get(), 0, nullptr, 99); }),
+             DWORD{ERROR_INVALID_PRINTER_COMMAND});
+}
+
+void PrinterRecordsTest::sizeOfAList()
+{
+    const Block sizing = enumPrinters(allLocal, 0);
+    QCOMPARE(sizing.error, DWORD{ERROR_INSUFFICIENT_BUFFER});
+    QCOMPARE(sizing.returned, DWORD{0});
+    const DWORD needed = sizing.needed;
+    QVERIFY(needed > sizeof(PRINTER_INFO_2W));
+
+    const Block tooShort = enumPrinters(allLocal, needed - 1);
+    QCOMPARE(tooShort.error, DWORD{ERROR_INSUFFICIENT_BUFFER});
+    QCOMPARE(tooShort.returned, DWORD{0});
+    QCOMPARE(tooShort.needed, needed);
+
+    const Block exact = enumPrinters(allLocal, needed);
+    QCOMPARE(exact.error, DWORD{ERROR_SUCCESS});
+    QCOMPARE(exact.needed, needed);
+    QVERIFY(exact.returned >= 1);
+}
+
+void PrinterRecordsTest::listHoldsRecords()
+{
+    const QString second = fixture::uniqueName(QStringLiteral("Vx Record"));
+    QVERIFY(fixture::addPrinter(
+        {.name = second,
+         .port = QStringLiteral("USB009"),
+         .attributes = PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_WORK_OFFLINE}));
+    const Block block = enumPrinters(allLocal, enumPrinters(allLocal, 0).needed);
+    QVERIFY(block.done);
+    QHash<QString, PRINTER_INFO_2W> records;
+    for (DWORD index = 0; index < block.returned; ++index) {
+        const auto& record = block.record<PRINTER_INFO_2W>(index);
+        QVERIFY(block.holds(record.pPrinterName, block.returned * sizeof record));
+        records.insert(fromWide(record.pPrinterName), record);
+    }
+    QCOMPARE(records.size(), static_cast<qsizetype>(block.returned));
+    QVERIFY(records.contains(m_name));
+    QCOMPARE(fromWide(records.value(m_name).pDriverName), QStringLiteral("Vx Record Driver"));
+    QCOMPARE(fromWide(records.value(m_name).pPortName), QStringLiteral("USB004"));
+    QVERIFY(records.contains(second));
+    QCOMPARE(fromWide(records.value(second).pPortName), QStringLiteral("USB009"));
+    QCOMPARE(records.value(second).Attributes,
+             DWORD{PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_WORK_OFFLINE});
+}
+
+void PrinterRecordsTest::listGrowsBetweenSizingAndFilling()
+{
+    const DWORD needed = enumPrinters(allLocal, 0).needed;
+    QVERIFY(fixture::addPrinter({.name = fixture::uniqueName(QStringLiteral("Vx Late"))}));
+    const Block block = enumPrinters(allLocal, needed);
+    QCOMPARE(block.error, DWORD{ERROR_INSUFFICIENT_BUFFER});
+    QCOMPARE(block.returned, DWORD{0});
+    QVERIFY(block.needed > needed);
+}
+
+void PrinterRecordsTest::listedByFlags_data()
+{
+    QTest::addColumn<DWORD>("flags");
+    QTest::addColumn<bool>("isListed");
+    QTest::newRow("local") << DWORD{PRINTER_ENUM_LOCAL} << true;
+    QTest::newRow("by no name") << DWORD{PRINTER_ENUM_NAME} << true;
+    QTest::newRow("local and connections") << DWORD{allLocal} << true;
+    QTest::newRow("local and by no name") << DWORD{PRINTER_ENUM_LOCAL | PRINTER_ENUM_NAME} << true;
+    QTest::newRow("connections") << DWORD{PRINTER_ENUM_CONNECTIONS} << false;
+}
+
+void PrinterRecordsTest::listedByFlags()
+{
+    QFETCH(DWORD, flags);
+    QFETCH(bool, isListed);
+    QCOMPARE(listedPrinters(flags).count(m_name), isListed ? 1 : 0);
+}
+
+void PrinterRecordsTest::listOfNothing()
+{
+    // No test connects to another machine's printers.
+    const Block block = enumPrinters(PRINTER_ENUM_CONNECTIONS, 0);
+    QCOMPARE(block.error, DWORD{ERROR_SUCCESS});
+    QCOMPARE(block.needed, DWORD{0});
+    QCOMPARE(block.returned, DWORD{0});
+}
+
+void PrinterRecordsTest::listOfAnUnknownLevel()
+{
+    const Block block = enumPrinters(PRINTER_ENUM_LOCAL, 10000, 17);
+    QCOMPARE(block.error, DWORD{ERROR_INVALID_LEVEL});
+    QCOMPARE(block.needed, DWORD{0});
+    QCOMPARE(block.returned, DWORD{0});
+    QVERIFY(block.isUntouched());
+}
+
+void PrinterRecordsTest::choosingTheDefaultPrinter()
+{
+    const KeptDefaultPrinter kept;
+    const QString second = fixture::uniqueName(QStringLiteral("Vx Record"));
+    QVERIFY(fixture::addPrinter({.name = second}));
+    QVERIFY(SetDefaultPrinterW(WideText(second)));
+    QCOMPARE(defaultPrinter(), second);
+    QVERIFY(SetDefaultPrinterW(WideText(m_name)));
+    QCOMPARE(defaultPrinter(), m_name);
+}
+
+void PrinterRecordsTest::sizeOfTheDefaultPrintersName()
+{
+    const KeptDefaultPrinter kept;
+    QVERIFY(SetDefaultPrinterW(WideText(m_name)));
+    const auto needed = static_cast<DWORD>(m_name.size() + 1);
+
+    // Without a place to write to the count says all the same what is needed.
+    DWORD count = 0;
+    QCOMPARE(errorOf([&] { return GetDefaultPrinterW(nullptr, &count); }),
+             DWORD{ERROR_INSUFFICIENT_BUFFER});
+    QCOMPARE(count, needed);
+
+    std::vector<WCHAR> name(needed + 1, WCHAR{0x7E});
+    count = needed - 1;
+    QCOMPARE(errorOf([&] { return GetDefaultPrinterW(name.data(), &count); }),
+             DWORD{ERROR_INSUFFICIENT_BUFFER});
+    QCOMPARE(count, needed);
+
+    for (const DWORD room : {needed, needed + 1}) {
+        count = room;
+        QVERIFY(GetDefaultPrinterW(name.data(), &count));
+        QCOMPARE(count, needed);
+        QCOMPARE(fromWide(name.data()), m_name);
+        QCOMPARE(static_cast<int>(name.back()), 0x7E);
+    }
+}
+
+void PrinterRecordsTest::defaultPrinterWithoutACount()
+{
+    WCHAR name[300];
+    QCOMPARE(errorOf([&] { return GetDefaultPrinterW(name, nullptr); }),
+             DWORD{ERROR_INVALID_PARAMETER});
+}
+
+void PrinterRecordsTest::choosingAnAbsentPrinter()
+{
+    const KeptDefaultPrinter kept;
+    QVERIFY(SetDefaultPrinterW(WideText(m_name)));
+    const QString absent = fixture::uniqueName(QStringLiteral("Vx Absent"));
+    QCOMPARE(errorOf([&] { return SetDefaultPrinterW(WideText(absent)); }),
+             DWORD{ERROR_INVALID_PRINTER_NAME});
+    QCOMPARE(defaultPrinter(), m_name);
+}
+
+void PrinterRecordsTest::choosingNothingKeepsTheChoice_data()
+{
+    QTest::addColumn<bool>("null");
+    QTest::newRow("null") << true;
+    QTest::newRow("empty") << false;
+}
+
+void PrinterRecordsTest::choosingNothingKeepsTheChoice()
+{
+    QFETCH(bool, null);
+    const KeptDefaultPrinter kept;
+    QVERIFY(SetDefaultPrinterW(WideText(m_name)));
+    WideText empty{QString()};
+    const LPCWSTR name = null ? nullptr : static_cast<LPWSTR>(empty);
+    QVERIFY(SetDefaultPrinterW(name));
+    QCOMPARE(defaultPrinter(), m_name);
+}
+
+void PrinterRecordsTest::deletedPrinterIsNoDefault()
+{
+    const KeptDefaultPrinter kept;
+    const QString second = fixture::uniqueName(QStringLiteral("Vx Record"));
+    QVERIFY(fixture::addPrinter({.name = second}));
+    QVERIFY(SetDefaultPrinterW(WideText(second)));
+    QVERIFY(fixture::removePrinter(second));
+    QVERIFY(defaultPrinter() != second);
+}
+
+namespace {
+
+/// A record that AddPrinterW takes.
+struct NewRecord
+{
+    explicit NewRecord(const QString& printerName)
+        : name(printerName)
+    {
+        info.pPrinterName = name;
+        info.pDriverName = driver;
+        info.pPortName = port;
+        info.pPrintProcessor = processor;
+        info.pDatatype = datatype;
+        info.pComment = comment;
+        info.pLocation = location;
+        info.Attributes = PRINTER_ATTRIBUTE_LOCAL;
+    }
+    HANDLE add(DWORD level = 2)
+    {
+        return AddPrinterW(nullptr, level, reinterpret_cast<LPBYTE>(&info));
+    }
+
+    WideText name;
+    WideText driver{QStringLiteral("Vx Record Driver")};
+    WideText port{QStringLiteral("USB001")};
+    WideText processor{QStringLiteral("WinPrint")};
+    WideText datatype{QStringLiteral("RAW")};
+    WideText comment{QStringLiteral("new")};
+    WideText location{QStringLiteral("Hall 1")};
+    WideText empty{QString()};
+    PRINTER_INFO_2W info{};
+};
+
+} // namespace
+
+void PrinterRecordsTest::addingGivesAHandleThatAdministers()
+{
+    const QString name = fixture::uniqueName(QStringLiteral("Vx Added"));
+    NewRecord added(name);
+    const PrinterHandle printer(added.add());
+    QVERIFY(printer);
+    QVERIFY(listedPrinters(allLocal).contains(name));
+
+    const Block block = getPrinter(printer.get(), 2);
+    const auto& record = block.record<PRINTER_INFO_2W>();
+    QCOMPARE(fromWide(record.pPrinterName), name);
+    QCOMPARE(fromWide(record.pComment), QStringLiteral("new"));
+    QCOMPARE(fromWide(record.pLocation), QStringLiteral("Hall 1"));
+    BYTE data = 1;
+    QCOMPARE(SetPrinterDataW(printer.get(), WideText(QStringLiteral("x")), REG_BINARY, &data, 1),
+             DWORD{ERROR_SUCCESS});
+    QVERIFY(DeletePrinter(printer.get()));
+}
+
+void PrinterRecordsTest::addingRefuses_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<DWORD>("error");
+    const auto row = [](const char* what, DWORD error) {
+        QTest::newRow(what) << QString::fromLatin1(what) << error;
+    };
+    row("another level", ERROR_INVALID_LEVEL);
+    row("no record", ERROR_INVALID_PARAMETER);
+    row("no name", ERROR_INVALID_PRINTER_NAME);
+    row("an empty name", ERROR_INVALID_PRINTER_NAME);
+    row("no driver", ERROR_UNKNOWN_PRINTER_DRIVER);
+    row("no port", ERROR_UNKNOWN_PORT);
+}
+
+void PrinterRecordsTest::addingRefuses()
+{
+    QFETCH(QString, what);
+    QFETCH(DWORD, error);
+    const QStringList before = listedPrinters(allLocal);
+    NewRecord added(fixture::uniqueName(QStringLiteral("Vx Refused")));
+    const DWORD level = what == QLatin1String("another level") ? 17 : 2;
+    if (what == QLatin1String("no name"))
+        added.info.pPrinterName = nullptr;
+    if (what == QLatin1String("an empty name"))
+        added.info.pPrinterName = added.empty;
+    if (what == QLatin1String("no driver") || what == QLatin1String("no port"))
+        NEEDS_BEHAVIOUR(Behaviour::PrinterRecordChecks);
+    if (what == QLatin1String("no driver"))
+        added.info.pDriverName = added.empty;
+    if (what == QLatin1String("no port"))
+        added.info.pPortName = added.empty;
+    QCOMPARE(errorOf([&] {
+                 return what == QLatin1String("no record")
+                            ? AddPrinterW(nullptr, 2, nullptr) != nullptr
+                            : added.add(level) != nullptr;
+             }),
+             error);
+    QCOMPARE(listedPrinters(allLocal), before);
+}
+
+void PrinterRecordsTest::addingTwice_data()
+{
+    QTest::addColumn<bool>("otherCase");
+    QTest::newRow("same name") << false;
+    QTest::newRow("in capitals") << true;
+}
+
+void PrinterRecordsTest::addingTwice()
+{
+    NEEDS_BEHAVIOUR(Behaviour::UniquePrinterNames);
+    QFETCH(bool, otherCase);
+    NewRecord added(otherCase ? m_name.toUpper() : m_name);
+    QCOMPARE(errorOf([&] { return added.add() != nullptr; }), DWORD{ERROR_PRINTER_ALREADY_EXISTS});
+    QCOMPARE(listedPrinters(allLocal).count(m_name), 1);
+}
+
+void PrinterRecordsTest::deletedPrinterIsGone()
+{
+    QVERIFY(DeletePrinter(m_printer.get()));
+    // The handle has to be closed all the same.
+    QVERIFY(ClosePrinter(m_printer.release()));
+    QVERIFY(!listedPrinters(allLocal).contains(m_name));
+    HANDLE handle = nullptr;
+    QCOMPARE(errorOf([&] { return OpenPrinterW(WideText(m_name), &handle, nullptr); }),
+             DWORD{ERROR_INVALID_PRINTER_NAME});
+}
+
+void PrinterRecordsTest::handlesOfADeletedPrinter()
+{
+    NEEDS_BEHAVIOUR(Behaviour::DeletedPrinters);
+    const PrinterHandle other = openPrinter(m_name);
+    QVERIFY(other);
+    QVERIFY(DeletePrinter(m_printer.get()));
+    for (const HANDLE handle : {m_printer.get(), other.get()}) {
+        QCOMPARE(getPrinter(handle, 2, 1000).error, DWORD{ERROR_PRINTER_DELETED});
+        DWORD needed = 0;
+        QCOMPARE(
+            GetPrinterDataW(handle, WideText(QStringLiteral("x")), nullptr, nullptr, 0, &needed),
+            DWORD{ERROR_PRINTER_DELETED});
+        QCOMPARE(errorOf([&] { return DeletePrinter(handle); }), DWORD{ERROR_PRINTER_DELETED});
+    }
+}
+
+void PrinterRecordsTest::nameOfADeletedPrinterIsFree()
+{
+    BYTE data = 1;
+    QCOMPARE(SetPrinterDataW(m_printer.get(), WideText(QStringLiteral("x")), REG_BINARY, &data, 1),
+             DWORD{ERROR_SUCCESS});
+    QVERIFY(DeletePrinter(m_printer.get()));
+    m_printer.reset();
+    QVERIFY(fixture::addPrinter({.name = m_name}));
+    m_printer = openPrinter(m_name);
+    // It is another printer, without the values of the deleted one.
+    DWORD needed = 0;
+    QCOMPARE(
+        GetPrinterDataW(m_printer.get(), WideText(QStringLiteral("x")), nullptr, &data, 1, &needed),
+        DWORD{ERROR_FILE_NOT_FOUND});
+}
+
+void PrinterRecordsTest::deletingNeedsTheRightToAdminister()
+{
+    NEEDS_BEHAVIOUR(Behaviour::AccessRights);
+    const PrinterHandle used = openPrinter(m_name, PRINTER_ACCESS_USE);
+    QCOMPARE(errorOf([&] { return DeletePrinter(used.get()); }), DWORD{ERROR_ACCESS_DENIED});
+    QVERIFY(listedPrinters(allLocal).contains(m_name));
+}
+
+QTEST_GUILESS_MAIN(PrinterRecordsTest)
+#include "tst_printer_records.moc"

@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// The service manager's answers about the service "Spooler".
+
+#include "fixture.h"
+
+#include <QtTest/QtTest>
+
+namespace {
+
+ServiceHandle openManager()
+{
+    return ServiceHandle(OpenSCManagerW(nullptr, nullptr, SC_MANAGER_CONNECT));
+}
+
+ServiceHandle openService(const ServiceHandle& manager, const QString& name,
+                          DWORD access = SERVICE_QUERY_STATUS)
+{
+    return ServiceHandle(OpenServiceW(manager.get(), WideText(name), access));
+}
+
+const QString spooler = QStringLiteral("Spooler");
+
+} // namespace
+
+class ServiceManagerTest : public WindowsApiTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void opensTheLocalManager_data();
+    void opensTheLocalManager();
+    void unknownDatabase();
+    void opensTheSpooler_data();
+    void opensTheSpooler();
+    void unknownService();
+    void statusFollowsTheService();
+    void statusOfAStoppedService();
+    void statusNeedsTheRightToAskForIt();
+    void badHandleFails_data();
+    void badHandleFails();
+    void serviceIsNoManager();
+    void managerIsNoService();
+    void serviceOutlivesTheManagersHandle();
+};
+
+void ServiceManagerTest::opensTheLocalManager_data()
+{
+    QTest::addColumn<QString>("database");
+    QTest::newRow("no name") << QString();
+    QTest::newRow("by name") << QStringLiteral("ServicesActive");
+}
+
+void ServiceManagerTest::opensTheLocalManager()
+{
+    QFETCH(QString, database);
+    WideText text(database);
+    const LPCWSTR name = text;
+    const ServiceHandle manager(
+        OpenSCManagerW(nullptr, database.isNull() ? nullptr : name, SC_MANAGER_CONNECT));
+    QVERIFY2(manager, qPrintable(QString::number(GetLastError())));
+}
+
+void ServiceManagerTest::unknownDatabase()
+{
+    NEEDS_BEHAVIOUR(Behaviour::DatabaseNames);
+    WideText database(QStringLiteral("VxNoDatabase"));
+    QCOMPARE(
+        errorOf([&] { return OpenSCManagerW(nullptr, database, SC_MANAGER_CONNECT) != nullptr; }),
+        DWORD{ERROR_DATABASE_DOES_NOT_EXIST});
+}
+
+void ServiceManagerTest::opensTheSpooler_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("as it is written") << spooler;
+    QTest::newRow("in small letters") << spooler.toLower();
+    QTest::newRow("in capitals") << spooler.toUpper();
+}
+
+void ServiceManagerTest::opensTheSpooler()
+{
+    QFETCH(QString, name);
+    const ServiceHandle manager = openManager();
+    QVERIFY(manager);
+    QVERIFY(openService(manager, name));
+}
+
+void ServiceManagerTest::unknownService()
+{
+    const ServiceHandle manager = openManager();
+    QVERIFY(manager);
+    QCOMPARE(
+        errorOf([&] { return openService(manager, QStringLiteral("VxNoService")) != nullptr; }),
+        DWORD{ERROR_SERVICE_DOES_NOT_EXIST});
+}
+
+void ServiceManagerTest::statusFollowsTheService()
+{
+    const ServiceHandle manager = openManager();
+    const ServiceHandle service = openService(manager, spooler);
+    QVERIFY(service);
+    for (const bool running : {true, false, true}) {
+        QVERIFY(fixture::setSpoolerRunning(running));
+        SERVICE_STATUS status{};
+        QVERIFY(QueryServiceStatus(service.get(), &status));
+        const DWORD state = running ? SERVICE_RUNNING : SERVICE_STOPPED;
+        QCOMPARE(status.dwCurrentState, state);
+        QCOMPARE(status.dwServiceType & SERVICE_WIN32_OWN_PROCESS,
+                 DWORD{SERVICE_WIN32_OWN_PROCESS});
+        const DWORD accepted = running ? SERVICE_ACCEPT_STOP : 0;
+        QCOMPARE(status.dwControlsAccepted & SERVICE_ACCEPT_STOP, accepted);
+    }
+}
+
+void ServiceManagerTest::statusOfAStoppedService()
+{
+    QVERIFY(fixture::setSpoolerRunning(false));
+    const ServiceHandle manager = openManager();
+    const ServiceHandle service = openService(manager, spooler);
+    QVERIFY(service);
+    SERVICE_STATUS status{};
+    status.dwCheckPoint = 77;
+    status.dwWaitHint = 77;
+    QVERIFY(QueryServiceStatus(service.get(), &status));
+    QCOMPARE(status.dwCurrentState, DWORD{SERVICE_STOPPED});
+    QCOMPARE(status.dwControlsAccepted, DWORD{0});
+    QCOMPARE(status.dwCheckPoint, DWORD{0});
+    QCOMPARE(status.dwWaitHint, DWORD{0});
+}
+
+void ServiceManagerTest::statusNeedsTheRightToAskForIt()
+{
+    const ServiceHandle manager = openManager();
+    const ServiceHandle service = openService(manager, spooler, SERVICE_QUERY_CONFIG);
+    QVERIFY(service);
+    SERVICE_STATUS status{};
+    status.dwCurrentState = 77;
+    QCOMPARE(errorOf([&] { return QueryServiceStatus(service.get(), &status); }),
+             DWORD{ERROR_ACCESS_DENIED});
+    QCOMPARE(status.dwCurrentState, DWORD{77});
+}
+
+void ServiceManagerTest::badHandleFails_data()
+{
+    QTest::addColumn<QString>("function");
+    QTest::addColumn<bool>("closed");
+    for (const char* function : {"OpenServiceW", "QueryServiceStatus", "CloseServiceHandle"})
+        for (const bool closed : {false, true})
+            QTest::addRow("%s, %s", function, closed ? "closed" : "null")
+                << QString::fromLatin1(function) << closed;
+}
+
+void ServiceManagerTest::badHandleFails()
+{
+    QFETCH(QString, function);
+    QFETCH(bool, closed);
+    expectMisuse(function);
+    SC_HANDLE handle = nullptr;
+    if (closed) {
+        handle = OpenSCManagerW(nullptr, nullptr, SC_MANAGER_CONNECT);
+        QVERIFY(CloseServiceHandle(handle));
+    }
+    SERVICE_STATUS status{};
+    const DWORD error = errorOf([&] {
+        if (function == QLatin1String("OpenServiceW"))
+            return OpenServiceW(handle, WideText(spooler), SERVICE_QUERY_STATUS) != nullptr;
+        if (function == QLatin1String("QueryServiceStatus"))
+            return QueryServiceStatus(handle, &status) != FALSE;
+        return CloseServiceHandle(handle) != FALSE;
+    });
+    QCOMPARE(error, DWORD{ERROR_INVALID_HANDLE});
+}
+
+void ServiceManagerTest::serviceIsNoManager()
+{
+    expectMisuse(QStringLiteral("OpenServiceW"));
+    const ServiceHandle manager = openManager();
+    const ServiceHandle service = openService(manager, spooler);
+    QVERIFY(service);
+    QCOMPARE(errorOf([&] { return openService(service, spooler) != nullptr; }),
+             DWORD{ERROR_INVALID_HANDLE});
+}
+
+void ServiceManagerTest::managerIsNoService()
+{
+    expectMisuse(QStringLiteral("QueryServiceStatus"));
+    const ServiceHandle manager = openManager();
+    QVERIFY(manager);
+    SERVICE_STATUS status{};
+    QCOMPARE(errorOf([&] { return QueryServiceStatus(manager.get(), &status); }),
+             DWORD{ERROR_INVALID_HANDLE});
+}
+
+void ServiceManagerTest::serviceOutlivesTheManagersHandle()
+{
+    ServiceHandle manager = openManager();
+    const ServiceHandle service = openService(manager, spooler);
+    QVERIFY(service);
+    QVERIFY(CloseServiceHandle(manager.release()));
+    SERVICE_STATUS status{};
+    QVERIFY(QueryServiceStatus(service.get(), &status));
+}
+
+QTEST_GUILESS_MAIN(ServiceManagerTest)
+#include "tst_service_manager.moc"
