@@ -2,9 +2,27 @@
 // Copyright The VxPrinterStatus authors
 #include "vxipcserver.h"
 
-VXIPCServer::VXIPCServer(int /*serverType*/, QObject* parent)
+#include "ipc_publisher.h"
+
+VXIPCServer::VXIPCServer(int serverType, QObject* parent)
     : QObject(parent)
 {
+    // Later, when the derived object is whole and its thread is ready for sockets.
+    QMetaObject::invokeMethod(
+        this,
+        [this, serverType] {
+            m_publisher = new IpcPublisher(*this, VXIPCServer::staticMetaObject);
+            m_publisher->publish(QStringLiteral("vxipc-%1").arg(serverType));
+        },
+        Qt::QueuedConnection);
 }
 
-VXIPCServer::~VXIPCServer() = default;
+VXIPCServer::~VXIPCServer()
+{
+    delete m_publisher;
+}
+
+QString VXIPCServer::serverName() const
+{
+    return m_publisher ? m_publisher->name() : QString();
+}

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include "ipc_method_table.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QJsonValue>
+#include <QtCore/QString>
+
+#include <optional>
+
+/// What JSON-RPC 2.0 makes of a request to an object, apart from how it got here.
+class IpcDispatcher
+{
+public:
+    /// `title` is the name the object is known by.
+    IpcDispatcher(QObject& object, const QMetaObject& base, QString title);
+
+    /// A line as it was received: one request or a batch of them.
+    struct Message
+    {
+        QJsonArray requests;
+        bool isBatch = false;
+        /// The answer to a line that holds no request.
+        std::optional<QJsonObject> failure;
+    };
+
+    static Message parse(const QByteArray& line);
+
+    /// The answer to one request of a message, or nothing to a notification.
+    ///
+    /// The method that it calls may do anything, to the extent of destroying this dispatcher.
+    std::optional<QJsonObject> handle(const QJsonValue& request) const;
+
+private:
+    IpcMethodTable::Outcome call(const QString& method, const QJsonValue& parameters) const;
+
+    IpcMethodTable m_methods;
+    QString m_title;
+};

@@ -1,0 +1,251 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "ipc_method_table.h"
+
+#include "ipc_values.h"
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QStringList>
+#include <QtCore/QVarLengthArray>
+
+#include <algorithm>
+
+namespace {
+
+JsonRpc::Error invalidParams(const QString& message, const QJsonObject& data = {})
+{
+    return {JsonRpc::InvalidParams, QStringLiteral("Invalid params: ") + message, data};
+}
+
+bool isCallable(const QMetaMethod& method)
+{
+    return method.methodType() == QMetaMethod::Slot && method.access() == QMetaMethod::Public;
+}
+
+bool isVoid(QMetaType type)
+{
+    return type.id() == QMetaType::Void;
+}
+
+/// Whether the parameters of `slot` begin with those of `shorter`.
+bool begins(const QMetaMethod& slot, const QMetaMethod& shorter)
+{
+    return slot.parameterTypes().mid(0, shorter.parameterCount()) == shorter.parameterTypes();
+}
+
+QList<QJsonValue> inOrder(const QJsonArray& array)
+{
+    return {array.cbegin(), array.cend()};
+}
+
+} // namespace
+
+IpcMethodTable::IpcMethodTable(QObject& object, const QMetaObject& base)
+    : m_object(object)
+{
+    const QMetaObject& meta = *object.metaObject();
+    for (int i = base.methodCount(); i < meta.methodCount(); ++i) {
+        if (!isCallable(meta.method(i)))
+            continue;
+        if (const std::optional<Method> method = readMethod(meta.method(i)))
+            add(*method);
+    }
+}
+
+std::optional<IpcMethodTable::Method> IpcMethodTable::readMethod(const QMetaMethod& slot)
+{
+    const QMetaType result = slot.returnMetaType();
+    if (!isVoid(result) && !IpcValues::isSupported(result))
+        return std::nullopt;
+
+    Method method{slot, {}, slot.parameterCount(), (slot.attributes() & QMetaMethod::Cloned) != 0};
+    const QList<QByteArray> names = slot.parameterNames();
+    for (int i = 0; i < slot.parameterCount(); ++i) {
+        const QMetaType type = slot.parameterMetaType(i);
+        if (!IpcValues::isSupported(type))
+            return std::nullopt;
+        const QByteArray& name = names.at(i);
+        method.parameters.append(
+            {name.isEmpty() ? QStringLiteral("argument%1").arg(i + 1) : QString::fromUtf8(name),
+             type});
+    }
+    return method;
+}
+
+void IpcMethodTable::add(const Method& method)
+{
+    QList<qsizetype>& overloads = m_overloads[QString::fromUtf8(method.slot.name())];
+    // A class that overrides a slot lists it once more; the first is the service's own, and the
+    // call is virtual either way.
+    const bool isListed = std::any_of(overloads.cbegin(), overloads.cend(), [&](qsizetype listed) {
+        return m_methods.at(listed).slot.methodSignature() == method.slot.methodSignature();
+    });
+    if (isListed)
+        return;
+    // The meta-object lists a slot with defaults once for each way to call it, the full one first.
+    if (method.isShortened) {
+        const auto full = std::find_if(overloads.crbegin(), overloads.crend(), [&](qsizetype each) {
+            return !m_methods.at(each).isShortened && begins(m_methods.at(each).slot, method.slot);
+        });
+        if (full != overloads.crend())
+            m_methods[*full].required = method.required;
+    }
+    overloads.append(m_methods.size());
+    m_methods.append(method);
+}
+
+IpcMethodTable::Outcome IpcMethodTable::call(const QString& name,
+                                             const QJsonValue& parameters) const
+{
+    Match chosen = choose(name, parameters);
+    if (chosen.error)
+        return {QJsonValue::Null, chosen.error};
+
+    const QMetaMethod& slot = chosen.method->slot;
+    const QMetaType resultType = slot.returnMetaType();
+    QVariant result;
+    if (!isVoid(resultType))
+        result = QVariant(resultType);
+    QVarLengthArray<void*, 8> arguments{result.isValid() ? result.data() : nullptr};
+    for (QVariant& argument : chosen.arguments)
+        arguments.append(argument.data());
+    QMetaObject::metacall(&m_object, QMetaObject::InvokeMetaMethod, slot.methodIndex(),
+                          arguments.data());
+    // Nothing of this table may be touched from here on.
+    if (!result.isValid())
+        return {};
+    return {IpcValues::toJson(result), std::nullopt};
+}
+
+IpcMethodTable::Match IpcMethodTable::choose(const QString& name,
+                                             const QJsonValue& parameters) const
+{
+    const auto overloads = m_overloads.constFind(name);
+    if (overloads == m_overloads.cend()) {
+        Match none;
+        none.error = {
+            JsonRpc::MethodNotFound, QStringLiteral("Method not found: %1").arg(name), {}};
+        return none;
+    }
+    // Of those that fit, the best; of those that do not, the one that came closest says why.
+    const auto rank = [](const Match& each) {
+        return std::tuple(!each.error.has_value(), each.isOfRightCount, each.fit);
+    };
+    Match best = match(m_methods.at(overloads->first()), parameters);
+    for (qsizetype i = 1; i < overloads->size(); ++i) {
+        Match other = match(m_methods.at(overloads->at(i)), parameters);
+        if (rank(other) > rank(best))
+            best = std::move(other);
+    }
+    return best;
+}
+
+IpcMethodTable::Match IpcMethodTable::match(const Method& method, const QJsonValue& parameters)
+{
+    if (parameters.isObject())
+        return matchNamed(method, parameters.toObject());
+
+    const QList<QJsonValue> given = inOrder(parameters.toArray());
+    if (given.size() == method.parameters.size())
+        return matchArguments(method, given);
+
+    QStringList names;
+    for (const Parameter& parameter : method.parameters)
+        names.append(parameter.name);
+    Match mismatch;
+    mismatch.error = invalidParams(
+        QStringLiteral("expected %1 arguments (%2), got %3")
+            .arg(method.required < names.size()
+                     ? QStringLiteral("%1 to %2").arg(method.required).arg(names.size())
+                     : QString::number(names.size()),
+                 names.join(QStringLiteral(", ")), QString::number(given.size())),
+        {{QStringLiteral("expected"), QJsonArray::fromStringList(names)}});
+    return mismatch;
+}
+
+IpcMethodTable::Match IpcMethodTable::matchNamed(const Method& method, const QJsonObject& given)
+{
+    Match failed;
+    for (auto argument = given.constBegin(); argument != given.constEnd(); ++argument) {
+        const QString name = argument.key();
+        if (std::any_of(method.parameters.cbegin(), method.parameters.cend(),
+                        [&](const Parameter& each) { return each.name == name; }))
+            continue;
+        failed.error = invalidParams(QStringLiteral("there is no argument \"%1\"").arg(name),
+                                     {{QStringLiteral("argument"), name}});
+        return failed;
+    }
+
+    QList<QJsonValue> ordered;
+    for (const Parameter& parameter : method.parameters) {
+        const auto found = given.constFind(parameter.name);
+        if (found == given.constEnd()) {
+            failed.error =
+                invalidParams(QStringLiteral("argument \"%1\" is missing").arg(parameter.name),
+                              {{QStringLiteral("argument"), parameter.name}});
+            return failed;
+        }
+        ordered.append(*found);
+    }
+    return matchArguments(method, ordered);
+}
+
+IpcMethodTable::Match IpcMethodTable::matchArguments(const Method& method,
+                                                     const QList<QJsonValue>& given)
+{
+    Match match;
+    match.method = &method;
+    match.isOfRightCount = true;
+    for (qsizetype i = 0; i < given.size(); ++i) {
+        const Parameter& parameter = method.parameters.at(i);
+        IpcValues::Converted converted = IpcValues::fromJson(given.at(i), parameter.type);
+        if (converted.fit == IpcValues::Fit::None) {
+            match.error =
+                invalidParams(QStringLiteral("argument %1 (%2): expected %3, got %4")
+                                  .arg(QString::number(i + 1), parameter.name, converted.expected,
+                                       IpcValues::kindOf(given.at(i))),
+                              {{QStringLiteral("argument"), parameter.name},
+                               {QStringLiteral("expected"), converted.expected}});
+            return match;
+        }
+        match.fit += static_cast<int>(converted.fit);
+        match.arguments.append(std::move(converted.value));
+    }
+    return match;
+}
+
+QJsonObject IpcMethodTable::describe() const
+{
+    QJsonArray methods;
+    QJsonObject records;
+    for (const Method& method : m_methods) {
+        if (!method.isShortened)
+            methods.append(describe(method, records));
+    }
+    return {{QStringLiteral("methods"), methods},
+            {QStringLiteral("components"), QJsonObject{{QStringLiteral("schemas"), records}}}};
+}
+
+QJsonObject IpcMethodTable::describe(const Method& method, QJsonObject& records)
+{
+    QJsonArray parameters;
+    for (qsizetype i = 0; i < method.parameters.size(); ++i) {
+        const Parameter& parameter = method.parameters.at(i);
+        parameters.append(
+            QJsonObject{{QStringLiteral("name"), parameter.name},
+                        {QStringLiteral("required"), i < method.required},
+                        {QStringLiteral("schema"), IpcValues::schema(parameter.type, records)},
+                        {QStringLiteral("x-type"), QLatin1String(parameter.type.name())}});
+    }
+    const QMetaType result = method.slot.returnMetaType();
+    const QJsonObject resultSchema =
+        isVoid(result) ? QJsonObject{{QStringLiteral("type"), QStringLiteral("null")}}
+                       : IpcValues::schema(result, records);
+    return {{QStringLiteral("name"), QString::fromUtf8(method.slot.name())},
+            {QStringLiteral("paramStructure"), QStringLiteral("either")},
+            {QStringLiteral("params"), parameters},
+            {QStringLiteral("result"),
+             QJsonObject{{QStringLiteral("name"), QStringLiteral("result")},
+                         {QStringLiteral("schema"), resultSchema},
+                         {QStringLiteral("x-type"), QLatin1String(result.name())}}}};
+}

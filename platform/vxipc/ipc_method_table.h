@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include "json_rpc.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QJsonObject>
+#include <QtCore/QList>
+#include <QtCore/QMetaMethod>
+#include <QtCore/QString>
+#include <QtCore/QVariantList>
+
+#include <optional>
+
+/// The slots of an object that other processes may call, made from its meta-object.
+class IpcMethodTable
+{
+public:
+    /// Takes the public slots of `object` that were declared below the class `base`. Everything
+    /// that `base` and its own bases have stays out of reach.
+    IpcMethodTable(QObject& object, const QMetaObject& base);
+
+    struct Outcome
+    {
+        /// Null for a slot without a result.
+        QJsonValue result = QJsonValue::Null;
+        std::optional<JsonRpc::Error> error;
+    };
+
+    /// Calls the slot that `parameters`, a list or an object, fit best.
+    ///
+    /// The slot may do anything, to the extent of destroying the object and this table with it.
+    Outcome call(const QString& name, const QJsonValue& parameters) const;
+
+    /// The methods and records of an OpenRPC document.
+    QJsonObject describe() const;
+
+private:
+    struct Parameter
+    {
+        QString name;
+        QMetaType type;
+    };
+
+    struct Method
+    {
+        QMetaMethod slot;
+        QList<Parameter> parameters;
+        /// How many of the parameters have no default. Only the first entry of a slot knows.
+        qsizetype required = 0;
+        /// Whether this is a shorter way to call the entry before, leaving a default argument out.
+        bool isShortened = false;
+    };
+
+    /// How far the arguments of a call fit a method.
+    struct Match
+    {
+        const Method* method = nullptr;
+        QVariantList arguments;
+        /// The sum over the arguments.
+        int fit = 0;
+        std::optional<JsonRpc::Error> error;
+        bool isOfRightCount = false;
+    };
+
+    static std::optional<Method> readMethod(const QMetaMethod& slot);
+    void add(const Method& method);
+    Match choose(const QString& name, const QJsonValue& parameters) const;
+    static Match match(const Method& method, const QJsonValue& parameters);
+    static Match matchNamed(const Method& method, const QJsonObject& given);
+    static Match matchArguments(const Method& method, const QList<QJsonValue>& given);
+    static QJsonObject describe(const Method& method, QJsonObject& records);
+
+    QObject& m_object;
+    QList<Method> m_methods;
+    /// Indexes into the methods.
+    QHash<QString, QList<qsizetype>> m_overloads;
+};

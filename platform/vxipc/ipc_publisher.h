@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include "ipc_dispatcher.h"
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <QtNetwork/QLocalServer>
+
+#include <memory>
+
+class IpcConnection;
+
+/// Makes an object reachable under a name and shares the object's thread out among the clients.
+class IpcPublisher : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Publishes the slots that `object`, which is the parent too, declares below `base`.
+    IpcPublisher(QObject& object, const QMetaObject& base);
+    ~IpcPublisher() override;
+
+    /// Takes `name`, or when another living endpoint has it, `name` with the process id added.
+    void publish(const QString& name);
+
+    /// Empty while nothing is published.
+    QString name() const { return m_name; }
+
+private:
+    bool listen(const QString& name);
+    void onNewConnection();
+    void onTurnWanted(IpcConnection* connection);
+    void onFinished(IpcConnection* connection);
+    void giveTurn();
+    void requestTurn();
+
+    QObject& m_object;
+    const QMetaObject& m_base;
+    QLocalServer m_server;
+    QString m_name;
+    /// Made with the first client, when the object is surely whole.
+    std::unique_ptr<IpcDispatcher> m_dispatcher;
+    QList<IpcConnection*> m_connections;
+    /// Those that have more to do, in the order of their turns.
+    QList<IpcConnection*> m_waiting;
+};

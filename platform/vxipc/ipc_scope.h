@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+/// Where the endpoints of the user who runs this process are found: names are the user's own, other
+/// users' endpoints of the same name are elsewhere.
+namespace IpcScope {
+
+/// What QLocalSocket and QLocalServer know the endpoint `name` by.
+QString address(const QString& name);
+
+/// Makes what addresses stand on. Empty when that succeeded, else why no endpoint can be published.
+QString prepare();
+
+/// The file that a process locks while it takes a name.
+QString lockFile();
+
+/// The names that begin with `prefix` and may be reachable; some may belong to dead processes.
+QStringList names(const QString& prefix);
+
+} // namespace IpcScope

@@ -1,0 +1,430 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "ipc_values.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QMetaEnum>
+#include <QtCore/QMetaProperty>
+#include <QtCore/QStringList>
+
+#include <cmath>
+#include <limits>
+#include <optional>
+
+namespace IpcValues {
+namespace {
+
+/// Beyond these a reader that knows only double, as most do, would see another number.
+constexpr qint64 LargestSafeInteger = (Q_INT64_C(1) << 53) - 1;
+
+Converted fitting(QVariant value, Fit fit = Fit::Exact)
+{
+    return {fit, std::move(value), {}};
+}
+
+Converted unfitting(const QString& expected)
+{
+    return {Fit::None, {}, expected};
+}
+
+QJsonObject schemaOf(const char* type)
+{
+    return {{QStringLiteral("type"), QLatin1String(type)}};
+}
+
+/// The number as it was written, if it is a whole one that a 64-bit integer holds.
+std::optional<qint64> wholeNumber(const QJsonValue& json)
+{
+    if (!json.isDouble())
+        return std::nullopt;
+    const qint64 number = json.toInteger(0);
+    if (number != 0 || json.toInteger(1) == 0)
+        return number;
+    return std::nullopt;
+}
+
+template <typename Integer>
+QString integerRange()
+{
+    return QStringLiteral("a whole number from %1 to %2")
+        .arg(std::numeric_limits<Integer>::min())
+        .arg(std::numeric_limits<Integer>::max());
+}
+
+template <typename Integer>
+Converted integerFromJson(const QJsonValue& json, QMetaType /*type*/)
+{
+    const std::optional<qint64> number = wholeNumber(json);
+    if (number && std::in_range<Integer>(*number))
+        return fitting(QVariant::fromValue(static_cast<Integer>(*number)));
+    return unfitting(integerRange<Integer>());
+}
+
+template <typename Integer>
+Integer integerFromText(const QString& text, bool* ok)
+{
+    if constexpr (std::is_signed_v<Integer>)
+        return text.toLongLong(ok);
+    else
+        return text.toULongLong(ok);
+}
+
+/// Most languages' JSON numbers end at 53 bits, so a 64-bit one may also come as decimal text.
+template <typename Integer>
+Converted wideIntegerFromJson(const QJsonValue& json, QMetaType type)
+{
+    if (!json.isString()) {
+        Converted converted = integerFromJson<Integer>(json, type);
+        if (converted.fit == Fit::None)
+            converted.expected += QStringLiteral(" (beyond 53 bits as decimal text)");
+        return converted;
+    }
+    bool ok = false;
+    const Integer number = integerFromText<Integer>(json.toString(), &ok);
+    if (ok)
+        return fitting(QVariant::fromValue(number), Fit::Lenient);
+    return unfitting(integerRange<Integer>());
+}
+
+template <typename Integer>
+QJsonValue integerToJson(const QVariant& value)
+{
+    return static_cast<qint64>(value.value<Integer>());
+}
+
+template <typename Integer>
+QJsonValue wideIntegerToJson(const QVariant& value)
+{
+    const auto number = value.value<Integer>();
+    if (std::cmp_greater(number, LargestSafeInteger) || std::cmp_less(number, -LargestSafeInteger))
+        return QString::number(number);
+    return static_cast<qint64>(number);
+}
+
+QJsonObject integerSchema()
+{
+    return schemaOf("integer");
+}
+
+QJsonObject wideIntegerSchema()
+{
+    return {
+        {QStringLiteral("type"), QJsonArray{QStringLiteral("integer"), QStringLiteral("string")}}};
+}
+
+template <typename Real>
+Converted realFromJson(const QJsonValue& json, QMetaType /*type*/)
+{
+    if (!json.isDouble() || std::abs(json.toDouble()) > std::numeric_limits<Real>::max())
+        return unfitting(QStringLiteral("a number"));
+    // A whole number fits an integer better where an overload takes one.
+    return fitting(QVariant::fromValue(static_cast<Real>(json.toDouble())),
+                   wholeNumber(json) ? Fit::Lenient : Fit::Exact);
+}
+
+template <typename Real>
+QJsonValue realToJson(const QVariant& value)
+{
+    return static_cast<double>(value.value<Real>());
+}
+
+QJsonObject realSchema()
+{
+    return schemaOf("number");
+}
+
+Converted boolFromJson(const QJsonValue& json, QMetaType /*type*/)
+{
+    return json.isBool() ? fitting(json.toBool()) : unfitting(QStringLiteral("true or false"));
+}
+
+QJsonValue boolToJson(const QVariant& value)
+{
+    return value.toBool();
+}
+
+QJsonObject boolSchema()
+{
+    return schemaOf("boolean");
+}
+
+Converted textFromJson(const QJsonValue& json, QMetaType /*type*/)
+{
+    return json.isString() ? fitting(json.toString()) : unfitting(QStringLiteral("a text"));
+}
+
+QJsonValue textToJson(const QVariant& value)
+{
+    return value.toString();
+}
+
+QJsonObject textSchema()
+{
+    return schemaOf("string");
+}
+
+Converted textListFromJson(const QJsonValue& json, QMetaType /*type*/)
+{
+    QStringList texts;
+    for (const QJsonArray array = json.toArray(); const QJsonValue& entry : array) {
+        if (!entry.isString())
+            return unfitting(QStringLiteral("a list of texts"));
+        texts.append(entry.toString());
+    }
+    return json.isArray() ? fitting(texts) : unfitting(QStringLiteral("a list of texts"));
+}
+
+QJsonValue textListToJson(const QVariant& value)
+{
+    return QJsonArray::fromStringList(value.toStringList());
+}
+
+QJsonObject textListSchema()
+{
+    return {{QStringLiteral("type"), QStringLiteral("array")},
+            {QStringLiteral("items"), textSchema()}};
+}
+
+Converted bytesFromJson(const QJsonValue& json, QMetaType /*type*/)
+{
+    const auto decoded = QByteArray::fromBase64Encoding(
+        json.toString().toUtf8(),
+        QByteArray::Base64Encoding | QByteArray::AbortOnBase64DecodingErrors);
+    if (!json.isString() || !decoded)
+        return unfitting(QStringLiteral("bytes as base64 text"));
+    return fitting(*decoded);
+}
+
+QJsonValue bytesToJson(const QVariant& value)
+{
+    return QString::fromLatin1(value.toByteArray().toBase64());
+}
+
+QJsonObject bytesSchema()
+{
+    return {{QStringLiteral("type"), QStringLiteral("string")},
+            {QStringLiteral("contentEncoding"), QStringLiteral("base64")}};
+}
+
+Converted listFromJson(const QJsonValue& json, QMetaType /*type*/)
+{
+    return json.isArray() ? fitting(json.toArray().toVariantList())
+                          : unfitting(QStringLiteral("a list"));
+}
+
+QJsonValue listToJson(const QVariant& value)
+{
+    QJsonArray array;
+    for (const QVariantList list = value.toList(); const QVariant& entry : list)
+        array.append(toJson(entry));
+    return array;
+}
+
+QJsonObject listSchema()
+{
+    return schemaOf("array");
+}
+
+Converted mapFromJson(const QJsonValue& json, QMetaType /*type*/)
+{
+    return json.isObject() ? fitting(json.toObject().toVariantMap())
+                           : unfitting(QStringLiteral("an object"));
+}
+
+Converted hashFromJson(const QJsonValue& json, QMetaType /*type*/)
+{
+    return json.isObject() ? fitting(json.toObject().toVariantHash())
+                           : unfitting(QStringLiteral("an object"));
+}
+
+template <typename Map>
+QJsonValue mapToJson(const QVariant& value)
+{
+    const auto map = value.value<Map>();
+    QJsonObject object;
+    for (auto entry = map.cbegin(); entry != map.cend(); ++entry)
+        object.insert(entry.key(), toJson(entry.value()));
+    return object;
+}
+
+QJsonObject mapSchema()
+{
+    return schemaOf("object");
+}
+
+/// The variant itself is the argument, whatever it holds.
+Converted anyFromJson(const QJsonValue& json, QMetaType type)
+{
+    const QVariant held = json.toVariant();
+    return fitting(QVariant(type, &held), Fit::Lenient);
+}
+
+QJsonValue anyToJson(const QVariant& value)
+{
+    return toJson(*static_cast<const QVariant*>(value.constData()));
+}
+
+QJsonObject anySchema()
+{
+    return {};
+}
+
+struct Kind
+{
+    Converted (*fromJson)(const QJsonValue&, QMetaType);
+    QJsonValue (*toJson)(const QVariant&);
+    QJsonObject (*schema)();
+};
+
+template <typename Integer>
+constexpr Kind Narrow = {integerFromJson<Integer>, integerToJson<Integer>, integerSchema};
+template <typename Integer>
+constexpr Kind Wide = {wideIntegerFromJson<Integer>, wideIntegerToJson<Integer>, wideIntegerSchema};
+template <typename Integer>
+constexpr Kind Native = sizeof(Integer) < sizeof(qint64) ? Narrow<Integer> : Wide<Integer>;
+template <typename Real>
+constexpr Kind Floating = {realFromJson<Real>, realToJson<Real>, realSchema};
+
+const Kind* findKind(int typeId)
+{
+    static const QHash<int, Kind> kinds = {
+        {QMetaType::Bool, {boolFromJson, boolToJson, boolSchema}},
+        {QMetaType::Short, Narrow<short>},
+        {QMetaType::UShort, Narrow<ushort>},
+        {QMetaType::Int, Narrow<int>},
+        {QMetaType::UInt, Narrow<uint>},
+        {QMetaType::Long, Native<long>},
+        {QMetaType::ULong, Native<ulong>},
+        {QMetaType::LongLong, Wide<qlonglong>},
+        {QMetaType::ULongLong, Wide<qulonglong>},
+        {QMetaType::Float, Floating<float>},
+        {QMetaType::Double, Floating<double>},
+        {QMetaType::QString, {textFromJson, textToJson, textSchema}},
+        {QMetaType::QStringList, {textListFromJson, textListToJson, textListSchema}},
+        {QMetaType::QByteArray, {bytesFromJson, bytesToJson, bytesSchema}},
+        {QMetaType::QVariantList, {listFromJson, listToJson, listSchema}},
+        {QMetaType::QVariantMap, {mapFromJson, mapToJson<QVariantMap>, mapSchema}},
+        {QMetaType::QVariantHash, {hashFromJson, mapToJson<QVariantHash>, mapSchema}},
+        {QMetaType::QVariant, {anyFromJson, anyToJson, anySchema}},
+    };
+    const auto found = kinds.constFind(typeId);
+    return found == kinds.cend() ? nullptr : &*found;
+}
+
+bool isRecord(QMetaType type)
+{
+    return type.flags().testFlag(QMetaType::IsGadget) && type.metaObject();
+}
+
+QMetaProperty property(const QMetaObject& record, const QString& name)
+{
+    return record.property(record.indexOfProperty(name.toUtf8().constData()));
+}
+
+/// Members that the object leaves out keep the record's defaults.
+Converted recordFromJson(const QJsonObject& json, QMetaType type)
+{
+    QVariant record(type);
+    for (auto member = json.constBegin(); member != json.constEnd(); ++member) {
+        const QMetaProperty target = property(*type.metaObject(), member.key());
+        if (!target.isValid())
+            return unfitting(QStringLiteral("a %1, which has no member \"%2\"")
+                                 .arg(QLatin1String(type.name()), member.key()));
+        const Converted converted = fromJson(member.value(), target.metaType());
+        if (converted.fit == Fit::None)
+            return unfitting(
+                QStringLiteral("%1 as member \"%2\"").arg(converted.expected, member.key()));
+        target.writeOnGadget(record.data(), converted.value);
+    }
+    return fitting(record);
+}
+
+QJsonValue recordToJson(const QVariant& record)
+{
+    const QMetaObject& members = *record.metaType().metaObject();
+    QJsonObject object;
+    for (int i = 0; i < members.propertyCount(); ++i) {
+        const QMetaProperty member = members.property(i);
+        object.insert(QLatin1String(member.name()),
+                      toJson(member.readOnGadget(record.constData())));
+    }
+    return object;
+}
+
+QJsonObject recordSchema(QMetaType type, QJsonObject& records)
+{
+    const QString name = QString::fromLatin1(type.name());
+    if (!records.contains(name)) {
+        // Entered before its members are looked at, which may name the record again.
+        records.insert(name, QJsonObject());
+        QJsonObject members;
+        for (int i = 0; i < type.metaObject()->propertyCount(); ++i) {
+            const QMetaProperty member = type.metaObject()->property(i);
+            members.insert(QLatin1String(member.name()), schema(member.metaType(), records));
+        }
+        records.insert(name, QJsonObject{{QStringLiteral("type"), QStringLiteral("object")},
+                                         {QStringLiteral("properties"), members}});
+    }
+    return {{QStringLiteral("$ref"), QStringLiteral("#/components/schemas/") + name}};
+}
+
+} // namespace
+
+bool isSupported(QMetaType type)
+{
+    return findKind(type.id()) || isRecord(type);
+}
+
+Converted fromJson(const QJsonValue& json, QMetaType type)
+{
+    if (const Kind* kind = findKind(type.id()))
+        return kind->fromJson(json, type);
+    if (!isRecord(type))
+        return unfitting(QStringLiteral("nothing that JSON can hold"));
+    if (!json.isObject())
+        return unfitting(
+            QStringLiteral("an object with the members of %1").arg(QLatin1String(type.name())));
+    return recordFromJson(json.toObject(), type);
+}
+
+QJsonValue toJson(const QVariant& value)
+{
+    const QMetaType type = value.metaType();
+    if (const Kind* kind = findKind(type.id()))
+        return kind->toJson(value);
+    return isRecord(type) ? recordToJson(value) : QJsonValue();
+}
+
+QJsonObject schema(QMetaType type, QJsonObject& records)
+{
+    if (const Kind* kind = findKind(type.id()))
+        return kind->schema();
+    return isRecord(type) ? recordSchema(type, records) : QJsonObject();
+}
+
+QString kindOf(const QJsonValue& json)
+{
+    switch (json.type()) {
+    case QJsonValue::Null:
+        return QStringLiteral("null");
+    case QJsonValue::Bool:
+        return json.toBool() ? QStringLiteral("true") : QStringLiteral("false");
+    case QJsonValue::Double:
+        return QString::fromUtf8(QJsonDocument(QJsonArray{json}).toJson(QJsonDocument::Compact))
+            .mid(1)
+            .chopped(1);
+    case QJsonValue::String:
+        return QStringLiteral("a text");
+    case QJsonValue::Array:
+        return QStringLiteral("a list");
+    case QJsonValue::Object:
+        return QStringLiteral("an object");
+    case QJsonValue::Undefined:
+        break;
+    }
+    return QStringLiteral("nothing");
+}
+
+} // namespace IpcValues

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include <QtCore/QJsonObject>
+#include <QtCore/QJsonValue>
+#include <QtCore/QMetaType>
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+
+/// How the values of slots cross as JSON.
+namespace IpcValues {
+
+/// How well a JSON value fits a type; the better fit decides between overloads.
+enum class Fit : int
+{
+    None,
+    /// Fits through a second form, such as an integer as decimal text.
+    Lenient,
+    Exact,
+};
+
+struct Converted
+{
+    Fit fit = Fit::None;
+    /// Holds the type that was asked for, unless nothing fitted.
+    QVariant value;
+    /// What would have fitted, for the error message; empty when something did.
+    QString expected;
+};
+
+/// Whether values of `type` can cross: as an argument too, or as a result.
+bool isSupported(QMetaType type);
+
+Converted fromJson(const QJsonValue& json, QMetaType type);
+QJsonValue toJson(const QVariant& value);
+
+/// The JSON Schema of `type`. Records are named by reference, and their own schema is added to
+/// `records` under their name.
+QJsonObject schema(QMetaType type, QJsonObject& records);
+
+/// The kind of value in words, for error messages: "a text", "a number", …
+QString kindOf(const QJsonValue& json);
+
+} // namespace IpcValues

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QJsonValue>
+#include <QtCore/QString>
+
+/// What both ends of JSON-RPC 2.0 have in common.
+namespace JsonRpc {
+
+enum ErrorCode : int
+{
+    ParseError = -32700,
+    InvalidRequest = -32600,
+    MethodNotFound = -32601,
+    InvalidParams = -32602,
+    // From here on the codes that the standard leaves to servers.
+    LineTooLong = -32000,
+    TooManyClients = -32001,
+    AnswerTooLong = -32002,
+};
+
+inline constexpr qsizetype MaximumLine = qsizetype{1} << 20;
+inline constexpr qsizetype MaximumClients = 64;
+inline constexpr qsizetype MaximumAnswers = qsizetype{4} << 20;
+
+/// The error object of an answer.
+struct Error
+{
+    int code = 0;
+    QString message;
+    QJsonObject data;
+};
+
+QJsonObject success(const QJsonValue& id, const QJsonValue& result);
+QJsonObject failure(const QJsonValue& id, const Error& error);
+
+/// One message with the line end that separates it from the next.
+QByteArray line(const QJsonObject& message);
+
+} // namespace JsonRpc

@@ -1,0 +1,449 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "vxipcclient.h"
+
+#include "ipc_scope.h"
+#include "json_rpc.h"
+#include "line_buffer.h"
+
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QHash>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QPointer>
+#include <QtCore/QTimer>
+#include <QtNetwork/QLocalSocket>
+
+#include <algorithm>
+#include <utility>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr std::chrono::milliseconds DefaultTimeout = 30s;
+/// A living endpoint takes a connection at once, even when its process is busy.
+constexpr std::chrono::milliseconds ConnectTime = 1s;
+constexpr std::chrono::milliseconds FirstRetry = 100ms;
+constexpr std::chrono::milliseconds LastRetry = 5s;
+/// An endpoint's longest answer and what surrounds it in a batch.
+constexpr qsizetype MaximumLine = 2 * JsonRpc::MaximumAnswers;
+
+int milliseconds(std::chrono::milliseconds time)
+{
+    return static_cast<int>(time.count());
+}
+
+VXIPCReply failed(VXIPCError::Code code, const QString& message)
+{
+    return {QJsonValue::Null, VXIPCError{code, message, {}}};
+}
+
+QJsonObject request(const QString& method, const QJsonValue& parameters, const QJsonValue& id)
+{
+    QJsonObject object = {{QStringLiteral("jsonrpc"), QStringLiteral("2.0")},
+                          {QStringLiteral("method"), method}};
+    if (parameters.isArray() || parameters.isObject())
+        object.insert(QStringLiteral("params"), parameters);
+    if (!id.isUndefined())
+        object.insert(QStringLiteral("id"), id);
+    return object;
+}
+
+VXIPCReply readReply(const QJsonObject& answer)
+{
+    const QJsonValue error = answer.value(QStringLiteral("error"));
+    if (error.isUndefined())
+        return {answer.value(QStringLiteral("result")), std::nullopt};
+    const QJsonObject object = error.toObject();
+    return {QJsonValue::Null, VXIPCError{object.value(QStringLiteral("code")).toInt(),
+                                         object.value(QStringLiteral("message")).toString(),
+                                         object.value(QStringLiteral("data"))}};
+}
+
+} // namespace
+
+class VXIPCClient::Private
+{
+public:
+    Private(VXIPCClient& client, QString name);
+    ~Private();
+    Q_DISABLE_COPY_MOVE(Private)
+
+    bool isConnected() const { return m_socket->state() == QLocalSocket::ConnectedState; }
+    bool connectNow();
+    void disconnectNow();
+    void call(const QString& method, const QJsonValue& parameters, Callback done);
+    VXIPCReply callAndWait(const QString& method, const QJsonValue& parameters,
+                           std::chrono::milliseconds limit);
+    bool notify(const QString& method, const QJsonValue& parameters);
+
+    const QString serverName;
+    std::chrono::milliseconds timeout = DefaultTimeout;
+
+private:
+    struct Call
+    {
+        QDeadlineTimer deadline;
+        /// Who gets the outcome: a caller with a callback, or one that waits.
+        Callback done;
+        std::optional<VXIPCReply>* awaited = nullptr;
+    };
+
+    /// Why the request cannot be sent, if it cannot; sends it otherwise.
+    std::optional<VXIPCReply> send(const QJsonObject& request);
+    void onReadyRead();
+    void onLine(const QByteArray& line);
+    void onDisconnected();
+    void finish(qint64 id, const VXIPCReply& reply);
+    void finishAll(const VXIPCReply& reply);
+    void finishLate();
+    void deliverLater(Callback done, const VXIPCReply& reply);
+    void watch(const QDeadlineTimer& deadline);
+    void retryLater();
+    VXIPCReply timedOut() const;
+    VXIPCReply connectionLost() const;
+
+    VXIPCClient& q;
+    QLocalSocket* m_socket;
+    QTimer m_lateness;
+    QTimer m_reconnect;
+    std::chrono::milliseconds m_retryInterval = FirstRetry;
+
+    LineBuffer m_received;
+    qint64 m_lastId = 0;
+    QHash<qint64, Call> m_calls;
+    QDeadlineTimer m_nextLate{QDeadlineTimer::Forever};
+    /// How many waits, and how many looks at what arrived, are being made within each other.
+    int m_waits = 0;
+    int m_readings = 0;
+};
+
+VXIPCClient::Private::Private(VXIPCClient& client, QString name)
+    : serverName(std::move(name))
+    , q(client)
+    // Children, so that they move to another thread with the client.
+    , m_socket(new QLocalSocket(&client))
+    , m_lateness(&client)
+    , m_reconnect(&client)
+{
+    m_lateness.setSingleShot(true);
+    m_reconnect.setSingleShot(true);
+    connect(m_socket, &QLocalSocket::readyRead, &q, [this] { onReadyRead(); });
+    connect(m_socket, &QLocalSocket::disconnected, &q, [this] { onDisconnected(); });
+    connect(&m_lateness, &QTimer::timeout, &q, [this] { finishLate(); });
+    connect(&m_reconnect, &QTimer::timeout, &q, [this] { connectNow(); });
+}
+
+VXIPCClient::Private::~Private()
+{
+    m_socket->disconnect(&q);
+    if (m_readings == 0)
+        return;
+    // A callback destroys the client. The socket, which is telling that it is readable, needs to
+    // outlive that.
+    m_socket->setParent(nullptr);
+    m_socket->abort();
+    m_socket->deleteLater();
+}
+
+bool VXIPCClient::Private::connectNow()
+{
+    if (isConnected())
+        return true;
+    m_reconnect.stop();
+    m_received.clear();
+    m_socket->connectToServer(IpcScope::address(serverName));
+    if (!m_socket->waitForConnected(milliseconds(ConnectTime))) {
+        m_socket->abort();
+        retryLater();
+        return false;
+    }
+    m_retryInterval = FirstRetry;
+    Q_EMIT q.connected();
+    return isConnected();
+}
+
+void VXIPCClient::Private::disconnectNow()
+{
+    m_socket->abort();
+    m_reconnect.stop();
+}
+
+void VXIPCClient::Private::retryLater()
+{
+    m_reconnect.start(m_retryInterval);
+    m_retryInterval = std::min(2 * m_retryInterval, LastRetry);
+}
+
+void VXIPCClient::Private::call(const QString& method, const QJsonValue& parameters, Callback done)
+{
+    const qint64 id = ++m_lastId;
+    if (const auto failure = send(request(method, parameters, id))) {
+        deliverLater(std::move(done), *failure);
+        return;
+    }
+    const QDeadlineTimer deadline(timeout);
+    m_calls.insert(id, {deadline, std::move(done), nullptr});
+    watch(deadline);
+}
+
+VXIPCReply VXIPCClient::Private::callAndWait(const QString& method, const QJsonValue& parameters,
+                                             std::chrono::milliseconds limit)
+{
+    const QDeadlineTimer deadline(limit);
+    const qint64 id = ++m_lastId;
+    if (const auto failure = send(request(method, parameters, id)))
+        return *failure;
+    std::optional<VXIPCReply> outcome;
+    m_calls.insert(id, {deadline, {}, &outcome});
+    m_socket->flush();
+    ++m_waits;
+    while (!outcome) {
+        // Asked for here too: a wait within what readyRead led to is not told by it.
+        onReadyRead();
+        if (outcome)
+            break;
+        if (!isConnected())
+            finish(id, connectionLost());
+        else if (deadline.hasExpired())
+            finish(id, timedOut());
+        else
+            m_socket->waitForReadyRead(static_cast<int>(deadline.remainingTime()));
+    }
+    --m_waits;
+    return *outcome;
+}
+
+bool VXIPCClient::Private::notify(const QString& method, const QJsonValue& parameters)
+{
+    const bool isSent = !send(request(method, parameters, QJsonValue::Undefined));
+    m_socket->flush();
+    return isSent;
+}
+
+std::optional<VXIPCReply> VXIPCClient::Private::send(const QJsonObject& request)
+{
+    const QByteArray line = JsonRpc::line(request);
+    if (line.size() > JsonRpc::MaximumLine + 1) {
+        return VXIPCReply{QJsonValue::Null,
+                          VXIPCError{JsonRpc::LineTooLong,
+                                     QStringLiteral("Line too long: at most %1 bytes can be sent")
+                                         .arg(JsonRpc::MaximumLine),
+                                     {}}};
+    }
+    if (!connectNow()) {
+        return failed(VXIPCError::NotReachable,
+                      QStringLiteral("no endpoint answers under %1").arg(serverName));
+    }
+    m_socket->write(line);
+    return std::nullopt;
+}
+
+void VXIPCClient::Private::onReadyRead()
+{
+    const QPointer<VXIPCClient> alive(&q);
+    ++m_readings;
+    while (m_socket->bytesAvailable() > 0 || m_received.hasLine()) {
+        if (m_received.hasLine()) {
+            onLine(m_received.takeLine());
+            if (!alive)
+                return;
+            continue;
+        }
+        m_received.append(m_socket->readAll());
+        if (m_received.lineSize() > MaximumLine && !m_received.hasLine()) {
+            finishAll(failed(VXIPCError::BadAnswer, QStringLiteral("the answer has no end")));
+            if (!alive)
+                return;
+            m_socket->abort();
+            break;
+        }
+    }
+    --m_readings;
+}
+
+void VXIPCClient::Private::onLine(const QByteArray& line)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(line);
+    if (!document.isObject()) {
+        const QPointer<VXIPCClient> alive(&q);
+        finishAll(failed(VXIPCError::BadAnswer, QStringLiteral("the answer is no JSON-RPC 2.0")));
+        if (alive)
+            m_socket->abort();
+        return;
+    }
+    const QJsonObject answer = document.object();
+    const QJsonValue id = answer.value(QStringLiteral("id"));
+    // An error that belongs to no call is about the connection.
+    if (id.isNull())
+        finishAll(readReply(answer));
+    else
+        finish(id.toInteger(), readReply(answer));
+}
+
+void VXIPCClient::Private::onDisconnected()
+{
+    const QPointer<VXIPCClient> alive(&q);
+    retryLater();
+    Q_EMIT q.disconnected();
+    if (alive)
+        finishAll(connectionLost());
+}
+
+void VXIPCClient::Private::finish(qint64 id, const VXIPCReply& reply)
+{
+    const auto found = m_calls.find(id);
+    // The answer to a call that was given up.
+    if (found == m_calls.end())
+        return;
+    const Call call = std::move(*found);
+    m_calls.erase(found);
+    if (call.awaited)
+        *call.awaited = reply;
+    else if (m_waits > 0)
+        deliverLater(call.done, reply);
+    else if (call.done)
+        call.done(reply);
+}
+
+void VXIPCClient::Private::finishAll(const VXIPCReply& reply)
+{
+    const QPointer<VXIPCClient> alive(&q);
+    QList<qint64> ids = m_calls.keys();
+    std::sort(ids.begin(), ids.end());
+    for (const qint64 id : std::as_const(ids)) {
+        if (alive)
+            finish(id, reply);
+    }
+}
+
+void VXIPCClient::Private::finishLate()
+{
+    const QPointer<VXIPCClient> alive(&q);
+    QList<qint64> late;
+    QDeadlineTimer next(QDeadlineTimer::Forever);
+    for (auto call = m_calls.cbegin(); call != m_calls.cend(); ++call) {
+        if (call->awaited)
+            continue;
+        if (call->deadline.hasExpired())
+            late.append(call.key());
+        else
+            next = std::min(next, call->deadline);
+    }
+    m_nextLate = QDeadlineTimer(QDeadlineTimer::Forever);
+    watch(next);
+    std::sort(late.begin(), late.end());
+    for (const qint64 id : std::as_const(late)) {
+        if (alive)
+            finish(id, timedOut());
+    }
+}
+
+void VXIPCClient::Private::deliverLater(Callback done, const VXIPCReply& reply)
+{
+    if (!done)
+        return;
+    QMetaObject::invokeMethod(
+        &q, [done = std::move(done), reply] { done(reply); }, Qt::QueuedConnection);
+}
+
+void VXIPCClient::Private::watch(const QDeadlineTimer& deadline)
+{
+    if (deadline >= m_nextLate)
+        return;
+    m_nextLate = deadline;
+    m_lateness.start(static_cast<int>(deadline.remainingTime()));
+}
+
+VXIPCReply VXIPCClient::Private::timedOut() const
+{
+    return failed(VXIPCError::TimedOut,
+                  QStringLiteral("%1 did not answer in time").arg(serverName));
+}
+
+VXIPCReply VXIPCClient::Private::connectionLost() const
+{
+    return failed(VXIPCError::ConnectionLost,
+                  QStringLiteral("the connection to %1 broke").arg(serverName));
+}
+
+VXIPCClient::VXIPCClient(int serverType, QObject* parent)
+    : VXIPCClient(QStringLiteral("vxipc-%1").arg(serverType), parent)
+{}
+
+VXIPCClient::VXIPCClient(QString serverName, QObject* parent)
+    : QObject(parent)
+    , d(std::make_unique<Private>(*this, std::move(serverName)))
+{}
+
+VXIPCClient::~VXIPCClient() = default;
+
+QString VXIPCClient::serverName() const
+{
+    return d->serverName;
+}
+
+bool VXIPCClient::isConnected() const
+{
+    return d->isConnected();
+}
+
+void VXIPCClient::setTimeout(std::chrono::milliseconds timeout)
+{
+    d->timeout = timeout;
+}
+
+std::chrono::milliseconds VXIPCClient::timeout() const
+{
+    return d->timeout;
+}
+
+bool VXIPCClient::connectToServer()
+{
+    return d->connectNow();
+}
+
+void VXIPCClient::disconnectFromServer()
+{
+    d->disconnectNow();
+}
+
+void VXIPCClient::call(const QString& method, const QJsonValue& parameters, Callback done)
+{
+    d->call(method, parameters, std::move(done));
+}
+
+VXIPCReply VXIPCClient::callAndWait(const QString& method, const QJsonValue& parameters)
+{
+    return d->callAndWait(method, parameters, d->timeout);
+}
+
+VXIPCReply VXIPCClient::callAndWait(const QString& method, const QJsonValue& parameters,
+                                    std::chrono::milliseconds timeout)
+{
+    return d->callAndWait(method, parameters, timeout);
+}
+
+bool VXIPCClient::notify(const QString& method, const QJsonValue& parameters)
+{
+    return d->notify(method, parameters);
+}
+
+QStringList VXIPCClient::runningServers()
+{
+    QStringList running;
+    for (const QStringList names = IpcScope::names(QStringLiteral("vxipc-"));
+         const QString& name : names) {
+        QLocalSocket probe;
+        probe.connectToServer(IpcScope::address(name));
+        if (probe.waitForConnected(milliseconds(ConnectTime)))
+            running.append(name);
+    }
+    return running;
+}
+
+QString VXIPCClient::address(const QString& serverName)
+{
+    return IpcScope::address(serverName);
+}

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include <QtCore/QJsonValue>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+
+/// Why a call has no result.
+struct VXIPCError
+{
+    /// Codes of this client, beside those that the endpoint answers (JSON-RPC 2.0's own, -32700 to
+    /// -32600, and -32000 to -32099).
+    enum Code : int
+    {
+        /// No endpoint answers under the name. The call was not made.
+        NotReachable = 1,
+        /// The connection broke. Whether the call was made is not known.
+        ConnectionLost = 2,
+        /// No answer came in time. The call may still be made.
+        TimedOut = 3,
+        /// What came back is no JSON-RPC 2.0.
+        BadAnswer = 4,
+    };
+
+    int code = 0;
+    /// One line for people, in English.
+    QString message;
+    /// What the endpoint added: for invalid parameters an object with `argument` and `expected`.
+    QJsonValue data;
+};
+
+/// The outcome of a call.
+struct VXIPCReply
+{
+    /// Null for a method without a result, and where there is an error.
+    QJsonValue result;
+    std::optional<VXIPCError> error;
+
+    bool isOk() const { return !error; }
+};
+
+/// Calls the methods of an endpoint in another process, or in this one.
+///
+/// \code
+/// VXIPCClient supplies(0);
+/// const VXIPCReply reply
+///     = supplies.callAndWait("supplyColorName", QJsonArray{"SKU", "PRINTER"}, 2s);
+/// if (reply.isOk())
+///     qInfo() << reply.result.toString();
+/// supplies.call("supplySKUList", {}, [](const VXIPCReply& skus) { … });
+/// \endcode
+///
+/// Parameters are a QJsonArray, by position, or a QJsonObject, by name; docs/ipc.md says how each
+/// type is written. A client connects with its first call. After a lost connection it connects
+/// again by itself, at growing intervals, and each call tries at once.
+///
+/// Lives in one thread, which the blocking form blocks; the other forms need its event loop.
+class VXIPCClient : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Callback = std::function<void(const VXIPCReply&)>;
+
+    /// For the endpoint of a service: 0 the supply database, 1 the printer controller, 2 the print
+    /// queue.
+    explicit VXIPCClient(int serverType, QObject* parent = nullptr);
+    /// For the endpoint of that name, as VXIPCServer::serverName() and runningServers() give it.
+    explicit VXIPCClient(QString serverName, QObject* parent = nullptr);
+    ~VXIPCClient() override;
+
+    QString serverName() const;
+    bool isConnected() const;
+
+    /// How long a call waits for its answer, 30 s unless set. Counts for calls made from then on.
+    void setTimeout(std::chrono::milliseconds timeout);
+    std::chrono::milliseconds timeout() const;
+
+    /// Connects if it is not connected. False when no endpoint answers under the name.
+    bool connectToServer();
+    /// Ends the connection, and the attempts to have one. Calls in flight end with ConnectionLost.
+    void disconnectFromServer();
+
+    /// Makes a call and returns. `done` gets its outcome later, exactly once and never from within
+    /// this function; not at all when the client is destroyed before.
+    void call(const QString& method, const QJsonValue& parameters, Callback done);
+
+    /// Makes a call and waits for its outcome, up to timeout() or the time given. Other calls'
+    /// outcomes are kept for the event loop.
+    VXIPCReply callAndWait(const QString& method, const QJsonValue& parameters = {});
+    VXIPCReply callAndWait(const QString& method, const QJsonValue& parameters,
+                           std::chrono::milliseconds timeout);
+
+    /// Makes a call that is not answered. False when no endpoint answers under the name.
+    bool notify(const QString& method, const QJsonValue& parameters = {});
+
+    /// The names of the user's endpoints that answer now.
+    static QStringList runningServers();
+    /// Where the endpoint of that name listens: a socket's path, a pipe's name on Windows.
+    static QString address(const QString& serverName);
+
+Q_SIGNALS:
+    void connected();
+    /// The connection ended; the calls in flight are told after this.
+    void disconnected();
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include "vxipcserver.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QEventLoop>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QTimer>
+#include <QtCore/QVariant>
+
+#include <algorithm>
+
+/// A record with a member of each kind.
+class TestRecord
+{
+    Q_GADGET
+    Q_PROPERTY(QString name MEMBER name)
+    Q_PROPERTY(int count MEMBER count)
+    Q_PROPERTY(float width MEMBER width)
+    Q_PROPERTY(bool isLoaded MEMBER isLoaded)
+    Q_PROPERTY(QByteArray image MEMBER image)
+    Q_PROPERTY(QStringList panels MEMBER panels)
+    Q_PROPERTY(QVariantList heats MEMBER heats)
+
+public:
+    QString name;
+    int count = -1;
+    float width = -1.0F;
+    bool isLoaded = false;
+    QByteArray image;
+    QStringList panels;
+    QVariantList heats;
+};
+Q_DECLARE_METATYPE(TestRecord)
+
+/// The interface of a service, as an endpoint derives from it.
+class TestInterface : public VXIPCServer
+{
+    Q_OBJECT
+
+public:
+    using VXIPCServer::VXIPCServer;
+
+public Q_SLOTS:
+    virtual QString echo(QString text) = 0;
+    virtual int scale(int value, int factor = 10) = 0;
+};
+
+/// An endpoint with a slot for everything that can cross, and some that must not be reachable.
+class TestService : public TestInterface
+{
+    Q_OBJECT
+
+public:
+    explicit TestService(int serverType, QObject* parent = nullptr)
+        : TestInterface(serverType, parent)
+    {}
+
+    QStringList log;
+    bool isSecretTold = false;
+
+public Q_SLOTS:
+    QString echo(QString text) override { return text; }
+    int scale(int value, int factor = 10) override { return value * factor; }
+
+    bool invert(bool value) { return !value; }
+    uint unsignedEcho(uint value) { return value; }
+    qlonglong wideEcho(qlonglong value) { return value; }
+    qulonglong unsignedWideEcho(qulonglong value) { return value; }
+    float single(float value) { return value; }
+    double half(double value) { return value / 2; }
+    QByteArray reversed(QByteArray bytes)
+    {
+        std::reverse(bytes.begin(), bytes.end());
+        return bytes;
+    }
+    QStringList sorted(QStringList texts)
+    {
+        texts.sort();
+        return texts;
+    }
+    QVariantList listEcho(QVariantList list) { return list; }
+    QVariantHash hashEcho(QVariantHash hash) { return hash; }
+    QVariantMap mapEcho(QVariantMap map) { return map; }
+    QVariant anyEcho(QVariant value) { return value; }
+    TestRecord recordEcho(TestRecord record) { return record; }
+
+    QString overloaded(int) { return QStringLiteral("int"); }
+    QString overloaded(double) { return QStringLiteral("double"); }
+    QString overloaded(QString) { return QStringLiteral("text"); }
+    QString overloaded(int, qulonglong) { return QStringLiteral("int, wide"); }
+    QString overloaded(int, QString) { return QStringLiteral("int, text"); }
+
+    void note(QString entry) { log.append(entry); }
+    QStringList notes() { return log; }
+
+    QByteArray zeroes(int count) { return {count, '\0'}; }
+    /// Takes calls while it is being called, until `release` is.
+    QString wait()
+    {
+        QEventLoop loop;
+        connect(this, &TestService::released, &loop, &QEventLoop::quit);
+        loop.exec();
+        return QStringLiteral("waited");
+    }
+    void release() { Q_EMIT released(); }
+    /// Keeps the thread for a while, as a slot that computes does.
+    void block(int milliseconds);
+    void destroy() { delete this; }
+    void quit();
+
+    QObject* notACrossingType() { return this; }
+
+Q_SIGNALS:
+    void released();
+
+protected Q_SLOTS:
+    void protectedSecret() { isSecretTold = true; }
+
+private Q_SLOTS:
+    void privateSecret() { isSecretTold = true; }
+
+public:
+    Q_INVOKABLE void invokableSecret() { isSecretTold = true; }
+};
