@@ -1,0 +1,310 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// What listing the printers costs, and how that grows with their number.
+#include "benchmark_support.h"
+#include "windows_printer_info.h"
+
+#include <virtualwindows/machine.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDateTime>
+#include <QtCore/QFile>
+#include <QtCore/QHash>
+#include <QtCore/QSettings>
+#include <QtCore/QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstddef>
+#include <cstdio>
+#include <limits>
+#include <map>
+#include <memory>
+#include <span>
+
+#include <windows.h>
+#include <winspool.h>
+
+using virtualwindows::Machine;
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int fewest = 10;
+constexpr int most = 1000;
+// Of either side in a run; a file that is written is waited for, which takes its time.
+constexpr int printersWithKnownNumbers = 5000;
+constexpr int callsWithNewNumbers = 10;
+constexpr int repetitions = 10;
+constexpr double growthLimit = 1.3;
+
+// The file that serial numbers are recorded in.
+constexpr QLatin1String companyName("Harlow Devices Inc");
+constexpr QLatin1String applicationName("Quillmark");
+
+constexpr QLatin1String classGuid("{4d36e979-e325-11ce-bfc1-08002be10318}");
+constexpr QLatin1String
+    classesKey("HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control\\DeviceClasses\\");
+
+void populateMachine(int count)
+{
+    Machine& machine = Machine::instance();
+    machine.reset();
+    for (int number = 1; number <= count; ++number) {
+        virtualwindows::PrinterSetup printer;
+        printer.name = QStringLiteral("Label printer %1").arg(number);
+        printer.driver = QStringLiteral("Stratamark BirchMax");
+        printer.port = QStringLiteral("USB%1").arg(number, 3, 10, QLatin1Char('0'));
+        machine.addPrinter(printer);
+
+        const QString serialNumber = QStringLiteral("BM%1").arg(number, 8, 10, QLatin1Char('0'));
+        virtualwindows::DeviceSetup device;
+        device.classGuid = classGuid;
+        device.interfaceKey =
+            QStringLiteral("##?#USB#VID_3E7A&PID_0102#%1#%2").arg(serialNumber, QString(classGuid));
+        device.portNumber = number;
+        device.serialNumber = serialNumber;
+        machine.addDevice(device);
+    }
+}
+
+// The floor.
+
+struct Devices
+{
+    QHash<quint16, QString> serialNumbers; ///< by port
+    QString last;
+};
+
+Devices readDevices()
+{
+    using namespace virtualwindows;
+    const QStringList guids = registry::childGroups(classesKey);
+    for (const QString& guid : guids) {
+        const QString classKey = classesKey + guid;
+        const QStringList keys = registry::childGroups(classKey);
+        const bool isMakers = std::any_of(keys.begin(), keys.end(), [](const QString& key) {
+            return key.contains(QLatin1String("VID_3E7A"), Qt::CaseInsensitive);
+        });
+        if (!isMakers)
+            continue;
+
+        Devices devices;
+        for (const QString& key : keys) {
+            const QString path =
+                classKey + QLatin1Char('\\') + key + QLatin1String("\\#\\Device Parameters");
+            const auto port =
+                static_cast<quint16>(registry::value(path, QStringLiteral("Port Number")).toUInt());
+            devices.last = registry::value(path, QStringLiteral("Serial Number")).toString();
+            if (!devices.serialNumbers.contains(port))
+                devices.serialNumbers.insert(port, devices.last);
+        }
+        return devices;
+    }
+    return {};
+}
+
+/// The same answer and the same record of serial numbers, in one function and with nothing that
+/// these printers do not need.
+QList<AvailablePrinters> enumerateByHand()
+{
+    constexpr DWORD kinds = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
+    DWORD needed = 0;
+    DWORD count = 0;
+    EnumPrintersW(kinds, nullptr, 2, nullptr, 0, &needed, &count);
+    const std::unique_ptr<std::byte[]> block(new std::byte[needed]);
+    EnumPrintersW(kinds, nullptr, 2, reinterpret_cast<BYTE*>(block.get()), needed, &needed, &count);
+
+    const Devices devices = readDevices();
+    QSettings settings =
+        QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Harlow Devices Inc"),
+                  QStringLiteral("Quillmark"));
+    settings.setFallbacksEnabled(false);
+    settings.beginGroup(QStringLiteral("associatedPrinters"));
+
+    QList<AvailablePrinters> printers;
+    printers.reserve(count);
+    for (const PRINTER_INFO_2W& info :
+         std::span(reinterpret_cast<const PRINTER_INFO_2W*>(block.get()), count)) {
+        AvailablePrinters& printer = printers.emplaceBack();
+        printer.printerName = QString::fromUtf16(info.pPrinterName);
+        printer.portName = QString::fromUtf16(info.pPortName).remove(QLatin1String("USB"));
+        printer.driverName = QString::fromUtf16(info.pDriverName);
+
+        const auto found =
+            devices.serialNumbers.constFind(static_cast<quint16>(printer.portName.toUInt()));
+        const bool isOnPort = found != devices.serialNumbers.cend();
+        printer.serialNumber = isOnPort ? *found : devices.last;
+        if (isOnPort && !settings.contains(printer.serialNumber))
+            settings.setValue(printer.serialNumber, QDateTime::currentDateTime().toString(
+                                                        QStringLiteral("yyyy-MM-dd hh:mm:ss")));
+
+        constexpr DWORD reach = PRINTER_ATTRIBUTE_NETWORK | PRINTER_ATTRIBUTE_LOCAL;
+        printer.isNetworkPrinter = (info.Attributes & reach) != PRINTER_ATTRIBUTE_LOCAL ||
+                                   printer.portName.count(QLatin1Char('.')) == 3;
+        printer.isShared = (info.Attributes & PRINTER_ATTRIBUTE_SHARED) != 0;
+        printer.isOffline = (info.Attributes & PRINTER_ATTRIBUTE_WORK_OFFLINE) ||
+                            (info.Status & PRINTER_STATUS_OFFLINE);
+    }
+    return printers;
+}
+
+bool isSame(const AvailablePrinters& left, const AvailablePrinters& right)
+{
+    return left.printerName == right.printerName && left.portName == right.portName &&
+           left.driverName == right.driverName && left.serialNumber == right.serialNumber &&
+           left.isNetworkPrinter == right.isNetworkPrinter && left.isShared == right.isShared &&
+           left.isOffline == right.isOffline;
+}
+
+// The measurement.
+
+/// Microseconds a printer.
+struct Samples
+{
+    std::vector<double> library;
+    std::vector<double> floor;
+    std::vector<double> registry; ///< the floor's registry reads alone
+};
+
+/// Which serial numbers the file holds when an enumeration begins.
+enum class SerialFile
+{
+    Known, ///< all: nothing is written
+    New,   ///< none: all are written
+};
+
+/// The samples of every repetition by the number of printers.
+std::map<int, Samples> samplesOf[2];
+
+std::map<int, Samples>& samplesFor(SerialFile file)
+{
+    return samplesOf[static_cast<int>(file)];
+}
+
+template <typename Work>
+double microseconds(Work work)
+{
+    const Clock::time_point start = Clock::now();
+    auto result = work();
+    const std::chrono::duration<double, std::micro> time = Clock::now() - start;
+    benchmark::DoNotOptimize(result);
+    return time.count();
+}
+
+void enumeration(benchmark::State& state, SerialFile file)
+{
+    const int count = static_cast<int>(state.range(0));
+    populateMachine(count);
+    // A file of its own for every run, so that none holds the serial numbers of a larger one.
+    const QTemporaryDir folder;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+    const QString fileName =
+        QSettings(QSettings::IniFormat, QSettings::UserScope, companyName, applicationName)
+            .fileName();
+    if (!fileName.startsWith(folder.path())) {
+        state.SkipWithError("the INI file is not in the temporary folder");
+        return;
+    }
+
+    const QList<AvailablePrinters> library = WindowsPrinterInfo::getAvailablePrinters();
+    const QList<AvailablePrinters> floor = enumerateByHand();
+    if (library.size() != count ||
+        !std::equal(library.begin(), library.end(), floor.begin(), floor.end(), isSame)) {
+        state.SkipWithError("the library and the floor list different printers");
+        return;
+    }
+    if (QFile ini(fileName); !ini.open(QIODevice::ReadOnly) || ini.readAll().count("BM") != count) {
+        state.SkipWithError("the INI file does not hold all serial numbers");
+        return;
+    }
+
+    const auto timed = [&](auto work) {
+        if (file == SerialFile::New)
+            QFile::remove(fileName);
+        return microseconds(work) / count;
+    };
+    Samples samples;
+    const auto takeLibrary = [&] {
+        samples.library.push_back(timed(&WindowsPrinterInfo::getAvailablePrinters));
+        state.SetIterationTime(samples.library.back() * count * 1e-6);
+    };
+    const auto takeFloor = [&] {
+        samples.floor.push_back(timed(&enumerateByHand));
+    };
+    bool libraryFirst = true;
+    for ([[maybe_unused]] auto iteration : state) {
+        if (libraryFirst)
+            takeLibrary();
+        takeFloor();
+        if (!libraryFirst)
+            takeLibrary();
+        libraryFirst = !libraryFirst;
+        samples.registry.push_back(microseconds(&readDevices) / count);
+    }
+
+    using benchmark_support::median;
+    state.counters["library_us_a_printer"] = median(samples.library);
+    state.counters["floor_us_a_printer"] = median(samples.floor);
+    state.counters["ratio"] = median(samples.library) / median(samples.floor);
+    state.counters["registry_us_a_printer"] = median(samples.registry);
+
+    Samples& all = samplesFor(file)[count];
+    all.library.insert(all.library.end(), samples.library.begin(), samples.library.end());
+    all.floor.insert(all.floor.end(), samples.floor.begin(), samples.floor.end());
+    all.registry.insert(all.registry.end(), samples.registry.begin(), samples.registry.end());
+}
+
+void registerBenchmarks()
+{
+    for (const auto& [name, file] :
+         {std::pair("enumeration/serial_numbers_known", SerialFile::Known),
+          std::pair("enumeration/serial_numbers_new", SerialFile::New)}) {
+        for (int count = fewest; count <= most; count *= 10) {
+            benchmark::RegisterBenchmark(name, &enumeration, file)
+                ->Arg(count)
+                ->Iterations(file == SerialFile::Known ? printersWithKnownNumbers / count
+                                                       : callsWithNewNumbers)
+                ->Repetitions(repetitions)
+                ->DisplayAggregatesOnly(true)
+                ->UseManualTime()
+                ->Unit(benchmark::kMicrosecond);
+        }
+    }
+}
+
+/// How much more a printer takes among the most than among the fewest.
+double growth(SerialFile file, std::vector<double> Samples::*side)
+{
+    const std::vector<double>& few = samplesFor(file)[fewest].*side;
+    const std::vector<double>& many = samplesFor(file)[most].*side;
+    if (few.empty() || many.empty())
+        return std::numeric_limits<double>::quiet_NaN();
+    return benchmark_support::median(many) / benchmark_support::median(few);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    registerBenchmarks();
+    // In turns, so that a machine that changes its pace does so for every number of printers.
+    if (!benchmark_support::run(argc, argv, {"--benchmark_enable_random_interleaving=true"}))
+        return 2;
+
+    benchmark_support::Limits limits;
+    for (const auto& [name, file] :
+         {std::pair("known", SerialFile::Known), std::pair("new", SerialFile::New)}) {
+        std::printf("growth of the floor, serial numbers %s: %.3f; of its registry reads: %.3f\n",
+                    name, growth(file, &Samples::floor), growth(file, &Samples::registry));
+        limits.atMost(std::string("a printer among 1000 over one among 10, serial numbers ") + name,
+                      growth(file, &Samples::library), growthLimit, "");
+    }
+    return limits.conclude();
+}

@@ -1,0 +1,358 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// How long a value takes from its publishing by the driver to the slot on the host's thread.
+#include "benchmark_support.h"
+#include "printer_status_thread.h"
+
+#include <virtualwindows/machine.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QSemaphore>
+
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <chrono>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <memory>
+#include <thread>
+#include <vector>
+
+#include <windows.h>
+#include <winspool.h>
+
+using virtualwindows::Machine;
+using virtualwindows::PrinterValue;
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int blocks = 200;
+constexpr int samplesPerBlock = 25;
+constexpr int repetitions = 3;
+constexpr double medianLimit = 1.15;
+constexpr double p99Limit = 1.5;
+constexpr int watchingThreads = 2;
+// Long enough for the watching and the host's thread to be asleep when the next value comes, as
+// they are in the field.
+constexpr std::chrono::microseconds settlingTime(100);
+
+struct ValueRead
+{
+    const char* name;
+    DWORD capacity;
+    bool isText;
+};
+
+/// The order and the sizes of the library's reads.
+constexpr std::array<ValueRead, 11> valueReads{{
+    {"SupplyIdentifier", 21, true},
+    {"Ribbon1Identifier", 4, false},
+    {"Ribbon2Identifier", 4, false},
+    {"StatusCode", 128, true},
+    {"SoftwareVersion", 37, true},
+    {"EthernetConfig", 74, true},
+    {"Mileage", 4, false},
+    {"Ribbon1Mileage", 4, false},
+    {"Ribbon2Mileage", 4, false},
+    {"UpdateProgress", 4, false},
+    {"UpdateError", 4, false},
+}};
+
+/// The receiving end: lives on the host's thread, whose event loop delivers to it.
+class Host : public QObject
+{
+public:
+    void receive(const QString& printer, const QString& value)
+    {
+        m_arrival = Clock::now();
+        m_printer = printer;
+        m_value = value;
+        m_arrived.release();
+    }
+
+    struct Arrival
+    {
+        Clock::time_point time;
+        QString printer;
+        QString value;
+    };
+    /// Blocks the calling thread, which is not the host's, until something has arrived.
+    Arrival next()
+    {
+        m_arrived.acquire();
+        return {m_arrival, m_printer, m_value};
+    }
+
+private:
+    QSemaphore m_arrived;
+    Clock::time_point m_arrival;
+    QString m_printer;
+    QString m_value;
+};
+
+/// The floor: the least that a thread can do to tell its host of the same values. It makes the same
+/// calls in the same order and nothing else: no checks, no texts but for the value that changed.
+class HandWrittenThread final : public QThread
+{
+public:
+    HandWrittenThread(const QString& printerName, Host& host)
+        : m_printerName(printerName)
+        , m_host(host)
+        , m_stopEvent(CreateEventW(nullptr, TRUE, FALSE, nullptr))
+    {}
+    ~HandWrittenThread() override
+    {
+        SetEvent(m_stopEvent);
+        wait();
+        CloseHandle(m_stopEvent);
+    }
+    Q_DISABLE_COPY_MOVE(HandWrittenThread)
+
+protected:
+    void run() override
+    {
+        HANDLE printer = nullptr;
+        OpenPrinterA(m_printerName.toLocal8Bit().data(), &printer, nullptr);
+        const HANDLE change = FindFirstPrinterChangeNotification(printer, 0x7777FFFF, 0, nullptr);
+        readAll(printer);
+
+        const std::array<HANDLE, 2> handles{m_stopEvent, change};
+        for (;;) {
+            switch (WaitForMultipleObjects(2, handles.data(), FALSE, 5000)) {
+            case WAIT_OBJECT_0:
+                FindClosePrinterChangeNotification(change);
+                ClosePrinter(printer);
+                return;
+            case WAIT_OBJECT_0 + 1: {
+                DWORD changes = 0;
+                FindNextPrinterChangeNotification(change, &changes, nullptr, nullptr);
+                readAll(printer);
+                break;
+            }
+            default:
+                break;
+            }
+        }
+    }
+
+private:
+    struct Reading
+    {
+        DWORD type = REG_NONE;
+        DWORD size = 0;
+        std::array<BYTE, 128> bytes{};
+
+        bool operator==(const Reading&) const = default;
+    };
+
+    void readAll(HANDLE printer)
+    {
+        std::array<Reading, valueReads.size()> readings;
+        for (std::size_t index = 0; index < valueReads.size(); ++index) {
+            Reading& reading = readings[index];
+            GetPrinterDataA(printer, const_cast<char*>(valueReads[index].name), &reading.type,
+                            reading.bytes.data(), valueReads[index].capacity, &reading.size);
+        }
+        DWORD needed = 0;
+        GetPrinterW(printer, 1, nullptr, 0, &needed);
+        const std::unique_ptr<BYTE[]> block(new BYTE[needed]);
+        GetPrinterW(printer, 1, block.get(), needed, &needed);
+        benchmark::DoNotOptimize(block.get());
+
+        for (std::size_t index = 0; index < valueReads.size(); ++index) {
+            if (readings[index] == m_lastSeen[index])
+                continue;
+            m_lastSeen[index] = readings[index];
+            // The host asked for one of the values, as it does of the library.
+            if (std::strcmp(valueReads[index].name, "Mileage") == 0)
+                report(readings[index]);
+        }
+    }
+
+    void report(const Reading& reading)
+    {
+        quint32 number = 0;
+        std::memcpy(&number, reading.bytes.data(), sizeof number);
+        QMetaObject::invokeMethod(
+            &m_host,
+            [host = &m_host, printer = m_printerName, value = QString::number(number)] {
+                host->receive(printer, value);
+            },
+            Qt::QueuedConnection);
+    }
+
+    const QString m_printerName;
+    Host& m_host;
+    const HANDLE m_stopEvent;
+    std::array<Reading, valueReads.size()> m_lastSeen;
+};
+
+/// Both watching threads, each with a printer of its own, and the host's thread.
+class Setting
+{
+public:
+    Setting()
+    {
+        Machine::instance().reset();
+        m_hostThread.start();
+        m_host.moveToThread(&m_hostThread);
+        for (const QString& name : {libraryPrinter, floorPrinter})
+            addPrinter(name);
+
+        QObject::connect(&m_library, &PrinterStatusThread::supplyIntMileageChanged, &m_host,
+                         &Host::receive);
+        m_library.setMonitoredPrinterName(libraryPrinter);
+        m_library.start();
+        m_host.next(); // the first read reports every value
+        m_floor = std::make_unique<HandWrittenThread>(floorPrinter, m_host);
+        m_floor->start();
+        m_host.next();
+    }
+    ~Setting()
+    {
+        m_floor.reset();
+        while (!m_library.wait(10))
+            m_library.stop();
+        m_hostThread.quit();
+        m_hostThread.wait();
+    }
+    Q_DISABLE_COPY_MOVE(Setting)
+
+    /// Microseconds from the publishing of a new value to the slot; NaN when something else than
+    /// that value arrived.
+    double sample(const QString& printer)
+    {
+        if (!Machine::instance().waitForWaitingThreads(watchingThreads))
+            return std::numeric_limits<double>::quiet_NaN();
+        std::this_thread::sleep_for(settlingTime);
+
+        m_mileage = m_mileage % 100000 + 1;
+        const PrinterValue value = PrinterValue::number("Mileage", m_mileage);
+        const Clock::time_point published = Clock::now();
+        Machine::instance().publish(printer, value);
+        const Host::Arrival arrival = m_host.next();
+        if (arrival.printer != printer || arrival.value != QString::number(m_mileage))
+            return std::numeric_limits<double>::quiet_NaN();
+        return std::chrono::duration<double, std::micro>(arrival.time - published).count();
+    }
+
+    // Of the same length, so that neither name costs more than the other.
+    static inline const QString libraryPrinter = QStringLiteral("Label printer 1");
+    static inline const QString floorPrinter = QStringLiteral("Label printer 2");
+
+private:
+    static void addPrinter(const QString& name)
+    {
+        virtualwindows::PrinterSetup setup;
+        setup.name = name;
+        setup.driver = QStringLiteral("Stratamark BirchMax");
+        Machine::instance().addPrinter(setup);
+
+        QList<PrinterValue> values;
+        for (const ValueRead& read : valueReads) {
+            values.append(read.isText
+                              ? PrinterValue::text(read.name, QByteArray(qsizetype{20}, '1'))
+                              : PrinterValue::number(read.name, 1));
+        }
+        Machine::instance().publish(name, values);
+    }
+
+    quint32 m_mileage = 1;
+    Host m_host;
+    QThread m_hostThread;
+    PrinterStatusThread m_library;
+    std::unique_ptr<HandWrittenThread> m_floor;
+};
+
+struct Samples
+{
+    std::vector<double> library;
+    std::vector<double> floor;
+
+    void append(const Samples& other)
+    {
+        library.insert(library.end(), other.library.begin(), other.library.end());
+        floor.insert(floor.end(), other.floor.begin(), other.floor.end());
+    }
+    double ratio(double share) const
+    {
+        if (library.empty())
+            return std::numeric_limits<double>::quiet_NaN();
+        return benchmark_support::quantile(library, share) /
+               benchmark_support::quantile(floor, share);
+    }
+};
+
+/// Samples of every repetition: the limits are held against all of them together.
+Samples allSamples;
+
+void reportLatency(benchmark::State& state)
+{
+    Setting setting;
+    Samples samples;
+    bool libraryFirst = true;
+    const auto takeBlock = [&](const QString& printer, std::vector<double>& into) {
+        double sum = 0;
+        for (int index = 0; index < samplesPerBlock; ++index) {
+            into.push_back(setting.sample(printer));
+            sum += into.back();
+        }
+        return sum;
+    };
+    const auto takeLibraryBlock = [&] {
+        const double sum = takeBlock(Setting::libraryPrinter, samples.library);
+        if (std::isnan(sum))
+            state.SkipWithError("the library reported something else than what was published");
+        state.SetIterationTime(sum / samplesPerBlock * 1e-6);
+    };
+    const auto takeFloorBlock = [&] {
+        if (std::isnan(takeBlock(Setting::floorPrinter, samples.floor)))
+            state.SkipWithError("the floor reported something else than what was published");
+    };
+
+    for ([[maybe_unused]] auto iteration : state) {
+        if (libraryFirst)
+            takeLibraryBlock();
+        takeFloorBlock();
+        if (!libraryFirst)
+            takeLibraryBlock();
+        libraryFirst = !libraryFirst;
+        if (state.error_occurred())
+            return;
+    }
+
+    state.counters["samples_each"] = static_cast<double>(samples.library.size());
+    state.counters["library_median_us"] = benchmark_support::median(samples.library);
+    state.counters["floor_median_us"] = benchmark_support::median(samples.floor);
+    state.counters["median_ratio"] = samples.ratio(0.5);
+    state.counters["library_p99_us"] = benchmark_support::quantile(samples.library, 0.99);
+    state.counters["floor_p99_us"] = benchmark_support::quantile(samples.floor, 0.99);
+    state.counters["p99_ratio"] = samples.ratio(0.99);
+    allSamples.append(samples);
+}
+
+BENCHMARK(reportLatency)
+    ->Iterations(blocks)
+    ->Repetitions(repetitions)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    if (!benchmark_support::run(argc, argv))
+        return 2;
+
+    benchmark_support::Limits limits;
+    limits.atMost("report latency, median over the floor's", allSamples.ratio(0.5), medianLimit,
+                  "");
+    limits.atMost("report latency, p99 over the floor's", allSamples.ratio(0.99), p99Limit, "");
+    return limits.conclude();
+}
