@@ -32,9 +32,9 @@ public:
         , m_answers(capacity)
     {}
 
-    /// The answer to a key; the values are bound to the statement's parameters when it must be
-    /// asked. The reference holds until the next call. An answer that could not be had in whole has
-    /// the defaults and is not kept.
+    /// The answer to a key; the values are bound to the statement's parameters, in the order of
+    /// their places in its text, when it must be asked. The reference holds until the next call. An
+    /// answer that could not be had in whole has the defaults and is not kept.
     template <typename... Values>
     const Answer& answer(const QSqlDatabase& database, const Key& key, const Values&... values)
     {

@@ -40,8 +40,8 @@ constexpr const char* ColourSql = R"(
     FROM supply s
     JOIN colour c ON c.id = s.colour_id
     JOIN name n ON n.id = c.name_id
-    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?2
-    WHERE s.sku = ?1)";
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?
+    WHERE s.sku = ?)";
 
 struct SecondColour : Colour
 {
@@ -52,8 +52,8 @@ constexpr const char* SecondColourSql = R"(
     FROM supply s
     JOIN colour c ON c.id = s.second_colour_id
     JOIN name n ON n.id = c.name_id
-    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?2
-    WHERE s.sku = ?1)";
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?
+    WHERE s.sku = ?)";
 
 struct Material
 {
@@ -65,8 +65,8 @@ constexpr const char* MaterialSql = R"(
     FROM supply s
     JOIN material m ON m.id = s.material_id
     JOIN name n ON n.id = m.name_id
-    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?2
-    WHERE s.sku = ?1)";
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?
+    WHERE s.sku = ?)";
 
 struct Format
 {
@@ -79,8 +79,8 @@ constexpr const char* FormatSql = R"(
     FROM supply s
     JOIN format f ON f.id = s.format_id
     JOIN name n ON n.id = f.name_id
-    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?2
-    WHERE s.sku = ?1)";
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?
+    WHERE s.sku = ?)";
 
 struct Size
 {
@@ -92,7 +92,7 @@ struct Size
 constexpr const char* SizeSql = R"(
     SELECT width, length, coalesce(label_length, -1.0), coalesce(separator_width, -1.0)
     FROM supply
-    WHERE sku = ?1)";
+    WHERE sku = ?)";
 
 struct Arrangement
 {
@@ -103,13 +103,13 @@ struct Arrangement
 constexpr const char* ArrangementSql = R"(
     SELECT is_landscape, multi_up_count, coalesce(multi_up_gap, -1.0)
     FROM supply
-    WHERE sku = ?1)";
+    WHERE sku = ?)";
 
 constexpr const char* BackgroundSql = R"(
     SELECT b.image
     FROM supply s
     JOIN background b ON b.id = s.background_id
-    WHERE s.sku = ?1)";
+    WHERE s.sku = ?)";
 
 // The place of a supply's format, by printer model.
 using TypeIndices = QHash<QString, int>;
@@ -117,7 +117,7 @@ constexpr const char* TypeIndicesSql = R"(
     SELECT p.model, p.position
     FROM supply s
     JOIN printer_format p ON p.format_id = s.format_id
-    WHERE s.sku = ?1)";
+    WHERE s.sku = ?)";
 
 // Longer models first, so that the first one found in a printer's name is the one meant. The model
 // of all other printers is the empty text, which is found in any name.
@@ -132,9 +132,9 @@ struct Ribbon
     int panels = -1;
 };
 constexpr const char* RibbonSql = R"(
-    SELECT type, width, length, (SELECT count(*) FROM ribbon_panel WHERE ribbon_sku = ?1)
+    SELECT type, width, length, (SELECT count(*) FROM ribbon_panel WHERE ribbon_sku = sku)
     FROM ribbon
-    WHERE sku = ?1)";
+    WHERE sku = ?)";
 
 using PanelKey = std::pair<QString, int>;
 constexpr const char* PanelColourSql = R"(
@@ -142,8 +142,8 @@ constexpr const char* PanelColourSql = R"(
     FROM ribbon_panel p
     JOIN colour c ON c.id = p.colour_id
     JOIN name n ON n.id = c.name_id
-    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?3
-    WHERE p.ribbon_sku = ?1 AND p.panel = ?2)";
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?
+    WHERE p.ribbon_sku = ? AND p.panel = ?)";
 
 struct SettingKey
 {
@@ -167,10 +167,10 @@ struct PrintSetting
 constexpr const char* SettingSql = R"(
     SELECT heat, heat_offset, max_speed, tension
     FROM print_setting
-    WHERE ribbon_sku = ?1 AND panel = ?2 AND supply_sku = ?3)";
+    WHERE ribbon_sku = ? AND panel = ? AND supply_sku = ?)";
 
-constexpr const char* SupplyOfKindSql = "SELECT supply_sku FROM supply_kind WHERE kind = ?1";
-constexpr const char* RibbonOfNumberSql = "SELECT ribbon_sku FROM ribbon_number WHERE number = ?1";
+constexpr const char* SupplyOfKindSql = "SELECT supply_sku FROM supply_kind WHERE kind = ?";
+constexpr const char* RibbonOfNumberSql = "SELECT ribbon_sku FROM ribbon_number WHERE number = ?";
 
 struct Catalogue
 {
@@ -338,7 +338,7 @@ public:
         static const Answer unknown{};
         if (!SupplyDbSchema::isSku(sku))
             return unknown;
-        return query.answer(connection.database(), sku, sku, languageId);
+        return query.answer(connection.database(), sku, languageId, sku);
     }
 
     const Colour& panelColour(const QString& ribbonSku, int panel)
@@ -346,8 +346,8 @@ public:
         static const Colour unknown{};
         if (!SupplyDbSchema::isSku(ribbonSku))
             return unknown;
-        return panelColours.answer(connection.database(), {ribbonSku, panel}, ribbonSku, panel,
-                                   languageId);
+        return panelColours.answer(connection.database(), {ribbonSku, panel}, languageId, ribbonSku,
+                                   panel);
     }
 
     const PrintSetting& setting(const QString& ribbonSku, int panel, const QString& supplySkuText)

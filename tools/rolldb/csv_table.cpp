@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "csv_table.h"
+
+#include <QtCore/QStringDecoder>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+constexpr qsizetype MaxFileBytes = 16 * 1024 * 1024;
+constexpr qsizetype MaxFieldLength = 4096;
+constexpr qsizetype MaxColumns = 64;
+
+QString lineFault(const QString& fileName, int line, const QString& reason)
+{
+    return QStringLiteral("%1:%2: %3").arg(fileName).arg(line).arg(reason);
+}
+
+QString decoded(const QString& fileName, const QByteArray& bytes)
+{
+    if (bytes.size() > MaxFileBytes)
+        throw Fault(QStringLiteral("%1: larger than 16 MiB").arg(fileName));
+    // Takes a byte order mark away; stateless, so that half a character at the end is an error.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString text = decoder.decode(bytes);
+    if (!decoder.hasError())
+        return text;
+    // The line of the first byte that does not decode: found by decoding line after line.
+    int line = 1;
+    for (const QByteArray& lineBytes : bytes.split('\n')) {
+        QStringDecoder lineDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+        const QString lineText = lineDecoder.decode(lineBytes);
+        if (lineDecoder.hasError())
+            break;
+        ++line;
+    }
+    throw Fault(lineFault(fileName, line, QStringLiteral("not UTF-8 text")));
+}
+
+// Header lines have no quoted commas in practice; what counts is what parts the column names.
+QChar separatorOf(const QString& text)
+{
+    for (const QChar character : text) {
+        if (character == u';' || character == u',')
+            return character;
+        if (character == u'\n')
+            break;
+    }
+    return u',';
+}
+
+} // namespace
+
+Fault CsvField::fault(const QString& reason) const
+{
+    return Fault(QStringLiteral("%1: %2").arg(place, reason));
+}
+
+/// Reads a text row by row. Rows count from the line that they begin in.
+class CsvTable::Parser
+{
+public:
+    Parser(const QString& fileName, const QString& text, QChar separator)
+        : m_fileName(fileName)
+        , m_text(text)
+        , m_separator(separator)
+    {}
+
+    /// The next row that has any text in it.
+    std::optional<Row> nextRow()
+    {
+        while (m_position < m_text.size()) {
+            const Row row = readRow();
+            if (std::ranges::any_of(row.fields, [](const QString& f) { return !f.isEmpty(); }))
+                return row;
+        }
+        return std::nullopt;
+    }
+
+private:
+    Row readRow()
+    {
+        Row row{.line = m_line, .fields = {}};
+        for (;;) {
+            if (row.fields.size() == MaxColumns)
+                throw fault(QStringLiteral("more than %1 columns").arg(MaxColumns));
+            row.fields.append(readField());
+            if (!skip(m_separator))
+                break;
+        }
+        const bool hasReturn = skip(u'\r');
+        if (m_position < m_text.size() && !skip(u'\n'))
+            throw fault(hasReturn ? QStringLiteral("a carriage return without a line feed")
+                                  : QStringLiteral("text after a closing quotation mark"));
+        ++m_line;
+        return row;
+    }
+
+    QString readField()
+    {
+        while (m_position < m_text.size() && isBlank(m_text.at(m_position)))
+            ++m_position;
+        QString field = skip(u'"') ? readQuoted() : readPlain();
+        if (field.size() > MaxFieldLength)
+            throw fault(QStringLiteral("a field of more than %1 characters").arg(MaxFieldLength));
+        if (field.contains(QChar::Null))
+            throw fault(QStringLiteral("a NUL character"));
+        return field.trimmed();
+    }
+
+    QString readPlain()
+    {
+        const qsizetype start = m_position;
+        while (m_position < m_text.size() && !isEnd(m_text.at(m_position)))
+            ++m_position;
+        const QString field = m_text.sliced(start, m_position - start);
+        if (field.contains(u'"'))
+            throw fault(QStringLiteral("a quotation mark inside a field that is not quoted"));
+        return field;
+    }
+
+    QString readQuoted()
+    {
+        const int openedIn = m_line;
+        QString field;
+        while (m_position < m_text.size()) {
+            const QChar character = m_text.at(m_position++);
+            if (character == u'"' && !skip(u'"')) {
+                while (m_position < m_text.size() && isBlank(m_text.at(m_position)))
+                    ++m_position;
+                return field;
+            }
+            if (character == u'\n')
+                ++m_line;
+            field.append(character);
+        }
+        throw Fault(lineFault(m_fileName, openedIn,
+                              QStringLiteral("a quotation mark that is never closed")));
+    }
+
+    bool skip(QChar character)
+    {
+        if (m_position >= m_text.size() || m_text.at(m_position) != character)
+            return false;
+        ++m_position;
+        return true;
+    }
+
+    bool isBlank(QChar character) const
+    {
+        return character != m_separator && (character == u' ' || character == u'\t');
+    }
+    bool isEnd(QChar character) const
+    {
+        return character == m_separator || character == u'\n' || character == u'\r';
+    }
+
+    Fault fault(const QString& reason) const
+    {
+        return Fault(lineFault(m_fileName, m_line, reason));
+    }
+
+    const QString m_fileName;
+    const QString m_text;
+    const QChar m_separator;
+    qsizetype m_position = 0;
+    int m_line = 1;
+};
+
+CsvTable CsvTable::parse(const QString& fileName, const QByteArray& bytes)
+{
+    const QString text = decoded(fileName, bytes);
+    CsvTable table;
+    table.m_fileName = fileName;
+    table.m_separator = separatorOf(text);
+
+    Parser parser(fileName, text, table.m_separator);
+    const std::optional<Row> header = parser.nextRow();
+    if (!header)
+        throw table.faultInFile(QStringLiteral("empty, where a line of column names was expected"));
+    table.m_columns = header->fields;
+    while (!table.m_columns.isEmpty() && table.m_columns.last().isEmpty())
+        table.m_columns.removeLast(); // a spreadsheet's empty columns
+    for (qsizetype i = 0; i < table.m_columns.size(); ++i) {
+        const QString& column = table.m_columns.at(i);
+        if (column.isEmpty() || table.m_columns.indexOf(column) != i)
+            throw table.faultInHeader(column, column.isEmpty()
+                                                  ? QStringLiteral("a column without a name")
+                                                  : QStringLiteral("the column is there twice"));
+    }
+
+    while (std::optional<Row> row = parser.nextRow()) {
+        while (row->fields.size() > table.m_columns.size() && row->fields.last().isEmpty())
+            row->fields.removeLast();
+        if (row->fields.size() != table.m_columns.size())
+            throw Fault(lineFault(fileName, row->line,
+                                  QStringLiteral("%1 fields, where there are %2 columns")
+                                      .arg(row->fields.size())
+                                      .arg(table.m_columns.size())));
+        table.m_rows.append(*std::move(row));
+    }
+    return table;
+}
+
+CsvField CsvTable::field(qsizetype row, const QString& column) const
+{
+    const qsizetype index = m_columns.indexOf(column);
+    const Row& source = m_rows.at(row);
+    return {source.fields.at(index), QStringLiteral("%1:%2, column %3 (%4)")
+                                         .arg(m_fileName)
+                                         .arg(source.line)
+                                         .arg(index + 1)
+                                         .arg(column)};
+}
+
+Fault CsvTable::faultInHeader(const QString& column, const QString& reason) const
+{
+    return Fault(QStringLiteral("%1:1, column %2 (%3): %4")
+                     .arg(m_fileName)
+                     .arg(m_columns.lastIndexOf(column) + 1)
+                     .arg(column, reason));
+}
+
+Fault CsvTable::faultInFile(const QString& reason) const
+{
+    return Fault(QStringLiteral("%1: %2").arg(m_fileName, reason));
+}

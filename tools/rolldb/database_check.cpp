@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "database_check.h"
+
+#include "fault.h"
+
+#include <supplydb_connection.h>
+#include <supplydb_schema.h>
+
+#include <QtSql/QSqlError>
+#include <QtSql/QSqlQuery>
+
+#include <array>
+
+namespace {
+
+/// What must not be found. The first column of a row that is found names what is wrong.
+struct Rule
+{
+    const char* found;
+    const char* statement;
+};
+// clang-format off
+constexpr std::array Rules{
+    Rule{"the panels of ribbon %1 are not numbered from 1 on",
+         R"(SELECT r.sku FROM ribbon r LEFT JOIN ribbon_panel p ON p.ribbon_sku = r.sku
+            GROUP BY r.sku HAVING count(p.panel) = 0 OR max(p.panel) <> count(p.panel))"},
+    Rule{"%1 is a supply and a ribbon",
+         "SELECT s.sku FROM supply s JOIN ribbon r ON r.sku = s.sku"},
+    Rule{"supply %1 has a label length and a continuous format, or neither",
+         R"(SELECT s.sku FROM supply s JOIN format f ON f.id = s.format_id
+            WHERE (f.type = 'continuous') <> (s.label_length IS NULL))"},
+    Rule{"the formats of the printer model \"%1\" are not numbered from 0 on",
+         R"(SELECT model FROM printer_format
+            GROUP BY model HAVING max(position) <> count(*) - 1)"},
+    Rule{"the language 0 is \"%1\", not English",
+         "SELECT tag FROM language WHERE id = 0 AND tag <> 'en'"},
+    Rule{"English is missing%1",
+         "SELECT '' WHERE NOT EXISTS (SELECT 1 FROM language WHERE id = 0)"},
+};
+// clang-format on
+
+class Checker
+{
+public:
+    explicit Checker(const QString& path)
+        : m_path(path)
+    {
+        if (!m_connection.open(path, path))
+            throw fault(m_connection.fault());
+    }
+
+    DatabaseCounts check() const
+    {
+        checkStructure();
+        checkSchema();
+        if (const QString table = first(QStringLiteral("PRAGMA foreign_key_check"));
+            !table.isNull())
+            throw fault(QStringLiteral("a row of %1 refers to nothing").arg(table));
+        for (const Rule& rule : Rules) {
+            const QString subject = first(QString::fromLatin1(rule.statement));
+            if (!subject.isNull())
+                throw fault(QString::fromLatin1(rule.found).arg(subject));
+        }
+        return {count("supply"), count("ribbon"), count("print_setting"), count("language")};
+    }
+
+private:
+    void checkStructure() const
+    {
+        const QString answer = first(QStringLiteral("PRAGMA integrity_check(1)"));
+        if (answer != QLatin1String("ok"))
+            throw fault(QStringLiteral("damaged: %1").arg(answer.section(u'\n', -1)));
+    }
+
+    // The text of each table's statement is kept by SQLite as it was given.
+    void checkSchema() const
+    {
+        QStringList wanted;
+        for (const QString& statement : SupplyDbSchema::statements()) {
+            if (statement.startsWith(QLatin1String("CREATE ")))
+                wanted.append(statement);
+        }
+        QStringList found;
+        QSqlQuery query = run(
+            QStringLiteral("SELECT sql FROM sqlite_schema WHERE sql IS NOT NULL ORDER BY rowid"));
+        while (query.next())
+            found.append(query.value(0).toString());
+        wanted.sort();
+        found.sort();
+        if (found != wanted)
+            throw fault(QStringLiteral("its tables are not those of schema version %1")
+                            .arg(SupplyDbSchema::Version));
+    }
+
+    QSqlQuery run(const QString& statement) const
+    {
+        QSqlQuery query(m_connection.database());
+        query.setForwardOnly(true);
+        if (!query.exec(statement))
+            throw fault(QStringLiteral("damaged: %1").arg(query.lastError().databaseText()));
+        return query;
+    }
+
+    /// The first column of the first row; null when there is no row.
+    QString first(const QString& statement) const
+    {
+        QSqlQuery query = run(statement);
+        if (!query.next())
+            return {};
+        const QString text = query.value(0).toString();
+        return text.isNull() ? QStringLiteral("") : text;
+    }
+
+    int count(const char* table) const
+    {
+        QSqlQuery query = run(QStringLiteral("SELECT count(*) FROM %1").arg(QLatin1String(table)));
+        query.next();
+        return query.value(0).toInt();
+    }
+
+    Fault fault(const QString& reason) const
+    {
+        return Fault(QStringLiteral("%1: %2").arg(m_path, reason));
+    }
+
+    QString m_path;
+    SupplyDbConnection m_connection;
+};
+
+} // namespace
+
+DatabaseCounts checkDatabase(const QString& path)
+{
+    return Checker(path).check();
+}

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "catalogue.h"
+#include "catalogue_writer.h"
+#include "database_check.h"
+#include "fault.h"
+#include "sku_report.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+namespace {
+
+constexpr int Failed = 1;
+constexpr int WrongUsage = 2;
+
+constexpr const char* Usage = R"(Usage: rolldb build DIRECTORY FILE
+       rolldb check FILE
+       rolldb show [--language TAG] FILE SKU
+
+build makes the supply database FILE from the tables in DIRECTORY,
+check looks for anything wrong in FILE,
+show prints what FILE says of a supply or a ribbon, in English or in the
+language TAG ("de", "ja").
+
+Exit status: 0 done, 1 failed, 2 wrong usage.
+)";
+
+void print(std::FILE* stream, const QString& text)
+{
+    const QByteArray utf8 = text.toUtf8();
+    std::fwrite(utf8.constData(), 1, static_cast<size_t>(utf8.size()), stream);
+}
+
+QString counted(const DatabaseCounts& counts)
+{
+    return QStringLiteral("%1 supplies, %2 ribbons, %3 print settings, %4 languages\n")
+        .arg(counts.supplies)
+        .arg(counts.ribbons)
+        .arg(counts.settings)
+        .arg(counts.languages);
+}
+
+struct Verb
+{
+    const char* name;
+    int arguments;
+    QString (*run)(const QStringList& arguments, int language);
+};
+const std::array Verbs{
+    Verb{"build", 2,
+         [](const QStringList& arguments, int) {
+             writeDatabase(readCatalogueDirectory(arguments.at(0)), arguments.at(1));
+             return QStringLiteral("%1: %2").arg(arguments.at(1),
+                                                 counted(checkDatabase(arguments.at(1))));
+         }},
+    Verb{"check", 1,
+         [](const QStringList& arguments, int) {
+             return QStringLiteral("%1: in order, %2")
+                 .arg(arguments.at(0), counted(checkDatabase(arguments.at(0))));
+         }},
+    Verb{"show", 2,
+         [](const QStringList& arguments, int language) {
+             return skuReport(arguments.at(0), arguments.at(1), language);
+         }},
+};
+
+int wrongUsage(const QString& what)
+{
+    print(stderr, QStringLiteral("rolldb: %1 (see rolldb --help)\n").arg(what));
+    return WrongUsage;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
+    const QCommandLineOption languageOption(QStringLiteral("language"), {}, QStringLiteral("TAG"));
+    QCommandLineParser parser;
+    parser.addOptions({help, languageOption});
+    if (!parser.parse(QCoreApplication::arguments()))
+        return wrongUsage(parser.errorText());
+    if (parser.isSet(help)) {
+        print(stdout, QString::fromLatin1(Usage));
+        return 0;
+    }
+
+    QStringList arguments = parser.positionalArguments();
+    if (arguments.isEmpty())
+        return wrongUsage(QStringLiteral("expected build, check or show"));
+    const QString verbName = arguments.takeFirst();
+    const auto* const verb = std::ranges::find_if(
+        Verbs, [&verbName](const Verb& each) { return verbName == QLatin1String(each.name); });
+    if (verb == Verbs.end())
+        return wrongUsage(QStringLiteral("\"%1\" is none of build, check and show").arg(verbName));
+    if (arguments.size() != verb->arguments)
+        return wrongUsage(QStringLiteral("%1 takes %2 arguments, not %3")
+                              .arg(verbName)
+                              .arg(verb->arguments)
+                              .arg(arguments.size()));
+    const QString tag =
+        parser.isSet(languageOption) ? parser.value(languageOption) : QStringLiteral("en");
+    const std::optional<int> language = languageNumber(tag);
+    if (!language)
+        return wrongUsage(QStringLiteral("\"%1\" is no language that names are had in").arg(tag));
+
+    try {
+        print(stdout, verb->run(arguments, *language));
+    } catch (const Fault& fault) {
+        print(stderr, QStringLiteral("rolldb: %1\n").arg(fault.message()));
+        return Failed;
+    }
+    return 0;
+}
