@@ -37,7 +37,7 @@ enum class Behaviour
 #define NEEDS_BEHAVIOUR(behaviour)                                                                 \
     do {                                                                                           \
         if (!fixture::has(behaviour))                                                              \
-            QSKIP("this system's spooler or kernel lacks the behaviour");                          \
+            QSKIP("this system is without " #behaviour);                                           \
     } while (false)
 
 namespace fixture {

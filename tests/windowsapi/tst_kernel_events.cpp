@@ -379,17 +379,22 @@ void KernelEventsTest::badHandleInAListTakesNothing()
 
 void KernelEventsTest::lastErrorIsOfTheThread()
 {
-    SetLastError(1234);
-    DWORD atStart = 1;
-    DWORD atEnd = 0;
-    std::jthread([&] {
-        atStart = GetLastError();
+    // Starting and joining threads may well leave errors of their own.
+    const EventHandle begin = autoEvent();
+    const EventHandle done = autoEvent();
+    DWORD errorOfThread = ERROR_SUCCESS;
+    const std::jthread thread([&] {
+        WaitForSingleObject(begin.get(), INFINITE);
         SetEvent(INVALID_HANDLE_VALUE);
-        atEnd = GetLastError();
-    }).join();
-    QCOMPARE(atStart, DWORD{ERROR_SUCCESS});
-    QCOMPARE(atEnd, DWORD{ERROR_INVALID_HANDLE});
-    QCOMPARE(GetLastError(), DWORD{1234});
+        errorOfThread = GetLastError();
+        SetEvent(done.get());
+    });
+    SetLastError(1234);
+    SetEvent(begin.get());
+    WaitForSingleObject(done.get(), INFINITE);
+    const DWORD error = GetLastError();
+    QCOMPARE(error, DWORD{1234});
+    QCOMPARE(errorOfThread, DWORD{ERROR_INVALID_HANDLE});
 }
 
 void KernelEventsTest::successLeavesTheLastErrorAlone()

@@ -257,8 +257,8 @@ void PrinterDataTest::shortBuffer_data()
     QTest::addColumn<Form>("form");
     QTest::addColumn<DWORD>("size");
     for (const Form form : {Form::Narrow, Form::Wide})
-        for (const DWORD size : {0U, 1U, 2U, 3U})
-            QTest::addRow("%s, %u bytes", nameOf(form), size) << form << DWORD{size};
+        for (const int size : {0, 1, 2, 3})
+            QTest::addRow("%s, %d bytes", nameOf(form), size) << form << static_cast<DWORD>(size);
 }
 
 void PrinterDataTest::shortBuffer()
@@ -320,8 +320,8 @@ void PrinterDataTest::absentValue_data()
     QTest::addColumn<Form>("form");
     QTest::addColumn<DWORD>("size");
     for (const Form form : {Form::Narrow, Form::Wide})
-        for (const DWORD size : {0U, 100U})
-            QTest::addRow("%s, %u bytes", nameOf(form), size) << form << DWORD{size};
+        for (const int size : {0, 100})
+            QTest::addRow("%s, %d bytes", nameOf(form), size) << form << static_cast<DWORD>(size);
 }
 
 void PrinterDataTest::absentValue()

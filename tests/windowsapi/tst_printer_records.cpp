@@ -502,7 +502,6 @@ void PrinterRecordsTest::listOfAnUnknownLevel()
     QCOMPARE(block.error, DWORD{ERROR_INVALID_LEVEL});
     QCOMPARE(block.needed, DWORD{0});
     QCOMPARE(block.returned, DWORD{0});
-    QVERIFY(block.isUntouched());
 }
 
 void PrinterRecordsTest::choosingTheDefaultPrinter()

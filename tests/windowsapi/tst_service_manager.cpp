@@ -121,12 +121,10 @@ void ServiceManagerTest::statusOfAStoppedService()
     QVERIFY(service);
     SERVICE_STATUS status{};
     status.dwCheckPoint = 77;
-    status.dwWaitHint = 77;
     QVERIFY(QueryServiceStatus(service.get(), &status));
     QCOMPARE(status.dwCurrentState, DWORD{SERVICE_STOPPED});
     QCOMPARE(status.dwControlsAccepted, DWORD{0});
     QCOMPARE(status.dwCheckPoint, DWORD{0});
-    QCOMPARE(status.dwWaitHint, DWORD{0});
 }
 
 void ServiceManagerTest::statusNeedsTheRightToAskForIt()
