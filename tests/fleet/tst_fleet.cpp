@@ -1,0 +1,376 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// Fleet files: what they make of a machine, the story they tell, and how a broken one is refused.
+#include "machine_test.h"
+
+#include "virtualwindows/fleet.h"
+#include "windows_printer_info.h"
+
+#include <windows.h>
+#include <winspool.h>
+
+using namespace virtualwindows;
+using namespace std::chrono_literals;
+using VXPrinting::PrinterType;
+
+namespace {
+
+Fleet fleetOf(const QByteArray& text)
+{
+    const auto fleet = parseFleet(text, QStringLiteral("fleet.json"));
+    if (const auto* error = std::get_if<FleetError>(&fleet))
+        qFatal("%s", qPrintable(error->message));
+    return std::get<Fleet>(fleet);
+}
+
+QString errorOf(const QByteArray& text)
+{
+    const auto fleet = parseFleet(text, QStringLiteral("fleet.json"));
+    const auto* error = std::get_if<FleetError>(&fleet);
+    return error ? error->message : QStringLiteral("accepted");
+}
+
+} // namespace
+
+class FleetTest : public MachineTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void builtInFleetHasEveryKindOfPrinter();
+    void builtInStoryLastsTwoMinutes();
+    void builtInStoryCanBeTold();
+    void smallestFleet();
+    void everythingAboutAPrinter();
+    void valuesOfEachKind();
+    void devicesReachTheRegistry();
+    void eventsHappen_data();
+    void eventsHappen();
+    void printersComeAndGoInAStory();
+    void brokenFile_data();
+    void brokenFile();
+    void fileThatCannotBeRead();
+    void fileIsReadFromDisk();
+    void playerTellsInOrderAndInTime();
+};
+
+void FleetTest::builtInFleetHasEveryKindOfPrinter()
+{
+    populate(machine(), builtInFleet());
+    const QList<AvailablePrinters> printers = WindowsPrinterInfo::getAvailablePrinters();
+    QCOMPARE(printers.size(), 6);
+
+    QSet<PrinterType> types;
+    int network = 0;
+    int offline = 0;
+    int notManaged = 0;
+    for (const AvailablePrinters& printer : printers) {
+        types.insert(WindowsPrinterInfo::printerType(printer.driverName));
+        network += printer.isNetworkPrinter;
+        offline += printer.isOffline;
+        notManaged += !WindowsPrinterInfo::isPrinterAdmin(printer.printerName);
+    }
+    QCOMPARE(types,
+             (QSet<PrinterType>{PrinterType::Unknown, PrinterType::Alder, PrinterType::BirchMax,
+                                PrinterType::CedarMax, PrinterType::AlderMax}));
+    QCOMPARE(network, 1);
+    QCOMPARE(offline, 1);
+    QCOMPARE(notManaged, 1);
+    QCOMPARE(WindowsPrinterInfo::getDefaultPrinterName(), QStringLiteral("Warehouse"));
+    QCOMPARE(printers.first().serialNumber, QStringLiteral("AM-20871"));
+}
+
+void FleetTest::builtInStoryLastsTwoMinutes()
+{
+    const Fleet fleet = builtInFleet();
+    QCOMPARE(fleet.story.last().at, 120s);
+    QVERIFY(fleet.story.size() > 15);
+}
+
+void FleetTest::builtInStoryCanBeTold()
+{
+    const Fleet fleet = builtInFleet();
+    populate(machine(), fleet);
+    bool wasStopped = false;
+    for (const StoryEvent& event : fleet.story) {
+        event.happen(machine());
+        wasStopped = wasStopped || machine().spoolerState() == SERVICE_STOPPED;
+    }
+    QVERIFY(wasStopped);
+    QCOMPARE(machine().spoolerState(), quint32(SERVICE_RUNNING));
+    QVERIFY(!WindowsPrinterInfo::isPrinterOffline(QStringLiteral("Returns")));
+}
+
+void FleetTest::smallestFleet()
+{
+    const Fleet empty = fleetOf(R"({"printers": []})");
+    QVERIFY(empty.printers.isEmpty() && empty.devices.isEmpty() && empty.story.isEmpty());
+    QVERIFY(empty.defaultPrinter.isNull());
+
+    const Fleet one = fleetOf(R"({"printers": [{"name": "P", "driver": "D"}]})");
+    QCOMPARE(one.printers.size(), 1);
+    QCOMPARE(one.printers.first().setup.port, QStringLiteral("USB001"));
+    QCOMPARE(one.printers.first().setup.attributes, quint32(PRINTER_ATTRIBUTE_LOCAL));
+    QVERIFY(one.printers.first().setup.administrable);
+}
+
+void FleetTest::everythingAboutAPrinter()
+{
+    const PrinterSetup setup =
+        fleetOf(R"({"printers": [{"name": "Étiquettes", "driver": "D", "port": "LPT1:",
+                   "attributes": ["local", "shared", "work-offline"], "status": ["paused", "offline"],
+                   "administrable": false}]})")
+            .printers.first()
+            .setup;
+    QCOMPARE(setup.name, QStringLiteral("Étiquettes"));
+    QCOMPARE(setup.driver, QStringLiteral("D"));
+    QCOMPARE(setup.port, QStringLiteral("LPT1:"));
+    QCOMPARE(setup.attributes, 0x448U);
+    QCOMPARE(setup.status, 0x81U);
+    QVERIFY(!setup.administrable);
+
+    const PrinterSetup numbers = fleetOf(R"({"printers": [{"name": "P", "driver": "D",
+                                            "attributes": 4294967295, "status": 0}]})")
+                                     .printers.first()
+                                     .setup;
+    QCOMPARE(numbers.attributes, 0xFFFFFFFFU);
+    QCOMPARE(numbers.status, 0U);
+}
+
+void FleetTest::valuesOfEachKind()
+{
+    const QList<PrinterValue> values =
+        fleetOf(R"({"printers": [{"name": "P", "driver": "D", "values":
+                   {"A": "tëxt", "B": 4294967295, "C": {"binary": "00fF10"}, "D": ""}}]})")
+            .printers.first()
+            .values;
+    QCOMPARE(values.size(), 4);
+    QCOMPARE(values.at(0).type, quint32(REG_SZ));
+    QCOMPARE(values.at(0).data, QByteArray("t\xc3\xabxt\0", 6));
+    QCOMPARE(values.at(1).type, quint32(REG_DWORD));
+    QCOMPARE(values.at(1).data, QByteArray("\xff\xff\xff\xff"));
+    QCOMPARE(values.at(2).type, quint32(REG_BINARY));
+    QCOMPARE(values.at(2).data, QByteArray("\x00\xff\x10", 3));
+    QCOMPARE(values.at(3).data, QByteArray("\0", 1));
+}
+
+void FleetTest::devicesReachTheRegistry()
+{
+    populate(machine(), fleetOf(R"({"printers": [], "devices": [
+        {"class": "{c}", "key": "##?#USB#VID_3E7A#1#", "port": 65538, "serialNumber": "TWO"},
+        {"class": "{c}", "key": "##?#USB#VID_3E7A#2#"}]})"));
+    QCOMPARE(WindowsPrinterInfo::getDriverGUID(), QStringLiteral("{c}"));
+    QCOMPARE(WindowsPrinterInfo::getDeviceSerialNumber(2), QStringLiteral("TWO"));
+    QVERIFY(WindowsPrinterInfo::getDeviceSerialNumber(0).isEmpty());
+}
+
+void FleetTest::eventsHappen_data()
+{
+    QTest::addColumn<QByteArray>("event");
+    QTest::addColumn<QString>("function");
+
+    QTest::newRow("status") << QByteArray(R"("printer": "P", "status": ["offline"])") << "offline";
+    QTest::newRow("attributes") << QByteArray(R"("printer": "P", "attributes": ["work-offline"])")
+                                << "offline";
+    QTest::newRow("administrable")
+        << QByteArray(R"("printer": "P", "administrable": false)") << "not managed";
+    QTest::newRow("rename") << QByteArray(R"("printer": "P", "rename": "Q")") << "renamed";
+    QTest::newRow("remove") << QByteArray(R"("printer": "P", "remove": true)") << "gone";
+    QTest::newRow("add") << QByteArray(R"("add": {"name": "Q", "driver": "D"})") << "another";
+    QTest::newRow("spooler") << QByteArray(R"("spooler": "stopped")") << "gone";
+    QTest::newRow("default printer") << QByteArray(R"("defaultPrinter": "P")") << "default";
+}
+
+void FleetTest::eventsHappen()
+{
+    QFETCH(const QByteArray, event);
+    QFETCH(const QString, function);
+    const auto state = [] {
+        QStringList words;
+        const QList<AvailablePrinters> printers = WindowsPrinterInfo::getAvailablePrinters();
+        if (printers.isEmpty())
+            return QStringLiteral("gone");
+        if (printers.size() == 2)
+            return QStringLiteral("another");
+        if (printers.first().isOffline)
+            return QStringLiteral("offline");
+        if (printers.first().printerName == QLatin1String("Q"))
+            return QStringLiteral("renamed");
+        if (!WindowsPrinterInfo::isPrinterAdmin(QStringLiteral("P")))
+            return QStringLiteral("not managed");
+        return WindowsPrinterInfo::getDefaultPrinterName().isEmpty() ? QStringLiteral("plain")
+                                                                     : QStringLiteral("default");
+    };
+    const Fleet fleet =
+        fleetOf(R"({"printers": [{"name": "P", "driver": "D"}], "timeline": [{"at": 1.5, )" +
+                event + "}]}");
+    populate(machine(), fleet);
+    QCOMPARE(state(), QStringLiteral("plain"));
+    QCOMPARE(fleet.story.size(), 1);
+    QCOMPARE(fleet.story.first().at, 1500ms);
+    fleet.story.first().happen(machine());
+    QCOMPARE(state(), function);
+}
+
+void FleetTest::printersComeAndGoInAStory()
+{
+    const Fleet fleet = fleetOf(R"({"printers": [{"name": "P", "driver": "D"}], "timeline": [
+        {"at": 1, "add": {"name": "Q", "driver": "D", "values": {"StatusCode": "1"}}},
+        {"at": 2, "printer": "Q", "rename": "R"},
+        {"at": 3, "printer": "R", "values": {"StatusCode": "2"}, "unpublish": ["StatusCode"]},
+        {"at": 3, "printer": "R", "remove": true},
+        {"at": 4, "add": {"name": "Q", "driver": "D"}}]})");
+    populate(machine(), fleet);
+    for (const StoryEvent& event : fleet.story)
+        event.happen(machine());
+    QCOMPARE(machine().printers(), (QStringList{QStringLiteral("P"), QStringLiteral("Q")}));
+}
+
+void FleetTest::brokenFile_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("message");
+
+    const auto row = [](const char* title, const char* text, const char* message) {
+        QTest::newRow(title) << QByteArray(text) << QString::fromUtf8(message);
+    };
+    row("empty", "", "fleet.json:1: not JSON: Syntax error: value, object or array expected.");
+    row("cut off", "{\n\"printers\": [\n",
+        "fleet.json:3: not JSON: Syntax error: value, object or array expected.");
+    row("something behind it", "{\"printers\": []}\n\n}",
+        "fleet.json:3: not JSON: Extra non-whitespace after JSON value.");
+    row("twice", "{\"printers\": [],\n\"printers\": []}",
+        "fleet.json:2: not JSON: Duplicate key: 'printers'");
+    row("a list", "[]", "fleet.json:1: expected an object, found a list");
+    row("no printers", "{}", "fleet.json:1: expected the key \"printers\"");
+    row("unknown key", "{\n\"printers\": [],\n\"printer\": 1}",
+        "fleet.json:3: printer: is not known here; expected one of printers, defaultPrinter, "
+        "devices, timeline");
+    row("printers no list", "{\"printers\":\n7}",
+        "fleet.json:2: printers: expected a list, found 7");
+    row("printer no object", "{\"printers\": [\n[]]}",
+        "fleet.json:2: printers[0]: expected an object, found a list");
+    row("no driver", "{\"printers\": [\n{\"name\": \"P\"}]}",
+        "fleet.json:2: printers[0]: expected the key \"driver\"");
+    row("empty name", "{\"printers\": [{\"driver\": \"D\",\n\"name\": \"\"}]}",
+        "fleet.json:2: printers[0].name: expected a text that is not empty");
+    row("name no text", "{\"printers\": [{\"driver\": \"D\",\n\"name\": null}]}",
+        "fleet.json:2: printers[0].name: expected a text, found null");
+    row("name twice",
+        "{\"printers\": [{\"driver\": \"D\", \"name\": \"P\"},\n{\"driver\": \"D\",\n\"name\": "
+        "\"p\"}]}",
+        "fleet.json:3: printers[1].name: there is a printer \"p\" already");
+    row("unknown attribute",
+        "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\", \"attributes\": "
+        "[\"local\",\n\"fast\"]}]}",
+        "fleet.json:2: printers[0].attributes[1]: \"fast\" is not known; expected one of local, "
+        "network, shared, hidden, work-offline");
+    row("negative status", "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\", \"status\": -1}]}",
+        "fleet.json:1: printers[0].status: expected a whole number from 0 to 4294967295, found -1");
+    row("administrable no flag",
+        "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\", \"administrable\": \"no\"}]}",
+        "fleet.json:1: printers[0].administrable: expected true or false, found \"no\"");
+    row("number too large",
+        "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\",\n\"values\": {\"A\": 4294967296}}]}",
+        "fleet.json:2: printers[0].values.A: expected a whole number from 0 to 4294967295, found "
+        "4294967296");
+    row("number with a fraction",
+        "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\",\n\"values\": {\"A\": 1.5}}]}",
+        "fleet.json:2: printers[0].values.A: expected a whole number from 0 to 4294967295, found "
+        "1.5");
+    row("value of no kind",
+        "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\", \"values\": {\"A\": true}}]}",
+        "fleet.json:1: printers[0].values.A: expected a text, a number or {\"binary\": "
+        "\"hexadecimal digits\"}");
+    row("bytes that are none",
+        "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\", \"values\": {\"A\": {\"binary\": "
+        "\"0g\"}}}]}",
+        "fleet.json:1: printers[0].values.A.binary: expected bytes as pairs of hexadecimal digits, "
+        "found \"0g\"");
+    row("default printer",
+        "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\"}],\n\"defaultPrinter\": \"Q\"}",
+        "fleet.json:2: defaultPrinter: there is no printer \"Q\"; expected one of P");
+    row("device with a path",
+        "{\"printers\": [], \"devices\": [{\"class\": \"{c}\",\n\"key\": \"a\\\\b\"}]}",
+        "fleet.json:2: devices[0].key: expected a key's name, which has no backslash");
+    row("event without a time", "{\"printers\": [], \"timeline\": [\n{}]}",
+        "fleet.json:2: timeline[0]: expected the key \"at\"");
+    row("negative time", "{\"printers\": [], \"timeline\": [{\"at\": -1}]}",
+        "fleet.json:1: timeline[0].at: expected a number of seconds, from 0 to a year, found -1");
+    row("time running backwards", "{\"printers\": [], \"timeline\": [{\"at\": 2},\n{\"at\": 1}]}",
+        "fleet.json:2: timeline[1].at: expected a moment that is not before the previous event's");
+    row("event of no printer", "{\"printers\": [], \"timeline\": [{\"at\": 2, \"values\": {}}]}",
+        "fleet.json:1: timeline[0].values: expected the key \"printer\" beside it");
+    row("event of an unknown printer",
+        "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\"}],\n\"timeline\": [{\"at\": "
+        "2,\n\"printer\": \"Q\"}]}",
+        "fleet.json:3: timeline[0].printer: there is no printer \"Q\" at this moment; expected one "
+        "of P");
+    row("event of a removed printer",
+        "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\"}], \"timeline\": [{\"at\": 2, "
+        "\"printer\": "
+        "\"P\", \"remove\": true},\n{\"at\": 3, \"printer\": \"P\"}]}",
+        "fleet.json:2: timeline[1].printer: there is no printer \"P\" at this moment; expected one "
+        "of ");
+    row("printer added twice",
+        "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\"}], \"timeline\": [{\"at\": "
+        "2,\n\"add\": "
+        "{\"name\": \"P\", \"driver\": \"D\"}}]}",
+        "fleet.json:2: timeline[0].add.name: there is a printer \"P\" already");
+    row("spooler in no state",
+        "{\"printers\": [], \"timeline\": [{\"at\": 2, \"spooler\": \"off\"}]}",
+        "fleet.json:1: timeline[0].spooler: expected \"stopped\" or \"running\", found \"off\"");
+}
+
+void FleetTest::brokenFile()
+{
+    QFETCH(const QByteArray, text);
+    QFETCH(const QString, message);
+    QCOMPARE(errorOf(text), message);
+}
+
+void FleetTest::fileThatCannotBeRead()
+{
+    const auto missing = readFleet(settingsFolder() + QStringLiteral("/none.json"));
+    QVERIFY(std::holds_alternative<FleetError>(missing));
+    QCOMPARE(std::get<FleetError>(missing).message,
+             settingsFolder() + QStringLiteral("/none.json: No such file or directory"));
+    const auto folder = readFleet(settingsFolder());
+    QCOMPARE(std::get<FleetError>(folder).message,
+             settingsFolder() + QStringLiteral(": expected a file, found a folder"));
+}
+
+void FleetTest::fileIsReadFromDisk()
+{
+    const QString name = settingsFolder() + QStringLiteral("/fleet.json");
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(builtInFleetText());
+    file.close();
+    const auto fleet = readFleet(name);
+    QVERIFY(std::holds_alternative<Fleet>(fleet));
+    QCOMPARE(std::get<Fleet>(fleet).printers.size(), 6);
+}
+
+void FleetTest::playerTellsInOrderAndInTime()
+{
+    const Fleet fleet = fleetOf(R"({"printers": [{"name": "P", "driver": "D"}], "timeline": [
+        {"at": 1, "say": "first"}, {"at": 2}, {"at": 100, "say": "second"},
+        {"at": 100, "say": "third"}]})");
+    StoryPlayer player(machine(), fleet.story, 1000);
+    QStringList told;
+    bool isFinished = false;
+    connect(&player, &StoryPlayer::told, this, [&](const QString& text) { told.append(text); });
+    connect(&player, &StoryPlayer::finished, this, [&] { isFinished = true; });
+
+    QElapsedTimer clock;
+    clock.start();
+    player.start();
+    QTRY_VERIFY(isFinished);
+    QVERIFY(clock.elapsed() >= 99);
+    QCOMPARE(told, (QStringList{QStringLiteral("first"), QStringLiteral("second"),
+                                QStringLiteral("third")}));
+}
+
+QTEST_GUILESS_MAIN(FleetTest)
+#include "tst_fleet.moc"

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <optional>
+#include <variant>
+
+enum class Verb
+{
+    List,
+    Watch,
+};
+
+struct CommandLine
+{
+    Verb verb = Verb::List;
+    bool json = false;
+    QString fleetFile;             ///< empty: the built-in fleet, or the system's own printers
+    std::optional<double> seconds; ///< how long to watch; without it, until interrupted
+    double speed = 1;              ///< of the fleet's story
+};
+
+/// Wrong usage, in one line.
+struct WrongUsage
+{
+    QString text;
+};
+
+/// A text that was asked for, to be printed instead of doing anything.
+struct Answer
+{
+    QString text;
+};
+
+std::variant<CommandLine, WrongUsage, Answer> parseCommandLine(const QStringList& arguments);

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "scene.h"
+
+#include "virtualwindows/fleet.h"
+
+#include <QtCore/QSettings>
+#include <QtCore/QTemporaryDir>
+
+namespace {
+
+using virtualwindows::Fleet;
+using virtualwindows::FleetError;
+using virtualwindows::Machine;
+using virtualwindows::StoryPlayer;
+
+class VirtualScene : public Scene
+{
+public:
+    VirtualScene(const Fleet& fleet, double speed)
+        : m_player(Machine::instance(), fleet.story, speed)
+        , m_hasStory(!fleet.story.isEmpty())
+    {
+        // The serial numbers of virtual printers have no business among the user's.
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
+        virtualwindows::populate(Machine::instance(), fleet);
+        connect(&m_player, &StoryPlayer::told, this, &Scene::told);
+    }
+
+    void begin() override
+    {
+        if (m_hasStory)
+            m_player.start();
+    }
+
+private:
+    QTemporaryDir m_settings;
+    StoryPlayer m_player;
+    bool m_hasStory;
+};
+
+} // namespace
+
+std::variant<std::unique_ptr<Scene>, Scene::Failure> Scene::make(const CommandLine& line)
+{
+    if (line.fleetFile.isEmpty())
+        return std::make_unique<VirtualScene>(virtualwindows::builtInFleet(), line.speed);
+    const auto fleet = virtualwindows::readFleet(line.fleetFile);
+    if (const auto* error = std::get_if<FleetError>(&fleet))
+        return Failure{error->message};
+    return std::make_unique<VirtualScene>(std::get<Fleet>(fleet), line.speed);
+}

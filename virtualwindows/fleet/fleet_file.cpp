@@ -1,0 +1,346 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "virtualwindows/fleet.h"
+
+#include "located_json.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+
+#include <algorithm>
+#include <array>
+
+#include <windows.h>
+#include <winspool.h>
+
+namespace virtualwindows {
+
+namespace {
+
+struct NamedBit
+{
+    const char* name;
+    quint32 bit;
+};
+
+constexpr std::array attributeNames{
+    NamedBit{"local", PRINTER_ATTRIBUTE_LOCAL},
+    NamedBit{"network", PRINTER_ATTRIBUTE_NETWORK},
+    NamedBit{"shared", PRINTER_ATTRIBUTE_SHARED},
+    NamedBit{"hidden", PRINTER_ATTRIBUTE_HIDDEN},
+    NamedBit{"work-offline", PRINTER_ATTRIBUTE_WORK_OFFLINE},
+};
+
+constexpr std::array statusNames{
+    NamedBit{"paused", PRINTER_STATUS_PAUSED},
+    NamedBit{"error", PRINTER_STATUS_ERROR},
+    NamedBit{"paper-jam", PRINTER_STATUS_PAPER_JAM},
+    NamedBit{"paper-out", PRINTER_STATUS_PAPER_OUT},
+    NamedBit{"offline", PRINTER_STATUS_OFFLINE},
+    NamedBit{"printing", PRINTER_STATUS_PRINTING},
+};
+
+/// A number, or a list of names for its bits.
+template <std::size_t Count>
+quint32 readBits(const JsonPlace& place, const std::array<NamedBit, Count>& names)
+{
+    if (place.isNumber())
+        return place.number();
+    quint32 bits = 0;
+    const QList<JsonPlace> entries = place.entries();
+    for (const JsonPlace& entry : entries) {
+        const QString name = entry.text();
+        const auto found = std::find_if(names.begin(), names.end(), [&](const NamedBit& bit) {
+            return name == QLatin1String(bit.name);
+        });
+        if (found == names.end()) {
+            QStringList known;
+            for (const NamedBit& bit : names)
+                known.append(QString::fromLatin1(bit.name));
+            entry.complain(QStringLiteral("\"%1\" is not known; expected one of %2")
+                               .arg(name, known.join(QStringLiteral(", "))));
+        }
+        bits |= found->bit;
+    }
+    return bits;
+}
+
+PrinterValue readValue(const QString& name, const JsonPlace& place)
+{
+    const QByteArray valueName = name.toUtf8();
+    if (place.isText())
+        return PrinterValue::text(valueName, place.text().toUtf8());
+    if (place.isNumber())
+        return PrinterValue::number(valueName, place.number());
+    if (!place.isObject())
+        place.complain(
+            QStringLiteral("expected a text, a number or {\"binary\": \"hexadecimal digits\"}"));
+    place.expectKeys({QStringLiteral("binary")}, {});
+    return PrinterValue::binary(valueName, place.at("binary").hexBytes());
+}
+
+QList<PrinterValue> readValues(const JsonPlace& place)
+{
+    QList<PrinterValue> values;
+    const QStringList names = place.keys();
+    for (const QString& name : names)
+        values.append(readValue(name, place.at(name.toUtf8().constData())));
+    return values;
+}
+
+FleetPrinter readPrinter(const JsonPlace& place)
+{
+    place.expectKeys({QStringLiteral("name"), QStringLiteral("driver")},
+                     {QStringLiteral("port"), QStringLiteral("attributes"),
+                      QStringLiteral("status"), QStringLiteral("administrable"),
+                      QStringLiteral("values")});
+    FleetPrinter printer;
+    printer.setup.name = place.at("name").nonEmptyText();
+    printer.setup.driver = place.at("driver").nonEmptyText();
+    if (place.has("port"))
+        printer.setup.port = place.at("port").nonEmptyText();
+    if (place.has("attributes"))
+        printer.setup.attributes = readBits(place.at("attributes"), attributeNames);
+    if (place.has("status"))
+        printer.setup.status = readBits(place.at("status"), statusNames);
+    if (place.has("administrable"))
+        printer.setup.administrable = place.at("administrable").flag();
+    if (place.has("values"))
+        printer.values = readValues(place.at("values"));
+    return printer;
+}
+
+DeviceSetup readDevice(const JsonPlace& place)
+{
+    place.expectKeys({QStringLiteral("class"), QStringLiteral("key")},
+                     {QStringLiteral("port"), QStringLiteral("serialNumber")});
+    DeviceSetup device;
+    for (const char* key : {"class", "key"}) {
+        if (place.at(key).nonEmptyText().contains(QLatin1Char('\\')))
+            place.at(key).complain(QStringLiteral("expected a key's name, which has no backslash"));
+    }
+    device.classGuid = place.at("class").text();
+    device.interfaceKey = place.at("key").text();
+    if (place.has("port"))
+        device.portNumber = place.at("port").number();
+    if (place.has("serialNumber"))
+        device.serialNumber = place.at("serialNumber").text();
+    return device;
+}
+
+void add(Machine& machine, const FleetPrinter& printer)
+{
+    machine.addPrinter(printer.setup);
+    if (!printer.values.isEmpty())
+        machine.publish(printer.setup.name, printer.values);
+}
+
+/// Reads the story, following which printers there are at each of its moments.
+class StoryReader
+{
+public:
+    explicit StoryReader(const QStringList& printers)
+        : m_printers(printers)
+    {}
+
+    QList<StoryEvent> read(const JsonPlace& place)
+    {
+        QList<StoryEvent> story;
+        const QList<JsonPlace> entries = place.entries();
+        for (const JsonPlace& entry : entries) {
+            const StoryEvent event = readEvent(entry);
+            if (!story.isEmpty() && event.at < story.last().at)
+                entry.at("at").complain(
+                    QStringLiteral("expected a moment that is not before the previous event's"));
+            story.append(event);
+        }
+        return story;
+    }
+
+private:
+    using Change = std::function<void(Machine&)>;
+
+    StoryEvent readEvent(const JsonPlace& place)
+    {
+        place.expectKeys(
+            {QStringLiteral("at")},
+            {QStringLiteral("say"), QStringLiteral("printer"), QStringLiteral("values"),
+             QStringLiteral("unpublish"), QStringLiteral("attributes"), QStringLiteral("status"),
+             QStringLiteral("administrable"), QStringLiteral("rename"), QStringLiteral("remove"),
+             QStringLiteral("add"), QStringLiteral("spooler"), QStringLiteral("defaultPrinter")});
+        StoryEvent event;
+        event.at = std::chrono::milliseconds(qRound64(place.at("at").seconds() * 1000));
+        if (place.has("say"))
+            event.caption = place.at("say").text();
+
+        QList<Change> changes;
+        if (place.has("spooler"))
+            changes.append(readSpooler(place.at("spooler")));
+        if (place.has("add")) {
+            const FleetPrinter printer = readPrinter(place.at("add"));
+            expectNew(place.at("add").at("name"), printer.setup.name);
+            m_printers.append(printer.setup.name);
+            changes.append([printer](Machine& machine) { add(machine, printer); });
+        }
+        if (place.has("defaultPrinter")) {
+            const QString name = readPrinterName(place.at("defaultPrinter"));
+            changes.append([name](Machine& machine) { machine.setDefaultPrinter(name); });
+        }
+        readPrinterChanges(place, changes);
+        event.happen = [changes](Machine& machine) {
+            for (const Change& change : changes)
+                change(machine);
+        };
+        return event;
+    }
+
+    static Change readSpooler(const JsonPlace& place)
+    {
+        const QString state = place.text();
+        if (state != QLatin1String("stopped") && state != QLatin1String("running"))
+            place.complain(
+                QStringLiteral("expected \"stopped\" or \"running\", found \"%1\"").arg(state));
+        if (state == QLatin1String("stopped"))
+            return [](Machine& machine) {
+                machine.stopSpooler();
+            };
+        return [](Machine& machine) {
+            machine.startSpooler();
+        };
+    }
+
+    void readPrinterChanges(const JsonPlace& place, QList<Change>& changes)
+    {
+        if (!place.has("printer")) {
+            for (const char* key : {"values", "unpublish", "attributes", "status", "administrable",
+                                    "rename", "remove"}) {
+                if (place.has(key))
+                    place.at(key).complain(
+                        QStringLiteral("expected the key \"printer\" beside it"));
+            }
+            return;
+        }
+        const QString name = readPrinterName(place.at("printer"));
+        if (place.has("values")) {
+            const QList<PrinterValue> values = readValues(place.at("values"));
+            changes.append([=](Machine& machine) { machine.publish(name, values); });
+        }
+        if (place.has("unpublish")) {
+            const QList<JsonPlace> entries = place.at("unpublish").entries();
+            for (const JsonPlace& entry : entries) {
+                const QByteArray value = entry.nonEmptyText().toUtf8();
+                changes.append([=](Machine& machine) { machine.unpublish(name, value); });
+            }
+        }
+        if (place.has("attributes")) {
+            const quint32 bits = readBits(place.at("attributes"), attributeNames);
+            changes.append([=](Machine& machine) { machine.setAttributes(name, bits); });
+        }
+        if (place.has("status")) {
+            const quint32 bits = readBits(place.at("status"), statusNames);
+            changes.append([=](Machine& machine) { machine.setStatus(name, bits); });
+        }
+        if (place.has("administrable")) {
+            const bool flag = place.at("administrable").flag();
+            changes.append([=](Machine& machine) { machine.setAdministrable(name, flag); });
+        }
+        if (place.has("rename")) {
+            const QString newName = place.at("rename").nonEmptyText();
+            expectNew(place.at("rename"), newName);
+            m_printers.replace(m_printers.indexOf(name), newName);
+            changes.append([=](Machine& machine) { machine.renamePrinter(name, newName); });
+        }
+        if (place.has("remove")) {
+            if (!place.at("remove").flag() || place.has("rename"))
+                place.at("remove").complain(QStringLiteral("expected true, without a \"rename\""));
+            m_printers.removeAll(name);
+            changes.append([=](Machine& machine) { machine.removePrinter(name); });
+        }
+    }
+
+    QString readPrinterName(const JsonPlace& place) const
+    {
+        const QString name = place.text();
+        if (!m_printers.contains(name))
+            place.complain(
+                QStringLiteral("there is no printer \"%1\" at this moment; expected one of %2")
+                    .arg(name, m_printers.join(QStringLiteral(", "))));
+        return name;
+    }
+
+    void expectNew(const JsonPlace& place, const QString& name) const
+    {
+        if (m_printers.contains(name, Qt::CaseInsensitive))
+            place.complain(QStringLiteral("there is a printer \"%1\" already").arg(name));
+    }
+
+    QStringList m_printers;
+};
+
+Fleet readFleet(const LocatedJson& file)
+{
+    const JsonPlace root(file, file.root(), QString());
+    root.expectKeys(
+        {QStringLiteral("printers")},
+        {QStringLiteral("defaultPrinter"), QStringLiteral("devices"), QStringLiteral("timeline")});
+    Fleet fleet;
+    QStringList names;
+    const QList<JsonPlace> printers = root.at("printers").entries();
+    for (const JsonPlace& place : printers) {
+        fleet.printers.append(readPrinter(place));
+        const QString name = fleet.printers.last().setup.name;
+        if (names.contains(name, Qt::CaseInsensitive))
+            place.at("name").complain(
+                QStringLiteral("there is a printer \"%1\" already").arg(name));
+        names.append(name);
+    }
+    if (root.has("defaultPrinter")) {
+        fleet.defaultPrinter = root.at("defaultPrinter").text();
+        if (!names.contains(fleet.defaultPrinter))
+            root.at("defaultPrinter")
+                .complain(QStringLiteral("there is no printer \"%1\"; expected one of %2")
+                              .arg(fleet.defaultPrinter, names.join(QStringLiteral(", "))));
+    }
+    if (root.has("devices")) {
+        const QList<JsonPlace> devices = root.at("devices").entries();
+        for (const JsonPlace& place : devices)
+            fleet.devices.append(readDevice(place));
+    }
+    if (root.has("timeline"))
+        fleet.story = StoryReader(names).read(root.at("timeline"));
+    return fleet;
+}
+
+} // namespace
+
+std::variant<Fleet, FleetError> parseFleet(const QByteArray& text, const QString& name)
+{
+    try {
+        return readFleet(LocatedJson(text));
+    } catch (const JsonComplaint& complaint) {
+        return FleetError{
+            QStringLiteral("%1:%2: %3").arg(name).arg(complaint.line).arg(complaint.text)};
+    }
+}
+
+std::variant<Fleet, FleetError> readFleet(const QString& fileName)
+{
+    QFile file(fileName);
+    if (QFileInfo(file).isDir())
+        return FleetError{QStringLiteral("%1: expected a file, found a folder").arg(fileName)};
+    if (!file.open(QIODevice::ReadOnly))
+        return FleetError{QStringLiteral("%1: %2").arg(fileName, file.errorString())};
+    return parseFleet(file.readAll(), fileName);
+}
+
+void populate(Machine& machine, const Fleet& fleet)
+{
+    for (const FleetPrinter& printer : fleet.printers)
+        add(machine, printer);
+    if (!fleet.defaultPrinter.isNull())
+        machine.setDefaultPrinter(fleet.defaultPrinter);
+    for (const DeviceSetup& device : fleet.devices)
+        machine.addDevice(device);
+}
+
+} // namespace virtualwindows

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "located_json.h"
+
+#include <QtCore/QRegularExpression>
+
+#include <json/reader.h>
+
+#include <algorithm>
+#include <limits>
+#include <memory>
+
+namespace {
+
+QString fromStd(const std::string& text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString quoted(const QString& text)
+{
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+QString listed(const QStringList& keys)
+{
+    return keys.join(QStringLiteral(", "));
+}
+
+/// The reader's own report begins "* Line 3, Column 5", and its next line says what is wrong.
+JsonComplaint complaintOf(const std::string& report)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral(R"(\* Line (\d+), Column \d+\n\s*([^\n]*))"));
+    const QRegularExpressionMatch match = pattern.match(fromStd(report));
+    if (!match.hasMatch())
+        return {1, QStringLiteral("not JSON: expected an object")};
+    return {match.captured(1).toInt(), QStringLiteral("not JSON: ") + match.captured(2)};
+}
+
+} // namespace
+
+LocatedJson::LocatedJson(const QByteArray& text)
+    : m_text(text)
+{
+    Json::CharReaderBuilder builder;
+    Json::CharReaderBuilder::strictMode(&builder.settings_);
+    const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+    std::string report;
+    const char* begin = m_text.constData();
+    if (!reader->parse(begin, begin + m_text.size(), &m_root, &report))
+        throw complaintOf(report);
+}
+
+int LocatedJson::lineAt(qsizetype offset) const
+{
+    return static_cast<int>(1 + m_text.first(std::min(offset, m_text.size())).count('\n'));
+}
+
+int LocatedJson::lineOf(const Json::Value& value) const
+{
+    return lineAt(static_cast<qsizetype>(value.getOffsetStart()));
+}
+
+JsonPlace::JsonPlace(const LocatedJson& file, const Json::Value& value, const QString& path)
+    : m_file(&file)
+    , m_value(&value)
+    , m_path(path)
+{}
+
+void JsonPlace::complain(const QString& what) const
+{
+    throw JsonComplaint{line(), m_path.isEmpty() ? what : m_path + QStringLiteral(": ") + what};
+}
+
+QString JsonPlace::found() const
+{
+    switch (m_value->type()) {
+    case Json::nullValue:
+        return QStringLiteral("null");
+    case Json::objectValue:
+        return QStringLiteral("an object");
+    case Json::arrayValue:
+        return QStringLiteral("a list");
+    case Json::stringValue:
+        return quoted(fromStd(m_value->asString()));
+    default:
+        return fromStd(m_value->asString());
+    }
+}
+
+void JsonPlace::expectKeys(const QStringList& required, const QStringList& allowed) const
+{
+    if (!m_value->isObject())
+        complain(QStringLiteral("expected an object, found ") + found());
+    const QStringList present = keys();
+    for (const QString& key : present) {
+        if (!required.contains(key) && !allowed.contains(key))
+            at(key.toUtf8().constData())
+                .complain(QStringLiteral("is not known here; expected one of ") +
+                          listed(required + allowed));
+    }
+    for (const QString& key : required) {
+        if (!present.contains(key))
+            complain(QStringLiteral("expected the key ") + quoted(key));
+    }
+}
+
+JsonPlace JsonPlace::at(const char* key) const
+{
+    const QString name = QString::fromUtf8(key);
+    return {*m_file, (*m_value)[key], m_path.isEmpty() ? name : m_path + QLatin1Char('.') + name};
+}
+
+QList<JsonPlace> JsonPlace::entries() const
+{
+    if (!m_value->isArray())
+        complain(QStringLiteral("expected a list, found ") + found());
+    QList<JsonPlace> places;
+    for (Json::ArrayIndex index = 0; index < m_value->size(); ++index)
+        places.append(
+            {*m_file, (*m_value)[index], QStringLiteral("%1[%2]").arg(m_path).arg(index)});
+    return places;
+}
+
+QStringList JsonPlace::keys() const
+{
+    if (!m_value->isObject())
+        complain(QStringLiteral("expected an object, found ") + found());
+    std::vector<std::string> names = m_value->getMemberNames();
+    std::sort(names.begin(), names.end(), [&](const std::string& left, const std::string& right) {
+        return (*m_value)[left].getOffsetStart() < (*m_value)[right].getOffsetStart();
+    });
+    QStringList keys;
+    for (const std::string& name : names)
+        keys.append(fromStd(name));
+    return keys;
+}
+
+QString JsonPlace::text() const
+{
+    if (!m_value->isString())
+        complain(QStringLiteral("expected a text, found ") + found());
+    return fromStd(m_value->asString());
+}
+
+QString JsonPlace::nonEmptyText() const
+{
+    const QString value = text();
+    if (value.isEmpty())
+        complain(QStringLiteral("expected a text that is not empty"));
+    return value;
+}
+
+quint32 JsonPlace::number() const
+{
+    if (!m_value->isUInt())
+        complain(QStringLiteral("expected a whole number from 0 to %1, found %2")
+                     .arg(std::numeric_limits<quint32>::max())
+                     .arg(found()));
+    return m_value->asUInt();
+}
+
+double JsonPlace::seconds() const
+{
+    constexpr double longest = 366.0 * 24 * 3600;
+    if (!m_value->isNumeric() || m_value->asDouble() < 0 || m_value->asDouble() > longest)
+        complain(QStringLiteral("expected a number of seconds, from 0 to a year, found ") +
+                 found());
+    return m_value->asDouble();
+}
+
+bool JsonPlace::flag() const
+{
+    if (!m_value->isBool())
+        complain(QStringLiteral("expected true or false, found ") + found());
+    return m_value->asBool();
+}
+
+QByteArray JsonPlace::hexBytes() const
+{
+    static const QRegularExpression pattern(QStringLiteral("^([0-9A-Fa-f]{2})*$"));
+    if (!pattern.match(text()).hasMatch())
+        complain(QStringLiteral("expected bytes as pairs of hexadecimal digits, found ") + found());
+    return QByteArray::fromHex(text().toLatin1());
+}
