@@ -82,8 +82,8 @@ private:
                 wanted.append(statement);
         }
         QStringList found;
-        QSqlQuery query = run(
-            QStringLiteral("SELECT sql FROM sqlite_schema WHERE sql IS NOT NULL ORDER BY rowid"));
+        QSqlQuery query = run(QStringLiteral("SELECT sql FROM sqlite_schema "
+                                             "WHERE sql IS NOT NULL AND name NOT GLOB 'sqlite_*'"));
         while (query.next())
             found.append(query.value(0).toString());
         wanted.sort();

@@ -1,0 +1,630 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "small_catalogue.h"
+
+#include <csv_table.h>
+#include <database_check.h>
+#include <fault.h>
+#include <sku_report.h>
+#include <vxsupplydatabase.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtSql/QSqlDatabase>
+#include <QtSql/QSqlError>
+#include <QtSql/QSqlQuery>
+#include <QtTest/QtTest>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString SampleCatalogue = QStringLiteral(VX_SAMPLE_CATALOGUE);
+
+/// The fault that a job is given up with; null when it is done.
+template <typename Job>
+QString faultOf(Job job)
+{
+    try {
+        job();
+    } catch (const Fault& fault) {
+        return fault.message();
+    }
+    return {};
+}
+
+bool runOn(const QString& path, const QByteArray& statement)
+{
+    const QString name = u"change"_s;
+    bool isDone = false;
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, name);
+        database.setDatabaseName(path);
+        database.open();
+        QSqlQuery query(database);
+        isDone = query.exec(QString::fromUtf8(statement));
+        if (!isDone)
+            qWarning("%s", qPrintable(query.lastError().text()));
+    }
+    QSqlDatabase::removeDatabase(name);
+    return isDone;
+}
+
+} // namespace
+
+class RollDbTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+    }
+    void cleanup()
+    {
+        m_folder.reset();
+        QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
+    }
+
+    void refusesABadRow_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("after");
+        QTest::addColumn<QString>("fault");
+
+        const auto row = [](const char* name, const char* file, const char* before,
+                            const char* after, const char* fault) {
+            QTest::newRow(name) << QString::fromLatin1(file) << QByteArray(before)
+                                << QByteArray(after) << QString::fromUtf8(fault);
+        };
+        const char* const colours = "colours.csv";
+        row("a colour without a mark", colours, "#ffffff", "ffffff",
+            "colours.csv:2, column 2 (rgb): \"ffffff\" is no colour of the form #RRGGBB");
+        row("a colour of other digits", colours, "#ffffff", "#fffffg",
+            "colours.csv:2, column 2 (rgb): \"#fffffg\" is no colour of the form #RRGGBB");
+        row("a short colour", colours, "#ffffff", "#fff",
+            "colours.csv:2, column 2 (rgb): \"#fff\" is no colour of the form #RRGGBB");
+        row("a colour twice", colours, "red,#C8102E", "white,#C8102E",
+            "colours.csv:3, column 1 (colour): \"white\" is there twice");
+        row("a colour without a key", colours, "red,#C8102E", ",#C8102E",
+            "colours.csv:3, column 1 (colour): empty");
+        row("a space in a key", colours, "teal,", "dark teal,",
+            "colours.csv:5, column 1 (colour): a space in a colour's key");
+        row("no English name", colours, "Teal,,", ",Petrol,",
+            "colours.csv:5, column 3 (en): empty");
+        row("a field too many", colours, "Teal,,", "Teal,,,,x",
+            "colours.csv:5: 7 fields, where there are 5 columns");
+        row("a field too few", colours, "Teal,,", "Teal,",
+            "colours.csv:5: 4 fields, where there are 5 columns");
+        row("an unknown column", colours, "en,de,ja", "en,de,color",
+            "colours.csv:1, column 5 (color): neither a column of this table nor a language that "
+            "names can be had in");
+        row("a column twice", colours, "en,de,ja", "en,de,de",
+            "colours.csv:1, column 5 (de): the column is there twice");
+        row("a column without a name", colours, "en,de,ja", "en,,ja",
+            "colours.csv:1, column 4 (): a column without a name");
+        row("a language twice", colours, "en,de,ja", "en,de,de-CH",
+            "colours.csv:1, column 5 (de-CH): the same language as the column de");
+        row("no column of English names", colours, "en,de,ja", "de,fr,ja",
+            "colours.csv: the column en is missing");
+        row("a missing column", colours, "colour,rgb", "colour,es",
+            "colours.csv: the column rgb is missing");
+        row("an open quotation mark", colours, "Teal", "\"Teal",
+            "colours.csv:5: a quotation mark that is never closed");
+        row("text behind a quotation mark", colours, "Teal", "\"Te\"al",
+            "colours.csv:5: text after a closing quotation mark");
+        row("a quotation mark inside", colours, "Teal", "Te\"al",
+            "colours.csv:5: a quotation mark inside a field that is not quoted");
+        row("a carriage return", colours, "Teal", "Te\ral",
+            "colours.csv:5: a carriage return without a line feed");
+        row("bytes that are no text", colours, "Teal",
+            "T\xe9"
+            "al",
+            "colours.csv:5: not UTF-8 text");
+        row("half a character at the end", colours, "Teal,,\n", "Teal,,\xe7",
+            "colours.csv:5: not UTF-8 text");
+
+        row("a material that is no number", "materials.csv", "7,Vinyl", "vinyl,Vinyl",
+            "materials.csv:2, column 1 (material): \"vinyl\" is no whole number from 0 to 999999");
+        row("a material below zero", "materials.csv", "7,Vinyl", "-1,Vinyl",
+            "materials.csv:2, column 1 (material): \"-1\" is no whole number from 0 to 999999");
+        row("a material twice", "materials.csv", "0,Paper", "7,Paper",
+            "materials.csv:3, column 1 (material): material 7 is there twice");
+        row("a type that is none", "formats.csv", "continuous", "endless",
+            "formats.csv:2, column 2 (type): \"endless\" is none of continuous, die-cut, sleeve, "
+            "tag");
+        row("a format twice", "formats.csv", "2,die-cut", "1,die-cut",
+            "formats.csv:3, column 1 (format): format 1 is there twice");
+
+        const char* const supplies = "supplies.csv";
+        row("no SKU", supplies, "TAPE-1,100042", "-1,100042",
+            "supplies.csv:2, column 1 (sku): \"-1\" is no SKU: at most 40 letters from A to Z, "
+            "digits, dots, underscores and hyphens, a letter or digit first");
+        row("a SKU twice", supplies, "SPARE-1", "TAPE-1",
+            "supplies.csv:4, column 1 (sku): TAPE-1 is there twice");
+        row("a kind twice", supplies, "100050", "100043",
+            "supplies.csv:3, column 2 (kinds): 100043 is there twice");
+        row("a kind of no roll", supplies, "100050", "0",
+            "supplies.csv:3, column 2 (kinds): \"0\" is no whole number from 1 to 999999");
+        row("a kind of seven digits", supplies, "100050", "1000500",
+            "supplies.csv:3, column 2 (kinds): \"1000500\" is no whole number from 1 to 999999");
+        row("an unknown material", supplies, ",7,1,white", ",8,1,white",
+            "supplies.csv:2, column 3 (material): material 8 is not in materials.csv");
+        row("an unknown format", supplies, ",7,1,white", ",7,3,white",
+            "supplies.csv:2, column 4 (format): format 3 is not in formats.csv");
+        row("an unknown colour", supplies, "1,white", "1,snow",
+            "supplies.csv:2, column 5 (colour): \"snow\" is not in colours.csv");
+        row("a second colour without a width", supplies, "red,1.25", "red,",
+            "supplies.csv:2, column 7 (second_colour_width): a second colour and its width come "
+            "together or not at all");
+        row("a stripe wider than the supply", supplies, "red,1.25", "red,4.5",
+            "supplies.csv:2, column 7 (second_colour_width): \"4.5\" is no number from 0 to 4");
+        row("no width", supplies, "1.25,4,6000", "1.25,,6000",
+            "supplies.csv:2, column 8 (width): \"\" is no number from 0 to 100");
+        row("a width of zero", supplies, "1.25,4,6000", "1.25,0,6000",
+            "supplies.csv:2, column 8 (width): \"0\" is not above 0");
+        row("a width with a decimal comma", supplies, "1.25,4,6000", "1.25,\"4,5\",6000",
+            "supplies.csv:2, column 8 (width): \"4,5\" is no number from 0 to 100");
+        row("an endless length", supplies, "1.25,4,6000", "1.25,4,inf",
+            "supplies.csv:2, column 9 (length): \"inf\" is no number from 0 to 100000");
+        row("a length that is no number", supplies, "1.25,4,6000", "1.25,4,nan",
+            "supplies.csv:2, column 9 (length): \"nan\" is no number from 0 to 100000");
+        row("a label of a continuous supply", supplies, "6000,,", "6000,2,",
+            "supplies.csv:2, column 10 (label_length): a label's length, where the format is "
+            "continuous");
+        row("labels of no length", supplies, "1500,1.5,", "1500,,",
+            "supplies.csv:3, column 10 (label_length): empty, where the format is not continuous");
+        row("labels longer than the roll", supplies, "1500,1.5,", "1500,1501,",
+            "supplies.csv:3, column 10 (label_length): \"1501\" is no number from 0 to 1500");
+        row("a separator below zero", supplies, "1.5,0.125", "1.5,-0.125",
+            "supplies.csv:3, column 11 (separator_width): \"-0.125\" is no number from 0 to 100");
+        row("neither yes nor no", supplies, "yes,dot.png", "true,dot.png",
+            "supplies.csv:2, column 12 (landscape): \"true\" is neither yes nor no");
+        row("a picture that is missing", supplies, "dot.png", "spot.png",
+            "supplies.csv:2, column 13 (background): backgrounds/spot.png cannot be read");
+        row("a picture from elsewhere", supplies, "dot.png", "../dot.png",
+            "supplies.csv:2, column 13 (background): \"../dot.png\" is no plain file name");
+        row("a picture from the root", supplies, "dot.png", "/dot.png",
+            "supplies.csv:2, column 13 (background): \"/dot.png\" is no plain file name");
+        row("no picture", "backgrounds/dot.png", "PNG", "GNP",
+            "supplies.csv:2, column 13 (background): backgrounds/dot.png is no image that can be "
+            "read");
+        row("no label at all", supplies, ",3,0.1", ",0,0.1",
+            "supplies.csv:3, column 14 (multi_up_count): \"0\" is no whole number from 1 to 100");
+        row("labels without a gap", supplies, ",3,0.1", ",3,",
+            "supplies.csv:3, column 15 (multi_up_gap): empty, where labels lie side by side");
+        row("a gap beside one label", supplies, ",3,0.1", ",1,0.1",
+            "supplies.csv:3, column 15 (multi_up_gap): a gap, where one label lies alone");
+
+        const char* const ribbons = "ribbons.csv";
+        row("a ribbon twice", ribbons, "RIBBON-T", "RIBBON-K",
+            "ribbons.csv:4, column 1 (sku): RIBBON-K is there twice");
+        row("a ribbon with a supply's SKU", ribbons, "RIBBON-T", "TAPE-1",
+            "ribbons.csv:4, column 1 (sku): TAPE-1 is a supply's SKU");
+        row("a ribbon's number twice", ribbons, "2003", "2001",
+            "ribbons.csv:3, column 2 (numbers): 2001 is there twice");
+        row("a number no driver publishes", ribbons, "2003", "100001",
+            "ribbons.csv:3, column 2 (numbers): \"100001\" is no whole number from 1 to 100000");
+        row("no panels", ribbons, ",red black", ",",
+            "ribbons.csv:3, column 6 (panels): 0 panels, where 1 to 16 can be");
+        row("too many panels", ribbons, ",red black",
+            ",red red red red red red red red red red red red red red red red red",
+            "ribbons.csv:3, column 6 (panels): 17 panels, where 1 to 16 can be");
+        row("a panel of an unknown colour", ribbons, "red black", "red blue",
+            "ribbons.csv:3, column 6 (panels): \"blue\" is not in colours.csv");
+
+        const char* const settings = "print_settings.csv";
+        row("a setting of no ribbon", settings, "RIBBON-K,1,LABEL-1", "RIBBON-X,1,LABEL-1",
+            "print_settings.csv:5, column 1 (ribbon): \"RIBBON-X\" is not in ribbons.csv");
+        row("a setting of no panel", settings, "RIBBON-K,1,LABEL-1", "RIBBON-K,2,LABEL-1",
+            "print_settings.csv:5, column 2 (panel): \"2\" is no whole number from 1 to 1");
+        row("a setting of no supply", settings, "RIBBON-K,1,LABEL-1", "RIBBON-K,1,RIBBON-K",
+            "print_settings.csv:5, column 3 (supply): \"RIBBON-K\" is not in supplies.csv");
+        row("a setting twice", settings, "RIBBON-K,1,LABEL-1", "RIBBON-K,1,TAPE-1",
+            "print_settings.csv:5, column 1 (ribbon): panel 1 of RIBBON-K with TAPE-1 is there "
+            "twice");
+        row("an offset below zero", settings, "44,0,8", "44,-1,8",
+            "print_settings.csv:5, column 5 (heat_offset): \"-1\" is no whole number from 0 to "
+            "1000");
+        row("no speed", settings, "44,0,8", "44,0,0",
+            "print_settings.csv:5, column 6 (max_speed): \"0\" is no whole number from 1 to 1000");
+        row("a fraction", settings, "44,0,8", "44.5,0,8",
+            "print_settings.csv:5, column 4 (heat): \"44.5\" is no whole number from 0 to 1000");
+
+        row("a model twice", "printer_formats.csv", "AlderMax,1", "alderMAX,1",
+            "printer_formats.csv:4, column 1 (model): \"alderMAX\" is the same model as "
+            "\"AlderMax\"");
+        row("a format twice in a list", "printer_formats.csv", "AlderMax,1", "AlderMax,2",
+            "printer_formats.csv:4, column 2 (format): format 2 is there twice for AlderMax");
+        row("a list of an unknown format", "printer_formats.csv", "AlderMax,1", "AlderMax,9",
+            "printer_formats.csv:4, column 2 (format): format 9 is not in formats.csv");
+        row("a list of no model", "printer_formats.csv", "AlderMax,1", ",1",
+            "printer_formats.csv:4, column 1 (model): empty");
+    }
+    void refusesABadRow()
+    {
+        QFETCH(QString, file);
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, after);
+        SmallCatalogue catalogue;
+        QVERIFY(catalogue.files.value(file).contains(before));
+        catalogue.files[file].replace(before, after);
+        const QString fault = faultOf([&catalogue] { catalogue.read(); });
+        QTEST(fault, "fault");
+    }
+
+    void refusesAMissingTable_data()
+    {
+        QTest::addColumn<QString>("file");
+        for (const char* file : {"colours.csv", "materials.csv", "formats.csv", "supplies.csv",
+                                 "ribbons.csv", "print_settings.csv", "printer_formats.csv"})
+            QTest::newRow(file) << QString::fromLatin1(file);
+    }
+    void refusesAMissingTable()
+    {
+        QFETCH(QString, file);
+        SmallCatalogue catalogue;
+        catalogue.files.remove(file);
+        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+                 file + u": no such file, or it cannot be read"_s);
+        catalogue.files.insert(file, "\n \n");
+        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+                 file + u": empty, where a line of column names was expected"_s);
+    }
+
+    void refusesWhatIsTooLarge()
+    {
+        SmallCatalogue catalogue;
+        catalogue.replace("colours.csv", "Teal", QByteArray(201, 'x'));
+        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+                 u"colours.csv:5, column 3 (en): longer than 200 characters"_s);
+
+        catalogue = {};
+        catalogue.replace("colours.csv", "Teal", QByteArray(5000, 'x'));
+        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+                 u"colours.csv:5: a field of more than 4096 characters"_s);
+
+        catalogue = {};
+        catalogue.files[u"backgrounds/dot.png"_s].append(QByteArray(256 * 1024, '\0'));
+        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+                 u"supplies.csv:2, column 13 (background): backgrounds/dot.png is larger than 256 "
+                 "KiB"_s);
+
+        catalogue = {};
+        catalogue.files[u"colours.csv"_s] = QByteArray(16 * 1024 * 1024 + 1, '\n');
+        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }), u"colours.csv: larger than 16 MiB"_s);
+
+        catalogue = {};
+        catalogue.files[u"colours.csv"_s] = QByteArray("a,").repeated(100);
+        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+                 u"colours.csv:1: more than 64 columns"_s);
+    }
+
+    void readsATableHoweverASpreadsheetWritesIt_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+
+        QTest::newRow("plain") << QByteArray("key,size\na,1.5\nb,2\n");
+        QTest::newRow("no line feed at the end") << QByteArray("key,size\na,1.5\nb,2");
+        QTest::newRow("carriage returns") << QByteArray("key,size\r\na,1.5\r\nb,2\r\n");
+        QTest::newRow("a byte order mark") << QByteArray("\xef\xbb\xbfkey,size\na,1.5\nb,2\n");
+        QTest::newRow("quotation marks")
+            << QByteArray("\"key\",\"size\"\n\"a\",\"1.5\"\n\"b\",2\n");
+        QTest::newRow("spaces") << QByteArray(" key , size\n a,\t1.5 \n \"b\" , 2\n");
+        QTest::newRow("empty rows") << QByteArray("\nkey,size\n\na,1.5\n,\n  \nb,2\n\n");
+        QTest::newRow("empty columns") << QByteArray("key,size,,\na,1.5,,\nb,2,,\n");
+    }
+    void readsATableHoweverASpreadsheetWritesIt()
+    {
+        QFETCH(QByteArray, text);
+        const CsvTable table = CsvTable::parse(u"t.csv"_s, text);
+        QCOMPARE(table.columns(), (QStringList{u"key"_s, u"size"_s}));
+        QCOMPARE(table.rowCount(), 2);
+        QCOMPARE(table.field(0, u"key"_s).text, u"a"_s);
+        QCOMPARE(table.field(0, u"size"_s).text, u"1.5"_s);
+        QCOMPARE(table.field(1, u"key"_s).text, u"b"_s);
+        QCOMPARE(table.field(1, u"size"_s).text, u"2"_s);
+    }
+
+    void readsQuotedFields()
+    {
+        const CsvTable table =
+            CsvTable::parse(u"t.csv"_s, "key,name\na,\"one, \"\"two\"\"\nthree\"\nb,\"\"\nc,x\n");
+        QCOMPARE(table.rowCount(), 3);
+        QCOMPARE(table.field(0, u"name"_s).text, u"one, \"two\"\nthree"_s);
+        QCOMPARE(table.field(1, u"name"_s).text, QString());
+        QCOMPARE(table.field(2, u"name"_s).place, u"t.csv:5, column 2 (name)"_s);
+    }
+
+    void takesSemicolonsAndDecimalCommas()
+    {
+        SmallCatalogue catalogue;
+        QByteArray& supplies = catalogue.files[u"supplies.csv"_s];
+        supplies.replace(',', ';').replace('.', ',').replace("dot,png", "dot.png");
+        QCOMPARE(catalogue.read().supplies.at(0).secondColourWidth, std::optional(1.25));
+        supplies.replace("1,25", "1.25");
+        QCOMPARE(catalogue.read().supplies.at(0).secondColourWidth, std::optional(1.25));
+    }
+
+    void buildsTheSampleCatalogue()
+    {
+        writeDatabase(readCatalogueDirectory(SampleCatalogue), path());
+        const DatabaseCounts counts = checkDatabase(path());
+        QVERIFY(counts.supplies >= 40);
+        QVERIFY(counts.ribbons >= 20);
+        QVERIFY(counts.settings > counts.supplies);
+        QCOMPARE(counts.languages, 5);
+    }
+
+    void theSampleCatalogueHasEveryNameInEachLanguage()
+    {
+        const Catalogue catalogue = readCatalogueDirectory(SampleCatalogue);
+        QCOMPARE(catalogue.languages.values(),
+                 (QStringList{u"en"_s, u"de"_s, u"fr"_s, u"es"_s, u"ja"_s}));
+        const QList<int> others{1, 2, 3, 4};
+        for (const Catalogue::Colour& colour : catalogue.colours)
+            QCOMPARE(colour.name.translations.keys(), others);
+        for (const Catalogue::Material& material : catalogue.materials)
+            QCOMPARE(material.name.translations.keys(), others);
+        for (const Catalogue::Format& format : catalogue.formats)
+            QCOMPARE(format.name.translations.keys(), others);
+    }
+
+    void everySupplyOfTheSampleCatalogueCanBePrinted()
+    {
+        const Catalogue catalogue = readCatalogueDirectory(SampleCatalogue);
+        QSet<QString> printed;
+        for (const Catalogue::PrintSetting& setting : catalogue.settings)
+            printed.insert(setting.supplySku);
+        for (const Catalogue::Supply& supply : catalogue.supplies) {
+            QVERIFY2(printed.contains(supply.sku), qPrintable(supply.sku));
+            QVERIFY2(!supply.kinds.isEmpty(), qPrintable(supply.sku));
+        }
+    }
+
+    void theSameTablesGiveTheSameFile()
+    {
+        const QString second = m_folder->filePath(u"second.db"_s);
+        SmallCatalogue().write(path());
+        SmallCatalogue().write(second);
+        QVERIFY(!readFile(path()).isEmpty());
+        QCOMPARE(readFile(path()), readFile(second));
+    }
+
+    void takesThePlaceOfTheOldFile()
+    {
+        writeFile(path(), "old");
+        SmallCatalogue().write(path());
+        QCOMPARE(checkDatabase(path()).supplies, 3);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
+    }
+
+    void leavesTheOldFileWholeWhenARowIsBad()
+    {
+        SmallCatalogue().write(path());
+        const QByteArray before = readFile(path());
+        SmallCatalogue bad;
+        bad.replace("ribbons.csv", "2003", "x");
+        QVERIFY(!faultOf([&] { bad.write(path()); }).isNull());
+        QCOMPARE(readFile(path()), before);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
+    }
+
+    // The schema has the last word: what slips through the tables' reader must not get into a file.
+    void leavesTheOldFileWholeWhenTheSchemaRefuses()
+    {
+        SmallCatalogue().write(path());
+        const QByteArray before = readFile(path());
+        Catalogue catalogue = SmallCatalogue().read();
+        catalogue.settings[0].heatOffset = -1;
+        QVERIFY(faultOf([&] { writeDatabase(catalogue, path()); }).contains(u"heat_offset"_s));
+        catalogue = SmallCatalogue().read();
+        catalogue.supplies[0].material = 99;
+        QVERIFY(faultOf([&] { writeDatabase(catalogue, path()); }).contains(u"FOREIGN KEY"_s));
+        QCOMPARE(readFile(path()), before);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
+    }
+
+    void saysWhereItCannotWrite()
+    {
+        const QString nowhere = m_folder->filePath(u"missing/roll.db"_s);
+        const QString fault = faultOf([&] { SmallCatalogue().write(nowhere); });
+        QVERIFY2(fault.startsWith(nowhere + u": "_s), qPrintable(fault));
+        QVERIFY(!QDir(m_folder->filePath(u"missing"_s)).exists());
+    }
+
+    void findsWhatIsWrong_data()
+    {
+        QTest::addColumn<QByteArray>("change");
+        QTest::addColumn<QString>("fault");
+
+        QTest::newRow("nothing") << QByteArray("ANALYZE name") << QString();
+        QTest::newRow("another schema version")
+            << QByteArray("PRAGMA user_version = 9")
+            << u"of schema version 9, where version 1 can be read"_s;
+        QTest::newRow("another application") << QByteArray("PRAGMA application_id = 1")
+                                             << u"an SQLite database, but not a supply database"_s;
+        QTest::newRow("another table") << QByteArray("CREATE TABLE note (text TEXT)")
+                                       << u"its tables are not those of schema version 1"_s;
+        QTest::newRow("a trigger")
+            << QByteArray("CREATE TRIGGER gone AFTER DELETE ON supply BEGIN SELECT 1; END")
+            << u"its tables are not those of schema version 1"_s;
+        QTest::newRow("a missing table") << QByteArray("DROP TABLE print_setting")
+                                         << u"its tables are not those of schema version 1"_s;
+        QTest::newRow("a row that refers to nothing")
+            << QByteArray("DELETE FROM material WHERE id = 7")
+            << u"a row of supply refers to nothing"_s;
+        QTest::newRow("a missing panel")
+            << QByteArray("DELETE FROM ribbon_panel WHERE ribbon_sku = 'RIBBON-T'")
+            << u"the panels of ribbon RIBBON-T are not numbered from 1 on"_s;
+        QTest::newRow("a ribbon that is a supply")
+            << QByteArray(
+                   "UPDATE ribbon_panel SET ribbon_sku = 'TAPE-1' WHERE ribbon_sku = 'RIBBON-T'")
+            << u"a row of ribbon_panel refers to nothing"_s;
+        QTest::newRow("a continuous label")
+            << QByteArray("UPDATE supply SET label_length = 1")
+            << u"supply TAPE-1 has a label length and a continuous format, or neither"_s;
+        QTest::newRow("a gap in a printer's list")
+            << QByteArray("DELETE FROM printer_format WHERE model = 'AlderMax' AND position = 0")
+            << u"the formats of the printer model \"AlderMax\" are not numbered from 0 on"_s;
+        QTest::newRow("another first language")
+            << QByteArray("UPDATE language SET tag = 'eo' WHERE id = 0")
+            << u"the language 0 is \"eo\", not English"_s;
+        QTest::newRow("no English")
+            << QByteArray("DELETE FROM language WHERE id = 0") << u"English is missing"_s;
+    }
+    void findsWhatIsWrong()
+    {
+        QFETCH(QByteArray, change);
+        QFETCH(QString, fault);
+        SmallCatalogue().write(path());
+        QVERIFY(runOn(path(), change));
+        const QString found = faultOf([this] { checkDatabase(path()); });
+        QCOMPARE(found, fault.isEmpty() ? QString() : path() + u": "_s + fault);
+    }
+
+    void findsDamage()
+    {
+        SmallCatalogue().write(path());
+        QByteArray bytes = readFile(path());
+        bytes.replace(4096, 4096, QByteArray(4096, '\xff'));
+        writeFile(path(), bytes);
+        const QString found = faultOf([this] { checkDatabase(path()); });
+        QVERIFY2(found.startsWith(path() + u": damaged: "_s), qPrintable(found));
+        QVERIFY(!found.contains(u'\n'));
+    }
+
+    void reportsASupply()
+    {
+        SmallCatalogue().write(path());
+        QCOMPARE(skuReport(path(), u"TAPE-1"_s, 1),
+                 u"supply:          TAPE-1\n"
+                 "material:        7 Vinylfolie\n"
+                 "format:          1 Band\n"
+                 "type:            continuous\n"
+                 "colour:          #ffffff Weiß\n"
+                 "second colour:   #c8102e Rot\n"
+                 "stripe:          1.25 in\n"
+                 "width:           4 in\n"
+                 "length:          6000 in\n"
+                 "landscape:       yes\n"
+                 "side by side:    1\n"
+                 "background:      69 bytes\n"
+                 "printed with:    RIBBON-K panel 1: heat 52, offset 0, speed 4, tension 30\n"
+                 "printed with:    RIBBON-RK panel 1: heat 58, offset 2, speed 3, tension 32\n"
+                 "printed with:    RIBBON-RK panel 2: heat 55, offset 1, speed 4, tension 33\n"_s);
+    }
+
+    void reportsARibbon()
+    {
+        SmallCatalogue().write(path());
+        QCOMPARE(skuReport(path(), u"RIBBON-RK"_s, 0), u"ribbon:          RIBBON-RK\n"
+                                                       "type:            resin\n"
+                                                       "width:           4.33 in\n"
+                                                       "length:          2360 in\n"
+                                                       "panel:           #c8102e Red\n"
+                                                       "panel:           #000000 Black\n"_s);
+    }
+
+    void reportsNoUnknownSku()
+    {
+        SmallCatalogue().write(path());
+        QCOMPARE(faultOf([this] { skuReport(path(), u"NO-SUCH"_s, 0); }),
+                 path() + u": knows no supply or ribbon \"NO-SUCH\""_s);
+    }
+
+    void theToolEndsAsItShould_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("output");
+        QTest::addColumn<QString>("error");
+
+        const QString usage = u" (see rolldb --help)\n"_s;
+        QTest::newRow("build")
+            << QStringList{u"build"_s, SampleCatalogue, u"new.db"_s} << 0
+            << u"new.db: 46 supplies, 22 ribbons, 894 print settings, 5 languages\n"_s << QString();
+        QTest::newRow("check")
+            << QStringList{u"check"_s, u"roll.db"_s} << 0
+            << u"roll.db: in order, 3 supplies, 3 ribbons, 4 print settings, 3 languages\n"_s
+            << QString();
+        QTest::newRow("show")
+            << QStringList{u"show"_s, u"--language"_s, u"de"_s, u"roll.db"_s, u"RIBBON-T"_s} << 0
+            << u"ribbon:          RIBBON-T\ntype:            resin\nwidth:           2.4 in\n"
+               "length:          4725 in\npanel:           #008080 Teal\n"_s
+            << QString();
+        QTest::newRow("no verb") << QStringList{} << 2 << QString()
+                                 << u"rolldb: expected build, check or show"_s + usage;
+        QTest::newRow("another verb")
+            << QStringList{u"fix"_s} << 2 << QString()
+            << u"rolldb: \"fix\" is none of build, check and show"_s + usage;
+        QTest::newRow("too few arguments") << QStringList{u"build"_s, u"x"_s} << 2 << QString()
+                                           << u"rolldb: build takes 2 arguments, not 1"_s + usage;
+        QTest::newRow("another option") << QStringList{u"check"_s, u"--fix"_s, u"roll.db"_s} << 2
+                                        << QString() << u"rolldb: Unknown option 'fix'."_s + usage;
+        QTest::newRow("another language")
+            << QStringList{u"show"_s, u"--language"_s, u"xx"_s, u"roll.db"_s, u"TAPE-1"_s} << 2
+            << QString() << u"rolldb: \"xx\" is no language that names are had in"_s + usage;
+        QTest::newRow("no directory") << QStringList{u"build"_s, u"nowhere"_s, u"new.db"_s} << 1
+                                      << QString() << u"rolldb: nowhere: no such directory\n"_s;
+        QTest::newRow("no tables")
+            << QStringList{u"build"_s, u"."_s, u"new.db"_s} << 1 << QString()
+            << u"rolldb: colours.csv: no such file, or it cannot be read\n"_s;
+        QTest::newRow("no file") << QStringList{u"check"_s, u"none.db"_s} << 1 << QString()
+                                 << u"rolldb: none.db: no such file\n"_s;
+        QTest::newRow("no database") << QStringList{u"show"_s, u"text.db"_s, u"TAPE-1"_s} << 1
+                                     << QString() << u"rolldb: text.db: not an SQLite database\n"_s;
+    }
+    void theToolEndsAsItShould()
+    {
+        QFETCH(QStringList, arguments);
+        SmallCatalogue().write(path());
+        writeFile(m_folder->filePath(u"text.db"_s), "not a database");
+        QProcess tool;
+        tool.setWorkingDirectory(m_folder->path());
+        tool.start(QStringLiteral(VX_ROLLDB), arguments);
+        QVERIFY2(tool.waitForFinished(), qPrintable(tool.errorString()));
+        QCOMPARE(tool.exitStatus(), QProcess::NormalExit);
+        QTEST(QString::fromUtf8(tool.readAllStandardError()).remove(u'\r'), "error");
+        QTEST(QString::fromUtf8(tool.readAllStandardOutput()).remove(u'\r'), "output");
+        QTEST(tool.exitCode(), "status");
+    }
+
+    void theToolExplainsItself()
+    {
+        QProcess tool;
+        tool.start(QStringLiteral(VX_ROLLDB), {u"--help"_s});
+        QVERIFY2(tool.waitForFinished(), qPrintable(tool.errorString()));
+        QCOMPARE(tool.exitCode(), 0);
+        const QString help = QString::fromUtf8(tool.readAllStandardOutput());
+        for (const auto& verb : {u"rolldb build"_s, u"rolldb check"_s, u"rolldb show"_s})
+            QVERIFY2(help.contains(verb), qPrintable(verb));
+    }
+
+private:
+    QString path() const { return m_folder->filePath(u"roll.db"_s); }
+
+    static QByteArray readFile(const QString& name)
+    {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    static void writeFile(const QString& name, const QByteArray& content)
+    {
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), content.size());
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+QTEST_GUILESS_MAIN(RollDbTest)
+#include "tst_rolldb.moc"

@@ -1,0 +1,770 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "small_catalogue.h"
+
+#include <kept_query.h>
+#include <vxsupplydatabase.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QRandomGenerator>
+#include <QtCore/QTemporaryDir>
+#include <QtSql/QSqlDatabase>
+#include <QtSql/QSqlError>
+#include <QtSql/QSqlQuery>
+#include <QtTest/QtTest>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int German = 1;
+constexpr int Japanese = 4;
+constexpr int Polish = 9;
+
+const QString Connection = QStringLiteral("the connection");
+const QString Tape = QStringLiteral("TAPE-1");
+const QString Label = QStringLiteral("LABEL-1");
+const QString Spare = QStringLiteral("SPARE-1");
+const QString RibbonK = QStringLiteral("RIBBON-K");
+const QString RibbonRK = QStringLiteral("RIBBON-RK");
+const QString RibbonT = QStringLiteral("RIBBON-T");
+const QString Unknown = QStringLiteral("NO-SUCH");
+const QString TapeId = QStringLiteral("000001F41000420000A7");
+
+/// A connection of the test's own, which may write.
+class Other
+{
+public:
+    explicit Other(const QString& path)
+        : m_name(QStringLiteral("other"))
+        , m_database(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_name))
+    {
+        m_database.setDatabaseName(path);
+        m_database.open();
+    }
+    ~Other()
+    {
+        m_database.close();
+        m_database = QSqlDatabase();
+        QSqlDatabase::removeDatabase(m_name);
+    }
+    Q_DISABLE_COPY_MOVE(Other)
+
+    const QSqlDatabase& database() const { return m_database; }
+    bool run(const char* statement) const
+    {
+        QSqlQuery query(m_database);
+        const bool isDone = query.exec(QString::fromUtf8(statement));
+        if (!isDone)
+            qWarning("%s", qPrintable(query.lastError().text()));
+        return isDone;
+    }
+
+private:
+    QString m_name;
+    QSqlDatabase m_database;
+};
+
+/// Asks everything that can be asked of a supply and a ribbon. True when nothing is known of them.
+bool knowsNothing(const VXSupplyDatabase& database, const QString& sku, const QString& ribbon)
+{
+    const QStringList ribbons{ribbon};
+    const QVariantList unknown{-1};
+    return database.supplyMaterial(sku) == -1 && database.supplyMaterialName(sku).isEmpty() &&
+           database.supplyFormat(sku) == -1 && database.supplyFormatName(sku).isEmpty() &&
+           database.supplyFormatType(sku).isEmpty() && database.supplyColorRGB(sku) == -1 &&
+           database.supplyColorName(sku).isEmpty() && database.supplyColorNameEn(sku).isEmpty() &&
+           database.supplySecColorRGB(sku) == -1 && database.supplySecColorName(sku).isEmpty() &&
+           database.supplySecColorNameEn(sku).isEmpty() &&
+           database.supplySecColorWidth(sku) == -1.0 && database.supplyWidth(sku) == -1.0 &&
+           database.supplyLength(sku) == -1.0 && database.supplyNonContinuousLength(sku) == -1.0 &&
+           database.supplySeparatorWidth(sku) == -1.0 && database.supplyIsLandscape(sku) == 1 &&
+           database.supplyMultiUpCount(sku) == 1 && database.supplyMultiUpGapSize(sku) == -1.0 &&
+           database.supplyBackgroundImage(sku).isEmpty() &&
+           database.supplyTypeIndex(sku, QStringLiteral("-")) == -1 &&
+           database.supplyRibbonType(ribbon).isEmpty() &&
+           database.supplyRibbonPanels(ribbon) == -1 &&
+           database.supplyRibbonWidth(ribbon) == -1.0 &&
+           database.supplyRibbonLength(ribbon) == -1.0 &&
+           database.supplyRibbonColorName(ribbon, 1).isEmpty() &&
+           database.supplyRibbonColorRGB(ribbon, 1) == -1 &&
+           database.supplyRibbonHeat(ribbon, 1, sku) == -1 &&
+           database.supplyRibbonHeatOffset(ribbon, 1, sku) == -1 &&
+           database.supplyRibbonMaxSpeed(ribbon, 1, sku) == -1 &&
+           database.supplyRibbonTension(ribbon, 1, sku) == -1 &&
+           database.supplyRibbonsColorNames(ribbons) == QStringList{QString()} &&
+           database.supplyRibbonsColorRGBs(ribbons) == unknown &&
+           database.supplyRibbonsHeats(ribbons, sku) == unknown &&
+           database.supplyRibbonsHeatOffsets(ribbons, sku) == unknown &&
+           database.supplyRibbonsMaxSpeeds(ribbons, sku) == unknown &&
+           database.supplyRibbonsTensions(ribbons, sku) == unknown;
+}
+
+bool holdsNothing(const VXSupplyDatabase& database)
+{
+    return database.supplySKUList().isEmpty() && database.supplyRibbonSKUList().isEmpty() &&
+           database.supplyColorHash().isEmpty() && database.supplyRibbonColorHash().isEmpty();
+}
+
+} // namespace
+
+class VXSupplyDatabaseTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+        SmallCatalogue().write(path());
+        m_database = std::make_unique<VXSupplyDatabase>();
+        m_database->setup(path(), Connection);
+    }
+    void cleanup()
+    {
+        m_database.reset();
+        m_folder.reset();
+        QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
+    }
+
+    void knowsASupply()
+    {
+        QCOMPARE(m_database->supplyMaterial(Tape), 7);
+        QCOMPARE(m_database->supplyMaterialName(Tape), QStringLiteral("Vinyl"));
+        QCOMPARE(m_database->supplyFormat(Tape), 1);
+        QCOMPARE(m_database->supplyFormatName(Tape), QStringLiteral("Tape"));
+        QCOMPARE(m_database->supplyFormatType(Tape), QStringLiteral("continuous"));
+        QCOMPARE(m_database->supplyColorRGB(Tape), 0xFFFFFF);
+        QCOMPARE(m_database->supplyColorName(Tape), QStringLiteral("White"));
+        QCOMPARE(m_database->supplyColorNameEn(Tape), QStringLiteral("White"));
+        QCOMPARE(m_database->supplySecColorRGB(Tape), 0xC8102E);
+        QCOMPARE(m_database->supplySecColorName(Tape), QStringLiteral("Red"));
+        QCOMPARE(m_database->supplySecColorNameEn(Tape), QStringLiteral("Red"));
+        QCOMPARE(m_database->supplySecColorWidth(Tape), 1.25);
+        QCOMPARE(m_database->supplyWidth(Tape), 4.0);
+        QCOMPARE(m_database->supplyLength(Tape), 6000.0);
+        QCOMPARE(m_database->supplyIsLandscape(Tape), 1);
+        QCOMPARE(m_database->supplyBackgroundImage(Tape),
+                 SmallCatalogue().files.value(QStringLiteral("backgrounds/dot.png")));
+    }
+
+    void knowsLabelsSideBySide()
+    {
+        QCOMPARE(m_database->supplyMaterial(Label), 0);
+        QCOMPARE(m_database->supplyFormatType(Label), QStringLiteral("die-cut"));
+        QCOMPARE(m_database->supplyNonContinuousLength(Label), 1.5);
+        QCOMPARE(m_database->supplySeparatorWidth(Label), 0.125);
+        QCOMPARE(m_database->supplyIsLandscape(Label), 0);
+        QCOMPARE(m_database->supplyMultiUpCount(Label), 3);
+        QCOMPARE(m_database->supplyMultiUpGapSize(Label), 0.1);
+    }
+
+    void answersThatASupplyHasNoSuchThing()
+    {
+        QCOMPARE(m_database->supplyNonContinuousLength(Tape), -1.0);
+        QCOMPARE(m_database->supplySeparatorWidth(Tape), -1.0);
+        QCOMPARE(m_database->supplyMultiUpCount(Tape), 1);
+        QCOMPARE(m_database->supplyMultiUpGapSize(Tape), -1.0);
+        QCOMPARE(m_database->supplySecColorRGB(Label), -1);
+        QCOMPARE(m_database->supplySecColorName(Label), QString());
+        QCOMPARE(m_database->supplySecColorNameEn(Label), QString());
+        QCOMPARE(m_database->supplySecColorWidth(Label), -1.0);
+        QCOMPARE(m_database->supplyBackgroundImage(Label), QByteArray());
+        QCOMPARE(m_database->supplySeparatorWidth(Spare), 0.0); // labels that touch
+    }
+
+    void namesAreInTheLanguageOrInEnglish_data()
+    {
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QString>("white");
+        QTest::addColumn<QString>("black");
+        QTest::addColumn<QString>("teal");
+        QTest::addColumn<QString>("vinyl");
+        QTest::addColumn<QString>("tape");
+
+        QTest::newRow("English") << 0 << "White"
+                                 << "Black"
+                                 << "Teal"
+                                 << "Vinyl"
+                                 << "Tape";
+        QTest::newRow("German") << German << QStringLiteral("Weiß") << "Schwarz"
+                                << "Teal"
+                                << "Vinylfolie"
+                                << "Band";
+        QTest::newRow("Japanese") << Japanese << QStringLiteral("白") << "Black"
+                                  << "Teal"
+                                  << "Vinyl"
+                                  << "Tape";
+        QTest::newRow("a language without any name") << Polish << "White"
+                                                     << "Black"
+                                                     << "Teal"
+                                                     << "Vinyl"
+                                                     << "Tape";
+        QTest::newRow("no language's number") << -7 << "White"
+                                              << "Black"
+                                              << "Teal"
+                                              << "Vinyl"
+                                              << "Tape";
+    }
+    void namesAreInTheLanguageOrInEnglish()
+    {
+        QFETCH(int, language);
+        QCOMPARE(m_database->supplyColorName(Tape), QStringLiteral("White"));
+        m_database->setLanguageId(language);
+        QTEST(m_database->supplyColorName(Tape), "white");
+        QTEST(m_database->supplyColorName(Spare), "black");
+        QTEST(m_database->supplyColorName(Label), "teal");
+        QTEST(m_database->supplyMaterialName(Tape), "vinyl");
+        QTEST(m_database->supplyFormatName(Tape), "tape");
+        QTEST(m_database->supplyRibbonColorName(RibbonK, 1), "black");
+        QCOMPARE(m_database->supplyColorNameEn(Tape), QStringLiteral("White"));
+        QCOMPARE(m_database->supplySecColorNameEn(Tape), QStringLiteral("Red"));
+    }
+
+    void keepsTheLanguageOverASetup()
+    {
+        m_database->setLanguageId(German);
+        m_database->setup(path(), Connection);
+        QCOMPARE(m_database->supplySecColorName(Tape), QStringLiteral("Rot"));
+    }
+
+    void knowsNothingOfAnUnknownSku_data()
+    {
+        QTest::addColumn<QString>("sku");
+
+        QTest::newRow("null") << QString();
+        QTest::newRow("empty") << "";
+        QTest::newRow("nothing loaded") << "-1";
+        QTest::newRow("not in the file") << Unknown;
+        QTest::newRow("other case") << "tape-1";
+        QTest::newRow("a space behind") << "TAPE-1 ";
+        QTest::newRow("a statement") << "' OR 1 = 1 --";
+        QTest::newRow("a NUL behind") << Tape + QChar(0);
+        QTest::newRow("other script") << QStringLiteral("白");
+        QTest::newRow("as long as can be") << QString(40, u'A');
+        QTest::newRow("a million characters") << QString(1000000, u'A');
+    }
+    void knowsNothingOfAnUnknownSku()
+    {
+        QFETCH(QString, sku);
+        QVERIFY(knowsNothing(*m_database, sku, sku));
+        QVERIFY(knowsNothing(*m_database, sku, sku)); // from memory, too
+        QCOMPARE(m_database->supplyRibbonHeat(RibbonK, 1, sku), -1);
+        QCOMPARE(m_database->supplyRibbonHeat(sku, 1, Tape), -1);
+    }
+
+    void knowsNothingBeforeASetup()
+    {
+        VXSupplyDatabase fresh;
+        QVERIFY(knowsNothing(fresh, Tape, RibbonK));
+        QVERIFY(holdsNothing(fresh));
+        QCOMPARE(fresh.supplyId(), QString());
+        QCOMPARE(fresh.supplySKU(), QStringLiteral("-1"));
+        QCOMPARE(fresh.supplyRibbonSKUs(), QStringList());
+        QCOMPARE(fresh.supplySupplyRGB(), QString());
+        QCOMPARE(fresh.supplyRibbon1RGBs(), QStringList());
+        QCOMPARE(fresh.supplyRibbon2RGBs(), QStringList());
+    }
+
+    void asksOnlyWhatIsSupplyOrRibbon() { QVERIFY(knowsNothing(*m_database, RibbonK, Tape)); }
+
+    void knowsARibbon()
+    {
+        QCOMPARE(m_database->supplyRibbonType(RibbonRK), QStringLiteral("resin"));
+        QCOMPARE(m_database->supplyRibbonPanels(RibbonRK), 2);
+        QCOMPARE(m_database->supplyRibbonPanels(RibbonK), 1);
+        QCOMPARE(m_database->supplyRibbonWidth(RibbonRK), 4.33);
+        QCOMPARE(m_database->supplyRibbonLength(RibbonRK), 2360.0);
+        QCOMPARE(m_database->supplyRibbonColorName(RibbonRK, 1), QStringLiteral("Red"));
+        QCOMPARE(m_database->supplyRibbonColorRGB(RibbonRK, 1), 0xC8102E);
+        QCOMPARE(m_database->supplyRibbonColorName(RibbonRK, 2), QStringLiteral("Black"));
+        QCOMPARE(m_database->supplyRibbonColorRGB(RibbonRK, 2), 0x000000);
+    }
+
+    void knowsNothingOfAMissingPanel_data()
+    {
+        QTest::addColumn<int>("panel");
+        for (const int panel : {0, 3, -1, std::numeric_limits<int>::max()})
+            QTest::addRow("panel %d", panel) << panel;
+    }
+    void knowsNothingOfAMissingPanel()
+    {
+        QFETCH(int, panel);
+        QCOMPARE(m_database->supplyRibbonColorName(RibbonRK, panel), QString());
+        QCOMPARE(m_database->supplyRibbonColorRGB(RibbonRK, panel), -1);
+        QCOMPARE(m_database->supplyRibbonHeat(RibbonRK, panel, Tape), -1);
+    }
+
+    void knowsHowAPanelPrintsOnASupply()
+    {
+        QCOMPARE(m_database->supplyRibbonHeat(RibbonRK, 2, Tape), 55);
+        QCOMPARE(m_database->supplyRibbonHeatOffset(RibbonRK, 2, Tape), 1);
+        QCOMPARE(m_database->supplyRibbonMaxSpeed(RibbonRK, 2, Tape), 4);
+        QCOMPARE(m_database->supplyRibbonTension(RibbonRK, 2, Tape), 33);
+        QCOMPARE(m_database->supplyRibbonHeat(RibbonRK, 1, Tape), 58);
+        QCOMPARE(m_database->supplyRibbonHeat(RibbonK, 1, Label), 44);
+        QCOMPARE(m_database->supplyRibbonHeat(RibbonRK, 1, Label), -1); // are not used together
+    }
+
+    void listsHaveAnEntryForEachRibbon()
+    {
+        const QStringList ribbons{RibbonRK, Unknown, RibbonK, QString(), RibbonT};
+        QCOMPARE(m_database->supplyRibbonsColorNames(ribbons),
+                 (QStringList{QStringLiteral("Red"), QString(), QStringLiteral("Black"), QString(),
+                              QStringLiteral("Teal")}));
+        QCOMPARE(m_database->supplyRibbonsColorRGBs(ribbons),
+                 (QVariantList{0xC8102E, -1, 0, -1, 0x008080}));
+        QCOMPARE(m_database->supplyRibbonsHeats(ribbons, Tape), (QVariantList{58, -1, 52, -1, -1}));
+        QCOMPARE(m_database->supplyRibbonsHeatOffsets(ribbons, Tape),
+                 (QVariantList{2, -1, 0, -1, -1}));
+        QCOMPARE(m_database->supplyRibbonsMaxSpeeds(ribbons, Tape),
+                 (QVariantList{3, -1, 4, -1, -1}));
+        QCOMPARE(m_database->supplyRibbonsTensions(ribbons, Tape),
+                 (QVariantList{32, -1, 30, -1, -1}));
+        QCOMPARE(m_database->supplyRibbonsHeats(ribbons, QString()),
+                 (QVariantList{-1, -1, -1, -1, -1}));
+    }
+
+    void listsOfNoRibbonAreEmpty()
+    {
+        QCOMPARE(m_database->supplyRibbonsColorNames({}), QStringList());
+        QCOMPARE(m_database->supplyRibbonsColorRGBs({}), QVariantList());
+        QCOMPARE(m_database->supplyRibbonsHeats({}, Tape), QVariantList());
+        QCOMPARE(m_database->supplyRibbonsHeatOffsets({}, Tape), QVariantList());
+        QCOMPARE(m_database->supplyRibbonsMaxSpeeds({}, Tape), QVariantList());
+        QCOMPARE(m_database->supplyRibbonsTensions({}, Tape), QVariantList());
+    }
+
+    void listsWhatItHolds()
+    {
+        QCOMPARE(m_database->supplySKUList(), (QStringList{Label, Spare, Tape}));
+        QCOMPARE(m_database->supplyRibbonSKUList(), (QStringList{RibbonK, RibbonRK, RibbonT}));
+        QCOMPARE(m_database->supplyColorHash(),
+                 (QVariantHash{{Label, 0x008080}, {Spare, 0}, {Tape, 0xFFFFFF}}));
+        QCOMPARE(m_database->supplyRibbonColorHash(),
+                 (QVariantHash{{RibbonK, 0}, {RibbonRK, 0xC8102E}, {RibbonT, 0x008080}}));
+    }
+
+    void theSupplyIdentifierDecidesTheSku_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QString>("sku");
+        QTest::addColumn<QString>("rgb");
+
+        QTest::newRow("a kind") << TapeId << Tape << "16777215";
+        QTest::newRow("another kind of the SKU") << "00000064100043000001" << Tape << "16777215";
+        QTest::newRow("another SKU") << "00000064100050000001" << Label << "32896";
+        QTest::newRow("nothing loaded") << "-1"
+                                        << "-1"
+                                        << "";
+        QTest::newRow("empty") << ""
+                               << "-1"
+                               << "";
+        QTest::newRow("twenty zeros") << "00000000000000000000"
+                                      << "-1"
+                                      << "";
+        QTest::newRow("nineteen zeros") << "0000000000000000000"
+                                        << ""
+                                        << "";
+        QTest::newRow("a kind not in the file") << "00000064999999000001"
+                                                << ""
+                                                << "";
+        QTest::newRow("cannot be decoded") << "what is this roll ?!"
+                                           << ""
+                                           << "";
+    }
+    void theSupplyIdentifierDecidesTheSku()
+    {
+        QFETCH(QString, id);
+        m_database->setSupplyId(TapeId);
+        QCOMPARE(m_database->supplySKU(), Tape);
+        m_database->setSupplyId(id);
+        QCOMPARE(m_database->supplyId(), id);
+        QTEST(m_database->supplySKU(), "sku");
+        QTEST(m_database->supplySupplyRGB(), "rgb");
+    }
+
+    void theRibbonIdentifiersDecideTheSkus_data()
+    {
+        QTest::addColumn<QStringList>("ids");
+        QTest::addColumn<QStringList>("skus");
+        QTest::addColumn<QStringList>("rgbs1");
+        QTest::addColumn<QStringList>("rgbs2");
+
+        const QStringList none;
+        const QStringList black{QStringLiteral("0")};
+        const QStringList redBlack{QStringLiteral("13111342"), QStringLiteral("0")};
+        QTest::newRow("none") << none << none << none << none;
+        QTest::newRow("two") << QStringList{u"2001"_s, u"2003"_s} << QStringList{RibbonK, RibbonRK}
+                             << black << redBlack;
+        QTest::newRow("another number of the SKU")
+            << QStringList{u"2002"_s} << QStringList{RibbonK} << black << none;
+        QTest::newRow("nothing in the first place")
+            << QStringList{u"-1"_s, u"2003"_s} << QStringList{u"-1"_s, RibbonRK} << none
+            << redBlack;
+        QTest::newRow("all bits set")
+            << QStringList{u"4294967295"_s} << QStringList{u"-1"_s} << none << none;
+        QTest::newRow("zero") << QStringList{u"0"_s} << QStringList{u"-1"_s} << none << none;
+        QTest::newRow("empty") << QStringList{u""_s, u"2001"_s} << QStringList{u"-1"_s, RibbonK}
+                               << none << black;
+        QTest::newRow("not in the file")
+            << QStringList{u"2099"_s} << QStringList{u""_s} << none << none;
+        QTest::newRow("no number")
+            << QStringList{u"ribbon"_s} << QStringList{u""_s} << none << none;
+        QTest::newRow("three") << QStringList{u"2001"_s, u"2003"_s, u"2002"_s}
+                               << QStringList{RibbonK, RibbonRK, RibbonK} << black << redBlack;
+    }
+    void theRibbonIdentifiersDecideTheSkus()
+    {
+        QFETCH(QStringList, ids);
+        m_database->setRibbonIds({QStringLiteral("2003")});
+        QCOMPARE(m_database->supplyRibbonSKUs(), QStringList{RibbonRK});
+        m_database->setRibbonIds(ids);
+        QTEST(m_database->supplyRibbonSKUs(), "skus");
+        QTEST(m_database->supplyRibbon1RGBs(), "rgbs1");
+        QTEST(m_database->supplyRibbon2RGBs(), "rgbs2");
+    }
+
+    void whatIsLoadedOutlastsASetup()
+    {
+        VXSupplyDatabase database;
+        database.setSupplyId(TapeId);
+        database.setRibbonIds({QStringLiteral("2001")});
+        QCOMPARE(database.supplySKU(), QString()); // loaded, but of no known kind
+        database.setup(path(), QStringLiteral("late"));
+        QCOMPARE(database.supplySKU(), Tape);
+        QCOMPARE(database.supplyRibbonSKUs(), QStringList{RibbonK});
+    }
+
+    void theTypeIndexIsThePlaceInTheModelsList_data()
+    {
+        QTest::addColumn<QString>("printer");
+        QTest::addColumn<int>("tape");
+        QTest::addColumn<int>("label");
+
+        QTest::newRow("a model") << "Stratamark AlderMax" << 1 << 0;
+        QTest::newRow("a model within a name") << "warehouse aldermax (Copy 2)" << 1 << 0;
+        QTest::newRow("a model that begins another's name") << "Stratamark Alder" << -1 << 0;
+        QTest::newRow("no model") << "Label printer" << 0 << 1;
+        QTest::newRow("no particular printer") << "-" << 0 << 1;
+        QTest::newRow("no name") << "" << 0 << 1;
+    }
+    void theTypeIndexIsThePlaceInTheModelsList()
+    {
+        QFETCH(QString, printer);
+        QTEST(m_database->supplyTypeIndex(Tape, printer), "tape");
+        QTEST(m_database->supplyTypeIndex(Label, printer), "label");
+        QCOMPARE(m_database->supplyTypeIndex(Unknown, printer), -1);
+    }
+
+    void noFileNoAnswers_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("isThere");
+
+        QTest::newRow("missing") << QByteArray() << false;
+        QTest::newRow("empty") << QByteArray() << true;
+        QTest::newRow("short") << QByteArray("SQLite format 3\0", 16) << true;
+        QTest::newRow("text") << QByteArray("sku,colour\n").repeated(100) << true;
+        QTest::newRow("header only")
+            << (QByteArray("SQLite format 3\0", 16) + QByteArray(84, '\0')) << true;
+    }
+    void noFileNoAnswers()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, isThere);
+        const QString strange = m_folder->filePath(QStringLiteral("strange.db"));
+        if (isThere)
+            writeFile(strange, content);
+        m_database->setup(strange, Connection);
+        QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
+        QVERIFY(holdsNothing(*m_database));
+        QCOMPARE(QFile::exists(strange), isThere);
+        if (isThere)
+            QCOMPARE(readFile(strange), content);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), isThere ? 2 : 1);
+    }
+
+    void aFolderIsNoDatabase()
+    {
+        m_database->setup(m_folder->path(), Connection);
+        QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
+        m_database->setup(QString(), Connection);
+        QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
+        m_database->setup(QStringLiteral(":memory:"), Connection);
+        QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
+    }
+
+    void aStrangeDatabaseIsLeftAlone_data()
+    {
+        QTest::addColumn<QByteArray>("statement");
+
+        QTest::newRow("of another application") << QByteArray("PRAGMA application_id = 7");
+        QTest::newRow("newer") << QByteArray("PRAGMA user_version = 2");
+        QTest::newRow("of no version") << QByteArray("PRAGMA user_version = 0");
+    }
+    void aStrangeDatabaseIsLeftAlone()
+    {
+        QFETCH(QByteArray, statement);
+        QVERIFY(Other(path()).run(statement.constData()));
+        m_database->setup(path(), Connection);
+        QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
+        QVERIFY(holdsNothing(*m_database));
+    }
+
+    // Reading one would leave two files beside it.
+    void aDatabaseWithAWriteAheadLogIsLeftAlone()
+    {
+        m_database.reset();
+        QVERIFY(Other(path()).run("PRAGMA journal_mode = WAL"));
+        m_database = std::make_unique<VXSupplyDatabase>();
+        m_database->setup(path(), Connection);
+        QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
+    }
+
+    void aMissingTableIsSurvived()
+    {
+        QVERIFY(Other(path()).run("DROP TABLE print_setting"));
+        m_database->setup(path(), Connection);
+        QCOMPARE(m_database->supplyRibbonHeat(RibbonK, 1, Tape), -1);
+        QCOMPARE(m_database->supplyColorName(Tape), QStringLiteral("White"));
+    }
+
+    void damageIsSurvived_data()
+    {
+        QTest::addColumn<quint32>("seed");
+        for (quint32 seed = 1; seed <= 40; ++seed)
+            QTest::addRow("seed %u", seed) << seed;
+    }
+    // Whatever it answers, it answers: the header is left in order so that the rest is looked at.
+    void damageIsSurvived()
+    {
+        QFETCH(quint32, seed);
+        QRandomGenerator random(seed);
+        QByteArray bytes = readFile(path());
+        for (int i = 0; i < 200; ++i)
+            bytes[random.bounded(100, static_cast<int>(bytes.size()))] =
+                static_cast<char>(random.bounded(256));
+        if (seed % 4 == 0)
+            bytes.truncate(random.bounded(100, static_cast<int>(bytes.size())));
+        const QString damaged = m_folder->filePath(QStringLiteral("damaged.db"));
+        writeFile(damaged, bytes);
+        m_database->setup(damaged, Connection);
+        m_database->setSupplyId(TapeId);
+        m_database->setRibbonIds({QStringLiteral("2001"), QStringLiteral("2003")});
+        for (const QString& sku : {Tape, Label, Spare}) {
+            for (const QString& ribbon : {RibbonK, RibbonRK, RibbonT})
+                knowsNothing(*m_database, sku, ribbon);
+        }
+        holdsNothing(*m_database);
+        m_database->supplyRibbon1RGBs();
+        QCOMPARE(readFile(damaged), bytes);
+        QVERIFY(QSqlDatabase::contains(Connection)); // it was looked at
+
+        m_database->setup(path(), Connection);
+        QCOMPARE(m_database->supplySKU(), Tape);
+        QCOMPARE(m_database->supplyColorName(Tape), QStringLiteral("White"));
+    }
+
+    void readingLeavesNoTrace()
+    {
+        const QByteArray before = readFile(path());
+        QVERIFY(!knowsNothing(*m_database, Tape, RibbonK));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
+        m_database.reset();
+        QCOMPARE(readFile(path()), before);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
+    }
+
+    void readsAFileThatMayNotBeWritten()
+    {
+        QVERIFY(QFile::setPermissions(path(), QFileDevice::ReadOwner));
+        m_database->setup(path(), Connection);
+        QCOMPARE(m_database->supplyColorName(Tape), QStringLiteral("White"));
+        m_database.reset();
+        QVERIFY(QFile::setPermissions(path(), QFileDevice::ReadOwner | QFileDevice::WriteOwner));
+    }
+
+    // Also shows that no lock is left on a file that was read from.
+    void aChangedFileIsNoticedAtTheNextSetup()
+    {
+        QCOMPARE(m_database->supplyColorRGB(Tape), 0xFFFFFF);
+        QCOMPARE(m_database->supplySKUList().size(), 3);
+        {
+            const Other other(path());
+            QVERIFY(other.run("UPDATE colour SET rgb = 1 WHERE key = 'white'"));
+            QVERIFY(other.run("DELETE FROM supply WHERE sku = 'SPARE-1'"));
+        }
+        QCOMPARE(m_database->supplyColorRGB(Tape), 0xFFFFFF);
+        QCOMPARE(m_database->supplySKUList().size(), 3);
+        m_database->setup(path(), Connection);
+        QCOMPARE(m_database->supplyColorRGB(Tape), 1);
+        QCOMPARE(m_database->supplySKUList().size(), 2);
+    }
+
+    void aFileThatIsGoneIsNoticedAtTheNextSetup()
+    {
+        QCOMPARE(m_database->supplyColorRGB(Tape), 0xFFFFFF);
+        m_database->setup(m_folder->filePath(QStringLiteral("gone.db")), Connection);
+        QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
+        QVERIFY(!QSqlDatabase::contains(Connection));
+        m_database->setup(path(), Connection);
+        QCOMPARE(m_database->supplyColorRGB(Tape), 0xFFFFFF);
+    }
+
+    // What could not be had must not be taken for what is not there.
+    void aLockedFileIsAskedAgain()
+    {
+        const Other other(path());
+        QVERIFY(other.run("BEGIN EXCLUSIVE"));
+        QCOMPARE(m_database->supplyColorRGB(Tape), -1);
+        QVERIFY(other.run("ROLLBACK"));
+        QCOMPARE(m_database->supplyColorRGB(Tape), 0xFFFFFF);
+    }
+
+    void objectsHaveNothingInCommon()
+    {
+        VXSupplyDatabase german;
+        german.setup(path(), QStringLiteral("second"));
+        german.setLanguageId(German);
+        german.setRibbonIds({QStringLiteral("2003")});
+        m_database->setSupplyId(TapeId);
+        {
+            VXSupplyDatabase empty;
+            empty.setup(m_folder->filePath(QStringLiteral("none.db")), QStringLiteral("third"));
+            QCOMPARE(empty.supplyColorName(Tape), QString());
+        }
+        QCOMPARE(german.supplyColorName(Tape), QStringLiteral("Weiß"));
+        QCOMPARE(m_database->supplyColorName(Tape), QStringLiteral("White"));
+        QCOMPARE(german.supplySKU(), QStringLiteral("-1"));
+        QCOMPARE(m_database->supplySKU(), Tape);
+        QCOMPARE(m_database->supplyRibbonSKUs(), QStringList());
+        german.setup(QString(), QStringLiteral("second"));
+        QCOMPARE(m_database->supplyColorName(Label), QStringLiteral("Teal"));
+    }
+
+    void oneConnectionNameServesTwoObjects()
+    {
+        auto second = std::make_unique<VXSupplyDatabase>();
+        second->setup(path(), Connection);
+        QCOMPARE(second->supplyColorName(Tape), QStringLiteral("White"));
+        QCOMPARE(m_database->supplyColorName(Tape), QStringLiteral("White"));
+        second.reset();
+        QCOMPARE(m_database->supplyColorName(Label), QStringLiteral("Teal"));
+        QCOMPARE(QSqlDatabase::connectionNames(), QStringList{Connection});
+    }
+
+    // Each answer beside the one that a statement of the test's own has, for everything there is.
+    void agreesWithTheSampleDatabase()
+    {
+        const QString sample = m_folder->filePath(QStringLiteral("sample.db"));
+        writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), sample);
+        m_database->setup(sample, Connection);
+        m_database->setLanguageId(Japanese);
+        const Other other(sample);
+
+        QSqlQuery supplies(other.database());
+        QVERIFY(supplies.exec(QStringLiteral(
+            "SELECT s.sku, s.width, s.length, c.rgb, t.text FROM supply s, colour c, translation t "
+            "WHERE c.id = s.colour_id AND t.name_id = c.name_id AND t.language_id = 4")));
+        int supplyCount = 0;
+        for (; supplies.next(); ++supplyCount) {
+            const QString sku = supplies.value(0).toString();
+            QCOMPARE(m_database->supplyWidth(sku), supplies.value(1).toDouble());
+            QCOMPARE(m_database->supplyLength(sku), supplies.value(2).toDouble());
+            QCOMPARE(m_database->supplyColorRGB(sku), supplies.value(3).toInt());
+            QCOMPARE(m_database->supplyColorName(sku), supplies.value(4).toString());
+        }
+        QCOMPARE(m_database->supplySKUList().size(), supplyCount);
+        QVERIFY(supplyCount >= 40);
+
+        QSqlQuery settings(other.database());
+        QVERIFY(settings.exec(QStringLiteral("SELECT * FROM print_setting")));
+        int settingCount = 0;
+        for (; settings.next(); ++settingCount) {
+            const QString ribbon = settings.value(0).toString();
+            const int panel = settings.value(1).toInt();
+            const QString sku = settings.value(2).toString();
+            QCOMPARE(m_database->supplyRibbonHeat(ribbon, panel, sku), settings.value(3).toInt());
+            QCOMPARE(m_database->supplyRibbonHeatOffset(ribbon, panel, sku),
+                     settings.value(4).toInt());
+            QCOMPARE(m_database->supplyRibbonMaxSpeed(ribbon, panel, sku),
+                     settings.value(5).toInt());
+            QCOMPARE(m_database->supplyRibbonTension(ribbon, panel, sku),
+                     settings.value(6).toInt());
+        }
+        QVERIFY(settingCount > 0);
+        QVERIFY(m_database->supplyRibbonSKUList().size() >= 20);
+    }
+
+    void keepsNoMoreAnswersThanItMay()
+    {
+        const Other other(path());
+        KeptQuery<int, QString> query("SELECT english FROM name WHERE id = ?", readText, 2);
+        const auto answer = [&](int id) {
+            return query.answer(other.database(), id, id);
+        };
+        QCOMPARE(answer(1), QStringLiteral("White"));
+        QCOMPARE(answer(2), QStringLiteral("Red"));
+        QVERIFY(other.run("UPDATE name SET english = 'new'"));
+        QCOMPARE(answer(1), QStringLiteral("White"));
+        QCOMPARE(answer(3), QStringLiteral("new")); // in the place of 2, used before 1 was
+        QCOMPARE(answer(1), QStringLiteral("White"));
+        QCOMPARE(answer(2), QStringLiteral("new"));
+        query.clear();
+        QCOMPARE(answer(1), QStringLiteral("new"));
+    }
+
+    void doesNotKeepAnAnswerThatIsTooLarge()
+    {
+        const Other other(path());
+        KeptQuery<int, QString> query("SELECT english FROM name WHERE id = ?", readText, 4,
+                                      [](const QString& text) { return text.size(); });
+        const auto answer = [&](int id) {
+            return query.answer(other.database(), id, id);
+        };
+        QCOMPARE(answer(1), QStringLiteral("White"));
+        QCOMPARE(answer(2), QStringLiteral("Red"));
+        QVERIFY(other.run("UPDATE name SET english = 'new'"));
+        QCOMPARE(answer(2), QStringLiteral("Red"));
+        QCOMPARE(answer(1), QStringLiteral("new"));
+    }
+
+    void doesNotKeepAFailure()
+    {
+        const Other other(path());
+        KeptQuery<int, QString> query("SELECT text FROM remark WHERE id = ?", readText, 2);
+        QCOMPARE(query.answer(other.database(), 1, 1), QString());
+        QVERIFY(other.run("CREATE TABLE remark (id INTEGER PRIMARY KEY, text TEXT)"));
+        QVERIFY(other.run("INSERT INTO remark VALUES (1, 'here')"));
+        QCOMPARE(query.answer(other.database(), 1, 1), QStringLiteral("here"));
+    }
+
+private:
+    static void readText(const QSqlQuery& row, QString& text) { text = row.value(0).toString(); }
+
+    QString path() const { return m_folder->filePath(QStringLiteral("roll.db")); }
+
+    static QByteArray readFile(const QString& name)
+    {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    static void writeFile(const QString& name, const QByteArray& content)
+    {
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), content.size());
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<VXSupplyDatabase> m_database;
+};
+
+QTEST_GUILESS_MAIN(VXSupplyDatabaseTest)
+#include "tst_vxsupplydb.moc"
