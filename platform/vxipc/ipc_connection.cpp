@@ -17,7 +17,7 @@ constexpr auto TurnTime = 250us;
 /// Reading a line up to here takes a small part of a turn.
 constexpr qsizetype LightLine = qsizetype{16} << 10;
 constexpr qsizetype ReadChunk = qsizetype{64} << 10;
-/// How long a client that is refused has to take the answer that says so.
+/// How long a client that is refused has to take the answer that says so, and to close.
 constexpr auto Farewell = 1s;
 
 } // namespace
@@ -100,8 +100,12 @@ void IpcConnection::work(Load load)
 bool IpcConnection::fetchLine()
 {
     while (!m_received.hasLine() && m_received.lineSize() <= JsonRpc::MaximumLine) {
-        if (m_isRefused || m_socket->bytesAvailable() == 0)
+        if (m_socket->bytesAvailable() == 0)
             return false;
+        if (m_isRefused) {
+            m_socket->read(ReadChunk);
+            continue;
+        }
         m_received.append(m_socket->read(ReadChunk));
     }
     if (m_received.lineSize() <= JsonRpc::MaximumLine)
@@ -192,8 +196,8 @@ void IpcConnection::refuse(const JsonRpc::Error& error)
     m_isRefused = true;
     write(JsonRpc::line(JsonRpc::failure(QJsonValue::Null, error)));
     m_socket->flush();
+    // Not at once: the answer is lost to a client whose sending fails before it reads.
     QTimer::singleShot(Farewell, m_socket, &QLocalSocket::abort);
-    m_socket->disconnectFromServer();
 }
 
 void IpcConnection::dropWork()

@@ -29,8 +29,10 @@ public:
     /// what a request called.
     void takeTurn();
 
-    /// Ends the connection with an answer that says why.
+    /// Answers why nothing more of the client's is done, and ends the connection soon after unless
+    /// the client does.
     void refuse(const JsonRpc::Error& error);
+    bool isRefused() const { return m_isRefused; }
 
 Q_SIGNALS:
     /// There is more to do than the client's turn had time for.

@@ -10,6 +10,7 @@
 #include <QtCore/QLoggingCategory>
 #include <QtNetwork/QLocalSocket>
 
+#include <algorithm>
 #include <chrono>
 
 using namespace std::chrono_literals;
@@ -20,6 +21,8 @@ namespace {
 
 /// A living endpoint takes a connection at once, even when its process is busy.
 constexpr auto ProbeTime = 250ms;
+/// How many clients over the limit may be about to read that they are; any more are just closed.
+constexpr qsizetype MaximumRefused = 64;
 /// Taking a name is a matter of a millisecond.
 constexpr auto LockTime = 500ms;
 
@@ -97,13 +100,20 @@ void IpcPublisher::onNewConnection()
     if (!m_dispatcher)
         m_dispatcher = std::make_unique<IpcDispatcher>(m_object, m_base, m_name);
     while (QLocalSocket* socket = m_server.nextPendingConnection()) {
+        if (m_connections.size() >= JsonRpc::MaximumClients + MaximumRefused) {
+            delete socket;
+            continue;
+        }
         auto* connection = new IpcConnection(socket, *m_dispatcher, this);
         connect(connection, &IpcConnection::turnWanted, this,
                 [this, connection] { onTurnWanted(connection); });
         connect(connection, &IpcConnection::finished, this,
                 [this, connection] { onFinished(connection); });
+        const auto served =
+            std::count_if(m_connections.cbegin(), m_connections.cend(),
+                          [](const IpcConnection* each) { return !each->isRefused(); });
         m_connections.append(connection);
-        if (m_connections.size() > JsonRpc::MaximumClients) {
+        if (served >= JsonRpc::MaximumClients) {
             connection->refuse({JsonRpc::TooManyClients,
                                 QStringLiteral("Too many clients: at most %1 are served at a time")
                                     .arg(JsonRpc::MaximumClients),

@@ -66,9 +66,9 @@ template <typename Integer>
 Integer integerFromText(const QString& text, bool* ok)
 {
     if constexpr (std::is_signed_v<Integer>)
-        return text.toLongLong(ok);
+        return static_cast<Integer>(text.toLongLong(ok));
     else
-        return text.toULongLong(ok);
+        return static_cast<Integer>(text.toULongLong(ok));
 }
 
 /// Most languages' JSON numbers end at 53 bits, so a 64-bit one may also come as decimal text.
@@ -282,8 +282,15 @@ template <typename Integer>
 constexpr Kind Narrow = {integerFromJson<Integer>, integerToJson<Integer>, integerSchema};
 template <typename Integer>
 constexpr Kind Wide = {wideIntegerFromJson<Integer>, wideIntegerToJson<Integer>, wideIntegerSchema};
+/// A long is as wide as the system makes it.
 template <typename Integer>
-constexpr Kind Native = sizeof(Integer) < sizeof(qint64) ? Narrow<Integer> : Wide<Integer>;
+constexpr const Kind& nativeKind()
+{
+    if constexpr (sizeof(Integer) < sizeof(qint64))
+        return Narrow<Integer>;
+    else
+        return Wide<Integer>;
+}
 template <typename Real>
 constexpr Kind Floating = {realFromJson<Real>, realToJson<Real>, realSchema};
 
@@ -295,8 +302,8 @@ const Kind* findKind(int typeId)
         {QMetaType::UShort, Narrow<ushort>},
         {QMetaType::Int, Narrow<int>},
         {QMetaType::UInt, Narrow<uint>},
-        {QMetaType::Long, Native<long>},
-        {QMetaType::ULong, Native<ulong>},
+        {QMetaType::Long, nativeKind<long>()},
+        {QMetaType::ULong, nativeKind<ulong>()},
         {QMetaType::LongLong, Wide<qlonglong>},
         {QMetaType::ULongLong, Wide<qulonglong>},
         {QMetaType::Float, Floating<float>},
@@ -330,12 +337,13 @@ Converted recordFromJson(const QJsonObject& json, QMetaType type)
     for (auto member = json.constBegin(); member != json.constEnd(); ++member) {
         const QMetaProperty target = property(*type.metaObject(), member.key());
         if (!target.isValid())
-            return unfitting(QStringLiteral("a %1, which has no member \"%2\"")
+            return unfitting(QStringLiteral("a %1 (it has no member \"%2\")")
                                  .arg(QLatin1String(type.name()), member.key()));
         const Converted converted = fromJson(member.value(), target.metaType());
         if (converted.fit == Fit::None)
             return unfitting(
-                QStringLiteral("%1 as member \"%2\"").arg(converted.expected, member.key()));
+                QStringLiteral("a %1 (with %2 as its member \"%3\")")
+                    .arg(QLatin1String(type.name()), converted.expected, member.key()));
         target.writeOnGadget(record.data(), converted.value);
     }
     return fitting(record);

@@ -5,6 +5,31 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QThread>
 
+QString TestService::overloaded(int)
+{
+    return QStringLiteral("int");
+}
+
+QString TestService::overloaded(double)
+{
+    return QStringLiteral("double");
+}
+
+QString TestService::overloaded(QString)
+{
+    return QStringLiteral("text");
+}
+
+QString TestService::overloaded(int, qulonglong)
+{
+    return QStringLiteral("int, wide");
+}
+
+QString TestService::overloaded(int, QString)
+{
+    return QStringLiteral("int, text");
+}
+
 void TestService::block(int milliseconds)
 {
     QThread::msleep(static_cast<unsigned long>(milliseconds));

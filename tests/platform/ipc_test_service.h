@@ -12,6 +12,7 @@
 #include <QtCore/QVariant>
 
 #include <algorithm>
+#include <limits>
 
 /// A record with a member of each kind.
 class TestRecord
@@ -72,6 +73,7 @@ public Q_SLOTS:
     qulonglong unsignedWideEcho(qulonglong value) { return value; }
     float single(float value) { return value; }
     double half(double value) { return value / 2; }
+    double notANumber() { return std::numeric_limits<double>::infinity(); }
     QByteArray reversed(QByteArray bytes)
     {
         std::reverse(bytes.begin(), bytes.end());
@@ -88,11 +90,11 @@ public Q_SLOTS:
     QVariant anyEcho(QVariant value) { return value; }
     TestRecord recordEcho(TestRecord record) { return record; }
 
-    QString overloaded(int) { return QStringLiteral("int"); }
-    QString overloaded(double) { return QStringLiteral("double"); }
-    QString overloaded(QString) { return QStringLiteral("text"); }
-    QString overloaded(int, qulonglong) { return QStringLiteral("int, wide"); }
-    QString overloaded(int, QString) { return QStringLiteral("int, text"); }
+    QString overloaded(int value);
+    QString overloaded(double value);
+    QString overloaded(QString value);
+    QString overloaded(int value, qulonglong more);
+    QString overloaded(int value, QString label);
 
     void note(QString entry) { log.append(entry); }
     QStringList notes() { return log; }
@@ -103,9 +105,12 @@ public Q_SLOTS:
     {
         QEventLoop loop;
         connect(this, &TestService::released, &loop, &QEventLoop::quit);
+        m_isWaiting = true;
         loop.exec();
+        m_isWaiting = false;
         return QStringLiteral("waited");
     }
+    bool isWaiting() { return m_isWaiting; }
     void release() { Q_EMIT released(); }
     /// Keeps the thread for a while, as a slot that computes does.
     void block(int milliseconds);
@@ -125,4 +130,7 @@ private Q_SLOTS:
 
 public:
     Q_INVOKABLE void invokableSecret() { isSecretTold = true; }
+
+private:
+    bool m_isWaiting = false;
 };

@@ -1,0 +1,837 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "ipc_host_process.h"
+#include "ipc_raw_client.h"
+#include "ipc_test_service.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QJsonArray>
+#include <QtCore/QPointer>
+#include <QtCore/QScopeGuard>
+#include <QtCore/QThread>
+#include <QtTest/QTest>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr qsizetype Mebibyte = qsizetype{1} << 20;
+
+QJsonValue parsed(const QByteArray& json)
+{
+    return QJsonDocument::fromJson('[' + json + ']').array().first();
+}
+
+int errorCode(const QJsonObject& answer)
+{
+    return answer[QStringLiteral("error")][QStringLiteral("code")].toInt();
+}
+
+QString errorMessage(const QJsonObject& answer)
+{
+    return answer[QStringLiteral("error")][QStringLiteral("message")].toString();
+}
+
+QJsonObject object(const QByteArray& line)
+{
+    return QJsonDocument::fromJson(line).object();
+}
+
+/// A request of exactly `size` bytes, without the line end.
+QByteArray requestOfSize(qsizetype size)
+{
+    const QByteArray begin = R"({"jsonrpc":"2.0","id":1,"method":"note","params":[")";
+    const QByteArray end = R"("]})";
+    return begin + QByteArray(size - begin.size() - end.size(), 'x') + end;
+}
+
+} // namespace
+
+class tst_VXIPCServer : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void carriesValues_data();
+    void carriesValues();
+    void carriesNoNumberThatJsonLacks();
+    void choosesTheOverload_data();
+    void choosesTheOverload();
+    void refusesBadParameters_data();
+    void refusesBadParameters();
+    void refusesBadRequests_data();
+    void refusesBadRequests();
+    void answersUnderTheId_data();
+    void answersUnderTheId();
+    void hidesWhatIsNotAnEndpointsOwn_data();
+    void hidesWhatIsNotAnEndpointsOwn();
+    void describesItsMethods();
+    void describesOverloadsAndDefaults();
+    void describesRecords();
+
+    void answersABatch();
+    void answersNothingToABatchOfNotifications();
+    void refusesWhatIsNoBatch();
+    void answersNoNotification();
+    void readsLinesAsTheyCome();
+
+    void isPublishedWhenTheEventLoopRuns();
+    void isPublishedOnItsThread();
+    void addsTheProcessIdToATakenName();
+    void addsTheProcessIdWhenAnotherProcessHoldsTheName();
+    void takesTheNameOfADeadProcess();
+    void leavesNoSocketBehind();
+    void letsOnlyTheUserIn();
+
+    void readsALineOfTheGreatestLength();
+    void refusesALineThatIsTooLong_data();
+    void refusesALineThatIsTooLong();
+    void refusesTheClientThatIsOneTooMany();
+    void refusesAnAnswerThatIsTooLong();
+    void closesAClientThatTakesNoAnswers();
+    void closesAClientWhoseBatchAsksForTooMuch();
+    void outlivesAClientThatDies_data();
+    void outlivesAClientThatDies();
+    void doesWhatAClientSentBeforeItLeft();
+    void servesOthersDuringALongBatch();
+    void takesCallsDuringACall();
+    void mayBeDestroyedByACall();
+
+private:
+    QString serverName();
+
+    std::unique_ptr<TestService> m_service;
+};
+
+void tst_VXIPCServer::init()
+{
+    m_service = std::make_unique<TestService>(newServerType());
+    QTRY_VERIFY(!m_service->serverName().isEmpty());
+}
+
+void tst_VXIPCServer::cleanup()
+{
+    m_service.reset();
+}
+
+QString tst_VXIPCServer::serverName()
+{
+    return m_service->serverName();
+}
+
+void tst_VXIPCServer::carriesValues_data()
+{
+    QTest::addColumn<QByteArray>("method");
+    QTest::addColumn<QByteArray>("parameters");
+    QTest::addColumn<QByteArray>("result");
+
+    const auto row = [](const char* name, const char* method, const char* parameters,
+                        const char* result) {
+        QTest::newRow(name) << QByteArray(method) << QByteArray(parameters) << QByteArray(result);
+    };
+    row("no result", "note", R"(["x"])", "null");
+    row("by position", "scale", "[3,4]", "12");
+    row("by name", "scale", R"({"factor":4,"value":3})", "12");
+    row("default, by position", "scale", "[3]", "30");
+    row("default, by name", "scale", R"({"value":3})", "30");
+    row("bool", "invert", "[true]", "false");
+    row("text", "echo", R"(["a\"\n\u00e4\ud83d\ude00"])", R"("a\"\n\u00e4\ud83d\ude00")");
+    row("empty text", "echo", R"([""])", R"("")");
+    row("text that looks like a number", "echo", R"(["12"])", R"("12")");
+    row("least int", "scale", "[-2147483648,1]", "-2147483648");
+    row("greatest int", "scale", "[2147483647,1]", "2147483647");
+    row("int written as a fraction", "scale", "[3.0,1e1]", "30");
+    row("greatest uint", "unsignedEcho", "[4294967295]", "4294967295");
+    row("wide", "wideEcho", "[-9007199254740991]", "-9007199254740991");
+    row("wide as text", "wideEcho", R"(["-5"])", "-5");
+    row("greatest wide", "wideEcho", "[9223372036854775807]", R"("9223372036854775807")");
+    row("least wide as text", "wideEcho", R"(["-9223372036854775808"])",
+        R"("-9223372036854775808")");
+    row("wide beyond a double's reach", "wideEcho", "[9007199254740993]", R"("9007199254740993")");
+    row("greatest unsigned wide", "unsignedWideEcho", R"(["18446744073709551615"])",
+        R"("18446744073709551615")");
+    row("float", "single", "[0.5]", "0.5");
+    row("whole number as float", "single", "[16777216]", "16777216");
+    row("double", "half", "[0.3]", "0.15");
+    row("bytes", "reversed", R"(["AAEC"])", R"("AgEA")");
+    row("no bytes", "reversed", R"([""])", R"("")");
+    row("texts", "sorted", R"([["b","a",""]])", R"(["","a","b"])");
+    row("no texts", "sorted", "[[]]", "[]");
+    row("list", "listEcho", R"([[1,"a",null,[2.5],{"k":true}]])",
+        R"([1,"a",null,[2.5],{"k":true}])");
+    row("hash", "hashEcho", R"([{"a":1,"b":["c"]}])", R"({"a":1,"b":["c"]})");
+    row("map", "mapEcho", R"([{"a":{"b":null}}])", R"({"a":{"b":null}})");
+    row("any: number", "anyEcho", "[7]", "7");
+    row("any: object", "anyEcho", R"([{"a":[1]}])", R"({"a":[1]})");
+    row("any: null", "anyEcho", "[null]", "null");
+    row("record, of its defaults", "recordEcho", "[{}]",
+        R"({"name":"","count":-1,"width":-1,"isLoaded":false,"image":"","panels":[],"heats":[]})");
+    row("record", "recordEcho",
+        R"([{"name":"n","count":2,"width":1.5,"isLoaded":true,"image":"AAEC","panels":["p"],"heats":[1]}])",
+        R"({"name":"n","count":2,"width":1.5,"isLoaded":true,"image":"AAEC","panels":["p"],"heats":[1]})");
+}
+
+void tst_VXIPCServer::carriesValues()
+{
+    QFETCH(const QByteArray, method);
+    QFETCH(const QByteArray, parameters);
+    QFETCH(const QByteArray, result);
+
+    RawClient client(serverName());
+    const QJsonObject answer = client.call(method, parameters);
+    QCOMPARE(answer, (QJsonObject{{QStringLiteral("jsonrpc"), QStringLiteral("2.0")},
+                                  {QStringLiteral("id"), 1},
+                                  {QStringLiteral("result"), parsed(result)}}));
+}
+
+void tst_VXIPCServer::carriesNoNumberThatJsonLacks()
+{
+    // Overflows to infinity, which JSON has no number for.
+    RawClient client(serverName());
+    const QJsonObject answer = client.call("notANumber");
+    QVERIFY(answer.contains(QStringLiteral("result")));
+    QCOMPARE(answer[QStringLiteral("result")], QJsonValue(QJsonValue::Null));
+}
+
+void tst_VXIPCServer::choosesTheOverload_data()
+{
+    QTest::addColumn<QByteArray>("parameters");
+    QTest::addColumn<QString>("chosen");
+
+    QTest::newRow("whole number") << QByteArray("[1]") << QStringLiteral("int");
+    QTest::newRow("number that no int holds")
+        << QByteArray("[3000000000]") << QStringLiteral("double");
+    QTest::newRow("fraction") << QByteArray("[1.5]") << QStringLiteral("double");
+    QTest::newRow("text") << QByteArray(R"(["1"])") << QStringLiteral("text");
+    QTest::newRow("two numbers") << QByteArray("[1,2]") << QStringLiteral("int, wide");
+    QTest::newRow("number and digits") << QByteArray(R"([1,"2"])") << QStringLiteral("int, text");
+    QTest::newRow("number and text") << QByteArray(R"([1,"a"])") << QStringLiteral("int, text");
+    QTest::newRow("by names, number")
+        << QByteArray(R"({"value":1,"more":2})") << QStringLiteral("int, wide");
+    QTest::newRow("by names, text")
+        << QByteArray(R"({"value":1,"label":"2"})") << QStringLiteral("int, text");
+}
+
+void tst_VXIPCServer::choosesTheOverload()
+{
+    QFETCH(const QByteArray, parameters);
+    QFETCH(const QString, chosen);
+
+    RawClient client(serverName());
+    QCOMPARE(client.call("overloaded", parameters)[QStringLiteral("result")].toString(), chosen);
+}
+
+void tst_VXIPCServer::refusesBadParameters_data()
+{
+    QTest::addColumn<QByteArray>("method");
+    QTest::addColumn<QByteArray>("parameters");
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<QString>("complaint");
+
+    const auto row = [](const char* name, const char* method, const char* parameters,
+                        const char* argument, const char* complaint) {
+        QTest::newRow(name) << QByteArray(method) << QByteArray(parameters)
+                            << QString::fromLatin1(argument) << QString::fromLatin1(complaint);
+    };
+    row("too few", "echo", "[]", "", "expected 1 arguments (text), got 0");
+    row("too many", "scale", "[1,2,3]", "", "expected 1 to 2 arguments (value, factor), got 3");
+    row("missing name", "scale", R"({"factor":1})", "value", "argument \"value\" is missing");
+    row("unknown name", "scale", R"({"value":1,"faktor":2})", "faktor",
+        "there is no argument \"faktor\"");
+    row("number for text", "echo", "[5]", "text", "argument 1 (text): expected a text, got 5");
+    row("null for text", "echo", "[null]", "text", "expected a text, got null");
+    row("text for int", "scale", R"([1,"2"])", "factor",
+        "argument 2 (factor): expected a whole number from -2147483648 to 2147483647, got a text");
+    row("fraction for int", "scale", "[1.5]", "value", "got 1.5");
+    row("int too great", "scale", "[2147483648]", "value", "got 2147483648");
+    row("negative uint", "unsignedEcho", "[-1]", "value",
+        "expected a whole number from 0 to 4294967295, got -1");
+    row("wide too great", "wideEcho", R"(["9223372036854775808"])", "value", "got a text");
+    row("wide with garbage", "wideEcho", R"(["5x"])", "value", "got a text");
+    row("unsigned wide too great for a number", "unsignedWideEcho", "[18446744073709551615]",
+        "value", "beyond 53 bits as decimal text");
+    row("number for bool", "invert", "[1]", "value", "expected true or false, got 1");
+    row("float too great", "single", "[1e39]", "value", "expected a number");
+    row("text for double", "half", R"(["1"])", "value", "expected a number, got a text");
+    row("no base64", "reversed", R"(["A!"])", "bytes", "expected bytes as base64 text");
+    row("number for bytes", "reversed", "[1]", "bytes", "expected bytes as base64 text, got 1");
+    row("text for texts", "sorted", R"(["a"])", "texts", "expected a list of texts, got a text");
+    row("number among texts", "sorted", R"([["a",1]])", "texts", "expected a list of texts");
+    row("object for list", "listEcho", "[{}]", "list", "expected a list, got an object");
+    row("list for hash", "hashEcho", "[[]]", "hash", "expected an object, got a list");
+    row("text for record", "recordEcho", R"(["a"])", "record",
+        "expected an object with the members of TestRecord, got a text");
+    row("unknown member", "recordEcho", R"([{"nme":"a"}])", "record", "it has no member \"nme\"");
+    row("bad member", "recordEcho", R"([{"name":1}])", "record",
+        "with a text as its member \"name\"");
+    row("no overload of that count", "overloaded", "[1,2,3]", "", "expected 1 arguments");
+    row("no overload of these types", "overloaded", "[true]", "value",
+        "expected a whole number from -2147483648 to 2147483647, got true");
+}
+
+void tst_VXIPCServer::refusesBadParameters()
+{
+    QFETCH(const QByteArray, method);
+    QFETCH(const QByteArray, parameters);
+    QFETCH(const QString, argument);
+    QFETCH(const QString, complaint);
+
+    RawClient client(serverName());
+    const QJsonObject answer = client.call(method, parameters);
+    QCOMPARE(errorCode(answer), -32602);
+    QVERIFY2(errorMessage(answer).startsWith(QStringLiteral("Invalid params: ")),
+             qPrintable(errorMessage(answer)));
+    QVERIFY2(errorMessage(answer).contains(complaint), qPrintable(errorMessage(answer)));
+    QCOMPARE(answer[QStringLiteral("error")][QStringLiteral("data")][QStringLiteral("argument")]
+                 .toString(),
+             argument);
+    // The client is as welcome as before.
+    QCOMPARE(client.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
+}
+
+void tst_VXIPCServer::refusesBadRequests_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("id");
+
+    const auto row = [](const char* name, const QByteArray& line, int code, const char* id) {
+        QTest::newRow(name) << line << code << QByteArray(id);
+    };
+    constexpr int ParseError = -32700;
+    constexpr int InvalidRequest = -32600;
+    row("no JSON", "hello", ParseError, "null");
+    row("half an object", R"({"jsonrpc":"2.0","id":1)", ParseError, "null");
+    row("two objects", R"({"jsonrpc":"2.0"}{})", ParseError, "null");
+    row("no UTF-8", "{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"\xff\xfe\"}", ParseError, "null");
+    row("a zero byte", QByteArray("{\0}", 3), ParseError, "null");
+    row("a number", "1", ParseError, "null");
+    row("nested without end", QByteArray(5000, '['), ParseError, "null");
+    row("nested deeply", QByteArray(5000, '[') + QByteArray(5000, ']'), ParseError, "null");
+    row("empty object", "{}", InvalidRequest, "null");
+    row("no version", R"({"id":4,"method":"echo"})", InvalidRequest, "4");
+    row("other version", R"({"jsonrpc":"1.0","id":4,"method":"echo"})", InvalidRequest, "4");
+    row("version as number", R"({"jsonrpc":2.0,"id":4,"method":"echo"})", InvalidRequest, "4");
+    row("no method", R"({"jsonrpc":"2.0","id":"a"})", InvalidRequest, R"("a")");
+    row("method is a number", R"({"jsonrpc":"2.0","id":4,"method":1})", InvalidRequest, "4");
+    row("parameters are a text", R"({"jsonrpc":"2.0","id":4,"method":"echo","params":"a"})",
+        InvalidRequest, "4");
+    row("parameters are null", R"({"jsonrpc":"2.0","id":4,"method":"echo","params":null})",
+        InvalidRequest, "4");
+    row("id is an object", R"({"jsonrpc":"2.0","id":{},"method":"notes"})", InvalidRequest, "null");
+    row("id is true", R"({"jsonrpc":"2.0","id":true,"method":"notes"})", InvalidRequest, "null");
+    row("unknown method", R"({"jsonrpc":"2.0","id":4,"method":"nothing"})", -32601, "4");
+    row("other letter case", R"({"jsonrpc":"2.0","id":4,"method":"Echo"})", -32601, "4");
+    row("empty method", R"({"jsonrpc":"2.0","id":4,"method":""})", -32601, "4");
+    row("reserved method", R"({"jsonrpc":"2.0","id":4,"method":"rpc.other"})", -32601, "4");
+}
+
+void tst_VXIPCServer::refusesBadRequests()
+{
+    QFETCH(const QByteArray, line);
+    QFETCH(const int, code);
+    QFETCH(const QByteArray, id);
+
+    RawClient bystander(serverName());
+    RawClient client(serverName());
+    const QJsonObject answer = object(client.exchange(line));
+    QCOMPARE(errorCode(answer), code);
+    QCOMPARE(answer[QStringLiteral("id")], parsed(id));
+    QCOMPARE(answer[QStringLiteral("jsonrpc")].toString(), QStringLiteral("2.0"));
+    QVERIFY(!answer.contains(QStringLiteral("result")));
+    QVERIFY(!errorMessage(answer).isEmpty());
+
+    QCOMPARE(client.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
+    QCOMPARE(bystander.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
+}
+
+void tst_VXIPCServer::answersUnderTheId_data()
+{
+    QTest::addColumn<QByteArray>("id");
+
+    for (const char* id : {"0", "-7", "1.5", "9007199254740993", R"("")", R"("a-1")", "null"})
+        QTest::newRow(id) << QByteArray(id);
+}
+
+void tst_VXIPCServer::answersUnderTheId()
+{
+    QFETCH(const QByteArray, id);
+
+    RawClient client(serverName());
+    const QJsonObject answer = object(
+        client.exchange(R"({"jsonrpc":"2.0","method":"scale","params":[1,1],"id":)" + id + '}'));
+    QCOMPARE(answer[QStringLiteral("id")], parsed(id));
+    QCOMPARE(answer[QStringLiteral("result")].toInt(), 1);
+}
+
+void tst_VXIPCServer::hidesWhatIsNotAnEndpointsOwn_data()
+{
+    QTest::addColumn<QByteArray>("method");
+    QTest::addColumn<QByteArray>("parameters");
+
+    const auto row = [](const char* method, const char* parameters = "[]") {
+        QTest::newRow(method) << QByteArray(method) << QByteArray(parameters);
+    };
+    row("deleteLater");
+    row("destroyed");
+    row("objectNameChanged", R"(["a"])");
+    row("setObjectName", R"(["a"])");
+    row("objectName");
+    row("_q_reregisterTimers", "[null]");
+    row("serverName");
+    row("released");
+    row("protectedSecret");
+    row("privateSecret");
+    row("invokableSecret");
+    row("notACrossingType");
+    row("echo(QString)", R"(["a"])");
+}
+
+void tst_VXIPCServer::hidesWhatIsNotAnEndpointsOwn()
+{
+    QFETCH(const QByteArray, method);
+    QFETCH(const QByteArray, parameters);
+
+    const QPointer<TestService> service(m_service.get());
+    RawClient client(serverName());
+    QCOMPARE(errorCode(client.call(method, parameters)), -32601);
+    QCOMPARE(client.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
+    QVERIFY(service);
+    QVERIFY(!service->isSecretTold);
+    QVERIFY(service->objectName().isEmpty());
+}
+
+void tst_VXIPCServer::describesItsMethods()
+{
+    RawClient client(serverName());
+    const QJsonValue document = client.call("rpc.discover")[QStringLiteral("result")];
+    QVERIFY(document[QStringLiteral("openrpc")].isString());
+    QCOMPARE(document[QStringLiteral("info")][QStringLiteral("title")].toString(), serverName());
+    QCOMPARE(document[QStringLiteral("info")][QStringLiteral("x-process")].toInteger(),
+             QCoreApplication::applicationPid());
+
+    QStringList names;
+    for (const QJsonArray methods = document[QStringLiteral("methods")].toArray();
+         const QJsonValue& method : methods)
+        names.append(method[QStringLiteral("name")].toString());
+    const QStringList expected =
+        QStringLiteral("echo scale invert unsignedEcho wideEcho unsignedWideEcho single half "
+                       "notANumber reversed sorted listEcho hashEcho mapEcho anyEcho recordEcho "
+                       "overloaded overloaded overloaded overloaded overloaded note notes zeroes "
+                       "wait isWaiting release block destroy quit")
+            .split(QLatin1Char(' '));
+    QCOMPARE(names, expected);
+}
+
+void tst_VXIPCServer::describesOverloadsAndDefaults()
+{
+    RawClient client(serverName());
+    const QJsonArray methods =
+        client.call("rpc.discover")[QStringLiteral("result")][QStringLiteral("methods")].toArray();
+    const QJsonValue scale = methods.at(1);
+    QCOMPARE(scale, parsed(R"({"name":"scale","paramStructure":"either","params":[
+        {"name":"value","required":true,"schema":{"type":"integer"},"x-type":"int"},
+        {"name":"factor","required":false,"schema":{"type":"integer"},"x-type":"int"}],
+        "result":{"name":"result","schema":{"type":"integer"},"x-type":"int"}})"));
+
+    QStringList overloads;
+    for (const QJsonValue& method : methods) {
+        if (method[QStringLiteral("name")].toString() != QStringLiteral("overloaded"))
+            continue;
+        QStringList parameters;
+        for (const QJsonArray list = method[QStringLiteral("params")].toArray();
+             const QJsonValue& parameter : list)
+            parameters.append(parameter[QStringLiteral("x-type")].toString());
+        overloads.append(parameters.join(QLatin1Char(',')));
+    }
+    QCOMPARE(overloads, (QStringList{QStringLiteral("int"), QStringLiteral("double"),
+                                     QStringLiteral("QString"), QStringLiteral("int,qulonglong"),
+                                     QStringLiteral("int,QString")}));
+}
+
+void tst_VXIPCServer::describesRecords()
+{
+    RawClient client(serverName());
+    const QJsonValue document = client.call("rpc.discover")[QStringLiteral("result")];
+    QCOMPARE(document[QStringLiteral("components")], parsed(R"({"schemas":{"TestRecord":{
+        "type":"object","properties":{
+            "name":{"type":"string"},"count":{"type":"integer"},"width":{"type":"number"},
+            "isLoaded":{"type":"boolean"},
+            "image":{"type":"string","contentEncoding":"base64"},
+            "panels":{"type":"array","items":{"type":"string"}},
+            "heats":{"type":"array"}}}}})"));
+}
+
+void tst_VXIPCServer::answersABatch()
+{
+    RawClient client(serverName());
+    const QByteArray line =
+        client.exchange(R"([{"jsonrpc":"2.0","id":"a","method":"scale","params":[1]},)"
+                        R"({"jsonrpc":"2.0","method":"note","params":["n"]},)"
+                        R"(1,{"jsonrpc":"2.0","id":"b","method":"nothing"},)"
+                        R"({"jsonrpc":"2.0","id":"c","method":"notes"}])");
+    const QJsonArray answers = QJsonDocument::fromJson(line).array();
+    QCOMPARE(answers.size(), 4);
+    QCOMPARE(answers[0][QStringLiteral("id")].toString(), QStringLiteral("a"));
+    QCOMPARE(answers[0][QStringLiteral("result")].toInt(), 10);
+    QVERIFY(answers[1][QStringLiteral("id")].isNull());
+    QCOMPARE(errorCode(answers[1].toObject()), -32600);
+    QCOMPARE(answers[2][QStringLiteral("id")].toString(), QStringLiteral("b"));
+    QCOMPARE(errorCode(answers[2].toObject()), -32601);
+    QCOMPARE(answers[3][QStringLiteral("result")], parsed(R"(["n"])"));
+}
+
+void tst_VXIPCServer::answersNothingToABatchOfNotifications()
+{
+    RawClient client(serverName());
+    client.send(R"([{"jsonrpc":"2.0","method":"note","params":["a"]},)"
+                R"({"jsonrpc":"2.0","method":"note","params":["b"]}])"
+                "\n");
+    // The next line to come is the answer to this, which shows that there was none before.
+    QCOMPARE(client.call("notes")[QStringLiteral("result")], parsed(R"(["a","b"])"));
+}
+
+void tst_VXIPCServer::refusesWhatIsNoBatch()
+{
+    RawClient client(serverName());
+    QCOMPARE(errorCode(object(client.exchange("[]"))), -32600);
+    const QJsonArray answers = QJsonDocument::fromJson(client.exchange("[1,[],null]")).array();
+    QCOMPARE(answers.size(), 3);
+    for (const QJsonValue& answer : answers)
+        QCOMPARE(errorCode(answer.toObject()), -32600);
+}
+
+void tst_VXIPCServer::answersNoNotification()
+{
+    RawClient client(serverName());
+    client.send(R"({"jsonrpc":"2.0","method":"note","params":["a"]})"
+                "\n"
+                R"({"jsonrpc":"2.0","method":"nothing"})"
+                "\n"
+                R"({"jsonrpc":"2.0","method":"note","params":[1]})"
+                "\n");
+    QCOMPARE(client.call("notes")[QStringLiteral("result")], parsed(R"(["a"])"));
+}
+
+void tst_VXIPCServer::readsLinesAsTheyCome()
+{
+    RawClient client(serverName());
+    const QByteArray line = R"({"jsonrpc":"2.0","id":1,"method":"notes"})";
+    // A piece at a time, each on its own way before the next.
+    for (const char byte : line) {
+        client.send(QByteArray(1, byte));
+        QVERIFY(QTest::qWaitFor([&] {
+            client.socket().flush();
+            return client.socket().bytesToWrite() == 0;
+        }));
+        QCoreApplication::processEvents();
+    }
+    QVERIFY(!client.socket().canReadLine());
+    client.send("\r\n\n  \r\n");
+    QVERIFY(object(client.receive()).contains(QStringLiteral("result")));
+    // Several at once, answered in order.
+    QByteArray lines;
+    for (int i = 0; i < 1000; ++i)
+        lines += R"({"jsonrpc":"2.0","method":"scale","params":[1,1],"id":)" +
+                 QByteArray::number(i) + "}\n";
+    client.send(lines);
+    for (int i = 0; i < 1000; ++i)
+        QCOMPARE(object(client.receive())[QStringLiteral("id")].toInt(-1), i);
+}
+
+void tst_VXIPCServer::isPublishedWhenTheEventLoopRuns()
+{
+    TestService service(newServerType());
+    QVERIFY(service.serverName().isEmpty());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    RawClient client(service.serverName());
+    QVERIFY(client.isConnected());
+    QCOMPARE(client.call("echo", R"(["a"])")[QStringLiteral("result")].toString(),
+             QStringLiteral("a"));
+}
+
+void tst_VXIPCServer::isPublishedOnItsThread()
+{
+    QThread thread;
+    const int serverType = newServerType();
+    auto* service = new TestService(serverType);
+    service->moveToThread(&thread);
+    connect(&thread, &QThread::finished, service, &QObject::deleteLater);
+    thread.start();
+    const auto end = qScopeGuard([&] {
+        thread.quit();
+        thread.wait();
+    });
+    const QString name = QStringLiteral("vxipc-%1").arg(serverType);
+    QTRY_VERIFY(RawClient(name).isConnected());
+    RawClient client(name);
+    QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+}
+
+void tst_VXIPCServer::addsTheProcessIdToATakenName()
+{
+    const int serverType = newServerType();
+    const QString name = QStringLiteral("vxipc-%1").arg(serverType);
+    const QString withProcess =
+        name + QLatin1Char('-') + QString::number(QCoreApplication::applicationPid());
+    TestService first(serverType);
+    QTRY_COMPARE(first.serverName(), name);
+    TestService second(serverType);
+    QTRY_COMPARE(second.serverName(), withProcess);
+    TestService third(serverType);
+    QTRY_COMPARE(third.serverName(), withProcess + QStringLiteral("-2"));
+
+    for (TestService* service : {&first, &second, &third}) {
+        service->log = {service->serverName()};
+        RawClient client(service->serverName());
+        QCOMPARE(client.call("notes")[QStringLiteral("result")][0].toString(),
+                 service->serverName());
+    }
+}
+
+void tst_VXIPCServer::addsTheProcessIdWhenAnotherProcessHoldsTheName()
+{
+    const int serverType = newServerType();
+    const QString name = QStringLiteral("vxipc-%1").arg(serverType);
+    HostProcess other(serverType);
+    QCOMPARE(other.serverName(), name);
+
+    TestService service(serverType);
+    QTRY_COMPARE(service.serverName(),
+                 name + QLatin1Char('-') + QString::number(QCoreApplication::applicationPid()));
+    service.log = {QStringLiteral("here")};
+    RawClient client(service.serverName());
+    QCOMPARE(client.call("notes")[QStringLiteral("result")], parsed(R"(["here"])"));
+    // And the other is where it was.
+    RawClient otherClient(name);
+    QCOMPARE(otherClient.call("notes")[QStringLiteral("result")], parsed("[]"));
+}
+
+void tst_VXIPCServer::takesTheNameOfADeadProcess()
+{
+    const int serverType = newServerType();
+    const QString name = QStringLiteral("vxipc-%1").arg(serverType);
+    {
+        HostProcess other(serverType);
+        QCOMPARE(other.serverName(), name);
+        other.kill();
+    }
+    TestService service(serverType);
+    QTRY_COMPARE(service.serverName(), name);
+    RawClient client(name);
+    QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+}
+
+void tst_VXIPCServer::leavesNoSocketBehind()
+{
+    const QString name = serverName();
+    m_service.reset();
+    QVERIFY(!RawClient(name).isConnected());
+#ifdef Q_OS_UNIX
+    QVERIFY(!QFileInfo::exists(VXIPCClient::address(name)));
+#endif
+}
+
+void tst_VXIPCServer::letsOnlyTheUserIn()
+{
+#ifdef Q_OS_UNIX
+    const QFileInfo socket(VXIPCClient::address(serverName()));
+    constexpr auto Others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                            QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    QVERIFY(socket.exists());
+    QCOMPARE(socket.permissions() & Others, QFile::Permissions());
+    const QFileInfo folder(socket.path());
+    QCOMPARE(folder.ownerId(), socket.ownerId());
+    QCOMPARE(folder.permissions() & (QFile::WriteGroup | QFile::WriteOther), QFile::Permissions());
+#else
+    QSKIP("A pipe's access list is not seen from Qt");
+#endif
+}
+
+void tst_VXIPCServer::readsALineOfTheGreatestLength()
+{
+    RawClient client(serverName());
+    const QJsonObject answer = object(client.exchange(requestOfSize(Mebibyte)));
+    QCOMPARE(answer[QStringLiteral("id")].toInt(), 1);
+    QVERIFY(!answer.contains(QStringLiteral("error")));
+    QCOMPARE(m_service->log.size(), 1);
+}
+
+void tst_VXIPCServer::refusesALineThatIsTooLong_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+
+    QTest::newRow("by a byte") << requestOfSize(Mebibyte + 1) + '\n';
+    QTest::newRow("without an end") << QByteArray(2 * Mebibyte, '[');
+    QTest::newRow("zeroes") << QByteArray(2 * Mebibyte, '\0');
+}
+
+void tst_VXIPCServer::refusesALineThatIsTooLong()
+{
+    QFETCH(const QByteArray, bytes);
+
+    RawClient bystander(serverName());
+    RawClient client(serverName());
+    client.send(bytes);
+    QCOMPARE(errorCode(object(client.receive())), -32000);
+    QVERIFY(client.waitForClose());
+    QVERIFY(m_service->log.isEmpty());
+    QCOMPARE(bystander.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
+}
+
+void tst_VXIPCServer::refusesTheClientThatIsOneTooMany()
+{
+    std::vector<std::unique_ptr<RawClient>> clients;
+    for (int i = 0; i < 64; ++i) {
+        clients.push_back(std::make_unique<RawClient>(serverName()));
+        QCOMPARE(clients.back()->call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    }
+    {
+        RawClient tooMany(serverName());
+        QCOMPARE(errorCode(tooMany.call("scale", "[1]")), -32001);
+        QVERIFY(tooMany.waitForClose());
+    }
+    QCOMPARE(clients.front()->call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    clients.pop_back();
+    QVERIFY(QTest::qWaitFor([this] {
+        RawClient next(serverName());
+        return next.call("scale", "[1]")[QStringLiteral("result")].toInt() == 10;
+    }));
+}
+
+void tst_VXIPCServer::refusesAnAnswerThatIsTooLong()
+{
+    RawClient client(serverName());
+    // Base64 makes more than four of three mebibytes.
+    const QJsonObject answer = client.call("zeroes", "[3145728]");
+    QCOMPARE(errorCode(answer), -32002);
+    QCOMPARE(answer[QStringLiteral("id")].toInt(), 1);
+    QCOMPARE(client.call("zeroes", "[3]")[QStringLiteral("result")].toString(),
+             QStringLiteral("AAAA"));
+}
+
+void tst_VXIPCServer::closesAClientThatTakesNoAnswers()
+{
+    RawClient bystander(serverName());
+    RawClient client(serverName());
+    client.socket().setReadBufferSize(1);
+    for (int i = 0; i < 64; ++i)
+        client.send(R"({"jsonrpc":"2.0","id":1,"method":"zeroes","params":[300000]})"
+                    "\n");
+    client.send(R"({"jsonrpc":"2.0","method":"note","params":["never reached"]})"
+                "\n");
+    QTRY_COMPARE(bystander.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
+    client.socket().setReadBufferSize(0);
+    client.socket().read(1);
+    QVERIFY(client.waitForClose());
+    QVERIFY(m_service->log.isEmpty());
+    QCOMPARE(bystander.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
+}
+
+void tst_VXIPCServer::closesAClientWhoseBatchAsksForTooMuch()
+{
+    RawClient bystander(serverName());
+    RawClient client(serverName());
+    const QByteArray request = R"({"jsonrpc":"2.0","id":1,"method":"zeroes","params":[1000000]})";
+    client.send('[' + request + ',' + request + ',' + request + ',' + request + "]\n");
+    QVERIFY(client.waitForClose());
+    QCOMPARE(bystander.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
+}
+
+void tst_VXIPCServer::outlivesAClientThatDies_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+
+    QTest::newRow("silent") << QByteArray();
+    QTest::newRow("in the middle of a line") << QByteArray(R"({"jsonrpc":"2.0","id")");
+    QTest::newRow("before the answer")
+        << QByteArray("{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"notes\"}\n");
+    QTest::newRow("before a great answer") << QByteArray(
+        "{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"zeroes\",\"params\":[1000000]}\n");
+    QTest::newRow("in the middle of a batch")
+        << '[' + QByteArray(R"({"jsonrpc":"2.0","id":1,"method":"notes"},)").repeated(10000) +
+               "1]\n";
+}
+
+void tst_VXIPCServer::outlivesAClientThatDies()
+{
+    QFETCH(const QByteArray, bytes);
+
+    RawClient bystander(serverName());
+    for (int i = 0; i < 10; ++i) {
+        RawClient client(serverName());
+        client.send(bytes);
+        client.socket().flush();
+        QCoreApplication::processEvents();
+        client.socket().abort();
+        QCOMPARE(bystander.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
+    }
+}
+
+void tst_VXIPCServer::doesWhatAClientSentBeforeItLeft()
+{
+    {
+        RawClient client(serverName());
+        for (int i = 0; i < 1000; ++i)
+            client.send(R"({"jsonrpc":"2.0","method":"note","params":["a"]})"
+                        "\n");
+        client.socket().disconnectFromServer();
+        QVERIFY(client.waitForClose());
+    }
+    QTRY_COMPARE(m_service->log.size(), 1000);
+}
+
+void tst_VXIPCServer::servesOthersDuringALongBatch()
+{
+    RawClient busy(serverName());
+    RawClient quick(serverName());
+    // Ten times this line's time is more than the quick client has.
+    const QByteArray slow = R"({"jsonrpc":"2.0","id":1,"method":"block","params":[1]})";
+    busy.send('[' + (slow + ',').repeated(2000) + slow + "]\n");
+    QVERIFY(QTest::qWaitFor([&] {
+        busy.socket().flush();
+        return busy.socket().bytesToWrite() == 0;
+    }));
+    for (int i = 0; i < 10; ++i)
+        QCOMPARE(quick.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
+    QVERIFY(!busy.socket().canReadLine());
+}
+
+void tst_VXIPCServer::takesCallsDuringACall()
+{
+    // In another process: here the call's event loop would run this test's.
+    HostProcess host(newServerType());
+    RawClient waiting(host.serverName());
+    RawClient other(host.serverName());
+    waiting.send(R"({"jsonrpc":"2.0","id":"w","method":"wait"})"
+                 "\n"
+                 R"({"jsonrpc":"2.0","id":"n","method":"notes"})"
+                 "\n");
+    QTRY_VERIFY(other.call("isWaiting")[QStringLiteral("result")].toBool());
+    // A client's calls are made one after the other.
+    QVERIFY(!waiting.socket().canReadLine());
+    QVERIFY(other.call("release").contains(QStringLiteral("result")));
+    QCOMPARE(object(waiting.receive())[QStringLiteral("result")].toString(),
+             QStringLiteral("waited"));
+    QCOMPARE(object(waiting.receive())[QStringLiteral("id")].toString(), QStringLiteral("n"));
+}
+
+void tst_VXIPCServer::mayBeDestroyedByACall()
+{
+    const QPointer<TestService> service(m_service.release());
+    RawClient client(service->serverName());
+    client.send(R"({"jsonrpc":"2.0","id":1,"method":"destroy"})"
+                "\n"
+                R"({"jsonrpc":"2.0","id":2,"method":"notes"})"
+                "\n");
+    QVERIFY(client.waitForClose());
+    QVERIFY(!service);
+}
+
+QTEST_GUILESS_MAIN(tst_VXIPCServer)
+#include "tst_vxipc_server.moc"
