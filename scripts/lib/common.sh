@@ -57,3 +57,27 @@ native_packages=(ca-certificates ccache cmake g++ libgl1-mesa-dev libjsoncpp-dev
     qt6-tools-dev-tools)
 
 seconds_since() { echo $((SECONDS - $1)); }
+
+# build_preset NAME [TARGET]: configures and builds, telling how far it is; the whole output is shown
+# only when it fails.
+build_preset() {
+    local preset=$1 target=${2:-all} began=$SECONDS log
+    log=$(mktemp)
+    say "configuring $preset"
+    (cd "$root" && cmake --preset "$preset") >"$log" 2>&1 || {
+        cat "$log" >&2
+        fail "cmake could not configure the preset $preset"
+    }
+    say "building $preset${2:+ ($2)}"
+    if [ -t 2 ]; then
+        cmake --build "$root/build/$preset" --target "$target" --parallel "$jobs" >&2 ||
+            fail "the build of $preset failed"
+    else
+        cmake --build "$root/build/$preset" --target "$target" --parallel "$jobs" >"$log" 2>&1 || {
+            cat "$log" >&2
+            fail "the build of $preset failed"
+        }
+    fi
+    rm -f "$log"
+    say "built $preset in $(seconds_since $began) s"
+}
