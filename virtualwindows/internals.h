@@ -187,6 +187,8 @@ struct DeviceClass
 {
     QString guid;
     QList<DeviceSetup> devices;
+    /// Places in the list by case-folded key name, the first where names are alike.
+    QHash<QString, qsizetype> places;
 };
 
 struct Machine::Private

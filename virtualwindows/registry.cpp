@@ -40,10 +40,8 @@ const DeviceClass* findClass(const QList<DeviceClass>& classes, const QString& g
 
 const DeviceSetup* findDevice(const DeviceClass& deviceClass, const QString& key)
 {
-    const auto found =
-        std::find_if(deviceClass.devices.begin(), deviceClass.devices.end(),
-                     [&](const DeviceSetup& entry) { return isSame(entry.interfaceKey, key); });
-    return found == deviceClass.devices.end() ? nullptr : &*found;
+    const auto found = deviceClass.places.constFind(key.toCaseFolded());
+    return found == deviceClass.places.cend() ? nullptr : &deviceClass.devices.at(*found);
 }
 
 } // namespace
@@ -52,7 +50,7 @@ void Machine::addDeviceClass(const QString& classGuid)
 {
     const std::lock_guard guard(d->lock);
     if (!findClass(d->deviceClasses, classGuid))
-        d->deviceClasses.append({classGuid, {}});
+        d->deviceClasses.append({classGuid, {}, {}});
 }
 
 void Machine::addDevice(const DeviceSetup& device)
@@ -62,6 +60,9 @@ void Machine::addDevice(const DeviceSetup& device)
     const auto found = std::find_if(
         d->deviceClasses.begin(), d->deviceClasses.end(),
         [&](const DeviceClass& entry) { return isSame(entry.guid, device.classGuid); });
+    const QString key = device.interfaceKey.toCaseFolded();
+    if (!found->places.contains(key))
+        found->places.insert(key, found->devices.size());
     found->devices.append(device);
 }
 
