@@ -1,0 +1,597 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// Which database the supply-database service asks, and what it makes of printer names.
+//
+// The service opens the file beside this executable, so the executable lies in a folder of its own.
+#include "small_catalogue.h"
+
+#include <supply_information.h>
+#include <vx_ipc_supplyd_controller.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QMetaMethod>
+#include <QtCore/QMetaProperty>
+#include <QtSql/QSqlDatabase>
+#include <QtSql/QSqlError>
+#include <QtSql/QSqlQuery>
+#include <QtTest/QtTest>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString Tape = u"TAPE-1"_s;
+const QString Label = u"LABEL-1"_s;
+const QString RibbonK = u"RIBBON-K"_s;
+const QString RibbonRK = u"RIBBON-RK"_s;
+const QString TapeId = u"000001F41000420000A7"_s;
+const QString LabelId = u"00000064100050000001"_s;
+const QStringList RibbonIds{u"2001"_s, u"2003"_s};
+
+const QString Added = u"Added printer"_s;
+const QString NeverAdded = u"Never added printer"_s;
+
+QString databasePath()
+{
+    return QCoreApplication::applicationDirPath() + u"/roll.db"_s;
+}
+
+bool change(const char* statement)
+{
+    const QString name = u"change"_s;
+    bool isDone = false;
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, name);
+        database.setDatabaseName(databasePath());
+        database.open();
+        QSqlQuery query(database);
+        isDone = query.exec(QString::fromUtf8(statement));
+        if (!isDone)
+            qWarning("%s", qPrintable(query.lastError().text()));
+    }
+    QSqlDatabase::removeDatabase(name);
+    return isDone;
+}
+
+/// Turns every answer that the small catalogue gives into another one.
+bool changeEveryAnswer()
+{
+    return change("UPDATE colour SET rgb = 16777215 - rgb") &&
+           change("UPDATE name SET english = 'new ' || english") &&
+           change("DELETE FROM translation") &&
+           change("UPDATE supply SET width = width + 10, length = length + 10,"
+                  " label_length = label_length + 1, is_landscape = 1 - is_landscape,"
+                  " background_id = NULL") &&
+           change("UPDATE ribbon SET width = width + 10, length = length + 10, type = 'new'") &&
+           change("UPDATE print_setting SET heat = heat + 500, heat_offset = heat_offset + 500,"
+                  " max_speed = max_speed + 500, tension = tension + 500") &&
+           change("UPDATE printer_format SET position = position + 10");
+}
+
+using Ask = std::function<QVariant(VXIPCSUPPLYDController&, const QString& printerName)>;
+
+struct Query
+{
+    const char* name;
+    bool isByPrinter;
+    Ask ask;
+    QVariant before; ///< What the catalogue has.
+    QVariant after;  ///< What it has after changeEveryAnswer().
+};
+
+QVariantMap properties(const SupplyInformation& record)
+{
+    QVariantMap values;
+    const QMetaObject& type = SupplyInformation::staticMetaObject;
+    for (int i = 0; i < type.propertyCount(); ++i)
+        values.insert(QString::fromLatin1(type.property(i).name()),
+                      type.property(i).readOnGadget(&record));
+    return values;
+}
+
+QVariantMap information(VXIPCSUPPLYDController& endpoint, const QString& printerName)
+{
+    return properties(endpoint.supplyInformation(printerName));
+}
+
+/// Answers records of its own, which tell who was asked.
+class DerivedEndpoint : public VXIPCSUPPLYDController
+{
+public:
+    SupplyInformation supplyInformationBySKUs(QString supplySku, QStringList ribbonSkus,
+                                              QString printerName) override
+    {
+        SupplyInformation record;
+        record.supplySku = supplySku;
+        record.ribbonSkus = ribbonSkus;
+        record.materialName = printerName;
+        return record;
+    }
+};
+
+} // namespace
+
+class SupplydControllerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        SmallCatalogue().write(databasePath());
+        m_endpoint = std::make_unique<VXIPCSUPPLYDController>();
+    }
+    void cleanup()
+    {
+        m_endpoint.reset();
+        QFile::remove(databasePath());
+        QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
+    }
+
+    void publishesItsMethodsInTheirOrder()
+    {
+        const QMetaObject& type = IVXIPCSUPPLYD::staticMetaObject;
+        QStringList methods;
+        for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
+            const QMetaMethod method = type.method(i);
+            if (method.attributes() & QMetaMethod::Cloned)
+                continue; // the form without the argument that has a default
+            QStringList arguments;
+            for (const QByteArray& name : method.parameterNames())
+                arguments.append(QString::fromLatin1(name));
+            methods.append(u"%1 %2(%3)"_s.arg(QString::fromLatin1(method.typeName()),
+                                              QString::fromLatin1(method.name()),
+                                              arguments.join(u", "_s)));
+        }
+        const QStringList expected{
+            u"QStringList supplySKUList()"_s,
+            u"QStringList supplyRibbonSKUList()"_s,
+            u"QVariantHash supplyColorHash()"_s,
+            u"QVariantHash supplyRibbonColorHash()"_s,
+            u"QString supplyId()"_s,
+            u"QString supplySKUCached(printerName)"_s,
+            u"QStringList supplyRibbonSKUsCached(printerName)"_s,
+            u"double supplySupplyPercent()"_s,
+            u"double supplyRibbon1Percent()"_s,
+            u"double supplyRibbon2Percent()"_s,
+            u"QString supplySupplyRGB(printerName)"_s,
+            u"QStringList supplyRibbon1RGBs(printerName)"_s,
+            u"QStringList supplyRibbon2RGBs(printerName)"_s,
+            u"QString supplySupplyUID()"_s,
+            u"QString supplyRibbon1UID()"_s,
+            u"QString supplyRibbon2UID()"_s,
+            u"SupplyInformation supplyInformation(printerName)"_s,
+            u"SupplyInformation supplyInformationBySKUs(supplySku, ribbonSkus, printerName)"_s,
+            u"QString supplyMaterialName(sku, printerName)"_s,
+            u"QString supplyFormatName(sku, printerName)"_s,
+            u"int supplyColorRGB(sku, printerName)"_s,
+            u"QString supplyColorName(sku, printerName)"_s,
+            u"double supplyWidth(sku, printerName)"_s,
+            u"int supplyIsLandscape(sku)"_s,
+            u"QByteArray supplyBackgroundImage(sku)"_s,
+            u"double supplyNonContinuousLength(sku, printerName)"_s,
+            u"int supplyTypeIndex(sku, printerName)"_s,
+            u"int supplyRibbonPanels(ribbonSku)"_s,
+            u"double supplyRibbonWidth(ribbonSku)"_s,
+            u"double supplyRibbonLength(ribbonSku)"_s,
+            u"QString supplyRibbonColorName(ribbonSku, panel)"_s,
+            u"int supplyRibbonColorRGB(ribbonSku, panel)"_s,
+            u"int supplyRibbonHeat(ribbonSku, panel, supplySku)"_s,
+            u"int supplyRibbonHeatOffset(ribbonSku, panel, supplySku)"_s,
+            u"int supplyRibbonMaxSpeed(ribbonSku, panel, supplySku)"_s,
+            u"int supplyRibbonTension(ribbonSku, panel, supplySku)"_s,
+            u"QString supplyRibbonType(ribbonSku)"_s,
+            u"void supplyModuleReady(windowId, processId, applicationName)"_s,
+            u"void applicationWasClicked()"_s,
+            u"void setModulePrinterName(printerName)"_s,
+            u"void openLabelFile(filePath)"_s,
+        };
+        QCOMPARE(methods, expected);
+    }
+
+    void canBeCalledByName()
+    {
+        const QMetaObject* type = m_endpoint->metaObject();
+        for (const char* signature :
+             {"supplyRibbonColorName(QString)", "supplyRibbonColorName(QString,int)",
+              "supplyRibbonColorRGB(QString)", "supplyRibbonColorRGB(QString,int)",
+              "setSupplyId(QString,QString)", "setRibbonIds(QStringList,QString)"})
+            QVERIFY2(type->indexOfSlot(signature) >= 0, signature);
+        QCOMPARE(type->indexOfMethod("addNewPrinter(QString)"), -1);
+
+        QString name;
+        QVERIFY(QMetaObject::invokeMethod(m_endpoint.get(), "supplyColorName",
+                                          Q_RETURN_ARG(QString, name), Q_ARG(QString, Tape),
+                                          Q_ARG(QString, Added)));
+        QCOMPARE(name, u"White"_s);
+    }
+
+    void asksTheDatabaseThatTheRuleChooses_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const Query& query : queries())
+            QTest::newRow(query.name) << QString::fromLatin1(query.name);
+    }
+    // The added printer's database object is the only one that has not kept the old answers.
+    void asksTheDatabaseThatTheRuleChooses()
+    {
+        QFETCH(QString, name);
+        const QList<Query> all = queries();
+        const auto query = std::ranges::find_if(
+            all, [&name](const Query& each) { return name == QLatin1String(each.name); });
+        QVERIFY(query->before != query->after);
+        m_endpoint->setSupplyId(LabelId, NeverAdded);
+        m_endpoint->setRibbonIds(RibbonIds, NeverAdded);
+        QCOMPARE(query->ask(*m_endpoint, {}), query->before);
+
+        QVERIFY(changeEveryAnswer());
+        m_endpoint->addNewPrinter(Added);
+        m_endpoint->setSupplyId(LabelId, Added);
+        m_endpoint->setRibbonIds(RibbonIds, Added);
+        QCOMPARE(query->ask(*m_endpoint, Added), query->isByPrinter ? query->after : query->before);
+        QCOMPARE(query->ask(*m_endpoint, {}), query->before);
+        QCOMPARE(query->ask(*m_endpoint, u"-"_s), query->before);
+        QCOMPARE(query->ask(*m_endpoint, NeverAdded), query->before);
+    }
+
+    void asksForTheTypeIndexWithTheName()
+    {
+        // "-" and an empty name have the list of no model, a printer the one of the model it names.
+        QCOMPARE(m_endpoint->supplyTypeIndex(Label, {}), 1);
+        QCOMPARE(m_endpoint->supplyTypeIndex(Label, u"-"_s), 1);
+        QCOMPARE(m_endpoint->supplyTypeIndex(Label, u"Stratamark AlderMax"_s), 0);
+        QCOMPARE(m_endpoint->supplyTypeIndex(Tape, u"Stratamark Alder"_s), -1);
+    }
+
+    void anEmptyNameHasNoSupplyButTheSharedRibbons()
+    {
+        m_endpoint->setSupplyId(TapeId, NeverAdded);
+        m_endpoint->setRibbonIds(RibbonIds, NeverAdded);
+        QCOMPARE(m_endpoint->supplySKUCached({}), u"-1"_s);
+        QCOMPARE(m_endpoint->supplySKUCached(u"-"_s), Tape);
+        QCOMPARE(m_endpoint->supplyRibbonSKUsCached({}), (QStringList{RibbonK, RibbonRK}));
+    }
+
+    void anEmptyNameIsToldNothing()
+    {
+        m_endpoint->setSupplyId(TapeId, {});
+        m_endpoint->setRibbonIds(RibbonIds, {});
+        QCOMPARE(m_endpoint->supplySKUCached(u"-"_s), u"-1"_s);
+        QCOMPARE(m_endpoint->supplySKUCached(NeverAdded), u"-1"_s);
+        QCOMPARE(m_endpoint->supplyRibbonSKUsCached({}), QStringList());
+
+        m_endpoint->setSupplyId(TapeId, NeverAdded);
+        m_endpoint->setRibbonIds(RibbonIds, NeverAdded);
+        m_endpoint->setSupplyId(LabelId, {});
+        m_endpoint->setRibbonIds({}, {});
+        QCOMPARE(m_endpoint->supplySKUCached(NeverAdded), Tape);
+        QCOMPARE(m_endpoint->supplyRibbonSKUsCached(NeverAdded), (QStringList{RibbonK, RibbonRK}));
+    }
+
+    void aPrinterNeverAddedSharesTheSharedDatabase()
+    {
+        m_endpoint->setSupplyId(TapeId, NeverAdded);
+        QCOMPARE(m_endpoint->supplySKUCached(NeverAdded), Tape);
+        QCOMPARE(m_endpoint->supplySKUCached(u"another one"_s), Tape);
+        QCOMPARE(m_endpoint->supplySKUCached({}), u"-1"_s);
+    }
+
+    void eachAddedPrinterHasItsOwn()
+    {
+        m_endpoint->addNewPrinter(Added);
+        m_endpoint->addNewPrinter(u"Second"_s);
+        m_endpoint->setSupplyId(TapeId, Added);
+        m_endpoint->setSupplyId(LabelId, u"Second"_s);
+        QCOMPARE(m_endpoint->supplySKUCached(Added), Tape);
+        QCOMPARE(m_endpoint->supplySKUCached(u"Second"_s), Label);
+        QCOMPARE(m_endpoint->supplySKUCached(u"second"_s), u"-1"_s);
+        QCOMPARE(m_endpoint->supplySKUCached(NeverAdded), u"-1"_s);
+    }
+
+    void addingAPrinterAgainKeepsWhatIsLoaded()
+    {
+        m_endpoint->addNewPrinter(Added);
+        m_endpoint->setSupplyId(TapeId, Added);
+        m_endpoint->setRibbonIds(RibbonIds, Added);
+        const QStringList connections = QSqlDatabase::connectionNames();
+        m_endpoint->addNewPrinter(Added);
+        QCOMPARE(m_endpoint->supplySKUCached(Added), Tape);
+        QCOMPARE(m_endpoint->supplyRibbonSKUsCached(Added), (QStringList{RibbonK, RibbonRK}));
+        QCOMPARE(QSqlDatabase::connectionNames(), connections);
+    }
+
+    void namesItsConnections()
+    {
+        m_endpoint->addNewPrinter(Added);
+        m_endpoint->addNewPrinter({}); // no query reaches this one
+        QStringList names = QSqlDatabase::connectionNames();
+        names.sort();
+        QCOMPARE(names,
+                 (QStringList{u"Added printer_CONNECTION_NAME"_s,
+                              u"SUPPLY_INFO_QT_SQL_CONNECTION_NAME"_s, u"_CONNECTION_NAME"_s}));
+        m_endpoint->setSupplyId(TapeId, u"-"_s);
+        QCOMPARE(m_endpoint->supplyInformation({}).supplySku, Tape);
+    }
+
+    void thePanelIsTheFirstUnlessItIsSaid()
+    {
+        QCOMPARE(m_endpoint->supplyRibbonColorName(RibbonRK), u"Red"_s);
+        QCOMPARE(m_endpoint->supplyRibbonColorName(RibbonRK),
+                 m_endpoint->supplyRibbonColorName(RibbonRK, 1));
+        QCOMPARE(m_endpoint->supplyRibbonColorName(RibbonRK, 2), u"Black"_s);
+        QCOMPARE(m_endpoint->supplyRibbonColorRGB(RibbonRK), 0xC8102E);
+        QCOMPARE(m_endpoint->supplyRibbonColorRGB(RibbonRK),
+                 m_endpoint->supplyRibbonColorRGB(RibbonRK, 1));
+        QCOMPARE(m_endpoint->supplyRibbonColorRGB(RibbonRK, 2), 0);
+    }
+
+    void someAnswersAreFixed()
+    {
+        m_endpoint->addNewPrinter(Added);
+        m_endpoint->setSupplyId(TapeId, Added);
+        m_endpoint->setSupplyId(TapeId, u"-"_s);
+        QCOMPARE(m_endpoint->supplyId(), u"-1"_s);
+        QCOMPARE(m_endpoint->supplySupplyUID(), u"-1"_s);
+        QCOMPARE(m_endpoint->supplyRibbon1UID(), u"-1"_s);
+        QCOMPARE(m_endpoint->supplyRibbon2UID(), u"-1"_s);
+        QCOMPARE(m_endpoint->supplySupplyPercent(), 0.0);
+        QCOMPARE(m_endpoint->supplyRibbon1Percent(), 0.0);
+        QCOMPARE(m_endpoint->supplyRibbon2Percent(), 0.0);
+    }
+
+    void someCallsHaveNoEffect()
+    {
+        m_endpoint->setSupplyId(TapeId, u"-"_s);
+        const QVariantMap before = information(*m_endpoint, {});
+        m_endpoint->supplyModuleReady(1, 2, u"application"_s);
+        m_endpoint->applicationWasClicked();
+        m_endpoint->setModulePrinterName(Added);
+        m_endpoint->openLabelFile(databasePath());
+        QCOMPARE(information(*m_endpoint, {}), before);
+    }
+
+    void worksWithoutAFile()
+    {
+        m_endpoint.reset();
+        QVERIFY(QFile::remove(databasePath()));
+        m_endpoint = std::make_unique<VXIPCSUPPLYDController>();
+        m_endpoint->addNewPrinter(Added);
+        m_endpoint->setSupplyId(TapeId, Added);
+        m_endpoint->setRibbonIds(RibbonIds, Added);
+        QCOMPARE(m_endpoint->supplySKUCached(Added), QString());
+        QCOMPARE(m_endpoint->supplySKUList(), QStringList());
+        const SupplyInformation record = m_endpoint->supplyInformation(Added);
+        QCOMPARE(record.supplyId, TapeId);
+        QCOMPARE(record.supplyLength, -1.0F);
+        QCOMPARE(record.multiUpCount, 1);
+        QVERIFY(!QFile::exists(databasePath()));
+    }
+
+    void twoEndpointsWorkBesideEachOther()
+    {
+        VXIPCSUPPLYDController second;
+        second.setSupplyId(LabelId, u"-"_s);
+        m_endpoint->setSupplyId(TapeId, u"-"_s);
+        QCOMPARE(second.supplySKUCached(u"-"_s), Label);
+        QCOMPARE(m_endpoint->supplySKUCached(u"-"_s), Tape);
+    }
+
+    void fillsARecord()
+    {
+        m_endpoint->addNewPrinter(Added);
+        m_endpoint->setSupplyId(LabelId, Added); // what is loaded need not be what is asked about
+        const SupplyInformation record =
+            m_endpoint->supplyInformationBySKUs(Tape, {RibbonRK, RibbonK}, Added);
+        const QVariantMap expected{
+            {u"supplyId"_s, LabelId},
+            {u"supplySku"_s, Tape},
+            {u"ribbonSkus"_s, QStringList{RibbonRK, RibbonK}},
+            {u"secColorWidth"_s, 1.25F},
+            {u"secColorRGB"_s, 0xC8102E},
+            {u"secColorName"_s, u"Red"_s},
+            {u"secColorNameEn"_s, u"Red"_s},
+            {u"supplyLength"_s, 6000.0F},
+            {u"material"_s, 7},
+            {u"materialName"_s, u"Vinyl"_s},
+            {u"format"_s, 1},
+            {u"formatName"_s, u"Tape"_s},
+            {u"formatType"_s, u"continuous"_s},
+            {u"colorRGB"_s, 0xFFFFFF},
+            {u"colorName"_s, u"White"_s},
+            {u"colorNameEn"_s, u"White"_s},
+            {u"supplyWidth"_s, 4.0F},
+            {u"isLandscape"_s, 1},
+            {u"backgroundImage"_s, SmallCatalogue().files.value(u"backgrounds/dot.png"_s)},
+            {u"separatorWidth"_s, -1.0F},
+            {u"nonContinuousLength"_s, -1.0F},
+            {u"typeIndex"_s, 0},
+            {u"ribbon1Panels"_s, 2},
+            {u"ribbon2Panels"_s, 1},
+            {u"ribbon1Width"_s, 4.33F},
+            {u"ribbon2Width"_s, 4.33F},
+            {u"ribbon1Length"_s, 2360.0F},
+            {u"ribbon2Length"_s, 4725.0F},
+            {u"ribbonColorNames"_s, QStringList{u"Red"_s, u"Black"_s}},
+            {u"ribbonColorRGBs"_s, QVariantList{0xC8102E, 0}},
+            {u"ribbonHeats"_s, QVariantList{58, 52}},
+            {u"ribbonHeatOffsets"_s, QVariantList{2, 0}},
+            {u"ribbonMaxSpeeds"_s, QVariantList{3, 4}},
+            {u"ribbonTensions"_s, QVariantList{32, 30}},
+            {u"ribbonTypes"_s, QStringList{u"resin"_s, u"wax"_s}},
+            {u"multiUpCount"_s, 1},
+            {u"multiUpGapSize"_s, -1.0F},
+        };
+        QCOMPARE(expected.size(), 37);
+        QCOMPARE(properties(record), expected);
+    }
+
+    void fillsARecordOfLabelsSideBySide()
+    {
+        const SupplyInformation record = m_endpoint->supplyInformationBySKUs(Label, {}, {});
+        QCOMPARE(record.nonContinuousLength, 1.5F);
+        QCOMPARE(record.separatorWidth, 0.125F);
+        QCOMPARE(record.isLandscape, 0);
+        QCOMPARE(record.multiUpCount, 3);
+        QCOMPARE(record.multiUpGapSize, 0.1F);
+        QCOMPARE(record.typeIndex, 1);
+        QCOMPARE(record.material, 0);
+    }
+
+    void aRecordTakesRibbonsByTheirPlace_data()
+    {
+        QTest::addColumn<QStringList>("skus");
+        QTest::addColumn<QList<int>>("panels");
+        QTest::addColumn<QList<float>>("lengths");
+        QTest::addColumn<QStringList>("types");
+        QTest::addColumn<QVariantList>("heats");
+        QTest::addColumn<QStringList>("colours");
+
+        QTest::newRow("none") << QStringList{} << QList<int>{-1, -1} << QList<float>{-1.0F, -1.0F}
+                              << QStringList{QString(), QString()} << QVariantList{}
+                              << QStringList{};
+        QTest::newRow("one") << QStringList{RibbonRK} << QList<int>{2, -1}
+                             << QList<float>{2360.0F, -1.0F} << QStringList{u"resin"_s, QString()}
+                             << QVariantList{58} << QStringList{u"Red"_s};
+        QTest::newRow("three") << QStringList{RibbonK, RibbonRK, u"RIBBON-T"_s} << QList<int>{1, 2}
+                               << QList<float>{4725.0F, 2360.0F}
+                               << QStringList{u"wax"_s, u"resin"_s} << QVariantList{52, 58, -1}
+                               << QStringList{u"Black"_s, u"Red"_s, u"Teal"_s};
+        QTest::newRow("nothing in the first place")
+            << QStringList{u"-1"_s, RibbonK} << QList<int>{-1, 1} << QList<float>{-1.0F, 4725.0F}
+            << QStringList{QString(), u"wax"_s} << QVariantList{-1, 52}
+            << QStringList{QString(), u"Black"_s};
+    }
+    void aRecordTakesRibbonsByTheirPlace()
+    {
+        QFETCH(QStringList, skus);
+        const SupplyInformation record = m_endpoint->supplyInformationBySKUs(Tape, skus, {});
+        QCOMPARE(record.ribbonSkus, skus);
+        QTEST((QList<int>{record.ribbon1Panels, record.ribbon2Panels}), "panels");
+        QTEST((QList<float>{record.ribbon1Length, record.ribbon2Length}), "lengths");
+        QTEST(record.ribbonTypes, "types");
+        QTEST(record.ribbonHeats, "heats");
+        QTEST(record.ribbonColorNames, "colours");
+        for (const QVariantList& list : {record.ribbonColorRGBs, record.ribbonHeatOffsets,
+                                         record.ribbonMaxSpeeds, record.ribbonTensions})
+            QCOMPARE(list.size(), skus.size());
+    }
+
+    void aRecordOfNothingIsARecordOfDefaults()
+    {
+        QVariantMap expected = properties(SupplyInformation());
+        expected.insert(u"ribbonTypes"_s, QStringList{QString(), QString()});
+        QCOMPARE(properties(m_endpoint->supplyInformationBySKUs({}, {}, {})), expected);
+        expected.insert(u"supplySku"_s, u"-1"_s);
+        QCOMPARE(information(*m_endpoint, {}), expected); // nothing was reported yet
+    }
+
+    void aRecordIsTheSameForAnEmptyNameAndTheSharedOne()
+    {
+        m_endpoint->setSupplyId(TapeId, u"-"_s);
+        m_endpoint->setRibbonIds(RibbonIds, u"-"_s);
+        const QVariantMap shared = information(*m_endpoint, u"-"_s);
+        QCOMPARE(shared.value(u"supplySku"_s), Tape);
+        QCOMPARE(information(*m_endpoint, {}), shared);
+
+        // A printer never added has the shared record, but for the type index of its own name.
+        QVariantMap unknown = information(*m_endpoint, u"Stratamark AlderMax"_s);
+        QCOMPARE(unknown.value(u"typeIndex"_s), 1);
+        QCOMPARE(shared.value(u"typeIndex"_s), 0);
+        unknown.insert(u"typeIndex"_s, 0);
+        QCOMPARE(unknown, shared);
+    }
+
+    void theRecordOfAPrinterIsThatOfItsSkus()
+    {
+        m_endpoint->addNewPrinter(Added);
+        m_endpoint->setSupplyId(TapeId, Added);
+        m_endpoint->setRibbonIds(RibbonIds, Added);
+        QCOMPARE(information(*m_endpoint, Added),
+                 properties(m_endpoint->supplyInformationBySKUs(
+                     m_endpoint->supplySKUCached(Added), m_endpoint->supplyRibbonSKUsCached(Added),
+                     Added)));
+    }
+
+    void theRecordOfAPrinterComesThroughTheVirtualSlot()
+    {
+        DerivedEndpoint derived;
+        derived.setSupplyId(TapeId, u"-"_s);
+        derived.setRibbonIds(RibbonIds, u"-"_s);
+        const SupplyInformation record = derived.supplyInformation({});
+        QCOMPARE(record.supplySku, Tape);
+        QCOMPARE(record.ribbonSkus, (QStringList{RibbonK, RibbonRK}));
+        QCOMPARE(record.materialName, u"-"_s);
+    }
+
+    void registersTheRecord()
+    {
+        const QMetaType type = QMetaType::fromName("SupplyInformation");
+        QVERIFY(type.isValid());
+        QCOMPARE(type, QMetaType::fromType<SupplyInformation>());
+        QVERIFY(!type.hasRegisteredDataStreamOperators());
+    }
+
+private:
+    static QList<Query> queries()
+    {
+        using Endpoint = VXIPCSUPPLYDController;
+        const QByteArray picture = SmallCatalogue().files.value(u"backgrounds/dot.png"_s);
+        const auto inverse = [](int rgb) {
+            return 0xFFFFFF - rgb;
+        };
+        const auto text = [](int number) {
+            return QString::number(number);
+        };
+        constexpr int red = 0xC8102E;
+        constexpr int teal = 0x008080;
+        // clang-format off
+        return {
+            {"supplyColorHash", false, [](Endpoint& e, const QString&) { return e.supplyColorHash().value(Tape); }, 0xFFFFFF, 0},
+            {"supplyRibbonColorHash", false, [](Endpoint& e, const QString&) { return e.supplyRibbonColorHash().value(RibbonK); }, 0, 0xFFFFFF},
+            {"supplySupplyRGB", true, [](Endpoint& e, const QString& p) { return e.supplySupplyRGB(p); }, text(teal), text(inverse(teal))},
+            {"supplyRibbon1RGBs", true, [](Endpoint& e, const QString& p) { return e.supplyRibbon1RGBs(p); }, QStringList{text(0)}, QStringList{text(0xFFFFFF)}},
+            {"supplyRibbon2RGBs", true, [](Endpoint& e, const QString& p) { return e.supplyRibbon2RGBs(p); }, QStringList{text(red), text(0)}, QStringList{text(inverse(red)), text(0xFFFFFF)}},
+            {"supplyInformation", true, [](Endpoint& e, const QString& p) { return e.supplyInformation(p).colorRGB; }, teal, inverse(teal)},
+            {"supplyInformation of ribbons", true, [](Endpoint& e, const QString& p) { return e.supplyInformation(p).ribbonHeats; }, QVariantList{44, -1}, QVariantList{544, -1}},
+            {"supplyInformationBySKUs", true, [](Endpoint& e, const QString& p) { return e.supplyInformationBySKUs(Tape, {RibbonK}, p).ribbonHeats; }, QVariantList{52}, QVariantList{552}},
+            {"supplyMaterialName", true, [](Endpoint& e, const QString& p) { return e.supplyMaterialName(Tape, p); }, u"Vinyl"_s, u"new Vinyl"_s},
+            {"supplyFormatName", true, [](Endpoint& e, const QString& p) { return e.supplyFormatName(Tape, p); }, u"Tape"_s, u"new Tape"_s},
+            {"supplyColorRGB", true, [](Endpoint& e, const QString& p) { return e.supplyColorRGB(Tape, p); }, 0xFFFFFF, 0},
+            {"supplyColorName", true, [](Endpoint& e, const QString& p) { return e.supplyColorName(Tape, p); }, u"White"_s, u"new White"_s},
+            {"supplyWidth", true, [](Endpoint& e, const QString& p) { return e.supplyWidth(Tape, p); }, 4.0, 14.0},
+            {"supplyNonContinuousLength", true, [](Endpoint& e, const QString& p) { return e.supplyNonContinuousLength(Label, p); }, 1.5, 2.5},
+            {"supplyTypeIndex", true, [](Endpoint& e, const QString& p) { return e.supplyTypeIndex(Label, p); }, 1, 11},
+            {"supplyIsLandscape", false, [](Endpoint& e, const QString&) { return e.supplyIsLandscape(Label); }, 0, 1},
+            {"supplyBackgroundImage", false, [](Endpoint& e, const QString&) { return e.supplyBackgroundImage(Tape); }, picture, QByteArray()},
+            {"supplyRibbonPanels", false, [](Endpoint& e, const QString&) { return e.supplyRibbonPanels(RibbonRK); }, 2, -1},
+            {"supplyRibbonWidth", false, [](Endpoint& e, const QString&) { return e.supplyRibbonWidth(RibbonK); }, 4.33, 14.33},
+            {"supplyRibbonLength", false, [](Endpoint& e, const QString&) { return e.supplyRibbonLength(RibbonK); }, 4725.0, 4735.0},
+            {"supplyRibbonColorName", false, [](Endpoint& e, const QString&) { return e.supplyRibbonColorName(RibbonK); }, u"Black"_s, u"new Black"_s},
+            {"supplyRibbonColorRGB", false, [](Endpoint& e, const QString&) { return e.supplyRibbonColorRGB(RibbonRK, 2); }, 0, 0xFFFFFF},
+            {"supplyRibbonHeat", false, [](Endpoint& e, const QString&) { return e.supplyRibbonHeat(RibbonK, 1, Label); }, 44, 544},
+            {"supplyRibbonHeatOffset", false, [](Endpoint& e, const QString&) { return e.supplyRibbonHeatOffset(RibbonRK, 1, Tape); }, 2, 502},
+            {"supplyRibbonMaxSpeed", false, [](Endpoint& e, const QString&) { return e.supplyRibbonMaxSpeed(RibbonK, 1, Label); }, 8, 508},
+            {"supplyRibbonTension", false, [](Endpoint& e, const QString&) { return e.supplyRibbonTension(RibbonK, 1, Label); }, 26, 526},
+            {"supplyRibbonType", false, [](Endpoint& e, const QString&) { return e.supplyRibbonType(RibbonK); }, u"wax"_s, u"new"_s},
+        };
+        // clang-format on
+    }
+
+    std::unique_ptr<VXIPCSUPPLYDController> m_endpoint;
+};
+
+int main(int argc, char* argv[])
+{
+    // Names come in the language of the system, which a test must not depend on.
+    qputenv("LC_ALL", "C");
+    qputenv("LANGUAGE", "en");
+    QCoreApplication application(argc, argv);
+    SupplydControllerTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_supplyd_controller.moc"
