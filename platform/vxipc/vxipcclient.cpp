@@ -50,6 +50,16 @@ QJsonObject request(const QString& method, const QJsonValue& parameters, const Q
     return object;
 }
 
+/// Whether it is one to a call of this client, which numbers them, or about the connection.
+bool isAnswer(const QJsonObject& object)
+{
+    const QJsonValue id = object.value(QStringLiteral("id"));
+    const bool isError = object.value(QStringLiteral("error")).isObject();
+    return object.value(QStringLiteral("jsonrpc")) == QStringLiteral("2.0") &&
+           isError != object.contains(QStringLiteral("result")) &&
+           (id.isDouble() || (isError && id.isNull()));
+}
+
 VXIPCReply readReply(const QJsonObject& answer)
 {
     const QJsonValue error = answer.value(QStringLiteral("error"));
@@ -265,15 +275,14 @@ void VXIPCClient::Private::onReadyRead()
 
 void VXIPCClient::Private::onLine(const QByteArray& line)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(line);
-    if (!document.isObject()) {
+    const QJsonObject answer = QJsonDocument::fromJson(line).object();
+    if (!isAnswer(answer)) {
         const QPointer<VXIPCClient> alive(&q);
         finishAll(failed(VXIPCError::BadAnswer, QStringLiteral("the answer is no JSON-RPC 2.0")));
         if (alive)
             m_socket->abort();
         return;
     }
-    const QJsonObject answer = document.object();
     const QJsonValue id = answer.value(QStringLiteral("id"));
     // An error that belongs to no call is about the connection.
     if (id.isNull())

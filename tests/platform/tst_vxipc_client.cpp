@@ -1,0 +1,451 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "ipc_host_process.h"
+#include "ipc_raw_client.h"
+#include "ipc_test_service.h"
+#include "vxipcclient.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QPointer>
+#include <QtNetwork/QLocalServer>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+#include <memory>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+QString nameOf(int serverType)
+{
+    return QStringLiteral("vxipc-%1").arg(serverType);
+}
+
+/// A server that answers every connection's lines with the same bytes.
+class OddServer : public QLocalServer
+{
+public:
+    OddServer(const QString& name, const QByteArray& answer)
+    {
+        setSocketOptions(UserAccessOption);
+        // The folder is made by endpoints, the first of which this process has had by then.
+        listen(VXIPCClient::address(name));
+        connect(this, &QLocalServer::newConnection, this, [this, answer] {
+            QLocalSocket* socket = nextPendingConnection();
+            connect(socket, &QLocalSocket::readyRead, socket, [socket, answer] {
+                socket->readAll();
+                socket->write(answer);
+            });
+        });
+    }
+};
+
+} // namespace
+
+class tst_VXIPCClient : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void waitsForAResult();
+    void waitsForAnError();
+    void callsByName();
+    void tellsWhenNobodyIsThere();
+    void givesUpWaitingInTime();
+    void takesNoLateAnswerForAnother();
+    void losesACallWithItsProcess();
+    void refusesToSendALineThatIsTooLong();
+
+    void callsWithoutWaiting();
+    void answersLaterThanTheCall();
+    void keepsManyCallsInFlight();
+    void tellsLateCallsInTheirOrder();
+    void keepsOthersOutcomesWhileItWaits();
+    void waitsWithinACallback();
+    void mayBeDestroyedInACallback();
+    void forgetsItsCallsWhenDestroyed();
+    void sendsNotifications();
+
+    void tellsOfConnections();
+    void connectsAgain();
+    void staysAwayWhenToldTo();
+    void findsAnEndpointThatComesLater();
+    void readsWhatIsNoAnswer_data();
+    void readsWhatIsNoAnswer();
+    void readsThatThereAreTooManyClients();
+    void listsRunningServers();
+
+private:
+    /// Another process, as the endpoints of most clients are.
+    std::unique_ptr<HostProcess> m_host;
+    QString m_name;
+};
+
+void tst_VXIPCClient::initTestCase()
+{
+    const int serverType = newServerType();
+    m_host = std::make_unique<HostProcess>(serverType);
+    m_name = m_host->serverName();
+    QCOMPARE(m_name, nameOf(serverType));
+}
+
+void tst_VXIPCClient::waitsForAResult()
+{
+    VXIPCClient client(m_name);
+    QCOMPARE(client.serverName(), m_name);
+    const VXIPCReply reply = client.callAndWait(QStringLiteral("scale"), QJsonArray{6, 7});
+    QVERIFY(reply.isOk());
+    QCOMPARE(reply.result.toInt(), 42);
+    const VXIPCReply nothing =
+        client.callAndWait(QStringLiteral("note"), QJsonArray{QStringLiteral("a")});
+    QVERIFY(nothing.isOk());
+    QVERIFY(nothing.result.isNull());
+}
+
+void tst_VXIPCClient::waitsForAnError()
+{
+    VXIPCClient client(m_name);
+    const VXIPCReply unknown = client.callAndWait(QStringLiteral("nothing"));
+    QVERIFY(!unknown.isOk());
+    QVERIFY(unknown.result.isNull());
+    QCOMPARE(unknown.error->code, -32601);
+    const VXIPCReply bad =
+        client.callAndWait(QStringLiteral("scale"), QJsonArray{QStringLiteral("x")});
+    QCOMPARE(bad.error->code, -32602);
+    QCOMPARE(bad.error->data[QStringLiteral("argument")].toString(), QStringLiteral("value"));
+    QVERIFY(client.isConnected());
+}
+
+void tst_VXIPCClient::callsByName()
+{
+    VXIPCClient client(m_name);
+    const VXIPCReply reply =
+        client.callAndWait(QStringLiteral("scale"), QJsonObject{{QStringLiteral("factor"), 2},
+                                                                {QStringLiteral("value"), 4}});
+    QVERIFY(reply.isOk());
+    QCOMPARE(reply.result.toInt(), 8);
+}
+
+void tst_VXIPCClient::tellsWhenNobodyIsThere()
+{
+    VXIPCClient client(newServerType());
+    const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"));
+    QCOMPARE(reply.error->code, int(VXIPCError::NotReachable));
+    QVERIFY(reply.error->message.contains(client.serverName()));
+    QVERIFY(!client.connectToServer());
+    QVERIFY(!client.notify(QStringLiteral("notes")));
+    QVERIFY(!client.isConnected());
+
+    std::optional<VXIPCReply> later;
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& outcome) { later = outcome; });
+    QVERIFY(!later);
+    QTRY_VERIFY(later);
+    QCOMPARE(later->error->code, int(VXIPCError::NotReachable));
+}
+
+void tst_VXIPCClient::givesUpWaitingInTime()
+{
+    VXIPCClient client(m_name);
+    QElapsedTimer timer;
+    timer.start();
+    const VXIPCReply reply = client.callAndWait(QStringLiteral("block"), QJsonArray{500}, 50ms);
+    QCOMPARE(reply.error->code, int(VXIPCError::TimedOut));
+    QVERIFY(timer.elapsed() >= 50);
+    QVERIFY(client.isConnected());
+
+    client.setTimeout(10ms);
+    QCOMPARE(client.timeout(), 10ms);
+    QCOMPARE(client.callAndWait(QStringLiteral("block"), QJsonArray{100}).error->code,
+             int(VXIPCError::TimedOut));
+}
+
+void tst_VXIPCClient::takesNoLateAnswerForAnother()
+{
+    VXIPCClient client(m_name);
+    QVERIFY(!client.callAndWait(QStringLiteral("block"), QJsonArray{100}, 1ms).isOk());
+    const VXIPCReply reply = client.callAndWait(QStringLiteral("scale"), QJsonArray{1});
+    QVERIFY(reply.isOk());
+    QCOMPARE(reply.result.toInt(), 10);
+}
+
+void tst_VXIPCClient::losesACallWithItsProcess()
+{
+    HostProcess host(newServerType());
+    VXIPCClient client(host.serverName());
+    std::optional<VXIPCReply> lost;
+    client.call(QStringLiteral("wait"), {}, [&](const VXIPCReply& outcome) { lost = outcome; });
+    // The endpoint is in the call when this is answered.
+    VXIPCClient other(host.serverName());
+    QTRY_VERIFY(other.callAndWait(QStringLiteral("isWaiting")).result.toBool());
+    host.kill();
+    const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"));
+    QVERIFY(reply.error->code == VXIPCError::ConnectionLost ||
+            reply.error->code == VXIPCError::NotReachable);
+    QTRY_VERIFY(lost);
+    QCOMPARE(lost->error->code, int(VXIPCError::ConnectionLost));
+    QVERIFY(!client.isConnected());
+    QLocalServer::removeServer(VXIPCClient::address(host.serverName()));
+}
+
+void tst_VXIPCClient::refusesToSendALineThatIsTooLong()
+{
+    VXIPCClient client(m_name);
+    const QString text(1 << 20, QLatin1Char('x'));
+    QCOMPARE(client.callAndWait(QStringLiteral("echo"), QJsonArray{text}).error->code, -32000);
+    QCOMPARE(client.callAndWait(QStringLiteral("echo"), QJsonArray{text.chopped(1000)})
+                 .result.toString()
+                 .size(),
+             text.size() - 1000);
+}
+
+void tst_VXIPCClient::callsWithoutWaiting()
+{
+    VXIPCClient client(m_name);
+    std::optional<VXIPCReply> good;
+    std::optional<VXIPCReply> bad;
+    client.call(QStringLiteral("scale"), QJsonArray{2},
+                [&](const VXIPCReply& outcome) { good = outcome; });
+    client.call(QStringLiteral("nothing"), {}, [&](const VXIPCReply& outcome) { bad = outcome; });
+    client.call(QStringLiteral("scale"), QJsonArray{2}, {});
+    QVERIFY(!good);
+    QTRY_VERIFY(good && bad);
+    QCOMPARE(good->result.toInt(), 20);
+    QCOMPARE(bad->error->code, -32601);
+}
+
+void tst_VXIPCClient::answersLaterThanTheCall()
+{
+    VXIPCClient client(m_name);
+    bool isAnswered = false;
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply&) { isAnswered = true; });
+    // The endpoint has answered both, but this thread's event loop has not run.
+    QVERIFY(client.callAndWait(QStringLiteral("notes")).isOk());
+    QVERIFY(!isAnswered);
+    QTRY_VERIFY(isAnswered);
+}
+
+void tst_VXIPCClient::keepsManyCallsInFlight()
+{
+    constexpr int Calls = 2000;
+    VXIPCClient client(m_name);
+    QList<int> results;
+    for (int i = 0; i < Calls; ++i) {
+        client.call(QStringLiteral("scale"), QJsonArray{i, 1},
+                    [&](const VXIPCReply& outcome) { results.append(outcome.result.toInt(-1)); });
+    }
+    QTRY_COMPARE(results.size(), Calls);
+    for (int i = 0; i < Calls; ++i)
+        QCOMPARE(results.at(i), i);
+}
+
+void tst_VXIPCClient::tellsLateCallsInTheirOrder()
+{
+    VXIPCClient client(m_name);
+    client.setTimeout(20ms);
+    QStringList order;
+    const auto note = [&](const QString& name) {
+        return [&order, name](const VXIPCReply& outcome) {
+            order.append(name + (outcome.isOk() ? QStringLiteral(" answered")
+                                                : QString::number(outcome.error->code)));
+        };
+    };
+    client.call(QStringLiteral("block"), QJsonArray{300}, note(QStringLiteral("first ")));
+    client.call(QStringLiteral("notes"), {}, note(QStringLiteral("second ")));
+    client.setTimeout(20s);
+    client.call(QStringLiteral("notes"), {}, note(QStringLiteral("third")));
+    QTRY_COMPARE(order.size(), 3);
+    QCOMPARE(order, (QStringList{QStringLiteral("first 3"), QStringLiteral("second 3"),
+                                 QStringLiteral("third answered")}));
+}
+
+void tst_VXIPCClient::keepsOthersOutcomesWhileItWaits()
+{
+    VXIPCClient client(m_name);
+    QList<int> results;
+    for (int i = 0; i < 100; ++i) {
+        client.call(QStringLiteral("scale"), QJsonArray{i, 1},
+                    [&](const VXIPCReply& outcome) { results.append(outcome.result.toInt(-1)); });
+    }
+    QCOMPARE(client.callAndWait(QStringLiteral("scale"), QJsonArray{100, 1}).result.toInt(), 100);
+    QVERIFY(results.isEmpty());
+    QTRY_COMPARE(results.size(), 100);
+    QCOMPARE(results.first(), 0);
+    QCOMPARE(results.last(), 99);
+}
+
+void tst_VXIPCClient::waitsWithinACallback()
+{
+    VXIPCClient client(m_name);
+    int inner = 0;
+    bool isSecondAnswered = false;
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply&) {
+        inner = client.callAndWait(QStringLiteral("scale"), QJsonArray{5}).result.toInt();
+    });
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply&) { isSecondAnswered = true; });
+    QTRY_COMPARE(inner, 50);
+    QTRY_VERIFY(isSecondAnswered);
+}
+
+void tst_VXIPCClient::mayBeDestroyedInACallback()
+{
+    auto* client = new VXIPCClient(m_name);
+    const QPointer<VXIPCClient> alive(client);
+    int answers = 0;
+    for (int i = 0; i < 10; ++i) {
+        client->call(QStringLiteral("notes"), {}, [&answers, client](const VXIPCReply&) {
+            ++answers;
+            delete client;
+        });
+    }
+    QTRY_VERIFY(!alive);
+    QCOMPARE(answers, 1);
+}
+
+void tst_VXIPCClient::forgetsItsCallsWhenDestroyed()
+{
+    bool isAnswered = false;
+    const auto remember = [&](const VXIPCReply&) {
+        isAnswered = true;
+    };
+    {
+        VXIPCClient client(m_name);
+        client.call(QStringLiteral("notes"), {}, remember);
+        VXIPCClient nobodys(newServerType());
+        nobodys.call(QStringLiteral("notes"), {}, remember);
+    }
+    VXIPCClient client(m_name);
+    QVERIFY(client.callAndWait(QStringLiteral("notes")).isOk());
+    QCoreApplication::processEvents();
+    QVERIFY(!isAnswered);
+}
+
+void tst_VXIPCClient::sendsNotifications()
+{
+    HostProcess host(newServerType());
+    VXIPCClient client(host.serverName());
+    QVERIFY(client.notify(QStringLiteral("note"), QJsonArray{QStringLiteral("told")}));
+    QVERIFY(client.notify(QStringLiteral("nothing")));
+    QCOMPARE(client.callAndWait(QStringLiteral("notes")).result,
+             QJsonValue(QJsonArray{QStringLiteral("told")}));
+}
+
+void tst_VXIPCClient::tellsOfConnections()
+{
+    VXIPCClient client(m_name);
+    QSignalSpy connected(&client, &VXIPCClient::connected);
+    QSignalSpy disconnected(&client, &VXIPCClient::disconnected);
+    QVERIFY(!client.isConnected());
+    QVERIFY(client.connectToServer());
+    QVERIFY(client.connectToServer());
+    QCOMPARE(connected.size(), 1);
+    QVERIFY(client.isConnected());
+
+    std::optional<VXIPCReply> lost;
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& outcome) { lost = outcome; });
+    client.disconnectFromServer();
+    QCOMPARE(disconnected.size(), 1);
+    QVERIFY(!client.isConnected());
+    QTRY_VERIFY(lost);
+    QCOMPARE(lost->error->code, int(VXIPCError::ConnectionLost));
+    QVERIFY(client.callAndWait(QStringLiteral("notes")).isOk());
+}
+
+void tst_VXIPCClient::connectsAgain()
+{
+    const int serverType = newServerType();
+    auto host = std::make_unique<HostProcess>(serverType);
+    VXIPCClient client(serverType);
+    QSignalSpy connected(&client, &VXIPCClient::connected);
+    QSignalSpy disconnected(&client, &VXIPCClient::disconnected);
+    QVERIFY(client.connectToServer());
+    host->kill();
+    QTRY_COMPARE(disconnected.size(), 1);
+    host = std::make_unique<HostProcess>(serverType);
+    QTRY_COMPARE_WITH_TIMEOUT(connected.size(), 2, 20000);
+    QVERIFY(client.isConnected());
+
+    // A call does not wait for the next attempt.
+    host->kill();
+    QTRY_COMPARE(disconnected.size(), 2);
+    host = std::make_unique<HostProcess>(serverType);
+    QVERIFY(client.callAndWait(QStringLiteral("notes")).isOk());
+}
+
+void tst_VXIPCClient::staysAwayWhenToldTo()
+{
+    VXIPCClient client(m_name);
+    QSignalSpy connected(&client, &VXIPCClient::connected);
+    QVERIFY(client.connectToServer());
+    client.disconnectFromServer();
+    // Longer than it takes to connect again.
+    QVERIFY(!QTest::qWaitFor([&] { return connected.size() > 1; }, 300));
+    QVERIFY(!client.isConnected());
+}
+
+void tst_VXIPCClient::findsAnEndpointThatComesLater()
+{
+    const int serverType = newServerType();
+    VXIPCClient client(serverType);
+    QVERIFY(!client.connectToServer());
+    QSignalSpy connected(&client, &VXIPCClient::connected);
+    TestService service(serverType);
+    QTRY_COMPARE_WITH_TIMEOUT(connected.size(), 1, 20000);
+}
+
+void tst_VXIPCClient::readsWhatIsNoAnswer_data()
+{
+    QTest::addColumn<QByteArray>("answer");
+
+    QTest::newRow("no JSON") << QByteArray("hello\n");
+    QTest::newRow("no object") << QByteArray("[]\n");
+    QTest::newRow("without an end") << QByteArray(9 << 20, 'x');
+    QTest::newRow("neither result nor error") << QByteArray("{\"jsonrpc\":\"2.0\",\"id\":1}\n");
+    QTest::newRow("result and error")
+        << QByteArray("{\"jsonrpc\":\"2.0\",\"id\":1,\"result\":1,\"error\":{}}\n");
+    QTest::newRow("without a version") << QByteArray("{\"id\":1,\"result\":1}\n");
+    QTest::newRow("empty object") << QByteArray("{}\n");
+}
+
+void tst_VXIPCClient::readsWhatIsNoAnswer()
+{
+    QFETCH(const QByteArray, answer);
+
+    const int serverType = newServerType();
+    // Makes the folder that endpoints live in, where there is none yet.
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const OddServer server(nameOf(serverType), answer);
+    QVERIFY(server.isListening());
+    VXIPCClient client(serverType);
+    std::optional<VXIPCReply> outcome;
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) { outcome = reply; });
+    QTRY_VERIFY(outcome);
+    QCOMPARE(outcome->error->code, int(VXIPCError::BadAnswer));
+}
+
+void tst_VXIPCClient::readsThatThereAreTooManyClients()
+{
+    HostProcess host(newServerType());
+    std::vector<std::unique_ptr<VXIPCClient>> clients;
+    for (int i = 0; i < 64; ++i) {
+        clients.push_back(std::make_unique<VXIPCClient>(host.serverName()));
+        QVERIFY(clients.back()->callAndWait(QStringLiteral("notes")).isOk());
+    }
+    VXIPCClient tooMany(host.serverName());
+    QCOMPARE(tooMany.callAndWait(QStringLiteral("notes")).error->code, -32001);
+}
+
+void tst_VXIPCClient::listsRunningServers()
+{
+    const QString name = nameOf(newServerType());
+    QVERIFY(VXIPCClient::runningServers().contains(m_name));
+    QVERIFY(!VXIPCClient::runningServers().contains(name));
+}
+
+QTEST_GUILESS_MAIN(tst_VXIPCClient)
+#include "tst_vxipc_client.moc"
