@@ -23,7 +23,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString SampleCatalogue = QStringLiteral(VX_SAMPLE_CATALOGUE);
+// With a drive where there are drives: the tool may run on another one.
+const QString SampleCatalogue = QDir(QStringLiteral(VX_SAMPLE_CATALOGUE)).absolutePath();
 
 /// The fault that a job is given up with; null when it is done.
 template <typename Job>
@@ -542,6 +543,7 @@ private Q_SLOTS:
 
     void theToolEndsAsItShould_data()
     {
+        // "@" stands for the test's folder.
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("output");
@@ -549,14 +551,15 @@ private Q_SLOTS:
 
         const QString usage = u" (see rolldb --help)\n"_s;
         QTest::newRow("build")
-            << QStringList{u"build"_s, SampleCatalogue, u"new.db"_s} << 0
-            << u"new.db: 46 supplies, 22 ribbons, 894 print settings, 5 languages\n"_s << QString();
+            << QStringList{u"build"_s, SampleCatalogue, u"@new.db"_s} << 0
+            << u"@new.db: 46 supplies, 22 ribbons, 894 print settings, 5 languages\n"_s
+            << QString();
         QTest::newRow("check")
-            << QStringList{u"check"_s, u"roll.db"_s} << 0
-            << u"roll.db: in order, 3 supplies, 3 ribbons, 4 print settings, 3 languages\n"_s
+            << QStringList{u"check"_s, u"@roll.db"_s} << 0
+            << u"@roll.db: in order, 3 supplies, 3 ribbons, 4 print settings, 3 languages\n"_s
             << QString();
         QTest::newRow("show")
-            << QStringList{u"show"_s, u"--language"_s, u"de"_s, u"roll.db"_s, u"RIBBON-T"_s} << 0
+            << QStringList{u"show"_s, u"--language"_s, u"de"_s, u"@roll.db"_s, u"RIBBON-T"_s} << 0
             << u"ribbon:          RIBBON-T\ntype:            resin\nwidth:           2.4 in\n"
                "length:          4725 in\npanel:           #008080 Teal\n"_s
             << QString();
@@ -567,33 +570,38 @@ private Q_SLOTS:
             << u"rolldb: \"fix\" is none of build, check and show"_s + usage;
         QTest::newRow("too few arguments") << QStringList{u"build"_s, u"x"_s} << 2 << QString()
                                            << u"rolldb: build takes 2 arguments, not 1"_s + usage;
-        QTest::newRow("another option") << QStringList{u"check"_s, u"--fix"_s, u"roll.db"_s} << 2
+        QTest::newRow("another option") << QStringList{u"check"_s, u"--fix"_s, u"@roll.db"_s} << 2
                                         << QString() << u"rolldb: Unknown option 'fix'."_s + usage;
         QTest::newRow("another language")
-            << QStringList{u"show"_s, u"--language"_s, u"xx"_s, u"roll.db"_s, u"TAPE-1"_s} << 2
+            << QStringList{u"show"_s, u"--language"_s, u"xx"_s, u"@roll.db"_s, u"TAPE-1"_s} << 2
             << QString() << u"rolldb: \"xx\" is no language that names are had in"_s + usage;
-        QTest::newRow("no directory") << QStringList{u"build"_s, u"nowhere"_s, u"new.db"_s} << 1
-                                      << QString() << u"rolldb: nowhere: no such directory\n"_s;
+        QTest::newRow("no directory") << QStringList{u"build"_s, u"@nowhere"_s, u"@new.db"_s} << 1
+                                      << QString() << u"rolldb: @nowhere: no such directory\n"_s;
         QTest::newRow("no tables")
-            << QStringList{u"build"_s, u"."_s, u"new.db"_s} << 1 << QString()
+            << QStringList{u"build"_s, u"@"_s, u"@new.db"_s} << 1 << QString()
             << u"rolldb: colours.csv: no such file, or it cannot be read\n"_s;
-        QTest::newRow("no file") << QStringList{u"check"_s, u"none.db"_s} << 1 << QString()
-                                 << u"rolldb: none.db: no such file\n"_s;
-        QTest::newRow("no database") << QStringList{u"show"_s, u"text.db"_s, u"TAPE-1"_s} << 1
-                                     << QString() << u"rolldb: text.db: not an SQLite database\n"_s;
+        QTest::newRow("no file") << QStringList{u"check"_s, u"@none.db"_s} << 1 << QString()
+                                 << u"rolldb: @none.db: no such file\n"_s;
+        QTest::newRow("no database")
+            << QStringList{u"show"_s, u"@text.db"_s, u"TAPE-1"_s} << 1 << QString()
+            << u"rolldb: @text.db: not an SQLite database\n"_s;
     }
     void theToolEndsAsItShould()
     {
         QFETCH(QStringList, arguments);
+        QFETCH(QString, output);
+        QFETCH(QString, error);
+        const QString folder = m_folder->path() + u'/';
         SmallCatalogue().write(path());
         writeFile(m_folder->filePath(u"text.db"_s), "not a database");
         QProcess tool;
-        tool.setWorkingDirectory(m_folder->path());
-        tool.start(QStringLiteral(VX_ROLLDB), arguments);
+        tool.start(QStringLiteral(VX_ROLLDB), arguments.replaceInStrings(u"@"_s, folder));
         QVERIFY2(tool.waitForFinished(), qPrintable(tool.errorString()));
         QCOMPARE(tool.exitStatus(), QProcess::NormalExit);
-        QTEST(QString::fromUtf8(tool.readAllStandardError()).remove(u'\r'), "error");
-        QTEST(QString::fromUtf8(tool.readAllStandardOutput()).remove(u'\r'), "output");
+        QCOMPARE(QString::fromUtf8(tool.readAllStandardError()).remove(u'\r'),
+                 error.replace(u"@"_s, folder));
+        QCOMPARE(QString::fromUtf8(tool.readAllStandardOutput()).remove(u'\r'),
+                 output.replace(u"@"_s, folder));
         QTEST(tool.exitCode(), "status");
     }
 

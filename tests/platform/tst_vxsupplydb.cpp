@@ -590,6 +590,14 @@ private Q_SLOTS:
         QVERIFY(QFile::setPermissions(path(), QFileDevice::ReadOwner | QFileDevice::WriteOwner));
     }
 
+    void readsAFileOfAnyName()
+    {
+        const QString name = m_folder->filePath(QStringLiteral("Rollen #1 ラベル é.db"));
+        QVERIFY(QFile::copy(path(), name));
+        m_database->setup(name, QStringLiteral("Etikettendrucker é_CONNECTION_NAME"));
+        QCOMPARE(m_database->supplyColorName(Tape), QStringLiteral("White"));
+    }
+
     // Also shows that no lock is left on a file that was read from.
     void aChangedFileIsNoticedAtTheNextSetup()
     {
