@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QtCore/QCache>
+#include <QtCore/QString>
 #include <QtCore/QVariant>
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlError>
@@ -16,21 +17,38 @@
 /// An answer is default-constructed and each row is read into it, so a key that the database does
 /// not know has the answer with the defaults, which is kept too. The least recently used answers
 /// go when their cost together exceeds the capacity.
+///
+/// Who asks for two keys will ask for more: a statement for all keys, where there is one, fills the
+/// memory when the second key must be asked, for less than asking for a few of them one by one.
 template <typename Key, typename Answer>
 class KeptQuery
 {
 public:
     using ReadRow = void (*)(const QSqlQuery& row, Answer& answer);
     using Cost = qsizetype (*)(const Answer& answer);
+    using KeyOf = Key (*)(const QSqlQuery& row);
+
+    /// A statement whose rows are the answers to all keys, a row for each. Its parameters are the
+    /// first ones of the statement for one key.
+    struct All
+    {
+        QString statement;
+        KeyOf keyOf;
+    };
 
     KeptQuery(
-        const char* statement, ReadRow readRow, qsizetype capacity,
+        const QString& statement, ReadRow readRow, qsizetype capacity,
         Cost cost = [](const Answer&) -> qsizetype { return 1; })
         : m_statement(statement)
         , m_readRow(readRow)
         , m_cost(cost)
         , m_answers(capacity)
     {}
+    KeptQuery(const QString& statement, ReadRow readRow, qsizetype capacity, const All& all)
+        : KeptQuery(statement, readRow, capacity)
+    {
+        m_all = all;
+    }
 
     /// The answer to a key; the values are bound to the statement's parameters, in the order of
     /// their places in its text, when it must be asked. The reference holds until the next call. An
@@ -40,9 +58,15 @@ public:
     {
         if (const Answer* kept = m_answers.object(key))
             return *kept;
+        const QVariantList bound{QVariant(values)...};
+        if (m_all && ++m_misses == 2) {
+            askAll(database, bound);
+            if (const Answer* kept = m_answers.object(key))
+                return *kept;
+        }
         m_unkept = Answer();
         auto fresh = std::make_unique<Answer>();
-        if (!ask(database, *fresh, {QVariant(values)...}))
+        if (!ask(database, *fresh, bound))
             return m_unkept;
         const qsizetype cost = m_cost(*fresh);
         if (cost > m_answers.maxCost()) {
@@ -55,7 +79,11 @@ public:
     }
 
     /// Forgets the answers.
-    void clear() { m_answers.clear(); }
+    void clear()
+    {
+        m_answers.clear();
+        m_misses = 0;
+    }
 
     /// Forgets the answers and lets go of the connection.
     void reset()
@@ -80,22 +108,45 @@ private:
         return isWhole;
     }
 
+    void askAll(const QSqlDatabase& database, const QVariantList& values)
+    {
+        QSqlQuery query(database);
+        query.setForwardOnly(true);
+        if (!database.isOpen() || !query.prepare(m_all->statement))
+            return;
+        const qsizetype parameters = m_all->statement.count(u'?');
+        for (qsizetype i = 0; i < parameters; ++i)
+            query.bindValue(static_cast<int>(i), values.at(i));
+        if (!query.exec())
+            return;
+        while (m_answers.size() < m_answers.maxCost() && query.next()) {
+            const Key key = m_all->keyOf(query);
+            if (m_answers.contains(key))
+                continue;
+            auto answer = std::make_unique<Answer>();
+            m_readRow(query, *answer);
+            m_answers.insert(key, answer.release());
+        }
+    }
+
     bool prepare(const QSqlDatabase& database)
     {
         if (m_query)
             return true;
         QSqlQuery query(database);
         query.setForwardOnly(true);
-        if (!query.prepare(QString::fromLatin1(m_statement)))
+        if (!query.prepare(m_statement))
             return false;
         m_query = std::move(query);
         return true;
     }
 
-    const char* m_statement;
+    QString m_statement;
     ReadRow m_readRow;
     Cost m_cost;
     QCache<Key, Answer> m_answers;
     Answer m_unkept{};
     std::optional<QSqlQuery> m_query;
+    std::optional<All> m_all;
+    int m_misses = 0;
 };

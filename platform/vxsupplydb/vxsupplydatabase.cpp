@@ -27,7 +27,29 @@ constexpr qsizetype KeptListEntries = 16384;
 constexpr qsizetype KeptImageBytes = 4 * 1024 * 1024;
 
 // What is asked of one thing goes in small groups. Qt prepares each column of an answer anew, so a
-// first question that had to read all there is would take several times as long.
+// first question that had to read all there is would take several times as long. Keys are bound
+// after the language, where the tables ask for one.
+
+struct Question
+{
+    const char* columns;
+    const char* tables;
+    const char* keys;
+
+    QString forOne() const
+    {
+        const QString keyColumns = QString::fromLatin1(keys);
+        const QStringList marks(keyColumns.count(u',') + 1, QStringLiteral("?"));
+        return QStringLiteral("SELECT %1 FROM %2 WHERE (%3) = (%4)")
+            .arg(QLatin1String(columns), QLatin1String(tables), keyColumns,
+                 marks.join(QStringLiteral(", ")));
+    }
+    QString forAll() const
+    {
+        return QStringLiteral("SELECT %1, %3 FROM %2")
+            .arg(QLatin1String(columns), QLatin1String(tables), QLatin1String(keys));
+    }
+};
 
 struct Colour
 {
@@ -35,38 +57,35 @@ struct Colour
     QString name;
     QString nameEn;
 };
-constexpr const char* ColourSql = R"(
-    SELECT c.rgb, n.english, t.text
-    FROM supply s
+constexpr Question ColourQuestion{R"(c.rgb, n.english, t.text)",
+                                  R"(supply s
     JOIN colour c ON c.id = s.colour_id
     JOIN name n ON n.id = c.name_id
-    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?
-    WHERE s.sku = ?)";
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?)",
+                                  "s.sku"};
 
 struct SecondColour : Colour
 {
     double width = -1.0;
 };
-constexpr const char* SecondColourSql = R"(
-    SELECT c.rgb, n.english, t.text, s.second_colour_width
-    FROM supply s
+constexpr Question SecondColourQuestion{R"(c.rgb, n.english, t.text, s.second_colour_width)",
+                                        R"(supply s
     JOIN colour c ON c.id = s.second_colour_id
     JOIN name n ON n.id = c.name_id
-    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?
-    WHERE s.sku = ?)";
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?)",
+                                        "s.sku"};
 
 struct Material
 {
     int id = -1;
     QString name;
 };
-constexpr const char* MaterialSql = R"(
-    SELECT m.id, coalesce(t.text, n.english)
-    FROM supply s
+constexpr Question MaterialQuestion{R"(m.id, coalesce(t.text, n.english))",
+                                    R"(supply s
     JOIN material m ON m.id = s.material_id
     JOIN name n ON n.id = m.name_id
-    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?
-    WHERE s.sku = ?)";
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?)",
+                                    "s.sku"};
 
 struct Format
 {
@@ -74,13 +93,12 @@ struct Format
     QString name;
     QString type;
 };
-constexpr const char* FormatSql = R"(
-    SELECT f.id, coalesce(t.text, n.english), f.type
-    FROM supply s
+constexpr Question FormatQuestion{R"(f.id, coalesce(t.text, n.english), f.type)",
+                                  R"(supply s
     JOIN format f ON f.id = s.format_id
     JOIN name n ON n.id = f.name_id
-    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?
-    WHERE s.sku = ?)";
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?)",
+                                  "s.sku"};
 
 struct Size
 {
@@ -89,10 +107,9 @@ struct Size
     double labelLength = -1.0;
     double separatorWidth = -1.0;
 };
-constexpr const char* SizeSql = R"(
-    SELECT width, length, coalesce(label_length, -1.0), coalesce(separator_width, -1.0)
-    FROM supply
-    WHERE sku = ?)";
+constexpr Question SizeQuestion{
+    R"(width, length, coalesce(label_length, -1.0), coalesce(separator_width, -1.0))", R"(supply)",
+    "sku"};
 
 struct Arrangement
 {
@@ -100,10 +117,8 @@ struct Arrangement
     int multiUpCount = 1;
     double multiUpGap = -1.0;
 };
-constexpr const char* ArrangementSql = R"(
-    SELECT is_landscape, multi_up_count, coalesce(multi_up_gap, -1.0)
-    FROM supply
-    WHERE sku = ?)";
+constexpr Question ArrangementQuestion{
+    R"(is_landscape, multi_up_count, coalesce(multi_up_gap, -1.0))", R"(supply)", "sku"};
 
 constexpr const char* BackgroundSql = R"(
     SELECT b.image
@@ -131,19 +146,17 @@ struct Ribbon
     double length = -1.0;
     int panels = -1;
 };
-constexpr const char* RibbonSql = R"(
-    SELECT type, width, length, (SELECT count(*) FROM ribbon_panel WHERE ribbon_sku = sku)
-    FROM ribbon
-    WHERE sku = ?)";
+constexpr Question RibbonQuestion{
+    R"(type, width, length, (SELECT count(*) FROM ribbon_panel WHERE ribbon_sku = sku))",
+    R"(ribbon)", "sku"};
 
 using PanelKey = std::pair<QString, int>;
-constexpr const char* PanelColourSql = R"(
-    SELECT c.rgb, n.english, t.text
-    FROM ribbon_panel p
+constexpr Question PanelColourQuestion{R"(c.rgb, n.english, t.text)",
+                                       R"(ribbon_panel p
     JOIN colour c ON c.id = p.colour_id
     JOIN name n ON n.id = c.name_id
-    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?
-    WHERE p.ribbon_sku = ? AND p.panel = ?)";
+    LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?)",
+                                       "p.ribbon_sku, p.panel"};
 
 struct SettingKey
 {
@@ -164,10 +177,8 @@ struct PrintSetting
     int maxSpeed = -1;
     int tension = -1;
 };
-constexpr const char* SettingSql = R"(
-    SELECT heat, heat_offset, max_speed, tension
-    FROM print_setting
-    WHERE ribbon_sku = ? AND panel = ? AND supply_sku = ?)";
+constexpr Question SettingQuestion{R"(heat, heat_offset, max_speed, tension)", R"(print_setting)",
+                                   "ribbon_sku, panel, supply_sku"};
 
 constexpr const char* SupplyOfKindSql = "SELECT supply_sku FROM supply_kind WHERE kind = ?";
 constexpr const char* RibbonOfNumberSql = "SELECT ribbon_sku FROM ribbon_number WHERE number = ?";
@@ -188,6 +199,12 @@ constexpr const char* RibbonsSql = R"(
     LEFT JOIN ribbon_panel p ON p.ribbon_sku = r.sku AND p.panel = 1
     LEFT JOIN colour c ON c.id = p.colour_id
     ORDER BY r.sku)";
+
+template <int Column>
+QString textAt(const QSqlQuery& row)
+{
+    return row.value(Column).toString();
+}
 
 // The key of an answer to a question that takes none.
 constexpr int Whole = 0;
@@ -238,71 +255,87 @@ public:
     std::optional<QString> supplySku;
     std::optional<QStringList> ribbonSkus;
 
-    KeptQuery<QString, Colour> colours{ColourSql, readColour, KeptRecords};
-    KeptQuery<QString, SecondColour> secondColours{SecondColourSql,
+    KeptQuery<QString, Colour> colours{
+        ColourQuestion.forOne(), readColour, KeptRecords, {ColourQuestion.forAll(), textAt<3>}};
+    KeptQuery<QString, SecondColour> secondColours{SecondColourQuestion.forOne(),
                                                    [](const QSqlQuery& row, SecondColour& colour) {
                                                        readColour(row, colour);
                                                        colour.width = row.value(3).toDouble();
                                                    },
-                                                   KeptRecords};
+                                                   KeptRecords,
+                                                   {SecondColourQuestion.forAll(), textAt<4>}};
     KeptQuery<QString, Material> materials{
-        MaterialSql,
+        MaterialQuestion.forOne(),
         [](const QSqlQuery& row, Material& material) {
             material = {row.value(0).toInt(), row.value(1).toString()};
         },
-        KeptRecords};
+        KeptRecords,
+        {MaterialQuestion.forAll(), textAt<2>}};
     KeptQuery<QString, Format> formats{
-        FormatSql,
+        FormatQuestion.forOne(),
         [](const QSqlQuery& row, Format& format) {
             format = {row.value(0).toInt(), row.value(1).toString(), row.value(2).toString()};
         },
-        KeptRecords};
-    KeptQuery<QString, Size> sizes{SizeSql,
+        KeptRecords,
+        {FormatQuestion.forAll(), textAt<3>}};
+    KeptQuery<QString, Size> sizes{SizeQuestion.forOne(),
                                    [](const QSqlQuery& row, Size& size) {
                                        size = {row.value(0).toDouble(), row.value(1).toDouble(),
                                                row.value(2).toDouble(), row.value(3).toDouble()};
                                    },
-                                   KeptRecords};
+                                   KeptRecords,
+                                   {SizeQuestion.forAll(), textAt<4>}};
     KeptQuery<QString, Arrangement> arrangements{
-        ArrangementSql,
+        ArrangementQuestion.forOne(),
         [](const QSqlQuery& row, Arrangement& arrangement) {
             arrangement = {row.value(0).toInt(), row.value(1).toInt(), row.value(2).toDouble()};
         },
-        KeptRecords};
+        KeptRecords,
+        {ArrangementQuestion.forAll(), textAt<3>}};
     KeptQuery<QString, QByteArray> backgrounds{
-        BackgroundSql,
+        QString::fromLatin1(BackgroundSql),
         [](const QSqlQuery& row, QByteArray& image) { image = row.value(0).toByteArray(); },
         KeptImageBytes, imageBytes};
-    KeptQuery<QString, TypeIndices> typeIndices{TypeIndicesSql,
+    KeptQuery<QString, TypeIndices> typeIndices{QString::fromLatin1(TypeIndicesSql),
                                                 [](const QSqlQuery& row, TypeIndices& indices) {
                                                     indices.insert(row.value(0).toString(),
                                                                    row.value(1).toInt());
                                                 },
                                                 KeptRecords};
     KeptQuery<int, QStringList> models{
-        ModelsSql,
+        QString::fromLatin1(ModelsSql),
         [](const QSqlQuery& row, QStringList& names) { names.append(row.value(0).toString()); }, 1};
-    KeptQuery<QString, Ribbon> ribbons{RibbonSql,
+    KeptQuery<QString, Ribbon> ribbons{RibbonQuestion.forOne(),
                                        [](const QSqlQuery& row, Ribbon& ribbon) {
                                            ribbon = {row.value(0).toString(),
                                                      row.value(1).toDouble(),
                                                      row.value(2).toDouble(), row.value(3).toInt()};
                                        },
-                                       KeptRecords};
-    KeptQuery<PanelKey, Colour> panelColours{PanelColourSql, readColour, KeptRecords};
+                                       KeptRecords,
+                                       {RibbonQuestion.forAll(), textAt<4>}};
+    KeptQuery<PanelKey, Colour> panelColours{
+        PanelColourQuestion.forOne(),
+        readColour,
+        KeptRecords,
+        {PanelColourQuestion.forAll(), [](const QSqlQuery& row) {
+             return PanelKey(row.value(3).toString(), row.value(4).toInt());
+         }}};
+    // Not all at once: a printer asks for the few of what it has loaded, and there are many.
     KeptQuery<SettingKey, PrintSetting> settings{
-        SettingSql,
+        SettingQuestion.forOne(),
         [](const QSqlQuery& row, PrintSetting& setting) {
             setting = {row.value(0).toInt(), row.value(1).toInt(), row.value(2).toInt(),
                        row.value(3).toInt()};
         },
         KeptSettings};
-    KeptQuery<int, QString> suppliesOfKinds{SupplyOfKindSql, readText, KeptRecords};
-    KeptQuery<int, QString> ribbonsOfNumbers{RibbonOfNumberSql, readText, KeptRecords};
-    KeptQuery<int, Catalogue> supplies{SuppliesSql, readCatalogue, KeptListEntries,
-                                       catalogueEntries};
-    KeptQuery<int, Catalogue> allRibbons{RibbonsSql, readCatalogue, KeptListEntries,
-                                         catalogueEntries};
+    KeptQuery<int, QString> suppliesOfKinds{QString::fromLatin1(SupplyOfKindSql), readText,
+                                            KeptRecords};
+    KeptQuery<int, QString> ribbonsOfNumbers{QString::fromLatin1(RibbonOfNumberSql), readText,
+                                             KeptRecords};
+    KeptQuery<int, Catalogue> supplies{QString::fromLatin1(SuppliesSql), readCatalogue,
+                                       KeptListEntries, catalogueEntries};
+    KeptQuery<int, Catalogue> allRibbons{QString::fromLatin1(RibbonsSql), readCatalogue,
+                                         KeptListEntries, catalogueEntries};
 
     void resetQueries()
     {

@@ -713,7 +713,8 @@ private Q_SLOTS:
     void keepsNoMoreAnswersThanItMay()
     {
         const Other other(path());
-        KeptQuery<int, QString> query("SELECT english FROM name WHERE id = ?", readText, 2);
+        KeptQuery<int, QString> query(QStringLiteral("SELECT english FROM name WHERE id = ?"),
+                                      readText, 2);
         const auto answer = [&](int id) {
             return query.answer(other.database(), id, id);
         };
@@ -728,11 +729,36 @@ private Q_SLOTS:
         QCOMPARE(answer(1), QStringLiteral("new"));
     }
 
+    void readsAllAtTheSecondKey()
+    {
+        const Other other(path());
+        KeptQuery<int, QString> query(
+            QStringLiteral("SELECT english FROM name WHERE id = ?"), readText, 4,
+            {QStringLiteral("SELECT english, id FROM name ORDER BY id DESC"),
+             [](const QSqlQuery& row) {
+                 return row.value(1).toInt();
+             }});
+        const auto answer = [&](int id) {
+            return query.answer(other.database(), id, id);
+        };
+        QVERIFY(other.run("UPDATE name SET english = 'name ' || id"));
+        const int last = 8; // colours, materials and formats
+        QCOMPARE(answer(last), QStringLiteral("name 8"));
+        QVERIFY(other.run("UPDATE name SET english = 'new ' || id"));
+        QCOMPARE(answer(last), QStringLiteral("name 8")); // one key was not enough
+        QCOMPARE(answer(last - 1), QStringLiteral("new 7"));
+        QVERIFY(other.run("UPDATE name SET english = 'newer ' || id"));
+        QCOMPARE(answer(last), QStringLiteral("name 8")); // what was kept stays
+        QCOMPARE(answer(last - 3), QStringLiteral("new 5"));
+        QCOMPARE(answer(last - 4), QStringLiteral("newer 4")); // there was room for four
+        QCOMPARE(answer(99), QString());
+    }
+
     void doesNotKeepAnAnswerThatIsTooLarge()
     {
         const Other other(path());
-        KeptQuery<int, QString> query("SELECT english FROM name WHERE id = ?", readText, 4,
-                                      [](const QString& text) { return text.size(); });
+        KeptQuery<int, QString> query(QStringLiteral("SELECT english FROM name WHERE id = ?"),
+                                      readText, 4, [](const QString& text) { return text.size(); });
         const auto answer = [&](int id) {
             return query.answer(other.database(), id, id);
         };
@@ -746,7 +772,8 @@ private Q_SLOTS:
     void doesNotKeepAFailure()
     {
         const Other other(path());
-        KeptQuery<int, QString> query("SELECT text FROM remark WHERE id = ?", readText, 2);
+        KeptQuery<int, QString> query(QStringLiteral("SELECT text FROM remark WHERE id = ?"),
+                                      readText, 2);
         QCOMPARE(query.answer(other.database(), 1, 1), QString());
         QVERIFY(other.run("CREATE TABLE remark (id INTEGER PRIMARY KEY, text TEXT)"));
         QVERIFY(other.run("INSERT INTO remark VALUES (1, 'here')"));
