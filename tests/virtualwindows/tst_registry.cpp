@@ -190,6 +190,9 @@ void RegistryTest::absentKeys_data()
     QTest::newRow("other hive") << QString(root).replace(QLatin1String("LOCAL_MACHINE"),
                                                          QLatin1String("CURRENT_USER"));
     QTest::newRow("name that begins like the root") << root + QLatin1Char('2');
+    QTest::newRow("class without its separator") << root + printerClass;
+    QTest::newRow("parameters without a separator")
+        << root + parametersOf(QStringLiteral("k")).mid(root.size() + 1);
     QTest::newRow("root within a path") << QStringLiteral("X\\") + root;
     QTest::newRow("class") << path({otherClass});
     QTest::newRow("device") << path({printerClass, QStringLiteral("absent")});

@@ -379,22 +379,32 @@ void KernelEventsTest::badHandleInAListTakesNothing()
 
 void KernelEventsTest::lastErrorIsOfTheThread()
 {
-    // Starting and joining threads may well leave errors of their own.
-    const EventHandle begin = autoEvent();
-    const EventHandle done = autoEvent();
+    // The threads meet without calls, which would set and restore last errors of their own.
+    std::atomic<int> stage = 0;
+    const auto waitFor = [&stage](int wanted) {
+        while (stage != wanted)
+            std::this_thread::yield();
+    };
     DWORD errorOfThread = ERROR_SUCCESS;
-    const std::jthread thread([&] {
-        WaitForSingleObject(begin.get(), INFINITE);
+    DWORD errorOfThreadLater = ERROR_SUCCESS;
+    std::jthread thread([&] {
+        waitFor(1);
         SetEvent(INVALID_HANDLE_VALUE);
         errorOfThread = GetLastError();
-        SetEvent(done.get());
+        stage = 2;
+        waitFor(3);
+        errorOfThreadLater = GetLastError();
     });
     SetLastError(1234);
-    SetEvent(begin.get());
-    WaitForSingleObject(done.get(), INFINITE);
+    stage = 1;
+    waitFor(2);
     const DWORD error = GetLastError();
+    SetLastError(4321);
+    stage = 3;
+    thread.join();
     QCOMPARE(error, DWORD{1234});
     QCOMPARE(errorOfThread, DWORD{ERROR_INVALID_HANDLE});
+    QCOMPARE(errorOfThreadLater, DWORD{ERROR_INVALID_HANDLE});
 }
 
 void KernelEventsTest::successLeavesTheLastErrorAlone()
