@@ -54,6 +54,8 @@ IpcPublisher::IpcPublisher(QObject& object, const QMetaObject& base)
 
 IpcPublisher::~IpcPublisher()
 {
+    if (!m_name.isEmpty())
+        IpcScope::withdraw(m_name);
     for (IpcConnection* connection : std::as_const(m_connections))
         connection->disconnect(this);
     // While the dispatcher they use is there.
@@ -82,17 +84,17 @@ void IpcPublisher::publish(const QString& name)
     listen(candidate);
 }
 
-bool IpcPublisher::listen(const QString& name)
+void IpcPublisher::listen(const QString& name)
 {
     const QString address = IpcScope::address(name);
     QLocalServer::removeServer(address);
     if (m_server.listen(address)) {
         m_name = name;
-        return true;
+        IpcScope::announce(m_name);
+        return;
     }
     qCWarning(vxIpc, "%s is not published: %s", qUtf8Printable(name),
               qUtf8Printable(m_server.errorString()));
-    return false;
 }
 
 void IpcPublisher::onNewConnection()

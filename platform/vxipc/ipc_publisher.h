@@ -30,7 +30,7 @@ public:
     QString name() const { return m_name; }
 
 private:
-    bool listen(const QString& name);
+    void listen(const QString& name);
     void onNewConnection();
     void onTurnWanted(IpcConnection* connection);
     void onFinished(IpcConnection* connection);

@@ -18,6 +18,10 @@ QString prepare();
 /// The file that a process locks while it takes a name.
 QString lockFile();
 
+/// Makes a published name one of names(), and ends that.
+void announce(const QString& name);
+void withdraw(const QString& name);
+
 /// The names that begin with `prefix` and may be reachable; some may belong to dead processes.
 QStringList names(const QString& prefix);
 

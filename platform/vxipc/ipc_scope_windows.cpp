@@ -3,6 +3,7 @@
 #include "ipc_scope.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 
 #include <array>
 
@@ -23,6 +24,12 @@ QString ending()
     return QLatin1Char('@') + QString::fromWCharArray(user.data());
 }
 
+/// A file for each published name. Not every system that runs Windows programs lists its pipes.
+QDir announcements()
+{
+    return QDir(QDir::temp().filePath(QStringLiteral("vxipc")));
+}
+
 } // namespace
 
 QString address(const QString& name)
@@ -41,22 +48,21 @@ QString lockFile()
     return QDir::temp().filePath(QStringLiteral("vxipc.lock"));
 }
 
+void announce(const QString& name)
+{
+    const QDir folder = announcements();
+    folder.mkpath(QStringLiteral("."));
+    QFile(folder.filePath(name)).open(QIODevice::WriteOnly);
+}
+
+void withdraw(const QString& name)
+{
+    QFile::remove(announcements().filePath(name));
+}
+
 QStringList names(const QString& prefix)
 {
-    QStringList found;
-    const QString mine = ending();
-    WIN32_FIND_DATAW entry = {};
-    const HANDLE search = FindFirstFileW(L"\\\\.\\pipe\\*", &entry);
-    if (search == INVALID_HANDLE_VALUE)
-        return found;
-    do {
-        const QString name = QString::fromWCharArray(entry.cFileName);
-        if (name.startsWith(prefix) && name.endsWith(mine))
-            found.append(name.chopped(mine.size()));
-    } while (FindNextFileW(search, &entry));
-    FindClose(search);
-    found.sort();
-    return found;
+    return announcements().entryList({prefix + QLatin1Char('*')}, QDir::Files, QDir::Name);
 }
 
 } // namespace IpcScope
