@@ -1,0 +1,110 @@
+# SPDX-License-Identifier: MIT
+# Copyright The VxPrinterStatus authors
+"""Runs the tool against an endpoint.
+
+test_vxipc_tool.py TOOL HOST, where HOST publishes the test service.
+"""
+import json
+import os
+import subprocess
+import sys
+import unittest
+
+TOOL, HOST = sys.argv[1:]
+
+
+class Tool(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.service = str(os.getpid() % 4000000 * 100 + 98)
+        cls.host = subprocess.Popen(
+            [HOST, cls.service], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        cls.name = cls.host.stdout.readline().strip()
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.host.stdin.close()
+        cls.host.stdout.close()
+        cls.host.wait(timeout=30)
+
+    def run_tool(self, *arguments):
+        done = subprocess.run([TOOL, *arguments], capture_output=True, text=True, timeout=30)
+        return done.returncode, done.stdout, done.stderr
+
+    def check_output(self, arguments, output):
+        self.assertEqual(self.run_tool(*arguments), (0, output, ""))
+
+    def check_complaint(self, arguments, status, complaint):
+        returned, output, errors = self.run_tool(*arguments)
+        self.assertEqual((returned, output), (status, ""))
+        self.assertTrue(errors.startswith("vxipc: "), errors)
+        self.assertEqual(errors.count("\n"), 1, errors)
+        self.assertIn(complaint, errors)
+
+    def test_lists(self):
+        row = f"{self.name}\t{self.service}\t{self.host.pid}\tipc_test_host\n"
+        self.assertIn(row, self.run_tool("list")[1])
+        listed = {each["name"]: each for each in json.loads(self.run_tool("list", "--json")[1])}
+        self.assertEqual(listed[self.name],
+                         {"name": self.name, "service": self.service, "process": self.host.pid,
+                          "application": "ipc_test_host", "error": None})
+
+    def test_describes(self):
+        _, output, _ = self.run_tool("describe", self.service)
+        self.assertIn("scale(value: int, [factor: int]) -> int\n", output)
+        document = json.loads(self.run_tool("--json", "describe", self.name)[1])
+        self.assertEqual(document["info"]["title"], self.name)
+
+    def test_calls(self):
+        for arguments, output in [
+                (["echo", "12"], "12\n"),
+                (["echo", "Jägergrün"], "Jägergrün\n"),
+                (["echo", "--", "--json"], "--json\n"),
+                (["scale", "-3"], "-30\n"),
+                (["scale", "-3", "2"], "-6\n"),
+                (["invert", "true"], "false\n"),
+                (["note", "a"], ""),
+                (["note", "a", "--json"], "null\n"),
+                (["echo", "a", "--json"], "\"a\"\n"),
+                (["sorted", '["b","a"]'], "a\nb\n"),
+                (["hashEcho", '{"b":1,"a":"x"}'], "a: x\nb: 1\n"),
+                (["unsignedWideEcho", "18446744073709551615"], "18446744073709551615\n"),
+                (["wideEcho", "5"], "5\n"),
+                (["overloaded", "1"], "int\n"),
+                (["overloaded", "x"], "text\n"),
+                (["overloaded", "1", "2"], "int, wide\n"),
+                (["overloaded", "1", "2x"], "int, text\n")]:
+            with self.subTest(arguments):
+                self.check_output(["call", self.service, *arguments], output)
+
+    def test_says_what_failed(self):
+        for arguments, complaint in [
+                (["nothing"], "there is no method nothing"),
+                (["deleteLater"], "there is no method deleteLater"),
+                (["scale", "x"], "do not fit scale(value: int, [factor: int])"),
+                (["scale"], "do not fit"),
+                (["scale", "3000000000"], "argument 1 (value): expected a whole number"),
+                (["block", "400", "--timeout", "50"], "did not answer in time")]:
+            with self.subTest(arguments):
+                self.check_complaint(["call", self.service, *arguments], 1, complaint)
+        nobody = str(int(self.service) + 1)
+        self.check_complaint(["call", nobody, "echo", "a"], 1, "no endpoint answers")
+        self.check_complaint(["describe", nobody], 1, "no endpoint answers")
+
+    def test_refuses_wrong_usage(self):
+        for arguments in [[], ["nothing"], ["list", "x"], ["describe"], ["describe", "1", "2"],
+                          ["call"], ["call", "supplyd"], ["call", "nosuch", "echo"],
+                          ["describe", "vxipc-"], ["list", "--other"], ["list", "--timeout"],
+                          ["list", "--timeout", "x"], ["list", "--timeout", "0"]]:
+            with self.subTest(arguments):
+                self.check_complaint(arguments, 2, "")
+
+    def test_helps(self):
+        status, output, _ = self.run_tool("--help")
+        self.assertEqual(status, 0)
+        for verb in ("list", "describe", "call"):
+            self.assertIn(verb, output)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
