@@ -7,19 +7,26 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-/// The test service in a process of its own, which ends with this object at the latest.
+/// Services in a process of their own, which ends with this object at the latest.
 class HostProcess
 {
 public:
-    /// Starts and waits until the service is published.
+    /// The test service.
     explicit HostProcess(int serverType)
+        : HostProcess(QStringLiteral("ipc_test_host"), {QString::number(serverType)}, 1)
+    {}
+
+    /// A program beside this one. Starts it and waits until it has published so many services.
+    HostProcess(const QString& program, const QStringList& arguments, int services)
     {
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/ipc_test_host"),
-                        {QString::number(serverType)});
-        while (!m_process.canReadLine() && m_process.waitForReadyRead()) {
+        m_process.start(QCoreApplication::applicationDirPath() + QLatin1Char('/') + program,
+                        arguments);
+        for (int i = 0; i < services; ++i) {
+            while (!m_process.canReadLine() && m_process.waitForReadyRead()) {
+            }
+            m_names.append(QString::fromLocal8Bit(m_process.readLine()).trimmed());
         }
-        m_name = QString::fromLocal8Bit(m_process.readLine()).trimmed();
     }
 
     ~HostProcess()
@@ -31,7 +38,7 @@ public:
     Q_DISABLE_COPY_MOVE(HostProcess)
 
     /// Empty when it could not be started.
-    QString serverName() const { return m_name; }
+    QString serverName(int service = 0) const { return m_names.at(service); }
     qint64 processId() const { return m_process.processId(); }
 
     /// Ends it in the middle of whatever it is doing.
@@ -43,5 +50,5 @@ public:
 
 private:
     QProcess m_process;
-    QString m_name;
+    QStringList m_names;
 };
