@@ -148,6 +148,9 @@ private Q_SLOTS:
         row("no SKU", supplies, "TAPE-1,100042", "-1,100042",
             "supplies.csv:2, column 1 (sku): \"-1\" is no SKU: at most 40 letters from A to Z, "
             "digits, dots, underscores and hyphens, a letter or digit first");
+        row("a SKU of two lines", supplies, "SPARE-1", "\"SPARE\n\x1b[2J\"",
+            "supplies.csv:4, column 1 (sku): \"SPARE\\u000a\\u001b[2J\" is no SKU: at most 40 "
+            "letters from A to Z, digits, dots, underscores and hyphens, a letter or digit first");
         row("a SKU twice", supplies, "SPARE-1", "TAPE-1",
             "supplies.csv:4, column 1 (sku): TAPE-1 is there twice");
         row("a kind twice", supplies, "100050", "100043",
