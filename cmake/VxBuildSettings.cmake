@@ -53,3 +53,8 @@ if(VX_SANITIZE_FLAGS)
     add_compile_options(${VX_SANITIZE_FLAGS})
     add_link_options(${VX_SANITIZE_FLAGS})
 endif()
+
+if(VX_BUILD_FUZZERS)
+    # In all libraries: a fuzzer learns from which branches an input takes.
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// One table as a spreadsheet may write it. It is refused in one line that names the file, or all of
+// its fields can be had.
+#include "require.h"
+
+#include <csv_table.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    const QString file = QStringLiteral("table.csv");
+    try {
+        const CsvTable table = CsvTable::parse(
+            file, QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
+        require(!table.columns().isEmpty(), "a table has columns");
+        for (qsizetype row = 0; row < table.rowCount(); ++row) {
+            bool hasText = false;
+            for (const QString& column : table.columns()) {
+                const CsvField field = table.field(row, column);
+                require(field.text == field.text.trimmed(), "a field has no spaces around it");
+                require(!field.text.contains(QChar::Null), "a field has no NUL");
+                require(field.place.startsWith(file), "a field knows its file");
+                hasText = hasText || !field.text.isEmpty();
+            }
+            require(hasText, "a row has text");
+        }
+    } catch (const Fault& fault) {
+        require(fault.message().startsWith(file), "a fault says in which file it is");
+        require(std::ranges::none_of(fault.message(),
+                                     [](QChar character) {
+                                         return character.category() == QChar::Other_Control ||
+                                                character.category() == QChar::Separator_Line ||
+                                                character.category() == QChar::Separator_Paragraph;
+                                     }),
+                "a fault is one line");
+    }
+    return 0;
+}

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// What a client of an endpoint sends: the first byte says in pieces of which size the rest arrives.
+// Lines are taken out, parsed and carried out as an endpoint does it, and each answer has to be one
+// that JSON-RPC 2.0 knows.
+#include "fuzz_service.h"
+#include "require.h"
+
+#include <ipc_dispatcher.h>
+#include <json_rpc.h>
+#include <line_buffer.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QSet>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+
+namespace {
+
+const QSet<int> ErrorCodes{JsonRpc::ParseError, JsonRpc::InvalidRequest, JsonRpc::MethodNotFound,
+                           JsonRpc::InvalidParams};
+
+void checkAnswer(const QJsonObject& answer)
+{
+    require(answer.value(QStringLiteral("jsonrpc")) == QStringLiteral("2.0"), "the version is 2.0");
+    require(answer.contains(QStringLiteral("id")), "an answer has an id");
+    require(answer.size() == 3, "an answer has three members");
+    require(answer.contains(QStringLiteral("result")) != answer.contains(QStringLiteral("error")),
+            "an answer has a result or an error");
+    if (answer.contains(QStringLiteral("error"))) {
+        const QJsonObject error = answer.value(QStringLiteral("error")).toObject();
+        require(ErrorCodes.contains(error.value(QStringLiteral("code")).toInt()),
+                "the error is one that is documented");
+        require(!error.value(QStringLiteral("message")).toString().isEmpty(),
+                "the error has a message");
+    }
+    const QByteArray line = JsonRpc::line(answer);
+    require(line.indexOf('\n') == line.size() - 1, "an answer is one line");
+    const QJsonObject read = QJsonDocument::fromJson(line).object();
+    require(read.keys() == answer.keys(), "an answer can be read again");
+}
+
+void checkRequest(const IpcDispatcher& dispatcher, const QJsonValue& request)
+{
+    const std::optional<QJsonObject> answer = dispatcher.handle(request);
+    const QJsonValue id = request.toObject().value(QStringLiteral("id"));
+    if (!answer) {
+        require(request.isObject() && id.isUndefined(), "only a notification has no answer");
+        return;
+    }
+    checkAnswer(*answer);
+    const QJsonValue answeredId = answer->value(QStringLiteral("id"));
+    require(answeredId == id || answeredId.isNull(), "the answer is to this request");
+    if (answer->contains(QStringLiteral("result")))
+        require(answeredId == id, "a result is for its request");
+}
+
+void checkLine(const IpcDispatcher& dispatcher, const QByteArray& line)
+{
+    const IpcDispatcher::Message message = IpcDispatcher::parse(line);
+    if (message.failure) {
+        require(message.requests.isEmpty(), "a line that failed has no requests");
+        checkAnswer(*message.failure);
+        return;
+    }
+    require(message.isBatch || message.requests.size() == 1, "what is no batch is one request");
+    for (const QJsonValue& request : message.requests)
+        checkRequest(dispatcher, request);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    static int argc = 1;
+    static char name[] = "fuzz_json_rpc";
+    static char* argv[] = {name, nullptr};
+    static const QCoreApplication application(argc, argv);
+    static FuzzService service;
+    static const IpcDispatcher dispatcher(service, QObject::staticMetaObject,
+                                          QStringLiteral("fuzz"));
+    if (size == 0)
+        return 0;
+    const qsizetype piece = std::max<qsizetype>(data[0], 1);
+    const QByteArray bytes(reinterpret_cast<const char*>(data) + 1,
+                           static_cast<qsizetype>(size) - 1);
+    LineBuffer buffer;
+    qsizetype taken = 0;
+    for (qsizetype at = 0; at < bytes.size(); at += piece) {
+        buffer.append(bytes.mid(at, piece));
+        while (buffer.hasLine()) {
+            const QByteArray line = buffer.takeLine();
+            require(line == bytes.mid(taken, line.size()), "lines are the bytes that arrived");
+            taken += line.size() + 1;
+            if (!line.trimmed().isEmpty())
+                checkLine(dispatcher, line);
+        }
+    }
+    require(taken + buffer.lineSize() == bytes.size(), "no byte is lost");
+    return 0;
+}
