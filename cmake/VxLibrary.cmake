@@ -22,4 +22,11 @@ set_target_properties(vxprinterstatus PROPERTIES
     LINKER_LANGUAGE CXX)
 if(WIN32)
     set_target_properties(vxprinterstatus PROPERTIES PREFIX "")
+    enable_language(RC)
+    configure_file(cmake/vxprinterstatus.rc.in "${PROJECT_BINARY_DIR}/vxprinterstatus.rc" @ONLY)
+    target_sources(vxprinterstatus PRIVATE "${PROJECT_BINARY_DIR}/vxprinterstatus.rc")
+endif()
+if(MINGW)
+    # MinGW's linker would export whatever the static libraries bring along.
+    target_link_options(vxprinterstatus PRIVATE -Wl,--exclude-all-symbols)
 endif()

@@ -16,6 +16,7 @@ function(vx_add_test name)
         RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests"
         WIN32_EXECUTABLE OFF)
     add_test(NAME ${name} COMMAND ${name})
+    # A test that hangs is killed and reported within a minute.
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 60
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FORCE_STDERR_LOGGING=1")

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// What the library shows to the programs that load it.
+#include "printer_status_thread.h"
+
+#include <QtCore/QRegularExpression>
+#include <QtTest/QtTest>
+
+#include <windows.h>
+
+class ExportsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void exportsItsClassesAndNothingElse();
+    void carriesItsVersion();
+};
+
+void ExportsTest::exportsItsClassesAndNothingElse()
+{
+    const HMODULE module = GetModuleHandleW(L"vxprinterstatus.dll");
+    QVERIFY(module);
+    const auto* base = reinterpret_cast<const BYTE*>(module);
+    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
+    const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+    const auto& directory = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT];
+    const auto* exports =
+        reinterpret_cast<const IMAGE_EXPORT_DIRECTORY*>(base + directory.VirtualAddress);
+    const auto* names = reinterpret_cast<const DWORD*>(base + exports->AddressOfNames);
+
+    // A class's name is part of the names of its members, its tables and its meta-object.
+    const QRegularExpression known(QStringLiteral(
+        "(PrinterStatusThread|PrinterStatusInformation|PrinterStatusController|WindowsPrinterInfo|"
+        "SupplyInformation|PrintJobMetaData|VXIPCSUPPLYDController|VXIPCM4Controller|"
+        "VXIPCPRINTQDController|VXPrinting)"));
+    QStringList unknown;
+    QSet<QString> classes;
+    for (DWORD index = 0; index < exports->NumberOfNames; ++index) {
+        const QString name =
+            QString::fromLatin1(reinterpret_cast<const char*>(base + names[index]));
+        const QRegularExpressionMatch match = known.match(name);
+        if (match.hasMatch())
+            classes.insert(match.captured(1));
+        else
+            unknown.append(name);
+    }
+    QCOMPARE(unknown, QStringList());
+    QVERIFY(classes.contains(QStringLiteral("PrinterStatusThread")));
+    QVERIFY(classes.contains(QStringLiteral("WindowsPrinterInfo")));
+    QVERIFY(classes.contains(QStringLiteral("VXIPCM4Controller")));
+}
+
+void ExportsTest::carriesItsVersion()
+{
+    const HMODULE module = GetModuleHandleW(L"vxprinterstatus.dll");
+    const HRSRC resource = FindResourceW(module, MAKEINTRESOURCEW(VS_VERSION_INFO), RT_VERSION);
+    QVERIFY(resource);
+    const auto* bytes = static_cast<const char*>(LockResource(LoadResource(module, resource)));
+    const QString text = QString::fromUtf16(reinterpret_cast<const char16_t*>(bytes),
+                                            SizeofResource(module, resource) / 2);
+    QVERIFY(text.contains(QStringLiteral("FileVersion")));
+    QVERIFY(text.contains(QStringLiteral(VX_VERSION)));
+    QVERIFY(text.contains(QStringLiteral("vxprinterstatus.dll")));
+    // Linked at load time, and not only found by this test.
+    QCOMPARE(PrinterStatusThread::staticMetaObject.className(), "PrinterStatusThread");
+}
+
+QTEST_GUILESS_MAIN(ExportsTest)
+#include "tst_exports.moc"

@@ -1,0 +1,377 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// The library as it ships, from the spooler's printers and the real registry to its signals.
+#include "fixture.h"
+#include "registry_notifications.h"
+#include "report_recorder.h"
+
+#include "windows_printer_info.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QSettings>
+#include <QtTest/QtTest>
+
+#include <optional>
+
+using VXPrinting::PrinterType;
+
+namespace {
+
+const QString deviceClasses =
+    QStringLiteral("HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control\\DeviceClasses");
+
+struct Value
+{
+    const char* name;
+    DWORD type;
+    QByteArray data;
+};
+
+QByteArray word(quint32 number)
+{
+    QByteArray bytes(sizeof number, Qt::Uninitialized);
+    qToLittleEndian(number, bytes.data());
+    return bytes;
+}
+
+QByteArray text(const QByteArray& characters)
+{
+    return characters + '\0';
+}
+
+} // namespace
+
+class LibraryOnWindowsTest : public WindowsApiTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init() override;
+    void cleanup() override;
+
+    void printersOfEveryModelAreListed();
+    void offlinePrinters();
+    void administrationAndDefaultPrinter();
+    void recordOfAPrinter();
+    void serialNumbersFromTheRegistry();
+    void firstReadReportsEverything();
+    void changeOfEachValue_data();
+    void changeOfEachValue();
+    void renamedInNothingButItsValues();
+    void spoolerThatStopsAndComesBack();
+    void printerThatDoesNotExist();
+    void stopEndsTheThread();
+
+private:
+    bool publish(const QString& printer, const Value& value)
+    {
+        const PrinterHandle handle = openPrinter(printer);
+        QByteArray name = value.name;
+        QByteArray data = value.data;
+        return handle && SetPrinterDataA(handle.get(), name.data(), value.type,
+                                         reinterpret_cast<LPBYTE>(data.data()),
+                                         static_cast<DWORD>(data.size())) == ERROR_SUCCESS;
+    }
+    QString addPrinter(const char* model)
+    {
+        const QString name = fixture::uniqueName(QStringLiteral("Label Printer"));
+        const bool added = fixture::addPrinter({name, QString::fromLatin1(model)});
+        return added ? name : QString();
+    }
+    void watch(const QString& printer)
+    {
+        m_thread.emplace();
+        m_reports.emplace(*m_thread);
+        m_thread->setMonitoredPrinterName(printer);
+        m_thread->start();
+    }
+    /// Waits for a report and takes everything up to it.
+    bool waitFor(const Report& report, int milliseconds = 10000)
+    {
+        const QDeadlineTimer limit(milliseconds);
+        QList<Report> seen;
+        while (!limit.hasExpired()) {
+            seen += m_reports->take();
+            if (seen.contains(report))
+                return true;
+            QTest::qWait(10);
+        }
+        for (const Report& other : std::as_const(seen))
+            qWarning("seen instead: %s", toString(other));
+        return false;
+    }
+
+    std::optional<PrinterStatusThread> m_thread;
+    std::optional<ReportRecorder> m_reports;
+};
+
+void LibraryOnWindowsTest::initTestCase()
+{
+    if (!fixture::has(Behaviour::ChangeNotifications))
+        QVERIFY(supplyChangeNotifications(L"vxprinterstatus.dll"));
+}
+
+void LibraryOnWindowsTest::init()
+{
+    WindowsApiTest::init();
+    QVERIFY(fixture::setSpoolerRunning(true));
+}
+
+void LibraryOnWindowsTest::cleanup()
+{
+    if (m_thread) {
+        while (!m_thread->wait(10))
+            m_thread->stop();
+    }
+    m_reports.reset();
+    m_thread.reset();
+    WindowsApiTest::cleanup();
+}
+
+void LibraryOnWindowsTest::printersOfEveryModelAreListed()
+{
+    const QList<QPair<const char*, PrinterType>> models{
+        {"Stratamark Alder", PrinterType::Alder},
+        {"Stratamark BirchMax", PrinterType::BirchMax},
+        {"Stratamark CedarMax", PrinterType::CedarMax},
+        {"Stratamark AlderMax", PrinterType::AlderMax},
+        {"Harlow Devices Old", PrinterType::Generic},
+        {"Some Office Printer", PrinterType::Unknown},
+    };
+    for (const auto& [driver, type] : models) {
+        const QString name = addPrinter(driver);
+        QVERIFY(!name.isEmpty());
+        const QList<AvailablePrinters> printers = WindowsPrinterInfo::getAvailablePrinters();
+        const auto found =
+            std::find_if(printers.begin(), printers.end(),
+                         [&](const AvailablePrinters& entry) { return entry.printerName == name; });
+        QVERIFY2(found != printers.end(), driver);
+        QCOMPARE(found->driverName, QString::fromLatin1(driver));
+        QCOMPARE(found->portName, QStringLiteral("001"));
+        QCOMPARE(WindowsPrinterInfo::printerType(found->driverName), type);
+        QVERIFY(!found->isNetworkPrinter && !found->isShared && !found->isOffline);
+    }
+}
+
+void LibraryOnWindowsTest::offlinePrinters()
+{
+    const QString printer = fixture::uniqueName(QStringLiteral("Label Printer"));
+    QVERIFY(
+        fixture::addPrinter({printer, QStringLiteral("Stratamark Alder"), QStringLiteral("USB001"),
+                             PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_SHARED}));
+    QVERIFY(!WindowsPrinterInfo::isPrinterOffline(printer));
+    QVERIFY(WindowsPrinterInfo::getAvailablePrinterInfo(printer).isShared);
+
+    QSettings key(QStringLiteral("HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Control\\Print\\"
+                                 "Printers\\") +
+                      printer,
+                  QSettings::NativeFormat);
+    key.setValue(QStringLiteral("Attributes"),
+                 PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_WORK_OFFLINE);
+    key.sync();
+    QVERIFY(WindowsPrinterInfo::isPrinterOffline(printer));
+    QVERIFY(WindowsPrinterInfo::getAvailablePrinterInfo(printer).isOffline);
+    QVERIFY(WindowsPrinterInfo::isPrinterOffline(QStringLiteral("No Such Printer")));
+}
+
+void LibraryOnWindowsTest::administrationAndDefaultPrinter()
+{
+    const QString printer = addPrinter("Stratamark Alder");
+    QVERIFY(WindowsPrinterInfo::isPrinterAdmin(printer));
+    QVERIFY(!WindowsPrinterInfo::isPrinterAdmin(QStringLiteral("No Such Printer")));
+
+    const QString before = WindowsPrinterInfo::getDefaultPrinterName();
+    QVERIFY(SetDefaultPrinterW(WideText(printer)));
+    QCOMPARE(WindowsPrinterInfo::getDefaultPrinterName(), printer);
+    if (!before.isEmpty())
+        QVERIFY(SetDefaultPrinterW(WideText(before)));
+}
+
+void LibraryOnWindowsTest::recordOfAPrinter()
+{
+    const QString printer = addPrinter("Stratamark CedarMax");
+    const AvailablePrinters info = WindowsPrinterInfo::getAvailablePrinterInfo(printer);
+    QCOMPARE(info.printerName, printer);
+    QCOMPARE(info.driverName, QStringLiteral("Stratamark CedarMax"));
+    QCOMPARE(WindowsPrinterInfo::getAvailablePrinterInfo(QStringLiteral("None")).driverName,
+             QString());
+}
+
+void LibraryOnWindowsTest::serialNumbersFromTheRegistry()
+{
+    const QString guid = QStringLiteral("{0c5b2d1e-7a3f-4d52-9d55-%1}")
+                             .arg(QCoreApplication::applicationPid(), 12, 10, QLatin1Char('0'));
+    const QString serialNumber = QStringLiteral("SN-%1").arg(QCoreApplication::applicationPid());
+    const auto device = [&](int instance) {
+        return QStringLiteral("##?#USB#VID_3E7A&PID_0101#%1#%2\\#\\Device Parameters")
+            .arg(QString::number(instance), guid);
+    };
+    {
+        QSettings classes(deviceClasses + QLatin1Char('\\') + guid, QSettings::NativeFormat);
+        for (int instance : {1, 2}) {
+            QSettings parameters(deviceClasses + QLatin1Char('\\') + guid + QLatin1Char('\\') +
+                                     device(instance),
+                                 QSettings::NativeFormat);
+            parameters.setValue(QStringLiteral("Port Number"), 65536 + 40 + instance);
+            parameters.setValue(QStringLiteral("Serial Number"),
+                                serialNumber + QString::number(instance));
+        }
+    }
+    const QString file = QString::fromWCharArray(_wgetenv(L"APPDATA")) +
+                         QStringLiteral("\\Harlow Devices Inc\\Quillmark.ini");
+
+    QCOMPARE(WindowsPrinterInfo::getDriverGUID(), guid);
+    QCOMPARE(WindowsPrinterInfo::getDeviceSerialNumber(41), serialNumber + QLatin1Char('1'));
+    QCOMPARE(WindowsPrinterInfo::getDeviceSerialNumber(42), serialNumber + QLatin1Char('2'));
+    QCOMPARE(WindowsPrinterInfo::getDeviceSerialNumber(43), serialNumber + QLatin1Char('2'));
+    {
+        QSettings recorded(file, QSettings::IniFormat);
+        recorded.beginGroup(QStringLiteral("associatedPrinters"));
+        QVERIFY2(recorded.contains(serialNumber + QLatin1Char('1')), qPrintable(file));
+        QVERIFY(QDateTime::fromString(recorded.value(serialNumber + QLatin1Char('2')).toString(),
+                                      QStringLiteral("yyyy-MM-dd hh:mm:ss"))
+                    .isValid());
+        recorded.remove(serialNumber + QLatin1Char('1'));
+        recorded.remove(serialNumber + QLatin1Char('2'));
+    }
+
+    QSettings(deviceClasses, QSettings::NativeFormat).remove(guid);
+    QVERIFY(WindowsPrinterInfo::getDriverGUID() != guid);
+}
+
+void LibraryOnWindowsTest::firstReadReportsEverything()
+{
+    const QString printer = addPrinter("Stratamark AlderMax");
+    const QList<Value> values{
+        {"SupplyIdentifier", REG_SZ, text("12345678901234567890")},
+        {"Ribbon1Identifier", REG_DWORD, word(101)},
+        {"Ribbon2Identifier", REG_BINARY, word(102)},
+        {"StatusCode", REG_SZ, text("1")},
+        {"SoftwareVersion", REG_BINARY, text("4.2,boot")},
+        {"EthernetConfig", REG_SZ, text("dhcp")},
+        {"Mileage", REG_DWORD, word(152400)},
+        {"Ribbon1Mileage", REG_DWORD, word(130001)}, // too many to be true
+        {"Ribbon2Mileage", REG_DWORD, word(0xFFFFFFFF)},
+        {"UpdateProgress", REG_DWORD, word(0)},
+        {"UpdateError", REG_SZ, text("7")}, // no number
+    };
+    for (const Value& value : values)
+        QVERIFY2(publish(printer, value), value.name);
+
+    watch(printer);
+    QList<Report> reports;
+    QTRY_VERIFY_WITH_TIMEOUT((reports += m_reports->take()).size() >= 9, 10000);
+    const auto report = [&](const char* signal, const char* value) {
+        return Report{QString::fromLatin1(signal), printer, {QString::fromLatin1(value)}};
+    };
+    QCOMPARE(reports, (QList<Report>{
+                          report("printerStatusChanged", "1"),
+                          report("supplyIdChanged", "12345678901234567890"),
+                          {QStringLiteral("ribbonIdsChanged"),
+                           printer,
+                           {QStringLiteral("101"), QStringLiteral("102")}},
+                          report("supplyIntMileageChanged", "152400"),
+                          report("ribbon2IntMileageChanged", "4294967295"),
+                          {QStringLiteral("printerNameChangedSignal"), printer, {printer}},
+                          report("softwareVersionChanged", "4.2,boot"),
+                          report("ethernetConfigChanged", "dhcp"),
+                          report("updateProgressChanged", "0"),
+                      }));
+}
+
+void LibraryOnWindowsTest::changeOfEachValue_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<quint32>("type");
+    QTest::addColumn<QByteArray>("data");
+    QTest::addColumn<QString>("signal");
+    QTest::addColumn<QStringList>("values");
+    const auto row = [](const Value& value, const char* signal, const QStringList& values) {
+        QTest::newRow(value.name) << QByteArray(value.name) << quint32(value.type) << value.data
+                                  << QString::fromLatin1(signal) << values;
+    };
+    const auto one = [](const char* value) {
+        return QStringList{QString::fromLatin1(value)};
+    };
+    row({"SupplyIdentifier", REG_SZ, text("000001F4100001000001")}, "supplyIdChanged",
+        one("000001F4100001000001"));
+    row({"Ribbon1Identifier", REG_DWORD, word(7)}, "ribbonIdsChanged",
+        {QStringLiteral("7"), QString()});
+    row({"Ribbon2Identifier", REG_DWORD, word(8)}, "ribbonIdsChanged",
+        {QString(), QStringLiteral("8")});
+    row({"StatusCode", REG_SZ, text("42")}, "printerStatusChanged", one("42"));
+    row({"SoftwareVersion", REG_SZ, text("5.0")}, "softwareVersionChanged", one("5.0"));
+    row({"EthernetConfig", REG_SZ, text("static")}, "ethernetConfigChanged", one("static"));
+    row({"Mileage", REG_DWORD, word(100)}, "supplyIntMileageChanged", one("100"));
+    row({"Ribbon1Mileage", REG_DWORD, word(200)}, "ribbon1IntMileageChanged", one("200"));
+    row({"Ribbon2Mileage", REG_DWORD, word(300)}, "ribbon2IntMileageChanged", one("300"));
+    row({"UpdateProgress", REG_DWORD, word(50)}, "updateProgressChanged", one("50"));
+    row({"UpdateError", REG_DWORD, word(9)}, "updateErrorChanged", one("9"));
+}
+
+void LibraryOnWindowsTest::changeOfEachValue()
+{
+    QFETCH(const QByteArray, name);
+    QFETCH(const quint32, type);
+    QFETCH(const QByteArray, data);
+    QFETCH(const QString, signal);
+    QFETCH(const QStringList, values);
+    const QString printer = addPrinter("Stratamark AlderMax");
+    watch(printer);
+    QVERIFY(waitFor({QStringLiteral("printerNameChangedSignal"), printer, {printer}}));
+    QVERIFY(publish(printer, {name.constData(), type, data}));
+    QVERIFY(waitFor({signal, printer, values}));
+}
+
+void LibraryOnWindowsTest::renamedInNothingButItsValues()
+{
+    const QString printer = addPrinter("Stratamark AlderMax");
+    const QString other = addPrinter("Stratamark Alder");
+    watch(printer);
+    QVERIFY(waitFor({QStringLiteral("printerNameChangedSignal"), printer, {printer}}));
+    // Another printer's values are not this one's.
+    QVERIFY(publish(other, {"StatusCode", REG_SZ, text("13")}));
+    QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("14")}));
+    QVERIFY(waitFor({QStringLiteral("printerStatusChanged"), printer, {QStringLiteral("14")}}));
+}
+
+void LibraryOnWindowsTest::spoolerThatStopsAndComesBack()
+{
+    const QString printer = addPrinter("Stratamark AlderMax");
+    QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("1")}));
+    watch(printer);
+    QVERIFY(waitFor({QStringLiteral("printerStatusChanged"), printer, {QStringLiteral("1")}}));
+
+    QVERIFY(fixture::setSpoolerRunning(false));
+    QVERIFY(
+        waitFor({QStringLiteral("printerStatusChanged"), printer, {QStringLiteral("254")}}, 15000));
+    QVERIFY(fixture::setSpoolerRunning(true));
+    QVERIFY(
+        waitFor({QStringLiteral("printerStatusChanged"), printer, {QStringLiteral("1")}}, 15000));
+    QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("3")}));
+    QVERIFY(waitFor({QStringLiteral("printerStatusChanged"), printer, {QStringLiteral("3")}}));
+}
+
+void LibraryOnWindowsTest::printerThatDoesNotExist()
+{
+    watch(fixture::uniqueName(QStringLiteral("No Such Printer")));
+    while (!m_thread->wait(10))
+        m_thread->stop();
+    QVERIFY(m_reports->take().isEmpty());
+}
+
+void LibraryOnWindowsTest::stopEndsTheThread()
+{
+    const QString printer = addPrinter("Stratamark Alder");
+    watch(printer);
+    QVERIFY(waitFor({QStringLiteral("printerNameChangedSignal"), printer, {printer}}));
+    QElapsedTimer clock;
+    clock.start();
+    while (!m_thread->wait(10))
+        m_thread->stop();
+    QVERIFY(clock.elapsed() < 4000); // not with the next poll of the service
+}
+
+QTEST_GUILESS_MAIN(LibraryOnWindowsTest)
+#include "tst_library_on_windows.moc"
