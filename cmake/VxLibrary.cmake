@@ -6,7 +6,7 @@
 include(GNUInstallDirs)
 
 set(VX_PUBLIC_HEADERS
-    printer_status_controller.h printer_status_thread.h printer_status_information.h
+    printer_status_thread.h printer_status_information.h
     printer_types.h windows_printer_info.h vx_ipc_supplyd_controller.h vx_ipc_m4_controller.h
     vx_ipc_printqd_controller.h supply_information.h print_job_meta_data.h vxprinterstatus_export.h)
 
@@ -16,6 +16,9 @@ add_library(Vx::PrinterStatus ALIAS vxprinterstatus)
 target_link_libraries(vxprinterstatus
     PUBLIC Qt6::Core Qt6::Gui Vx::WindowsApi Vx::Ipc
     PRIVATE vx_build_settings vx_winprint vx_ipc_endpoints vx_status)
+target_include_directories(vxprinterstatus PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VxPrinterStatus>)
 set_target_properties(vxprinterstatus PROPERTIES
     OUTPUT_NAME vxprinterstatus
     EXPORT_NAME PrinterStatus

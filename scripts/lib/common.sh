@@ -81,3 +81,40 @@ build_preset() {
     rm -f "$log"
     say "built $preset in $(seconds_since $began) s"
 }
+
+windows_packages=(ca-certificates ccache cmake g++-mingw-w64-x86-64-posix ninja-build python3
+    qt6-base-dev qt6-base-dev-tools qt6-l10n-tools qt6-tools-dev-tools)
+
+# Where MinGW's run-time DLLs are: GCC's and the threads'.
+mingw_dll_folders() {
+    local name
+    for name in libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll; do
+        dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name="$name")"
+    done | sort -u
+}
+
+# use_wine PREFIX: makes a Wine prefix if there is none, and lets Windows programs find the DLLs.
+use_wine() {
+    export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
+    export QT_FORCE_STDERR_LOGGING=1
+    WINEPATH=$(windows_paths "$root/build/windows/bin" "$VX_QT_MINGW/bin" $(mingw_dll_folders))
+    export WINEPATH
+    if [ ! -f "$WINEPREFIX/ready" ]; then
+        say "making a Wine prefix"
+        mkdir -p "$WINEPREFIX"
+        wine wineboot -i >/dev/null 2>&1 || fail "wine could not make a prefix in $WINEPREFIX"
+        wineserver -w
+        touch "$WINEPREFIX/ready"
+    fi
+    # Kept up for all the tests: each would otherwise start Wine's services anew.
+    wineserver -p
+}
+
+end_wine() { wineserver -k || true; }
+
+# windows_paths FOLDER...: as Windows programs under Wine see them.
+windows_paths() {
+    local folder paths=()
+    for folder in "$@"; do paths+=("Z:${folder//\//\\}"); done
+    (IFS=';' && echo "${paths[*]}")
+}

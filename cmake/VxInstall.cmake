@@ -1,0 +1,66 @@
+# SPDX-License-Identifier: MIT
+# Copyright The VxPrinterStatus authors
+#
+# What is installed: the library for hosts with its CMake package, and the tools.
+
+include(CMakePackageConfigHelpers)
+
+set(VX_PACKAGE_FOLDER "${CMAKE_INSTALL_LIBDIR}/cmake/VxPrinterStatus")
+set(VX_HEADER_FOLDER "${CMAKE_INSTALL_INCLUDEDIR}/VxPrinterStatus")
+
+set(installed_targets vxprinterstatus vx_windows_api)
+if(VX_IPC_PROVIDER STREQUAL "own")
+    list(APPEND installed_targets vxipc)
+    install(FILES
+        platform/vxipc/ivxipcm4.h
+        platform/vxipc/ivxipcprintqd.h
+        platform/vxipc/ivxipcsupplyd.h
+        platform/vxipc/vxipcclient.h
+        platform/vxipc/vxipcserver.h
+        DESTINATION "${VX_HEADER_FOLDER}")
+endif()
+if(NOT WIN32)
+    list(APPEND installed_targets virtualwindows)
+    install(DIRECTORY virtualwindows/include/ DESTINATION "${VX_HEADER_FOLDER}/virtualwindows"
+        PATTERN fleet.h EXCLUDE)
+endif()
+
+install(TARGETS ${installed_targets} EXPORT VxPrinterStatusTargets
+    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+if(TARGET cutelogger)
+    # Ours to bring along, as the library needs it to run; a host that logs finds it there as well.
+    install(TARGETS cutelogger
+        RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+    install(FILES
+        platform/cutelogger/AbstractAppender.h
+        platform/cutelogger/ConsoleAppender.h
+        platform/cutelogger/CuteLogger_global.h
+        platform/cutelogger/FileAppender.h
+        platform/cutelogger/Logger.h
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/CuteLogger")
+endif()
+foreach(tool vxprintmon vxipc_tool rolldb)
+    if(TARGET ${tool})
+        install(TARGETS ${tool} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+    endif()
+endforeach()
+
+foreach(header IN LISTS VX_PUBLIC_HEADERS)
+    install(FILES "include/${header}" DESTINATION "${VX_HEADER_FOLDER}")
+endforeach()
+install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/VxPrinterStatus")
+
+install(EXPORT VxPrinterStatusTargets NAMESPACE Vx:: DESTINATION "${VX_PACKAGE_FOLDER}")
+configure_package_config_file(cmake/VxPrinterStatusConfig.cmake.in
+    "${PROJECT_BINARY_DIR}/VxPrinterStatusConfig.cmake"
+    INSTALL_DESTINATION "${VX_PACKAGE_FOLDER}")
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/VxPrinterStatusConfigVersion.cmake"
+    COMPATIBILITY SameMajorVersion)
+install(FILES
+    "${PROJECT_BINARY_DIR}/VxPrinterStatusConfig.cmake"
+    "${PROJECT_BINARY_DIR}/VxPrinterStatusConfigVersion.cmake"
+    DESTINATION "${VX_PACKAGE_FOLDER}")
