@@ -62,6 +62,8 @@ seconds_since() { echo $((SECONDS - $1)); }
 # only when it fails.
 build_preset() {
     local preset=$1 target=${2:-all} began=$SECONDS log
+    # Clones in other folders find in the compiler's cache what this one has compiled.
+    export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
     log=$(mktemp)
     say "configuring $preset"
     (cd "$root" && cmake --preset "$preset") >"$log" 2>&1 || {
