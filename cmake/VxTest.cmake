@@ -16,8 +16,13 @@ function(vx_add_test name)
         RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests"
         WIN32_EXECUTABLE OFF)
     add_test(NAME ${name} COMMAND ${name})
-    # A test that hangs is killed and reported within a minute.
+    # A test that hangs is killed and reported within a minute; sanitizers slow everything down.
+    if(VX_SANITIZE)
+        set(limit 300)
+    else()
+        set(limit 60)
+    endif()
     set_tests_properties(${name} PROPERTIES
-        TIMEOUT 60
+        TIMEOUT ${limit}
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FORCE_STDERR_LOGGING=1")
 endfunction()
