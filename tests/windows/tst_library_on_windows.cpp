@@ -1,17 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 // The library as it ships, from the spooler's printers and the real registry to its signals.
-#include "fixture.h"
-#include "registry_notifications.h"
-#include "report_recorder.h"
+#include "library_test.h"
 
 #include "windows_printer_info.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QSettings>
-#include <QtTest/QtTest>
-
-#include <optional>
 
 using VXPrinting::PrinterType;
 
@@ -20,36 +15,13 @@ namespace {
 const QString deviceClasses =
     QStringLiteral("HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control\\DeviceClasses");
 
-struct Value
-{
-    const char* name;
-    DWORD type;
-    QByteArray data;
-};
-
-QByteArray word(quint32 number)
-{
-    QByteArray bytes(sizeof number, Qt::Uninitialized);
-    qToLittleEndian(number, bytes.data());
-    return bytes;
-}
-
-QByteArray text(const QByteArray& characters)
-{
-    return characters + '\0';
-}
-
 } // namespace
 
-class LibraryOnWindowsTest : public WindowsApiTest
+class LibraryOnWindowsTest : public LibraryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init() override;
-    void cleanup() override;
-
     void printersOfEveryModelAreListed();
     void offlinePrinters();
     void administrationAndDefaultPrinter();
@@ -59,75 +31,9 @@ private Q_SLOTS:
     void changeOfEachValue_data();
     void changeOfEachValue();
     void renamedInNothingButItsValues();
-    void spoolerThatStopsAndComesBack();
     void printerThatDoesNotExist();
     void stopEndsTheThread();
-
-private:
-    bool publish(const QString& printer, const Value& value)
-    {
-        const PrinterHandle handle = openPrinter(printer);
-        QByteArray name = value.name;
-        QByteArray data = value.data;
-        return handle && SetPrinterDataA(handle.get(), name.data(), value.type,
-                                         reinterpret_cast<LPBYTE>(data.data()),
-                                         static_cast<DWORD>(data.size())) == ERROR_SUCCESS;
-    }
-    QString addPrinter(const char* model)
-    {
-        const QString name = fixture::uniqueName(QStringLiteral("Label Printer"));
-        const bool added = fixture::addPrinter({name, QString::fromLatin1(model)});
-        return added ? name : QString();
-    }
-    void watch(const QString& printer)
-    {
-        m_thread.emplace();
-        m_reports.emplace(*m_thread);
-        m_thread->setMonitoredPrinterName(printer);
-        m_thread->start();
-    }
-    /// Waits for a report and takes everything up to it.
-    bool waitFor(const Report& report, int milliseconds = 10000)
-    {
-        const QDeadlineTimer limit(milliseconds);
-        QList<Report> seen;
-        while (!limit.hasExpired()) {
-            seen += m_reports->take();
-            if (seen.contains(report))
-                return true;
-            QTest::qWait(10);
-        }
-        for (const Report& other : std::as_const(seen))
-            qWarning("seen instead: %s", toString(other));
-        return false;
-    }
-
-    std::optional<PrinterStatusThread> m_thread;
-    std::optional<ReportRecorder> m_reports;
 };
-
-void LibraryOnWindowsTest::initTestCase()
-{
-    if (!fixture::has(Behaviour::ChangeNotifications))
-        QVERIFY(supplyChangeNotifications(L"vxprinterstatus.dll"));
-}
-
-void LibraryOnWindowsTest::init()
-{
-    WindowsApiTest::init();
-    QVERIFY(fixture::setSpoolerRunning(true));
-}
-
-void LibraryOnWindowsTest::cleanup()
-{
-    if (m_thread) {
-        while (!m_thread->wait(10))
-            m_thread->stop();
-    }
-    m_reports.reset();
-    m_thread.reset();
-    WindowsApiTest::cleanup();
-}
 
 void LibraryOnWindowsTest::printersOfEveryModelAreListed()
 {
@@ -334,28 +240,6 @@ void LibraryOnWindowsTest::renamedInNothingButItsValues()
     QVERIFY(publish(other, {"StatusCode", REG_SZ, text("13")}));
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("14")}));
     QVERIFY(waitFor({QStringLiteral("printerStatusChanged"), printer, {QStringLiteral("14")}}));
-}
-
-void LibraryOnWindowsTest::spoolerThatStopsAndComesBack()
-{
-    const QString printer = addPrinter("Stratamark AlderMax");
-    QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("1")}));
-    watch(printer);
-    QVERIFY(waitFor({QStringLiteral("printerStatusChanged"), printer, {QStringLiteral("1")}}));
-
-    QVERIFY(fixture::setSpoolerRunning(false));
-    QVERIFY(
-        waitFor({QStringLiteral("printerStatusChanged"), printer, {QStringLiteral("254")}}, 15000));
-    // Wine's service manager can take the late end of the process that was stopped for that of the
-    // one that was started: asked again, it starts another.
-    const auto hasComeBack = [&] {
-        return fixture::setSpoolerRunning(true) &&
-               waitFor({QStringLiteral("printerStatusChanged"), printer, {QStringLiteral("1")}},
-                       1000);
-    };
-    QTRY_VERIFY_WITH_TIMEOUT(hasComeBack(), 25000);
-    QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("3")}));
-    QVERIFY(waitFor({QStringLiteral("printerStatusChanged"), printer, {QStringLiteral("3")}}));
 }
 
 void LibraryOnWindowsTest::printerThatDoesNotExist()

@@ -30,23 +30,24 @@ void* allocate(Allocation allocation)
 
 } // namespace
 
+// Visible: a sanitizer's library refers to them as well.
 extern "C" {
 void* __real_malloc(std::size_t size);
 void* __real_calloc(std::size_t count, std::size_t size);
 void __real_free(void* block);
 
-void* __wrap_malloc(std::size_t size)
+Q_DECL_EXPORT void* __wrap_malloc(std::size_t size)
 {
     return allocate([&] { return __real_malloc(size); });
 }
 
 // What an optimizing compiler makes of malloc and clearing.
-void* __wrap_calloc(std::size_t count, std::size_t size)
+Q_DECL_EXPORT void* __wrap_calloc(std::size_t count, std::size_t size)
 {
     return allocate([&] { return __real_calloc(count, size); });
 }
 
-void __wrap_free(void* block)
+Q_DECL_EXPORT void __wrap_free(void* block)
 {
     allocated.erase(block);
     __real_free(block);

@@ -188,7 +188,8 @@ void CuteLoggerTest::fileAppender()
     const QString name = folder.filePath(QStringLiteral("log"));
     const auto lines = [&] {
         QFile file(name);
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+        return file.open(QIODevice::ReadOnly | QIODevice::Text) ? QString::fromUtf8(file.readAll())
+                                                                : QString();
     };
     Logger logger;
     auto* appender = new FileAppender(name);
