@@ -9,12 +9,6 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-// Clients name the argument GUID, and on Windows that is the name of a type, too.
-#ifdef __GNUC__
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wshadow"
-#endif
-
 /// The print-queue service, for a host that wants to serve it; the library itself never creates
 /// one.
 ///
@@ -49,7 +43,3 @@ public Q_SLOTS:
     bool clearPrintJob() override;
     bool clearAllPrintJobs() override;
 };
-
-#ifdef __GNUC__
-#pragma GCC diagnostic pop
-#endif

@@ -8,12 +8,6 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-// Clients name the argument GUID, and on Windows that is the name of a type, too.
-#ifdef __GNUC__
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wshadow"
-#endif
-
 /// The print-queue service: the jobs that wait for the printer.
 ///
 /// The order of the slots, their argument names and their default arguments are the service's
@@ -38,7 +32,3 @@ public Q_SLOTS:
     virtual bool clearPrintJob() = 0;
     virtual bool clearAllPrintJobs() = 0;
 };
-
-#ifdef __GNUC__
-#pragma GCC diagnostic pop
-#endif
