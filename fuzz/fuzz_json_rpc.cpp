@@ -24,8 +24,10 @@ namespace {
 const QSet<int> ErrorCodes{JsonRpc::ParseError, JsonRpc::InvalidRequest, JsonRpc::MethodNotFound,
                            JsonRpc::InvalidParams};
 
-void checkAnswer(const QJsonObject& answer)
+QJsonObject checkAnswer(const QByteArray& line)
 {
+    require(line.indexOf('\n') == line.size() - 1, "an answer is one line");
+    const QJsonObject answer = QJsonDocument::fromJson(line).object();
     require(answer.value(QStringLiteral("jsonrpc")) == QStringLiteral("2.0"), "the version is 2.0");
     require(answer.contains(QStringLiteral("id")), "an answer has an id");
     require(answer.size() == 3, "an answer has three members");
@@ -38,24 +40,21 @@ void checkAnswer(const QJsonObject& answer)
         require(!error.value(QStringLiteral("message")).toString().isEmpty(),
                 "the error has a message");
     }
-    const QByteArray line = JsonRpc::line(answer);
-    require(line.indexOf('\n') == line.size() - 1, "an answer is one line");
-    const QJsonObject read = QJsonDocument::fromJson(line).object();
-    require(read.keys() == answer.keys(), "an answer can be read again");
+    return answer;
 }
 
 void checkRequest(const IpcDispatcher& dispatcher, const QJsonValue& request)
 {
-    const std::optional<QJsonObject> answer = dispatcher.handle(request);
+    const std::optional<QByteArray> line = dispatcher.handle(request);
     const QJsonValue id = request.toObject().value(QStringLiteral("id"));
-    if (!answer) {
+    if (!line) {
         require(request.isObject() && id.isUndefined(), "only a notification has no answer");
         return;
     }
-    checkAnswer(*answer);
-    const QJsonValue answeredId = answer->value(QStringLiteral("id"));
+    const QJsonObject answer = checkAnswer(*line);
+    const QJsonValue answeredId = answer.value(QStringLiteral("id"));
     require(answeredId == id || answeredId.isNull(), "the answer is to this request");
-    if (answer->contains(QStringLiteral("result")))
+    if (answer.contains(QStringLiteral("result")))
         require(answeredId == id, "a result is for its request");
 }
 

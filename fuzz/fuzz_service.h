@@ -54,7 +54,7 @@ public Q_SLOTS:
     FuzzRecord r(FuzzRecord value) { return value; }
     void n() {}
     /// Ways to call one name.
-    int o(int value, int more = 1) { return value - more; }
+    int o(int value, int more = 1) { return value ^ more; }
     QString o(QString value) { return value; }
     double o(double value) { return value; }
     QStringList o(int value, QStringList more)

@@ -124,14 +124,14 @@ void IpcConnection::startMessage()
     m_message = IpcDispatcher::parse(line);
     m_nextRequest = 0;
     if (m_message.failure)
-        write(JsonRpc::line(*m_message.failure));
+        write(*m_message.failure);
 }
 
 void IpcConnection::handleNextRequest()
 {
     const QPointer<IpcConnection> self(this);
     const QJsonValue request = m_message.requests.at(m_nextRequest++);
-    const std::optional<QJsonObject> answered = m_dispatcher.handle(request);
+    const std::optional<QByteArray> answered = m_dispatcher.handle(request);
     if (!self)
         return;
     if (answered)
@@ -140,17 +140,8 @@ void IpcConnection::handleNextRequest()
         endMessage();
 }
 
-void IpcConnection::answer(const QJsonObject& answer)
+void IpcConnection::answer(const QByteArray& line)
 {
-    QByteArray line = JsonRpc::line(answer);
-    if (line.size() > JsonRpc::MaximumAnswers) {
-        line = JsonRpc::line(
-            JsonRpc::failure(answer.value(QStringLiteral("id")),
-                             {JsonRpc::AnswerTooLong,
-                              QStringLiteral("Answer too long: at most %1 bytes are sent")
-                                  .arg(JsonRpc::MaximumAnswers),
-                              {}}));
-    }
     if (!m_message.isBatch) {
         write(line);
         return;
@@ -194,7 +185,7 @@ void IpcConnection::refuse(const JsonRpc::Error& error)
 {
     dropWork();
     m_isRefused = true;
-    write(JsonRpc::line(JsonRpc::failure(QJsonValue::Null, error)));
+    write(JsonRpc::failure(QJsonValue::Null, error));
     m_socket->flush();
     // Not at once: the answer is lost to a client whose sending fails before it reads.
     QTimer::singleShot(Farewell, m_socket, &QLocalSocket::abort);

@@ -56,7 +56,7 @@ private:
     bool fetchLine();
     void startMessage();
     void handleNextRequest();
-    void answer(const QJsonObject& answer);
+    void answer(const QByteArray& line);
     void endMessage();
     void write(const QByteArray& bytes);
     void closeOverflowing();

@@ -16,7 +16,7 @@ bool canBeId(const QJsonValue& id)
 QString defectOf(const QJsonObject& request)
 {
     const QJsonValue id = request.value(QStringLiteral("id"));
-    if (request.value(QStringLiteral("jsonrpc")) != QStringLiteral("2.0"))
+    if (request.value(QStringLiteral("jsonrpc")).toString() != QLatin1String("2.0"))
         return QStringLiteral("\"jsonrpc\" must be \"2.0\"");
     if (!request.value(QStringLiteral("method")).isString())
         return QStringLiteral("\"method\" must be a text");
@@ -28,7 +28,7 @@ QString defectOf(const QJsonObject& request)
     return {};
 }
 
-QJsonObject invalidRequest(const QJsonValue& id, const QString& defect)
+QByteArray invalidRequest(const QJsonValue& id, const QString& defect)
 {
     return JsonRpc::failure(
         canBeId(id) ? id : QJsonValue(QJsonValue::Null),
@@ -66,7 +66,7 @@ IpcDispatcher::Message IpcDispatcher::parse(const QByteArray& line)
     return message;
 }
 
-std::optional<QJsonObject> IpcDispatcher::handle(const QJsonValue& request) const
+std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& request) const
 {
     if (!request.isObject())
         return invalidRequest(QJsonValue::Null, QStringLiteral("a request is an object"));
@@ -79,8 +79,15 @@ std::optional<QJsonObject> IpcDispatcher::handle(const QJsonValue& request) cons
                                                  object.value(QStringLiteral("params")));
     if (id.isUndefined())
         return std::nullopt;
-    return outcome.error ? JsonRpc::failure(id, *outcome.error)
-                         : JsonRpc::success(id, outcome.result);
+    QByteArray answer =
+        outcome.error ? JsonRpc::failure(id, *outcome.error) : JsonRpc::success(id, outcome.result);
+    if (answer.size() <= JsonRpc::MaximumAnswers)
+        return answer;
+    return JsonRpc::failure(
+        id,
+        {JsonRpc::AnswerTooLong,
+         QStringLiteral("Answer too long: at most %1 bytes are sent").arg(JsonRpc::MaximumAnswers),
+         {}});
 }
 
 IpcMethodTable::Outcome IpcDispatcher::call(const QString& method,

@@ -24,16 +24,17 @@ public:
     {
         QJsonArray requests;
         bool isBatch = false;
-        /// The answer to a line that holds no request.
-        std::optional<QJsonObject> failure;
+        /// The answer to a line that holds no request, as a line.
+        std::optional<QByteArray> failure;
     };
 
     static Message parse(const QByteArray& line);
 
-    /// The answer to one request of a message, or nothing to a notification.
+    /// The answer to one request of a message, as a line, or nothing to a notification. An answer
+    /// that is too long to be sent is one that says so.
     ///
     /// The method that it calls may do anything, to the extent of destroying this dispatcher.
-    std::optional<QJsonObject> handle(const QJsonValue& request) const;
+    std::optional<QByteArray> handle(const QJsonValue& request) const;
 
 private:
     IpcMethodTable::Outcome call(const QString& method, const QJsonValue& parameters) const;

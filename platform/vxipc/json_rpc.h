@@ -7,6 +7,8 @@
 #include <QtCore/QJsonValue>
 #include <QtCore/QString>
 
+#include <optional>
+
 /// What both ends of JSON-RPC 2.0 have in common.
 namespace JsonRpc {
 
@@ -34,10 +36,12 @@ struct Error
     QJsonObject data;
 };
 
-QJsonObject success(const QJsonValue& id, const QJsonValue& result);
-QJsonObject failure(const QJsonValue& id, const Error& error);
+/// Messages, each as the line that it is sent as. They are put together by hand: building an object
+/// to write it out once costs more than all the rest of a call.
 
-/// One message with the line end that separates it from the next.
-QByteArray line(const QJsonObject& message);
+/// Without an id it is a notification. Parameters that are neither list nor object are left out.
+QByteArray request(const QString& method, const QJsonValue& parameters, std::optional<qint64> id);
+QByteArray success(const QJsonValue& id, const QJsonValue& result);
+QByteArray failure(const QJsonValue& id, const Error& error);
 
 } // namespace JsonRpc

@@ -39,23 +39,12 @@ VXIPCReply failed(VXIPCError::Code code, const QString& message)
     return {QJsonValue::Null, VXIPCError{code, message, {}}};
 }
 
-QJsonObject request(const QString& method, const QJsonValue& parameters, const QJsonValue& id)
-{
-    QJsonObject object = {{QStringLiteral("jsonrpc"), QStringLiteral("2.0")},
-                          {QStringLiteral("method"), method}};
-    if (parameters.isArray() || parameters.isObject())
-        object.insert(QStringLiteral("params"), parameters);
-    if (!id.isUndefined())
-        object.insert(QStringLiteral("id"), id);
-    return object;
-}
-
 /// Whether it is one to a call of this client, which numbers them, or about the connection.
 bool isAnswer(const QJsonObject& object)
 {
     const QJsonValue id = object.value(QStringLiteral("id"));
     const bool isError = object.value(QStringLiteral("error")).isObject();
-    return object.value(QStringLiteral("jsonrpc")) == QStringLiteral("2.0") &&
+    return object.value(QStringLiteral("jsonrpc")).toString() == QLatin1String("2.0") &&
            isError != object.contains(QStringLiteral("result")) &&
            (id.isDouble() || (isError && id.isNull()));
 }
@@ -101,7 +90,7 @@ private:
     };
 
     /// Why the request cannot be sent, if it cannot; sends it otherwise.
-    std::optional<VXIPCReply> send(const QJsonObject& request);
+    std::optional<VXIPCReply> send(const QByteArray& line);
     void onReadyRead();
     void onLine(const QByteArray& line);
     void onDisconnected();
@@ -189,7 +178,7 @@ void VXIPCClient::Private::retryLater()
 void VXIPCClient::Private::call(const QString& method, const QJsonValue& parameters, Callback done)
 {
     const qint64 id = ++m_lastId;
-    if (const auto failure = send(request(method, parameters, id))) {
+    if (const auto failure = send(JsonRpc::request(method, parameters, id))) {
         deliverLater(std::move(done), *failure);
         return;
     }
@@ -203,7 +192,7 @@ VXIPCReply VXIPCClient::Private::callAndWait(const QString& method, const QJsonV
 {
     const QDeadlineTimer deadline(limit);
     const qint64 id = ++m_lastId;
-    if (const auto failure = send(request(method, parameters, id)))
+    if (const auto failure = send(JsonRpc::request(method, parameters, id)))
         return *failure;
     std::optional<VXIPCReply> outcome;
     m_calls.insert(id, {deadline, {}, &outcome});
@@ -227,14 +216,13 @@ VXIPCReply VXIPCClient::Private::callAndWait(const QString& method, const QJsonV
 
 bool VXIPCClient::Private::notify(const QString& method, const QJsonValue& parameters)
 {
-    const bool isSent = !send(request(method, parameters, QJsonValue::Undefined));
+    const bool isSent = !send(JsonRpc::request(method, parameters, std::nullopt));
     m_socket->flush();
     return isSent;
 }
 
-std::optional<VXIPCReply> VXIPCClient::Private::send(const QJsonObject& request)
+std::optional<VXIPCReply> VXIPCClient::Private::send(const QByteArray& line)
 {
-    const QByteArray line = JsonRpc::line(request);
     if (line.size() > JsonRpc::MaximumLine + 1) {
         return VXIPCReply{QJsonValue::Null,
                           VXIPCError{JsonRpc::LineTooLong,
