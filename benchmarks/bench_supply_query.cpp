@@ -1,0 +1,325 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// What a question about a supply or a ribbon costs, by its SKU, when it was asked before and when
+// it was not.
+#include "benchmark_support.h"
+#include "sqlite_statement.h"
+#include "vx_ipc_supplyd_controller.h"
+
+#include <vxlocalelanguages.h>
+
+#include <QtCore/QCoreApplication>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr double warmLimit = 1.0;
+constexpr double coldLimit = 1.5;
+constexpr int warmRounds = 20;
+constexpr int warmBlocks = 200;
+constexpr int coldBlocks = 200;
+constexpr int repetitions = 5;
+
+const QString anyPrinter;
+
+QString databasePath()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/roll.db");
+}
+
+int languageId()
+{
+    static const int id = VXLocaleLanguages().getCurrentLanguageId();
+    return id;
+}
+
+// The questions: what the endpoint is asked, the statement that answers the same, and the keys.
+
+struct ColourName
+{
+    static constexpr const char* name = "supplyColorName";
+    static constexpr const char* sql = R"(
+        SELECT coalesce(t.text, n.english)
+        FROM supply s
+        JOIN colour c ON c.id = s.colour_id
+        JOIN name n ON n.id = c.name_id
+        LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?2
+        WHERE s.sku = ?1)";
+    static constexpr const char* keysSql = "SELECT sku FROM supply";
+
+    struct Key
+    {
+        QString sku;
+    };
+    static Key key(const SqliteStatement& row) { return {row.text(0)}; }
+    static QString ask(VXIPCSUPPLYDController& endpoint, const Key& key)
+    {
+        return endpoint.supplyColorName(key.sku, anyPrinter);
+    }
+    static void bind(SqliteStatement& statement, const Key& key)
+    {
+        statement.bind(1, key.sku);
+        statement.bind(2, languageId());
+    }
+    static QString read(const SqliteStatement& row) { return row.text(0); }
+};
+
+struct Width
+{
+    static constexpr const char* name = "supplyWidth";
+    static constexpr const char* sql = "SELECT width FROM supply WHERE sku = ?1";
+    static constexpr const char* keysSql = ColourName::keysSql;
+
+    using Key = ColourName::Key;
+    static Key key(const SqliteStatement& row) { return ColourName::key(row); }
+    static double ask(VXIPCSUPPLYDController& endpoint, const Key& key)
+    {
+        return endpoint.supplyWidth(key.sku, anyPrinter);
+    }
+    static void bind(SqliteStatement& statement, const Key& key) { statement.bind(1, key.sku); }
+    static double read(const SqliteStatement& row) { return row.real(0); }
+};
+
+struct RibbonHeat
+{
+    static constexpr const char* name = "supplyRibbonHeat";
+    static constexpr const char* sql =
+        "SELECT heat FROM print_setting WHERE ribbon_sku = ?1 AND panel = ?2 AND supply_sku = ?3";
+    // One setting of each ribbon's panel, which are as many as a host asks for in a session.
+    static constexpr const char* keysSql =
+        "SELECT ribbon_sku, panel, min(supply_sku) FROM print_setting GROUP BY ribbon_sku, panel";
+
+    struct Key
+    {
+        QString ribbon;
+        int panel;
+        QString supply;
+    };
+    static Key key(const SqliteStatement& row)
+    {
+        return {row.text(0), row.integer(1), row.text(2)};
+    }
+    static int ask(VXIPCSUPPLYDController& endpoint, const Key& key)
+    {
+        return endpoint.supplyRibbonHeat(key.ribbon, key.panel, key.supply);
+    }
+    static void bind(SqliteStatement& statement, const Key& key)
+    {
+        statement.bind(1, key.ribbon);
+        statement.bind(2, key.panel);
+        statement.bind(3, key.supply);
+    }
+    static int read(const SqliteStatement& row) { return row.integer(0); }
+};
+
+template <typename Question>
+std::vector<typename Question::Key> readKeys()
+{
+    const SqliteFile file(databasePath());
+    SqliteStatement statement(file, Question::keysSql);
+    std::vector<typename Question::Key> keys;
+    while (statement.step())
+        keys.push_back(Question::key(statement));
+    return keys;
+}
+
+/// The floor: the statement, prepared when it is first needed and then used again.
+template <typename Question>
+class Floor
+{
+public:
+    Floor()
+        : m_file(databasePath())
+    {}
+
+    auto ask(const typename Question::Key& key)
+    {
+        if (!m_statement)
+            m_statement.emplace(m_file, Question::sql);
+        Question::bind(*m_statement, key);
+        m_statement->step();
+        auto answer = Question::read(*m_statement);
+        m_statement->reset();
+        return answer;
+    }
+
+private:
+    SqliteFile m_file;
+    std::optional<SqliteStatement> m_statement;
+};
+
+/// The library's side with the same form.
+template <typename Question>
+class Library
+{
+public:
+    auto ask(const typename Question::Key& key) { return Question::ask(m_endpoint, key); }
+
+private:
+    VXIPCSUPPLYDController m_endpoint;
+};
+
+// The measurement.
+
+/// Nanoseconds a question.
+struct Samples
+{
+    std::vector<double> library;
+    std::vector<double> floor;
+
+    double ratio() const
+    {
+        if (library.empty() || floor.empty())
+            return std::numeric_limits<double>::quiet_NaN();
+        return benchmark_support::median(library) / benchmark_support::median(floor);
+    }
+};
+
+enum Temperature
+{
+    Warm,      ///< all was asked before
+    ColdFirst, ///< the first question after the file was opened
+    ColdAll,   ///< every key once after the file was opened
+    TemperatureCount,
+};
+
+template <typename Question>
+Samples samplesOf[TemperatureCount];
+
+template <typename Side, typename Keys>
+double nanosecondsEach(Side& side, const Keys& keys, std::size_t count, int rounds)
+{
+    const Clock::time_point start = Clock::now();
+    for (int round = 0; round < rounds; ++round) {
+        for (std::size_t i = 0; i < count; ++i)
+            benchmark::DoNotOptimize(side.ask(keys[i]));
+    }
+    const std::chrono::duration<double, std::nano> time = Clock::now() - start;
+    return time.count() / static_cast<double>(count) / rounds;
+}
+
+template <typename Question>
+bool answersAlike(const std::vector<typename Question::Key>& keys)
+{
+    Library<Question> library;
+    Floor<Question> floor;
+    return !keys.empty() && std::all_of(keys.begin(), keys.end(), [&](const auto& key) {
+        return library.ask(key) == floor.ask(key);
+    });
+}
+
+template <typename Question>
+void query(benchmark::State& state, Temperature temperature)
+{
+    const std::vector<typename Question::Key> keys = readKeys<Question>();
+    if (!answersAlike<Question>(keys)) {
+        state.SkipWithError("the library and the floor answer differently");
+        return;
+    }
+    const std::size_t count = temperature == ColdFirst ? 1 : keys.size();
+    const int rounds = temperature == Warm ? warmRounds : 1;
+
+    auto library = std::make_unique<Library<Question>>();
+    auto floor = std::make_unique<Floor<Question>>();
+    nanosecondsEach(*library, keys, keys.size(), 1);
+    nanosecondsEach(*floor, keys, keys.size(), 1);
+
+    Samples samples;
+    const auto takeLibrary = [&] {
+        if (temperature != Warm)
+            library = std::make_unique<Library<Question>>();
+        samples.library.push_back(nanosecondsEach(*library, keys, count, rounds));
+        state.SetIterationTime(samples.library.back() * 1e-9);
+    };
+    const auto takeFloor = [&] {
+        if (temperature != Warm)
+            floor = std::make_unique<Floor<Question>>();
+        samples.floor.push_back(nanosecondsEach(*floor, keys, count, rounds));
+    };
+    bool libraryFirst = true;
+    for ([[maybe_unused]] auto iteration : state) {
+        if (libraryFirst)
+            takeLibrary();
+        takeFloor();
+        if (!libraryFirst)
+            takeLibrary();
+        libraryFirst = !libraryFirst;
+    }
+    state.counters["library_ns"] = benchmark_support::median(samples.library);
+    state.counters["floor_ns"] = benchmark_support::median(samples.floor);
+    state.counters["ratio"] = samples.ratio();
+
+    Samples& all = samplesOf<Question>[temperature];
+    all.library.insert(all.library.end(), samples.library.begin(), samples.library.end());
+    all.floor.insert(all.floor.end(), samples.floor.begin(), samples.floor.end());
+}
+
+struct Setting
+{
+    Temperature temperature;
+    const char* name;
+    int blocks;
+    double limit;
+};
+constexpr Setting settings[]{
+    {Warm, "warm", warmBlocks, warmLimit},
+    {ColdFirst, "cold, first question", coldBlocks, coldLimit},
+    {ColdAll, "cold, every SKU once", coldBlocks, coldLimit},
+};
+
+template <typename Question>
+void registerQuestion()
+{
+    for (const Setting& setting : settings) {
+        const std::string name = std::string(Question::name) + "/" + setting.name;
+        benchmark::RegisterBenchmark(name.c_str(), &query<Question>, setting.temperature)
+            ->Iterations(setting.blocks)
+            ->Repetitions(repetitions)
+            ->DisplayAggregatesOnly(true)
+            ->UseManualTime()
+            ->Unit(benchmark::kNanosecond);
+    }
+}
+
+template <typename Question>
+void enterLimits(benchmark_support::Limits& limits)
+{
+    for (const Setting& setting : settings) {
+        limits.atMost(std::string(Question::name) + ", " + setting.name +
+                          ", over a prepared statement",
+                      samplesOf<Question>[setting.temperature].ratio(), setting.limit, "");
+    }
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // In a language that the names are translated to.
+    qputenv("LANGUAGE", "de");
+    const QCoreApplication application(argc, argv);
+    registerQuestion<ColourName>();
+    registerQuestion<Width>();
+    registerQuestion<RibbonHeat>();
+    if (!benchmark_support::run(argc, argv))
+        return 2;
+
+    benchmark_support::Limits limits;
+    enterLimits<ColourName>(limits);
+    enterLimits<Width>(limits);
+    enterLimits<RibbonHeat>(limits);
+    return limits.conclude();
+}

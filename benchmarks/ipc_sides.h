@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+#include <memory>
+#include <vector>
+
+/// The ways of calling another process that are compared.
+namespace ipc_sides {
+
+/// The one call that all sides make: the name of a supply's colour.
+struct Call
+{
+    QString sku;
+    QString printer;
+    QString answer;
+    /// The lines that JSON-RPC 2.0 makes of it.
+    QByteArray requestLine;
+    QByteArray answerLine;
+};
+
+/// A number of connected clients of a server in another process.
+class Clients
+{
+public:
+    virtual ~Clients() = default;
+
+    /// One call by the first client, waited for. False when the answer is another.
+    virtual bool callAndWait() = 0;
+
+    /// Has the first `clients` make `calls` calls together, each keeping `inFlight` on their way,
+    /// from an event loop. False when an answer is another or a connection breaks.
+    virtual bool callTogether(int clients, int inFlight, int calls) = 0;
+};
+
+/// One side: what a process serves, and its clients.
+struct Side
+{
+    const char* name;
+    /// Makes what answers; it lives as long as the server's process.
+    std::shared_ptr<void> (*serve)(const QString& address, const Call& call);
+    /// Null when nobody serves.
+    std::unique_ptr<Clients> (*connect)(const QString& address, const Call& call, int count);
+};
+
+/// What the library is compared with besides the floor; none where Qt Remote Objects is missing.
+std::vector<Side> remoteObjects();
+
+} // namespace ipc_sides
