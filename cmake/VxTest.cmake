@@ -16,9 +16,12 @@ function(vx_add_test name)
         RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests"
         WIN32_EXECUTABLE OFF)
     add_test(NAME ${name} COMMAND ${name})
-    # A test that hangs is killed and reported within a minute; sanitizers slow everything down.
+    # A test that hangs is killed and reported within a minute; sanitizers slow everything down, and
+    # Wine sends all pipes through one process.
     if(VX_SANITIZE)
         set(limit 300)
+    elseif(WIN32)
+        set(limit 120)
     else()
         set(limit 60)
     endif()
