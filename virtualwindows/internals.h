@@ -260,6 +260,11 @@ struct Machine::Private
     void removePrinter(Printer& printer);
     void setSpoolerState(DWORD state);
     bool isSpoolerRunning() const { return spoolerState == SERVICE_RUNNING; }
+    /// What a handle of a spooler that is gone is answered, while it is gone and afterwards.
+    DWORD errorOfDeadHandles() const
+    {
+        return isSpoolerRunning() ? ERROR_INVALID_HANDLE : RPC_S_SERVER_UNAVAILABLE;
+    }
 };
 
 /// What the implementation of a call begins with.
@@ -268,7 +273,8 @@ inline Machine::Private& machine()
     return Machine::instance().internals();
 }
 
-/// A failing call's last error and return value in one expression.
+/// A failing call's last error and return value in one expression. Calls that succeed leave the
+/// last error alone: nothing here sets it but on the way to a failure.
 template <typename Result>
 Result failWith(DWORD error, Result result)
 {
@@ -276,6 +282,13 @@ Result failWith(DWORD error, Result result)
     return result;
 }
 
+/// Null for a null pointer.
+inline QString fromWide(LPCWSTR wideText)
+{
+    return wideText ? QString::fromUtf16(wideText) : QString();
+}
+
+// Arguments as the log of calls has them.
 QString text(HANDLE handle);
 QString text(LPCWSTR wideText);
 inline QString text(LPCSTR narrowText)

@@ -214,12 +214,10 @@ BOOL changeEvent(HANDLE handle, Function function, Change change)
 {
     if (const DWORD planned = machine().begin(function, [&] { return QStringList{text(handle)}; }))
         return failWith(planned, FALSE);
-    const DWORD before = GetLastError();
     const std::lock_guard guard(machine().lock);
     const auto event = machine().find<Event>(handle, Object::Kind::Event, function);
     if (!event)
         return FALSE;
-    SetLastError(before);
     change(*event);
     return TRUE;
 }
@@ -243,12 +241,7 @@ DWORD WINAPI WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds)
     });
     if (planned)
         return failWith(planned, WAIT_FAILED);
-    const DWORD before = GetLastError();
-    const DWORD result =
-        machine().wait(&hHandle, 1, false, dwMilliseconds, Function::WaitForSingleObject);
-    if (result != WAIT_FAILED)
-        SetLastError(before);
-    return result;
+    return machine().wait(&hHandle, 1, false, dwMilliseconds, Function::WaitForSingleObject);
 }
 
 DWORD WINAPI WaitForMultipleObjects(DWORD nCount, const HANDLE* lpHandles, BOOL bWaitAll,
@@ -270,12 +263,8 @@ DWORD WINAPI WaitForMultipleObjects(DWORD nCount, const HANDLE* lpHandles, BOOL 
         if (std::adjacent_find(sorted.begin(), sorted.end()) != sorted.end())
             return failWith(ERROR_INVALID_PARAMETER, WAIT_FAILED);
     }
-    const DWORD before = GetLastError();
-    const DWORD result = machine().wait(lpHandles, nCount, bWaitAll != FALSE, dwMilliseconds,
-                                        Function::WaitForMultipleObjects);
-    if (result != WAIT_FAILED)
-        SetLastError(before);
-    return result;
+    return machine().wait(lpHandles, nCount, bWaitAll != FALSE, dwMilliseconds,
+                          Function::WaitForMultipleObjects);
 }
 
 BOOL WINAPI CloseHandle(HANDLE hObject)
@@ -285,7 +274,6 @@ BOOL WINAPI CloseHandle(HANDLE hObject)
     // The process' own pseudo handle needs no closing, and closing it does nothing.
     if (!planned && hObject == INVALID_HANDLE_VALUE)
         return TRUE;
-    const DWORD before = GetLastError();
     const std::lock_guard guard(machine().lock);
     // A closing that is planned to fail closes all the same: nobody calls it again, and what fails
     // is the answer.
@@ -293,6 +281,5 @@ BOOL WINAPI CloseHandle(HANDLE hObject)
         return FALSE;
     if (planned)
         return failWith(planned, FALSE);
-    SetLastError(before);
     return TRUE;
 }

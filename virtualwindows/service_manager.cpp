@@ -72,7 +72,6 @@ BOOL WINAPI QueryServiceStatus(SC_HANDLE hService, LPSERVICE_STATUS lpServiceSta
     if (planned)
         return failWith(planned, FALSE);
 
-    const DWORD before = GetLastError();
     const std::lock_guard guard(machine().lock);
     const auto service = machine().find<ServiceObject>(hService, Object::Kind::Service,
                                                        Function::QueryServiceStatus);
@@ -81,7 +80,6 @@ BOOL WINAPI QueryServiceStatus(SC_HANDLE hService, LPSERVICE_STATUS lpServiceSta
     if (!(service->access & SERVICE_QUERY_STATUS))
         return failWith(ERROR_ACCESS_DENIED, FALSE);
 
-    SetLastError(before);
     *lpServiceStatus = {};
     lpServiceStatus->dwServiceType = SERVICE_WIN32_OWN_PROCESS | SERVICE_INTERACTIVE_PROCESS;
     lpServiceStatus->dwCurrentState = machine().spoolerState;
@@ -93,12 +91,10 @@ BOOL WINAPI CloseServiceHandle(SC_HANDLE hSCObject)
 {
     const DWORD planned = machine().begin(Function::CloseServiceHandle,
                                           [&] { return QStringList{text(HANDLE(hSCObject))}; });
-    const DWORD before = GetLastError();
     const std::lock_guard guard(machine().lock);
     if (!machine().close(hSCObject, Object::Kind::ServiceManager, Function::CloseServiceHandle))
         return FALSE;
     if (planned)
         return failWith(planned, FALSE);
-    SetLastError(before);
     return TRUE;
 }

@@ -47,8 +47,7 @@ std::shared_ptr<PrinterHandleObject> livePrinterHandle(HANDLE handle, Function f
     if (!object)
         return {};
     if (object->dead) {
-        SetLastError(machine().isSpoolerRunning() ? ERROR_INVALID_HANDLE
-                                                  : RPC_S_SERVER_UNAVAILABLE);
+        SetLastError(machine().errorOfDeadHandles());
         return {};
     }
     if (object->printer && object->printer->deleted) {
@@ -79,26 +78,11 @@ std::shared_ptr<PrinterHandleObject> handleOfPrinter(HANDLE handle, Function fun
 
 namespace {
 
-/// Keeps the last error of a call that succeeds, as Windows mostly does.
-class KeptLastError
-{
-public:
-    BOOL succeed() const
-    {
-        SetLastError(m_before);
-        return TRUE;
-    }
-
-private:
-    const DWORD m_before = GetLastError();
-};
-
 constexpr ACCESS_MASK rightsOfAdministrators = PRINTER_ACCESS_ADMINISTER | DELETE | 0x000C0000U;
 
 BOOL openPrinter(Function function, bool hasName, const QString& name, LPHANDLE result,
                  ACCESS_MASK access)
 {
-    const KeptLastError lastError;
     if (!result)
         return failWith(ERROR_INVALID_PARAMETER, FALSE);
     const std::lock_guard guard(machine().lock);
@@ -115,7 +99,7 @@ BOOL openPrinter(Function function, bool hasName, const QString& name, LPHANDLE 
             return failWith(ERROR_ACCESS_DENIED, FALSE);
     }
     *result = machine().open(object);
-    return lastError.succeed();
+    return TRUE;
 }
 
 /// The answer of a call that reports what went wrong as its result.
@@ -273,11 +257,6 @@ bool isEnumerated(const Printer& printer, DWORD flags)
                                            : PRINTER_ENUM_LOCAL | PRINTER_ENUM_NAME)) != 0;
 }
 
-QString fromWide(LPCWSTR text)
-{
-    return text ? QString::fromUtf16(text) : QString();
-}
-
 BOOL controlPrinter(Printer& printer, DWORD command, LPBYTE argument)
 {
     DWORD change = PRINTER_CHANGE_SET_PRINTER;
@@ -356,7 +335,6 @@ BOOL WINAPI ClosePrinter(HANDLE hPrinter)
 {
     const DWORD planned =
         machine().begin(Function::ClosePrinter, [&] { return QStringList{text(hPrinter)}; });
-    const KeptLastError lastError;
     const std::lock_guard guard(machine().lock);
     const auto object = std::static_pointer_cast<PrinterHandleObject>(
         machine().close(hPrinter, Object::Kind::Printer, Function::ClosePrinter));
@@ -365,10 +343,9 @@ BOOL WINAPI ClosePrinter(HANDLE hPrinter)
     if (planned)
         return failWith(planned, FALSE);
     if (object->dead)
-        return failWith(
-            machine().isSpoolerRunning() ? ERROR_INVALID_HANDLE : RPC_S_SERVER_UNAVAILABLE, FALSE);
+        return failWith(machine().errorOfDeadHandles(), FALSE);
     endDocument(*object);
-    return lastError.succeed();
+    return TRUE;
 }
 
 DWORD WINAPI GetPrinterDataA(HANDLE hPrinter, LPSTR pValueName, LPDWORD pType, LPBYTE pData,
@@ -430,7 +407,6 @@ BOOL WINAPI GetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD cbB
     if (planned)
         return failWith(planned, FALSE);
 
-    const KeptLastError lastError;
     const std::lock_guard guard(machine().lock);
     const auto object = handleOfPrinter(hPrinter, Function::GetPrinterW, 0);
     if (!object)
@@ -444,7 +420,7 @@ BOOL WINAPI GetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD cbB
     const BOOL filled = Level == 1
                             ? fill<PRINTER_INFO_1W>({object->printer}, pPrinter, cbBuf, pcbNeeded)
                             : fill<PRINTER_INFO_2W>({object->printer}, pPrinter, cbBuf, pcbNeeded);
-    return filled ? lastError.succeed() : FALSE;
+    return filled;
 }
 
 BOOL WINAPI SetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD Command)
@@ -455,7 +431,6 @@ BOOL WINAPI SetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD Com
     if (planned)
         return failWith(planned, FALSE);
 
-    const KeptLastError lastError;
     const std::lock_guard guard(machine().lock);
     const auto object = handleOfPrinter(hPrinter, Function::SetPrinterW, PRINTER_ACCESS_ADMINISTER);
     if (!object)
@@ -469,7 +444,7 @@ BOOL WINAPI SetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD Com
         SetLastError(ERROR_INVALID_PARAMETER);
     else
         done = changePrinter(*object->printer, *reinterpret_cast<PRINTER_INFO_2W*>(pPrinter));
-    return done ? lastError.succeed() : FALSE;
+    return done;
 }
 
 BOOL WINAPI EnumPrintersW(DWORD Flags, LPWSTR Name, DWORD Level, LPBYTE pPrinterEnum, DWORD cbBuf,
@@ -481,7 +456,6 @@ BOOL WINAPI EnumPrintersW(DWORD Flags, LPWSTR Name, DWORD Level, LPBYTE pPrinter
     if (planned)
         return failWith(planned, FALSE);
 
-    const KeptLastError lastError;
     const std::lock_guard guard(machine().lock);
     if (!machine().isSpoolerRunning())
         return failWith(RPC_S_SERVER_UNAVAILABLE, FALSE);
@@ -504,7 +478,7 @@ BOOL WINAPI EnumPrintersW(DWORD Flags, LPWSTR Name, DWORD Level, LPBYTE pPrinter
     if (!fill<PRINTER_INFO_2W>(listed, pPrinterEnum, cbBuf, pcbNeeded))
         return FALSE;
     *pcReturned = static_cast<DWORD>(listed.size());
-    return lastError.succeed();
+    return TRUE;
 }
 
 BOOL WINAPI GetDefaultPrinterW(LPWSTR pszBuffer, LPDWORD pcchBuffer)
@@ -515,7 +489,6 @@ BOOL WINAPI GetDefaultPrinterW(LPWSTR pszBuffer, LPDWORD pcchBuffer)
     if (planned)
         return failWith(planned, FALSE);
 
-    const KeptLastError lastError;
     const std::lock_guard guard(machine().lock);
     if (!machine().isSpoolerRunning())
         return failWith(RPC_S_SERVER_UNAVAILABLE, FALSE);
@@ -531,7 +504,7 @@ BOOL WINAPI GetDefaultPrinterW(LPWSTR pszBuffer, LPDWORD pcchBuffer)
     if (!fits)
         return failWith(ERROR_INSUFFICIENT_BUFFER, FALSE);
     std::memcpy(pszBuffer, name.utf16(), needed * sizeof(WCHAR));
-    return lastError.succeed();
+    return TRUE;
 }
 
 BOOL WINAPI SetDefaultPrinterW(LPCWSTR pszPrinter)
@@ -541,7 +514,6 @@ BOOL WINAPI SetDefaultPrinterW(LPCWSTR pszPrinter)
     if (planned)
         return failWith(planned, FALSE);
 
-    const KeptLastError lastError;
     const std::lock_guard guard(machine().lock);
     if (!machine().isSpoolerRunning())
         return failWith(RPC_S_SERVER_UNAVAILABLE, FALSE);
@@ -550,7 +522,7 @@ BOOL WINAPI SetDefaultPrinterW(LPCWSTR pszPrinter)
         if (!printer)
             return failWith(ERROR_INVALID_PRINTER_NAME, FALSE);
         machine().defaultPrinter = printer->setup.name;
-        return lastError.succeed();
+        return TRUE;
     }
     // Without a name the system chooses, unless a choice was made before.
     if (machine().defaultPrinter.isNull()) {
@@ -558,7 +530,7 @@ BOOL WINAPI SetDefaultPrinterW(LPCWSTR pszPrinter)
             return failWith(ERROR_INVALID_PRINTER_NAME, FALSE);
         machine().defaultPrinter = machine().printers.first()->setup.name;
     }
-    return lastError.succeed();
+    return TRUE;
 }
 
 HANDLE WINAPI AddPrinterW(LPWSTR pName, DWORD Level, LPBYTE pPrinter)
@@ -569,7 +541,6 @@ HANDLE WINAPI AddPrinterW(LPWSTR pName, DWORD Level, LPBYTE pPrinter)
     if (planned)
         return failWith<HANDLE>(planned, nullptr);
 
-    const DWORD before = GetLastError();
     const std::lock_guard guard(machine().lock);
     if (!machine().isSpoolerRunning())
         return failWith<HANDLE>(RPC_S_SERVER_UNAVAILABLE, nullptr);
@@ -603,7 +574,6 @@ HANDLE WINAPI AddPrinterW(LPWSTR pName, DWORD Level, LPBYTE pPrinter)
     auto object = std::make_shared<PrinterHandleObject>(Function::AddPrinterW);
     object->printer = printer;
     object->access = PRINTER_ALL_ACCESS;
-    SetLastError(before);
     return machine().open(object);
 }
 
@@ -614,14 +584,13 @@ BOOL WINAPI DeletePrinter(HANDLE hPrinter)
     if (planned)
         return failWith(planned, FALSE);
 
-    const KeptLastError lastError;
     const std::lock_guard guard(machine().lock);
     const auto object =
         handleOfPrinter(hPrinter, Function::DeletePrinter, PRINTER_ACCESS_ADMINISTER);
     if (!object)
         return FALSE;
     machine().removePrinter(*object->printer);
-    return lastError.succeed();
+    return TRUE;
 }
 
 HANDLE WINAPI FindFirstPrinterChangeNotification(HANDLE hPrinter, DWORD fdwFilter, DWORD fdwOptions,
@@ -634,7 +603,6 @@ HANDLE WINAPI FindFirstPrinterChangeNotification(HANDLE hPrinter, DWORD fdwFilte
     if (planned)
         return failWith(planned, INVALID_HANDLE_VALUE);
 
-    const DWORD before = GetLastError();
     const std::lock_guard guard(machine().lock);
     const auto object = livePrinterHandle(hPrinter, Function::FindFirstPrinterChangeNotification);
     if (!object)
@@ -647,7 +615,6 @@ HANDLE WINAPI FindFirstPrinterChangeNotification(HANDLE hPrinter, DWORD fdwFilte
     notification->printer = object->printer;
     notification->filter = fdwFilter;
     machine().notifications.push_back(notification);
-    SetLastError(before);
     return machine().open(notification);
 }
 
@@ -662,29 +629,26 @@ BOOL WINAPI FindNextPrinterChangeNotification(HANDLE hChange, LPDWORD pdwChange,
     if (planned)
         return failWith(planned, FALSE);
 
-    const KeptLastError lastError;
     const std::lock_guard guard(machine().lock);
     const auto notification = machine().find<ChangeNotification>(
         hChange, Object::Kind::ChangeNotification, Function::FindNextPrinterChangeNotification);
     if (!notification)
         return FALSE;
     if (notification->dead)
-        return failWith(
-            machine().isSpoolerRunning() ? ERROR_INVALID_HANDLE : RPC_S_SERVER_UNAVAILABLE, FALSE);
+        return failWith(machine().errorOfDeadHandles(), FALSE);
     if (pdwChange)
         *pdwChange = notification->changes;
     if (ppPrinterNotifyInfo)
         *ppPrinterNotifyInfo = nullptr;
     notification->changes = 0;
     notification->signalled = false;
-    return lastError.succeed();
+    return TRUE;
 }
 
 BOOL WINAPI FindClosePrinterChangeNotification(HANDLE hChange)
 {
     const DWORD planned = machine().begin(Function::FindClosePrinterChangeNotification,
                                           [&] { return QStringList{text(hChange)}; });
-    const KeptLastError lastError;
     const std::lock_guard guard(machine().lock);
     const auto object = std::static_pointer_cast<ChangeNotification>(machine().close(
         hChange, Object::Kind::ChangeNotification, Function::FindClosePrinterChangeNotification));
@@ -693,7 +657,6 @@ BOOL WINAPI FindClosePrinterChangeNotification(HANDLE hChange)
     if (planned)
         return failWith(planned, FALSE);
     if (object->dead)
-        return failWith(
-            machine().isSpoolerRunning() ? ERROR_INVALID_HANDLE : RPC_S_SERVER_UNAVAILABLE, FALSE);
-    return lastError.succeed();
+        return failWith(machine().errorOfDeadHandles(), FALSE);
+    return TRUE;
 }

@@ -10,26 +10,24 @@ using namespace virtualwindows;
 
 namespace {
 
-QString fromWide(LPCWSTR text)
+/// The job being written; null also when it was taken out of the queue meanwhile.
+PrintJob* findOpenJob(const PrinterHandleObject& handle)
 {
-    return text ? QString::fromUtf16(text) : QString();
-}
-
-/// The job being written; null: the last error says why.
-PrintJob* openJob(PrinterHandleObject& handle)
-{
-    if (!handle.openJob) {
-        SetLastError(ERROR_SPL_NO_STARTDOC);
+    if (!handle.openJob)
         return nullptr;
-    }
     QList<PrintJob>& jobs = handle.printer->jobs;
     const auto found = std::find_if(jobs.begin(), jobs.end(),
                                     [&](const PrintJob& job) { return job.id == handle.openJob; });
-    if (found == jobs.end()) {
-        SetLastError(ERROR_PRINT_CANCELLED);
-        return nullptr;
-    }
-    return &*found;
+    return found == jobs.end() ? nullptr : &*found;
+}
+
+/// The job being written; null: the last error says why.
+PrintJob* openJob(const PrinterHandleObject& handle)
+{
+    PrintJob* job = findOpenJob(handle);
+    if (!job)
+        SetLastError(handle.openJob ? ERROR_PRINT_CANCELLED : ERROR_SPL_NO_STARTDOC);
+    return job;
 }
 
 /// What the four calls on an open document share: step is done with the handle and its job.
@@ -38,13 +36,11 @@ BOOL inDocument(HANDLE handle, Function function, const QStringList& arguments, 
 {
     if (const DWORD planned = machine().begin(function, [&] { return arguments; }))
         return failWith(planned, FALSE);
-    const DWORD before = GetLastError();
     const std::lock_guard guard(machine().lock);
     const auto object = handleOfPrinter(handle, function, PRINTER_ACCESS_USE);
     PrintJob* job = object ? openJob(*object) : nullptr;
     if (!job || !step(*object, *job))
         return FALSE;
-    SetLastError(before);
     return TRUE;
 }
 
@@ -52,7 +48,7 @@ BOOL inDocument(HANDLE handle, Function function, const QStringList& arguments, 
 
 void virtualwindows::endDocument(PrinterHandleObject& handle)
 {
-    PrintJob* job = handle.openJob ? openJob(handle) : nullptr;
+    PrintJob* job = findOpenJob(handle);
     handle.openJob = 0;
     handle.pageOpen = false;
     if (!job)
@@ -69,7 +65,6 @@ DWORD WINAPI StartDocPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pDocInfo)
     if (planned)
         return failWith<DWORD>(planned, 0);
 
-    const DWORD before = GetLastError();
     const std::lock_guard guard(machine().lock);
     const auto object = handleOfPrinter(hPrinter, Function::StartDocPrinterW, PRINTER_ACCESS_USE);
     if (!object)
@@ -90,7 +85,6 @@ DWORD WINAPI StartDocPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pDocInfo)
     object->openJob = job.id;
     object->printer->jobs.append(job);
     machine().notify(object->printer.get(), PRINTER_CHANGE_ADD_JOB);
-    SetLastError(before);
     return job.id;
 }
 
