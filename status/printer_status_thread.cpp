@@ -165,10 +165,12 @@ QString PrinterStatusThread::getPrinterNameFromHandle(void* printerHandle)
 
 bool PrinterStatusThread::initPrinterHandles(void** printerHandle, void** changeHandle)
 {
-    const QByteArray name = m_monitoredPrinterName.toLocal8Bit();
+    const auto log = [this](const log_lines::LogLine& line) {
+        log_lines::print(line, m_monitoredPrinterName.toLocal8Bit().constData());
+    };
     PrinterHandle printer = openPrinter(m_monitoredPrinterName);
     if (!printer.isValid()) {
-        log_lines::print(log_lines::openingFailed, name.constData());
+        log(log_lines::openingFailed);
         return false;
     }
 
@@ -176,7 +178,7 @@ bool PrinterStatusThread::initPrinterHandles(void** printerHandle, void** change
     *changeHandle =
         FindFirstPrinterChangeNotification(*printerHandle, everyPrinterChange, 0, nullptr);
     if (*changeHandle == INVALID_HANDLE_VALUE) {
-        log_lines::print(log_lines::notificationFailed, name.constData());
+        log(log_lines::notificationFailed);
         return false;
     }
     printer.release();

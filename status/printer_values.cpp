@@ -2,7 +2,6 @@
 // Copyright The VxPrinterStatus authors
 #include "printer_values.h"
 
-#include <QtCore/QByteArray>
 #include <QtCore/QtEndian>
 
 #include <array>
@@ -35,9 +34,11 @@ struct Answer
 /// Asks for a value. A failed call is told by what it left: type and buffer are as they were.
 Answer ask(HANDLE printer, const char* name, BYTE* buffer, DWORD capacity)
 {
-    QByteArray valueName(name);
     Answer answer;
-    GetPrinterDataA(printer, valueName.data(), &answer.type, buffer, capacity, &answer.needed);
+    // The name is not written to, though its type would allow it; a copy of it would be one for
+    // each value of each notification.
+    GetPrinterDataA(printer, const_cast<char*>(name), &answer.type, buffer, capacity,
+                    &answer.needed);
     return answer;
 }
 

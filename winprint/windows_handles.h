@@ -63,11 +63,11 @@ struct ServiceHandleTraits
 using PrinterHandle = UniqueHandle<PrinterHandleTraits>;
 using ServiceHandle = UniqueHandle<ServiceHandleTraits>;
 
-/// Opens a printer with default access; invalid when that fails.
-inline PrinterHandle openPrinter(const QString& name)
+/// Opens a printer, without defaults with default access; invalid when that fails.
+inline PrinterHandle openPrinter(const QString& name, PRINTER_DEFAULTSA* defaults = nullptr)
 {
     HANDLE handle = nullptr;
-    if (!OpenPrinterA(name.toLocal8Bit().data(), &handle, nullptr))
+    if (!OpenPrinterA(name.toLocal8Bit().data(), &handle, defaults))
         return {};
     return PrinterHandle(handle);
 }
@@ -77,8 +77,5 @@ inline PrinterHandle openPrinterForAdministration(const QString& name)
 {
     PRINTER_DEFAULTSA defaults{};
     defaults.DesiredAccess = PRINTER_ALL_ACCESS;
-    HANDLE handle = nullptr;
-    if (!OpenPrinterA(name.toLocal8Bit().data(), &handle, &defaults))
-        return {};
-    return PrinterHandle(handle);
+    return openPrinter(name, &defaults);
 }

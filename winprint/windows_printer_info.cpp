@@ -83,6 +83,13 @@ QString requiredText(const WCHAR* text, const char* what)
     return fromWide(text);
 }
 
+/// What `getPrinterInfo2` hands out.
+struct RecordDeleter
+{
+    void operator()(PRINTER_INFO_2W* info) const { std::free(info); }
+};
+using OwnedRecord = std::unique_ptr<PRINTER_INFO_2W, RecordDeleter>;
+
 /// Code and text of a Windows error as the log shows them.
 void streamError(QDebug& stream, DWORD error)
 {
@@ -128,8 +135,7 @@ bool WindowsPrinterInfo::isPrinterOffline(PRINTER_INFO_2W* info)
 
 bool WindowsPrinterInfo::isPrinterOffline(HANDLE printer)
 {
-    const std::unique_ptr<PRINTER_INFO_2W, decltype(&std::free)> info(getPrinterInfo2(printer),
-                                                                      &std::free);
+    const OwnedRecord info(getPrinterInfo2(printer));
     return !info || isOffline(*info);
 }
 
@@ -207,8 +213,7 @@ AvailablePrinters WindowsPrinterInfo::getAvailablePrinterInfo(const QString& pri
     const PrinterHandle handle = openPrinter(printerName);
     if (!handle.isValid())
         return printer;
-    const std::unique_ptr<PRINTER_INFO_2W, decltype(&std::free)> info(getPrinterInfo2(handle.get()),
-                                                                      &std::free);
+    const OwnedRecord info(getPrinterInfo2(handle.get()));
     if (!info)
         return printer;
 
