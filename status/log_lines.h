@@ -46,6 +46,40 @@ inline constexpr LogLine printerInfoSizing{infoFile, 224, getPrinterInfo2, nullp
 inline constexpr LogLine printerInfoMemory{infoFile, 233, getPrinterInfo2, nullptr};
 inline constexpr LogLine printerInfoReading{infoFile, 244, getPrinterInfo2, nullptr};
 
+// The controller's; %s is a printer, and in evaluatingPrinter the second its driver.
+inline constexpr char controllerFile[] = "printer_status_controller";
+inline constexpr LogLine evaluatingPrinter{
+    controllerFile, 141, "void PrinterStatusController::checkForNewPrinter(AvailablePrinters)",
+    "Evaluating Printer: %s ( %s )."};
+inline constexpr LogLine activeFromUsersDefault{
+    controllerFile, 187, "void PrinterStatusController::checkForNewPrinter(AvailablePrinters)",
+    "Setting defaultActivePrinter %s from user-selected default."};
+inline constexpr LogLine activeChosen{controllerFile, 263,
+                                      "void PrinterStatusController::initializeDefaultPrinter()",
+                                      "Setting defaultActivePrinter %s."};
+inline constexpr char sendCommandToPrinter[] =
+    "void PrinterStatusController::sendCommandToPrinter(QString, QString)";
+inline constexpr LogLine commandOpeningFailed{controllerFile, 338, sendCommandToPrinter,
+                                              "%s: OpenPrinter call failed"};
+inline constexpr LogLine commandDocumentFailed{controllerFile, 350, sendCommandToPrinter,
+                                               "ERROR: failed to start print job"};
+inline constexpr LogLine commandPageFailed{controllerFile, 358, sendCommandToPrinter,
+                                           "ERROR: failed to start new (virtual) page"};
+inline constexpr LogLine commandWritingFailed{controllerFile, 367, sendCommandToPrinter,
+                                              "ERROR: printer does not accept (all) data\n"};
+inline constexpr LogLine hostsLine{controllerFile, 451,
+                                   "void PrinterStatusController::sendToLogger(QString)", nullptr};
+inline constexpr char onPrinterStatusChanged[] =
+    "void PrinterStatusController::onPrinterStatusChanged(QString, QString)";
+inline constexpr LogLine wentOffline{controllerFile, 486, onPrinterStatusChanged,
+                                     "%s went offline"};
+inline constexpr LogLine activeFromWindowsDefault{
+    controllerFile, 535, onPrinterStatusChanged,
+    "Setting defaultActivePrinter %s from Windows default."};
+inline constexpr LogLine supplyChanged{
+    controllerFile, 583, "void PrinterStatusController::onSupplyIdChanged(QString, QString)",
+    nullptr};
+
 /// Writes a line whose message is printf-style, with 8-bit text.
 template <typename... Text>
 void print(const LogLine& line, const Text&... text)
@@ -61,15 +95,13 @@ inline void write(const LogLine& line, const QString& text)
         .write(text);
 }
 
-/// Writes a line item by item: `items` streams them, each of which is followed by a blank. Texts
-/// are not quoted.
+/// Writes a line item by item: `items` streams them, each of which is followed by a blank.
 template <typename Items>
 void stream(const LogLine& line, Items&& items)
 {
     QString text;
     {
         QDebug debug(&text);
-        debug.noquote();
         items(debug);
     }
     write(line, text);

@@ -93,7 +93,7 @@ using OwnedRecord = std::unique_ptr<PRINTER_INFO_2W, RecordDeleter>;
 /// Code and text of a Windows error as the log shows them.
 void streamError(QDebug& stream, DWORD error)
 {
-    stream << error << WindowsErrors::winError(error);
+    stream.noquote() << error << WindowsErrors::winError(error);
 }
 
 } // namespace

@@ -1,0 +1,506 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "printer_status_controller.h"
+
+#include "log_lines.h"
+#include "percent_left.h"
+#include "printer_status_thread.h"
+#include "raw_print_job.h"
+#include "status_titles.h"
+#include "vx_ipc_m4_controller.h"
+#include "vx_ipc_supplyd_controller.h"
+#include "windows_printer_info.h"
+
+#include <QtGui/QColor>
+
+#include <algorithm>
+#include <exception>
+
+using VXPrinting::PrinterType;
+
+namespace {
+
+const QString nothingLoaded = QStringLiteral("-1");
+/// What the driver publishes when no supply is loaded.
+const QString blankSupplyIdentifier = QString(20, QLatin1Char('0'));
+
+constexpr int lastUnsupportedType = 100;
+/// A ribbon is named by the colour of its first panel, ribbon 2 too.
+constexpr int firstPanel = 1;
+
+bool hasSecondRibbon(PrinterType type)
+{
+    return type == PrinterType::Alder || type == PrinterType::AlderMax;
+}
+
+/// The spooler's printers; none when it lists one that has no name, which cannot be told apart from
+/// the others.
+QList<AvailablePrinters> spoolerPrinters()
+{
+    try {
+        return WindowsPrinterInfo::getAvailablePrinters();
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+void logAbout(const log_lines::LogLine& line, const QString& printerName)
+{
+    log_lines::print(line, printerName.toLocal8Bit().constData());
+}
+
+QString hexOf(uint rgb)
+{
+    return QColor(QRgb(rgb)).name();
+}
+
+QString hexOfFirst(const QStringList& rgbs)
+{
+    return hexOf(rgbs.value(0).toUInt());
+}
+
+} // namespace
+
+PrinterStatusController::PrinterStatusController(QObject* parent)
+    : QObject(parent)
+    , supplyIdController(new VXIPCSUPPLYDController)
+    , m4Controller(new VXIPCM4Controller)
+{
+    checkForPrinters();
+    initializeDefaultPrinter();
+}
+
+PrinterStatusController::~PrinterStatusController()
+{
+    for (PrinterStatusThread* thread : std::as_const(statusThreads))
+        thread->stop();
+    delete supplyIdController;
+    delete m4Controller;
+    endThreads();
+}
+
+void PrinterStatusController::endThreads()
+{
+    // A thread that is still in its first read has no stop event to be told by, so all are told
+    // again until each has ended. None is waited for before all have been told.
+    constexpr unsigned long patience = 10; // milliseconds
+    const auto threads = statusThreads.values();
+    for (qsizetype ended = 0; ended < threads.size();) {
+        if (threads[ended]->wait(patience)) {
+            ++ended;
+            continue;
+        }
+        for (PrinterStatusThread* thread : threads.sliced(ended))
+            thread->stop();
+    }
+    qDeleteAll(threads);
+    statusThreads.clear();
+}
+
+VXIPCM4Controller* PrinterStatusController::getm4Controller()
+{
+    return m4Controller;
+}
+
+VXIPCSUPPLYDController* PrinterStatusController::getSupplyIdController()
+{
+    return supplyIdController;
+}
+
+QVariantList PrinterStatusController::getAvailablePrinters() const
+{
+    QVariantList records;
+    records.reserve(printerStatusMap.size());
+    for (const PrinterStatusInformation& record : printerStatusMap)
+        records.append(QVariant::fromValue(record));
+    return records;
+}
+
+// Finding printers ////////////////////////////////////////////////////////////////////////////////
+
+void PrinterStatusController::checkForPrinters()
+{
+    const QList<AvailablePrinters> printers = spoolerPrinters();
+    for (const AvailablePrinters& printer : printers)
+        checkForNewPrinter(printer);
+}
+
+void PrinterStatusController::checkForNewPrinter(AvailablePrinters printer)
+{
+    const QString& name = printer.printerName;
+    if (ignoredPrinters.contains(name) || printerStatusMap.contains(name))
+        return;
+
+    // A printer that stays offline is evaluated at every call and logged at the first.
+    if (!offlinePrinters.contains(name))
+        log_lines::print(log_lines::evaluatingPrinter, name.toLocal8Bit().constData(),
+                         printer.driverName.toLocal8Bit().constData());
+
+    const PrinterType type = WindowsPrinterInfo::printerType(printer.driverName);
+    if (static_cast<int>(type) <= lastUnsupportedType) {
+        ignoredPrinters.insert(name);
+        Q_EMIT statusChangedSignal(status_codes::disconnected, name);
+        return;
+    }
+    if (printer.isOffline) {
+        offlinePrinters.insert(name);
+        return;
+    }
+
+    PrinterStatusInformation record;
+    record.printerName = name;
+    record.ribbon2Visible = hasSecondRibbon(type);
+    if (printer.isNetworkPrinter) {
+        record.printerRemote = true;
+        record.statusEnum = status_codes::networkPrinter;
+    } else if (WindowsPrinterInfo::isPrinterAdmin(name)) {
+        createNewStatusThread(name);
+    } else {
+        record.printerNonAdmin = true;
+        record.statusEnum = status_codes::notManaged;
+    }
+    printerStatusMap.insert(name, record);
+    supplyIdController->addNewPrinter(name);
+    m4Controller->onStatusChanged(record.statusEnum, name);
+
+    if (WindowsPrinterInfo::getDefaultPrinterName() == name && !record.printerNonAdmin) {
+        logAbout(log_lines::activeFromUsersDefault, name);
+        makeActive(name);
+    }
+}
+
+void PrinterStatusController::createNewStatusThread(QString printerName)
+{
+    using Thread = PrinterStatusThread;
+    using Controller = PrinterStatusController;
+    auto* const thread = new Thread;
+    connect(thread, &Thread::printerStatusChanged, this, &Controller::onPrinterStatusChanged);
+    connect(thread, &Thread::supplyIdChanged, this, &Controller::onSupplyIdChanged);
+    connect(thread, &Thread::ribbonIdsChanged, this, &Controller::onRibbonIdsChanged);
+    connect(thread, &Thread::supplyIntMileageChanged, this, &Controller::onSupplyIntMileageChanged);
+    connect(thread, &Thread::ribbon1IntMileageChanged, this,
+            &Controller::onRibbon1IntMileageChanged);
+    connect(thread, &Thread::ribbon2IntMileageChanged, this,
+            &Controller::onRibbon2IntMileageChanged);
+    connect(thread, &Thread::softwareVersionChanged, this, &Controller::onSoftwareVersionChanged);
+    thread->setMonitoredPrinterName(printerName);
+    thread->start();
+    statusThreads.insert(printerName, thread);
+}
+
+// The active printer //////////////////////////////////////////////////////////////////////////////
+
+QString PrinterStatusController::activeDefaultPrinter() const
+{
+    return m_activeDefaultPrinter;
+}
+
+bool PrinterStatusController::vxDefaultActivePrinter() const
+{
+    return m_vxDefaultActivePrinter;
+}
+
+void PrinterStatusController::makeActive(const QString& printerName)
+{
+    m_activeDefaultPrinter = printerName;
+    printerStatusMap[printerName].printerDefault = true;
+    m_vxDefaultActivePrinter = true;
+    Q_EMIT activeDefaultPrinterSetSignal(m_activeDefaultPrinter, m_vxDefaultActivePrinter);
+}
+
+void PrinterStatusController::initializeDefaultPrinter()
+{
+    if (m_activeDefaultPrinter.isEmpty()) {
+        if (printerStatusMap.isEmpty())
+            chooseOutsideRecords();
+        else
+            chooseFromRecords();
+    }
+    if (m_activeDefaultPrinter.isEmpty())
+        return;
+    logAbout(log_lines::activeChosen, m_activeDefaultPrinter);
+    Q_EMIT activeDefaultPrinterSetSignal(m_activeDefaultPrinter, m_vxDefaultActivePrinter);
+}
+
+void PrinterStatusController::chooseFromRecords()
+{
+    // Whether online is not asked: a printer that is switched off for the moment is still the one
+    // to work with. Where all are network printers the last of them stays.
+    for (auto entry = printerStatusMap.cbegin(); entry != printerStatusMap.cend(); ++entry) {
+        m_activeDefaultPrinter = entry.key();
+        if (!entry->printerRemote)
+            break;
+    }
+    m_vxDefaultActivePrinter = true;
+}
+
+void PrinterStatusController::chooseOutsideRecords()
+{
+    const QString windowsDefault = WindowsPrinterInfo::getDefaultPrinterName();
+    if (!windowsDefault.isEmpty() && !WindowsPrinterInfo::isPrinterOffline(windowsDefault)) {
+        m_activeDefaultPrinter = windowsDefault;
+        return;
+    }
+    for (const QString& name : std::as_const(ignoredPrinters)) {
+        if (!WindowsPrinterInfo::isPrinterOffline(name)) {
+            m_activeDefaultPrinter = name;
+            return;
+        }
+    }
+}
+
+void PrinterStatusController::updateDefaultPrinter()
+{
+    m_activeDefaultPrinter = QString();
+    m_vxDefaultActivePrinter = false;
+    initializeDefaultPrinter();
+}
+
+// Status //////////////////////////////////////////////////////////////////////////////////////////
+
+void PrinterStatusController::onPrinterStatusChanged(QString printerName, QString status)
+{
+    // Found afresh after each signal: a slot of the host's may have changed the map.
+    const auto record = [&]() -> PrinterStatusInformation& {
+        return printerStatusMap[printerName];
+    };
+    if (record().printerRemote)
+        return;
+
+    bool readable = false;
+    record().statusEnum = status.toInt(&readable);
+    if (!readable) {
+        if (WindowsPrinterInfo::isPrinterOffline(printerName)) {
+            recordOffline(printerName);
+            Q_EMIT availablePrintersUpdated();
+            Q_EMIT statusChangedSignal(record().statusEnum, printerName);
+            if (printerName == m_activeDefaultPrinter)
+                updateDefaultPrinter();
+            return;
+        }
+        record().statusEnum = status_codes::unknown;
+    }
+    record().printerOnline = true;
+
+    const int code = record().statusEnum;
+    const bool mayBeOffline = code == status_codes::disconnected || code == status_codes::unknown;
+    if (code == status_codes::ready) {
+        reevaluateErrorState();
+    } else if (mayBeOffline && WindowsPrinterInfo::isPrinterOffline(printerName)) {
+        recordOffline(printerName);
+        if (printerName == m_activeDefaultPrinter)
+            updateDefaultPrinter();
+    } else {
+        raiseErrorState();
+    }
+
+    if (record().printerOnline && shallBecomeActive(printerName)) {
+        logAbout(log_lines::activeFromWindowsDefault, printerName);
+        makeActive(printerName);
+    }
+
+    Q_EMIT statusChangedSignal(record().statusEnum, printerName);
+    Q_EMIT availablePrintersUpdated();
+}
+
+bool PrinterStatusController::shallBecomeActive(const QString& printerName) const
+{
+    if (m_activeDefaultPrinter.isEmpty())
+        return true;
+    return printerName != m_activeDefaultPrinter &&
+           printerName == WindowsPrinterInfo::getDefaultPrinterName();
+}
+
+void PrinterStatusController::recordOffline(const QString& printerName)
+{
+    logAbout(log_lines::wentOffline, printerName);
+    offlinePrinters.insert(printerName);
+    PrinterStatusInformation& record = printerStatusMap[printerName];
+    record.printerOnline = false;
+    record.statusEnum = status_codes::offline;
+    reevaluateErrorState();
+}
+
+void PrinterStatusController::raiseErrorState()
+{
+    if (noPrinterInError)
+        Q_EMIT printerErrorChangedSignal(true);
+    noPrinterInError = false;
+}
+
+void PrinterStatusController::reevaluateErrorState()
+{
+    if (noPrinterInError)
+        return;
+
+    // A report of 0 or of a negative code raises the error state, but does not hold it: what holds
+    // it is a code above ready of a printer that is there, one that has not reported yet and one
+    // that is not managed among them.
+    const auto isInError = [](const PrinterStatusInformation& record) {
+        return record.statusEnum > status_codes::ready && record.printerOnline &&
+               !record.printerRemote;
+    };
+    if (std::ranges::any_of(std::as_const(printerStatusMap), isInError))
+        return;
+
+    noPrinterInError = true;
+    Q_EMIT printerErrorChangedSignal(false);
+}
+
+void PrinterStatusController::updateCachedStatus(bool inError)
+{
+    if (inError)
+        raiseErrorState();
+    else
+        reevaluateErrorState();
+}
+
+QString PrinterStatusController::getStatusTitle(int statusEnum)
+{
+    return statusTitle(statusEnum);
+}
+
+PrinterType PrinterStatusController::getPrinterTypeEnum(QString printerName)
+{
+    const QList<AvailablePrinters> printers = spoolerPrinters();
+    const auto found = std::ranges::find(printers, printerName, &AvailablePrinters::printerName);
+    if (found == printers.end())
+        return PrinterType::Unknown;
+    return WindowsPrinterInfo::printerType(found->driverName);
+}
+
+// Supply, ribbons, firmware ///////////////////////////////////////////////////////////////////////
+
+void PrinterStatusController::onSupplyIdChanged(QString printerName, QString id)
+{
+    if (id.isEmpty() || id == blankSupplyIdentifier)
+        id = nothingLoaded;
+    supplyIdController->setSupplyId(id, printerName);
+
+    const QString sku = supplyIdController->supplySKUCached(printerName);
+    const int rgb = supplyIdController->supplyColorRGB(sku, printerName);
+    const QString colorName = supplyIdController->supplyColorName(sku, printerName);
+    const QString materialName = supplyIdController->supplyMaterialName(sku, printerName);
+
+    // The percentage stays that of the old supply until the new one's mileage comes.
+    PrinterStatusInformation& record = printerStatusMap[printerName];
+    record.supplySKU = sku;
+    record.supplyColorHex = hexOf(static_cast<uint>(rgb));
+    record.supplyColorName = colorName;
+    record.supplyMaterialName = materialName;
+    log_lines::stream(log_lines::supplyChanged, [&](QDebug& line) {
+        line << "\n"
+             << printerName << record.printerOnline << record.supplySKU << record.supplyColorHex
+             << record.supplyColorName << record.supplyMaterialName;
+    });
+
+    Q_EMIT supplyIdChangedSignal(printerName);
+    Q_EMIT availablePrintersUpdated();
+}
+
+void PrinterStatusController::onRibbonIdsChanged(QString printerName, QStringList ids)
+{
+    supplyIdController->setRibbonIds(ids, printerName);
+    const QStringList skus = supplyIdController->supplyRibbonSKUsCached(printerName);
+    if (skus.isEmpty())
+        return;
+
+    // A ribbon that was taken out stays in the record: hosts go on showing what the printer last
+    // printed with.
+    PrinterStatusInformation& record = printerStatusMap[printerName];
+    const QString& ribbon1 = skus.first();
+    if (ribbon1 != nothingLoaded) {
+        record.ribbon1SKU = ribbon1;
+        record.ribbon1ColorHex = hexOfFirst(supplyIdController->supplyRibbon1RGBs(printerName));
+        record.ribbon1ColorName = supplyIdController->supplyRibbonColorName(ribbon1, firstPanel);
+    }
+    const QString ribbon2 = skus.value(1, nothingLoaded);
+    if (ribbon2 != nothingLoaded) {
+        record.ribbon2SKU = ribbon2;
+        record.ribbon2ColorHex = hexOfFirst(supplyIdController->supplyRibbon2RGBs(printerName));
+        record.ribbon2ColorName = supplyIdController->supplyRibbonColorName(ribbon2, firstPanel);
+    }
+
+    Q_EMIT ribbonIdsChangedSignal(printerName);
+    Q_EMIT availablePrintersUpdated();
+}
+
+void PrinterStatusController::onSupplyIntMileageChanged(QString printerName, QString mileage)
+{
+    const double reported = percent_left::mileage(mileage);
+    const SupplyInformation loaded = supplyIdController->supplyInformation(printerName);
+    const bool inPercent = getPrinterTypeEnum(printerName) == PrinterType::Alder;
+
+    printerStatusMap[printerName].supplyPercentage =
+        inPercent ? percent_left::ofPercentage(reported)
+                  : percent_left::ofSupply(reported, loaded.supplyLength, loaded.supplyId);
+    Q_EMIT availablePrintersUpdated();
+}
+
+void PrinterStatusController::onRibbon1IntMileageChanged(QString printerName, QString mileage)
+{
+    const SupplyInformation loaded = supplyIdController->supplyInformation(printerName);
+    printerStatusMap[printerName].ribbon1Percentage =
+        ribbonPercentage(printerName, mileage, loaded.ribbon1Length);
+    Q_EMIT availablePrintersUpdated();
+}
+
+void PrinterStatusController::onRibbon2IntMileageChanged(QString printerName, QString mileage)
+{
+    const SupplyInformation loaded = supplyIdController->supplyInformation(printerName);
+    printerStatusMap[printerName].ribbon2Percentage =
+        ribbonPercentage(printerName, mileage, loaded.ribbon2Length);
+    Q_EMIT availablePrintersUpdated();
+}
+
+int PrinterStatusController::ribbonPercentage(const QString& printerName, const QString& mileage,
+                                              float ribbonLength)
+{
+    const double reported = percent_left::mileage(mileage);
+    if (getPrinterTypeEnum(printerName) == PrinterType::Alder)
+        return percent_left::ofPercentage(reported);
+    return percent_left::ofRibbon(reported, ribbonLength);
+}
+
+void PrinterStatusController::onSoftwareVersionChanged(QString printerName, QString version)
+{
+    printerStatusMap[printerName].softwareVersion = version;
+    Q_EMIT availablePrintersUpdated();
+}
+
+QString PrinterStatusController::getPrinterSoftwareVersion(QString printerName)
+{
+    const auto found = printerStatusMap.constFind(printerName);
+    if (found == printerStatusMap.cend())
+        return {};
+    return found->softwareVersion.section(QLatin1Char(','), 0, 0);
+}
+
+// Commands and the log ////////////////////////////////////////////////////////////////////////////
+
+void PrinterStatusController::sendCommandToPrinter(QString command, QString printerName)
+{
+    // All of these lines stay at debug level: a host that tries printers one by one expects some
+    // to fail.
+    switch (sendRawPrintJob(command, printerName)) {
+    case RawPrintJobResult::Sent:
+        break;
+    case RawPrintJobResult::PrinterNotOpened:
+        logAbout(log_lines::commandOpeningFailed, printerName);
+        break;
+    case RawPrintJobResult::DocumentNotStarted:
+        log_lines::print(log_lines::commandDocumentFailed);
+        break;
+    case RawPrintJobResult::PageNotStarted:
+        log_lines::print(log_lines::commandPageFailed);
+        break;
+    case RawPrintJobResult::DataNotAccepted:
+        log_lines::print(log_lines::commandWritingFailed);
+        break;
+    }
+}
+
+void PrinterStatusController::sendToLogger(QString message)
+{
+    log_lines::write(log_lines::hostsLine, message);
+}
