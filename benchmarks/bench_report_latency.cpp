@@ -29,6 +29,7 @@ using virtualwindows::PrinterValue;
 
 namespace {
 
+using benchmark_support::Samples;
 using Clock = std::chrono::steady_clock;
 
 constexpr int blocks = 60;
@@ -283,25 +284,6 @@ private:
     QThread m_hostThread;
     PrinterStatusThread m_library;
     std::unique_ptr<HandWrittenThread> m_floor;
-};
-
-struct Samples
-{
-    std::vector<double> library;
-    std::vector<double> floor;
-
-    void append(const Samples& other)
-    {
-        library.insert(library.end(), other.library.begin(), other.library.end());
-        floor.insert(floor.end(), other.floor.begin(), other.floor.end());
-    }
-    double ratio(double share) const
-    {
-        if (library.empty())
-            return std::numeric_limits<double>::quiet_NaN();
-        return benchmark_support::quantile(library, share) /
-               benchmark_support::quantile(floor, share);
-    }
 };
 
 /// Samples of every repetition: the limits are held against all of them together.

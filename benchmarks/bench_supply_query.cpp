@@ -16,7 +16,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -24,6 +23,7 @@
 
 namespace {
 
+using benchmark_support::Samples;
 using Clock = std::chrono::steady_clock;
 
 constexpr double warmLimit = 1.0;
@@ -174,20 +174,6 @@ private:
 
 // The measurement.
 
-/// Nanoseconds a question.
-struct Samples
-{
-    std::vector<double> library;
-    std::vector<double> floor;
-
-    double ratio() const
-    {
-        if (library.empty() || floor.empty())
-            return std::numeric_limits<double>::quiet_NaN();
-        return benchmark_support::median(library) / benchmark_support::median(floor);
-    }
-};
-
 enum Temperature
 {
     Warm,      ///< all was asked before
@@ -196,6 +182,7 @@ enum Temperature
     TemperatureCount,
 };
 
+/// Nanoseconds a question.
 template <typename Question>
 Samples samplesOf[TemperatureCount];
 
@@ -263,8 +250,7 @@ void query(benchmark::State& state, Temperature temperature)
     state.counters["ratio"] = samples.ratio();
 
     Samples& all = samplesOf<Question>[temperature];
-    all.library.insert(all.library.end(), samples.library.begin(), samples.library.end());
-    all.floor.insert(all.floor.end(), samples.floor.begin(), samples.floor.end());
+    all.append(samples);
 }
 
 struct Setting

@@ -14,11 +14,11 @@
 #include <benchmark/benchmark.h>
 
 #include <chrono>
-#include <limits>
 #include <vector>
 
 namespace {
 
+using benchmark_support::Samples;
 using Clock = std::chrono::steady_clock;
 
 constexpr double warmLimit = 1.0;
@@ -207,18 +207,6 @@ bool isSame(const SupplyInformation& left, const SupplyInformation& right)
 // The measurement.
 
 /// Microseconds a record.
-struct Samples
-{
-    std::vector<double> library;
-    std::vector<double> floor;
-
-    double ratio() const
-    {
-        if (library.empty() || floor.empty())
-            return std::numeric_limits<double>::quiet_NaN();
-        return benchmark_support::median(library) / benchmark_support::median(floor);
-    }
-};
 Samples allSamples;
 
 template <typename Make>
@@ -271,9 +259,7 @@ void supplyRecord(benchmark::State& state)
     state.counters["library_us"] = benchmark_support::median(samples.library);
     state.counters["floor_us"] = benchmark_support::median(samples.floor);
     state.counters["ratio"] = samples.ratio();
-    allSamples.library.insert(allSamples.library.end(), samples.library.begin(),
-                              samples.library.end());
-    allSamples.floor.insert(allSamples.floor.end(), samples.floor.begin(), samples.floor.end());
+    allSamples.append(samples);
 }
 
 BENCHMARK(supplyRecord)

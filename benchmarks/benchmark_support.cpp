@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <limits>
 
 namespace benchmark_support {
 
@@ -42,6 +43,19 @@ double quantile(std::vector<double> samples, double share)
 double median(const std::vector<double>& samples)
 {
     return quantile(samples, 0.5);
+}
+
+void Samples::append(const Samples& other)
+{
+    library.insert(library.end(), other.library.begin(), other.library.end());
+    floor.insert(floor.end(), other.floor.begin(), other.floor.end());
+}
+
+double Samples::ratio(double share) const
+{
+    if (library.empty() || floor.empty())
+        return std::numeric_limits<double>::quiet_NaN();
+    return quantile(library, share) / quantile(floor, share);
 }
 
 void Limits::atMost(const std::string& what, double measured, double limit, const std::string& unit)

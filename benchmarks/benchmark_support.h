@@ -18,6 +18,18 @@ bool run(int argc, char* argv[], const std::vector<std::string>& defaults = {});
 double quantile(std::vector<double> samples, double share);
 double median(const std::vector<double>& samples);
 
+/// What the library and its floor took.
+struct Samples
+{
+    std::vector<double> library;
+    std::vector<double> floor;
+
+    void append(const Samples& other);
+    /// Library over floor at a share of the samples, at the median unless said; NaN when nothing
+    /// was measured.
+    double ratio(double share = 0.5) const;
+};
+
 /// The closing lines.
 class Limits
 {
