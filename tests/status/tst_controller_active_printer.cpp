@@ -1,0 +1,405 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// Which printer is the active one, and when the host is told.
+#include "controller_test.h"
+
+namespace {
+const QString ash = QStringLiteral("Ash");
+const QString beech = QStringLiteral("Beech");
+const QString cherry = QStringLiteral("Cherry");
+const QString laser = QStringLiteral("Laser");
+const QString plotter = QStringLiteral("Plotter");
+const QString laserDriver = QStringLiteral("Office Laser 9");
+
+const QString updated = QStringLiteral("availablePrintersUpdated()");
+QString active(const QString& name, bool isVX = true)
+{
+    return QStringLiteral("activeDefaultPrinterSetSignal(%1, %2)")
+        .arg(name, QLatin1String(isVX ? "true" : "false"));
+}
+QString status(int code, const QString& name)
+{
+    return QStringLiteral("statusChangedSignal(%1, %2)").arg(code).arg(name);
+}
+QString error(bool inError)
+{
+    return QStringLiteral("printerErrorChangedSignal(%1)")
+        .arg(QLatin1String(inError ? "true" : "false"));
+}
+
+const log_lines::LogLine fromUsersDefault{
+    "printer_status_controller", 187,
+    "void PrinterStatusController::checkForNewPrinter(AvailablePrinters)", nullptr};
+const log_lines::LogLine chosen{"printer_status_controller", 263,
+                                "void PrinterStatusController::initializeDefaultPrinter()",
+                                nullptr};
+const log_lines::LogLine fromWindowsDefault{
+    "printer_status_controller", 535,
+    "void PrinterStatusController::onPrinterStatusChanged(QString, QString)", nullptr};
+} // namespace
+
+class ActivePrinterTest : public ControllerTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void windowsDefaultIsTakenAtDiscovery();
+    void windowsDefaultTakesOverAtDiscovery();
+    void networkPrinterThatIsWindowsDefault();
+    void printerThatMayNotBeManagedIsNotTakenAtDiscovery();
+    void defaultNameIsComparedExactly();
+    void firstLocalRecordByName();
+    void unmanagedPrinterIsTakenByName();
+    void lastOfNetworkPrinters();
+    void choiceAmongRecordsMarksNoRecord();
+    void otherPrintersWhenThereIsNoRecord_data();
+    void otherPrintersWhenThereIsNoRecord();
+    void ignoredPrinterThatIsNotOffline();
+    void recordTakesOverFromAnotherPrinter();
+    void windowsDefaultTakesOverWhenItReports();
+    void windowsDefaultThatReportsAgainIsNotAnnounced();
+    void printerThatIsNotTheDefaultDoesNotTakeOver();
+    void offlineDefaultDoesNotTakeOver();
+    void firstToReportWhileThereIsNone();
+    void printerDefaultIsNeverCleared();
+    void activePrinterGoesOffline_data();
+    void activePrinterGoesOffline();
+    void onlyRecordGoesOffline();
+    void otherPrinterGoesOffline();
+    void activeOutsideRecordsWhenItReportsOffline();
+
+private:
+    /// A controller with no records whose active printer is not one of the maker's.
+    void makeWithLaser()
+    {
+        addPrinter(laser, laserDriver);
+        machine().setDefaultPrinter(laser);
+        makeController();
+        QCOMPARE(controller().activeDefaultPrinter(), laser);
+        QVERIFY(!controller().vxDefaultActivePrinter());
+    }
+    void makeWithTwo()
+    {
+        addPrinter(ash);
+        addPrinter(beech);
+        makeController();
+        QCOMPARE(controller().activeDefaultPrinter(), ash);
+        takeSignals();
+        takeLog();
+    }
+};
+
+void ActivePrinterTest::windowsDefaultIsTakenAtDiscovery()
+{
+    addPrinter(ash);
+    addPrinter(beech);
+    machine().setDefaultPrinter(beech);
+    makeController();
+
+    QCOMPARE(controller().activeDefaultPrinter(), beech);
+    QVERIFY(controller().vxDefaultActivePrinter());
+    QVERIFY(record(beech).printerDefault);
+    QVERIFY(!record(ash).printerDefault);
+
+    const QList<LogRecord> log = takeLog();
+    QCOMPARE(log.size(), 4);
+    QCOMPARE(log.at(2), line(fromUsersDefault,
+                             QStringLiteral("Setting defaultActivePrinter Beech from user-selected "
+                                            "default.")));
+    QCOMPARE(log.at(3), line(chosen, QStringLiteral("Setting defaultActivePrinter Beech.")));
+}
+
+void ActivePrinterTest::windowsDefaultTakesOverAtDiscovery()
+{
+    makeWithTwo();
+    addPrinter(cherry);
+    machine().setDefaultPrinter(cherry);
+    controller().checkForPrinters();
+    QCOMPARE(takeSignals(), QStringList{active(cherry)});
+    QCOMPARE(controller().activeDefaultPrinter(), cherry);
+
+    // Only as it is found: one that becomes the default later waits for its report.
+    machine().setDefaultPrinter(beech);
+    controller().checkForPrinters();
+    QVERIFY(takeSignals().isEmpty());
+}
+
+void ActivePrinterTest::networkPrinterThatIsWindowsDefault()
+{
+    addPrinter(ash);
+    addNetworkPrinter(beech);
+    machine().setDefaultPrinter(beech);
+    makeController();
+    QCOMPARE(controller().activeDefaultPrinter(), beech);
+    QVERIFY(record(beech).printerDefault);
+}
+
+void ActivePrinterTest::printerThatMayNotBeManagedIsNotTakenAtDiscovery()
+{
+    addPrinter(ash);
+    addUnmanagedPrinter(beech);
+    machine().setDefaultPrinter(beech);
+    makeController();
+    QCOMPARE(controller().activeDefaultPrinter(), ash);
+    QVERIFY(!record(beech).printerDefault);
+}
+
+void ActivePrinterTest::defaultNameIsComparedExactly()
+{
+    addPrinter(ash);
+    addPrinter(beech);
+    addPrinter(QStringLiteral("BEECH"), laserDriver);
+    machine().setDefaultPrinter(QStringLiteral("BEECH"));
+    makeController();
+    QCOMPARE(controller().activeDefaultPrinter(), ash);
+}
+
+void ActivePrinterTest::firstLocalRecordByName()
+{
+    addPrinter(cherry);
+    addPrinter(beech);
+    addNetworkPrinter(ash);
+    makeController();
+    QCOMPARE(controller().activeDefaultPrinter(), beech);
+    QVERIFY(controller().vxDefaultActivePrinter());
+}
+
+void ActivePrinterTest::unmanagedPrinterIsTakenByName()
+{
+    addUnmanagedPrinter(ash);
+    addPrinter(beech);
+    machine().setDefaultPrinter(ash);
+    makeController();
+    QCOMPARE(controller().activeDefaultPrinter(), ash);
+    QVERIFY(controller().vxDefaultActivePrinter());
+}
+
+void ActivePrinterTest::lastOfNetworkPrinters()
+{
+    addNetworkPrinter(cherry);
+    addNetworkPrinter(ash);
+    addNetworkPrinter(beech);
+    makeController();
+    QCOMPARE(controller().activeDefaultPrinter(), cherry);
+    QVERIFY(controller().vxDefaultActivePrinter());
+}
+
+void ActivePrinterTest::choiceAmongRecordsMarksNoRecord()
+{
+    makeWithTwo();
+    QVERIFY(!record(ash).printerDefault);
+}
+
+void ActivePrinterTest::otherPrintersWhenThereIsNoRecord_data()
+{
+    QTest::addColumn<QString>("windowsDefault");
+    QTest::addColumn<bool>("laserOffline");
+    QTest::addColumn<bool>("plotterOffline");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("the default") << laser << false << false << laser;
+    QTest::newRow("the default, the other one offline") << plotter << true << false << plotter;
+    QTest::newRow("the default is offline") << laser << true << false << plotter;
+    QTest::newRow("no default") << QString() << true << false << plotter;
+    QTest::newRow("all offline") << laser << true << true << QString();
+}
+
+void ActivePrinterTest::otherPrintersWhenThereIsNoRecord()
+{
+    QFETCH(const QString, windowsDefault);
+    QFETCH(const bool, laserOffline);
+    QFETCH(const bool, plotterOffline);
+    QFETCH(const QString, expected);
+
+    addPrinter(laser, laserDriver);
+    addPrinter(plotter, QStringLiteral("Harlow Devices Press"));
+    setOffline(laser, laserOffline);
+    setOffline(plotter, plotterOffline);
+    machine().setDefaultPrinter(windowsDefault);
+    makeController();
+
+    QCOMPARE(controller().activeDefaultPrinter(), expected);
+    QVERIFY(!controller().vxDefaultActivePrinter());
+    const QStringList messages = takeMessages().mid(2);
+    if (expected.isEmpty())
+        QVERIFY(messages.isEmpty());
+    else
+        QCOMPARE(messages,
+                 QStringList{QStringLiteral("Setting defaultActivePrinter %1.").arg(expected)});
+}
+
+void ActivePrinterTest::ignoredPrinterThatIsNotOffline()
+{
+    // A default printer that was never enumerated cannot be opened, so it counts as offline.
+    addPrinter(laser, laserDriver);
+    machine().setDefaultPrinter(QStringLiteral("Gone"));
+    makeController();
+    QCOMPARE(controller().activeDefaultPrinter(), laser);
+}
+
+void ActivePrinterTest::recordTakesOverFromAnotherPrinter()
+{
+    makeWithLaser();
+    addPrinter(ash);
+    controller().checkForPrinters();
+    takeSignals();
+
+    // A record alone changes nothing, nor does its report while another printer is active.
+    QCOMPARE(controller().activeDefaultPrinter(), laser);
+    reportStatus(ash, "1");
+    QCOMPARE(takeSignals(), QStringList({status(1, ash), updated}));
+
+    machine().setDefaultPrinter(ash);
+    reportStatus(ash, "1");
+    QCOMPARE(takeSignals(), QStringList({active(ash), status(1, ash), updated}));
+    QVERIFY(controller().vxDefaultActivePrinter());
+}
+
+void ActivePrinterTest::windowsDefaultTakesOverWhenItReports()
+{
+    makeWithTwo();
+    machine().setDefaultPrinter(beech);
+    reportStatus(beech, "1");
+    QCOMPARE(takeSignals(), QStringList({active(beech), status(1, beech), updated}));
+    QCOMPARE(takeLog(),
+             QList<LogRecord>{
+                 line(fromWindowsDefault,
+                      QStringLiteral("Setting defaultActivePrinter Beech from Windows default."))});
+    QVERIFY(record(beech).printerDefault);
+
+    // An error is told first; it does not keep the printer from taking over.
+    machine().setDefaultPrinter(ash);
+    reportStatus(ash, "42");
+    QCOMPARE(takeSignals(), QStringList({error(true), active(ash), status(42, ash), updated}));
+}
+
+void ActivePrinterTest::windowsDefaultThatReportsAgainIsNotAnnounced()
+{
+    addPrinter(ash);
+    machine().setDefaultPrinter(ash);
+    makeController();
+    takeLog();
+    reportStatus(ash, "1");
+    QCOMPARE(takeSignals(), QStringList({status(1, ash), updated}));
+    QVERIFY(takeLog().isEmpty());
+}
+
+void ActivePrinterTest::printerThatIsNotTheDefaultDoesNotTakeOver()
+{
+    makeWithTwo();
+    machine().setDefaultPrinter(ash);
+    reportStatus(beech, "1");
+    QCOMPARE(takeSignals(), QStringList({status(1, beech), updated}));
+    QCOMPARE(controller().activeDefaultPrinter(), ash);
+}
+
+void ActivePrinterTest::offlineDefaultDoesNotTakeOver()
+{
+    makeWithTwo();
+    machine().setDefaultPrinter(beech);
+    setOffline(beech);
+    reportStatus(beech, "0");
+    QCOMPARE(takeSignals(), QStringList({status(257, beech), updated}));
+    QCOMPARE(controller().activeDefaultPrinter(), ash);
+}
+
+void ActivePrinterTest::firstToReportWhileThereIsNone()
+{
+    makeController();
+    addPrinter(ash);
+    addPrinter(beech);
+    controller().checkForPrinters();
+    QVERIFY(controller().activeDefaultPrinter().isEmpty());
+
+    // Whichever it is, and whatever the Windows default is.
+    machine().setDefaultPrinter(ash);
+    reportStatus(beech, "1");
+    QCOMPARE(takeSignals(), QStringList({active(beech), status(1, beech), updated}));
+    QVERIFY(record(beech).printerDefault);
+    QVERIFY(controller().vxDefaultActivePrinter());
+}
+
+void ActivePrinterTest::printerDefaultIsNeverCleared()
+{
+    makeWithTwo();
+    for (const QString& name : {beech, ash}) {
+        machine().setDefaultPrinter(name);
+        reportStatus(name, "1");
+        QCOMPARE(controller().activeDefaultPrinter(), name);
+    }
+    QVERIFY(record(ash).printerDefault);
+    QVERIFY(record(beech).printerDefault);
+}
+
+void ActivePrinterTest::activePrinterGoesOffline_data()
+{
+    QTest::addColumn<QByteArray>("report");
+    QTest::addColumn<bool>("listFirst");
+
+    QTest::newRow("unreadable") << QByteArray("") << true;
+    QTest::newRow("0") << QByteArray("0") << false;
+    QTest::newRow("255") << QByteArray("255") << false;
+}
+
+void ActivePrinterTest::activePrinterGoesOffline()
+{
+    QFETCH(const QByteArray, report);
+    QFETCH(const bool, listFirst);
+
+    addPrinter(ash);
+    addPrinter(cherry);
+    addNetworkPrinter(beech);
+    machine().setDefaultPrinter(cherry);
+    makeController();
+    QCOMPARE(controller().activeDefaultPrinter(), cherry);
+    takeLog();
+
+    setOffline(cherry);
+    reportStatus(cherry, report);
+    const QStringList told = listFirst ? QStringList{updated, status(257, cherry), active(ash)}
+                                       : QStringList{active(ash), status(257, cherry), updated};
+    QCOMPARE(takeSignals(), told);
+    QCOMPARE(controller().activeDefaultPrinter(), ash);
+    QCOMPARE(takeMessages(), QStringList({QStringLiteral("Cherry went offline"),
+                                          QStringLiteral("Setting defaultActivePrinter Ash.")}));
+    QVERIFY(!record(ash).printerDefault);
+    QVERIFY(record(cherry).printerDefault);
+
+    // Back online it is the Windows default still, and takes over with its next report.
+    setOffline(cherry, false);
+    reportStatus(cherry, "1");
+    QCOMPARE(takeSignals(), QStringList({active(cherry), status(1, cherry), updated}));
+}
+
+void ActivePrinterTest::onlyRecordGoesOffline()
+{
+    addPrinter(ash);
+    makeController();
+    setOffline(ash);
+    reportStatus(ash, "");
+    // Chosen again at once: whether it is online is not asked.
+    QCOMPARE(takeSignals(), QStringList({updated, status(257, ash), active(ash)}));
+    QVERIFY(controller().vxDefaultActivePrinter());
+}
+
+void ActivePrinterTest::otherPrinterGoesOffline()
+{
+    makeWithTwo();
+    setOffline(beech);
+    reportStatus(beech, "");
+    QCOMPARE(takeSignals(), QStringList({updated, status(257, beech)}));
+    QCOMPARE(controller().activeDefaultPrinter(), ash);
+}
+
+void ActivePrinterTest::activeOutsideRecordsWhenItReportsOffline()
+{
+    // A report for a name without a record makes one, which is then what the choice is made from.
+    makeWithLaser();
+    setOffline(laser);
+    reportStatus(laser, "");
+    QCOMPARE(takeSignals(), QStringList({updated, status(257, laser), active(laser)}));
+    QVERIFY(controller().vxDefaultActivePrinter());
+}
+
+QTEST_GUILESS_MAIN(ActivePrinterTest)
+#include "tst_controller_active_printer.moc"

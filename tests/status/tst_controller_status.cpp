@@ -1,0 +1,460 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// What the controller makes of a status that a printer reports, and the error state.
+#include "controller_test.h"
+
+#include <vxerror.h>
+
+namespace {
+const QString ash = QStringLiteral("Ash");
+const QString beech = QStringLiteral("Beech");
+const QString updated = QStringLiteral("availablePrintersUpdated()");
+const QString errorRaised = QStringLiteral("printerErrorChangedSignal(true)");
+const QString errorCleared = QStringLiteral("printerErrorChangedSignal(false)");
+QString status(int code, const QString& name = ash)
+{
+    return QStringLiteral("statusChangedSignal(%1, %2)").arg(code).arg(name);
+}
+const log_lines::LogLine wentOffline{
+    "printer_status_controller", 486,
+    "void PrinterStatusController::onPrinterStatusChanged(QString, QString)", nullptr};
+} // namespace
+
+class ControllerStatusTest : public ControllerTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() override
+    {
+        ControllerTest::init();
+        addPrinter(ash);
+        machine().setDefaultPrinter(ash);
+        makeController();
+        QVERIFY(machine().waitForWaitingThreads(1));
+        takeLog();
+    }
+
+    void statusOfAnOnlinePrinter_data();
+    void statusOfAnOnlinePrinter();
+    void statusOfAnOfflinePrinter_data();
+    void statusOfAnOfflinePrinter();
+    void whetherOfflineIsAskedOnlyWhereItMatters_data();
+    void whetherOfflineIsAskedOnlyWhereItMatters();
+    void secondErrorIsNotTold();
+    void readyClearsTheErrorState();
+    void readyWithoutErrorTellsNoError();
+    void offlineClearsTheErrorState_data();
+    void offlineClearsTheErrorState();
+    void anotherPrinterHoldsTheErrorState_data();
+    void anotherPrinterHoldsTheErrorState();
+    void networkAndOfflinePrintersHoldNoErrorState();
+    void comesBackFromOffline();
+    void offlinePrinterIsNotEvaluatedAnew();
+    void networkPrintersReportIsIgnored();
+    void unmanagedPrintersReportIsHandled();
+    void unknownNameMakesARecord();
+    void unknownNameThatIsOffline();
+    void hostSaysThatThereIsAnError();
+    void hostSaysThatAnErrorMayHaveCleared();
+    void spoolerStopsAndComesBack();
+    void reportGoesToNoEndpoint();
+    void titles_data();
+    void titles();
+    void typeOfAPrinter();
+    void slotMayChangeTheRecords();
+};
+
+void ControllerStatusTest::statusOfAnOnlinePrinter_data()
+{
+    QTest::addColumn<QString>("reported");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<bool>("isError");
+
+    const auto row = [](const char* reported, int code, bool isError) {
+        QTest::newRow(reported) << QString::fromLatin1(reported) << code << isError;
+    };
+    row("1", 1, false);
+    row("0", 0, true);
+    row("255", 255, true);
+    row("2", 2, true);
+    row("42", 42, true);
+    row("254", 254, true);
+    row("256", 256, true);
+    row("257", 257, true);
+    row("258", 258, true);
+    row("-1", -1, true);
+    row("-2147483648", INT_MIN, true);
+    row("2147483647", INT_MAX, true);
+    row("2147483648", 255, true); // no int
+    row("-2147483649", 255, true);
+    row("", 255, true);
+    row("abc", 255, true);
+    row("1x", 255, true);
+    row("1.0", 255, true);
+    row("0x1", 255, true);
+    row(" 1 ", 1, false); // as QString::toInt reads it
+    row("+1", 1, false);
+    row("001", 1, false);
+}
+
+void ControllerStatusTest::statusOfAnOnlinePrinter()
+{
+    QFETCH(const QString, reported);
+    QFETCH(const int, code);
+    QFETCH(const bool, isError);
+
+    report("onPrinterStatusChanged", ash, reported);
+    QCOMPARE(record(ash).statusEnum, code);
+    QVERIFY(record(ash).printerOnline);
+    QStringList expected{status(code), updated};
+    if (isError)
+        expected.prepend(errorRaised);
+    QCOMPARE(takeSignals(), expected);
+    QVERIFY(takeLog().isEmpty());
+}
+
+void ControllerStatusTest::statusOfAnOfflinePrinter_data()
+{
+    QTest::addColumn<QString>("reported");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QStringList>("expected");
+
+    const QString chosenAgain = QStringLiteral("activeDefaultPrinterSetSignal(Ash, true)");
+    const QStringList listFirst{updated, status(257), chosenAgain};
+    const QStringList statusFirst{chosenAgain, status(257), updated};
+    QTest::newRow("empty") << "" << 257 << listFirst;
+    QTest::newRow("abc") << "abc" << 257 << listFirst;
+    QTest::newRow("no int") << "2147483648" << 257 << listFirst;
+    QTest::newRow("0") << "0" << 257 << statusFirst;
+    QTest::newRow("255") << "255" << 257 << statusFirst;
+    // What a printer reports readably otherwise is believed.
+    QTest::newRow("1") << "1" << 1 << QStringList{status(1), updated};
+    QTest::newRow("42") << "42" << 42 << QStringList{errorRaised, status(42), updated};
+    QTest::newRow("-1") << "-1" << -1 << QStringList{errorRaised, status(-1), updated};
+    QTest::newRow("254") << "254" << 254 << QStringList{errorRaised, status(254), updated};
+}
+
+void ControllerStatusTest::statusOfAnOfflinePrinter()
+{
+    QFETCH(const QString, reported);
+    QFETCH(const int, code);
+    QFETCH(const QStringList, expected);
+
+    setOffline(ash);
+    report("onPrinterStatusChanged", ash, reported);
+    QCOMPARE(record(ash).statusEnum, code);
+    QCOMPARE(record(ash).printerOnline, code != 257);
+    QCOMPARE(takeSignals(), expected);
+    const QList<LogRecord> log = takeLog();
+    if (code == 257)
+        QCOMPARE(log.first(), line(wentOffline, QStringLiteral("Ash went offline")));
+    else
+        QVERIFY(log.isEmpty());
+}
+
+void ControllerStatusTest::whetherOfflineIsAskedOnlyWhereItMatters_data()
+{
+    QTest::addColumn<QString>("reported");
+    QTest::addColumn<int>("questions");
+    QTest::newRow("ready") << "1" << 0;
+    QTest::newRow("driver's code") << "42" << 0;
+    QTest::newRow("0") << "0" << 1;
+    QTest::newRow("255") << "255" << 1;
+    QTest::newRow("unreadable") << "abc" << 2; // and as a 255 once more
+}
+
+void ControllerStatusTest::whetherOfflineIsAskedOnlyWhereItMatters()
+{
+    QFETCH(const QString, reported);
+    QFETCH(const int, questions);
+    const int before = callsOf("OpenPrinterA");
+    report("onPrinterStatusChanged", ash, reported);
+    QCOMPARE(callsOf("OpenPrinterA") - before, questions);
+}
+
+void ControllerStatusTest::secondErrorIsNotTold()
+{
+    reportStatus(ash, "42");
+    QCOMPARE(takeSignals(), QStringList({errorRaised, status(42), updated}));
+    reportStatus(ash, "42");
+    QCOMPARE(takeSignals(), QStringList({status(42), updated}));
+    reportStatus(ash, "0");
+    QCOMPARE(takeSignals(), QStringList({status(0), updated}));
+}
+
+void ControllerStatusTest::readyClearsTheErrorState()
+{
+    reportStatus(ash, "42");
+    takeSignals();
+    reportStatus(ash, "1");
+    QCOMPARE(takeSignals(), QStringList({errorCleared, status(1), updated}));
+}
+
+void ControllerStatusTest::readyWithoutErrorTellsNoError()
+{
+    reportStatus(ash, "1");
+    reportStatus(ash, "1");
+    QCOMPARE(takeSignals(), QStringList({status(1), updated, status(1), updated}));
+}
+
+void ControllerStatusTest::offlineClearsTheErrorState_data()
+{
+    QTest::addColumn<QString>("reported");
+    QTest::addColumn<bool>("listFirst");
+    QTest::newRow("unreadable") << "" << true;
+    QTest::newRow("0") << "0" << false;
+    QTest::newRow("255") << "255" << false;
+}
+
+void ControllerStatusTest::offlineClearsTheErrorState()
+{
+    QFETCH(const QString, reported);
+    QFETCH(const bool, listFirst);
+
+    reportStatus(ash, "42");
+    takeSignals();
+    setOffline(ash);
+    report("onPrinterStatusChanged", ash, reported);
+    const QString chosenAgain = QStringLiteral("activeDefaultPrinterSetSignal(Ash, true)");
+    const QStringList expected = listFirst
+                                     ? QStringList{errorCleared, updated, status(257), chosenAgain}
+                                     : QStringList{errorCleared, chosenAgain, status(257), updated};
+    QCOMPARE(takeSignals(), expected);
+}
+
+void ControllerStatusTest::anotherPrinterHoldsTheErrorState_data()
+{
+    QTest::addColumn<QString>("other");
+    QTest::addColumn<bool>("holds");
+    QTest::newRow("not heard from yet") << QString() << true;
+    QTest::newRow("unreadable") << "abc" << true;
+    QTest::newRow("driver's code") << "2" << true;
+    QTest::newRow("spooler down") << "254" << true;
+    QTest::newRow("ready") << "1" << false;
+    // These raise the error state but do not hold it.
+    QTest::newRow("0") << "0" << false;
+    QTest::newRow("negative") << "-7" << false;
+}
+
+void ControllerStatusTest::anotherPrinterHoldsTheErrorState()
+{
+    QFETCH(const QString, other);
+    QFETCH(const bool, holds);
+
+    addPrinter(beech);
+    controller().checkForPrinters();
+    if (!other.isNull())
+        report("onPrinterStatusChanged", beech, other);
+    reportStatus(ash, "42");
+    takeSignals();
+
+    reportStatus(ash, "1");
+    QStringList expected{status(1), updated};
+    if (!holds)
+        expected.prepend(errorCleared);
+    QCOMPARE(takeSignals(), expected);
+}
+
+void ControllerStatusTest::networkAndOfflinePrintersHoldNoErrorState()
+{
+    addNetworkPrinter(QStringLiteral("Net"));
+    addPrinter(beech);
+    controller().checkForPrinters();
+    setOffline(beech);
+    reportStatus(beech, "");
+    reportStatus(ash, "42");
+    takeSignals();
+    reportStatus(ash, "1");
+    QCOMPARE(takeSignals(), QStringList({errorCleared, status(1), updated}));
+
+    // One that may not be managed does, for good.
+    addUnmanagedPrinter(QStringLiteral("Store"));
+    controller().checkForPrinters();
+    reportStatus(ash, "42");
+    takeSignals();
+    reportStatus(ash, "1");
+    QCOMPARE(takeSignals(), QStringList({status(1), updated}));
+}
+
+void ControllerStatusTest::comesBackFromOffline()
+{
+    setOffline(ash);
+    reportStatus(ash, "0");
+    QVERIFY(!record(ash).printerOnline);
+    takeSignals();
+
+    setOffline(ash, false);
+    reportStatus(ash, "0");
+    QVERIFY(record(ash).printerOnline);
+    QCOMPARE(record(ash).statusEnum, 0);
+    QCOMPARE(takeSignals(), QStringList({errorRaised, status(0), updated}));
+}
+
+void ControllerStatusTest::offlinePrinterIsNotEvaluatedAnew()
+{
+    setOffline(ash);
+    reportStatus(ash, "");
+    takeLog();
+    takeSignals();
+    controller().checkForPrinters();
+    QVERIFY(takeLog().isEmpty());
+    QVERIFY(takeSignals().isEmpty());
+    QCOMPARE(recordNames(), QStringList{ash});
+}
+
+void ControllerStatusTest::networkPrintersReportIsIgnored()
+{
+    const QString name = QStringLiteral("Net");
+    addNetworkPrinter(name);
+    controller().checkForPrinters();
+    for (const char* reported : {"1", "42", ""}) {
+        reportStatus(name, reported);
+        QCOMPARE(record(name).statusEnum, 256);
+    }
+    QVERIFY(takeSignals().isEmpty());
+}
+
+void ControllerStatusTest::unmanagedPrintersReportIsHandled()
+{
+    const QString name = QStringLiteral("Store");
+    addUnmanagedPrinter(name);
+    controller().checkForPrinters();
+    reportStatus(name, "1");
+    QCOMPARE(record(name).statusEnum, 1);
+    QVERIFY(record(name).printerNonAdmin);
+    QCOMPARE(takeSignals(), QStringList({status(1, name), updated}));
+}
+
+void ControllerStatusTest::unknownNameMakesARecord()
+{
+    reportStatus(QStringLiteral("Nobody"), "7");
+    QCOMPARE(takeSignals(),
+             QStringList({errorRaised, status(7, QStringLiteral("Nobody")), updated}));
+    // The record has no name of its own; it sorts by that of the report.
+    QCOMPARE(recordNames(), QStringList({ash, QString()}));
+    QCOMPARE(record(QString()).statusEnum, 7);
+}
+
+void ControllerStatusTest::unknownNameThatIsOffline()
+{
+    // What the spooler does not know cannot be opened and counts as offline.
+    reportStatus(QStringLiteral("Nobody"), "");
+    QCOMPARE(takeSignals(), QStringList({updated, status(257, QStringLiteral("Nobody"))}));
+    QVERIFY(!record(QString()).printerOnline);
+    QCOMPARE(takeMessages(), QStringList{QStringLiteral("Nobody went offline")});
+}
+
+void ControllerStatusTest::hostSaysThatThereIsAnError()
+{
+    controller().updateCachedStatus(true);
+    QCOMPARE(takeSignals(), QStringList{errorRaised});
+    controller().updateCachedStatus(true);
+    QVERIFY(takeSignals().isEmpty());
+    reportStatus(ash, "42");
+    QCOMPARE(takeSignals(), QStringList({status(42), updated}));
+}
+
+void ControllerStatusTest::hostSaysThatAnErrorMayHaveCleared()
+{
+    reportStatus(ash, "1");
+    takeSignals();
+    controller().updateCachedStatus(false);
+    QVERIFY(takeSignals().isEmpty());
+
+    controller().updateCachedStatus(true);
+    controller().updateCachedStatus(false);
+    QCOMPARE(takeSignals(), QStringList({errorRaised, errorCleared}));
+
+    reportStatus(ash, "42");
+    takeSignals();
+    controller().updateCachedStatus(false);
+    QVERIFY(takeSignals().isEmpty());
+}
+
+void ControllerStatusTest::spoolerStopsAndComesBack()
+{
+    machine().publish(ash, PrinterValue::text("StatusCode", "1"));
+    settle(1);
+    QCOMPARE(takeSignals(), QStringList({status(1), updated}));
+
+    machine().stopSpooler();
+    machine().advance(5s);
+    settle(1);
+    QCOMPARE(takeSignals(), QStringList({errorRaised, status(254), updated}));
+    QVERIFY(record(ash).printerOnline);
+
+    machine().startSpooler();
+    machine().advance(5s);
+    settle(1);
+    QCOMPARE(takeSignals(), QStringList({errorCleared, status(1), updated}));
+}
+
+void ControllerStatusTest::reportGoesToNoEndpoint()
+{
+    // Nor is anything else of Windows asked for a ready printer but the default printer's name.
+    reportStatus(ash, "1");
+    machine().recordCalls();
+    reportStatus(ash, "1");
+    QVERIFY(machine().calls().isEmpty());
+}
+
+void ControllerStatusTest::titles_data()
+{
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("0") << 0 << "Disconnected";
+    QTest::newRow("1") << 1 << "Ready";
+    QTest::newRow("255") << 255 << "Unable To Retrieve Printer Info. (Code 255)";
+    QTest::newRow("256") << 256
+                         << "Printer Is Remotely Connected.\nUnable to retrieve printer info.";
+    QTest::newRow("257") << 257 << "Disconnected";
+    QTest::newRow("258") << 258 << "Printer Is Not Managed.\nUnable to retrieve printer info.";
+    for (const int code : {-5, 2, 254, 42, INT_MIN, INT_MAX})
+        QTest::addRow("%d", code) << code << getErrorDescription(VXError(code));
+}
+
+void ControllerStatusTest::titles()
+{
+    QFETCH(const int, code);
+    QFETCH(const QString, title);
+    QCOMPARE(controller().getStatusTitle(code), title);
+    QVERIFY(!title.isEmpty());
+}
+
+void ControllerStatusTest::typeOfAPrinter()
+{
+    using VXPrinting::PrinterType;
+    addPrinter(beech, QStringLiteral("Stratamark BirchMax"));
+    addPrinter(QStringLiteral("Laser"), QStringLiteral("Office Laser 9"));
+    // Asked of the spooler: that the controller has not looked for them does not matter.
+    QCOMPARE(controller().getPrinterTypeEnum(beech), PrinterType::BirchMax);
+    QCOMPARE(controller().getPrinterTypeEnum(QStringLiteral("Laser")), PrinterType::Unknown);
+    QCOMPARE(controller().getPrinterTypeEnum(QStringLiteral("beech")), PrinterType::Unknown);
+    QCOMPARE(controller().getPrinterTypeEnum(QString()), PrinterType::Unknown);
+    QCOMPARE(controller().getPrinterTypeEnum(ash), PrinterType::Alder);
+    machine().setDriver(ash, QStringLiteral("Harlow Devices Press"));
+    QCOMPARE(controller().getPrinterTypeEnum(ash), PrinterType::Generic);
+    machine().removePrinter(ash);
+    QCOMPARE(controller().getPrinterTypeEnum(ash), PrinterType::Unknown);
+}
+
+void ControllerStatusTest::slotMayChangeTheRecords()
+{
+    // New records while a report is being handled: the report still ends up in its own.
+    int added = 0;
+    recorder().hook = [&](const QString& told) {
+        if (told != errorRaised)
+            return;
+        for (; added < 50; ++added)
+            addNetworkPrinter(QStringLiteral("Net %1").arg(added));
+        controller().checkForPrinters();
+    };
+    reportStatus(ash, "42");
+    QCOMPARE(takeSignals(), QStringList({errorRaised, status(42), updated}));
+    QCOMPARE(recordNames().size(), 51);
+    QCOMPARE(record(ash).statusEnum, 42);
+}
+
+QTEST_GUILESS_MAIN(ControllerStatusTest)
+#include "tst_controller_status.moc"
