@@ -58,17 +58,17 @@ void checkRequest(const IpcDispatcher& dispatcher, const QJsonValue& request)
         require(answeredId == id, "a result is for its request");
 }
 
-void checkLine(const IpcDispatcher& dispatcher, const QByteArray& line)
+void checkLine(const IpcDispatcher& dispatcher, QByteArrayView line)
 {
     const IpcDispatcher::Message message = IpcDispatcher::parse(line);
     if (message.failure) {
-        require(message.requests.isEmpty(), "a line that failed has no requests");
+        require(message.size == 0, "a line that failed has no requests");
         checkAnswer(*message.failure);
         return;
     }
-    require(message.isBatch || message.requests.size() == 1, "what is no batch is one request");
-    for (const QJsonValue& request : message.requests)
-        checkRequest(dispatcher, request);
+    require(message.isBatch() || message.size == 1, "what is no batch is one request");
+    for (qsizetype i = 0; i < message.size; ++i)
+        checkRequest(dispatcher, message.request(i));
 }
 
 } // namespace
@@ -92,7 +92,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     for (qsizetype at = 0; at < bytes.size(); at += piece) {
         buffer.append(bytes.mid(at, piece));
         while (buffer.hasLine()) {
-            const QByteArray line = buffer.takeLine();
+            const QByteArrayView line = buffer.takeLine();
             require(line == bytes.mid(taken, line.size()), "lines are the bytes that arrived");
             taken += line.size() + 1;
             if (!line.trimmed().isEmpty())

@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #include "ipc_connection.h"
 
+#include "ipc_send.h"
+
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
@@ -74,7 +76,7 @@ void IpcConnection::work(Load load)
     const QDeadlineTimer end(TurnTime, Qt::PreciseTimer);
     bool isIdle = false;
     do {
-        if (m_nextRequest < m_message.requests.size()) {
+        if (m_nextRequest < m_message.size) {
             handleNextRequest();
             if (!self)
                 return;
@@ -106,7 +108,7 @@ bool IpcConnection::fetchLine()
             m_socket->read(ReadChunk);
             continue;
         }
-        m_received.append(m_socket->read(ReadChunk));
+        m_received.appendFrom(*m_socket, ReadChunk);
     }
     if (m_received.lineSize() <= JsonRpc::MaximumLine)
         return true;
@@ -118,8 +120,8 @@ bool IpcConnection::fetchLine()
 
 void IpcConnection::startMessage()
 {
-    const QByteArray line = m_received.takeLine();
-    if (QByteArrayView(line).trimmed().isEmpty())
+    const QByteArrayView line = m_received.takeLine();
+    if (line.trimmed().isEmpty())
         return;
     m_message = IpcDispatcher::parse(line);
     m_nextRequest = 0;
@@ -130,19 +132,19 @@ void IpcConnection::startMessage()
 void IpcConnection::handleNextRequest()
 {
     const QPointer<IpcConnection> self(this);
-    const QJsonValue request = m_message.requests.at(m_nextRequest++);
-    const std::optional<QByteArray> answered = m_dispatcher.handle(request);
+    const std::optional<QByteArray> answered =
+        m_dispatcher.handle(m_message.request(m_nextRequest++));
     if (!self)
         return;
     if (answered)
         answer(*answered);
-    if (m_nextRequest == m_message.requests.size())
+    if (m_nextRequest == m_message.size)
         endMessage();
 }
 
 void IpcConnection::answer(const QByteArray& line)
 {
-    if (!m_message.isBatch) {
+    if (!m_message.isBatch()) {
         write(line);
         return;
     }
@@ -167,10 +169,13 @@ void IpcConnection::write(const QByteArray& bytes)
         return;
     if (m_socket->bytesToWrite() + bytes.size() > JsonRpc::MaximumAnswers)
         m_socket->flush();
-    if (m_socket->bytesToWrite() + bytes.size() <= JsonRpc::MaximumAnswers)
+    if (m_socket->bytesToWrite() + bytes.size() > JsonRpc::MaximumAnswers)
+        closeOverflowing();
+    else if (m_received.hasLine())
+        // The next answers can go with this one.
         m_socket->write(bytes);
     else
-        closeOverflowing();
+        sendNow(*m_socket, bytes);
 }
 
 void IpcConnection::closeOverflowing()

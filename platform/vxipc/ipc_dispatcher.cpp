@@ -3,7 +3,9 @@
 #include "ipc_dispatcher.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
 
 namespace {
 
@@ -12,18 +14,32 @@ bool canBeId(const QJsonValue& id)
     return id.isString() || id.isDouble() || id.isNull();
 }
 
-/// Why `request` is none, or an empty text.
-QString defectOf(const QJsonObject& request)
+/// A request's members, each looked up once.
+struct Request
 {
-    const QJsonValue id = request.value(QStringLiteral("id"));
-    if (request.value(QStringLiteral("jsonrpc")).toString() != QLatin1String("2.0"))
+    QJsonValue version;
+    QJsonValue method;
+    QJsonValue parameters;
+    QJsonValue id;
+};
+
+Request readRequest(const QJsonObject& object)
+{
+    return {object.value(QLatin1String("jsonrpc")), object.value(QLatin1String("method")),
+            object.value(QLatin1String("params")), object.value(QLatin1String("id"))};
+}
+
+/// Why `request` is none, or an empty text.
+QString defectOf(const Request& request)
+{
+    if (request.version.toString() != QLatin1String("2.0"))
         return QStringLiteral("\"jsonrpc\" must be \"2.0\"");
-    if (!request.value(QStringLiteral("method")).isString())
+    if (!request.method.isString())
         return QStringLiteral("\"method\" must be a text");
-    if (!id.isUndefined() && !canBeId(id))
+    if (!request.id.isUndefined() && !canBeId(request.id))
         return QStringLiteral("\"id\" must be a text, a number or null");
-    const QJsonValue parameters = request.value(QStringLiteral("params"));
-    if (!parameters.isUndefined() && !parameters.isArray() && !parameters.isObject())
+    if (!request.parameters.isUndefined() && !request.parameters.isArray() &&
+        !request.parameters.isObject())
         return QStringLiteral("\"params\" must be a list or an object");
     return {};
 }
@@ -42,10 +58,11 @@ IpcDispatcher::IpcDispatcher(QObject& object, const QMetaObject& base, QString t
     , m_title(std::move(title))
 {}
 
-IpcDispatcher::Message IpcDispatcher::parse(const QByteArray& line)
+IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
 {
     QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(line, &error);
+    const QJsonDocument document =
+        QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), line.size()), &error);
     Message message;
     if (error.error != QJsonParseError::NoError) {
         message.failure =
@@ -54,37 +71,35 @@ IpcDispatcher::Message IpcDispatcher::parse(const QByteArray& line)
                                                     .arg(error.errorString())
                                                     .arg(error.offset),
                                                 {}});
-        return message;
-    }
-    message.isBatch = document.isArray();
-    if (!message.isBatch)
-        message.requests = {document.object()};
-    else if (document.array().isEmpty())
+    } else if (document.isObject()) {
+        message.content = document.object();
+        message.size = 1;
+    } else if (const QJsonArray batch = document.array(); !batch.isEmpty()) {
+        message.content = batch;
+        message.size = batch.size();
+    } else {
         message.failure = invalidRequest(QJsonValue::Null, QStringLiteral("the batch is empty"));
-    else
-        message.requests = document.array();
+    }
     return message;
 }
 
-std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& request) const
+std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& value) const
 {
-    if (!request.isObject())
+    if (!value.isObject())
         return invalidRequest(QJsonValue::Null, QStringLiteral("a request is an object"));
-    const QJsonObject object = request.toObject();
-    const QJsonValue id = object.value(QStringLiteral("id"));
-    if (const QString defect = defectOf(object); !defect.isEmpty())
-        return invalidRequest(id, defect);
+    const Request request = readRequest(value.toObject());
+    if (const QString defect = defectOf(request); !defect.isEmpty())
+        return invalidRequest(request.id, defect);
 
-    const IpcMethodTable::Outcome outcome = call(object.value(QStringLiteral("method")).toString(),
-                                                 object.value(QStringLiteral("params")));
-    if (id.isUndefined())
+    const IpcMethodTable::Outcome outcome = call(request.method.toString(), request.parameters);
+    if (request.id.isUndefined())
         return std::nullopt;
-    QByteArray answer =
-        outcome.error ? JsonRpc::failure(id, *outcome.error) : JsonRpc::success(id, outcome.result);
+    QByteArray answer = outcome.error ? JsonRpc::failure(request.id, *outcome.error)
+                                      : JsonRpc::success(request.id, outcome.result);
     if (answer.size() <= JsonRpc::MaximumAnswers)
         return answer;
     return JsonRpc::failure(
-        id,
+        request.id,
         {JsonRpc::AnswerTooLong,
          QStringLiteral("Answer too long: at most %1 bytes are sent").arg(JsonRpc::MaximumAnswers),
          {}});
@@ -93,9 +108,13 @@ std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& request) const
 IpcMethodTable::Outcome IpcDispatcher::call(const QString& method,
                                             const QJsonValue& parameters) const
 {
-    if (method != QStringLiteral("rpc.discover"))
-        return m_methods.call(method, parameters);
+    if (method == QLatin1String("rpc.discover"))
+        return {describe(), std::nullopt};
+    return m_methods.call(method, parameters);
+}
 
+QByteArray IpcDispatcher::describe() const
+{
     QJsonObject document = m_methods.describe();
     document.insert(QStringLiteral("openrpc"), QStringLiteral("1.2.6"));
     document.insert(
@@ -104,5 +123,5 @@ IpcMethodTable::Outcome IpcDispatcher::call(const QString& method,
                     {QStringLiteral("version"), QStringLiteral("1.0.0")},
                     {QStringLiteral("x-process"), QCoreApplication::applicationPid()},
                     {QStringLiteral("x-application"), QCoreApplication::applicationName()}});
-    return {document, std::nullopt};
+    return QJsonDocument(document).toJson(QJsonDocument::Compact);
 }

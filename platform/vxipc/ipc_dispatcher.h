@@ -5,8 +5,7 @@
 #include "ipc_method_table.h"
 
 #include <QtCore/QByteArray>
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonObject>
+#include <QtCore/QByteArrayView>
 #include <QtCore/QJsonValue>
 #include <QtCore/QString>
 
@@ -22,22 +21,27 @@ public:
     /// A line as it was received: one request or a batch of them.
     struct Message
     {
-        QJsonArray requests;
-        bool isBatch = false;
+        /// The request, or the list that they are in.
+        QJsonValue content;
+        qsizetype size = 0;
         /// The answer to a line that holds no request, as a line.
         std::optional<QByteArray> failure;
+
+        bool isBatch() const { return content.isArray(); }
+        QJsonValue request(qsizetype index) const { return isBatch() ? content[index] : content; }
     };
 
-    static Message parse(const QByteArray& line);
+    static Message parse(QByteArrayView line);
 
     /// The answer to one request of a message, as a line, or nothing to a notification. An answer
     /// that is too long to be sent is one that says so.
     ///
     /// The method that it calls may do anything, to the extent of destroying this dispatcher.
-    std::optional<QByteArray> handle(const QJsonValue& request) const;
+    std::optional<QByteArray> handle(const QJsonValue& value) const;
 
 private:
     IpcMethodTable::Outcome call(const QString& method, const QJsonValue& parameters) const;
+    QByteArray describe() const;
 
     IpcMethodTable m_methods;
     QString m_title;

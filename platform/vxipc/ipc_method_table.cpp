@@ -3,12 +3,13 @@
 #include "ipc_method_table.h"
 
 #include "ipc_values.h"
+#include "json_writer.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QStringList>
-#include <QtCore/QVarLengthArray>
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
@@ -33,11 +34,6 @@ bool begins(const QMetaMethod& slot, const QMetaMethod& shorter)
     return slot.parameterTypes().mid(0, shorter.parameterCount()) == shorter.parameterTypes();
 }
 
-QList<QJsonValue> inOrder(const QJsonArray& array)
-{
-    return {array.cbegin(), array.cend()};
-}
-
 } // namespace
 
 IpcMethodTable::IpcMethodTable(QObject& object, const QMetaObject& base)
@@ -58,7 +54,8 @@ std::optional<IpcMethodTable::Method> IpcMethodTable::readMethod(const QMetaMeth
     if (!isVoid(result) && !IpcValues::isSupported(result))
         return std::nullopt;
 
-    Method method{slot, {}, slot.parameterCount(), (slot.attributes() & QMetaMethod::Cloned) != 0};
+    Method method{
+        slot, result, {}, slot.parameterCount(), (slot.attributes() & QMetaMethod::Cloned) != 0};
     const QList<QByteArray> names = slot.parameterNames();
     for (int i = 0; i < slot.parameterCount(); ++i) {
         const QMetaType type = slot.parameterMetaType(i);
@@ -99,22 +96,24 @@ IpcMethodTable::Outcome IpcMethodTable::call(const QString& name,
 {
     Match chosen = choose(name, parameters);
     if (chosen.error)
-        return {QJsonValue::Null, chosen.error};
+        return {{}, std::move(chosen.error)};
 
-    const QMetaMethod& slot = chosen.method->slot;
-    const QMetaType resultType = slot.returnMetaType();
+    const QMetaType resultType = chosen.method->result;
     QVariant result;
     if (!isVoid(resultType))
         result = QVariant(resultType);
-    QVarLengthArray<void*, 8> arguments{result.isValid() ? result.data() : nullptr};
+    QVarLengthArray<void*, UsualArguments + 1> arguments{result.isValid() ? result.data()
+                                                                          : nullptr};
     for (QVariant& argument : chosen.arguments)
         arguments.append(argument.data());
-    QMetaObject::metacall(&m_object, QMetaObject::InvokeMetaMethod, slot.methodIndex(),
-                          arguments.data());
+    QMetaObject::metacall(&m_object, QMetaObject::InvokeMetaMethod,
+                          chosen.method->slot.methodIndex(), arguments.data());
     // Nothing of this table may be touched from here on.
     if (!result.isValid())
         return {};
-    return {IpcValues::toJson(result), std::nullopt};
+    JsonWriter json;
+    IpcValues::write(json, result);
+    return {json.json(), std::nullopt};
 }
 
 IpcMethodTable::Match IpcMethodTable::choose(const QString& name,
@@ -145,10 +144,15 @@ IpcMethodTable::Match IpcMethodTable::match(const Method& method, const QJsonVal
     if (parameters.isObject())
         return matchNamed(method, parameters.toObject());
 
-    const QList<QJsonValue> given = inOrder(parameters.toArray());
-    if (given.size() == method.parameters.size())
-        return matchArguments(method, given);
+    const QJsonArray array = parameters.toArray();
+    if (array.size() != method.parameters.size())
+        return mismatchedCount(method, array.size());
+    const QVarLengthArray<QJsonValue, UsualArguments> given(array.cbegin(), array.cend());
+    return matchArguments(method, given);
+}
 
+IpcMethodTable::Match IpcMethodTable::mismatchedCount(const Method& method, qsizetype given)
+{
     QStringList names;
     for (const Parameter& parameter : method.parameters)
         names.append(parameter.name);
@@ -158,7 +162,7 @@ IpcMethodTable::Match IpcMethodTable::match(const Method& method, const QJsonVal
             .arg(method.required < names.size()
                      ? QStringLiteral("%1 to %2").arg(method.required).arg(names.size())
                      : QString::number(names.size()),
-                 names.join(QStringLiteral(", ")), QString::number(given.size())),
+                 names.join(QStringLiteral(", ")), QString::number(given)),
         {{QStringLiteral("expected"), QJsonArray::fromStringList(names)}});
     return mismatch;
 }
@@ -176,7 +180,7 @@ IpcMethodTable::Match IpcMethodTable::matchNamed(const Method& method, const QJs
         return failed;
     }
 
-    QList<QJsonValue> ordered;
+    QVarLengthArray<QJsonValue, UsualArguments> ordered;
     for (const Parameter& parameter : method.parameters) {
         const auto found = given.constFind(parameter.name);
         if (found == given.constEnd()) {
@@ -191,21 +195,20 @@ IpcMethodTable::Match IpcMethodTable::matchNamed(const Method& method, const QJs
 }
 
 IpcMethodTable::Match IpcMethodTable::matchArguments(const Method& method,
-                                                     const QList<QJsonValue>& given)
+                                                     std::span<const QJsonValue> given)
 {
     Match match;
     match.method = &method;
     match.isOfRightCount = true;
-    for (qsizetype i = 0; i < given.size(); ++i) {
-        const Parameter& parameter = method.parameters.at(i);
-        IpcValues::Converted converted = IpcValues::fromJson(given.at(i), parameter.type);
+    for (qsizetype i = 0; const QJsonValue& argument : given) {
+        const Parameter& parameter = method.parameters.at(i++);
+        IpcValues::Converted converted = IpcValues::fromJson(argument, parameter.type);
         if (converted.fit == IpcValues::Fit::None) {
-            match.error =
-                invalidParams(QStringLiteral("argument %1 (%2): expected %3, got %4")
-                                  .arg(QString::number(i + 1), parameter.name, converted.expected,
-                                       IpcValues::kindOf(given.at(i))),
-                              {{QStringLiteral("argument"), parameter.name},
-                               {QStringLiteral("expected"), converted.expected}});
+            match.error = invalidParams(QStringLiteral("argument %1 (%2): expected %3, got %4")
+                                            .arg(QString::number(i), parameter.name,
+                                                 converted.expected, IpcValues::kindOf(argument)),
+                                        {{QStringLiteral("argument"), parameter.name},
+                                         {QStringLiteral("expected"), converted.expected}});
             return match;
         }
         match.fit += static_cast<int>(converted.fit);
@@ -237,7 +240,7 @@ QJsonObject IpcMethodTable::describe(const Method& method, QJsonObject& records)
                         {QStringLiteral("schema"), IpcValues::schema(parameter.type, records)},
                         {QStringLiteral("x-type"), QLatin1String(parameter.type.name())}});
     }
-    const QMetaType result = method.slot.returnMetaType();
+    const QMetaType result = method.result;
     const QJsonObject resultSchema =
         isVoid(result) ? QJsonObject{{QStringLiteral("type"), QStringLiteral("null")}}
                        : IpcValues::schema(result, records);

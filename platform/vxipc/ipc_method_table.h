@@ -4,14 +4,17 @@
 
 #include "json_rpc.h"
 
+#include <QtCore/QByteArray>
 #include <QtCore/QHash>
 #include <QtCore/QJsonObject>
 #include <QtCore/QList>
 #include <QtCore/QMetaMethod>
 #include <QtCore/QString>
-#include <QtCore/QVariantList>
+#include <QtCore/QVarLengthArray>
+#include <QtCore/QVariant>
 
 #include <optional>
+#include <span>
 
 /// The slots of an object that other processes may call, made from its meta-object.
 class IpcMethodTable
@@ -23,8 +26,8 @@ public:
 
     struct Outcome
     {
-        /// Null for a slot without a result.
-        QJsonValue result = QJsonValue::Null;
+        /// As JSON, null for a slot without a result.
+        QByteArray result = QByteArrayLiteral("null");
         std::optional<JsonRpc::Error> error;
     };
 
@@ -46,6 +49,7 @@ private:
     struct Method
     {
         QMetaMethod slot;
+        QMetaType result;
         QList<Parameter> parameters;
         /// How many of the parameters have no default. Only the first entry of a slot knows.
         qsizetype required = 0;
@@ -53,11 +57,14 @@ private:
         bool isShortened = false;
     };
 
+    /// Room for so many saves calls from allocating it.
+    static constexpr qsizetype UsualArguments = 6;
+
     /// How far the arguments of a call fit a method.
     struct Match
     {
         const Method* method = nullptr;
-        QVariantList arguments;
+        QVarLengthArray<QVariant, UsualArguments> arguments;
         /// The sum over the arguments.
         int fit = 0;
         std::optional<JsonRpc::Error> error;
@@ -69,7 +76,8 @@ private:
     Match choose(const QString& name, const QJsonValue& parameters) const;
     static Match match(const Method& method, const QJsonValue& parameters);
     static Match matchNamed(const Method& method, const QJsonObject& given);
-    static Match matchArguments(const Method& method, const QList<QJsonValue>& given);
+    static Match matchArguments(const Method& method, std::span<const QJsonValue> given);
+    static Match mismatchedCount(const Method& method, qsizetype given);
     static QJsonObject describe(const Method& method, QJsonObject& records);
 
     QObject& m_object;

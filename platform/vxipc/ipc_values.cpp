@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #include "ipc_values.h"
 
+#include "json_writer.h"
+
 #include <QtCore/QHash>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -89,18 +91,19 @@ Converted wideIntegerFromJson(const QJsonValue& json, QMetaType type)
 }
 
 template <typename Integer>
-QJsonValue integerToJson(const QVariant& value)
+void writeInteger(JsonWriter& json, const QVariant& value)
 {
-    return static_cast<qint64>(value.value<Integer>());
+    json.number(static_cast<qint64>(value.value<Integer>()));
 }
 
 template <typename Integer>
-QJsonValue wideIntegerToJson(const QVariant& value)
+void writeWideInteger(JsonWriter& json, const QVariant& value)
 {
     const auto number = value.value<Integer>();
     if (std::cmp_greater(number, LargestSafeInteger) || std::cmp_less(number, -LargestSafeInteger))
-        return QString::number(number);
-    return static_cast<qint64>(number);
+        json.text(QString::number(number));
+    else
+        json.number(static_cast<qint64>(number));
 }
 
 QJsonObject integerSchema()
@@ -125,9 +128,9 @@ Converted realFromJson(const QJsonValue& json, QMetaType /*type*/)
 }
 
 template <typename Real>
-QJsonValue realToJson(const QVariant& value)
+void writeReal(JsonWriter& json, const QVariant& value)
 {
-    return static_cast<double>(value.value<Real>());
+    json.number(static_cast<double>(value.value<Real>()));
 }
 
 QJsonObject realSchema()
@@ -140,9 +143,9 @@ Converted boolFromJson(const QJsonValue& json, QMetaType /*type*/)
     return json.isBool() ? fitting(json.toBool()) : unfitting(QStringLiteral("true or false"));
 }
 
-QJsonValue boolToJson(const QVariant& value)
+void writeBool(JsonWriter& json, const QVariant& value)
 {
-    return value.toBool();
+    json.raw(value.toBool() ? "true" : "false");
 }
 
 QJsonObject boolSchema()
@@ -155,9 +158,9 @@ Converted textFromJson(const QJsonValue& json, QMetaType /*type*/)
     return json.isString() ? fitting(json.toString()) : unfitting(QStringLiteral("a text"));
 }
 
-QJsonValue textToJson(const QVariant& value)
+void writeText(JsonWriter& json, const QVariant& value)
 {
-    return value.toString();
+    json.text(value.toString());
 }
 
 QJsonObject textSchema()
@@ -176,9 +179,21 @@ Converted textListFromJson(const QJsonValue& json, QMetaType /*type*/)
     return json.isArray() ? fitting(texts) : unfitting(QStringLiteral("a list of texts"));
 }
 
-QJsonValue textListToJson(const QVariant& value)
+/// Appends a list, each entry by `writeEntry`.
+void writeEach(JsonWriter& json, const auto& list, const auto& writeEntry)
 {
-    return QJsonArray::fromStringList(value.toStringList());
+    json.raw("[");
+    for (qsizetype i = 0; i < list.size(); ++i) {
+        if (i > 0)
+            json.raw(",");
+        writeEntry(list.at(i));
+    }
+    json.raw("]");
+}
+
+void writeTextList(JsonWriter& json, const QVariant& value)
+{
+    writeEach(json, value.toStringList(), [&](const QString& text) { json.text(text); });
 }
 
 QJsonObject textListSchema()
@@ -197,9 +212,11 @@ Converted bytesFromJson(const QJsonValue& json, QMetaType /*type*/)
     return fitting(*decoded);
 }
 
-QJsonValue bytesToJson(const QVariant& value)
+void writeBytes(JsonWriter& json, const QVariant& value)
 {
-    return QString::fromLatin1(value.toByteArray().toBase64());
+    json.raw("\"");
+    json.raw(value.toByteArray().toBase64());
+    json.raw("\"");
 }
 
 QJsonObject bytesSchema()
@@ -214,12 +231,9 @@ Converted listFromJson(const QJsonValue& json, QMetaType /*type*/)
                           : unfitting(QStringLiteral("a list"));
 }
 
-QJsonValue listToJson(const QVariant& value)
+void writeList(JsonWriter& json, const QVariant& value)
 {
-    QJsonArray array;
-    for (const QVariantList list = value.toList(); const QVariant& entry : list)
-        array.append(toJson(entry));
-    return array;
+    writeEach(json, value.toList(), [&](const QVariant& entry) { write(json, entry); });
 }
 
 QJsonObject listSchema()
@@ -239,14 +253,24 @@ Converted hashFromJson(const QJsonValue& json, QMetaType /*type*/)
                            : unfitting(QStringLiteral("an object"));
 }
 
-template <typename Map>
-QJsonValue mapToJson(const QVariant& value)
+/// Appends one member of an object; `isFirst` is whether it is the first.
+void writeMember(JsonWriter& json, bool isFirst, const QString& name, const QVariant& value)
 {
-    const auto map = value.value<Map>();
-    QJsonObject object;
+    if (!isFirst)
+        json.raw(",");
+    json.text(name);
+    json.raw(":");
+    write(json, value);
+}
+
+/// Hashes too, in the order of their keys: the same hash is the same text each time.
+void writeMap(JsonWriter& json, const QVariant& value)
+{
+    const QVariantMap map = value.toMap();
+    json.raw("{");
     for (auto entry = map.cbegin(); entry != map.cend(); ++entry)
-        object.insert(entry.key(), toJson(entry.value()));
-    return object;
+        writeMember(json, entry == map.cbegin(), entry.key(), entry.value());
+    json.raw("}");
 }
 
 QJsonObject mapSchema()
@@ -261,9 +285,9 @@ Converted anyFromJson(const QJsonValue& json, QMetaType type)
     return fitting(QVariant(type, &held), Fit::Lenient);
 }
 
-QJsonValue anyToJson(const QVariant& value)
+void writeAny(JsonWriter& json, const QVariant& value)
 {
-    return toJson(*static_cast<const QVariant*>(value.constData()));
+    write(json, *static_cast<const QVariant*>(value.constData()));
 }
 
 QJsonObject anySchema()
@@ -274,14 +298,14 @@ QJsonObject anySchema()
 struct Kind
 {
     Converted (*fromJson)(const QJsonValue&, QMetaType);
-    QJsonValue (*toJson)(const QVariant&);
+    void (*write)(JsonWriter&, const QVariant&);
     QJsonObject (*schema)();
 };
 
 template <typename Integer>
-constexpr Kind Narrow = {integerFromJson<Integer>, integerToJson<Integer>, integerSchema};
+constexpr Kind Narrow = {integerFromJson<Integer>, writeInteger<Integer>, integerSchema};
 template <typename Integer>
-constexpr Kind Wide = {wideIntegerFromJson<Integer>, wideIntegerToJson<Integer>, wideIntegerSchema};
+constexpr Kind Wide = {wideIntegerFromJson<Integer>, writeWideInteger<Integer>, wideIntegerSchema};
 /// A long is as wide as the system makes it.
 template <typename Integer>
 constexpr const Kind& nativeKind()
@@ -292,12 +316,12 @@ constexpr const Kind& nativeKind()
         return Wide<Integer>;
 }
 template <typename Real>
-constexpr Kind Floating = {realFromJson<Real>, realToJson<Real>, realSchema};
+constexpr Kind Floating = {realFromJson<Real>, writeReal<Real>, realSchema};
 
 const Kind* findKind(int typeId)
 {
     static const QHash<int, Kind> kinds = {
-        {QMetaType::Bool, {boolFromJson, boolToJson, boolSchema}},
+        {QMetaType::Bool, {boolFromJson, writeBool, boolSchema}},
         {QMetaType::Short, Narrow<short>},
         {QMetaType::UShort, Narrow<ushort>},
         {QMetaType::Int, Narrow<int>},
@@ -308,13 +332,13 @@ const Kind* findKind(int typeId)
         {QMetaType::ULongLong, Wide<qulonglong>},
         {QMetaType::Float, Floating<float>},
         {QMetaType::Double, Floating<double>},
-        {QMetaType::QString, {textFromJson, textToJson, textSchema}},
-        {QMetaType::QStringList, {textListFromJson, textListToJson, textListSchema}},
-        {QMetaType::QByteArray, {bytesFromJson, bytesToJson, bytesSchema}},
-        {QMetaType::QVariantList, {listFromJson, listToJson, listSchema}},
-        {QMetaType::QVariantMap, {mapFromJson, mapToJson<QVariantMap>, mapSchema}},
-        {QMetaType::QVariantHash, {hashFromJson, mapToJson<QVariantHash>, mapSchema}},
-        {QMetaType::QVariant, {anyFromJson, anyToJson, anySchema}},
+        {QMetaType::QString, {textFromJson, writeText, textSchema}},
+        {QMetaType::QStringList, {textListFromJson, writeTextList, textListSchema}},
+        {QMetaType::QByteArray, {bytesFromJson, writeBytes, bytesSchema}},
+        {QMetaType::QVariantList, {listFromJson, writeList, listSchema}},
+        {QMetaType::QVariantMap, {mapFromJson, writeMap, mapSchema}},
+        {QMetaType::QVariantHash, {hashFromJson, writeMap, mapSchema}},
+        {QMetaType::QVariant, {anyFromJson, writeAny, anySchema}},
     };
     const auto found = kinds.constFind(typeId);
     return found == kinds.cend() ? nullptr : &*found;
@@ -349,16 +373,16 @@ Converted recordFromJson(const QJsonObject& json, QMetaType type)
     return fitting(record);
 }
 
-QJsonValue recordToJson(const QVariant& record)
+void writeRecord(JsonWriter& json, const QVariant& record)
 {
     const QMetaObject& members = *record.metaType().metaObject();
-    QJsonObject object;
+    json.raw("{");
     for (int i = 0; i < members.propertyCount(); ++i) {
         const QMetaProperty member = members.property(i);
-        object.insert(QLatin1String(member.name()),
-                      toJson(member.readOnGadget(record.constData())));
+        writeMember(json, i == 0, QString::fromUtf8(member.name()),
+                    member.readOnGadget(record.constData()));
     }
-    return object;
+    json.raw("}");
 }
 
 QJsonObject recordSchema(QMetaType type, QJsonObject& records)
@@ -397,12 +421,15 @@ Converted fromJson(const QJsonValue& json, QMetaType type)
     return recordFromJson(json.toObject(), type);
 }
 
-QJsonValue toJson(const QVariant& value)
+void write(JsonWriter& json, const QVariant& value)
 {
     const QMetaType type = value.metaType();
     if (const Kind* kind = findKind(type.id()))
-        return kind->toJson(value);
-    return isRecord(type) ? recordToJson(value) : QJsonValue();
+        kind->write(json, value);
+    else if (isRecord(type))
+        writeRecord(json, value);
+    else
+        json.raw("null");
 }
 
 QJsonObject schema(QMetaType type, QJsonObject& records)

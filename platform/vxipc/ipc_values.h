@@ -8,6 +8,8 @@
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
+class JsonWriter;
+
 /// How the values of slots cross as JSON.
 namespace IpcValues {
 
@@ -33,7 +35,8 @@ struct Converted
 bool isSupported(QMetaType type);
 
 Converted fromJson(const QJsonValue& json, QMetaType type);
-QJsonValue toJson(const QVariant& value);
+/// Appends `value`; as null when its type cannot cross.
+void write(JsonWriter& json, const QVariant& value);
 
 /// The JSON Schema of `type`. Records are named by reference, and their own schema is added to
 /// `records` under their name.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QtCore/QByteArray>
+#include <QtCore/QByteArrayView>
 #include <QtCore/QJsonObject>
 #include <QtCore/QJsonValue>
 #include <QtCore/QString>
@@ -36,12 +37,12 @@ struct Error
     QJsonObject data;
 };
 
-/// Messages, each as the line that it is sent as. They are put together by hand: building an object
-/// to write it out once costs more than all the rest of a call.
+/// Messages, each as the line that it is sent as.
 
 /// Without an id it is a notification. Parameters that are neither list nor object are left out.
 QByteArray request(const QString& method, const QJsonValue& parameters, std::optional<qint64> id);
-QByteArray success(const QJsonValue& id, const QJsonValue& result);
+/// With the result as JSON.
+QByteArray success(const QJsonValue& id, QByteArrayView result);
 QByteArray failure(const QJsonValue& id, const Error& error);
 
 } // namespace JsonRpc

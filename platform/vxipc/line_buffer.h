@@ -3,17 +3,29 @@
 #pragma once
 
 #include <QtCore/QByteArray>
+#include <QtCore/QByteArrayView>
+#include <QtCore/QIODevice>
+
+#include <algorithm>
 
 /// Bytes as they arrive, to be taken out a line at a time.
 class LineBuffer
 {
 public:
-    void append(const QByteArray& bytes)
+    void append(QByteArrayView bytes)
     {
-        m_bytes.remove(0, m_begin);
-        m_searched -= m_begin;
-        m_begin = 0;
+        dropTaken();
         m_bytes += bytes;
+    }
+
+    /// Appends what has arrived on `device`, up to `most` bytes of it.
+    void appendFrom(QIODevice& device, qint64 most)
+    {
+        dropTaken();
+        const qsizetype size = m_bytes.size();
+        m_bytes.resize(size + std::min(most, device.bytesAvailable()));
+        const qint64 read = device.read(m_bytes.data() + size, m_bytes.size() - size);
+        m_bytes.resize(size + std::max<qint64>(read, 0));
     }
 
     /// Whether the next line is there to its end.
@@ -29,10 +41,10 @@ public:
     /// The length of the next line, or of what is there of it.
     qsizetype lineSize() const { return (m_end < 0 ? m_bytes.size() : m_end) - m_begin; }
 
-    /// The next line without its end. Only when there is one.
-    QByteArray takeLine()
+    /// The next line without its end, good until something is appended. Only when there is one.
+    QByteArrayView takeLine()
     {
-        const QByteArray line = m_bytes.mid(m_begin, lineSize());
+        const QByteArrayView line = QByteArrayView(m_bytes).sliced(m_begin, lineSize());
         m_begin = m_end + 1;
         m_end = -1;
         return line;
@@ -41,6 +53,13 @@ public:
     void clear() { *this = {}; }
 
 private:
+    void dropTaken()
+    {
+        m_bytes.remove(0, m_begin);
+        m_searched -= m_begin;
+        m_begin = 0;
+    }
+
     QByteArray m_bytes;
     qsizetype m_begin = 0;
     qsizetype m_searched = 0;

@@ -3,6 +3,7 @@
 #include "vxipcclient.h"
 
 #include "ipc_scope.h"
+#include "ipc_send.h"
 #include "json_rpc.h"
 #include "line_buffer.h"
 
@@ -39,25 +40,31 @@ VXIPCReply failed(VXIPCError::Code code, const QString& message)
     return {QJsonValue::Null, VXIPCError{code, message, {}}};
 }
 
-/// Whether it is one to a call of this client, which numbers them, or about the connection.
-bool isAnswer(const QJsonObject& object)
+struct Answer
 {
-    const QJsonValue id = object.value(QStringLiteral("id"));
-    const bool isError = object.value(QStringLiteral("error")).isObject();
-    return object.value(QStringLiteral("jsonrpc")).toString() == QLatin1String("2.0") &&
-           isError != object.contains(QStringLiteral("result")) &&
-           (id.isDouble() || (isError && id.isNull()));
-}
+    /// The number of the call, or null for an error about the connection.
+    QJsonValue id;
+    VXIPCReply reply;
+};
 
-VXIPCReply readReply(const QJsonObject& answer)
+/// Nothing when the line is no answer to a client that numbers its calls.
+std::optional<Answer> readAnswer(QByteArrayView line)
 {
-    const QJsonValue error = answer.value(QStringLiteral("error"));
-    if (error.isUndefined())
-        return {answer.value(QStringLiteral("result")), std::nullopt};
-    const QJsonObject object = error.toObject();
-    return {QJsonValue::Null, VXIPCError{object.value(QStringLiteral("code")).toInt(),
-                                         object.value(QStringLiteral("message")).toString(),
-                                         object.value(QStringLiteral("data"))}};
+    const QJsonObject object =
+        QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), line.size())).object();
+    const QJsonValue id = object.value(QLatin1String("id"));
+    const QJsonValue result = object.value(QLatin1String("result"));
+    const QJsonValue error = object.value(QLatin1String("error"));
+    if (object.value(QLatin1String("jsonrpc")).toString() != QLatin1String("2.0"))
+        return std::nullopt;
+    if (error.isUndefined() && !result.isUndefined() && id.isDouble())
+        return Answer{id, {result, std::nullopt}};
+    if (!error.isObject() || !result.isUndefined() || !(id.isDouble() || id.isNull()))
+        return std::nullopt;
+    return Answer{id,
+                  {QJsonValue::Null, VXIPCError{error[QLatin1String("code")].toInt(),
+                                                error[QLatin1String("message")].toString(),
+                                                error[QLatin1String("data")]}}};
 }
 
 } // namespace
@@ -92,7 +99,7 @@ private:
     /// Why the request cannot be sent, if it cannot; sends it otherwise.
     std::optional<VXIPCReply> send(const QByteArray& line);
     void onReadyRead();
-    void onLine(const QByteArray& line);
+    void onLine(QByteArrayView line);
     void onDisconnected();
     void finish(qint64 id, const VXIPCReply& reply);
     void finishAll(const VXIPCReply& reply);
@@ -234,7 +241,11 @@ std::optional<VXIPCReply> VXIPCClient::Private::send(const QByteArray& line)
         return failed(VXIPCError::NotReachable,
                       QStringLiteral("no endpoint answers under %1").arg(serverName));
     }
-    m_socket->write(line);
+    // Calls that come together go together, with the event loop.
+    if (m_calls.isEmpty())
+        sendNow(*m_socket, line);
+    else
+        m_socket->write(line);
     return std::nullopt;
 }
 
@@ -249,7 +260,7 @@ void VXIPCClient::Private::onReadyRead()
                 return;
             continue;
         }
-        m_received.append(m_socket->readAll());
+        m_received.appendFrom(*m_socket, m_socket->bytesAvailable());
         if (m_received.lineSize() > MaximumLine && !m_received.hasLine()) {
             finishAll(failed(VXIPCError::BadAnswer, QStringLiteral("the answer has no end")));
             if (!alive)
@@ -261,22 +272,20 @@ void VXIPCClient::Private::onReadyRead()
     --m_readings;
 }
 
-void VXIPCClient::Private::onLine(const QByteArray& line)
+void VXIPCClient::Private::onLine(QByteArrayView line)
 {
-    const QJsonObject answer = QJsonDocument::fromJson(line).object();
-    if (!isAnswer(answer)) {
+    const std::optional<Answer> answer = readAnswer(line);
+    if (!answer) {
         const QPointer<VXIPCClient> alive(&q);
         finishAll(failed(VXIPCError::BadAnswer, QStringLiteral("the answer is no JSON-RPC 2.0")));
         if (alive)
             m_socket->abort();
         return;
     }
-    const QJsonValue id = answer.value(QStringLiteral("id"));
-    // An error that belongs to no call is about the connection.
-    if (id.isNull())
-        finishAll(readReply(answer));
+    if (answer->id.isNull())
+        finishAll(answer->reply);
     else
-        finish(id.toInteger(), readReply(answer));
+        finish(answer->id.toInteger(), answer->reply);
 }
 
 void VXIPCClient::Private::onDisconnected()

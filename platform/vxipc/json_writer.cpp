@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "json_writer.h"
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QStringConverter>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+namespace {
+
+/// Whether a character stands for itself in JSON. Half a surrogate pair, which UTF-8 cannot have,
+/// does not.
+bool isPlain(QChar character)
+{
+    return character >= u' ' && character != u'"' && character != u'\\' && !character.isSurrogate();
+}
+
+/// What Qt makes of a value that this writer has no short way for.
+QByteArray thoroughly(const QJsonValue& value)
+{
+    return QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).mid(1).chopped(1);
+}
+
+} // namespace
+
+void JsonWriter::text(QStringView text)
+{
+    if (!std::ranges::all_of(text, isPlain)) {
+        raw(thoroughly(text.toString()));
+        return;
+    }
+    QStringEncoder encoder(QStringEncoder::Utf8);
+    char* end = room(encoder.requiredSpace(text.size()) + 2);
+    *end++ = '"';
+    end = encoder.appendToBuffer(end, text);
+    *end++ = '"';
+    m_json.resize(end - m_json.data());
+}
+
+char* JsonWriter::room(qsizetype size)
+{
+    // Twice as much as there was: a little at a time, a long list would be copied again and again.
+    if (m_json.capacity() < m_json.size() + size)
+        m_json.reserve(std::max(m_json.size() + size, 2 * m_json.capacity()));
+    return m_json.data() + m_json.size();
+}
+
+template <typename Number>
+void JsonWriter::digits(Number number)
+{
+    // More than any number takes.
+    constexpr qsizetype Most = 32;
+    char* begin = room(Most);
+    const auto [end, error] = std::to_chars(begin, begin + Most, number);
+    m_json.resize(end - m_json.data());
+}
+
+void JsonWriter::number(qint64 number)
+{
+    digits(number);
+}
+
+void JsonWriter::number(double number)
+{
+    if (std::isfinite(number))
+        digits(number);
+    else
+        raw("null");
+}
+
+void JsonWriter::value(const QJsonValue& value)
+{
+    switch (value.type()) {
+    case QJsonValue::Array: {
+        const char* separator = "[";
+        const QJsonArray array = value.toArray();
+        for (const QJsonValue& entry : array) {
+            raw(separator);
+            this->value(entry);
+            separator = ",";
+        }
+        raw(array.isEmpty() ? "[]" : "]");
+        return;
+    }
+    case QJsonValue::String:
+        text(value.toString());
+        return;
+    case QJsonValue::Double:
+        // Whole ones may have more digits than a double holds.
+        if (const qint64 whole = value.toInteger(0); whole != 0 && std::isfinite(value.toDouble()))
+            number(whole);
+        else
+            number(value.toDouble());
+        return;
+    default:
+        raw(thoroughly(value));
+    }
+}
