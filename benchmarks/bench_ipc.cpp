@@ -166,6 +166,8 @@ public:
     {
         QLocalSocket& socket = *m_sockets.front();
         socket.write(m_call.requestLine);
+        // Waiting would ask the system first whether it takes the line.
+        socket.flush();
         while (!socket.canReadLine()) {
             if (!socket.waitForReadyRead(10000))
                 return false;
