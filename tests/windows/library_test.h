@@ -39,6 +39,8 @@ protected Q_SLOTS:
     {
         if (!fixture::has(Behaviour::ChangeNotifications))
             QVERIFY(supplyChangeNotifications(L"vxprinterstatus.dll"));
+        m_manager.reset(OpenSCManagerW(nullptr, nullptr, SC_MANAGER_CONNECT));
+        QVERIFY(m_manager);
     }
     void init() override
     {
@@ -95,6 +97,11 @@ protected:
         return false;
     }
 
+    /// Open for as long as the test runs. Two threads that come to Wine's service manager first and
+    /// at the same time get a connection each, and handles of the one are unknown on the other: the
+    /// library's thread then cannot ask for the service's state any more. Later ones share the
+    /// first.
+    ServiceHandle m_manager;
     std::optional<PrinterStatusThread> m_thread;
     std::optional<ReportRecorder> m_reports;
 };
