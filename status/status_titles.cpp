@@ -11,25 +11,42 @@
 
 namespace {
 
+/// Translators find a text by its context and by the remark that goes with it.
+struct Text
+{
+    const char* source;
+    const char* remark;
+};
+
 struct Title
 {
     int code;
-    const char* text;
+    Text text;
 };
 
-// Translators find these texts by their context and by the remark that goes with them.
 constexpr char context[] = "QObject";
-constexpr char remark[] = "Printer status message";
 
+// clang-format off
 constexpr std::array titles{
-    Title{status_codes::disconnected, "Disconnected"},
-    Title{status_codes::ready, "Ready"},
-    Title{status_codes::unknown, "Unable To Retrieve Printer Info. (Code 255)"},
+    Title{status_codes::disconnected,
+          QT_TRANSLATE_NOOP3("QObject", "Disconnected", "Printer status message")},
+    Title{status_codes::ready,
+          QT_TRANSLATE_NOOP3("QObject", "Ready", "Printer status message")},
+    Title{status_codes::unknown,
+          QT_TRANSLATE_NOOP3("QObject", "Unable To Retrieve Printer Info. (Code 255)",
+                             "Printer status message")},
     Title{status_codes::networkPrinter,
-          "Printer Is Remotely Connected.\nUnable to retrieve printer info."},
-    Title{status_codes::offline, "Disconnected"},
-    Title{status_codes::notManaged, "Printer Is Not Managed.\nUnable to retrieve printer info."},
+          QT_TRANSLATE_NOOP3("QObject",
+                             "Printer Is Remotely Connected.\nUnable to retrieve printer info.",
+                             "Printer status message")},
+    Title{status_codes::offline,
+          QT_TRANSLATE_NOOP3("QObject", "Disconnected", "Printer status message")},
+    Title{status_codes::notManaged,
+          QT_TRANSLATE_NOOP3("QObject",
+                             "Printer Is Not Managed.\nUnable to retrieve printer info.",
+                             "Printer status message")},
 };
+// clang-format on
 
 } // namespace
 
@@ -38,5 +55,5 @@ QString statusTitle(int statusCode)
     const auto found = std::ranges::find(titles, statusCode, &Title::code);
     if (found == titles.end())
         return getErrorDescription(VXError(statusCode));
-    return QCoreApplication::translate(context, found->text, remark);
+    return QCoreApplication::translate(context, found->text.source, found->text.remark);
 }

@@ -85,7 +85,7 @@ build_preset() {
 }
 
 windows_packages=(ca-certificates ccache cmake g++-mingw-w64-x86-64-posix ninja-build python3
-    qt6-base-dev qt6-base-dev-tools qt6-l10n-tools qt6-tools-dev-tools)
+    qt6-base-dev qt6-base-dev-tools qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
 
 # Where MinGW's run-time DLLs are: GCC's and the threads'.
 mingw_dll_folders() {
