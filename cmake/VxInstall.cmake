@@ -23,6 +23,9 @@ if(NOT WIN32)
     list(APPEND installed_targets virtualwindows)
     install(DIRECTORY virtualwindows/include/ DESTINATION "${VX_HEADER_FOLDER}/virtualwindows"
         PATTERN fleet.h EXCLUDE)
+    # Beside the library that loads it.
+    install(TARGETS virtualwindows_environment_fleet
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 endif()
 
 install(TARGETS ${installed_targets} EXPORT VxPrinterStatusTargets

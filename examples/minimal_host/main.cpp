@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// A host in one file: prints the maker's label printers and whatever happens to them, until it is
+// interrupted or for so many seconds. Usage: minimal_host [SECONDS]
+#include <printer_status_controller.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QTextStream>
+#include <QtCore/QTimer>
+#include <QtCore/QTranslator>
+
+static QTextStream out(stdout);
+
+static void print(PrinterStatusController& printers)
+{
+    const QVariantList records = printers.getAvailablePrinters();
+    for (const QVariant& entry : records) {
+        const auto printer = entry.value<PrinterStatusInformation>();
+        out << printer.printerName << ": "
+            << printers.getStatusTitle(printer.statusEnum).simplified() << ", supply "
+            << printer.supplySKU << ' ' << printer.supplyPercentage << " %, ribbon "
+            << printer.ribbon1ColorName << ' ' << printer.ribbon1Percentage << " %\n";
+    }
+    if (records.isEmpty())
+        out << "no printers\n";
+    out << "active printer: " << printers.activeDefaultPrinter() << '\n' << Qt::endl;
+}
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    bool readable = true;
+    const int seconds = argc > 1 ? QCoreApplication::arguments().at(1).toInt(&readable) : 0;
+    if (!readable || seconds < 0) {
+        QTextStream(stderr) << "minimal_host: expected a number of seconds\n";
+        return 2;
+    }
+    QTranslator titles;
+    if (titles.load(QLocale(), "vxprinterstatus", "_", ":/vxprinterstatus/translations"))
+        QCoreApplication::installTranslator(&titles);
+
+    PrinterStatusController printers;
+    print(printers);
+    QObject::connect(&printers, &PrinterStatusController::availablePrintersUpdated,
+                     [&printers] { print(printers); });
+
+    if (argc > 1)
+        QTimer::singleShot(std::chrono::seconds(seconds), qApp, &QCoreApplication::quit);
+    return QCoreApplication::exec();
+}
