@@ -1,0 +1,247 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// The smallest example host, which was built against the installed package and knows nothing of
+// tests or virtual printers.
+#include <catalogue.h>
+#include <catalogue_writer.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#ifdef Q_OS_WIN
+#include "fixture.h"
+#endif
+
+namespace {
+
+const QString host = QStringLiteral(VX_MINIMAL_HOST);
+
+QProcessEnvironment environment()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    // Names and titles come in the language of the system.
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
+#ifdef Q_OS_WIN
+    // The library is found as any DLL is; what it stands on is where the tests have theirs.
+    environment.insert(QStringLiteral("PATH"),
+                       QDir::toNativeSeparators(QStringLiteral(VX_INSTALLED_DLLS)) +
+                           QLatin1Char(';') + environment.value(QStringLiteral("PATH")));
+#endif
+    return environment;
+}
+
+struct Result
+{
+    int exitStatus = -1;
+    QByteArray output;
+    QByteArray errors;
+};
+
+Result run(const QStringList& arguments, const QProcessEnvironment& variables = environment())
+{
+    QProcess process;
+    process.setProcessEnvironment(variables);
+    process.start(host, arguments);
+    if (!process.waitForFinished(30000)) {
+        qWarning("%s", qPrintable(process.errorString()));
+        process.kill();
+        process.waitForFinished();
+        return {};
+    }
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            process.readAllStandardOutput().replace("\r\n", "\n"), process.readAllStandardError()};
+}
+
+} // namespace
+
+#ifdef Q_OS_WIN
+using MinimalHostTestBase = WindowsApiTest;
+#else
+using MinimalHostTestBase = QObject;
+#endif
+
+class MinimalHostTest : public MinimalHostTestBase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void withoutPrinters();
+    void wrongArgument_data();
+    void wrongArgument();
+#ifdef Q_OS_WIN
+    void printersOfTheSystem();
+#else
+    void printersOfAFleet();
+    void titlesInTheUsersLanguage();
+    void brokenFleet_data();
+    void brokenFleet();
+
+private:
+    QString fleetFile(const QByteArray& text);
+    /// Runs the host on a fleet until it has printed the line, and says whether it did.
+    bool printsOn(const QString& fleet, const QByteArray& line, const QString& language);
+
+    QTemporaryDir m_folder;
+#endif
+};
+
+void MinimalHostTest::initTestCase()
+{
+    QVERIFY2(QFileInfo::exists(host), "the test \"installed_package\" builds it");
+    // Where the library looks for it: beside the host.
+    writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)),
+                  QFileInfo(host).path() + QStringLiteral("/roll.db"));
+}
+
+void MinimalHostTest::withoutPrinters()
+{
+    const Result result = run({QStringLiteral("0")});
+    QCOMPARE(result.exitStatus, 0);
+    QCOMPARE(result.output, QByteArray("no printers\nactive printer: \n\n"));
+    QCOMPARE(result.errors, QByteArray());
+}
+
+void MinimalHostTest::wrongArgument_data()
+{
+    QTest::addColumn<QString>("argument");
+    for (const char* argument : {"soon", "-1", "1.5", ""})
+        QTest::newRow(*argument ? argument : "empty") << QString::fromLatin1(argument);
+}
+
+void MinimalHostTest::wrongArgument()
+{
+    QFETCH(const QString, argument);
+    const Result result = run({argument});
+    QCOMPARE(result.exitStatus, 2);
+    QCOMPARE(result.output, QByteArray());
+    QCOMPARE(result.errors.trimmed(), QByteArray("minimal_host: expected a number of seconds"));
+}
+
+#ifdef Q_OS_WIN
+
+void MinimalHostTest::printersOfTheSystem()
+{
+    QVERIFY(fixture::setSpoolerRunning(true));
+    const QString printer = fixture::uniqueName(QStringLiteral("Label Printer"));
+    QVERIFY(fixture::addPrinter({printer, QStringLiteral("Stratamark AlderMax")}));
+    QVERIFY(fixture::addPrinter({fixture::uniqueName(QStringLiteral("Office Printer")),
+                                 QStringLiteral("Some Office Printer")}));
+    const Result result = run({QStringLiteral("0")});
+    QCOMPARE(result.exitStatus, 0);
+    QCOMPARE(result.output,
+             QStringLiteral("%1: Unable To Retrieve Printer Info. (Code 255), supply  0 %, ribbon "
+                            " 0 %\nactive printer: %1\n\n")
+                 .arg(printer)
+                 .toUtf8());
+}
+
+#else
+
+QString MinimalHostTest::fleetFile(const QByteArray& text)
+{
+    const QString name = m_folder.filePath(QStringLiteral("fleet.json"));
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        qFatal("cannot write %s", qPrintable(name));
+    return name;
+}
+
+bool MinimalHostTest::printsOn(const QString& fleet, const QByteArray& line,
+                               const QString& language)
+{
+    QProcessEnvironment variables = environment();
+    variables.insert(QStringLiteral("VX_VIRTUAL_FLEET"), fleet);
+    variables.insert(QStringLiteral("VX_VIRTUAL_SPEED"), QStringLiteral("50"));
+    variables.insert(QStringLiteral("LANGUAGE"), language);
+    QProcess process;
+    process.setProcessEnvironment(variables);
+    process.start(host, {});
+    QByteArray output;
+    while (!output.contains(line) && process.waitForReadyRead(20000))
+        output += process.readAllStandardOutput();
+    process.kill();
+    process.waitForFinished();
+    if (!output.contains(line))
+        qWarning("printed instead:\n%s%s", output.constData(),
+                 process.readAllStandardError().constData());
+    return output.contains(line);
+}
+
+void MinimalHostTest::printersOfAFleet()
+{
+    const QString fleet = fleetFile(R"({
+        "printers": [
+            { "name": "Packing", "driver": "Stratamark CedarMax",
+              "values": { "StatusCode": "1", "SupplyIdentifier": "000000641000010000A7",
+                          "Mileage": 15240, "Ribbon1Identifier": 2001, "Ribbon1Mileage": 60000 } },
+            { "name": "Front Desk Laser", "driver": "Everyday Office Laser 400" }
+        ],
+        "defaultPrinter": "Packing",
+        "timeline": [
+            { "at": 30, "printer": "Packing", "values": { "Ribbon1Identifier": 2006 } }
+        ]
+    })");
+    const QByteArray active = "active printer: Packing\n";
+    QVERIFY(printsOn(fleet,
+                     "Packing: Unable To Retrieve Printer Info. (Code 255), supply  0 %, ribbon "
+                     " 0 %\n" +
+                         active,
+                     QStringLiteral("en")));
+    QVERIFY(printsOn(fleet, "Packing: Ready, supply VT-400-WH 50 %, ribbon Black 49 %\n" + active,
+                     QStringLiteral("en")));
+    QVERIFY(printsOn(fleet, "Packing: Ready, supply VT-400-WH 50 %, ribbon Green 49 %\n" + active,
+                     QStringLiteral("en")));
+}
+
+void MinimalHostTest::titlesInTheUsersLanguage()
+{
+    QVERIFY(printsOn(QStringLiteral("built-in"), "Warehouse: Bereit, ", QStringLiteral("de")));
+    QVERIFY(printsOn(QStringLiteral("built-in"), "Warehouse: Lista, ", QStringLiteral("es")));
+}
+
+void MinimalHostTest::brokenFleet_data()
+{
+    QTest::addColumn<QString>("fleet");
+    QTest::addColumn<QString>("speed");
+    QTest::addColumn<QString>("error");
+    const QString broken = fleetFile("{\n  \"printers\": 3\n}\n");
+    const QString missing = m_folder.filePath(QStringLiteral("missing.json"));
+    QTest::newRow("file") << broken << QString()
+                          << broken + QStringLiteral(":2: printers: expected a list, found 3");
+    QTest::newRow("missing") << missing << QString()
+                             << missing + QStringLiteral(": No such file or directory");
+    QTest::newRow("speed")
+        << QStringLiteral("built-in") << QStringLiteral("fast")
+        << QStringLiteral(
+               "VX_VIRTUAL_SPEED: expected a number above 0 and up to 1000, found \"fast\"");
+    QTest::newRow("no speed")
+        << QStringLiteral("built-in") << QStringLiteral("0")
+        << QStringLiteral(
+               "VX_VIRTUAL_SPEED: expected a number above 0 and up to 1000, found \"0\"");
+}
+
+void MinimalHostTest::brokenFleet()
+{
+    QFETCH(const QString, fleet);
+    QFETCH(const QString, speed);
+    QFETCH(const QString, error);
+    QProcessEnvironment variables = environment();
+    variables.insert(QStringLiteral("VX_VIRTUAL_FLEET"), fleet);
+    variables.insert(QStringLiteral("VX_VIRTUAL_SPEED"), speed);
+    const Result result = run({QStringLiteral("0")}, variables);
+    QCOMPARE(result.exitStatus, 1);
+    QCOMPARE(result.output, QByteArray());
+    QCOMPARE(QString::fromUtf8(result.errors), QStringLiteral("virtualwindows: %1\n").arg(error));
+}
+
+#endif
+
+QTEST_GUILESS_MAIN(MinimalHostTest)
+#include "tst_minimal_host.moc"

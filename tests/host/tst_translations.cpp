@@ -1,0 +1,317 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// The titles of status codes in every language that the library carries.
+#include "printer_status_controller.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
+#include <QtCore/QLocale>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QTranslator>
+#include <QtCore/QXmlStreamReader>
+#include <QtTest/QtTest>
+
+#include <array>
+#include <memory>
+
+namespace {
+
+struct Title
+{
+    int code;
+    const char* text;
+};
+
+constexpr std::array titles{
+    Title{0, "Disconnected"},
+    Title{1, "Ready"},
+    Title{255, "Unable To Retrieve Printer Info. (Code 255)"},
+    Title{256, "Printer Is Remotely Connected.\nUnable to retrieve printer info."},
+    Title{257, "Disconnected"},
+    Title{258, "Printer Is Not Managed.\nUnable to retrieve printer info."},
+};
+
+/// Codes whose title the status-messages library has.
+constexpr std::array otherCodes{2, 4, 254, 259, -5, 4711};
+
+const QStringList languages = QStringLiteral(VX_LANGUAGES).split(QLatin1Char(' '));
+
+struct Message
+{
+    QString context;
+    QString source{};
+    QString remark{};
+    QString translation{};
+    QString state{}; ///< empty for one that is finished
+};
+
+QString fileOf(const QString& language)
+{
+    return QStringLiteral(VX_TRANSLATIONS "/vxprinterstatus_%1.ts").arg(language);
+}
+
+/// The messages of a translator's file; empty when it is none.
+QList<Message> messagesOf(const QString& fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QList<Message> messages;
+    QString context;
+    QXmlStreamReader reader(&file);
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const auto element = reader.name();
+        if (element == QLatin1String("name"))
+            context = reader.readElementText();
+        else if (element == QLatin1String("message"))
+            messages.append({.context = context});
+        else if (element == QLatin1String("source"))
+            messages.last().source = reader.readElementText();
+        else if (element == QLatin1String("comment"))
+            messages.last().remark = reader.readElementText();
+        else if (element == QLatin1String("translation")) {
+            messages.last().state = reader.attributes().value(QLatin1String("type")).toString();
+            messages.last().translation = reader.readElementText();
+        }
+    }
+    return reader.hasError() ? QList<Message>() : messages;
+}
+
+/// What is translated, whatever it is translated to.
+[[maybe_unused]] QStringList keysOf(const QList<Message>& messages)
+{
+    QStringList keys;
+    for (const Message& message : messages)
+        keys.append(
+            QStringList{message.context, message.source, message.remark}.join(QLatin1Char('|')));
+    keys.sort();
+    return keys;
+}
+
+/// A translator of the status messages, which are not the library's own titles.
+class StatusMessageTranslator : public QTranslator
+{
+public:
+    QString translate(const char* context, const char* text, const char* /*remark*/,
+                      int /*number*/) const override
+    {
+        if (qstrcmp(context, "VXError") != 0)
+            return {};
+        return QStringLiteral("<%1>").arg(QString::fromUtf8(text));
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+class TranslationsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { m_controller = std::make_unique<PrinterStatusController>(); }
+    void cleanupTestCase() { m_controller.reset(); }
+
+    void everyLanguageIsThere();
+    void everyEntryIsFinished_data();
+    void everyEntryIsFinished();
+    void everyTitleOfTheSourceIsInEveryFile_data();
+    void everyTitleOfTheSourceIsInEveryFile();
+    void everyTitleChanges_data();
+    void everyTitleChanges();
+    void localesFindTheirLanguage_data();
+    void localesFindTheirLanguage();
+    void localesWithoutALanguageStayEnglish_data();
+    void localesWithoutALanguageStayEnglish();
+    void otherTitlesStay_data();
+    void otherTitlesStay();
+    void otherTitlesAreTranslatableOnTheirOwn();
+
+private:
+    QString title(int code) { return m_controller->getStatusTitle(code); }
+    static void addLanguageRows()
+    {
+        QTest::addColumn<QString>("language");
+        for (const QString& language : languages)
+            QTest::newRow(qPrintable(language)) << language;
+    }
+    static bool load(QTranslator& translator, const QString& locale)
+    {
+        return translator.load(QLocale(locale), QStringLiteral("vxprinterstatus"),
+                               QStringLiteral("_"),
+                               QStringLiteral(":/vxprinterstatus/translations"));
+    }
+
+    std::unique_ptr<PrinterStatusController> m_controller;
+};
+
+void TranslationsTest::everyLanguageIsThere()
+{
+    QCOMPARE(languages, QStringLiteral("de es fr it ja zh_CN").split(QLatin1Char(' ')));
+    QStringList files;
+    for (const QString& language : languages)
+        files.append(QStringLiteral("vxprinterstatus_%1.qm").arg(language));
+    QCOMPARE(QDir(QStringLiteral(":/vxprinterstatus/translations")).entryList(), files);
+}
+
+void TranslationsTest::everyEntryIsFinished_data()
+{
+    addLanguageRows();
+}
+
+void TranslationsTest::everyEntryIsFinished()
+{
+    QFETCH(const QString, language);
+    const QList<Message> messages = messagesOf(fileOf(language));
+    QCOMPARE(messages.size(), 5); // of six titles, two of which read the same
+    for (const Message& message : messages) {
+        QCOMPARE(message.state, QString());
+        QVERIFY(!message.translation.trimmed().isEmpty());
+        QVERIFY(message.translation != message.source);
+        QCOMPARE(message.translation.count(QLatin1Char('\n')),
+                 message.source.count(QLatin1Char('\n')));
+        // The status messages are another library's, which has its own translators.
+        QCOMPARE(message.context, QStringLiteral("QObject"));
+        QCOMPARE(message.remark, QStringLiteral("Printer status message"));
+    }
+}
+
+void TranslationsTest::everyTitleOfTheSourceIsInEveryFile_data()
+{
+    addLanguageRows();
+}
+
+void TranslationsTest::everyTitleOfTheSourceIsInEveryFile()
+{
+#ifdef VX_LUPDATE
+    QFETCH(const QString, language);
+    const QTemporaryDir folder;
+    const QString found = folder.filePath(QStringLiteral("found.ts"));
+    QProcess lupdate;
+    lupdate.start(QStringLiteral(VX_LUPDATE),
+                  {QStringLiteral("-silent"), QStringLiteral("-locations"), QStringLiteral("none"),
+                   QStringLiteral(VX_TITLES_SOURCE), QStringLiteral("-ts"), found});
+    QVERIFY(lupdate.waitForFinished());
+    QVERIFY2(lupdate.exitCode() == 0, lupdate.readAllStandardError().constData());
+
+    const QStringList expected = keysOf(messagesOf(found));
+    QVERIFY(!expected.isEmpty());
+    QCOMPARE(keysOf(messagesOf(fileOf(language))), expected);
+#else
+    QSKIP("translators' tools run on the machine that builds");
+#endif
+}
+
+void TranslationsTest::everyTitleChanges_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("english");
+    for (const QString& language : languages) {
+        for (const Title& title : titles)
+            QTest::addRow("%s %d", qPrintable(language), title.code)
+                << language << title.code << QString::fromLatin1(title.text);
+    }
+}
+
+void TranslationsTest::everyTitleChanges()
+{
+    QFETCH(const QString, language);
+    QFETCH(const int, code);
+    QFETCH(const QString, english);
+    const QList<Message> messages = messagesOf(fileOf(language));
+    const auto message = std::find_if(messages.begin(), messages.end(), [&](const Message& entry) {
+        return entry.source == english;
+    });
+    QVERIFY(message != messages.end());
+
+    QCOMPARE(title(code), english);
+    {
+        QTranslator translator;
+        QVERIFY(load(translator, language));
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        QCOMPARE(title(code), message->translation);
+        QVERIFY(title(code) != english);
+    }
+    QCOMPARE(title(code), english);
+}
+
+void TranslationsTest::localesFindTheirLanguage_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("ready");
+    const auto row = [](const char* locale, const char* ready) {
+        QTest::newRow(locale) << QString::fromLatin1(locale) << QString::fromUtf8(ready);
+    };
+    row("de_DE", "Bereit");
+    row("de_AT", "Bereit");
+    row("fr_FR", "Prête");
+    row("fr_CA", "Prête");
+    row("es_ES", "Lista");
+    row("es_MX", "Lista");
+    row("it_IT", "Pronta");
+    row("it_CH", "Pronta");
+    row("ja_JP", "準備完了");
+    row("zh_CN", "就绪");
+}
+
+void TranslationsTest::localesFindTheirLanguage()
+{
+    QFETCH(const QString, locale);
+    QTranslator translator;
+    QVERIFY(load(translator, locale));
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    QTEST(title(1), "ready");
+}
+
+void TranslationsTest::localesWithoutALanguageStayEnglish_data()
+{
+    QTest::addColumn<QString>("locale");
+    for (const char* locale : {"en_US", "pt_BR", "zh_TW", "C"})
+        QTest::newRow(locale) << QString::fromLatin1(locale);
+}
+
+void TranslationsTest::localesWithoutALanguageStayEnglish()
+{
+    QFETCH(const QString, locale);
+    QTranslator translator;
+    QVERIFY(!load(translator, locale));
+    QCOMPARE(title(1), QStringLiteral("Ready"));
+}
+
+void TranslationsTest::otherTitlesStay_data()
+{
+    addLanguageRows();
+}
+
+void TranslationsTest::otherTitlesStay()
+{
+    QFETCH(const QString, language);
+    QStringList before;
+    for (const int code : otherCodes)
+        before.append(title(code));
+    QTranslator translator;
+    QVERIFY(load(translator, language));
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    QStringList after;
+    for (const int code : otherCodes)
+        after.append(title(code));
+    QCOMPARE(after, before);
+}
+
+void TranslationsTest::otherTitlesAreTranslatableOnTheirOwn()
+{
+    StatusMessageTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    QCOMPARE(title(4), QStringLiteral("<The cover is open>"));
+    QCOMPARE(title(254), QStringLiteral("<The print spooler is not running>"));
+    QCOMPARE(title(4711), QStringLiteral("<Printer error 4711>"));
+    for (const Title& own : titles)
+        QCOMPARE(title(own.code), QString::fromLatin1(own.text));
+}
+
+QTEST_GUILESS_MAIN(TranslationsTest)
+#include "tst_translations.moc"
