@@ -3,6 +3,7 @@
 // Fleet files: what they make of a machine, the story they tell, and how a broken one is refused.
 #include "machine_test.h"
 
+#include "printer_status_thread.h"
 #include "virtualwindows/fleet.h"
 #include "windows_printer_info.h"
 
@@ -52,6 +53,8 @@ private Q_SLOTS:
     void fileThatCannotBeRead();
     void fileIsReadFromDisk();
     void playerTellsInOrderAndInTime();
+    void audienceMissesNothing();
+    void storyGoesOnWithoutItsAudience();
 };
 
 void FleetTest::builtInFleetHasEveryKindOfPrinter()
@@ -74,7 +77,7 @@ void FleetTest::builtInFleetHasEveryKindOfPrinter()
              (QSet<PrinterType>{PrinterType::Unknown, PrinterType::Alder, PrinterType::BirchMax,
                                 PrinterType::CedarMax, PrinterType::AlderMax}));
     QCOMPARE(network, 1);
-    QCOMPARE(offline, 1);
+    QCOMPARE(offline, 2);
     QCOMPARE(notManaged, 1);
     QCOMPARE(WindowsPrinterInfo::getDefaultPrinterName(), QStringLiteral("Warehouse"));
     QCOMPARE(printers.first().serialNumber, QStringLiteral("AM-20871"));
@@ -370,6 +373,53 @@ void FleetTest::playerTellsInOrderAndInTime()
     QVERIFY(clock.elapsed() >= 99);
     QCOMPARE(told, (QStringList{QStringLiteral("first"), QStringLiteral("second"),
                                 QStringLiteral("third")}));
+}
+
+void FleetTest::audienceMissesNothing()
+{
+    constexpr int values = 50;
+    QByteArray timeline;
+    QStringList expected{QStringLiteral("0")};
+    for (int value = 1; value <= values; ++value) {
+        timeline += QByteArray(timeline.isEmpty() ? "" : ",") + R"({"at": )" +
+                    QByteArray::number(0.01 * value) +
+                    R"(, "printer": "P", "values": {"Mileage": )" + QByteArray::number(value) +
+                    "}}";
+        expected.append(QString::number(value));
+    }
+    const Fleet fleet = fleetOf(R"({"printers": [{"name": "P", "driver": "D",
+        "values": {"Mileage": 0}}], "timeline": [)" +
+                                timeline + "]}");
+    populate(machine(), fleet);
+
+    QStringList reported;
+    PrinterStatusThread thread;
+    connect(&thread, &PrinterStatusThread::supplyIntMileageChanged, this,
+            [&](const QString&, const QString& mileage) { reported.append(mileage); });
+    thread.setMonitoredPrinterName(QStringLiteral("P"));
+    thread.start();
+
+    StoryPlayer player(machine(), fleet.story, 1e6);
+    player.setAudience([] { return 1; });
+    // Also what was queued has arrived before the next event happens.
+    connect(&player, &StoryPlayer::happened, this,
+            [&, event = 0]() mutable { QCOMPARE(reported.size(), ++event); });
+    player.start();
+    QTRY_COMPARE_WITH_TIMEOUT(reported.size(), expected.size(), 30000);
+    QCOMPARE(reported, expected);
+
+    while (!thread.wait(10))
+        thread.stop();
+}
+
+void FleetTest::storyGoesOnWithoutItsAudience()
+{
+    StoryPlayer player(machine(), fleetOf(R"({"printers": [], "timeline": [{"at": 1}]})").story,
+                       1000);
+    player.setAudience([] { return 1; });
+    QSignalSpy finished(&player, &StoryPlayer::finished);
+    player.start();
+    QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 20000);
 }
 
 QTEST_GUILESS_MAIN(FleetTest)

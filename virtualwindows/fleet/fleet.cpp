@@ -36,10 +36,10 @@ StoryPlayer::StoryPlayer(Machine& machine, const QList<StoryEvent>& story, doubl
     , m_story(story)
     , m_speed(speed)
 {
-    constexpr std::chrono::milliseconds tick(10);
-    m_clock.setInterval(tick);
+    constexpr std::chrono::milliseconds interval(10);
+    m_clock.setInterval(interval);
     m_clock.setTimerType(Qt::PreciseTimer);
-    connect(&m_clock, &QTimer::timeout, this, &StoryPlayer::goOn);
+    connect(&m_clock, &QTimer::timeout, this, &StoryPlayer::tick);
 }
 
 StoryPlayer::~StoryPlayer()
@@ -52,26 +52,55 @@ void StoryPlayer::start()
 {
     m_next = 0;
     m_now = {};
-    m_begin = std::chrono::steady_clock::now();
+    m_begin = Clock::now();
+    m_waitingSince.reset();
     m_machine.driveTime();
     m_clock.start();
+}
+
+bool StoryPlayer::isAudienceReady()
+{
+    // A thread that never comes back must not stop the story for good.
+    constexpr std::chrono::seconds patience(1);
+    if (m_machine.waitingThreads() >= m_audience()) {
+        m_waitingSince.reset();
+        return true;
+    }
+    const auto now = Clock::now();
+    if (!m_waitingSince)
+        m_waitingSince = now;
+    return now - *m_waitingSince > patience;
+}
+
+void StoryPlayer::tick()
+{
+    // Queued behind what the threads sent before they began to wait again.
+    if (isAudienceReady())
+        QMetaObject::invokeMethod(this, &StoryPlayer::goOn, Qt::QueuedConnection);
 }
 
 void StoryPlayer::goOn()
 {
     // From the beginning, not from the tick before: delays do not add up.
-    const auto passed = std::chrono::duration_cast<std::chrono::milliseconds>(
-        (std::chrono::steady_clock::now() - m_begin) * m_speed);
-    while (m_next < m_story.size() && m_story.at(m_next).at <= passed) {
-        const StoryEvent& event = m_story.at(m_next++);
-        passTo(event.at);
-        if (!event.caption.isEmpty())
-            Q_EMIT told(event.caption);
-        event.happen(m_machine);
-        if (m_next == m_story.size())
-            Q_EMIT finished();
+    const auto passed =
+        std::chrono::duration_cast<std::chrono::milliseconds>((Clock::now() - m_begin) * m_speed);
+    if (m_next == m_story.size() || m_story.at(m_next).at > passed) {
+        passTo(passed);
+        return;
     }
-    passTo(passed);
+
+    const StoryEvent& event = m_story.at(m_next);
+    if (event.at > m_now) {
+        passTo(event.at); // waits may time out on the way, which the audience is to see first
+        return;
+    }
+    ++m_next;
+    if (!event.caption.isEmpty())
+        Q_EMIT told(event.caption);
+    event.happen(m_machine);
+    Q_EMIT happened();
+    if (m_next == m_story.size())
+        Q_EMIT finished();
 }
 
 void StoryPlayer::passTo(std::chrono::milliseconds moment)

@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 #include <variant>
 
 namespace virtualwindows {
@@ -62,6 +63,11 @@ void populate(Machine& machine, const Fleet& fleet);
 ///
 /// From its start to its end of life the player drives the machine's time, so that waits and their
 /// time-outs pass at the same speed as the story, also after the last event.
+///
+/// With an audience nothing is missed, however fast the story is told and however busy the computer
+/// is: each event, and each time-out that comes before it, happens when all threads that watch have
+/// seen the one before and wait again, and what they then queued for the player's thread has been
+/// delivered. A story that is held up like this catches up afterwards.
 class StoryPlayer : public QObject
 {
     Q_OBJECT
@@ -72,24 +78,36 @@ public:
                 QObject* parent = nullptr);
     ~StoryPlayer() override;
 
+    /// `audience` answers how many threads watch the machine at that moment.
+    void setAudience(const std::function<int()>& audience) { m_audience = audience; }
     void start();
 
 Q_SIGNALS:
     /// Right before the event happens.
     void told(const QString& caption);
+    /// Right after the event has happened.
+    void happened();
     /// After the last event has happened.
     void finished();
 
 private:
+    using Clock = std::chrono::steady_clock;
+
+    bool isAudienceReady();
+    void tick();
     void goOn();
     void passTo(std::chrono::milliseconds moment);
 
     Machine& m_machine;
     QList<StoryEvent> m_story;
     double m_speed;
+    std::function<int()> m_audience = [] {
+        return 0;
+    };
+    std::optional<Clock::time_point> m_waitingSince; ///< for the audience
     qsizetype m_next = 0;
     std::chrono::milliseconds m_now{};
-    std::chrono::steady_clock::time_point m_begin;
+    Clock::time_point m_begin;
     QTimer m_clock;
 };
 
