@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 // The monitor as its users see it: arguments in, text, JSON and exit status out.
+#include "printer_status_controller.h"
+
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
+#include <QtCore/QMetaMethod>
+#include <QtCore/QMetaProperty>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
@@ -19,14 +23,55 @@ struct Result
     QByteArray errors;
 };
 
-QProcessEnvironment environment(const QString& home)
+/// One line of `watch --json`: which keys it has, in which order, and what it says.
+struct Line
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(QStringLiteral("NO_COLOR"));
-    environment.insert(QStringLiteral("HOME"), home);
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home + QStringLiteral("/config"));
-    return environment;
+    QByteArray text;
+    QJsonObject object;
+
+    QString signal() const { return object.value(QStringLiteral("signal")).toString(); }
+    QString printer() const { return object.value(QStringLiteral("printerName")).toString(); }
+    QJsonObject record(const QString& printer) const
+    {
+        const QJsonArray printers = object.value(QStringLiteral("printers")).toArray();
+        for (const QJsonValue& entry : printers) {
+            if (entry[QStringLiteral("printerName")] == printer)
+                return entry.toObject();
+        }
+        return {};
+    }
+};
+
+QByteArrayList keysOf(const QMetaObject& type)
+{
+    QByteArrayList keys;
+    for (int i = 0; i < type.propertyCount(); ++i)
+        keys.append(type.property(i).name());
+    return keys;
 }
+
+/// Whether a JSON object's text has these keys in this order, one after the other.
+bool hasInOrder(const QByteArray& text, const QByteArrayList& keys)
+{
+    qsizetype place = 0;
+    for (const QByteArray& key : keys) {
+        place = text.indexOf('"' + key + "\":", place);
+        if (place < 0)
+            return false;
+    }
+    return true;
+}
+
+const QString updated = QStringLiteral("availablePrintersUpdated");
+const QString inError = QStringLiteral("printerErrorChangedSignal");
+const QString statusChanged = QStringLiteral("statusChangedSignal");
+const QString supplyChanged = QStringLiteral("supplyIdChangedSignal");
+const QString ribbonsChanged = QStringLiteral("ribbonIdsChangedSignal");
+const QString activeSet = QStringLiteral("activeDefaultPrinterSetSignal");
+
+const QString shipping = QStringLiteral("Shipping");
+const QString warehouse = QStringLiteral("Warehouse");
+const QString returns = QStringLiteral("Returns");
 
 } // namespace
 
@@ -39,12 +84,41 @@ private Q_SLOTS:
     void listForPeople();
     void listForPrograms();
     void listWithoutPrinters();
+
+    void statusForPeople();
+    void statusOfOneForPeople();
+    void statusForPrograms();
+    void statusOfOneForPrograms();
+    void statusOfUnknownPrinter();
+    void statusWithoutPrinters();
+    void statusDoesNotWaitForever();
+    void statusEndsWhenInterrupted();
+    void namesInOtherLanguages_data();
+    void namesInOtherLanguages();
+
+    void sendForPeople();
+    void sendForPrograms();
+    void sendToUnknownPrinter();
+    void titles_data();
+    void titles();
+
     void watchForPrograms();
     void watchForPeople();
-    void watchTellsTheWholeStory();
-    void watchWithoutAnyPrinter();
+    void watchEndsInTime();
+    void watchWaitsForPrinters();
     void watchEndsWhenInterrupted_data();
     void watchEndsWhenInterrupted();
+    void twoAtOnce();
+
+    void storyKeepsTheSignalsForm();
+    void storyOfErrors();
+    void storyOfTheActivePrinter();
+    void storyOfASupply();
+    void storyOfARibbon();
+    void storyOfAPrinterThatIsFound();
+    void storyOfTheSpooler();
+    void storyOfAPrinterGoingOffline();
+
     void coloursOnATerminal();
     void wrongUsage_data();
     void wrongUsage();
@@ -53,14 +127,48 @@ private Q_SLOTS:
     void leavesNothingBehind();
 
 private:
+    QProcessEnvironment environment() const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(QStringLiteral("NO_COLOR"));
+        environment.remove(QStringLiteral("LANGUAGE"));
+        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+        // Everything that is written is written here: settings, endpoints, temporary files.
+        for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "TMPDIR"})
+            environment.insert(QString::fromLatin1(name), m_home.path());
+        return environment;
+    }
     Result run(const QStringList& arguments, const QString& program = QStringLiteral(VXPRINTMON),
                const QProcessEnvironment& changed = {})
     {
         QProcess process;
-        process.setProcessEnvironment(changed.isEmpty() ? environment(m_home.path()) : changed);
+        process.setProcessEnvironment(changed.isEmpty() ? environment() : changed);
         process.start(program, arguments);
         if (!process.waitForFinished(30000))
             return {};
+        return resultOf(process);
+    }
+    /// Runs the monitor until it has printed a text, then asks it to end.
+    Result runUntil(const QByteArray& last, const QStringList& arguments)
+    {
+        QProcess process;
+        process.setProcessEnvironment(environment());
+        process.start(QStringLiteral(VXPRINTMON), arguments);
+        QByteArray output;
+        while (!output.contains(last)) {
+            if (!process.waitForReadyRead(30000))
+                return {-1, output + "\n... and no \"" + last + '"',
+                        process.readAllStandardError()};
+            output += process.readAllStandardOutput();
+        }
+        process.terminate();
+        process.waitForFinished(30000);
+        Result result = resultOf(process);
+        result.output.prepend(output);
+        return result;
+    }
+    static Result resultOf(QProcess& process)
+    {
         return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
                 process.readAllStandardOutput(), process.readAllStandardError()};
     }
@@ -72,18 +180,37 @@ private:
             qFatal("cannot write %s", qPrintable(name));
         return name;
     }
-    static QList<QJsonObject> objects(const QByteArray& lines)
+    static QList<Line> linesOf(const QByteArray& output)
     {
-        QList<QJsonObject> found;
-        const QList<QByteArray> texts = lines.trimmed().split('\n');
+        QList<Line> lines;
+        const QList<QByteArray> texts = output.trimmed().split('\n');
         for (const QByteArray& text : texts)
-            found.append(QJsonDocument::fromJson(text).object());
+            lines.append({text, QJsonDocument::fromJson(text).object()});
+        return lines;
+    }
+    /// The built-in story as watch tells it to programs; told once for all tests.
+    const QList<Line>& story();
+    /// The signals of the story with that name.
+    QList<Line> storyOf(const QString& signal)
+    {
+        QList<Line> found = story();
+        found.removeIf([&](const Line& line) { return line.signal() != signal; });
         return found;
+    }
+    /// The story from the first line of that printer's status.
+    QList<Line> storyFrom(const QString& printer, int status);
+    QStringList entries() const
+    {
+        return QDir(m_home.path())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     }
 
     QTemporaryDir m_home;
     int m_fleets = 0;
+    QList<Line> m_story;
 };
+
+// list ////////////////////////////////////////////////////////////////////////////////////////////
 
 void VxPrintMonTest::listForPeople()
 {
@@ -95,7 +222,7 @@ void VxPrintMonTest::listForPeople()
 Shipping          AlderMax  001           AM-20871  Stratamark AlderMax        shared
 Warehouse         Alder     002           AL-00342  Stratamark Alder           default
 Returns           BirchMax  003           BM-11500  Stratamark BirchMax        offline
-Laboratory        CedarMax  004           CM-00077  Stratamark CedarMax        not managed
+Laboratory        CedarMax  004           CM-00077  Stratamark CedarMax        not managed, offline
 Branch Office     BirchMax  192.168.1.20  -         Stratamark BirchMax        network
 Front Desk Laser  -         LPT1:         -         Everyday Office Laser 400  
 )";
@@ -110,7 +237,7 @@ void VxPrintMonTest::listForPrograms()
     QCOMPARE(printers.size(), 6);
     QCOMPARE(printers.first().toObject(),
              (QJsonObject{
-                 {QStringLiteral("printerName"), QStringLiteral("Shipping")},
+                 {QStringLiteral("printerName"), shipping},
                  {QStringLiteral("portName"), QStringLiteral("001")},
                  {QStringLiteral("driverName"), QStringLiteral("Stratamark AlderMax")},
                  {QStringLiteral("serialNumber"), QStringLiteral("AM-20871")},
@@ -136,93 +263,402 @@ void VxPrintMonTest::listWithoutPrinters()
     QVERIFY(people.output.contains("knows no printers"));
 }
 
-void VxPrintMonTest::watchForPrograms()
+// status //////////////////////////////////////////////////////////////////////////////////////////
+
+void VxPrintMonTest::statusForPeople()
 {
-    const QString fleet = fleetFile(R"({
-        "printers": [{"name": "P \"1\"", "driver": "Stratamark Alder", "values":
-            {"StatusCode": "1", "Ribbon1Identifier": 7, "Mileage": 50}}],
-        "timeline": [{"at": 100, "say": "a caption", "printer": "P \"1\"",
-                      "values": {"StatusCode": "42"}}]})");
-    const Result result =
-        run({QStringLiteral("watch"), QStringLiteral("--json"), QStringLiteral("--for"),
-             QStringLiteral("3"), QStringLiteral("--speed"), QStringLiteral("500"),
-             QStringLiteral("--virtual"), fleet});
+    const Result result = run({QStringLiteral("status")});
     QCOMPARE(result.exitStatus, 0);
     QCOMPARE(result.errors, QByteArray());
-    const QString printer = QStringLiteral("P \"1\"");
-    const auto object = [&](const char* signal, const char* argument, const QJsonValue& value) {
-        return QJsonObject{{QStringLiteral("signal"), QString::fromLatin1(signal)},
-                           {QStringLiteral("dashboardPrinterName"), printer},
-                           {QString::fromLatin1(argument), value}};
-    };
-    QCOMPARE(objects(result.output),
-             (QList<QJsonObject>{
-                 object("printerStatusChanged", "newStatus", QStringLiteral("1")),
-                 object("ribbonIdsChanged", "newIds",
-                        QJsonArray{QStringLiteral("7"), QString::fromLatin1("")}),
-                 object("supplyIntMileageChanged", "newMileage", QStringLiteral("50")),
-                 object("printerNameChangedSignal", "newName", printer),
-                 object("printerStatusChanged", "newStatus", QStringLiteral("42")),
+    const QByteArray expected =
+        R"(PRINTER        STATUS                          SUPPLY              RIBBON 1     RIBBON 2     FIRMWARE        ACTIVE
+Branch Office  Printer Is Remotely Connected.  -                   -            -            -               
+Shipping       Ready                           Yellow Vinyl, 80 %  Black, 80 %  Red, 35 %    4.2.0,boot 1.7  
+Warehouse      Ready                           White Paper, 82 %   Blue, 3 %    Black, 57 %  4.1.3,boot 1.7  yes
+)";
+    QCOMPARE(result.output, expected);
+}
+
+void VxPrintMonTest::statusOfOneForPeople()
+{
+    const Result result = run({QStringLiteral("status"), warehouse});
+    QCOMPARE(result.exitStatus, 0);
+    const QByteArray expected = R"(printer          Warehouse
+active           yes
+status           Ready
+online           yes
+supply           White Paper (DE-400200-WH)
+supply left      82 %
+ribbon 1         Blue (RS-43-BL)
+ribbon 1 left    3 %
+ribbon 2         Black (RS-43-BK)
+ribbon 2 left    57 %
+has a ribbon 2   yes
+firmware         4.1.3,boot 1.7
+network printer  no
+managed          yes
+was active once  yes
+)";
+    QCOMPARE(result.output, expected);
+}
+
+void VxPrintMonTest::statusForPrograms()
+{
+    const Result result = run({QStringLiteral("status"), QStringLiteral("--json")});
+    QCOMPARE(result.exitStatus, 0);
+    QCOMPARE(result.errors, QByteArray());
+    const QByteArrayList keys = keysOf(PrinterStatusInformation::staticMetaObject);
+    QCOMPARE(keys.size(), 21);
+    const QList<QByteArray> lines = result.output.trimmed().split('\n');
+    QCOMPARE(lines.size(), 5); // three printers between the brackets
+    for (const QByteArray& line : lines.mid(1, 3))
+        QVERIFY2(hasInOrder(line, keys), line.constData());
+
+    const QJsonArray records = QJsonDocument::fromJson(result.output).array();
+    QCOMPARE(records.size(), 3);
+    for (const QJsonValue& record : records)
+        QCOMPARE(record.toObject().size(), 21);
+    QCOMPARE(records.at(0)[QStringLiteral("printerName")].toString(),
+             QStringLiteral("Branch Office"));
+    QCOMPARE(records.at(0)[QStringLiteral("statusEnum")].toInt(), 256);
+    QCOMPARE(records.at(1).toObject(),
+             (QJsonObject{
+                 {QStringLiteral("printerName"), shipping},
+                 {QStringLiteral("statusEnum"), 1},
+                 {QStringLiteral("printerOnline"), true},
+                 {QStringLiteral("printerRemote"), false},
+                 {QStringLiteral("printerNonAdmin"), false},
+                 {QStringLiteral("printerDefault"), false},
+                 {QStringLiteral("ribbon1Percentage"), 80},
+                 {QStringLiteral("ribbon1ColorHex"), QStringLiteral("#000000")},
+                 {QStringLiteral("ribbon1ColorName"), QStringLiteral("Black")},
+                 {QStringLiteral("ribbon1SKU"), QStringLiteral("RS-43-BK")},
+                 {QStringLiteral("ribbon2Percentage"), 35},
+                 {QStringLiteral("ribbon2ColorHex"), QStringLiteral("#c8102e")},
+                 {QStringLiteral("ribbon2ColorName"), QStringLiteral("Red")},
+                 {QStringLiteral("ribbon2SKU"), QStringLiteral("RS-43-RD")},
+                 {QStringLiteral("softwareVersion"), QStringLiteral("4.2.0,boot 1.7")},
+                 {QStringLiteral("supplyPercentage"), 80},
+                 {QStringLiteral("supplyColorHex"), QStringLiteral("#ffd100")},
+                 {QStringLiteral("supplyColorName"), QStringLiteral("Yellow")},
+                 {QStringLiteral("supplySKU"), QStringLiteral("VT-400-YL")},
+                 {QStringLiteral("supplyMaterialName"), QStringLiteral("Vinyl")},
+                 {QStringLiteral("ribbon2Visible"), true},
              }));
-    QVERIFY(result.output.startsWith(
-        R"({"signal":"printerStatusChanged","dashboardPrinterName":"P \"1\"","newStatus":"1"})"));
+}
+
+void VxPrintMonTest::statusOfOneForPrograms()
+{
+    const Result all = run({QStringLiteral("status"), QStringLiteral("--json")});
+    const Result one = run({QStringLiteral("status"), warehouse, QStringLiteral("--json")});
+    QCOMPARE(one.exitStatus, 0);
+    const QJsonArray records = QJsonDocument::fromJson(one.output).array();
+    QCOMPARE(records.size(), 1);
+    QCOMPARE(records.first(), QJsonDocument::fromJson(all.output).array().at(2));
+}
+
+void VxPrintMonTest::statusOfUnknownPrinter()
+{
+    // Names are compared exactly, and printers that are not watched or listed have no record.
+    for (const char* name : {"shipping", "Nowhere", "", "Front Desk Laser", "Returns"}) {
+        for (const bool json : {false, true}) {
+            QStringList arguments{QStringLiteral("status"), QString::fromLatin1(name)};
+            if (json)
+                arguments.append(QStringLiteral("--json"));
+            const Result result = run(arguments);
+            QCOMPARE(result.exitStatus, 1);
+            QCOMPARE(result.output, QByteArray());
+            QCOMPARE(result.errors, QByteArray("vxprintmon: there is no record of a printer \"") +
+                                        name + "\"; \"vxprintmon status\" shows those there are\n");
+        }
+    }
+}
+
+void VxPrintMonTest::statusWithoutPrinters()
+{
+    const QString fleet =
+        fleetFile(R"({"printers": [{"name": "A", "driver": "Some Office Printer"}]})");
+    const Result json = run(
+        {QStringLiteral("status"), QStringLiteral("--json"), QStringLiteral("--virtual"), fleet});
+    QCOMPARE(json.exitStatus, 0);
+    QCOMPARE(json.output, QByteArray("[]\n"));
+    const Result people = run({QStringLiteral("status"), QStringLiteral("--virtual"), fleet});
+    QCOMPARE(people.exitStatus, 0);
+    QCOMPARE(people.output, QByteArray("There is no label printer yet.\n"));
+}
+
+void VxPrintMonTest::statusDoesNotWaitForever()
+{
+    const QString fleet = fleetFile(R"({"printers": [
+        {"name": "Mute", "driver": "Stratamark Alder"},
+        {"name": "P", "driver": "Stratamark Alder", "values": {"StatusCode": "4"}}]})");
+    QElapsedTimer clock;
+    clock.start();
+    const Result result = run(
+        {QStringLiteral("status"), QStringLiteral("--json"), QStringLiteral("--virtual"), fleet});
+    QVERIFY(clock.elapsed() >= 1900);
+    QCOMPARE(result.exitStatus, 0);
+    const QJsonArray records = QJsonDocument::fromJson(result.output).array();
+    QCOMPARE(records.size(), 2);
+    QCOMPARE(records.at(0)[QStringLiteral("statusEnum")].toInt(), 255);
+    QCOMPARE(records.at(1)[QStringLiteral("statusEnum")].toInt(), 4);
+}
+
+void VxPrintMonTest::statusEndsWhenInterrupted()
+{
+    const QString fleet =
+        fleetFile(R"({"printers": [{"name": "Mute", "driver": "Stratamark Alder"}]})");
+    QProcess process;
+    process.setProcessEnvironment(environment());
+    process.start(QStringLiteral(VXPRINTMON),
+                  {QStringLiteral("status"), QStringLiteral("--virtual"), fleet});
+    // Its endpoint is published from the event loop, in which it waits.
+    QTRY_VERIFY(entries().contains(QStringLiteral("vxipc-0")));
+    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), SIGINT), 0);
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 1);
+    QCOMPARE(process.readAllStandardOutput(), QByteArray());
+    QCOMPARE(process.readAllStandardError(), QByteArray("vxprintmon: interrupted\n"));
+}
+
+void VxPrintMonTest::namesInOtherLanguages_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("colour");
+    QTest::addColumn<QString>("material");
+    QTest::addColumn<QString>("ribbon");
+    const auto row = [](const char* language, const QString& colour, const QString& material,
+                        const QString& ribbon) {
+        QTest::newRow(language) << QString::fromLatin1(language) << colour << material << ribbon;
+    };
+    row("de", QStringLiteral("Gelb"), QStringLiteral("Vinyl"), QStringLiteral("Schwarz"));
+    row("ja", QStringLiteral("黄"), QStringLiteral("ビニール"), QStringLiteral("黒"));
+    // Known to the locale library, but not in the catalogue.
+    row("it", QStringLiteral("Yellow"), QStringLiteral("Vinyl"), QStringLiteral("Black"));
+}
+
+void VxPrintMonTest::namesInOtherLanguages()
+{
+    QFETCH(const QString, language);
+    QProcessEnvironment changed = environment();
+    changed.insert(QStringLiteral("LANGUAGE"), language);
+    const Result result = run({QStringLiteral("status"), shipping, QStringLiteral("--json")},
+                              QStringLiteral(VXPRINTMON), changed);
+    const QJsonObject record = QJsonDocument::fromJson(result.output).array().first().toObject();
+    QTEST(record.value(QStringLiteral("supplyColorName")).toString(), "colour");
+    QTEST(record.value(QStringLiteral("supplyMaterialName")).toString(), "material");
+    QTEST(record.value(QStringLiteral("ribbon1ColorName")).toString(), "ribbon");
+}
+
+// send and title //////////////////////////////////////////////////////////////////////////////////
+
+void VxPrintMonTest::sendForPeople()
+{
+    const Result result = run({QStringLiteral("send"), shipping, QStringLiteral("FEED 2")});
+    QCOMPARE(result.exitStatus, 0);
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(result.output,
+             QByteArray("Sent to Shipping: FEED 2\n"
+                        "It became print job 1, \"FEED 2\": RAW, pages: 1, bytes: 8.\n"));
+}
+
+void VxPrintMonTest::sendForPrograms()
+{
+    const Result result = run(
+        {QStringLiteral("send"), shipping, QStringLiteral("Ä \"1\""), QStringLiteral("--json")});
+    QCOMPARE(result.exitStatus, 0);
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(result.output,
+             QByteArray(R"({"printerName":"Shipping","command":"Ä \"1\"","job":{"id":1,)"
+                        R"("document":"Ä \"1\"","datatype":"RAW","pages":["Ä \"1\"\r\n"]}})"
+                        "\n"));
+}
+
+void VxPrintMonTest::sendToUnknownPrinter()
+{
+    for (const bool json : {false, true}) {
+        QStringList arguments{QStringLiteral("send"), QStringLiteral("Nowhere"),
+                              QStringLiteral("FEED")};
+        if (json)
+            arguments.append(QStringLiteral("--json"));
+        const Result result = run(arguments);
+        QCOMPARE(result.exitStatus, 1);
+        QCOMPARE(result.output, QByteArray());
+        QCOMPARE(result.errors, QByteArray("vxprintmon: the command was not sent to \"Nowhere\": "
+                                           "Nowhere: OpenPrinter call failed\n"));
+    }
+}
+
+void VxPrintMonTest::titles_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("title");
+    const auto row = [](const char* code, const char* title) {
+        QTest::newRow(code) << QString::fromLatin1(code) << QString::fromLatin1(title);
+    };
+    row("0", "Disconnected");
+    row("1", "Ready");
+    row("4", "The cover is open");
+    row("254", "The print spooler is not running");
+    row("255", "Unable To Retrieve Printer Info. (Code 255)");
+    row("256", "Printer Is Remotely Connected.\nUnable to retrieve printer info.");
+    row("257", "Disconnected");
+    row("258", "Printer Is Not Managed.\nUnable to retrieve printer info.");
+    row("-5", "Printer error -5");
+    row("-2147483648", "Printer error -2147483648");
+    row("2147483647", "Printer error 2147483647");
+}
+
+void VxPrintMonTest::titles()
+{
+    QFETCH(const QString, code);
+    QFETCH(const QString, title);
+    const Result people = run({QStringLiteral("title"), code});
+    QCOMPARE(people.exitStatus, 0);
+    QCOMPARE(people.errors, QByteArray());
+    QCOMPARE(people.output, title.toUtf8() + '\n');
+
+    const Result json = run({QStringLiteral("title"), code, QStringLiteral("--json")});
+    QCOMPARE(json.exitStatus, 0);
+    QCOMPARE(QJsonDocument::fromJson(json.output).object(),
+             (QJsonObject{{QStringLiteral("statusEnum"), code.toInt()},
+                          {QStringLiteral("title"), title}}));
+}
+
+// watch ///////////////////////////////////////////////////////////////////////////////////////////
+
+void VxPrintMonTest::watchForPrograms()
+{
+    const QString printer = QStringLiteral("P \"1\"");
+    const QString fleet = fleetFile(R"({
+        "printers": [{"name": "P \"1\"", "driver": "Stratamark Alder", "values":
+            {"StatusCode": "1", "Ribbon1Identifier": 2004, "Mileage": 50}}],
+        "defaultPrinter": "P \"1\"",
+        "timeline": [{"at": 100, "say": "a caption", "printer": "P \"1\"",
+                      "values": {"StatusCode": "42", "SoftwareVersion": "end"}}]})");
+    const Result result =
+        runUntil(R"("softwareVersion":"end")",
+                 {QStringLiteral("watch"), QStringLiteral("--json"), QStringLiteral("--speed"),
+                  QStringLiteral("500"), QStringLiteral("--virtual"), fleet});
+    QCOMPARE(result.exitStatus, 0);
+    QCOMPARE(result.errors, QByteArray());
+
+    QByteArrayList texts;
+    const QList<Line> lines = linesOf(result.output);
+    for (const Line& line : lines) {
+        if (line.signal() != updated) {
+            texts.append(line.text);
+            continue;
+        }
+        // In short: the record alone, in what this printer changes in it.
+        const QJsonObject record = line.record(printer);
+        QCOMPARE(record.size(), 21);
+        texts.append("updated " +
+                     QByteArray::number(record.value(QStringLiteral("statusEnum")).toInt()) + ' ' +
+                     record.value(QStringLiteral("ribbon1ColorName")).toString().toUtf8() + ' ' +
+                     QByteArray::number(record.value(QStringLiteral("supplyPercentage")).toInt()) +
+                     ' ' + record.value(QStringLiteral("softwareVersion")).toString().toUtf8());
+    }
+    QCOMPARE(texts, (QByteArrayList{
+                        R"({"signal":"statusChangedSignal","status":1,"printerName":"P \"1\""})",
+                        "updated 1  0 ",
+                        R"({"signal":"ribbonIdsChangedSignal","printerName":"P \"1\""})",
+                        "updated 1 Red 0 ",
+                        "updated 1 Red 50 ",
+                        R"({"signal":"printerErrorChangedSignal","printerInErrorState":true})",
+                        R"({"signal":"statusChangedSignal","status":42,"printerName":"P \"1\""})",
+                        "updated 42 Red 50 ",
+                        "updated 42 Red 50 end",
+                    }));
 }
 
 void VxPrintMonTest::watchForPeople()
 {
     const QString fleet = fleetFile(R"({
-        "printers": [{"name": "P", "driver": "Stratamark Alder", "values": {"StatusCode": "1"}}],
-        "timeline": [{"at": 100, "say": "The lid is opened.", "printer": "P",
-                      "values": {"StatusCode": "4"}}]})");
+        "printers": [{"name": "P", "driver": "Stratamark BirchMax", "values": {"StatusCode": "1",
+            "SupplyIdentifier": "000000641000030000A7"}}],
+        "defaultPrinter": "P",
+        "timeline": [
+            {"at": 100, "say": "The lid is opened.", "printer": "P",
+             "values": {"StatusCode": "4", "SupplyIdentifier": "00000000000000000000"}},
+            {"at": 200, "say": "A ribbon comes.", "printer": "P",
+             "values": {"Ribbon1Identifier": 2005, "Ribbon1Mileage": 120015}},
+            {"at": 250, "printer": "P", "values": {"Ribbon1Mileage": 120014}},
+            {"at": 300, "say": "A printer comes.",
+             "add": {"name": "Quill", "driver": "Stratamark Alder", "port": "10.0.0.1"}},
+            {"at": 400, "say": "The lid is closed.", "printer": "P",
+             "values": {"StatusCode": "1", "SoftwareVersion": "1.0"}}]})");
     const Result result =
-        run({QStringLiteral("watch"), QStringLiteral("--for"), QStringLiteral("3"),
-             QStringLiteral("--speed"), QStringLiteral("500"), QStringLiteral("--virtual"), fleet});
+        runUntil("firmware 1.0", {QStringLiteral("watch"), QStringLiteral("--speed"),
+                                  QStringLiteral("500"), QStringLiteral("--virtual"), fleet});
     QCOMPARE(result.exitStatus, 0);
+    QCOMPARE(result.errors, QByteArray());
+
     const QList<QByteArray> lines = result.output.trimmed().split('\n');
-    QCOMPARE(lines.size(), 4);
-    const auto withoutClock = [&](int line) {
-        return lines.at(line).trimmed().mid(7).trimmed();
-    };
-    QCOMPARE(withoutClock(0), QByteArray("P  status           1"));
-    QCOMPARE(withoutClock(1), QByteArray("P  name             P"));
-    QCOMPARE(withoutClock(2), QByteArray("The lid is opened."));
-    QCOMPARE(withoutClock(3), QByteArray("P  status           4"));
-    QVERIFY(!result.output.contains('\033'));
+    QByteArrayList withoutClock;
+    for (const QByteArray& line : lines.mid(3))
+        withoutClock.append(line.mid(qstrlen("   0.0 s  ")));
+    QCOMPARE(lines.mid(0, 3),
+             (QByteArrayList{
+                 "PRINTER  STATUS     SUPPLY  RIBBON 1  RIBBON 2  FIRMWARE  ACTIVE",
+                 "P        not known  -       -         -         -         yes",
+                 "",
+             }));
+    QCOMPARE(withoutClock, (QByteArrayList{
+                               "P  status     1  Ready",
+                               "P  records  status not known → Ready",
+                               "P  supply   was changed or taken out",
+                               "P  records  supply Yellow Vinyl (VT-400-YL)",
+                               "The lid is opened.",
+                               "   errors   some printer is in error",
+                               "P  status     4  The cover is open",
+                               "P  records  status Ready → The cover is open",
+                               "P  supply   was changed or taken out",
+                               "P  records  supply Yellow Vinyl (VT-400-YL) → none",
+                               "A ribbon comes.",
+                               "P  ribbons  were changed or taken out",
+                               "P  records  ribbon 1 Blue (RS-43-BL)",
+                               "P  records  ribbon 1 left 0 % → 100 %",
+                               "P  records  ribbon 1 left 100 % → 99 %",
+                               "A printer comes.",
+                               "Quill  found    Printer Is Remotely Connected.",
+                               "The lid is closed.",
+                               "       errors   no printer is in error",
+                               "P      status     1  Ready",
+                               "P      records  status The cover is open → Ready",
+                               "P      records  firmware 1.0",
+                           }));
 }
 
-void VxPrintMonTest::watchTellsTheWholeStory()
+void VxPrintMonTest::watchEndsInTime()
 {
-    const Result result =
-        run({QStringLiteral("watch"), QStringLiteral("--json"), QStringLiteral("--for"),
-             QStringLiteral("8"), QStringLiteral("--speed"), QStringLiteral("20")});
+    QElapsedTimer clock;
+    clock.start();
+    const Result result = run({QStringLiteral("watch"), QStringLiteral("--json"),
+                               QStringLiteral("--for"), QStringLiteral("0.5")});
+    QVERIFY(clock.elapsed() >= 500);
     QCOMPARE(result.exitStatus, 0);
-    QStringList statusOfShipping;
-    QSet<QString> printers;
-    const QList<QJsonObject> signalObjects = objects(result.output);
-    for (const QJsonObject& object : signalObjects) {
-        const QString printer = object.value(QStringLiteral("dashboardPrinterName")).toString();
-        printers.insert(printer);
-        if (printer == QLatin1String("Shipping") && object.contains(QStringLiteral("newStatus")))
-            statusOfShipping.append(object.value(QStringLiteral("newStatus")).toString());
-    }
-    QCOMPARE(statusOfShipping,
-             (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("1"),
-                          QStringLiteral("254"), QStringLiteral("1")}));
-    QCOMPARE(printers, (QSet<QString>{QStringLiteral("Shipping"), QStringLiteral("Warehouse"),
-                                      QStringLiteral("Returns")}));
+    QCOMPARE(result.errors, QByteArray());
 }
 
-void VxPrintMonTest::watchWithoutAnyPrinter()
+void VxPrintMonTest::watchWaitsForPrinters()
 {
-    const QString fleet = fleetFile(
-        R"({"printers": [{"name": "A", "driver": "Some Office Printer"},
-            {"name": "B", "driver": "Stratamark Alder", "administrable": false},
-            {"name": "C", "driver": "Stratamark Alder", "port": "10.0.0.1"}]})");
-    const Result result = run({QStringLiteral("watch"), QStringLiteral("--virtual"), fleet});
-    QCOMPARE(result.exitStatus, 1);
-    QCOMPARE(result.output, QByteArray());
-    QCOMPARE(result.errors,
-             QByteArray("vxprintmon: there is no supported, local printer that may be managed\n"));
+    const QString fleet = fleetFile(R"({"printers": [], "timeline": [
+        {"at": 100, "add": {"name": "P", "driver": "Stratamark Alder",
+                            "values": {"StatusCode": "1"}}}]})");
+    const QStringList arguments{QStringLiteral("watch"), QStringLiteral("--speed"),
+                                QStringLiteral("500"), QStringLiteral("--virtual"), fleet};
+    const Result people = runUntil("not known → Ready", arguments);
+    QCOMPARE(people.exitStatus, 0);
+    QVERIFY(people.output.startsWith("There is no label printer yet.\n\n"));
+    QVERIFY(people.output.contains("P  found    is watched from now on\n"));
+
+    const Result json =
+        runUntil("availablePrintersUpdated", arguments + QStringList{QStringLiteral("--json")});
+    QCOMPARE(json.exitStatus, 0);
+    QVERIFY(json.output.startsWith(
+        R"({"signal":"activeDefaultPrinterSetSignal","activePrinterName":"P","isVX":true})"));
 }
 
 void VxPrintMonTest::watchEndsWhenInterrupted_data()
@@ -236,32 +672,281 @@ void VxPrintMonTest::watchEndsWhenInterrupted()
 {
     QFETCH(const int, number);
     QProcess process;
-    process.setProcessEnvironment(environment(m_home.path()));
+    process.setProcessEnvironment(environment());
     process.start(QStringLiteral(VXPRINTMON), {QStringLiteral("watch"), QStringLiteral("--json")});
-    QTRY_VERIFY(process.bytesAvailable() > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(process.bytesAvailable() > 0, 20000);
     QCOMPARE(::kill(static_cast<pid_t>(process.processId()), number), 0);
     QVERIFY(process.waitForFinished(20000));
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 0);
 }
 
+void VxPrintMonTest::twoAtOnce()
+{
+    // Each has endpoints of its own and watches all printers.
+    constexpr int count = 2;
+    QProcess processes[count];
+    QByteArray outputs[count];
+    for (int i = 0; i < count; ++i) {
+        processes[i].setProcessEnvironment(environment());
+        processes[i].start(QStringLiteral(VXPRINTMON),
+                           {QStringLiteral("watch"), QStringLiteral("--json")});
+        QTRY_VERIFY_WITH_TIMEOUT((outputs[i] += processes[i].readAllStandardOutput())
+                                     .contains(R"("softwareVersion":"4.1.3,boot 1.7")"),
+                                 20000);
+        QTRY_COMPARE(entries().filter(QStringLiteral("vxipc-")).size(), 2 * (i + 1));
+    }
+    const QStringList endpoints = entries().filter(QStringLiteral("vxipc-"));
+    QVERIFY(endpoints.contains(QStringLiteral("vxipc-0")));
+    QVERIFY(endpoints.contains(QStringLiteral("vxipc-0-%1").arg(processes[1].processId())));
+
+    for (int i = 0; i < count; ++i) {
+        QCOMPARE(processes[i].state(), QProcess::Running);
+        processes[i].terminate();
+        QVERIFY(processes[i].waitForFinished(20000));
+        QCOMPARE(processes[i].exitStatus(), QProcess::NormalExit);
+        QCOMPARE(processes[i].exitCode(), 0);
+        QCOMPARE(processes[i].readAllStandardError(), QByteArray());
+    }
+    QCOMPARE(entries().filter(QStringLiteral("vxipc-")), QStringList());
+}
+
+// The built-in story //////////////////////////////////////////////////////////////////////////////
+
+const QList<Line>& VxPrintMonTest::story()
+{
+    if (m_story.isEmpty()) {
+        const Result result =
+            runUntil(R"("printerName":"Warehouse","statusEnum":1,"printerOnline":true,)"
+                     R"("printerRemote":false,"printerNonAdmin":false,)"
+                     R"("printerDefault":true,"ribbon1Percentage":100,)"
+                     R"("ribbon1ColorHex":"#00843d","ribbon1ColorName":"Green",)"
+                     R"("ribbon1SKU":"RS-43-GN","ribbon2Percentage":57,)"
+                     R"("ribbon2ColorHex":"#000000","ribbon2ColorName":"Black",)"
+                     R"("ribbon2SKU":"RS-43-BK","softwareVersion":"4.2.0,boot 1.7")",
+                     {QStringLiteral("watch"), QStringLiteral("--json"), QStringLiteral("--speed"),
+                      QStringLiteral("60")});
+        m_story = linesOf(result.output);
+        if (result.exitStatus != 0 || !result.errors.isEmpty())
+            qFatal("the story ended with status %d: %s\n%s", result.exitStatus,
+                   result.errors.constData(), result.output.constData());
+    }
+    return m_story;
+}
+
+QList<Line> VxPrintMonTest::storyFrom(const QString& printer, int status)
+{
+    const QList<Line>& lines = story();
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const Line& line = lines.at(i);
+        if (line.signal() == statusChanged && line.printer() == printer &&
+            line.object.value(QStringLiteral("status")).toInt() == status)
+            return lines.sliced(i);
+    }
+    return {};
+}
+
+void VxPrintMonTest::storyKeepsTheSignalsForm()
+{
+    QMap<QString, QByteArrayList> argumentsOf;
+    const QMetaObject& type = PrinterStatusController::staticMetaObject;
+    for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
+        if (type.method(i).methodType() == QMetaMethod::Signal)
+            argumentsOf.insert(QString::fromLatin1(type.method(i).name()),
+                               type.method(i).parameterNames());
+    }
+    QCOMPARE(argumentsOf.size(), 7);
+    argumentsOf[updated] = {"printers"};
+
+    const QByteArrayList properties = keysOf(PrinterStatusInformation::staticMetaObject);
+    QSet<QString> seen;
+    for (const Line& line : story()) {
+        QVERIFY2(argumentsOf.contains(line.signal()), line.text.constData());
+        seen.insert(line.signal());
+        const QByteArrayList keys = QByteArrayList{"signal"} + argumentsOf.value(line.signal());
+        QCOMPARE(line.object.size(), keys.size());
+        QVERIFY2(hasInOrder(line.text, keys), line.text.constData());
+        const QJsonArray records = line.object.value(QStringLiteral("printers")).toArray();
+        for (const QJsonValue& record : records)
+            QCOMPARE(record.toObject().size(), properties.size());
+        if (!records.isEmpty())
+            QVERIFY2(hasInOrder(line.text, properties), line.text.constData());
+    }
+    // All but the one that the library never emits.
+    QCOMPARE(seen.size(), 6);
+    QVERIFY(!seen.contains(QStringLiteral("softwareVersionUpdated")));
+}
+
+void VxPrintMonTest::storyOfErrors()
+{
+    QList<bool> states;
+    for (const Line& line : storyOf(inError))
+        states.append(line.object.value(QStringLiteral("printerInErrorState")).toBool());
+    // Out of labels, lid, pause, spooler, firmware: each begins and ends.
+    QCOMPARE(states,
+             (QList<bool>{true, false, true, false, true, false, true, false, true, false}));
+}
+
+void VxPrintMonTest::storyOfTheActivePrinter()
+{
+    QStringList names;
+    for (const Line& line : storyOf(activeSet)) {
+        QVERIFY(line.object.value(QStringLiteral("isVX")).toBool());
+        names.append(line.object.value(QStringLiteral("activePrinterName")).toString());
+    }
+    // Made the Windows default printer; switched off, so that the first by name takes over; back.
+    QCOMPARE(names, (QStringList{shipping, returns, shipping}));
+
+    // The user's choice is heard of with the printer's next report, before that is passed on.
+    const QList<Line>& lines = story();
+    const auto paused = std::ranges::find_if(lines, [](const Line& line) {
+        return line.object.value(QStringLiteral("status")).toInt() == 19;
+    });
+    QVERIFY(paused != lines.end());
+    QCOMPARE(std::prev(paused, 1)->signal(), activeSet);
+    QCOMPARE(std::prev(paused, 2)->signal(), inError);
+}
+
+void VxPrintMonTest::storyOfASupply()
+{
+    const auto supplyOf = [](const QJsonObject& record) {
+        return QStringLiteral("%1 %2 %3 %4 %5")
+            .arg(record.value(QStringLiteral("supplyPercentage")).toInt())
+            .arg(record.value(QStringLiteral("supplyColorName")).toString(),
+                 record.value(QStringLiteral("supplyMaterialName")).toString(),
+                 record.value(QStringLiteral("supplyColorHex")).toString(),
+                 record.value(QStringLiteral("supplySKU")).toString());
+    };
+    QStringList states;
+    for (const Line& line : storyOf(updated)) {
+        const QString state = supplyOf(line.record(shipping));
+        if (states.isEmpty() || states.last() != state)
+            states.append(state);
+    }
+    QCOMPARE(states, (QStringList{
+                         QStringLiteral("0    "),
+                         QStringLiteral("0 Yellow Vinyl #ffd100 VT-400-YL"),
+                         QStringLiteral("80 Yellow Vinyl #ffd100 VT-400-YL"),
+                         QStringLiteral("60 Yellow Vinyl #ffd100 VT-400-YL"),
+                         QStringLiteral("40 Yellow Vinyl #ffd100 VT-400-YL"),
+                         QStringLiteral("20 Yellow Vinyl #ffd100 VT-400-YL"),
+                         QStringLiteral("2 Yellow Vinyl #ffd100 VT-400-YL"),
+                         QStringLiteral("2   #ffffff -1"),
+                         QStringLiteral("0   #ffffff -1"),
+                         QStringLiteral("0 Orange Vinyl #ff6a13 VT-400-OR"),
+                         QStringLiteral("100 Orange Vinyl #ff6a13 VT-400-OR"),
+                     }));
+
+    // Out of labels: first the status, then the supply.
+    const QList<Line> moment = storyFrom(shipping, 2);
+    QVERIFY(moment.size() > 4);
+    QCOMPARE(moment.at(1).signal(), updated);
+    QCOMPARE(moment.at(1).record(shipping).value(QStringLiteral("statusEnum")).toInt(), 2);
+    QCOMPARE(moment.at(2).signal(), supplyChanged);
+    QCOMPARE(moment.at(2).printer(), shipping);
+    QCOMPARE(moment.at(3).signal(), updated);
+    QCOMPARE(moment.at(3).record(shipping).value(QStringLiteral("supplySKU")).toString(),
+             QStringLiteral("-1"));
+}
+
+void VxPrintMonTest::storyOfARibbon()
+{
+    // After the lid was opened, which also tells that the ribbon is used up, the new one comes.
+    const QList<Line> moment = storyFrom(warehouse, 4);
+    QVERIFY(moment.size() > 6);
+    QCOMPARE(moment.at(1).signal(), updated);
+    QCOMPARE(moment.at(2).signal(), updated);
+    QCOMPARE(moment.at(2).record(warehouse).value(QStringLiteral("ribbon1Percentage")).toInt(-1),
+             0);
+    QCOMPARE(moment.at(2).record(warehouse).value(QStringLiteral("ribbon1ColorName")).toString(),
+             QStringLiteral("Blue"));
+
+    QCOMPARE(moment.at(3).signal(), ribbonsChanged);
+    QCOMPARE(moment.at(3).printer(), warehouse);
+    QCOMPARE(moment.at(4).signal(), updated);
+    const QJsonObject record = moment.at(4).record(warehouse);
+    QCOMPARE(record.value(QStringLiteral("ribbon1ColorName")).toString(), QStringLiteral("Green"));
+    QCOMPARE(record.value(QStringLiteral("ribbon1ColorHex")).toString(), QStringLiteral("#00843d"));
+    QCOMPARE(record.value(QStringLiteral("ribbon1SKU")).toString(), QStringLiteral("RS-43-GN"));
+    QCOMPARE(record.value(QStringLiteral("ribbon2ColorName")).toString(), QStringLiteral("Black"));
+    QCOMPARE(record.value(QStringLiteral("ribbon1Percentage")).toInt(-1), 0);
+    QCOMPARE(moment.at(5).signal(), updated);
+    QCOMPARE(moment.at(5).record(warehouse).value(QStringLiteral("ribbon1Percentage")).toInt(),
+             100);
+    QCOMPARE(moment.at(6).signal(), inError);
+}
+
+void VxPrintMonTest::storyOfAPrinterThatIsFound()
+{
+    const QList<Line> moment = storyFrom(returns, 1);
+    QVERIFY(moment.size() > 8);
+    QStringList signalNames;
+    for (const Line& line : moment.first(8))
+        signalNames.append(line.signal());
+    QCOMPARE(signalNames, (QStringList{statusChanged, updated, supplyChanged, updated,
+                                       ribbonsChanged, updated, updated, updated}));
+    const QJsonObject record = moment.at(7).record(returns);
+    QCOMPARE(record.value(QStringLiteral("supplyColorName")).toString(), QStringLiteral("Yellow"));
+    QCOMPARE(record.value(QStringLiteral("supplyMaterialName")).toString(),
+             QStringLiteral("Reflective film"));
+    QCOMPARE(record.value(QStringLiteral("supplyPercentage")).toInt(), 90);
+    QCOMPARE(record.value(QStringLiteral("ribbon1ColorName")).toString(), QStringLiteral("Blue"));
+    QCOMPARE(record.value(QStringLiteral("ribbon1Percentage")).toInt(), 92);
+    QCOMPARE(record.value(QStringLiteral("ribbon2Visible")).toBool(true), false);
+}
+
+void VxPrintMonTest::storyOfTheSpooler()
+{
+    // Each printer by itself, as the threads notice in no fixed order.
+    QMap<QString, QList<int>> statuses;
+    for (const Line& line : storyOf(statusChanged))
+        statuses[line.printer()].append(line.object.value(QStringLiteral("status")).toInt());
+    QCOMPARE(statuses, (QMap<QString, QList<int>>{
+                           {shipping, {1, 2, 1, 19, 1, 254, 1, 257, 1}},
+                           {warehouse, {1, 4, 1, 254, 1, 21, 1}},
+                           {returns, {1, 254, 1}},
+                       }));
+}
+
+void VxPrintMonTest::storyOfAPrinterGoingOffline()
+{
+    const QList<Line> moment = storyFrom(shipping, 257);
+    QVERIFY(moment.size() > 4);
+    const QJsonObject offline = moment.at(1).record(shipping);
+    QCOMPARE(offline.value(QStringLiteral("statusEnum")).toInt(), 257);
+    QCOMPARE(offline.value(QStringLiteral("printerOnline")).toBool(true), false);
+    // And back: active again first, then the status.
+    QCOMPARE(moment.at(2).signal(), activeSet);
+    QCOMPARE(moment.at(3).signal(), statusChanged);
+    QCOMPARE(moment.at(4).record(shipping).value(QStringLiteral("printerOnline")).toBool(), true);
+}
+
+// The command line ////////////////////////////////////////////////////////////////////////////////
+
 void VxPrintMonTest::coloursOnATerminal()
 {
     const QString script = QStandardPaths::findExecutable(QStringLiteral("script"));
     if (script.isEmpty())
         QSKIP("there is no script(1) here to give the tool a terminal");
-    const QStringList inTerminal{QStringLiteral("-qec"), QStringLiteral("'" VXPRINTMON "' list"),
-                                 QStringLiteral("/dev/null")};
-    QProcessEnvironment terminal = environment(m_home.path());
+    const auto inTerminal = [](const char* verb) {
+        return QStringList{QStringLiteral("-qec"),
+                           QStringLiteral("'" VXPRINTMON "' ") + QString::fromLatin1(verb),
+                           QStringLiteral("/dev/null")};
+    };
+    QProcessEnvironment terminal = environment();
     terminal.insert(QStringLiteral("TERM"), QStringLiteral("xterm"));
-    QVERIFY(run(inTerminal, script, terminal).output.contains("\033[32mShipping\033[0m"));
+    QVERIFY(run(inTerminal("list"), script, terminal).output.contains("\033[32mShipping\033[0m"));
+    const QByteArray coloured = run(inTerminal("status"), script, terminal).output;
+    QVERIFY(coloured.contains("\033[32mReady\033[0m"));
+    QVERIFY(coloured.contains("\033[38;2;255;209;0m██ \033[0mYellow Vinyl, 80 %"));
     terminal.insert(QStringLiteral("NO_COLOR"), QStringLiteral("1"));
-    const Result plain = run(inTerminal, script, terminal);
-    QVERIFY(plain.output.contains("Shipping"));
+    const Result plain = run(inTerminal("status"), script, terminal);
+    QVERIFY(plain.output.contains("Yellow"));
     QVERIFY(!plain.output.contains('\033'));
+    QVERIFY(!plain.output.contains("█"));
     terminal.remove(QStringLiteral("NO_COLOR"));
     terminal.insert(QStringLiteral("TERM"), QStringLiteral("dumb"));
-    QVERIFY(!run(inTerminal, script, terminal).output.contains('\033'));
+    QVERIFY(!run(inTerminal("list"), script, terminal).output.contains('\033'));
 }
 
 void VxPrintMonTest::wrongUsage_data()
@@ -273,11 +958,26 @@ void VxPrintMonTest::wrongUsage_data()
             << QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts)
             << QString::fromUtf8(complaint);
     };
-    row("", "expected a verb: list, watch");
-    row("lst", "\"lst\" is no verb; expected one of list, watch");
+    row("", "expected a verb: list, watch, status, send, title");
+    row("lst", "\"lst\" is no verb; expected one of list, watch, status, send, title");
     row("list Shipping", "list takes no argument, found \"Shipping\"");
+    row("watch Shipping", "watch takes no argument, found \"Shipping\"");
+    row("status A B", "status takes at most a printer, found \"A\" \"B\"");
+    row("send", "send takes a printer and a command, found nothing");
+    row("send Shipping", "send takes a printer and a command, found \"Shipping\"");
+    row("send Shipping A B", "send takes a printer and a command, found \"Shipping\" \"A\" \"B\"");
+    row("title", "title takes a status code, found nothing");
+    row("title 1 2", "title takes a status code, found \"1\" \"2\"");
+    for (const char* code : {"x", "1.5", "0x10", "2147483648", "-2147483649"}) {
+        const QByteArray arguments = QByteArray("title ") + code;
+        const QByteArray complaint =
+            QByteArray("title takes a status code from -2147483648 to 2147483647, found \"") +
+            code + '"';
+        row(arguments.constData(), complaint.constData());
+    }
     row("list --jsn", "Unknown option 'jsn'");
     row("list --for 3", "--for goes with watch only");
+    row("status --for 3", "--for goes with watch only");
     row("list --speed 3", "--speed goes with watch only");
     row("watch --for", "Missing value after '--for'");
     row("watch --for soon", "--for: expected a number above 0, at most 1000000, found \"soon\"");
@@ -302,8 +1002,9 @@ void VxPrintMonTest::wrongUsage()
 void VxPrintMonTest::brokenFleet()
 {
     const QString fleet = fleetFile("{\"printers\": [\n{\"name\": 7}]}");
-    for (const char* verb : {"list", "watch"}) {
-        const Result result = run({QString::fromLatin1(verb), QStringLiteral("--virtual"), fleet});
+    for (const char* verb : {"list", "watch", "status", "send P X", "title 1"}) {
+        const Result result = run(QString::fromLatin1(verb).split(QLatin1Char(' ')) +
+                                  QStringList{QStringLiteral("--virtual"), fleet});
         QCOMPARE(result.exitStatus, 1);
         QCOMPARE(result.output, QByteArray());
         QCOMPARE(QString::fromUtf8(result.errors),
@@ -321,6 +1022,9 @@ void VxPrintMonTest::helpAndVersion()
     const Result help = run({QStringLiteral("--help")});
     QCOMPARE(help.exitStatus, 0);
     QVERIFY(help.output.startsWith("Usage: vxprintmon VERB"));
+    for (const char* said : {"list ", "watch ", "status [PRINTER]", "send PRINTER COMMAND",
+                             "title CODE", "no longer than 2 seconds"})
+        QVERIFY2(help.output.contains(said), said);
     const Result version = run({QStringLiteral("--version")});
     QCOMPARE(version.exitStatus, 0);
     QVERIFY(QRegularExpression(QStringLiteral("^vxprintmon \\d+\\.\\d+\\.\\d+\n$"))
@@ -330,10 +1034,8 @@ void VxPrintMonTest::helpAndVersion()
 
 void VxPrintMonTest::leavesNothingBehind()
 {
-    const QDir home(m_home.path());
-    const QStringList entries =
-        home.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    for (const QString& entry : entries)
+    const QStringList left = entries();
+    for (const QString& entry : left)
         QVERIFY2(entry.startsWith(QLatin1String("fleet ")), qPrintable(entry));
 }
 

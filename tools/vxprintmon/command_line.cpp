@@ -4,20 +4,28 @@
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
+#include <QtCore/QRegularExpression>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
 namespace {
 
-struct NamedVerb
+struct KnownVerb
 {
     const char* name;
     Verb verb;
+    const char* words; ///< what follows it, for people
+    qsizetype fewest;
+    qsizetype most;
 };
 constexpr std::array verbs{
-    NamedVerb{"list", Verb::List},
-    NamedVerb{"watch", Verb::Watch},
+    KnownVerb{"list", Verb::List, "no argument", 0, 0},
+    KnownVerb{"watch", Verb::Watch, "no argument", 0, 0},
+    KnownVerb{"status", Verb::Status, "at most a printer", 0, 1},
+    KnownVerb{"send", Verb::Send, "a printer and a command", 2, 2},
+    KnownVerb{"title", Verb::Title, "a status code", 1, 1},
 };
 
 constexpr char usage[] =
@@ -27,7 +35,10 @@ Lists and watches the label printers of the print spooler.
 
 Verbs:
   list                   the printers the spooler knows
-  watch                  a line for every change that a printer reports
+  watch                  a line for everything that happens to the label printers
+  status [PRINTER]       what is known of all label printers, or of one
+  send PRINTER COMMAND   sends a command in the printer's own language
+  title CODE             the title of a status code
 
 Options:
   --json                 JSON instead of text for people: an array, or an object a line
@@ -37,6 +48,9 @@ Options:
   --help                 this text
   --version              the version
 
+status waits until the printers it shows have reported and 0.1 seconds have passed without more, but
+no longer than 2 seconds.
+Names of colours and materials come from the file roll.db beside this program.
 Where there is no Windows, virtual printers are all there is: without FILE a fleet of six.
 Colours are left out when the output is no terminal or NO_COLOR is set.
 Exit status: 0 done, 1 failed, 2 wrong usage.
@@ -45,7 +59,7 @@ Exit status: 0 done, 1 failed, 2 wrong usage.
 QString verbList()
 {
     QStringList names;
-    for (const NamedVerb& verb : verbs)
+    for (const KnownVerb& verb : verbs)
         names.append(QString::fromLatin1(verb.name));
     return names.join(QStringLiteral(", "));
 }
@@ -66,6 +80,17 @@ WrongUsage wrong(const QString& text)
     return {text + QStringLiteral(" (vxprintmon --help tells more)")};
 }
 
+/// The arguments with a negative status code, which would pass for an option, at the end and behind
+/// the mark that there are no more options.
+QStringList withCodeLast(QStringList arguments)
+{
+    static const QRegularExpression negativeNumber(QStringLiteral("^-\\d+$"));
+    const qsizetype code = arguments.indexOf(QStringLiteral("title")) + 1;
+    if (code > 0 && negativeNumber.match(arguments.value(code)).hasMatch())
+        arguments += {QStringLiteral("--"), arguments.takeAt(code)};
+    return arguments;
+}
+
 } // namespace
 
 std::variant<CommandLine, WrongUsage, Answer> parseCommandLine(const QStringList& arguments)
@@ -78,7 +103,7 @@ std::variant<CommandLine, WrongUsage, Answer> parseCommandLine(const QStringList
     const QCommandLineOption fleet(QStringLiteral("virtual"), {}, QStringLiteral("FILE"));
     const QCommandLineOption speed(QStringLiteral("speed"), {}, QStringLiteral("FACTOR"));
     parser.addOptions({help, version, json, forSeconds, fleet, speed});
-    if (!parser.parse(arguments)) {
+    if (!parser.parse(withCodeLast(arguments))) {
         const QString error = parser.errorText();
         return wrong(error.endsWith(QLatin1Char('.')) ? error.chopped(1) : error);
     }
@@ -88,21 +113,34 @@ std::variant<CommandLine, WrongUsage, Answer> parseCommandLine(const QStringList
         return Answer{
             QStringLiteral("vxprintmon %1\n").arg(QCoreApplication::applicationVersion())};
 
-    const QStringList words = parser.positionalArguments();
+    QStringList words = parser.positionalArguments();
     if (words.isEmpty())
         return wrong(QStringLiteral("expected a verb: ") + verbList());
-    const auto verb = std::find_if(verbs.begin(), verbs.end(), [&](const NamedVerb& known) {
-        return words.first() == QLatin1String(known.name);
-    });
+    const QString name = words.takeFirst();
+    const auto verb = std::ranges::find_if(
+        verbs, [&](const KnownVerb& known) { return name == QLatin1String(known.name); });
     if (verb == verbs.end())
-        return wrong(
-            QStringLiteral("\"%1\" is no verb; expected one of %2").arg(words.first(), verbList()));
-    if (words.size() > 1)
-        return wrong(
-            QStringLiteral("%1 takes no argument, found \"%2\"").arg(words.at(0), words.at(1)));
+        return wrong(QStringLiteral("\"%1\" is no verb; expected one of %2").arg(name, verbList()));
+    if (words.size() < verb->fewest || words.size() > verb->most) {
+        const QString found =
+            words.isEmpty() ? QStringLiteral("nothing")
+                            : QStringLiteral("\"%1\"").arg(words.join(QStringLiteral("\" \"")));
+        return wrong(QStringLiteral("%1 takes %2, found %3")
+                         .arg(name, QString::fromLatin1(verb->words), found));
+    }
 
     CommandLine line;
     line.verb = verb->verb;
+    line.words = words;
+    if (line.verb == Verb::Title) {
+        bool isCode = false;
+        line.code = words.first().toInt(&isCode);
+        if (!isCode)
+            return wrong(
+                QStringLiteral(
+                    "title takes a status code from -2147483648 to 2147483647, found \"%1\"")
+                    .arg(words.first()));
+    }
     line.json = parser.isSet(json);
     line.fleetFile = parser.value(fleet);
     if (parser.isSet(fleet) && line.fleetFile.isEmpty())
@@ -110,14 +148,14 @@ std::variant<CommandLine, WrongUsage, Answer> parseCommandLine(const QStringList
     for (const QCommandLineOption* option : {&forSeconds, &speed}) {
         if (!parser.isSet(*option))
             continue;
-        const QString name = option->names().constFirst();
+        const QString optionName = option->names().constFirst();
         if (line.verb != Verb::Watch)
-            return wrong(QStringLiteral("--%1 goes with watch only").arg(name));
+            return wrong(QStringLiteral("--%1 goes with watch only").arg(optionName));
         const std::optional<double> number = positiveNumber(parser.value(*option));
         if (!number)
             return wrong(
                 QStringLiteral("--%1: expected a number above 0, at most 1000000, found \"%2\"")
-                    .arg(name, parser.value(*option)));
+                    .arg(optionName, parser.value(*option)));
         if (option == &speed)
             line.speed = *number;
         else

@@ -12,15 +12,20 @@ enum class Verb
 {
     List,
     Watch,
+    Status,
+    Send,
+    Title,
 };
 
 struct CommandLine
 {
     Verb verb = Verb::List;
+    QStringList words; ///< what follows the verb, as many as it takes
     bool json = false;
     QString fleetFile;             ///< empty: the built-in fleet, or the system's own printers
     std::optional<double> seconds; ///< how long to watch; without it, until interrupted
     double speed = 1;              ///< of the fleet's story
+    int code = 0;                  ///< the status code whose title is wanted
 };
 
 /// Wrong usage, in one line.

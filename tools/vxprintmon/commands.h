@@ -6,6 +6,9 @@
 #include "output.h"
 #include "scene.h"
 
-/// Each runs one verb and returns the exit status.
-int runList(const CommandLine& line, Output& output);
-int runWatch(const CommandLine& line, Output& output, Scene& scene);
+/// Each runs one verb and returns why it failed, in one line; an empty text when it did not.
+QString runList(const CommandLine& line, Output& output, Scene& scene);
+QString runWatch(const CommandLine& line, Output& output, Scene& scene);
+QString runStatus(const CommandLine& line, Output& output, Scene& scene);
+QString runSend(const CommandLine& line, Output& output, Scene& scene);
+QString runTitle(const CommandLine& line, Output& output, Scene& scene);

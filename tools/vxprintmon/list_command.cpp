@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #include "commands.h"
 
+#include "json_text.h"
+
 #include "printer_types.h"
 #include "windows_printer_info.h"
 
@@ -24,18 +26,19 @@ QString modelName(PrinterType type)
     }
 }
 
-QString jsonRecord(const AvailablePrinters& printer)
+QString json(const AvailablePrinters& printer)
 {
-    return Output::jsonObject({
-        {QStringLiteral("printerName"), printer.printerName},
-        {QStringLiteral("portName"), printer.portName},
-        {QStringLiteral("driverName"), printer.driverName},
-        {QStringLiteral("serialNumber"), printer.serialNumber},
-        {QStringLiteral("isNetworkPrinter"), printer.isNetworkPrinter},
-        {QStringLiteral("isShared"), printer.isShared},
-        {QStringLiteral("isOffline"), printer.isOffline},
-        {QStringLiteral("printerType"),
-         static_cast<int>(WindowsPrinterInfo::printerType(printer.driverName))},
+    using json_text::value;
+    const auto type = static_cast<int>(WindowsPrinterInfo::printerType(printer.driverName));
+    return json_text::object({
+        {QStringLiteral("printerName"), value(printer.printerName)},
+        {QStringLiteral("portName"), value(printer.portName)},
+        {QStringLiteral("driverName"), value(printer.driverName)},
+        {QStringLiteral("serialNumber"), value(printer.serialNumber)},
+        {QStringLiteral("isNetworkPrinter"), value(printer.isNetworkPrinter)},
+        {QStringLiteral("isShared"), value(printer.isShared)},
+        {QStringLiteral("isOffline"), value(printer.isOffline)},
+        {QStringLiteral("printerType"), value(type)},
     });
 }
 
@@ -57,21 +60,19 @@ Cell flags(const AvailablePrinters& printer, bool isDefault)
 
 } // namespace
 
-int runList(const CommandLine& line, Output& output)
+QString runList(const CommandLine& line, Output& output, Scene& /*scene*/)
 {
     const QList<AvailablePrinters> printers = WindowsPrinterInfo::getAvailablePrinters();
     if (line.json) {
-        QStringList records;
+        QStringList texts;
         for (const AvailablePrinters& printer : printers)
-            records.append(QStringLiteral("  ") + jsonRecord(printer));
-        output.text(records.isEmpty()
-                        ? QStringLiteral("[]\n")
-                        : QStringLiteral("[\n%1\n]\n").arg(records.join(QStringLiteral(",\n"))));
-        return 0;
+            texts.append(json(printer));
+        output.text(json_text::lines(texts));
+        return {};
     }
     if (printers.isEmpty()) {
         output.text(QStringLiteral("The print spooler knows no printers, or is not running.\n"));
-        return 0;
+        return {};
     }
 
     const QString defaultPrinter = WindowsPrinterInfo::getDefaultPrinterName();
@@ -91,5 +92,5 @@ int runList(const CommandLine& line, Output& output)
     output.table({QStringLiteral("PRINTER"), QStringLiteral("MODEL"), QStringLiteral("PORT"),
                   QStringLiteral("SERIAL"), QStringLiteral("DRIVER"), QStringLiteral("FLAGS")},
                  rows);
-    return 0;
+    return {};
 }

@@ -4,7 +4,10 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
+#include <exception>
 
 namespace {
 
@@ -13,6 +16,16 @@ int fail(const QString& text, int exitStatus)
     std::fprintf(stderr, "vxprintmon: %s\n", qUtf8Printable(text));
     return exitStatus;
 }
+
+struct Runner
+{
+    Verb verb;
+    QString (*run)(const CommandLine& line, Output& output, Scene& scene);
+};
+constexpr std::array runners{
+    Runner{Verb::List, runList}, Runner{Verb::Watch, runWatch}, Runner{Verb::Status, runStatus},
+    Runner{Verb::Send, runSend}, Runner{Verb::Title, runTitle},
+};
 
 } // namespace
 
@@ -37,11 +50,12 @@ int main(int argc, char* argv[])
         return fail(failure->text, failure->exitStatus);
     Scene& scene = *std::get<std::unique_ptr<Scene>>(made);
 
-    switch (line.verb) {
-    case Verb::List:
-        return runList(line, output);
-    case Verb::Watch:
-        return runWatch(line, output, scene);
+    const auto verb = std::ranges::find(runners, line.verb, &Runner::verb);
+    try {
+        const QString failure = verb->run(line, output, scene);
+        return failure.isEmpty() ? 0 : fail(failure, 1);
+    } catch (const std::exception& exception) {
+        // What the spooler lists can be such that no record of it can be made.
+        return fail(QString::fromLocal8Bit(exception.what()), 1);
     }
-    return 1;
 }

@@ -4,9 +4,8 @@
 
 #include "terminal.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
 #include <QtCore/QtGlobal>
+#include <QtGui/QColor>
 
 #include <algorithm>
 #include <cstdio>
@@ -38,25 +37,42 @@ bool wantsColours()
            terminal::takesColours();
 }
 
-QString jsonText(const QJsonValue& value)
-{
-    const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return QString::fromUtf8(list.mid(1, list.size() - 2));
-}
+const QLatin1String plain("\033[0m");
+const QString sampleBlock = QStringLiteral("\u2588\u2588 ");
 
 } // namespace
 
 Output::Output()
     : m_stream(stdout)
     , m_hasColours(wantsColours())
-{}
+{
+    terminal::useUtf8();
+}
+
+QString Output::sampleOf(const Cell& cell) const
+{
+    const QColor colour(cell.sample);
+    if (!m_hasColours || !colour.isValid())
+        return {};
+    return QStringLiteral("\033[38;2;%1;%2;%3m")
+               .arg(colour.red())
+               .arg(colour.green())
+               .arg(colour.blue()) +
+           sampleBlock + plain;
+}
+
+qsizetype Output::widthOf(const Cell& cell) const
+{
+    return cell.text.size() + (sampleOf(cell).isEmpty() ? 0 : sampleBlock.size());
+}
 
 QString Output::coloured(const Cell& cell, qsizetype width) const
 {
-    const QString padding(std::max<qsizetype>(0, width - cell.text.size()), QLatin1Char(' '));
+    const QString padding(std::max<qsizetype>(0, width - widthOf(cell)), QLatin1Char(' '));
+    const QString sample = sampleOf(cell);
     if (!m_hasColours || cell.colour == Colour::None)
-        return cell.text + padding;
-    return QLatin1String(escapeOf(cell.colour)) + cell.text + QLatin1String("\033[0m") + padding;
+        return sample + cell.text + padding;
+    return sample + QLatin1String(escapeOf(cell.colour)) + cell.text + plain + padding;
 }
 
 void Output::line(const QList<Cell>& cells)
@@ -84,7 +100,7 @@ void Output::table(const QStringList& heading, const QList<QList<Cell>>& rows)
     QList<qsizetype> widths(heading.size(), 0);
     for (const QList<Cell>& row : std::as_const(all)) {
         for (qsizetype column = 0; column < row.size(); ++column)
-            widths[column] = std::max(widths.at(column), row.at(column).text.size());
+            widths[column] = std::max(widths.at(column), widthOf(row.at(column)));
     }
     for (const QList<Cell>& row : std::as_const(all)) {
         QString text;
@@ -94,12 +110,4 @@ void Output::table(const QStringList& heading, const QList<QList<Cell>>& rows)
         }
         this->text(text + QLatin1Char('\n'));
     }
-}
-
-QString Output::jsonObject(const QList<QPair<QString, QJsonValue>>& members)
-{
-    QStringList texts;
-    for (const auto& [key, value] : members)
-        texts.append(jsonText(key) + QLatin1Char(':') + jsonText(value));
-    return QLatin1Char('{') + texts.join(QLatin1Char(',')) + QLatin1Char('}');
 }

@@ -2,7 +2,6 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
-#include <QtCore/QJsonValue>
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -18,11 +17,12 @@ enum class Colour
     Heading,
 };
 
-/// A piece of text with its colour.
+/// A piece of text with its colour, after a sample of another colour ("#rrggbb") if it has one.
 struct Cell
 {
-    QString text;
+    QString text{};
     Colour colour = Colour::None;
+    QString sample{};
 };
 
 /// Standard output: lines that are there as soon as they are written, in colours on a terminal that
@@ -36,11 +36,12 @@ public:
     void text(const QString& text);
     /// Rows under a heading, each column as wide as its widest cell.
     void table(const QStringList& heading, const QList<QList<Cell>>& rows);
-    /// A JSON object with its keys in this order, on one line.
-    static QString jsonObject(const QList<QPair<QString, QJsonValue>>& members);
 
 private:
     QString coloured(const Cell& cell, qsizetype width = 0) const;
+    /// The sample as it is printed, if at all.
+    QString sampleOf(const Cell& cell) const;
+    qsizetype widthOf(const Cell& cell) const;
 
     QTextStream m_stream;
     bool m_hasColours;

@@ -2,10 +2,24 @@
 // Copyright The VxPrinterStatus authors
 #include "scene.h"
 
+#include <QtCore/QTimer>
+
 namespace {
 
+/// A program with a window is told by Windows of devices that come; this one looks for itself.
 class SystemScene : public Scene
 {
+public:
+    SystemScene() { connect(&m_clock, &QTimer::timeout, this, &Scene::printersMayHaveCome); }
+
+    void begin(const std::function<int()>& /*audience*/) override
+    {
+        m_clock.start(std::chrono::seconds(5));
+    }
+    std::optional<Job> lastJob(const QString& /*printer*/) const override { return std::nullopt; }
+
+private:
+    QTimer m_clock;
 };
 
 } // namespace

@@ -25,12 +25,23 @@ public:
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
         virtualwindows::populate(Machine::instance(), fleet);
         connect(&m_player, &StoryPlayer::told, this, &Scene::told);
+        connect(&m_player, &StoryPlayer::happened, this, &Scene::printersMayHaveCome);
     }
 
-    void begin() override
+    void begin(const std::function<int()>& audience) override
     {
+        m_player.setAudience(audience);
         if (m_hasStory)
             m_player.start();
+    }
+
+    std::optional<Job> lastJob(const QString& printer) const override
+    {
+        const QList<virtualwindows::PrintJob> jobs = Machine::instance().jobs(printer);
+        if (jobs.isEmpty())
+            return std::nullopt;
+        const virtualwindows::PrintJob& job = jobs.last();
+        return Job{static_cast<int>(job.id), job.document, job.datatype, job.pages};
     }
 
 private:

@@ -7,5 +7,7 @@ namespace terminal {
 
 /// Whether it is a terminal that understands colours; where it has to be told so first, it is.
 bool takesColours();
+/// Lets it show UTF-8 while the program runs, if it is a terminal that has to be told so.
+void useUtf8();
 
 } // namespace terminal

@@ -8,3 +8,5 @@ bool terminal::takesColours()
 {
     return isatty(STDOUT_FILENO) != 0;
 }
+
+void terminal::useUtf8() {} // as terminals are set up

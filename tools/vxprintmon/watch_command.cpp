@@ -2,198 +2,211 @@
 // Copyright The VxPrinterStatus authors
 #include "commands.h"
 
-#include "printer_status_thread.h"
-#include "windows_printer_info.h"
+#include "interruption.h"
+#include "json_text.h"
+#include "records.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
-#include <QtCore/QJsonArray>
+#include <QtCore/QMetaMethod>
 #include <QtCore/QTimer>
 
-#include <csignal>
-#include <cstdio>
-#include <memory>
-#include <vector>
+#include <algorithm>
 
 namespace {
 
-volatile std::sig_atomic_t isInterrupted = 0;
+using Controller = PrinterStatusController;
+using Record = records::Record;
 
-void interrupt(int /*number*/)
+/// What a signal says to people.
+struct Words
 {
-    isInterrupted = 1;
-}
-
-using ValueSignal = void (PrinterStatusThread::*)(QString, const QString&);
-
-/// How a signal is shown: under its own name and its argument's to programs, in words to people.
-struct SignalText
-{
-    const char* name;
-    const char* argument;
-    const char* label;
+    QString printer; ///< empty: none in particular
+    QList<Cell> cells;
 };
 
-constexpr SignalText ribbonsText{"ribbonIdsChanged", "newIds", "ribbons"};
-
-struct WatchedSignal
-{
-    ValueSignal signal;
-    SignalText text;
-};
-const WatchedSignal watchedSignals[] = {
-    {&PrinterStatusThread::supplyIdChanged, {"supplyIdChanged", "newId", "supply"}},
-    {&PrinterStatusThread::printerStatusChanged, {"printerStatusChanged", "newStatus", "status"}},
-    {&PrinterStatusThread::supplyIntMileageChanged,
-     {"supplyIntMileageChanged", "newMileage", "supply left"}},
-    {&PrinterStatusThread::ribbon1IntMileageChanged,
-     {"ribbon1IntMileageChanged", "newMileage", "ribbon 1 left"}},
-    {&PrinterStatusThread::ribbon2IntMileageChanged,
-     {"ribbon2IntMileageChanged", "newMileage", "ribbon 2 left"}},
-    {&PrinterStatusThread::printerNameChangedSignal,
-     {"printerNameChangedSignal", "newName", "name"}},
-    {&PrinterStatusThread::softwareVersionChanged,
-     {"softwareVersionChanged", "newVersion", "firmware"}},
-    {&PrinterStatusThread::updateProgressChanged,
-     {"updateProgressChanged", "newProgress", "update progress"}},
-    {&PrinterStatusThread::updateErrorChanged, {"updateErrorChanged", "newError", "update error"}},
-    {&PrinterStatusThread::ethernetConfigChanged,
-     {"ethernetConfigChanged", "newEthernetConfig", "network"}},
-};
-
-Colour colourOf(const SignalText& text, const QString& value)
-{
-    if (qstrcmp(text.name, "printerStatusChanged") != 0)
-        return Colour::None;
-    return value == QLatin1String("1") ? Colour::Good : Colour::Bad;
-}
-
-/// Prints what the threads report, on the thread that the tool runs on.
+/// Prints a line for every signal of the controller.
 class Reporter : public QObject
 {
 public:
-    Reporter(const CommandLine& line, Output& output, qsizetype nameWidth)
+    Reporter(const CommandLine& line, Output& output, Controller& controller)
         : m_json(line.json)
         , m_output(output)
-        , m_nameWidth(nameWidth)
+        , m_controller(controller)
+        , m_titleOf(records::titlesOf(controller))
     {
         m_clock.start();
+        listen(&Controller::availablePrintersUpdated, "records", [this] { return changes(); });
+        listen(&Controller::printerErrorChangedSignal, "errors", [](bool isInError) {
+            return isInError
+                       ? Words{{}, {{QStringLiteral("some printer is in error"), Colour::Bad}}}
+                       : Words{{}, {{QStringLiteral("no printer is in error"), Colour::Good}}};
+        });
+        listen(&Controller::statusChangedSignal, "status",
+               [this](int status, const QString& printer) {
+                   return Words{printer,
+                                {{QStringLiteral("%1  ").arg(status, 3)}, {m_titleOf(status)}}};
+               });
+        listen(&Controller::supplyIdChangedSignal, "supply", [](const QString& printer) {
+            return Words{printer, {{QStringLiteral("was changed or taken out")}}};
+        });
+        listen(&Controller::ribbonIdsChangedSignal, "ribbons", [](const QString& printer) {
+            return Words{printer, {{QStringLiteral("were changed or taken out")}}};
+        });
+        listen(&Controller::activeDefaultPrinterSetSignal, "active",
+               [](const QString& printer, bool isVX) {
+                   return Words{printer,
+                                {{isVX ? QStringLiteral("is the active printer")
+                                       : QStringLiteral("is the active printer, without a record"),
+                                  Colour::Notice}}};
+               });
+        listen(&Controller::softwareVersionUpdated, "firmware", [](const QString& printer) {
+            return Words{printer, {{QStringLiteral("was changed")}}};
+        });
     }
 
-    void watch(PrinterStatusThread& thread)
+    /// What is there when the watching begins, of which no signal tells.
+    void tellBeginning()
     {
-        for (const WatchedSignal& watched : watchedSignals) {
-            connect(&thread, watched.signal, this,
-                    [this, text = watched.text](const QString& printer, const QString& value) {
-                        report(text, printer, value, value);
-                    });
-        }
-        connect(&thread, &PrinterStatusThread::ribbonIdsChanged, this,
-                [this](const QString& printer, const QList<QString>& ids) {
-                    report(ribbonsText, printer, QJsonArray::fromStringList(ids),
-                           ids.join(QStringLiteral(", ")));
-                });
+        const QList<Record> all = records::of(m_controller);
+        for (const Record& record : all)
+            remember(record);
+        if (m_json)
+            return;
+        records::printTable(m_output, all, m_controller.activeDefaultPrinter(),
+                            records::shortTitlesOf(m_controller));
+        m_output.text(QStringLiteral("\n"));
     }
 
-    void tell(const QString& caption)
+    void tellStory(const QString& caption)
     {
         if (!m_json)
             m_output.line({{clock(), Colour::Faint}, {caption, Colour::Heading}});
     }
 
+    /// As a host does when it hears of a new device. No signal tells of printers that are found.
+    void lookForPrinters()
+    {
+        m_controller.checkForPrinters();
+        const QList<Record> all = records::of(m_controller);
+        for (const Record& record : all) {
+            if (m_known.contains(record.printerName))
+                continue;
+            remember(record);
+            print("found", {record.printerName,
+                            {{records::isWatched(record) ? QStringLiteral("is watched from now on")
+                                                         : m_titleOf(record.statusEnum)}}});
+        }
+    }
+
 private:
+    template <typename... Arguments, typename InWords>
+    void listen(void (Controller::*signal)(Arguments...), const char* label, InWords inWords)
+    {
+        const QMetaMethod method = QMetaMethod::fromSignal(signal);
+        connect(&m_controller, signal, this, [=, this](Arguments... arguments) {
+            if (m_json)
+                printJson(method, {QJsonValue(arguments)...});
+            else
+                print(label, inWords(arguments...));
+        });
+    }
+
+    void printJson(const QMetaMethod& signal, const QList<QJsonValue>& arguments)
+    {
+        QList<json_text::Member> members{
+            {QStringLiteral("signal"), json_text::value(QString::fromLatin1(signal.name()))}};
+        const QList<QByteArray> names = signal.parameterNames();
+        for (qsizetype i = 0; i < names.size(); ++i)
+            members.emplaceBack(QString::fromLatin1(names.at(i)),
+                                json_text::value(arguments.at(i)));
+        if (signal == QMetaMethod::fromSignal(&Controller::availablePrintersUpdated)) {
+            QStringList all;
+            const QList<Record> found = records::of(m_controller);
+            for (const Record& record : found)
+                all.append(records::json(record));
+            members.emplaceBack(QStringLiteral("printers"), json_text::array(all));
+        }
+        m_output.text(json_text::object(members) + QLatin1Char('\n'));
+    }
+
+    void print(const char* label, const Words& words)
+    {
+        if (m_json)
+            return;
+        constexpr int labelWidth = 9;
+        m_nameWidth = std::max(m_nameWidth, words.printer.size());
+        m_output.line(
+            QList<Cell>{{clock(), Colour::Faint},
+                        {words.printer.leftJustified(m_nameWidth + 2)},
+                        {QString::fromLatin1(label).leftJustified(labelWidth), Colour::Faint}} +
+            words.cells);
+    }
+
     QString clock() const
     {
         return QStringLiteral("%1 s  ").arg(static_cast<double>(m_clock.elapsed()) / 1000, 6, 'f',
                                             1);
     }
 
-    void report(const SignalText& text, const QString& printer, const QJsonValue& value,
-                const QString& words)
+    void remember(const Record& record)
     {
-        if (m_json) {
-            m_output.text(Output::jsonObject({
-                              {QStringLiteral("signal"), QString::fromLatin1(text.name)},
-                              {QStringLiteral("dashboardPrinterName"), printer},
-                              {QString::fromLatin1(text.argument), value},
-                          }) +
-                          QLatin1Char('\n'));
-            return;
+        m_known.insert(record.printerName, record);
+        m_nameWidth = std::max(m_nameWidth, record.printerName.size());
+    }
+
+    /// What has changed in the records since they were looked at last.
+    Words changes()
+    {
+        QStringList printers;
+        QList<Cell> cells;
+        const QList<Record> all = records::of(m_controller);
+        for (const Record& record : all) {
+            const QList<Cell> difference = records::difference(
+                m_known.value(record.printerName), record, records::shortTitlesOf(m_controller));
+            remember(record);
+            if (difference.isEmpty())
+                continue;
+            if (!printers.isEmpty())
+                cells.append({QStringLiteral("; ")});
+            printers.append(record.printerName);
+            cells += difference;
         }
-        constexpr int labelWidth = 17;
-        m_output.line({{clock(), Colour::Faint},
-                       {printer.leftJustified(m_nameWidth + 2)},
-                       {QString::fromLatin1(text.label).leftJustified(labelWidth), Colour::Faint},
-                       {words.isEmpty() ? QStringLiteral("-") : words, colourOf(text, words)}});
+        if (printers.isEmpty())
+            return {{}, {{QStringLiteral("nothing new"), Colour::Faint}}};
+        return {printers.join(QStringLiteral("; ")), cells};
     }
 
     bool m_json;
     Output& m_output;
-    qsizetype m_nameWidth;
+    Controller& m_controller;
+    records::TitleOf m_titleOf;
     QElapsedTimer m_clock;
+    QMap<QString, Record> m_known;
+    qsizetype m_nameWidth = 0;
 };
-
-/// The printers that a thread of the library can watch: of a supported model, attached to this
-/// machine and managed by its user.
-QStringList watchablePrinters()
-{
-    QStringList names;
-    const QList<AvailablePrinters> printers = WindowsPrinterInfo::getAvailablePrinters();
-    for (const AvailablePrinters& printer : printers) {
-        const bool isSupported =
-            WindowsPrinterInfo::printerType(printer.driverName) > VXPrinting::PrinterType::Generic;
-        if (isSupported && !printer.isNetworkPrinter &&
-            WindowsPrinterInfo::isPrinterAdmin(printer.printerName))
-            names.append(printer.printerName);
-    }
-    return names;
-}
 
 } // namespace
 
-int runWatch(const CommandLine& line, Output& output, Scene& scene)
+QString runWatch(const CommandLine& line, Output& output, Scene& scene)
 {
-    const QStringList printers = watchablePrinters();
-    if (printers.isEmpty()) {
-        std::fputs("vxprintmon: there is no supported, local printer that may be managed\n",
-                   stderr);
-        return 1;
-    }
-    qsizetype nameWidth = 0;
-    for (const QString& printer : printers)
-        nameWidth = std::max(nameWidth, printer.size());
+    Controller controller;
+    Reporter reporter(line, output, controller);
+    reporter.tellBeginning();
+    QObject::connect(&scene, &Scene::told, &reporter, &Reporter::tellStory);
+    QObject::connect(&scene, &Scene::printersMayHaveCome, &reporter, &Reporter::lookForPrinters);
 
-    Reporter reporter(line, output, nameWidth);
-    QObject::connect(&scene, &Scene::told, &reporter, &Reporter::tell);
-    std::vector<std::unique_ptr<PrinterStatusThread>> threads;
-    for (const QString& printer : printers) {
-        const auto& thread = threads.emplace_back(std::make_unique<PrinterStatusThread>());
-        reporter.watch(*thread);
-        thread->setMonitoredPrinterName(printer);
-        thread->start();
-    }
-
-    std::signal(SIGINT, interrupt);
-    std::signal(SIGTERM, interrupt);
-    QTimer interruption;
-    QObject::connect(&interruption, &QTimer::timeout, QCoreApplication::instance(), [] {
-        if (isInterrupted)
-            QCoreApplication::quit();
-    });
-    interruption.start(std::chrono::milliseconds(50));
+    const Interruption interruption;
+    QObject::connect(&interruption, &Interruption::happened, QCoreApplication::instance(),
+                     &QCoreApplication::quit);
     if (line.seconds)
         QTimer::singleShot(qRound(*line.seconds * 1000), Qt::PreciseTimer,
                            QCoreApplication::instance(), &QCoreApplication::quit);
 
-    scene.begin();
+    scene.begin([&controller] {
+        const QList<Record> all = records::of(controller);
+        return static_cast<int>(std::ranges::count_if(all, records::isWatched));
+    });
     QCoreApplication::exec();
-
-    // All are told first, so that they end beside each other.
-    for (const auto& thread : threads)
-        thread->stop();
-    for (const auto& thread : threads) {
-        while (!thread->wait(10))
-            thread->stop();
-    }
-    return 0;
+    return {};
 }

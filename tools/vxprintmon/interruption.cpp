@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "interruption.h"
+
+#include <csignal>
+
+namespace {
+
+volatile std::sig_atomic_t isInterrupted = 0;
+
+void interrupt(int /*number*/)
+{
+    isInterrupted = 1;
+}
+
+} // namespace
+
+Interruption::Interruption()
+{
+    std::signal(SIGINT, interrupt);
+    std::signal(SIGTERM, interrupt);
+    connect(&m_clock, &QTimer::timeout, this, [this] {
+        if (isInterrupted)
+            Q_EMIT happened();
+    });
+    m_clock.start(std::chrono::milliseconds(50));
+}
+
+Interruption::~Interruption()
+{
+    std::signal(SIGINT, SIG_DFL);
+    std::signal(SIGTERM, SIG_DFL);
+}

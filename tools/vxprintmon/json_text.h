@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include <QtCore/QJsonValue>
+#include <QtCore/QList>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+/// JSON on one line, with the keys of objects in the order in which they are given.
+namespace json_text {
+
+using Member = std::pair<QString, QString>;
+
+QString value(const QJsonValue& value);
+/// Of members whose values are JSON already.
+QString object(const QList<Member>& members);
+/// Of elements that are JSON already.
+QString array(const QStringList& elements);
+/// The same with an element a line.
+QString lines(const QStringList& elements);
+
+} // namespace json_text

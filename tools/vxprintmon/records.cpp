@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "records.h"
+
+#include "json_text.h"
+
+#include <QtCore/QMetaProperty>
+
+#include <iterator>
+
+namespace records {
+
+namespace {
+
+// Status codes.
+constexpr int ready = 1;
+constexpr int unknown = 255;
+
+const QString notKnown = QStringLiteral("-");
+const QString nothingLoaded = QStringLiteral("-1");
+
+/// A supply or a ribbon by the names that the supply database has for it.
+Cell loaded(const QString& sku, const QString& name, const QString& colour)
+{
+    if (sku == nothingLoaded)
+        return {QStringLiteral("none")};
+    if (!sku.isEmpty())
+        return {name, Colour::None, colour};
+    // Without a SKU, a colour says that something is loaded which the database does not have.
+    return {colour.isEmpty() ? notKnown : QStringLiteral("of an unknown kind")};
+}
+
+Cell supply(const Record& record)
+{
+    const QString name = record.supplyColorName + QLatin1Char(' ') + record.supplyMaterialName;
+    return loaded(record.supplySKU, name.trimmed(), record.supplyColorHex);
+}
+
+Cell ribbon1(const Record& record)
+{
+    return loaded(record.ribbon1SKU, record.ribbon1ColorName, record.ribbon1ColorHex);
+}
+
+Cell ribbon2(const Record& record)
+{
+    return loaded(record.ribbon2SKU, record.ribbon2ColorName, record.ribbon2ColorHex);
+}
+
+Cell withSku(Cell cell, const QString& sku)
+{
+    if (!sku.isEmpty() && sku != nothingLoaded)
+        cell.text += QStringLiteral(" (%1)").arg(sku);
+    return cell;
+}
+
+QString percent(int percentage)
+{
+    return QStringLiteral("%1 %").arg(percentage);
+}
+
+Cell withPercent(Cell cell, const QString& sku, int percentage)
+{
+    if (!sku.isEmpty() && sku != nothingLoaded)
+        cell.text += QStringLiteral(", ") + percent(percentage);
+    return cell;
+}
+
+Cell status(const Record& record, const TitleOf& titleOf)
+{
+    const auto colour = [&record] {
+        if (!isWatched(record))
+            return Colour::Faint;
+        switch (record.statusEnum) {
+        case ready:
+            return Colour::Good;
+        case unknown:
+            return Colour::Notice;
+        default:
+            return Colour::Bad;
+        }
+    };
+    return {titleOf(record.statusEnum), colour()};
+}
+
+Cell yesOrNo(bool yes)
+{
+    return {yes ? QStringLiteral("yes") : QStringLiteral("no")};
+}
+
+/// A thing to know of a printer. Between them they tell of every property but the printer's name.
+struct Facet
+{
+    const char* label;
+    Cell (*of)(const Record& record, const TitleOf& titleOf);
+};
+
+const Facet facets[] = {
+    {"status", status},
+    {"online",
+     [](const Record& record, const TitleOf&) {
+         return yesOrNo(record.printerOnline);
+     }},
+    {"supply",
+     [](const Record& record, const TitleOf&) {
+         return withSku(supply(record), record.supplySKU);
+     }},
+    {"supply left",
+     [](const Record& record, const TitleOf&) {
+         return Cell{percent(record.supplyPercentage)};
+     }},
+    {"ribbon 1",
+     [](const Record& record, const TitleOf&) {
+         return withSku(ribbon1(record), record.ribbon1SKU);
+     }},
+    {"ribbon 1 left",
+     [](const Record& record, const TitleOf&) {
+         return Cell{percent(record.ribbon1Percentage)};
+     }},
+    {"ribbon 2",
+     [](const Record& record, const TitleOf&) {
+         return withSku(ribbon2(record), record.ribbon2SKU);
+     }},
+    {"ribbon 2 left",
+     [](const Record& record, const TitleOf&) {
+         return Cell{percent(record.ribbon2Percentage)};
+     }},
+    {"has a ribbon 2",
+     [](const Record& record, const TitleOf&) {
+         return yesOrNo(record.ribbon2Visible);
+     }},
+    {"firmware",
+     [](const Record& record, const TitleOf&) {
+         return Cell{record.softwareVersion.isEmpty() ? notKnown : record.softwareVersion};
+     }},
+    {"network printer",
+     [](const Record& record, const TitleOf&) {
+         return yesOrNo(record.printerRemote);
+     }},
+    {"managed",
+     [](const Record& record, const TitleOf&) {
+         return yesOrNo(!record.printerNonAdmin);
+     }},
+    {"was active once",
+     [](const Record& record, const TitleOf&) {
+         return yesOrNo(record.printerDefault);
+     }},
+};
+
+} // namespace
+
+QList<Record> of(const PrinterStatusController& controller)
+{
+    QList<Record> all;
+    const QVariantList entries = controller.getAvailablePrinters();
+    for (const QVariant& entry : entries)
+        all.append(entry.value<Record>());
+    return all;
+}
+
+bool isWatched(const Record& record)
+{
+    return !record.printerRemote && !record.printerNonAdmin;
+}
+
+TitleOf titlesOf(PrinterStatusController& controller)
+{
+    return [&controller](int statusCode) {
+        return controller.getStatusTitle(statusCode).section(QLatin1Char('\n'), 0, 0);
+    };
+}
+
+TitleOf shortTitlesOf(PrinterStatusController& controller)
+{
+    return [titleOf = titlesOf(controller)](int statusCode) {
+        return statusCode == unknown ? QStringLiteral("not known") : titleOf(statusCode);
+    };
+}
+
+QString json(const Record& record)
+{
+    const QMetaObject& type = Record::staticMetaObject;
+    QList<json_text::Member> members;
+    for (int i = 0; i < type.propertyCount(); ++i) {
+        const QMetaProperty property = type.property(i);
+        members.emplaceBack(
+            QString::fromLatin1(property.name()),
+            json_text::value(QJsonValue::fromVariant(property.readOnGadget(&record))));
+    }
+    return json_text::object(members);
+}
+
+void printTable(Output& output, const QList<Record>& all, const QString& activePrinter,
+                const TitleOf& titleOf)
+{
+    if (all.isEmpty()) {
+        output.text(QStringLiteral("There is no label printer yet.\n"));
+        return;
+    }
+    QList<QList<Cell>> rows;
+    for (const Record& record : all) {
+        rows.append(QList<Cell>{
+            {record.printerName},
+            status(record, titleOf),
+            withPercent(supply(record), record.supplySKU, record.supplyPercentage),
+            withPercent(ribbon1(record), record.ribbon1SKU, record.ribbon1Percentage),
+            withPercent(ribbon2(record), record.ribbon2SKU, record.ribbon2Percentage),
+            {record.softwareVersion.isEmpty() ? notKnown : record.softwareVersion},
+            {record.printerName == activePrinter ? QStringLiteral("yes") : QString()},
+        });
+    }
+    output.table({QStringLiteral("PRINTER"), QStringLiteral("STATUS"), QStringLiteral("SUPPLY"),
+                  QStringLiteral("RIBBON 1"), QStringLiteral("RIBBON 2"),
+                  QStringLiteral("FIRMWARE"), QStringLiteral("ACTIVE")},
+                 rows);
+}
+
+void printDetails(Output& output, const Record& record, const QString& activePrinter,
+                  const TitleOf& titleOf)
+{
+    constexpr int labelWidth = 17;
+    const auto print = [&](const char* label, const Cell& cell) {
+        output.line({{QString::fromLatin1(label).leftJustified(labelWidth), Colour::Faint}, cell});
+    };
+    print("printer", {record.printerName, Colour::Heading});
+    print("active", yesOrNo(record.printerName == activePrinter));
+    for (const Facet& facet : facets)
+        print(facet.label, facet.of(record, titleOf));
+}
+
+QList<Cell> difference(const Record& before, const Record& after, const TitleOf& titleOf)
+{
+    QList<Cell> words;
+    for (const Facet& facet : facets) {
+        const Cell was = facet.of(before, titleOf);
+        const Cell is = facet.of(after, titleOf);
+        if (was.text == is.text && was.sample == is.sample)
+            continue;
+        if (!words.isEmpty())
+            words.append({QStringLiteral(", ")});
+        words.append({QString::fromLatin1(facet.label) + QLatin1Char(' '), Colour::Faint});
+        if (was.text != notKnown)
+            words.append({was.text + QStringLiteral(" \u2192 "), Colour::Faint});
+        words.append(is);
+    }
+    return words;
+}
+
+} // namespace records
