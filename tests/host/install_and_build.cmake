@@ -2,8 +2,8 @@
 # Copyright The VxPrinterStatus authors
 #
 # Installs a build into a scratch folder and builds example hosts against what is there, as somebody
-# does who has the package only. Expects BUILD (what is installed), SCRATCH, EXAMPLES (folders) and
-# OPTIONS (for configuring the examples).
+# does who has the package only. Expects BUILD (what is installed), SCRATCH, EXAMPLES (folders), FIND_BY
+# (the variable that leads to packages) and OPTIONS (for configuring the examples).
 
 function(run what)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
@@ -17,7 +17,7 @@ run("installing" "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${SCRATCH}/in
 foreach(example IN LISTS EXAMPLES)
     cmake_path(GET example FILENAME name)
     run("configuring ${name}" "${CMAKE_COMMAND}" -S "${example}" -B "${SCRATCH}/${name}" -G Ninja
-        "-DCMAKE_PREFIX_PATH=${SCRATCH}/installed" -DCMAKE_BUILD_TYPE=Release
+        "-D${FIND_BY}=${SCRATCH}/installed" -DCMAKE_BUILD_TYPE=Release
         "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Werror" ${OPTIONS})
     run("building ${name}" "${CMAKE_COMMAND}" --build "${SCRATCH}/${name}")
 endforeach()

@@ -7,12 +7,10 @@
 // The library opens roll.db beside the host's executable, so this test has a folder of its own.
 #include "controller_test.h"
 #include "other_process.h"
+#include "sample_database.h"
 
 #include "vx_ipc_m4_controller.h"
 #include "vx_ipc_supplyd_controller.h"
-
-#include <catalogue.h>
-#include <catalogue_writer.h>
 
 #include <QtCore/QJsonObject>
 
@@ -71,9 +69,7 @@ private:
 
 void EndToEndTest::initTestCase()
 {
-    const QString database = QCoreApplication::applicationDirPath() + QStringLiteral("/roll.db");
-    writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), database);
-    QVERIFY(QFile::exists(database));
+    writeSampleDatabase(QCoreApplication::applicationDirPath());
 }
 
 void EndToEndTest::newRibbonReachesHostAndOtherProcess()

@@ -3,8 +3,7 @@
 //
 // The smallest example host, which was built against the installed package and knows nothing of
 // tests or virtual printers.
-#include <catalogue.h>
-#include <catalogue_writer.h>
+#include "sample_database.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -96,8 +95,7 @@ void MinimalHostTest::initTestCase()
 {
     QVERIFY2(QFileInfo::exists(host), "the test \"installed_package\" builds it");
     // Where the library looks for it: beside the host.
-    writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)),
-                  QFileInfo(host).path() + QStringLiteral("/roll.db"));
+    writeSampleDatabase(QFileInfo(host).path());
 }
 
 void MinimalHostTest::withoutPrinters()

@@ -5,9 +5,7 @@
 // makes the guide's picture of it.
 #include "machine_test.h"
 #include "printer_window.h"
-
-#include <catalogue.h>
-#include <catalogue_writer.h>
+#include "sample_database.h"
 
 #include <QtWidgets/QPushButton>
 
@@ -52,8 +50,7 @@ private:
 
 void WidgetsHostTest::initTestCase()
 {
-    writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)),
-                  QCoreApplication::applicationDirPath() + QStringLiteral("/roll.db"));
+    writeSampleDatabase(QCoreApplication::applicationDirPath());
 }
 
 void WidgetsHostTest::init()

@@ -8,14 +8,12 @@
 #include "library_test.h"
 #include "log_recorder.h"
 #include "other_process.h"
+#include "sample_database.h"
 
 #include "printer_status_controller.h"
 #include "vx_ipc_m4_controller.h"
 #include "vx_ipc_supplyd_controller.h"
 #include "windows_printer_info.h"
-
-#include <catalogue.h>
-#include <catalogue_writer.h>
 
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
@@ -168,8 +166,7 @@ private:
 void EndToEndOnWindowsTest::initTestCase()
 {
     LibraryTest::initTestCase();
-    writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)),
-                  QCoreApplication::applicationDirPath() + QStringLiteral("/roll.db"));
+    writeSampleDatabase(QCoreApplication::applicationDirPath());
 }
 
 void EndToEndOnWindowsTest::cleanup()
