@@ -44,12 +44,15 @@ need_packages() {
     command -v apt-get >/dev/null ||
         fail "these packages are missing, and without apt-get they have to be installed by hand: ${missing[*]}"
     say "installing the packages that are missing: ${missing[*]}"
-    local quiet=(-qq -o Dpkg::Use-Pty=0)
+    local quiet=(-qq -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=600)
+    mkdir -p "$cache"
     {
+        # Two runs at once take turns: apt-get itself does not wait for lists that are being fetched.
+        flock 8
         as_root apt-get "${quiet[@]}" update
         as_root env DEBIAN_FRONTEND=noninteractive apt-get "${quiet[@]}" install -y \
             --no-install-recommends "${missing[@]}"
-    } >&2 || fail "apt-get could not install: ${missing[*]}"
+    } >&2 8>"$cache/packages.lock" || fail "apt-get could not install: ${missing[*]}"
 }
 
 native_packages=(ca-certificates ccache cmake g++ libgl1-mesa-dev libjsoncpp-dev libsqlite3-dev
@@ -58,10 +61,24 @@ native_packages=(ca-certificates ccache cmake g++ libgl1-mesa-dev libjsoncpp-dev
 
 seconds_since() { echo $((SECONDS - $1)); }
 
-# build_preset NAME [TARGET]: configures and builds, telling how far it is; the whole output is shown
-# only when it fails.
+# follow_build PID LOG: waits for a build whose output goes to a file, and tells every half minute how
+# far it is; the exit status is the build's.
+follow_build() {
+    local pid=$1 log=$2 began=$SECONDS next=30
+    while kill -0 "$pid" 2>/dev/null; do
+        sleep 1
+        if [ "$(seconds_since "$began")" -ge $next ]; then
+            say "  $(grep -o '^\[[0-9/]*\]' "$log" | tail -n 1) after $(seconds_since "$began") s"
+            next=$((next + 30))
+        fi
+    done
+    wait "$pid"
+}
+
+# build_preset NAME [TARGET [HOW_LONG]]: configures and builds, telling how far it is and how long it
+# usually takes; the whole output is shown only when it fails.
 build_preset() {
-    local preset=$1 target=${2:-all} began=$SECONDS log
+    local preset=$1 target=${2:-all} usual=${3:-} began=$SECONDS log
     # Clones in other folders find in the compiler's cache what this one has compiled.
     export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
     log=$(mktemp)
@@ -70,12 +87,13 @@ build_preset() {
         cat "$log" >&2
         fail "cmake could not configure the preset $preset"
     }
-    say "building $preset${2:+ ($2)}"
+    say "building $preset${2:+ ($2)}${usual:+: $usual}"
     if [ -t 2 ]; then
         cmake --build "$root/build/$preset" --target "$target" --parallel "$jobs" >&2 ||
             fail "the build of $preset failed"
     else
-        cmake --build "$root/build/$preset" --target "$target" --parallel "$jobs" >"$log" 2>&1 || {
+        cmake --build "$root/build/$preset" --target "$target" --parallel "$jobs" >"$log" 2>&1 &
+        follow_build $! "$log" || {
             cat "$log" >&2
             fail "the build of $preset failed"
         }
@@ -83,6 +101,8 @@ build_preset() {
     rm -f "$log"
     say "built $preset in $(seconds_since $began) s"
 }
+
+build_windows() { build_preset windows all "about 5 minutes on two cores, less what ccache has"; }
 
 windows_packages=(ca-certificates ccache cmake g++-mingw-w64-x86-64-posix ninja-build python3
     qt6-base-dev qt6-base-dev-tools qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
@@ -101,19 +121,36 @@ use_wine() {
     export QT_FORCE_STDERR_LOGGING=1
     WINEPATH=$(windows_paths "$root/build/windows/bin" "$VX_QT_MINGW/bin" $(mingw_dll_folders))
     export WINEPATH
+    # What a run that was killed left running: its services would be in a state of their own.
+    end_wine
+    # A service that is started holds on to the outputs of who started it, and these may be a pipe.
     if [ ! -f "$WINEPREFIX/ready" ]; then
-        say "making a Wine prefix"
+        say "making a Wine prefix (about 5 seconds)"
         mkdir -p "$WINEPREFIX"
-        wine wineboot -i >/dev/null 2>&1 || fail "wine could not make a prefix in $WINEPREFIX"
+        wine wineboot -i >/dev/null 2>&1 </dev/null ||
+            fail "wine could not make a prefix in $WINEPREFIX"
         wineserver -w
         touch "$WINEPREFIX/ready"
     fi
-    # Kept up for all the tests: each would otherwise start Wine's services anew. One that is up
-    # already says no.
-    wineserver -p || true
+    # Kept up for all the tests: each would otherwise start Wine's services anew.
+    wineserver -p >/dev/null 2>&1 </dev/null || fail "wine could not start its server"
 }
 
-end_wine() { wineserver -k || true; }
+# While Wine starts its own services it refuses to start any other.
+start_spooler() {
+    local try
+    for try in {1..30}; do
+        wine net start Spooler >/dev/null 2>&1 </dev/null && return
+        sleep 1
+    done
+    fail "wine could not start its print spooler in $try s"
+}
+
+# Without a server there is nothing to end.
+end_wine() {
+    wineserver -k 2>/dev/null || true
+    wineserver -w 2>/dev/null || true
+}
 
 # windows_paths FOLDER...: as Windows programs under Wine see them.
 windows_paths() {

@@ -5,7 +5,8 @@
 
 #include "windows_printer_info.h"
 
-#include <QtCore/QFile>
+#include <QtCore/QDir>
+#include <QtCore/QScopeGuard>
 #include <QtCore/QSettings>
 
 using VXPrinting::PrinterType;
@@ -124,8 +125,14 @@ void LibraryOnWindowsTest::serialNumbersFromTheRegistry()
                                 serialNumber + QString::number(instance));
         }
     }
-    const QString file = QString::fromWCharArray(_wgetenv(L"APPDATA")) +
-                         QStringLiteral("\\Harlow Devices Inc\\Quillmark.ini");
+    const QDir roaming(QString::fromWCharArray(_wgetenv(L"APPDATA")));
+    const QString folder = QStringLiteral("Harlow Devices Inc");
+    const QString file = roaming.filePath(folder + QStringLiteral("/Quillmark.ini"));
+    const bool hadFolder = roaming.exists(folder);
+    const auto removeFolder = qScopeGuard([&] {
+        if (!hadFolder)
+            QDir(roaming.filePath(folder)).removeRecursively();
+    });
 
     QCOMPARE(WindowsPrinterInfo::getDriverGUID(), guid);
     QCOMPARE(WindowsPrinterInfo::getDeviceSerialNumber(41), serialNumber + QLatin1Char('1'));
