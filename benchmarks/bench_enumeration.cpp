@@ -3,6 +3,7 @@
 //
 // What listing the printers costs, and how that grows with their number.
 #include "benchmark_support.h"
+#include "by_hand.h"
 #include "windows_printer_info.h"
 
 #include <virtualwindows/machine.h>
@@ -50,8 +51,6 @@ constexpr QLatin1String companyName("Harlow Devices Inc");
 constexpr QLatin1String applicationName("Quillmark");
 
 constexpr QLatin1String classGuid("{4d36e979-e325-11ce-bfc1-08002be10318}");
-constexpr QLatin1String
-    classesKey("HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control\\DeviceClasses\\");
 
 void populateMachine(int count)
 {
@@ -73,87 +72,6 @@ void populateMachine(int count)
         device.serialNumber = serialNumber;
         machine.addDevice(device);
     }
-}
-
-// The floor.
-
-struct Devices
-{
-    QHash<quint16, QString> serialNumbers; ///< by port
-    QString last;
-};
-
-Devices readDevices()
-{
-    using namespace virtualwindows;
-    const QStringList guids = registry::childGroups(classesKey);
-    for (const QString& guid : guids) {
-        const QString classKey = classesKey + guid;
-        const QStringList keys = registry::childGroups(classKey);
-        const bool isMakers = std::any_of(keys.begin(), keys.end(), [](const QString& key) {
-            return key.contains(QLatin1String("VID_3E7A"), Qt::CaseInsensitive);
-        });
-        if (!isMakers)
-            continue;
-
-        Devices devices;
-        for (const QString& key : keys) {
-            const QString path =
-                classKey + QLatin1Char('\\') + key + QLatin1String("\\#\\Device Parameters");
-            const auto port =
-                static_cast<quint16>(registry::value(path, QStringLiteral("Port Number")).toUInt());
-            devices.last = registry::value(path, QStringLiteral("Serial Number")).toString();
-            if (!devices.serialNumbers.contains(port))
-                devices.serialNumbers.insert(port, devices.last);
-        }
-        return devices;
-    }
-    return {};
-}
-
-/// The same answer and the same record of serial numbers, in one function and with nothing that
-/// these printers do not need.
-QList<AvailablePrinters> enumerateByHand()
-{
-    constexpr DWORD kinds = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
-    DWORD needed = 0;
-    DWORD count = 0;
-    EnumPrintersW(kinds, nullptr, 2, nullptr, 0, &needed, &count);
-    const std::unique_ptr<std::byte[]> block(new std::byte[needed]);
-    EnumPrintersW(kinds, nullptr, 2, reinterpret_cast<BYTE*>(block.get()), needed, &needed, &count);
-
-    const Devices devices = readDevices();
-    QSettings settings =
-        QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Harlow Devices Inc"),
-                  QStringLiteral("Quillmark"));
-    settings.setFallbacksEnabled(false);
-    settings.beginGroup(QStringLiteral("associatedPrinters"));
-
-    QList<AvailablePrinters> printers;
-    printers.reserve(count);
-    for (const PRINTER_INFO_2W& info :
-         std::span(reinterpret_cast<const PRINTER_INFO_2W*>(block.get()), count)) {
-        AvailablePrinters& printer = printers.emplaceBack();
-        printer.printerName = QString::fromUtf16(info.pPrinterName);
-        printer.portName = QString::fromUtf16(info.pPortName).remove(QLatin1String("USB"));
-        printer.driverName = QString::fromUtf16(info.pDriverName);
-
-        const auto found =
-            devices.serialNumbers.constFind(static_cast<quint16>(printer.portName.toUInt()));
-        const bool isOnPort = found != devices.serialNumbers.cend();
-        printer.serialNumber = isOnPort ? *found : devices.last;
-        if (isOnPort && !settings.contains(printer.serialNumber))
-            settings.setValue(printer.serialNumber, QDateTime::currentDateTime().toString(
-                                                        QStringLiteral("yyyy-MM-dd hh:mm:ss")));
-
-        constexpr DWORD reach = PRINTER_ATTRIBUTE_NETWORK | PRINTER_ATTRIBUTE_LOCAL;
-        printer.isNetworkPrinter = (info.Attributes & reach) != PRINTER_ATTRIBUTE_LOCAL ||
-                                   printer.portName.count(QLatin1Char('.')) == 3;
-        printer.isShared = (info.Attributes & PRINTER_ATTRIBUTE_SHARED) != 0;
-        printer.isOffline = (info.Attributes & PRINTER_ATTRIBUTE_WORK_OFFLINE) ||
-                            (info.Status & PRINTER_STATUS_OFFLINE);
-    }
-    return printers;
 }
 
 bool isSame(const AvailablePrinters& left, const AvailablePrinters& right)
@@ -233,7 +151,7 @@ void enumeration(benchmark::State& state, SerialFile file)
     }
 
     const QList<AvailablePrinters> library = WindowsPrinterInfo::getAvailablePrinters();
-    const QList<AvailablePrinters> floor = enumerateByHand();
+    const QList<AvailablePrinters> floor = by_hand::enumerate();
     if (library.size() != count ||
         !std::equal(library.begin(), library.end(), floor.begin(), floor.end(), isSame)) {
         state.SkipWithError("the library and the floor list different printers");
@@ -256,7 +174,7 @@ void enumeration(benchmark::State& state, SerialFile file)
         state.SetIterationTime(cost.wall * 1e-6);
     };
     const auto takeFloor = [&] {
-        samples.floor.push_back(timed(&enumerateByHand).cpu / count);
+        samples.floor.push_back(timed(&by_hand::enumerate).cpu / count);
     };
     bool libraryFirst = true;
     for ([[maybe_unused]] auto iteration : state) {
@@ -266,7 +184,7 @@ void enumeration(benchmark::State& state, SerialFile file)
         if (!libraryFirst)
             takeLibrary();
         libraryFirst = !libraryFirst;
-        samples.registry.push_back(costOf(&readDevices).cpu / count);
+        samples.registry.push_back(costOf(&by_hand::readDevices).cpu / count);
     }
 
     using benchmark_support::median;

@@ -3,6 +3,7 @@
 //
 // How long a value takes from its publishing by the driver to the slot on the host's thread.
 #include "benchmark_support.h"
+#include "by_hand.h"
 #include "printer_status_thread.h"
 
 #include <virtualwindows/machine.h>
@@ -12,17 +13,12 @@
 
 #include <benchmark/benchmark.h>
 
-#include <array>
 #include <chrono>
 #include <cmath>
-#include <cstring>
 #include <limits>
 #include <memory>
 #include <thread>
 #include <vector>
-
-#include <windows.h>
-#include <winspool.h>
 
 using virtualwindows::Machine;
 using virtualwindows::PrinterValue;
@@ -43,28 +39,6 @@ constexpr int watchingThreads = 2;
 // Long enough for the watching and the host's thread to be asleep when the next value comes, as
 // they are in the field.
 constexpr std::chrono::microseconds settlingTime(100);
-
-struct ValueRead
-{
-    const char* name;
-    DWORD capacity;
-    bool isText;
-};
-
-/// The order and the sizes of the library's reads.
-constexpr std::array<ValueRead, 11> valueReads{{
-    {"SupplyIdentifier", 21, true},
-    {"Ribbon1Identifier", 4, false},
-    {"Ribbon2Identifier", 4, false},
-    {"StatusCode", 128, true},
-    {"SoftwareVersion", 37, true},
-    {"EthernetConfig", 74, true},
-    {"Mileage", 4, false},
-    {"Ribbon1Mileage", 4, false},
-    {"Ribbon2Mileage", 4, false},
-    {"UpdateProgress", 4, false},
-    {"UpdateError", 4, false},
-}};
 
 /// The receiving end: lives on the host's thread, whose event loop delivers to it.
 class Host : public QObject
@@ -96,103 +70,6 @@ private:
     Clock::time_point m_arrival;
     QString m_printer;
     QString m_value;
-};
-
-/// The floor: the least that a thread can do to tell its host of the same values. It makes the same
-/// calls in the same order and nothing else: no checks, no texts but for the value that changed.
-class HandWrittenThread final : public QThread
-{
-public:
-    HandWrittenThread(const QString& printerName, Host& host)
-        : m_printerName(printerName)
-        , m_host(host)
-        , m_stopEvent(CreateEventW(nullptr, TRUE, FALSE, nullptr))
-    {}
-    ~HandWrittenThread() override
-    {
-        SetEvent(m_stopEvent);
-        wait();
-        CloseHandle(m_stopEvent);
-    }
-    Q_DISABLE_COPY_MOVE(HandWrittenThread)
-
-protected:
-    void run() override
-    {
-        HANDLE printer = nullptr;
-        OpenPrinterA(m_printerName.toLocal8Bit().data(), &printer, nullptr);
-        const HANDLE change = FindFirstPrinterChangeNotification(printer, 0x7777FFFF, 0, nullptr);
-        readAll(printer);
-
-        const std::array<HANDLE, 2> handles{m_stopEvent, change};
-        for (;;) {
-            switch (WaitForMultipleObjects(2, handles.data(), FALSE, 5000)) {
-            case WAIT_OBJECT_0:
-                FindClosePrinterChangeNotification(change);
-                ClosePrinter(printer);
-                return;
-            case WAIT_OBJECT_0 + 1: {
-                DWORD changes = 0;
-                FindNextPrinterChangeNotification(change, &changes, nullptr, nullptr);
-                readAll(printer);
-                break;
-            }
-            default:
-                break;
-            }
-        }
-    }
-
-private:
-    struct Reading
-    {
-        DWORD type = REG_NONE;
-        DWORD size = 0;
-        std::array<BYTE, 128> bytes{};
-
-        bool operator==(const Reading&) const = default;
-    };
-
-    void readAll(HANDLE printer)
-    {
-        std::array<Reading, valueReads.size()> readings;
-        for (std::size_t index = 0; index < valueReads.size(); ++index) {
-            Reading& reading = readings[index];
-            GetPrinterDataA(printer, const_cast<char*>(valueReads[index].name), &reading.type,
-                            reading.bytes.data(), valueReads[index].capacity, &reading.size);
-        }
-        DWORD needed = 0;
-        GetPrinterW(printer, 1, nullptr, 0, &needed);
-        const std::unique_ptr<BYTE[]> block(new BYTE[needed]);
-        GetPrinterW(printer, 1, block.get(), needed, &needed);
-        benchmark::DoNotOptimize(block.get());
-
-        for (std::size_t index = 0; index < valueReads.size(); ++index) {
-            if (readings[index] == m_lastSeen[index])
-                continue;
-            m_lastSeen[index] = readings[index];
-            // The host asked for one of the values, as it does of the library.
-            if (std::strcmp(valueReads[index].name, "Mileage") == 0)
-                report(readings[index]);
-        }
-    }
-
-    void report(const Reading& reading)
-    {
-        quint32 number = 0;
-        std::memcpy(&number, reading.bytes.data(), sizeof number);
-        QMetaObject::invokeMethod(
-            &m_host,
-            [host = &m_host, printer = m_printerName, value = QString::number(number)] {
-                host->receive(printer, value);
-            },
-            Qt::QueuedConnection);
-    }
-
-    const QString m_printerName;
-    Host& m_host;
-    const HANDLE m_stopEvent;
-    std::array<Reading, valueReads.size()> m_lastSeen;
 };
 
 /// Both watching threads, each with a printer of its own, and the host's thread.
@@ -258,7 +135,10 @@ private:
     }
     void startFloor()
     {
-        m_floor = std::make_unique<HandWrittenThread>(floorPrinter, m_host);
+        m_floor = std::make_unique<by_hand::WatchingThread>(
+            floorPrinter, "Mileage", m_host, [this](const QString& printer, const QString& value) {
+                m_host.receive(printer, value);
+            });
         m_floor->start();
         m_host.next();
     }
@@ -271,7 +151,7 @@ private:
         Machine::instance().addPrinter(setup);
 
         QList<PrinterValue> values;
-        for (const ValueRead& read : valueReads) {
+        for (const by_hand::ValueRead& read : by_hand::valueReads) {
             values.append(read.isText
                               ? PrinterValue::text(read.name, QByteArray(qsizetype{20}, '1'))
                               : PrinterValue::number(read.name, 1));
@@ -283,7 +163,7 @@ private:
     Host m_host;
     QThread m_hostThread;
     PrinterStatusThread m_library;
-    std::unique_ptr<HandWrittenThread> m_floor;
+    std::unique_ptr<by_hand::WatchingThread> m_floor;
 };
 
 /// Samples of every repetition: the limits are held against all of them together.

@@ -136,19 +136,18 @@ std::vector<typename Question::Key> readKeys()
     return keys;
 }
 
-/// The floor: the statement, prepared when it is first needed and then used again.
+/// The floor: the statement, on a file that is opened when it is first needed, prepared then and
+/// used again.
 template <typename Question>
 class Floor
 {
 public:
-    Floor()
-        : m_file(databasePath())
-    {}
-
     auto ask(const typename Question::Key& key)
     {
-        if (!m_statement)
-            m_statement.emplace(m_file, Question::sql);
+        if (!m_statement) {
+            m_file.emplace(databasePath());
+            m_statement.emplace(*m_file, Question::sql);
+        }
         Question::bind(*m_statement, key);
         m_statement->step();
         auto answer = Question::read(*m_statement);
@@ -157,7 +156,7 @@ public:
     }
 
 private:
-    SqliteFile m_file;
+    std::optional<SqliteFile> m_file;
     std::optional<SqliteStatement> m_statement;
 };
 
@@ -177,8 +176,8 @@ private:
 enum Temperature
 {
     Warm,      ///< all was asked before
-    ColdFirst, ///< the first question after the file was opened
-    ColdAll,   ///< every key once after the file was opened
+    ColdFirst, ///< the first question of all, which opens the file
+    ColdAll,   ///< every key once, the first of which opens the file
     TemperatureCount,
 };
 

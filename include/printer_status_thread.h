@@ -45,6 +45,7 @@ public:
     explicit PrinterStatusThread(QObject* parent = nullptr);
     /// Neither stops the thread nor waits for it: that must have been done.
     ~PrinterStatusThread() override;
+    Q_DISABLE_COPY_MOVE(PrinterStatusThread)
 
     /// Names the printer to watch, by its spooler name. To be called before the thread is started.
     void setMonitoredPrinterName(const QString& name);

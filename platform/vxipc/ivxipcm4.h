@@ -18,6 +18,7 @@ class IVXIPCM4 : public VXIPCServer
 public:
     IVXIPCM4(int serverType, QObject* parent);
     ~IVXIPCM4() override;
+    Q_DISABLE_COPY_MOVE(IVXIPCM4)
 
 public Q_SLOTS:
     virtual int getError() = 0;

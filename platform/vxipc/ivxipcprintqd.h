@@ -19,6 +19,7 @@ class IVXIPCPRINTQD : public VXIPCServer
 public:
     IVXIPCPRINTQD(int serverType, QObject* parent);
     ~IVXIPCPRINTQD() override;
+    Q_DISABLE_COPY_MOVE(IVXIPCPRINTQD)
 
 public Q_SLOTS:
     virtual bool printQueueFull(uint value) = 0;

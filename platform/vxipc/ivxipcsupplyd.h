@@ -21,6 +21,7 @@ class IVXIPCSUPPLYD : public VXIPCServer
 public:
     IVXIPCSUPPLYD(int serverType, QObject* parent);
     ~IVXIPCSUPPLYD() override;
+    Q_DISABLE_COPY_MOVE(IVXIPCSUPPLYD)
 
 public Q_SLOTS:
     virtual QStringList supplySKUList() = 0;

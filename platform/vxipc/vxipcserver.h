@@ -24,6 +24,7 @@ public:
     /// "-<process id>" added when another living endpoint of the user has that name.
     VXIPCServer(int serverType, QObject* parent);
     ~VXIPCServer() override;
+    Q_DISABLE_COPY_MOVE(VXIPCServer)
 
     /// The name that clients find the endpoint by. Empty before it is published, and when that
     /// failed, which leaves the endpoint working in its own process.

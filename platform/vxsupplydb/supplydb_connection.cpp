@@ -10,6 +10,8 @@
 #include <QtCore/QtEndian>
 #include <QtSql/QSqlError>
 
+#include <utility>
+
 namespace {
 
 // What SQLite's file format has in the first bytes of every file.
@@ -69,7 +71,7 @@ QString SupplyDbConnection::headerFault(const QString& path)
     return {};
 }
 
-bool SupplyDbConnection::open(const QString& path, const QString& connectionName)
+bool SupplyDbConnection::setUp(const QString& path, const QString& connectionName)
 {
     close();
     m_fault = headerFault(path);
@@ -79,6 +81,14 @@ bool SupplyDbConnection::open(const QString& path, const QString& connectionName
     // Whoever holds the file locked must not hold up the thread that asks.
     m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=100"));
     m_database.setDatabaseName(path);
+    m_isOpenTried = false;
+    return true;
+}
+
+bool SupplyDbConnection::open()
+{
+    if (!m_database.isValid() || std::exchange(m_isOpenTried, true))
+        return m_database.isOpen();
     if (m_database.open())
         return true;
     m_fault = m_database.lastError().databaseText();

@@ -13,14 +13,16 @@ public:
     ~SupplyDbConnection();
     Q_DISABLE_COPY_MOVE(SupplyDbConnection)
 
-    /// Opens the file under the connection name, or under the name with a number behind it where
-    /// another connection of the process has the name. False when it cannot be used: fault() says
-    /// why then.
-    bool open(const QString& path, const QString& connectionName);
+    /// Looks at the file's header and takes the connection name, or the name with a number behind
+    /// it where another connection of the process has the name. False when it is no file to be
+    /// used: fault() says why then.
+    bool setUp(const QString& path, const QString& connectionName);
+    /// Opens the file that was set up, unless it is open. False when it cannot be used: fault()
+    /// says why then.
+    bool open();
     /// Statements made on the connection must be gone before.
     void close();
 
-    bool isOpen() const { return m_database.isOpen(); }
     const QSqlDatabase& database() const { return m_database; }
     QString fault() const { return m_fault; }
 
@@ -30,4 +32,5 @@ public:
 private:
     QSqlDatabase m_database;
     QString m_fault;
+    bool m_isOpenTried = false;
 };

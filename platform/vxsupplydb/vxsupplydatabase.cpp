@@ -30,25 +30,26 @@ constexpr qsizetype KeptImageBytes = 4 * 1024 * 1024;
 // first question that had to read all there is would take several times as long. Keys are bound
 // after the language, where the tables ask for one.
 
-struct Question
+class Question
 {
-    const char* columns;
-    const char* tables;
-    const char* keys;
-
-    QString forOne() const
+public:
+    Question(const char* columns, const char* tables, const char* keys)
+        : m_forAll(QStringLiteral("SELECT %1, %3 FROM %2")
+                       .arg(QLatin1String(columns), QLatin1String(tables), QLatin1String(keys)))
     {
         const QString keyColumns = QString::fromLatin1(keys);
         const QStringList marks(keyColumns.count(u',') + 1, QStringLiteral("?"));
-        return QStringLiteral("SELECT %1 FROM %2 WHERE (%3) = (%4)")
-            .arg(QLatin1String(columns), QLatin1String(tables), keyColumns,
-                 marks.join(QStringLiteral(", ")));
+        m_forOne = QStringLiteral("SELECT %1 FROM %2 WHERE (%3) = (%4)")
+                       .arg(QLatin1String(columns), QLatin1String(tables), keyColumns,
+                            marks.join(QStringLiteral(", ")));
     }
-    QString forAll() const
-    {
-        return QStringLiteral("SELECT %1, %3 FROM %2")
-            .arg(QLatin1String(columns), QLatin1String(tables), QLatin1String(keys));
-    }
+
+    const QString& forOne() const { return m_forOne; }
+    const QString& forAll() const { return m_forAll; }
+
+private:
+    QString m_forOne;
+    QString m_forAll;
 };
 
 struct Colour
@@ -57,35 +58,35 @@ struct Colour
     QString name;
     QString nameEn;
 };
-constexpr Question ColourQuestion{R"(c.rgb, n.english, t.text)",
-                                  R"(supply s
+const Question ColourQuestion{R"(c.rgb, n.english, t.text)",
+                              R"(supply s
     JOIN colour c ON c.id = s.colour_id
     JOIN name n ON n.id = c.name_id
     LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?)",
-                                  "s.sku"};
+                              "s.sku"};
 
 struct SecondColour : Colour
 {
     double width = -1.0;
 };
-constexpr Question SecondColourQuestion{R"(c.rgb, n.english, t.text, s.second_colour_width)",
-                                        R"(supply s
+const Question SecondColourQuestion{R"(c.rgb, n.english, t.text, s.second_colour_width)",
+                                    R"(supply s
     JOIN colour c ON c.id = s.second_colour_id
     JOIN name n ON n.id = c.name_id
     LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?)",
-                                        "s.sku"};
+                                    "s.sku"};
 
 struct Material
 {
     int id = -1;
     QString name;
 };
-constexpr Question MaterialQuestion{R"(m.id, coalesce(t.text, n.english))",
-                                    R"(supply s
+const Question MaterialQuestion{R"(m.id, coalesce(t.text, n.english))",
+                                R"(supply s
     JOIN material m ON m.id = s.material_id
     JOIN name n ON n.id = m.name_id
     LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?)",
-                                    "s.sku"};
+                                "s.sku"};
 
 struct Format
 {
@@ -93,12 +94,12 @@ struct Format
     QString name;
     QString type;
 };
-constexpr Question FormatQuestion{R"(f.id, coalesce(t.text, n.english), f.type)",
-                                  R"(supply s
+const Question FormatQuestion{R"(f.id, coalesce(t.text, n.english), f.type)",
+                              R"(supply s
     JOIN format f ON f.id = s.format_id
     JOIN name n ON n.id = f.name_id
     LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?)",
-                                  "s.sku"};
+                              "s.sku"};
 
 struct Size
 {
@@ -107,7 +108,7 @@ struct Size
     double labelLength = -1.0;
     double separatorWidth = -1.0;
 };
-constexpr Question SizeQuestion{
+const Question SizeQuestion{
     R"(width, length, coalesce(label_length, -1.0), coalesce(separator_width, -1.0))", R"(supply)",
     "sku"};
 
@@ -117,8 +118,8 @@ struct Arrangement
     int multiUpCount = 1;
     double multiUpGap = -1.0;
 };
-constexpr Question ArrangementQuestion{
-    R"(is_landscape, multi_up_count, coalesce(multi_up_gap, -1.0))", R"(supply)", "sku"};
+const Question ArrangementQuestion{R"(is_landscape, multi_up_count, coalesce(multi_up_gap, -1.0))",
+                                   R"(supply)", "sku"};
 
 constexpr const char* BackgroundSql = R"(
     SELECT b.image
@@ -146,17 +147,17 @@ struct Ribbon
     double length = -1.0;
     int panels = -1;
 };
-constexpr Question RibbonQuestion{
+const Question RibbonQuestion{
     R"(type, width, length, (SELECT count(*) FROM ribbon_panel WHERE ribbon_sku = sku))",
     R"(ribbon)", "sku"};
 
 using PanelKey = std::pair<QString, int>;
-constexpr Question PanelColourQuestion{R"(c.rgb, n.english, t.text)",
-                                       R"(ribbon_panel p
+const Question PanelColourQuestion{R"(c.rgb, n.english, t.text)",
+                                   R"(ribbon_panel p
     JOIN colour c ON c.id = p.colour_id
     JOIN name n ON n.id = c.name_id
     LEFT JOIN translation t ON t.name_id = n.id AND t.language_id = ?)",
-                                       "p.ribbon_sku, p.panel"};
+                                   "p.ribbon_sku, p.panel"};
 
 struct SettingKey
 {
@@ -177,8 +178,8 @@ struct PrintSetting
     int maxSpeed = -1;
     int tension = -1;
 };
-constexpr Question SettingQuestion{R"(heat, heat_offset, max_speed, tension)", R"(print_setting)",
-                                   "ribbon_sku, panel, supply_sku"};
+const Question SettingQuestion{R"(heat, heat_offset, max_speed, tension)", R"(print_setting)",
+                               "ribbon_sku, panel, supply_sku"};
 
 constexpr const char* SupplyOfKindSql = "SELECT supply_sku FROM supply_kind WHERE kind = ?";
 constexpr const char* RibbonOfNumberSql = "SELECT ribbon_sku FROM ribbon_number WHERE number = ?";
@@ -248,7 +249,6 @@ qsizetype catalogueEntries(const Catalogue& catalogue)
 class VXSupplyDatabase::Private
 {
 public:
-    SupplyDbConnection connection;
     int languageId = SupplyDbSchema::FallbackLanguage;
     QString supplyId;
     QStringList ribbonIds;
@@ -337,6 +337,20 @@ public:
     KeptQuery<int, Catalogue> allRibbons{QString::fromLatin1(RibbonsSql), readCatalogue,
                                          KeptListEntries, catalogueEntries};
 
+    void setup(const QString& path, const QString& name)
+    {
+        resetQueries();
+        connection.setUp(path, name);
+    }
+
+    // Opened when it is first needed: that takes longer than everything else that is done for a
+    // printer when it is found, and an application that has found a hundred asks about a few.
+    const QSqlDatabase& database()
+    {
+        connection.open();
+        return connection.database();
+    }
+
     void resetQueries()
     {
         std::apply([](auto&... query) { (query.reset(), ...); },
@@ -363,7 +377,7 @@ public:
         static const Answer unknown{};
         if (!SupplyDbSchema::isSku(sku))
             return unknown;
-        return query.answer(connection.database(), sku, sku);
+        return query.answer(database(), sku, sku);
     }
     template <typename Answer>
     const Answer& named(KeptQuery<QString, Answer>& query, const QString& sku)
@@ -371,7 +385,7 @@ public:
         static const Answer unknown{};
         if (!SupplyDbSchema::isSku(sku))
             return unknown;
-        return query.answer(connection.database(), sku, languageId, sku);
+        return query.answer(database(), sku, languageId, sku);
     }
 
     const Colour& panelColour(const QString& ribbonSku, int panel)
@@ -379,8 +393,7 @@ public:
         static const Colour unknown{};
         if (!SupplyDbSchema::isSku(ribbonSku))
             return unknown;
-        return panelColours.answer(connection.database(), {ribbonSku, panel}, languageId, ribbonSku,
-                                   panel);
+        return panelColours.answer(database(), {ribbonSku, panel}, languageId, ribbonSku, panel);
     }
 
     const PrintSetting& setting(const QString& ribbonSku, int panel, const QString& supplySkuText)
@@ -388,8 +401,8 @@ public:
         static const PrintSetting unknown{};
         if (!SupplyDbSchema::isSku(ribbonSku) || !SupplyDbSchema::isSku(supplySkuText))
             return unknown;
-        return settings.answer(connection.database(), {ribbonSku, panel, supplySkuText}, ribbonSku,
-                               panel, supplySkuText);
+        return settings.answer(database(), {ribbonSku, panel, supplySkuText}, ribbonSku, panel,
+                               supplySkuText);
     }
 
     QVariantList firstPanelSettings(const QStringList& skus, const QString& supplySkuText,
@@ -418,7 +431,7 @@ public:
         const SupplyC decoded(supplyId);
         if (!decoded.isDecoded())
             return {};
-        return suppliesOfKinds.answer(connection.database(), decoded.kind, decoded.kind);
+        return suppliesOfKinds.answer(database(), decoded.kind, decoded.kind);
     }
 
     QString loadedRibbonSku(const QString& id)
@@ -429,12 +442,12 @@ public:
         const int number = id.toInt(&isNumber);
         if (!isNumber)
             return {};
-        return ribbonsOfNumbers.answer(connection.database(), number, number);
+        return ribbonsOfNumbers.answer(database(), number, number);
     }
 
     QString model(const QString& printerName)
     {
-        const QStringList& names = models.answer(connection.database(), Whole);
+        const QStringList& names = models.answer(database(), Whole);
         for (const QString& name : names) {
             if (printerName.contains(name, Qt::CaseInsensitive))
                 return name;
@@ -442,8 +455,11 @@ public:
         return {};
     }
 
-    const Catalogue& supplyCatalogue() { return supplies.answer(connection.database(), Whole); }
-    const Catalogue& ribbonCatalogue() { return allRibbons.answer(connection.database(), Whole); }
+    const Catalogue& supplyCatalogue() { return supplies.answer(database(), Whole); }
+    const Catalogue& ribbonCatalogue() { return allRibbons.answer(database(), Whole); }
+
+private:
+    SupplyDbConnection connection;
 };
 
 VXSupplyDatabase::VXSupplyDatabase(QObject* parent)
@@ -455,8 +471,7 @@ VXSupplyDatabase::~VXSupplyDatabase() = default;
 
 void VXSupplyDatabase::setup(const QString& databasePath, const QString& connectionName)
 {
-    d->resetQueries();
-    d->connection.open(databasePath, connectionName);
+    d->setup(databasePath, connectionName);
 }
 
 void VXSupplyDatabase::setLanguageId(int languageId)

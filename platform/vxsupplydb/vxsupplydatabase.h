@@ -45,9 +45,10 @@ public:
     ~VXSupplyDatabase() override;
     Q_DISABLE_COPY_MOVE(VXSupplyDatabase)
 
-    /// Opens the file for reading, in place of the one that was open; it is never created. Objects
-    /// with different connection names have nothing in common; one that takes a name in use gets a
-    /// connection under a name made from it. What is loaded and the language stay.
+    /// Names the file that is read from now on, in place of the one before. It is opened, for
+    /// reading only, when it is first needed, and never created. Objects with different connection
+    /// names have nothing in common; one that takes a name in use gets a connection under a name
+    /// made from it. What is loaded and the language stay.
     void setup(const QString& databasePath, const QString& connectionName);
 
     /// Sets the language of names by its number in `VXLocaleLanguages`; English (0) at first.

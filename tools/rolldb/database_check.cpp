@@ -46,7 +46,7 @@ public:
     explicit Checker(const QString& path)
         : m_path(path)
     {
-        if (!m_connection.open(path, path))
+        if (!m_connection.setUp(path, path) || !m_connection.open())
             throw fault(m_connection.fault());
     }
 

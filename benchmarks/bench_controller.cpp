@@ -1,0 +1,429 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// What the controller adds: to a value on its way to the host's slot, to the start with many
+// printers, and what one report of a mileage costs among many of them.
+#include "benchmark_support.h"
+#include "by_hand.h"
+#include "printer_status_controller.h"
+#include "vx_ipc_supplyd_controller.h"
+
+#include <AbstractAppender.h>
+#include <Logger.h>
+#include <virtualwindows/machine.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QSemaphore>
+#include <QtCore/QSettings>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QTimer>
+#include <QtGui/QColor>
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <limits>
+#include <memory>
+#include <thread>
+
+#include <time.h>
+
+using benchmark_support::Samples;
+using virtualwindows::Machine;
+using virtualwindows::PrinterValue;
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr double latencyLimit = 1.2;
+constexpr double constructionLimit = 1.3;
+constexpr int latencyBlocks = 40;
+constexpr int samplesPerBlock = 15;
+constexpr int latencyRepetitions = 12;
+constexpr int printersToStartWith = 100;
+constexpr int constructions = 30;
+constexpr int reportsPerSample = 20;
+constexpr int reportSamples = 25;
+// Long enough for the threads to be asleep when the next value comes, as they are in the field.
+constexpr std::chrono::microseconds settlingTime(100);
+
+// Of the same length, so that neither name costs more than the other.
+const QString libraryPrinter = QStringLiteral("Label printer 1");
+const QString floorPrinter = QStringLiteral("Label printer 2");
+const QString supplyIdentifier = QStringLiteral("00000064100001000001");
+const QStringList ribbonIdentifiers{QStringLiteral("2001"), QStringLiteral("2002")};
+
+double microseconds(Clock::duration time)
+{
+    return std::chrono::duration<double, std::micro>(time).count();
+}
+
+/// Takes the log's lines, which would go to the terminal otherwise.
+class SilentAppender final : public AbstractAppender
+{
+protected:
+    void append(const QDateTime&, Logger::LogLevel, const char*, int, const char*, const QString&,
+                const QString&) override
+    {}
+};
+
+void addPrinter(const QString& name, const QString& driver = QStringLiteral("Stratamark BirchMax"))
+{
+    virtualwindows::PrinterSetup setup;
+    setup.name = name;
+    setup.driver = driver;
+    Machine::instance().addPrinter(setup);
+    Machine::instance().publish(
+        name, {
+                  PrinterValue::text("StatusCode", "1"),
+                  PrinterValue::text("SupplyIdentifier", supplyIdentifier.toLatin1()),
+                  PrinterValue::number("Ribbon1Identifier", 2001),
+                  PrinterValue::number("Ribbon2Identifier", 2002),
+                  PrinterValue::number("Mileage", 1),
+                  PrinterValue::text("SoftwareVersion", "1.2.3"),
+              });
+}
+
+/// What is changed, and what somebody would ask by hand to have the same in a record.
+struct Event
+{
+    const char* name;
+    const char* valueName;
+    PrinterValue (*value)(quint32 number);
+    void (*ask)(VXIPCSUPPLYDController& supplies, const QString& value,
+                PrinterStatusInformation& record);
+};
+
+void askForStatus(VXIPCSUPPLYDController&, const QString& value, PrinterStatusInformation& record)
+{
+    record.statusEnum = value.toInt();
+}
+
+void askForMileage(VXIPCSUPPLYDController& supplies, const QString& value,
+                   PrinterStatusInformation& record)
+{
+    const SupplyInformation loaded = supplies.supplyInformation(floorPrinter);
+    const QList<AvailablePrinters> printers = by_hand::enumerate();
+    const auto found = std::ranges::find(printers, floorPrinter, &AvailablePrinters::printerName);
+    const bool inPercent = found->driverName == QLatin1String("Stratamark Alder");
+    const double length = double(loaded.supplyLength);
+    const double millimetres = value.toDouble();
+    record.supplyPercentage =
+        inPercent ? int(millimetres)
+                  : int((millimetres * 0.0393701 - 1200.0 + length) / length * 100.0);
+}
+
+void askForRibbons(VXIPCSUPPLYDController& supplies, const QString& value,
+                   PrinterStatusInformation& record)
+{
+    supplies.setRibbonIds({value, ribbonIdentifiers.at(1)}, floorPrinter);
+    const QStringList skus = supplies.supplyRibbonSKUsCached(floorPrinter);
+    record.ribbon1SKU = skus.at(0);
+    record.ribbon1ColorHex = QColor(supplies.supplyRibbon1RGBs(floorPrinter).at(0).toUInt()).name();
+    record.ribbon1ColorName = supplies.supplyRibbonColorName(skus.at(0), 1);
+    record.ribbon2SKU = skus.at(1);
+    record.ribbon2ColorHex = QColor(supplies.supplyRibbon2RGBs(floorPrinter).at(0).toUInt()).name();
+    record.ribbon2ColorName = supplies.supplyRibbonColorName(skus.at(1), 1);
+}
+
+const Event events[] = {
+    {"status", "StatusCode",
+     [](quint32 number) {
+         return PrinterValue::text("StatusCode", QByteArray::number(2 + number % 2));
+     },
+     &askForStatus},
+    {"supply mileage", "Mileage",
+     [](quint32 number) { return PrinterValue::number("Mileage", 1 + number % 30000); },
+     &askForMileage},
+    {"ribbons", "Ribbon1Identifier",
+     [](quint32 number) { return PrinterValue::number("Ribbon1Identifier", 2003 + number % 2); },
+     &askForRibbons},
+};
+
+/// The controller with its host's slot and, beside it, a hand-written thread with another, on one
+/// host's thread.
+class Setting
+{
+public:
+    Setting(const Event& event, bool isLibraryFirst)
+        : m_event(event)
+    {
+        Machine::instance().reset();
+        addPrinter(libraryPrinter);
+        m_hostThread.start();
+        m_host.moveToThread(&m_hostThread);
+        onHost([&] {
+            if (isLibraryFirst)
+                startLibrary();
+        });
+        onHost([&] {
+            // Of no supported model, so that the controller leaves it alone.
+            addPrinter(floorPrinter, QStringLiteral("Office Laser 9"));
+            startFloor();
+        });
+        if (!isLibraryFirst)
+            onHost([&] { startLibrary(); });
+    }
+    ~Setting()
+    {
+        m_floor.reset();
+        onHost([&] {
+            m_controller.reset();
+            m_supplies.reset();
+        });
+        m_hostThread.quit();
+        m_hostThread.wait();
+    }
+    Q_DISABLE_COPY_MOVE(Setting)
+
+    /// Microseconds from the publishing of a new value to the host's slot.
+    double sample(const QString& printer)
+    {
+        if (!Machine::instance().waitForWaitingThreads(2))
+            return std::numeric_limits<double>::quiet_NaN();
+        std::this_thread::sleep_for(settlingTime);
+
+        const PrinterValue value = m_event.value(++m_number);
+        while (m_arrived.tryAcquire())
+            continue;
+        m_waitsForLibrary = printer == libraryPrinter;
+        const Clock::time_point published = Clock::now();
+        Machine::instance().publish(printer, value);
+        if (!m_arrived.tryAcquire(1, 20000))
+            return std::numeric_limits<double>::quiet_NaN();
+        return microseconds(m_arrival - published);
+    }
+
+private:
+    template <typename Work>
+    void onHost(Work work)
+    {
+        QMetaObject::invokeMethod(&m_host, work, Qt::BlockingQueuedConnection);
+    }
+
+    void startLibrary()
+    {
+        m_controller = std::make_unique<PrinterStatusController>();
+        QObject::connect(m_controller.get(), &PrinterStatusController::availablePrintersUpdated,
+                         &m_host, [this] { arrived(true); });
+    }
+    void startFloor()
+    {
+        m_supplies = std::make_unique<VXIPCSUPPLYDController>();
+        m_supplies->addNewPrinter(floorPrinter);
+        m_supplies->setSupplyId(supplyIdentifier, floorPrinter);
+        m_supplies->setRibbonIds(ribbonIdentifiers, floorPrinter);
+        m_floor = std::make_unique<by_hand::WatchingThread>(
+            floorPrinter, m_event.valueName, m_host, [this](const QString&, const QString& value) {
+                m_event.ask(*m_supplies, value, m_record);
+                arrived(false);
+            });
+        m_floor->start();
+    }
+
+    void arrived(bool atLibrary)
+    {
+        if (atLibrary != m_waitsForLibrary)
+            return;
+        m_arrival = Clock::now();
+        m_arrived.release();
+    }
+
+    const Event& m_event;
+    quint32 m_number = 0;
+    std::atomic<bool> m_waitsForLibrary = true;
+    Clock::time_point m_arrival;
+    QSemaphore m_arrived;
+    QThread m_hostThread;
+    QObject m_host;
+    PrinterStatusInformation m_record;
+    std::unique_ptr<PrinterStatusController> m_controller;
+    std::unique_ptr<VXIPCSUPPLYDController> m_supplies;
+    std::unique_ptr<by_hand::WatchingThread> m_floor;
+};
+
+Samples latencies[std::size(events)];
+
+void latency(benchmark::State& state)
+{
+    const auto number = static_cast<std::size_t>(state.range(0));
+    static bool isLibraryMadeFirst = false;
+    isLibraryMadeFirst = !isLibraryMadeFirst;
+    Setting setting(events[number], isLibraryMadeFirst);
+    Samples samples;
+    bool libraryFirst = true;
+    const auto takeBlock = [&](const QString& printer, std::vector<double>& into) {
+        double sum = 0;
+        for (int index = 0; index < samplesPerBlock; ++index) {
+            into.push_back(setting.sample(printer));
+            sum += into.back();
+        }
+        if (std::isnan(sum))
+            state.SkipWithError("what was published did not arrive");
+        return sum;
+    };
+    for ([[maybe_unused]] auto iteration : state) {
+        double sum = 0;
+        if (libraryFirst)
+            sum = takeBlock(libraryPrinter, samples.library);
+        takeBlock(floorPrinter, samples.floor);
+        if (!libraryFirst)
+            sum = takeBlock(libraryPrinter, samples.library);
+        libraryFirst = !libraryFirst;
+        if (state.error_occurred())
+            return;
+        state.SetIterationTime(sum / samplesPerBlock * 1e-6);
+    }
+    state.counters["library_median_us"] = benchmark_support::median(samples.library);
+    state.counters["floor_median_us"] = benchmark_support::median(samples.floor);
+    state.counters["median_ratio"] = samples.ratio();
+    latencies[number].append(samples);
+}
+
+// The start.
+
+Samples constructionTimes;
+
+void construction(benchmark::State& state)
+{
+    QList<QString> names;
+    for (int number = 1; number <= printersToStartWith; ++number)
+        names.append(QStringLiteral("Label printer %1").arg(number));
+    const auto populate = [&] {
+        Machine::instance().reset();
+        for (const QString& name : names)
+            addPrinter(name);
+    };
+    const auto settle = [] {
+        if (!Machine::instance().waitForWaitingThreads(printersToStartWith))
+            std::abort();
+    };
+    const auto takeLibrary = [&] {
+        populate();
+        const Clock::time_point begin = Clock::now();
+        const PrinterStatusController controller;
+        constructionTimes.library.push_back(microseconds(Clock::now() - begin));
+        settle();
+    };
+    const auto takeFloor = [&] {
+        populate();
+        QObject host;
+        std::vector<std::unique_ptr<by_hand::WatchingThread>> threads;
+        const Clock::time_point begin = Clock::now();
+        const QList<AvailablePrinters> printers = by_hand::enumerate();
+        for (const AvailablePrinters& printer : printers) {
+            threads.push_back(std::make_unique<by_hand::WatchingThread>(
+                printer.printerName, "Mileage", host, [](const QString&, const QString&) {}));
+            threads.back()->start();
+        }
+        constructionTimes.floor.push_back(microseconds(Clock::now() - begin));
+        settle();
+    };
+    bool libraryFirst = true;
+    for ([[maybe_unused]] auto iteration : state) {
+        if (libraryFirst)
+            takeLibrary();
+        takeFloor();
+        if (!libraryFirst)
+            takeLibrary();
+        libraryFirst = !libraryFirst;
+        state.SetIterationTime(constructionTimes.library.back() * 1e-6);
+    }
+    state.counters["library_median_us"] = benchmark_support::median(constructionTimes.library);
+    state.counters["floor_median_us"] = benchmark_support::median(constructionTimes.floor);
+    state.counters["ratio"] = constructionTimes.ratio();
+}
+
+// A mileage.
+
+/// Microseconds of this thread's processor time.
+double processorTime()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return double(time.tv_sec) * 1e6 + double(time.tv_nsec) * 1e-3;
+}
+
+void mileageReport(benchmark::State& state)
+{
+    const auto count = static_cast<int>(state.range(0));
+    Machine::instance().reset();
+    addPrinter(libraryPrinter);
+    for (int number = 2; number <= count; ++number) {
+        // Of no supported model: they are enumerated as all others are, without a thread each.
+        addPrinter(QStringLiteral("Office printer %1").arg(number),
+                   QStringLiteral("Office Laser 9"));
+    }
+    PrinterStatusController controller;
+    VXIPCSUPPLYDController& supplies = *controller.getSupplyIdController();
+    supplies.setSupplyId(supplyIdentifier, libraryPrinter);
+    supplies.setRibbonIds(ribbonIdentifiers, libraryPrinter);
+
+    std::vector<double> whole;
+    std::vector<double> record;
+    std::vector<double> type;
+    const auto take = [](std::vector<double>& into, auto work) {
+        const double begin = processorTime();
+        for (int report = 0; report < reportsPerSample; ++report)
+            work(report);
+        into.push_back((processorTime() - begin) / reportsPerSample);
+    };
+    for ([[maybe_unused]] auto iteration : state) {
+        take(whole, [&](int report) {
+            QMetaObject::invokeMethod(&controller, "onSupplyIntMileageChanged",
+                                      Q_ARG(QString, libraryPrinter),
+                                      Q_ARG(QString, QString::number(1000 + report)));
+        });
+        take(record, [&](int) { supplies.supplyInformation(libraryPrinter); });
+        take(type, [&](int) { controller.getPrinterTypeEnum(libraryPrinter); });
+        state.SetIterationTime(whole.back() * 1e-6);
+    }
+    using benchmark_support::median;
+    state.counters["report_cpu_us"] = median(whole);
+    state.counters["supply_record_cpu_us"] = median(record);
+    state.counters["printer_type_cpu_us"] = median(type);
+}
+
+} // namespace
+
+BENCHMARK(latency)
+    ->DenseRange(0, std::size(events) - 1)
+    ->Iterations(latencyBlocks)
+    ->Repetitions(latencyRepetitions)
+    ->DisplayAggregatesOnly(true)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(construction)->Iterations(constructions)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(mileageReport)
+    ->Arg(1)
+    ->Arg(10)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Iterations(reportSamples)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
+    SilentAppender silent;
+    Logger::globalInstance()->registerAppender(&silent);
+    const bool isRun = benchmark_support::run(argc, argv);
+    Logger::globalInstance()->removeAppender(&silent);
+    if (!isRun)
+        return 2;
+
+    benchmark_support::Limits limits;
+    for (std::size_t number = 0; number < std::size(events); ++number)
+        limits.atMost(std::string("from a published value to the host's slot, ") +
+                          events[number].name + ", median over the floor's",
+                      latencies[number].ratio(), latencyLimit, "");
+    limits.atMost("construction with 100 printers over the floor's", constructionTimes.ratio(),
+                  constructionLimit, "");
+    return limits.conclude();
+}

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// The floors that more than one benchmark measures against: what somebody would write by hand who
+// needs nothing but the answer.
+#pragma once
+
+#include <windows_printer_info.h>
+
+#include <QtCore/QHash>
+#include <QtCore/QList>
+#include <QtCore/QString>
+#include <QtCore/QThread>
+
+#include <array>
+#include <functional>
+
+#include <windows.h>
+#include <winspool.h>
+
+namespace by_hand {
+
+struct ValueRead
+{
+    const char* name;
+    DWORD capacity;
+    bool isText;
+};
+
+/// The order and the sizes of the library's reads.
+inline constexpr std::array<ValueRead, 11> valueReads{{
+    {"SupplyIdentifier", 21, true},
+    {"Ribbon1Identifier", 4, false},
+    {"Ribbon2Identifier", 4, false},
+    {"StatusCode", 128, true},
+    {"SoftwareVersion", 37, true},
+    {"EthernetConfig", 74, true},
+    {"Mileage", 4, false},
+    {"Ribbon1Mileage", 4, false},
+    {"Ribbon2Mileage", 4, false},
+    {"UpdateProgress", 4, false},
+    {"UpdateError", 4, false},
+}};
+
+/// The least that a thread can do to tell its host of a printer's values. It makes the library's
+/// calls in the same order and nothing else: no checks, no texts but for the value that the host
+/// asked for.
+class WatchingThread final : public QThread
+{
+public:
+    /// `receive` is called in a queued call to `host`, with the printer and the value as text.
+    using Receive = std::function<void(const QString& printer, const QString& value)>;
+    WatchingThread(const QString& printerName, const char* valueName, QObject& host,
+                   Receive receive);
+    ~WatchingThread() override;
+    Q_DISABLE_COPY_MOVE(WatchingThread)
+
+protected:
+    void run() override;
+
+private:
+    struct Reading
+    {
+        DWORD type = REG_NONE;
+        DWORD size = 0;
+        std::array<BYTE, 128> bytes{};
+
+        bool operator==(const Reading&) const = default;
+    };
+
+    void readAll(HANDLE printer);
+    void report(const ValueRead& read, const Reading& reading);
+
+    const QString m_printerName;
+    const QByteArray m_valueName;
+    QObject& m_host;
+    const Receive m_receive;
+    const HANDLE m_stopEvent;
+    std::array<Reading, valueReads.size()> m_lastSeen;
+};
+
+/// The devices of the registry.
+struct Devices
+{
+    QHash<quint16, QString> serialNumbers; ///< by port
+    QString last;
+};
+Devices readDevices();
+
+/// The same answer as the library's and the same record of serial numbers, in one function and with
+/// nothing that these printers do not need.
+QList<AvailablePrinters> enumerate();
+
+} // namespace by_hand
