@@ -13,6 +13,7 @@
 #include <cstddef>
 #include <cstring>
 #include <memory>
+#include <optional>
 #include <span>
 
 namespace {
@@ -139,11 +140,7 @@ QList<AvailablePrinters> enumerate()
     EnumPrintersW(kinds, nullptr, 2, reinterpret_cast<BYTE*>(block.get()), needed, &needed, &count);
 
     const Devices devices = readDevices();
-    QSettings settings =
-        QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Harlow Devices Inc"),
-                  QStringLiteral("Quillmark"));
-    settings.setFallbacksEnabled(false);
-    settings.beginGroup(QStringLiteral("associatedPrinters"));
+    std::optional<QSettings> settings; // opened for the first number to be recorded
 
     QList<AvailablePrinters> printers;
     printers.reserve(count);
@@ -158,9 +155,15 @@ QList<AvailablePrinters> enumerate()
             devices.serialNumbers.constFind(static_cast<quint16>(printer.portName.toUInt()));
         const bool isOnPort = found != devices.serialNumbers.cend();
         printer.serialNumber = isOnPort ? *found : devices.last;
-        if (isOnPort && !settings.contains(printer.serialNumber))
-            settings.setValue(printer.serialNumber, QDateTime::currentDateTime().toString(
-                                                        QStringLiteral("yyyy-MM-dd hh:mm:ss")));
+        if (isOnPort && !settings) {
+            settings.emplace(QSettings::IniFormat, QSettings::UserScope,
+                             QStringLiteral("Harlow Devices Inc"), QStringLiteral("Quillmark"));
+            settings->setFallbacksEnabled(false);
+            settings->beginGroup(QStringLiteral("associatedPrinters"));
+        }
+        if (isOnPort && !settings->contains(printer.serialNumber))
+            settings->setValue(printer.serialNumber, QDateTime::currentDateTime().toString(
+                                                         QStringLiteral("yyyy-MM-dd hh:mm:ss")));
 
         constexpr DWORD reach = PRINTER_ATTRIBUTE_NETWORK | PRINTER_ATTRIBUTE_LOCAL;
         printer.isNetworkPrinter = (info.Attributes & reach) != PRINTER_ATTRIBUTE_LOCAL ||

@@ -71,27 +71,26 @@ QString SupplyDbConnection::headerFault(const QString& path)
     return {};
 }
 
-bool SupplyDbConnection::setUp(const QString& path, const QString& connectionName)
+void SupplyDbConnection::setUp(const QString& path, const QString& connectionName)
 {
     close();
-    m_fault = headerFault(path);
-    if (!m_fault.isEmpty())
-        return false;
+    m_fault.clear();
+    m_isOpenTried = false;
     m_database = addConnection(connectionName);
     // Whoever holds the file locked must not hold up the thread that asks.
     m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=100"));
     m_database.setDatabaseName(path);
-    m_isOpenTried = false;
-    return true;
 }
 
 bool SupplyDbConnection::open()
 {
     if (!m_database.isValid() || std::exchange(m_isOpenTried, true))
         return m_database.isOpen();
-    if (m_database.open())
+    m_fault = headerFault(m_database.databaseName());
+    if (m_fault.isEmpty() && m_database.open())
         return true;
-    m_fault = m_database.lastError().databaseText();
+    if (m_fault.isEmpty())
+        m_fault = m_database.lastError().databaseText();
     close();
     return false;
 }

@@ -13,12 +13,11 @@ public:
     ~SupplyDbConnection();
     Q_DISABLE_COPY_MOVE(SupplyDbConnection)
 
-    /// Looks at the file's header and takes the connection name, or the name with a number behind
-    /// it where another connection of the process has the name. False when it is no file to be
-    /// used: fault() says why then.
-    bool setUp(const QString& path, const QString& connectionName);
-    /// Opens the file that was set up, unless it is open. False when it cannot be used: fault()
-    /// says why then.
+    /// Takes the connection name, or the name with a number behind it where another connection of
+    /// the process has the name. The file is not looked at.
+    void setUp(const QString& path, const QString& connectionName);
+    /// Opens the file that was set up, at the first call. False when it cannot be used: fault() says
+    /// why then.
     bool open();
     /// Statements made on the connection must be gone before.
     void close();

@@ -121,24 +121,24 @@ struct Arrangement
 const Question ArrangementQuestion{R"(is_landscape, multi_up_count, coalesce(multi_up_gap, -1.0))",
                                    R"(supply)", "sku"};
 
-constexpr const char* BackgroundSql = R"(
+const QString BackgroundSql = QStringLiteral(R"(
     SELECT b.image
     FROM supply s
     JOIN background b ON b.id = s.background_id
-    WHERE s.sku = ?)";
+    WHERE s.sku = ?)");
 
 // The place of a supply's format, by printer model.
 using TypeIndices = QHash<QString, int>;
-constexpr const char* TypeIndicesSql = R"(
+const QString TypeIndicesSql = QStringLiteral(R"(
     SELECT p.model, p.position
     FROM supply s
     JOIN printer_format p ON p.format_id = s.format_id
-    WHERE s.sku = ?)";
+    WHERE s.sku = ?)");
 
 // Longer models first, so that the first one found in a printer's name is the one meant. The model
 // of all other printers is the empty text, which is found in any name.
-constexpr const char* ModelsSql = R"(
-    SELECT DISTINCT model FROM printer_format ORDER BY length(model) DESC, model)";
+const QString ModelsSql = QStringLiteral(R"(
+    SELECT DISTINCT model FROM printer_format ORDER BY length(model) DESC, model)");
 
 struct Ribbon
 {
@@ -181,25 +181,26 @@ struct PrintSetting
 const Question SettingQuestion{R"(heat, heat_offset, max_speed, tension)", R"(print_setting)",
                                "ribbon_sku, panel, supply_sku"};
 
-constexpr const char* SupplyOfKindSql = "SELECT supply_sku FROM supply_kind WHERE kind = ?";
-constexpr const char* RibbonOfNumberSql = "SELECT ribbon_sku FROM ribbon_number WHERE number = ?";
+const QString SupplyOfKindSql = QStringLiteral("SELECT supply_sku FROM supply_kind WHERE kind = ?");
+const QString RibbonOfNumberSql =
+    QStringLiteral("SELECT ribbon_sku FROM ribbon_number WHERE number = ?");
 
 struct Catalogue
 {
     QStringList skus;
     QVariantHash colours;
 };
-constexpr const char* SuppliesSql = R"(
+const QString SuppliesSql = QStringLiteral(R"(
     SELECT s.sku, c.rgb
     FROM supply s
     JOIN colour c ON c.id = s.colour_id
-    ORDER BY s.sku)";
-constexpr const char* RibbonsSql = R"(
+    ORDER BY s.sku)");
+const QString RibbonsSql = QStringLiteral(R"(
     SELECT r.sku, c.rgb
     FROM ribbon r
     LEFT JOIN ribbon_panel p ON p.ribbon_sku = r.sku AND p.panel = 1
     LEFT JOIN colour c ON c.id = p.colour_id
-    ORDER BY r.sku)";
+    ORDER BY r.sku)");
 
 template <int Column>
 QString textAt(const QSqlQuery& row)
@@ -293,17 +294,17 @@ public:
         KeptRecords,
         {ArrangementQuestion.forAll(), textAt<3>}};
     KeptQuery<QString, QByteArray> backgrounds{
-        QString::fromLatin1(BackgroundSql),
+        BackgroundSql,
         [](const QSqlQuery& row, QByteArray& image) { image = row.value(0).toByteArray(); },
         KeptImageBytes, imageBytes};
-    KeptQuery<QString, TypeIndices> typeIndices{QString::fromLatin1(TypeIndicesSql),
+    KeptQuery<QString, TypeIndices> typeIndices{TypeIndicesSql,
                                                 [](const QSqlQuery& row, TypeIndices& indices) {
                                                     indices.insert(row.value(0).toString(),
                                                                    row.value(1).toInt());
                                                 },
                                                 KeptRecords};
     KeptQuery<int, QStringList> models{
-        QString::fromLatin1(ModelsSql),
+        ModelsSql,
         [](const QSqlQuery& row, QStringList& names) { names.append(row.value(0).toString()); }, 1};
     KeptQuery<QString, Ribbon> ribbons{RibbonQuestion.forOne(),
                                        [](const QSqlQuery& row, Ribbon& ribbon) {
@@ -328,14 +329,12 @@ public:
                        row.value(3).toInt()};
         },
         KeptSettings};
-    KeptQuery<int, QString> suppliesOfKinds{QString::fromLatin1(SupplyOfKindSql), readText,
-                                            KeptRecords};
-    KeptQuery<int, QString> ribbonsOfNumbers{QString::fromLatin1(RibbonOfNumberSql), readText,
-                                             KeptRecords};
-    KeptQuery<int, Catalogue> supplies{QString::fromLatin1(SuppliesSql), readCatalogue,
-                                       KeptListEntries, catalogueEntries};
-    KeptQuery<int, Catalogue> allRibbons{QString::fromLatin1(RibbonsSql), readCatalogue,
-                                         KeptListEntries, catalogueEntries};
+    KeptQuery<int, QString> suppliesOfKinds{SupplyOfKindSql, readText, KeptRecords};
+    KeptQuery<int, QString> ribbonsOfNumbers{RibbonOfNumberSql, readText, KeptRecords};
+    KeptQuery<int, Catalogue> supplies{SuppliesSql, readCatalogue, KeptListEntries,
+                                       catalogueEntries};
+    KeptQuery<int, Catalogue> allRibbons{RibbonsSql, readCatalogue, KeptListEntries,
+                                         catalogueEntries};
 
     void setup(const QString& path, const QString& name)
     {

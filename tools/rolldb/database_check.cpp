@@ -46,7 +46,8 @@ public:
     explicit Checker(const QString& path)
         : m_path(path)
     {
-        if (!m_connection.setUp(path, path) || !m_connection.open())
+        m_connection.setUp(path, path);
+        if (!m_connection.open())
             throw fault(m_connection.fault());
     }
 
