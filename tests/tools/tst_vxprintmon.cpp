@@ -428,14 +428,19 @@ void VxPrintMonTest::namesInOtherLanguages_data()
     QTest::addColumn<QString>("colour");
     QTest::addColumn<QString>("material");
     QTest::addColumn<QString>("ribbon");
+    QTest::addColumn<QString>("title");
     const auto row = [](const char* language, const QString& colour, const QString& material,
-                        const QString& ribbon) {
-        QTest::newRow(language) << QString::fromLatin1(language) << colour << material << ribbon;
+                        const QString& ribbon, const QString& title) {
+        QTest::newRow(language) << QString::fromLatin1(language) << colour << material << ribbon
+                                << title;
     };
-    row("de", QStringLiteral("Gelb"), QStringLiteral("Vinyl"), QStringLiteral("Schwarz"));
-    row("ja", QStringLiteral("黄"), QStringLiteral("ビニール"), QStringLiteral("黒"));
-    // Known to the locale library, but not in the catalogue.
-    row("it", QStringLiteral("Yellow"), QStringLiteral("Vinyl"), QStringLiteral("Black"));
+    row("de", QStringLiteral("Gelb"), QStringLiteral("Vinyl"), QStringLiteral("Schwarz"),
+        QStringLiteral("Bereit"));
+    row("ja", QStringLiteral("黄"), QStringLiteral("ビニール"), QStringLiteral("黒"),
+        QStringLiteral("準備完了"));
+    // The catalogue has no Italian names, the library Italian titles.
+    row("it", QStringLiteral("Yellow"), QStringLiteral("Vinyl"), QStringLiteral("Black"),
+        QStringLiteral("Pronta"));
 }
 
 void VxPrintMonTest::namesInOtherLanguages()
@@ -449,6 +454,9 @@ void VxPrintMonTest::namesInOtherLanguages()
     QTEST(record.value(QStringLiteral("supplyColorName")).toString(), "colour");
     QTEST(record.value(QStringLiteral("supplyMaterialName")).toString(), "material");
     QTEST(record.value(QStringLiteral("ribbon1ColorName")).toString(), "ribbon");
+    const Result title =
+        run({QStringLiteral("title"), QStringLiteral("1")}, QStringLiteral(VXPRINTMON), changed);
+    QTEST(QString::fromUtf8(title.output).trimmed(), "title");
 }
 
 // send and title //////////////////////////////////////////////////////////////////////////////////

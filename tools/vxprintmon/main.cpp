@@ -3,6 +3,8 @@
 #include "commands.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QLocale>
+#include <QtCore/QTranslator>
 
 #include <algorithm>
 #include <array>
@@ -34,6 +36,11 @@ int main(int argc, char* argv[])
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vxprintmon"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VX_VERSION));
+    // In the language that the library has the names of colours and materials in.
+    QTranslator titles;
+    if (titles.load(QLocale::system(), QStringLiteral("vxprinterstatus"), QStringLiteral("_"),
+                    QStringLiteral(":/vxprinterstatus/translations")))
+        QCoreApplication::installTranslator(&titles);
 
     Output output;
     const auto parsed = parseCommandLine(QCoreApplication::arguments());

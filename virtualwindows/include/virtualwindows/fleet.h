@@ -77,6 +77,7 @@ public:
     StoryPlayer(Machine& machine, const QList<StoryEvent>& story, double speed,
                 QObject* parent = nullptr);
     ~StoryPlayer() override;
+    Q_DISABLE_COPY_MOVE(StoryPlayer)
 
     /// `audience` answers how many threads watch the machine at that moment.
     void setAudience(const std::function<int()>& audience) { m_audience = audience; }
