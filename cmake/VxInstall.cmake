@@ -33,8 +33,8 @@ install(TARGETS ${installed_targets} EXPORT VxPrinterStatusTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 if(TARGET cutelogger)
-    # Ours to bring along, as the library needs it to run; a host that logs finds it there as well.
-    install(TARGETS cutelogger
+    # Ours to bring along, as the library needs it to run; a host that logs links Vx::CuteLogger.
+    install(TARGETS cutelogger EXPORT VxPrinterStatusTargets
         RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
         LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
         ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")

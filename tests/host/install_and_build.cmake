@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
 #
-# Installs a build into a scratch folder and builds example hosts against what is there, as somebody
+# Installs a build into a scratch folder and builds hosts against what is there, as somebody
 # does who has the package only. Expects BUILD (what is installed), SCRATCH, EXAMPLES (folders), FIND_BY
 # (the variable that leads to packages) and OPTIONS (for configuring the examples).
 

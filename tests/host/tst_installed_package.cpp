@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// The smallest example host, which was built against the installed package and knows nothing of
-// tests or virtual printers.
+// Hosts that were built against the installed package and know nothing of tests or virtual
+// printers.
 #include "sample_database.h"
 
 #include <QtCore/QDir>
@@ -41,11 +41,12 @@ struct Result
     QByteArray errors;
 };
 
-Result run(const QStringList& arguments, const QProcessEnvironment& variables = environment())
+Result run(const QString& program, const QStringList& arguments,
+           const QProcessEnvironment& variables = environment())
 {
     QProcess process;
     process.setProcessEnvironment(variables);
-    process.start(host, arguments);
+    process.start(program, arguments);
     if (!process.waitForFinished(30000)) {
         qWarning("%s", qPrintable(process.errorString()));
         process.kill();
@@ -59,12 +60,12 @@ Result run(const QStringList& arguments, const QProcessEnvironment& variables = 
 } // namespace
 
 #ifdef Q_OS_WIN
-using MinimalHostTestBase = WindowsApiTest;
+using InstalledPackageTestBase = WindowsApiTest;
 #else
-using MinimalHostTestBase = QObject;
+using InstalledPackageTestBase = QObject;
 #endif
 
-class MinimalHostTest : public MinimalHostTestBase
+class InstalledPackageTest : public InstalledPackageTestBase
 {
     Q_OBJECT
 
@@ -74,6 +75,7 @@ private Q_SLOTS:
     void withoutPrinters();
     void wrongArgument_data();
     void wrongArgument();
+    void hostThatKeepsTheLog();
 #ifdef Q_OS_WIN
     void printersOfTheSystem();
 #else
@@ -91,47 +93,66 @@ private:
 #endif
 };
 
-void MinimalHostTest::initTestCase()
+void InstalledPackageTest::initTestCase()
 {
     QVERIFY2(QFileInfo::exists(host), "the test \"installed_package\" builds it");
     // Where the library looks for it: beside the host.
     writeSampleDatabase(QFileInfo(host).path());
 }
 
-void MinimalHostTest::withoutPrinters()
+void InstalledPackageTest::withoutPrinters()
 {
-    const Result result = run({QStringLiteral("0")});
+    const Result result = run(host, {QStringLiteral("0")});
     QCOMPARE(result.exitStatus, 0);
     QCOMPARE(result.output, QByteArray("no printers\nactive printer: \n\n"));
     QCOMPARE(result.errors, QByteArray());
 }
 
-void MinimalHostTest::wrongArgument_data()
+void InstalledPackageTest::wrongArgument_data()
 {
     QTest::addColumn<QString>("argument");
     for (const char* argument : {"soon", "-1", "1.5", ""})
         QTest::newRow(*argument ? argument : "empty") << QString::fromLatin1(argument);
 }
 
-void MinimalHostTest::wrongArgument()
+void InstalledPackageTest::wrongArgument()
 {
     QFETCH(const QString, argument);
-    const Result result = run({argument});
+    const Result result = run(host, {argument});
     QCOMPARE(result.exitStatus, 2);
     QCOMPARE(result.output, QByteArray());
     QCOMPARE(result.errors.trimmed(), QByteArray("minimal_host: expected a number of seconds"));
 }
 
+void InstalledPackageTest::hostThatKeepsTheLog()
+{
+#ifdef VX_LOGGING_HOST
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("printers.log"));
+    const Result result = run(QStringLiteral(VX_LOGGING_HOST), {file});
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(result.exitStatus, 0);
+    QFile log(file);
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    const QByteArray text = log.readAll();
+    QVERIFY2(text.contains("host is up"), text.constData());
+    QVERIFY2(text.contains("void PrinterStatusController::sendToLogger(QString)"),
+             text.constData());
+#else
+    QSKIP("hosts log through a CuteLogger of their own");
+#endif
+}
+
 #ifdef Q_OS_WIN
 
-void MinimalHostTest::printersOfTheSystem()
+void InstalledPackageTest::printersOfTheSystem()
 {
     QVERIFY(fixture::setSpoolerRunning(true));
     const QString printer = fixture::uniqueName(QStringLiteral("Label Printer"));
     QVERIFY(fixture::addPrinter({printer, QStringLiteral("Stratamark AlderMax")}));
     QVERIFY(fixture::addPrinter({fixture::uniqueName(QStringLiteral("Office Printer")),
                                  QStringLiteral("Some Office Printer")}));
-    const Result result = run({QStringLiteral("0")});
+    const Result result = run(host, {QStringLiteral("0")});
     QCOMPARE(result.exitStatus, 0);
     QCOMPARE(result.output,
              QStringLiteral("%1: Unable To Retrieve Printer Info. (Code 255), supply  0 %, ribbon "
@@ -142,7 +163,7 @@ void MinimalHostTest::printersOfTheSystem()
 
 #else
 
-QString MinimalHostTest::fleetFile(const QByteArray& text)
+QString InstalledPackageTest::fleetFile(const QByteArray& text)
 {
     const QString name = m_folder.filePath(QStringLiteral("fleet.json"));
     QFile file(name);
@@ -151,8 +172,8 @@ QString MinimalHostTest::fleetFile(const QByteArray& text)
     return name;
 }
 
-bool MinimalHostTest::printsOn(const QString& fleet, const QByteArray& line,
-                               const QString& language)
+bool InstalledPackageTest::printsOn(const QString& fleet, const QByteArray& line,
+                                    const QString& language)
 {
     QProcessEnvironment variables = environment();
     variables.insert(QStringLiteral("VX_VIRTUAL_FLEET"), fleet);
@@ -172,7 +193,7 @@ bool MinimalHostTest::printsOn(const QString& fleet, const QByteArray& line,
     return output.contains(line);
 }
 
-void MinimalHostTest::printersOfAFleet()
+void InstalledPackageTest::printersOfAFleet()
 {
     const QString fleet = fleetFile(R"({
         "printers": [
@@ -198,13 +219,13 @@ void MinimalHostTest::printersOfAFleet()
                      QStringLiteral("en")));
 }
 
-void MinimalHostTest::titlesInTheUsersLanguage()
+void InstalledPackageTest::titlesInTheUsersLanguage()
 {
     QVERIFY(printsOn(QStringLiteral("built-in"), "Warehouse: Bereit, ", QStringLiteral("de")));
     QVERIFY(printsOn(QStringLiteral("built-in"), "Warehouse: Lista, ", QStringLiteral("es")));
 }
 
-void MinimalHostTest::brokenFleet_data()
+void InstalledPackageTest::brokenFleet_data()
 {
     QTest::addColumn<QString>("fleet");
     QTest::addColumn<QString>("speed");
@@ -225,7 +246,7 @@ void MinimalHostTest::brokenFleet_data()
                "VX_VIRTUAL_SPEED: expected a number above 0 and up to 1000, found \"0\"");
 }
 
-void MinimalHostTest::brokenFleet()
+void InstalledPackageTest::brokenFleet()
 {
     QFETCH(const QString, fleet);
     QFETCH(const QString, speed);
@@ -233,7 +254,7 @@ void MinimalHostTest::brokenFleet()
     QProcessEnvironment variables = environment();
     variables.insert(QStringLiteral("VX_VIRTUAL_FLEET"), fleet);
     variables.insert(QStringLiteral("VX_VIRTUAL_SPEED"), speed);
-    const Result result = run({QStringLiteral("0")}, variables);
+    const Result result = run(host, {QStringLiteral("0")}, variables);
     QCOMPARE(result.exitStatus, 1);
     QCOMPARE(result.output, QByteArray());
     QCOMPARE(QString::fromUtf8(result.errors), QStringLiteral("virtualwindows: %1\n").arg(error));
@@ -241,5 +262,5 @@ void MinimalHostTest::brokenFleet()
 
 #endif
 
-QTEST_GUILESS_MAIN(MinimalHostTest)
-#include "tst_minimal_host.moc"
+QTEST_GUILESS_MAIN(InstalledPackageTest)
+#include "tst_installed_package.moc"

@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// The pieces of code that docs/host-guide.md shows besides those of the examples: they compile, and
+// do what the guide says.
+#include "controller_test.h"
+#include "vx_ipc_supplyd_controller.h"
+
+#include <vxipcclient.h>
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QPointer>
+#include <QtCore/QThread>
+#include <QtCore/QThreadPool>
+
+namespace {
+
+const QString packing = QStringLiteral("Packing");
+
+QStringList properties;
+QAtomicInt reports;
+QJsonValue answer;
+
+void note(const char* name, const QVariant& value)
+{
+    properties.append(QLatin1String(name) + QLatin1Char('=') + value.toString());
+}
+
+void writeReport(const QVariantList& printers)
+{
+    reports.fetchAndAddRelaxed(static_cast<int>(printers.size()));
+}
+
+void askForRibbons(const QString& printerName)
+{
+    VXIPCClient supplies(0);
+    const VXIPCReply reply =
+        supplies.callAndWait(QStringLiteral("supplyRibbonSKUsCached"), QJsonArray{printerName});
+    if (reply.isOk())
+        answer = reply.result; // a JSON list of SKUs, ribbon 1 first
+    else
+        qWarning("%s", qPrintable(reply.error->message));
+}
+
+} // namespace
+
+class HostGuideTest : public ControllerTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void recordsAreReadByName();
+    void slowWorkGoesElsewhere();
+    void modalDialogsWaitForTheirTurn();
+    void controllerIsDeletedLater();
+    void commandsGoToTheActivePrinter();
+    void detailsComeFromTheService();
+    void otherProcessesAsk();
+
+private:
+    /// A host that has found one printer, which is ready.
+    PrinterStatusController& hostWithOnePrinter()
+    {
+        addPrinter(packing, QStringLiteral("Stratamark AlderMax"));
+        machine().publish(packing, PrinterValue::text("StatusCode", "1"));
+        makeController();
+        [this] {
+            settle(1);
+        }();
+        return controller();
+    }
+    void reportError()
+    {
+        machine().publish(packing, PrinterValue::text("StatusCode", "4"));
+        settle(1);
+    }
+};
+
+void HostGuideTest::recordsAreReadByName()
+{
+    PrinterStatusController& printers = hostWithOnePrinter();
+    properties.clear();
+
+    for (const QVariant& entry : printers.getAvailablePrinters()) {
+        const QMetaObject* record = entry.metaType().metaObject();
+        for (int i = 0; i < record->propertyCount(); ++i)
+            note(record->property(i).name(), record->property(i).readOnGadget(entry.constData()));
+    }
+
+    QCOMPARE(properties.size(), 21);
+    QCOMPARE(properties.first(), QStringLiteral("printerName=Packing"));
+    QCOMPARE(properties.at(1), QStringLiteral("statusEnum=1"));
+}
+
+void HostGuideTest::slowWorkGoesElsewhere()
+{
+    PrinterStatusController& printers = hostWithOnePrinter();
+    reports.storeRelaxed(0);
+
+    connect(&printers, &PrinterStatusController::availablePrintersUpdated, this, [&printers] {
+        QThreadPool::globalInstance()->start(
+            [records = printers.getAvailablePrinters()] { writeReport(records); });
+    });
+
+    reportError();
+    QVERIFY(QThreadPool::globalInstance()->waitForDone(20000));
+    QCOMPARE(reports.loadRelaxed(), 1);
+}
+
+void HostGuideTest::modalDialogsWaitForTheirTurn()
+{
+    PrinterStatusController& printers = hostWithOnePrinter();
+    QStringList shown;
+    const auto showDialog = [&](bool inError) {
+        shown.append(QLatin1String(inError ? "dialog" : "none"));
+        shown.append(takeSignals());
+    };
+
+    connect(&printers, &PrinterStatusController::printerErrorChangedSignal, this, showDialog,
+            Qt::QueuedConnection);
+
+    takeSignals();
+    reportError();
+    QCOMPARE(shown, QStringList()); // the report has been told of in full by then
+    QCoreApplication::processEvents();
+    QCOMPARE(shown, (QStringList{QStringLiteral("dialog"),
+                                 QStringLiteral("printerErrorChangedSignal(true)"),
+                                 QStringLiteral("statusChangedSignal(4, Packing)"),
+                                 QStringLiteral("availablePrintersUpdated()")}));
+}
+
+void HostGuideTest::controllerIsDeletedLater()
+{
+    addPrinter(packing);
+    machine().publish(packing, PrinterValue::text("StatusCode", "1"));
+    auto* printers = new PrinterStatusController;
+    const QPointer<PrinterStatusController> alive = printers;
+    QVERIFY(machine().waitForWaitingThreads(1));
+
+    connect(printers, &PrinterStatusController::printerErrorChangedSignal, this,
+            [printers](bool inError) {
+                if (inError)
+                    printers->deleteLater(); // and never: delete printers
+            });
+
+    machine().publish(packing, PrinterValue::text("StatusCode", "4"));
+    QTRY_VERIFY(alive.isNull());
+}
+
+void HostGuideTest::commandsGoToTheActivePrinter()
+{
+    PrinterStatusController& printers = hostWithOnePrinter();
+
+    printers.sendCommandToPrinter(QStringLiteral("FEED 3"), printers.activeDefaultPrinter());
+
+    QCOMPARE(machine().jobs(packing).size(), 1);
+    QCOMPARE(machine().jobs(packing).first().pages, QList<QByteArray>{"FEED 3\r\n"});
+}
+
+void HostGuideTest::detailsComeFromTheService()
+{
+    PrinterStatusController& printers = hostWithOnePrinter();
+    const QString printerName = packing;
+
+    VXIPCSUPPLYDController* supplies = printers.getSupplyIdController();
+    const SupplyInformation loaded = supplies->supplyInformation(printerName);
+    const double inches = supplies->supplyWidth(loaded.supplySku, printerName);
+
+    QCOMPARE(loaded.supplySku, QStringLiteral("-1"));
+    QCOMPARE(inches, -1.0);
+}
+
+void HostGuideTest::otherProcessesAsk()
+{
+    PrinterStatusController& printers = hostWithOnePrinter();
+    QTRY_COMPARE(printers.getSupplyIdController()->serverName(), QStringLiteral("vxipc-0"));
+    answer = QJsonValue::Undefined;
+    // As another process does, while this one's event loop runs.
+    const std::unique_ptr<QThread> client(QThread::create([] { askForRibbons(packing); }));
+    client->start();
+    QTRY_VERIFY(client->isFinished());
+    QCOMPARE(answer, QJsonValue(QJsonArray()));
+}
+
+int main(int argc, char* argv[])
+{
+    // Services of this test alone.
+    const QTemporaryDir services;
+    qputenv("XDG_RUNTIME_DIR", services.path().toLocal8Bit());
+    QCoreApplication application(argc, argv);
+    HostGuideTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_host_guide.moc"
