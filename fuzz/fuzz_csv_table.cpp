@@ -24,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
                 const CsvField field = table.field(row, column);
                 require(field.text == field.text.trimmed(), "a field has no spaces around it");
                 require(!field.text.contains(QChar::Null), "a field has no NUL");
-                require(field.place.startsWith(file), "a field knows its file");
+                require(field.place().startsWith(file), "a field knows its file");
                 hasText = hasText || !field.text.isEmpty();
             }
             require(hasText, "a row has text");

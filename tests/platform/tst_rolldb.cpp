@@ -344,7 +344,7 @@ private Q_SLOTS:
         QCOMPARE(table.rowCount(), 3);
         QCOMPARE(table.field(0, u"name"_s).text, u"one, \"two\"\nthree"_s);
         QCOMPARE(table.field(1, u"name"_s).text, QString());
-        QCOMPARE(table.field(2, u"name"_s).place, u"t.csv:5, column 2 (name)"_s);
+        QCOMPARE(table.field(2, u"name"_s).place(), u"t.csv:5, column 2 (name)"_s);
     }
 
     void takesSemicolonsAndDecimalCommas()

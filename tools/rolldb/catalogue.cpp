@@ -72,9 +72,9 @@ const TableLayout SettingLayout{"print_settings.csv",
 const TableLayout PrinterFormatLayout{
     "printer_formats.csv", {QStringLiteral("model"), QStringLiteral("format")}, false};
 
-QString column(const char* name)
+QLatin1String column(const char* name)
 {
-    return QString::fromLatin1(name);
+    return QLatin1String(name);
 }
 
 QString textOf(const CsvField& field, qsizetype maxLength)

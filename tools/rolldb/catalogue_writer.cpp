@@ -28,141 +28,12 @@ QVariant rowId(qsizetype place)
     return static_cast<qlonglong>(place + 1);
 }
 
-class Writer
+void run(const QSqlDatabase& database, const QString& statement)
 {
-public:
-    explicit Writer(const QSqlDatabase& database)
-        : m_database(database)
-    {}
-
-    void write(const Catalogue& catalogue)
-    {
-        // A file that is not in place yet needs no protection against a crash.
-        run(QStringLiteral("PRAGMA journal_mode = OFF"));
-        run(QStringLiteral("PRAGMA synchronous = OFF"));
-        run(QStringLiteral("PRAGMA foreign_keys = ON"));
-        run(QStringLiteral("BEGIN"));
-        for (const QString& statement : SupplyDbSchema::statements())
-            run(statement);
-        writeVocabulary(catalogue);
-        writeSupplies(catalogue);
-        writeRibbons(catalogue);
-        run(QStringLiteral("COMMIT"));
-    }
-
-private:
-    /// A statement that puts one row after the other into a table.
-    class Insert
-    {
-    public:
-        Insert(const QSqlDatabase& database, const QString& table, int columns)
-            : m_query(database)
-        {
-            QStringList marks;
-            marks.fill(QStringLiteral("?"), columns);
-            if (!m_query.prepare(QStringLiteral("INSERT INTO %1 VALUES (%2)")
-                                     .arg(table, marks.join(QStringLiteral(", ")))))
-                throw Fault(m_query.lastError().databaseText());
-        }
-
-        void row(const QVariantList& values)
-        {
-            for (qsizetype i = 0; i < values.size(); ++i)
-                m_query.bindValue(static_cast<int>(i), values.at(i));
-            if (!m_query.exec())
-                throw Fault(m_query.lastError().databaseText());
-        }
-
-    private:
-        QSqlQuery m_query;
-    };
-
-    Insert into(const char* table, int columns) const
-    {
-        return {m_database, QString::fromLatin1(table), columns};
-    }
-
-    void run(const QString& statement) const
-    {
-        QSqlQuery query(m_database);
-        if (!query.exec(statement))
-            throw Fault(query.lastError().databaseText());
-    }
-
-    QVariant writeName(const Name& name)
-    {
-        const QVariant id = rowId(m_names++);
-        into("name", 2).row({id, name.english});
-        Insert translation = into("translation", 3);
-        for (auto entry = name.translations.begin(); entry != name.translations.end(); ++entry)
-            translation.row({id, entry.key(), entry.value()});
-        return id;
-    }
-
-    void writeVocabulary(const Catalogue& catalogue)
-    {
-        Insert language = into("language", 2);
-        for (auto entry = catalogue.languages.begin(); entry != catalogue.languages.end(); ++entry)
-            language.row({entry.key(), entry.value()});
-        Insert colour = into("colour", 4);
-        for (qsizetype i = 0; i < catalogue.colours.size(); ++i) {
-            const Catalogue::Colour& source = catalogue.colours.at(i);
-            colour.row({rowId(i), source.key, source.rgb, writeName(source.name)});
-        }
-        Insert material = into("material", 2);
-        for (const Catalogue::Material& source : catalogue.materials)
-            material.row({source.number, writeName(source.name)});
-        Insert format = into("format", 3);
-        for (const Catalogue::Format& source : catalogue.formats)
-            format.row({source.number, source.type, writeName(source.name)});
-        Insert printerFormat = into("printer_format", 3);
-        for (const Catalogue::PrinterFormat& source : catalogue.printerFormats)
-            printerFormat.row({source.model.isNull() ? QStringLiteral("") : source.model,
-                               source.position, source.format});
-    }
-
-    void writeSupplies(const Catalogue& catalogue)
-    {
-        Insert background = into("background", 3);
-        for (qsizetype i = 0; i < catalogue.backgrounds.size(); ++i)
-            background.row(
-                {rowId(i), catalogue.backgrounds.at(i).file, catalogue.backgrounds.at(i).image});
-        Insert supply = into("supply", 14);
-        Insert kind = into("supply_kind", 2);
-        for (const Catalogue::Supply& source : catalogue.supplies) {
-            supply.row({source.sku, source.material, source.format, rowId(source.colour),
-                        source.secondColour ? rowId(*source.secondColour) : QVariant(),
-                        orNull(source.secondColourWidth), source.width, source.length,
-                        orNull(source.labelLength), orNull(source.separatorWidth),
-                        source.isLandscape ? 1 : 0,
-                        source.background ? rowId(*source.background) : QVariant(),
-                        source.multiUpCount, orNull(source.multiUpGap)});
-            for (const int number : source.kinds)
-                kind.row({number, source.sku});
-        }
-    }
-
-    void writeRibbons(const Catalogue& catalogue)
-    {
-        Insert ribbon = into("ribbon", 4);
-        Insert panel = into("ribbon_panel", 3);
-        Insert number = into("ribbon_number", 2);
-        for (const Catalogue::Ribbon& source : catalogue.ribbons) {
-            ribbon.row({source.sku, source.type, source.width, source.length});
-            for (qsizetype i = 0; i < source.panelColours.size(); ++i)
-                panel.row({source.sku, rowId(i), rowId(source.panelColours.at(i))});
-            for (const int ribbonNumber : source.numbers)
-                number.row({ribbonNumber, source.sku});
-        }
-        Insert setting = into("print_setting", 7);
-        for (const Catalogue::PrintSetting& source : catalogue.settings)
-            setting.row({source.ribbonSku, source.panel, source.supplySku, source.heat,
-                         source.heatOffset, source.maxSpeed, source.tension});
-    }
-
-    const QSqlDatabase& m_database;
-    qsizetype m_names = 0;
-};
+    QSqlQuery query(database);
+    if (!query.exec(statement))
+        throw Fault(query.lastError().databaseText());
+}
 
 /// A connection that may write, gone with its name at the end of the scope.
 class WritingConnection
@@ -204,6 +75,113 @@ void putInPlace(const QString& madeFile, const QString& path)
 
 } // namespace
 
+void createTables(const QSqlDatabase& database)
+{
+    for (const QString& statement : SupplyDbSchema::statements())
+        run(database, statement);
+}
+
+CatalogueWriter::Insert::Insert(const QSqlDatabase& database, const char* table, int columns)
+    : m_query(database)
+{
+    QStringList marks;
+    marks.fill(QStringLiteral("?"), columns);
+    if (!m_query.prepare(QStringLiteral("INSERT INTO %1 VALUES (%2)")
+                             .arg(QLatin1String(table), marks.join(QStringLiteral(", ")))))
+        throw Fault(m_query.lastError().databaseText());
+}
+
+void CatalogueWriter::Insert::row(const QVariantList& values)
+{
+    for (qsizetype i = 0; i < values.size(); ++i)
+        m_query.bindValue(static_cast<int>(i), values.at(i));
+    if (!m_query.exec())
+        throw Fault(m_query.lastError().databaseText());
+}
+
+CatalogueWriter::CatalogueWriter(const QSqlDatabase& database)
+    : m_language(database, "language", 2)
+    , m_name(database, "name", 2)
+    , m_translation(database, "translation", 3)
+    , m_colour(database, "colour", 4)
+    , m_material(database, "material", 2)
+    , m_format(database, "format", 3)
+    , m_printerFormat(database, "printer_format", 3)
+    , m_background(database, "background", 3)
+    , m_supply(database, "supply", 14)
+    , m_supplyKind(database, "supply_kind", 2)
+    , m_ribbon(database, "ribbon", 4)
+    , m_ribbonPanel(database, "ribbon_panel", 3)
+    , m_ribbonNumber(database, "ribbon_number", 2)
+    , m_printSetting(database, "print_setting", 7)
+{}
+
+void CatalogueWriter::write(const Catalogue& catalogue)
+{
+    m_names = 0;
+    writeVocabulary(catalogue);
+    writeSupplies(catalogue);
+    writeRibbons(catalogue);
+}
+
+QVariant CatalogueWriter::writeName(const Name& name)
+{
+    const QVariant id = rowId(m_names++);
+    m_name.row({id, name.english});
+    for (auto entry = name.translations.begin(); entry != name.translations.end(); ++entry)
+        m_translation.row({id, entry.key(), entry.value()});
+    return id;
+}
+
+void CatalogueWriter::writeVocabulary(const Catalogue& catalogue)
+{
+    for (auto entry = catalogue.languages.begin(); entry != catalogue.languages.end(); ++entry)
+        m_language.row({entry.key(), entry.value()});
+    for (qsizetype i = 0; i < catalogue.colours.size(); ++i) {
+        const Catalogue::Colour& source = catalogue.colours.at(i);
+        m_colour.row({rowId(i), source.key, source.rgb, writeName(source.name)});
+    }
+    for (const Catalogue::Material& source : catalogue.materials)
+        m_material.row({source.number, writeName(source.name)});
+    for (const Catalogue::Format& source : catalogue.formats)
+        m_format.row({source.number, source.type, writeName(source.name)});
+    for (const Catalogue::PrinterFormat& source : catalogue.printerFormats)
+        m_printerFormat.row({source.model.isNull() ? QStringLiteral("") : source.model,
+                             source.position, source.format});
+}
+
+void CatalogueWriter::writeSupplies(const Catalogue& catalogue)
+{
+    for (qsizetype i = 0; i < catalogue.backgrounds.size(); ++i)
+        m_background.row(
+            {rowId(i), catalogue.backgrounds.at(i).file, catalogue.backgrounds.at(i).image});
+    for (const Catalogue::Supply& source : catalogue.supplies) {
+        m_supply.row({source.sku, source.material, source.format, rowId(source.colour),
+                      source.secondColour ? rowId(*source.secondColour) : QVariant(),
+                      orNull(source.secondColourWidth), source.width, source.length,
+                      orNull(source.labelLength), orNull(source.separatorWidth),
+                      source.isLandscape ? 1 : 0,
+                      source.background ? rowId(*source.background) : QVariant(),
+                      source.multiUpCount, orNull(source.multiUpGap)});
+        for (const int number : source.kinds)
+            m_supplyKind.row({number, source.sku});
+    }
+}
+
+void CatalogueWriter::writeRibbons(const Catalogue& catalogue)
+{
+    for (const Catalogue::Ribbon& source : catalogue.ribbons) {
+        m_ribbon.row({source.sku, source.type, source.width, source.length});
+        for (qsizetype i = 0; i < source.panelColours.size(); ++i)
+            m_ribbonPanel.row({source.sku, rowId(i), rowId(source.panelColours.at(i))});
+        for (const int ribbonNumber : source.numbers)
+            m_ribbonNumber.row({ribbonNumber, source.sku});
+    }
+    for (const Catalogue::PrintSetting& source : catalogue.settings)
+        m_printSetting.row({source.ribbonSku, source.panel, source.supplySku, source.heat,
+                            source.heatOffset, source.maxSpeed, source.tension});
+}
+
 void writeDatabase(const Catalogue& catalogue, const QString& path)
 {
     const QTemporaryDir workshop;
@@ -212,7 +190,15 @@ void writeDatabase(const Catalogue& catalogue, const QString& path)
     const QString draft = workshop.filePath(QStringLiteral("draft.db"));
     {
         const WritingConnection connection(draft);
-        Writer(connection.database()).write(catalogue);
+        const QSqlDatabase& database = connection.database();
+        // A file that is not in place yet needs no protection against a crash.
+        run(database, QStringLiteral("PRAGMA journal_mode = OFF"));
+        run(database, QStringLiteral("PRAGMA synchronous = OFF"));
+        run(database, QStringLiteral("PRAGMA foreign_keys = ON"));
+        run(database, QStringLiteral("BEGIN"));
+        createTables(database);
+        CatalogueWriter(database).write(catalogue);
+        run(database, QStringLiteral("COMMIT"));
     }
     checkDatabase(draft);
     putInPlace(draft, path);

@@ -53,9 +53,18 @@ QChar separatorOf(const QString& text)
 
 } // namespace
 
+QString CsvField::place() const
+{
+    return QStringLiteral("%1:%2, column %3 (%4)")
+        .arg(fileName)
+        .arg(line)
+        .arg(columnNumber)
+        .arg(column);
+}
+
 Fault CsvField::fault(const QString& reason) const
 {
-    return Fault(QStringLiteral("%1: %2").arg(place, reason));
+    return Fault(QStringLiteral("%1: %2").arg(place(), reason));
 }
 
 /// Reads a text row by row. Rows count from the line that they begin in.
@@ -204,15 +213,20 @@ CsvTable CsvTable::parse(const QString& fileName, const QByteArray& bytes)
     return table;
 }
 
+CsvField CsvTable::field(qsizetype row, QLatin1String column) const
+{
+    return fieldAt(row, m_columns.indexOf(column));
+}
+
 CsvField CsvTable::field(qsizetype row, const QString& column) const
 {
-    const qsizetype index = m_columns.indexOf(column);
+    return fieldAt(row, m_columns.indexOf(column));
+}
+
+CsvField CsvTable::fieldAt(qsizetype row, qsizetype column) const
+{
     const Row& source = m_rows.at(row);
-    return {source.fields.at(index), QStringLiteral("%1:%2, column %3 (%4)")
-                                         .arg(m_fileName)
-                                         .arg(source.line)
-                                         .arg(index + 1)
-                                         .arg(column)};
+    return {source.fields.at(column), m_fileName, source.line, column + 1, m_columns.at(column)};
 }
 
 Fault CsvTable::faultInHeader(const QString& column, const QString& reason) const

@@ -13,8 +13,13 @@
 struct CsvField
 {
     QString text;
-    QString place; ///< "supplies.csv:12, column 4 (width)"
+    QString fileName;
+    int line = 0;
+    qsizetype columnNumber = 0;
+    QString column;
 
+    /// "supplies.csv:12, column 4 (width)"
+    QString place() const;
     Fault fault(const QString& reason) const;
 };
 
@@ -30,7 +35,9 @@ public:
     qsizetype rowCount() const { return m_rows.size(); }
     const QStringList& columns() const { return m_columns; }
     bool hasColumn(const QString& column) const { return m_columns.contains(column); }
+    CsvField field(qsizetype row, QLatin1String column) const;
     CsvField field(qsizetype row, const QString& column) const;
+
     /// Where commas are decimal marks.
     bool hasDecimalCommas() const { return m_separator == u';'; }
 
@@ -38,6 +45,8 @@ public:
     Fault faultInFile(const QString& reason) const;
 
 private:
+    CsvField fieldAt(qsizetype row, qsizetype column) const;
+
     struct Row
     {
         int line = 0;

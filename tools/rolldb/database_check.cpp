@@ -2,13 +2,10 @@
 // Copyright The VxPrinterStatus authors
 #include "database_check.h"
 
-#include "fault.h"
-
 #include <supplydb_connection.h>
 #include <supplydb_schema.h>
 
 #include <QtSql/QSqlError>
-#include <QtSql/QSqlQuery>
 
 #include <array>
 
@@ -40,98 +37,97 @@ constexpr std::array Rules{
 };
 // clang-format on
 
-class Checker
-{
-public:
-    explicit Checker(const QString& path)
-        : m_path(path)
-    {
-        m_connection.setUp(path, path);
-        if (!m_connection.open())
-            throw fault(m_connection.fault());
-    }
-
-    DatabaseCounts check() const
-    {
-        checkStructure();
-        checkSchema();
-        if (const QString table = first(QStringLiteral("PRAGMA foreign_key_check"));
-            !table.isNull())
-            throw fault(QStringLiteral("a row of %1 refers to nothing").arg(table));
-        for (const Rule& rule : Rules) {
-            const QString subject = first(QString::fromLatin1(rule.statement));
-            if (!subject.isNull())
-                throw fault(QString::fromLatin1(rule.found).arg(subject));
-        }
-        return {count("supply"), count("ribbon"), count("print_setting"), count("language")};
-    }
-
-private:
-    void checkStructure() const
-    {
-        const QString answer = first(QStringLiteral("PRAGMA integrity_check(1)"));
-        if (answer != QLatin1String("ok"))
-            throw fault(QStringLiteral("damaged: %1").arg(answer.section(u'\n', -1)));
-    }
-
-    // The text of each table's statement is kept by SQLite as it was given.
-    void checkSchema() const
-    {
-        QStringList wanted;
-        for (const QString& statement : SupplyDbSchema::statements()) {
-            if (statement.startsWith(QLatin1String("CREATE ")))
-                wanted.append(statement);
-        }
-        QStringList found;
-        QSqlQuery query = run(QStringLiteral("SELECT sql FROM sqlite_schema "
-                                             "WHERE sql IS NOT NULL AND name NOT GLOB 'sqlite_*'"));
-        while (query.next())
-            found.append(query.value(0).toString());
-        wanted.sort();
-        found.sort();
-        if (found != wanted)
-            throw fault(QStringLiteral("its tables are not those of schema version %1")
-                            .arg(SupplyDbSchema::Version));
-    }
-
-    QSqlQuery run(const QString& statement) const
-    {
-        QSqlQuery query(m_connection.database());
-        query.setForwardOnly(true);
-        if (!query.exec(statement))
-            throw fault(QStringLiteral("damaged: %1").arg(query.lastError().databaseText()));
-        return query;
-    }
-
-    /// The first column of the first row; null when there is no row.
-    QString first(const QString& statement) const
-    {
-        QSqlQuery query = run(statement);
-        if (!query.next())
-            return {};
-        const QString text = query.value(0).toString();
-        return text.isNull() ? QStringLiteral("") : text;
-    }
-
-    int count(const char* table) const
-    {
-        QSqlQuery query = run(QStringLiteral("SELECT count(*) FROM %1").arg(QLatin1String(table)));
-        query.next();
-        return query.value(0).toInt();
-    }
-
-    Fault fault(const QString& reason) const
-    {
-        return Fault(QStringLiteral("%1: %2").arg(m_path, reason));
-    }
-
-    QString m_path;
-    SupplyDbConnection m_connection;
-};
-
 } // namespace
 
 DatabaseCounts checkDatabase(const QString& path)
 {
-    return Checker(path).check();
+    SupplyDbConnection connection;
+    connection.setUp(path, path);
+    if (!connection.open())
+        throw Fault(QStringLiteral("%1: %2").arg(path, connection.fault()));
+    return DatabaseChecker(connection.database(), path).check();
+}
+
+DatabaseChecker::DatabaseChecker(const QSqlDatabase& database, const QString& name)
+    : m_database(database)
+    , m_name(name)
+{}
+
+DatabaseCounts DatabaseChecker::check()
+{
+    checkStructure();
+    checkSchema();
+    if (const QString table = first(QStringLiteral("PRAGMA foreign_key_check")); !table.isNull())
+        throw fault(QStringLiteral("a row of %1 refers to nothing").arg(table));
+    for (const Rule& rule : Rules) {
+        const QString subject = first(QString::fromLatin1(rule.statement));
+        if (!subject.isNull())
+            throw fault(QString::fromLatin1(rule.found).arg(subject));
+    }
+    return {count("supply"), count("ribbon"), count("print_setting"), count("language")};
+}
+
+void DatabaseChecker::checkStructure()
+{
+    const QString answer = first(QStringLiteral("PRAGMA integrity_check(1)"));
+    if (answer != QLatin1String("ok"))
+        throw fault(QStringLiteral("damaged: %1").arg(answer.section(u'\n', -1)));
+}
+
+// The text of each table's statement is kept by SQLite as it was given.
+void DatabaseChecker::checkSchema()
+{
+    QStringList wanted;
+    for (const QString& statement : SupplyDbSchema::statements()) {
+        if (statement.startsWith(QLatin1String("CREATE ")))
+            wanted.append(statement);
+    }
+    QStringList found;
+    QSqlQuery& query = run(QStringLiteral("SELECT sql FROM sqlite_schema "
+                                          "WHERE sql IS NOT NULL AND name NOT GLOB 'sqlite_*'"));
+    while (query.next())
+        found.append(query.value(0).toString());
+    query.finish();
+    wanted.sort();
+    found.sort();
+    if (found != wanted)
+        throw fault(QStringLiteral("its tables are not those of schema version %1")
+                        .arg(SupplyDbSchema::Version));
+}
+
+QSqlQuery& DatabaseChecker::run(const QString& statement)
+{
+    auto [found, isNew] = m_queries.try_emplace(statement, m_database);
+    QSqlQuery& query = found->second;
+    if (isNew) {
+        query.setForwardOnly(true);
+        query.prepare(statement);
+    }
+    if (!query.exec())
+        throw fault(QStringLiteral("damaged: %1").arg(query.lastError().databaseText()));
+    return query;
+}
+
+/// The first column of the first row; null when there is no row.
+QString DatabaseChecker::first(const QString& statement)
+{
+    QSqlQuery& query = run(statement);
+    QString text;
+    if (query.next()) {
+        text = query.value(0).toString();
+        if (text.isNull())
+            text = QStringLiteral("");
+    }
+    query.finish();
+    return text;
+}
+
+int DatabaseChecker::count(const char* table)
+{
+    return first(QStringLiteral("SELECT count(*) FROM %1").arg(QLatin1String(table))).toInt();
+}
+
+Fault DatabaseChecker::fault(const QString& reason) const
+{
+    return Fault(QStringLiteral("%1: %2").arg(m_name, reason));
 }
