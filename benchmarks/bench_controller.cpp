@@ -254,7 +254,7 @@ void latency(benchmark::State& state)
     isLibraryMadeFirst = !isLibraryMadeFirst;
     Setting setting(events[number], isLibraryMadeFirst);
     Samples samples;
-    bool libraryFirst = true;
+    benchmark_support::Turns turns;
     const auto takeBlock = [&](const QString& printer, std::vector<double>& into) {
         double sum = 0;
         for (int index = 0; index < samplesPerBlock; ++index) {
@@ -267,12 +267,8 @@ void latency(benchmark::State& state)
     };
     for ([[maybe_unused]] auto iteration : state) {
         double sum = 0;
-        if (libraryFirst)
-            sum = takeBlock(libraryPrinter, samples.library);
-        takeBlock(floorPrinter, samples.floor);
-        if (!libraryFirst)
-            sum = takeBlock(libraryPrinter, samples.library);
-        libraryFirst = !libraryFirst;
+        turns.take([&] { sum = takeBlock(libraryPrinter, samples.library); },
+                   [&] { takeBlock(floorPrinter, samples.floor); });
         if (state.error_occurred())
             return;
         state.SetIterationTime(sum / samplesPerBlock * 1e-6);
@@ -322,14 +318,9 @@ void construction(benchmark::State& state)
         constructionTimes.floor.push_back(microseconds(Clock::now() - begin));
         settle();
     };
-    bool libraryFirst = true;
+    benchmark_support::Turns turns;
     for ([[maybe_unused]] auto iteration : state) {
-        if (libraryFirst)
-            takeLibrary();
-        takeFloor();
-        if (!libraryFirst)
-            takeLibrary();
-        libraryFirst = !libraryFirst;
+        turns.take(takeLibrary, takeFloor);
         state.SetIterationTime(constructionTimes.library.back() * 1e-6);
     }
     state.counters["library_median_us"] = benchmark_support::median(constructionTimes.library);

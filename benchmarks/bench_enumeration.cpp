@@ -176,14 +176,9 @@ void enumeration(benchmark::State& state, SerialFile file)
     const auto takeFloor = [&] {
         samples.floor.push_back(timed(&by_hand::enumerate).cpu / count);
     };
-    bool libraryFirst = true;
+    benchmark_support::Turns turns;
     for ([[maybe_unused]] auto iteration : state) {
-        if (libraryFirst)
-            takeLibrary();
-        takeFloor();
-        if (!libraryFirst)
-            takeLibrary();
-        libraryFirst = !libraryFirst;
+        turns.take(takeLibrary, takeFloor);
         samples.registry.push_back(costOf(&by_hand::readDevices).cpu / count);
     }
 

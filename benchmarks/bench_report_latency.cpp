@@ -175,7 +175,7 @@ void reportLatency(benchmark::State& state)
     isLibraryMadeFirst = !isLibraryMadeFirst;
     Setting setting(isLibraryMadeFirst);
     Samples samples;
-    bool libraryFirst = true;
+    benchmark_support::Turns turns;
     const auto takeBlock = [&](const QString& printer, std::vector<double>& into) {
         double sum = 0;
         for (int index = 0; index < samplesPerBlock; ++index) {
@@ -196,12 +196,7 @@ void reportLatency(benchmark::State& state)
     };
 
     for ([[maybe_unused]] auto iteration : state) {
-        if (libraryFirst)
-            takeLibraryBlock();
-        takeFloorBlock();
-        if (!libraryFirst)
-            takeLibraryBlock();
-        libraryFirst = !libraryFirst;
+        turns.take(takeLibraryBlock, takeFloorBlock);
         if (state.error_occurred())
             return;
     }

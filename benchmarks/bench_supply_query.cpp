@@ -235,14 +235,9 @@ void query(benchmark::State& state, Temperature temperature)
             floor = std::make_unique<Floor<Question>>();
         samples.floor.push_back(nanosecondsEach(*floor, keys, count, rounds));
     };
-    bool libraryFirst = true;
+    benchmark_support::Turns turns;
     for ([[maybe_unused]] auto iteration : state) {
-        if (libraryFirst)
-            takeLibrary();
-        takeFloor();
-        if (!libraryFirst)
-            takeLibrary();
-        libraryFirst = !libraryFirst;
+        turns.take(takeLibrary, takeFloor);
     }
     state.counters["library_ns"] = benchmark_support::median(samples.library);
     state.counters["floor_ns"] = benchmark_support::median(samples.floor);

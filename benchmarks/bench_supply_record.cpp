@@ -247,14 +247,9 @@ void supplyRecord(benchmark::State& state)
     const auto takeFloor = [&] {
         samples.floor.push_back(microsecondsEach([&] { return floor.record(); }));
     };
-    bool libraryFirst = true;
+    benchmark_support::Turns turns;
     for ([[maybe_unused]] auto iteration : state) {
-        if (libraryFirst)
-            takeLibrary();
-        takeFloor();
-        if (!libraryFirst)
-            takeLibrary();
-        libraryFirst = !libraryFirst;
+        turns.take(takeLibrary, takeFloor);
     }
     state.counters["library_us"] = benchmark_support::median(samples.library);
     state.counters["floor_us"] = benchmark_support::median(samples.floor);

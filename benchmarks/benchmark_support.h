@@ -30,6 +30,26 @@ struct Samples
     double ratio(double share = 0.5) const;
 };
 
+/// Who goes first changes from sample to sample, so that neither side always finds what the other
+/// left behind in caches and in the scheduler.
+class Turns
+{
+public:
+    template <typename TakeLibrary, typename TakeFloor>
+    void take(const TakeLibrary& takeLibrary, const TakeFloor& takeFloor)
+    {
+        if (m_libraryFirst)
+            takeLibrary();
+        takeFloor();
+        if (!m_libraryFirst)
+            takeLibrary();
+        m_libraryFirst = !m_libraryFirst;
+    }
+
+private:
+    bool m_libraryFirst = true;
+};
+
 /// The closing lines.
 class Limits
 {
