@@ -16,10 +16,10 @@ function(vx_add_test name)
         RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests"
         WIN32_EXECUTABLE OFF)
     add_test(NAME ${name} COMMAND ${name})
-    # A test that hangs is killed and reported within a minute; sanitizers slow everything down. On
-    # Windows Qt Test has to do it: its output is a file, of which CTest would not see the end.
+    # A test that hangs is killed and reported within a minute; sanitizers slow everything down. Under
+    # Wine it is Qt Test and the emulator that tell a test that hangs from one that takes its time.
     set(environment QT_QPA_PLATFORM=offscreen QT_FORCE_STDERR_LOGGING=1)
-    if(VX_SANITIZE)
+    if(VX_SANITIZE OR WIN32)
         set(limit 300)
     else()
         set(limit 60)

@@ -129,6 +129,9 @@ use_wine() {
         mkdir -p "$WINEPREFIX"
         wine wineboot -i >/dev/null 2>&1 </dev/null ||
             fail "wine could not make a prefix in $WINEPREFIX"
+        # On Windows always there, and what the current control set is a link to.
+        wine reg add 'HKLM\System\ControlSet001\Control\DeviceClasses' /f >/dev/null 2>&1 </dev/null ||
+            fail "wine could not add a key to its registry"
         wineserver -w
         touch "$WINEPREFIX/ready"
     fi

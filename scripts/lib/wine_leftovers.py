@@ -18,11 +18,14 @@ import tempfile
 
 prefix = pathlib.Path(os.environ["WINEPREFIX"])
 
-# What comes and goes whoever runs in a prefix: Wine counts the starts of services and writes down the
-# screens it finds. And the library's own: the folder in which endpoints of several processes tell of
-# each other, and there those of a process that a test has killed and that could not take leave.
+# What comes and goes whoever runs in a prefix: Wine counts the starts of services, writes down the
+# screens it finds, and makes the keys that drivers and printers are under with the first of them. And
+# the library's own: the folder in which endpoints of several processes tell of each other, and there
+# those of a process that a test has killed and that could not take leave.
 EXPECTED = re.compile(
     r"\[HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Control\\(ServiceCurrent|Video)\b"
+    r"|\\Print\\Environments\\Windows x64\\Drivers(\\Version-3)?\] ?$"
+    r"|\\Windows NT\\CurrentVersion\\(Devices|PrinterPorts|Windows)\] ?$"
     r"|drive_c/users/[^/]+/Temp/vxipc(/vxipc-\d+)?$")
 
 

@@ -238,7 +238,7 @@ void tst_VXIPCClient::keepsManyCallsInFlight()
         client.call(QStringLiteral("scale"), QJsonArray{i, 1},
                     [&](const VXIPCReply& outcome) { results.append(outcome.result.toInt(-1)); });
     }
-    QTRY_COMPARE(results.size(), Calls);
+    QTRY_COMPARE_WITH_TIMEOUT(results.size(), Calls, 30000);
     for (int i = 0; i < Calls; ++i)
         QCOMPARE(results.at(i), i);
 }
