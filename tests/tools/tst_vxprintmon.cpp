@@ -83,6 +83,7 @@ private Q_SLOTS:
     void initTestCase() { QVERIFY(m_home.isValid()); }
     void listForPeople();
     void listForPrograms();
+    void fleetOfHostsIsNotTheMonitors();
     void listWithoutPrinters();
 
     void statusForPeople();
@@ -227,6 +228,15 @@ Branch Office     BirchMax  192.168.1.20  -         Stratamark BirchMax        n
 Front Desk Laser  -         LPT1:         -         Everyday Office Laser 400  
 )";
     QCOMPARE(result.output, expected);
+}
+
+void VxPrintMonTest::fleetOfHostsIsNotTheMonitors()
+{
+    QProcessEnvironment hosts = environment();
+    hosts.insert(QStringLiteral("VX_VIRTUAL_FLEET"), QStringLiteral("built-in"));
+    const Result result = run({QStringLiteral("list")}, QStringLiteral(VXPRINTMON), hosts);
+    QCOMPARE(result.exitStatus, 0);
+    QCOMPARE(result.output, run({QStringLiteral("list")}).output);
 }
 
 void VxPrintMonTest::listForPrograms()

@@ -33,6 +33,8 @@ constexpr std::array runners{
 
 int main(int argc, char* argv[])
 {
+    // The monitor's printers are chosen by its arguments: a fleet meant for hosts would come on top.
+    qunsetenv("VX_VIRTUAL_FLEET");
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vxprintmon"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VX_VERSION));
