@@ -418,18 +418,27 @@ void VxPrintMonTest::statusEndsWhenInterrupted()
 {
     const QString fleet =
         fleetFile(R"({"printers": [{"name": "Mute", "driver": "Stratamark Alder"}]})");
-    QProcess process;
-    process.setProcessEnvironment(environment());
-    process.start(QStringLiteral(VXPRINTMON),
-                  {QStringLiteral("status"), QStringLiteral("--virtual"), fleet});
-    // Its endpoint is published from the event loop, in which it waits.
-    QTRY_VERIFY(entries().contains(QStringLiteral("vxipc-0")));
-    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), SIGINT), 0);
-    QVERIFY(process.waitForFinished(20000));
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(process.exitCode(), 1);
-    QCOMPARE(process.readAllStandardOutput(), QByteArray());
-    QCOMPARE(process.readAllStandardError(), QByteArray("vxprintmon: interrupted\n"));
+    // It waits for 2 seconds at most, in which a busy computer may not let this test have its turn.
+    int exitStatus = 0;
+    for (int attempt = 0; exitStatus == 0 && attempt < 10; ++attempt) {
+        QProcess process;
+        process.setProcessEnvironment(environment());
+        process.start(QStringLiteral(VXPRINTMON),
+                      {QStringLiteral("status"), QStringLiteral("--virtual"), fleet});
+        // Its endpoint is published from the event loop, in which it waits.
+        QTRY_VERIFY_WITH_TIMEOUT(entries().contains(QStringLiteral("vxipc-0")) ||
+                                     process.state() == QProcess::NotRunning,
+                                 20000);
+        process.terminate();
+        QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished(20000));
+        const Result result = resultOf(process);
+        exitStatus = result.exitStatus;
+        if (exitStatus != 0) {
+            QCOMPARE(result.output, QByteArray());
+            QCOMPARE(result.errors, QByteArray("vxprintmon: interrupted\n"));
+        }
+    }
+    QCOMPARE(exitStatus, 1);
 }
 
 void VxPrintMonTest::namesInOtherLanguages_data()
@@ -712,7 +721,8 @@ void VxPrintMonTest::twoAtOnce()
         QTRY_VERIFY_WITH_TIMEOUT((outputs[i] += processes[i].readAllStandardOutput())
                                      .contains(R"("softwareVersion":"4.1.3,boot 1.7")"),
                                  20000);
-        QTRY_COMPARE(entries().filter(QStringLiteral("vxipc-")).size(), 2 * (i + 1));
+        QTRY_COMPARE_WITH_TIMEOUT(entries().filter(QStringLiteral("vxipc-")).size(), 2 * (i + 1),
+                                  20000);
     }
     const QStringList endpoints = entries().filter(QStringLiteral("vxipc-"));
     QVERIFY(endpoints.contains(QStringLiteral("vxipc-0")));
@@ -743,7 +753,7 @@ const QList<Line>& VxPrintMonTest::story()
                      R"("ribbon2ColorHex":"#000000","ribbon2ColorName":"Black",)"
                      R"("ribbon2SKU":"RS-43-BK","softwareVersion":"4.2.0,boot 1.7")",
                      {QStringLiteral("watch"), QStringLiteral("--json"), QStringLiteral("--speed"),
-                      QStringLiteral("60")});
+                      QStringLiteral("200")});
         m_story = linesOf(result.output);
         if (result.exitStatus != 0 || !result.errors.isEmpty())
             qFatal("the story ended with status %d: %s\n%s", result.exitStatus,
