@@ -74,23 +74,21 @@ std::size_t indexOf(const QString& function)
 
 DWORD Machine::Private::beginWatched(Function function, int number, const QStringList& arguments)
 {
-    const Call call{QString::fromLatin1(functionName(function)), arguments,
-                    QThread::currentThreadId()};
+    Call call{QString::fromLatin1(functionName(function)), arguments, QThread::currentThreadId()};
     std::function<void(const Call&)> calledHook;
-    DWORD error = 0;
     {
         const std::lock_guard guard(lock);
+        for (const FailurePlan& plan : failures[static_cast<std::size_t>(function)]) {
+            if (number == plan.from || (plan.onwards && number > plan.from))
+                call.plannedError = plan.error;
+        }
         if (recording)
             calls.append(call);
         calledHook = hook;
-        for (const FailurePlan& plan : failures[static_cast<std::size_t>(function)]) {
-            if (number == plan.from || (plan.onwards && number > plan.from))
-                error = plan.error;
-        }
     }
     if (calledHook)
         calledHook(call);
-    return error;
+    return call.plannedError;
 }
 
 void Machine::Private::updateAttention()

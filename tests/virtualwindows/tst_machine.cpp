@@ -965,12 +965,17 @@ void MachineControlTest::nthCallFails()
     const HANDLE event = openEvent();
     machine().failCall(QStringLiteral("SetEvent"), 2, 8);
     machine().failCall(QStringLiteral("SetEvent"), 4, 5);
+    machine().recordCalls();
     QList<DWORD> errors;
     for (int count = 0; count < 5; ++count) {
         SetLastError(0);
         errors.append(SetEvent(event) ? 0 : GetLastError());
     }
     QCOMPARE(errors, QList<DWORD>({0, 8, 0, 5, 0}));
+    QList<DWORD> recorded;
+    for (const Call& call : machine().calls(QStringLiteral("SetEvent")))
+        recorded.append(call.plannedError);
+    QCOMPARE(recorded, errors);
     QVERIFY(ResetEvent(event));
     CloseHandle(event);
 }

@@ -58,6 +58,7 @@ struct Call
     QString function;
     QStringList arguments; ///< names and numbers as text, handles in hexadecimal
     Qt::HANDLE thread = nullptr;
+    quint32 plannedError = 0; ///< the error that failCall() made it fail with; 0: none
 };
 
 /// What was done wrong with a handle.

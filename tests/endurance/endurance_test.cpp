@@ -1,0 +1,290 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "endurance_test.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QMetaProperty>
+
+#include <array>
+#include <atomic>
+#include <filesystem>
+#include <fstream>
+
+#include <unistd.h>
+
+using VXPrinting::PrinterType;
+
+// Qt counts nothing itself; it calls whoever has entered himself here as objects come and go. The
+// places in the table are fixed, tools that look into running programs rely on them.
+extern Q_CORE_EXPORT quintptr qtHookData[];
+
+namespace {
+
+std::atomic<int> objectCount = 0;
+
+void onObjectMade(QObject* /*object*/)
+{
+    ++objectCount;
+}
+
+void onObjectGone(QObject* /*object*/)
+{
+    --objectCount;
+}
+
+void countObjects()
+{
+    constexpr std::size_t made = 3;
+    constexpr std::size_t gone = 4;
+    qtHookData[made] = reinterpret_cast<quintptr>(&onObjectMade);
+    qtHookData[gone] = reinterpret_cast<quintptr>(&onObjectGone);
+}
+
+/// Supplies and ribbons of one colour in the sample catalogue.
+struct Colour
+{
+    const char* suffix;
+    int supplyKind;
+    quint32 ribbonNumber;
+    const char* hex;
+    const char* name;
+
+    QString supplySku() const { return QStringLiteral("VT-400-") + QLatin1String(suffix); }
+    QString ribbonSku() const { return QStringLiteral("RS-43-") + QLatin1String(suffix); }
+};
+constexpr std::array colours{
+    Colour{"WH", 100001, 2003, "#ffffff", "White"}, Colour{"YL", 100003, 2007, "#ffd100", "Yellow"},
+    Colour{"RD", 100004, 2004, "#c8102e", "Red"},   Colour{"BL", 100005, 2005, "#0057b8", "Blue"},
+    Colour{"GN", 100006, 2006, "#00843d", "Green"}, Colour{"OR", 100007, 2008, "#ff6a13", "Orange"},
+    Colour{"BK", 100009, 2001, "#000000", "Black"},
+};
+/// Ready, errors of the driver, and the two that make the controller ask whether the printer is
+/// there.
+constexpr std::array statusCodes{1, 21, 255, 42, 0};
+
+// The catalogue's rolls of these supplies are 1200 inches long, its ribbons 4725: so many
+// millimetres are one percent, with a little over that the rounding down leaves alone.
+constexpr int rollFeet = 100;
+constexpr quint32 supplyMillimetresAPercent = 305;
+constexpr quint32 ribbonMillimetresAPercent = 1201;
+
+template <typename Table>
+const auto& at(const Table& table, int number)
+{
+    return table[static_cast<std::size_t>(number) % table.size()];
+}
+
+} // namespace
+
+QString LabelPrinter::driver() const
+{
+    switch (type) {
+    case PrinterType::Alder:
+        return QStringLiteral("Stratamark Alder");
+    case PrinterType::AlderMax:
+        return QStringLiteral("Stratamark AlderMax");
+    case PrinterType::BirchMax:
+        return QStringLiteral("Stratamark BirchMax");
+    case PrinterType::CedarMax:
+        return QStringLiteral("Stratamark CedarMax");
+    default:
+        return QStringLiteral("Everyday Office Laser 400");
+    }
+}
+
+Moment moment(const LabelPrinter& printer, int number)
+{
+    const Colour& supply = at(colours, number);
+    const Colour& ribbon1 = at(colours, number + 1);
+    const Colour& ribbon2 = at(colours, number + 2);
+    const int status = at(statusCodes, number);
+    // Steps that have no divisor in common with the 101 percentages there are.
+    const int supplyLeft = number * 7 % 101;
+    const int ribbon1Left = (number * 11 + 3) % 101;
+    const int ribbon2Left = (number * 13 + 5) % 101;
+    const QString version = QStringLiteral("4.%1.0,boot 1.7").arg(number);
+
+    const bool inPercent = printer.type == PrinterType::Alder;
+    const auto mileage = [inPercent](int percent, quint32 millimetresAPercent) {
+        return static_cast<quint32>(percent) * (inPercent ? 1 : millimetresAPercent);
+    };
+
+    Moment result;
+    result.values = {
+        PrinterValue::text("StatusCode", QByteArray::number(status)),
+        PrinterValue::text("SupplyIdentifier", QStringLiteral("%1%2%3")
+                                                   .arg(rollFeet, 8, 16, QLatin1Char('0'))
+                                                   .arg(supply.supplyKind)
+                                                   .arg(number % 0x1000000, 6, 16, QLatin1Char('0'))
+                                                   .toUpper()
+                                                   .toLatin1()),
+        PrinterValue::number("Ribbon1Identifier", ribbon1.ribbonNumber),
+        PrinterValue::number("Ribbon2Identifier", ribbon2.ribbonNumber),
+        PrinterValue::number("Mileage", mileage(supplyLeft, supplyMillimetresAPercent)),
+        PrinterValue::number("Ribbon1Mileage", mileage(ribbon1Left, ribbonMillimetresAPercent)),
+        PrinterValue::number("Ribbon2Mileage", mileage(ribbon2Left, ribbonMillimetresAPercent)),
+        PrinterValue::text("SoftwareVersion", version.toLatin1()),
+        PrinterValue::text("EthernetConfig", "dhcp," + QByteArray::number(number)),
+        PrinterValue::number("UpdateProgress", static_cast<quint32>(number)),
+        PrinterValue::number("UpdateError", static_cast<quint32>(number)),
+    };
+
+    PrinterStatusInformation& record = result.record;
+    record.printerName = printer.name;
+    record.statusEnum = status;
+    record.ribbon2Visible =
+        printer.type == PrinterType::Alder || printer.type == PrinterType::AlderMax;
+    record.supplySKU = supply.supplySku();
+    record.supplyColorHex = QLatin1String(supply.hex);
+    record.supplyColorName = QLatin1String(supply.name);
+    record.supplyMaterialName = QStringLiteral("Vinyl");
+    record.supplyPercentage = supplyLeft;
+    record.ribbon1SKU = ribbon1.ribbonSku();
+    record.ribbon1ColorHex = QLatin1String(ribbon1.hex);
+    record.ribbon1ColorName = QLatin1String(ribbon1.name);
+    record.ribbon1Percentage = ribbon1Left;
+    record.ribbon2SKU = ribbon2.ribbonSku();
+    record.ribbon2ColorHex = QLatin1String(ribbon2.hex);
+    record.ribbon2ColorName = QLatin1String(ribbon2.name);
+    record.ribbon2Percentage = ribbon2Left;
+    record.softwareVersion = version;
+    return result;
+}
+
+QList<PrinterValue> withoutMileages(const QList<PrinterValue>& values)
+{
+    QList<PrinterValue> others = values;
+    others.removeIf([](const PrinterValue& value) { return value.name.endsWith("Mileage"); });
+    return others;
+}
+
+QString difference(const PrinterStatusInformation& actual, const PrinterStatusInformation& expected)
+{
+    QStringList differences;
+    const QMetaObject& type = PrinterStatusInformation::staticMetaObject;
+    for (int index = 0; index < type.propertyCount(); ++index) {
+        const QMetaProperty property = type.property(index);
+        if (qstrcmp(property.name(), "printerDefault") == 0)
+            continue;
+        const QVariant is = property.readOnGadget(&actual);
+        const QVariant shall = property.readOnGadget(&expected);
+        if (is != shall)
+            differences.append(
+                QStringLiteral("%1 is \"%2\" instead of \"%3\"")
+                    .arg(QLatin1String(property.name()), is.toString(), shall.toString()));
+    }
+    return differences.join(QStringLiteral(", "));
+}
+
+Footprint Footprint::now()
+{
+    // Not through QDir or QFile, which open files and make objects of their own.
+    const auto entries = [](const char* folder) {
+        int count = 0;
+        std::error_code error;
+        for ([[maybe_unused]] const auto& entry :
+             std::filesystem::directory_iterator(folder, error))
+            ++count;
+        return count;
+    };
+    Footprint footprint;
+    footprint.threads = entries("/proc/self/task");
+    footprint.openFiles = entries("/proc/self/fd");
+    footprint.objects = objectCount;
+    qint64 totalPages = 0;
+    qint64 residentPages = 0;
+    std::ifstream("/proc/self/statm") >> totalPages >> residentPages;
+    footprint.residentBytes = residentPages * sysconf(_SC_PAGESIZE);
+    return footprint;
+}
+
+void EnduranceTest::initMain()
+{
+    // Names of colours and materials come in the user's language.
+    qputenv("LC_ALL", "C");
+    qunsetenv("LANGUAGE");
+    countObjects();
+}
+
+void EnduranceTest::addPrinter(const LabelPrinter& printer, const QString& port)
+{
+    machine().addPrinter({.name = printer.name, .driver = printer.driver(), .port = port});
+}
+
+void EnduranceTest::publish(const LabelPrinter& printer, const Moment& moment)
+{
+    machine().publish(printer.name, moment.values);
+}
+
+int EnduranceTest::fromEnvironment(const char* variable, int shortForm)
+{
+    if (!qEnvironmentVariableIsSet(variable))
+        return shortForm;
+    bool isNumber = false;
+    const int value = qEnvironmentVariableIntValue(variable, &isNumber);
+    if (!isNumber || value < 1)
+        qFatal("%s: expected a number from 1, found \"%s\"", variable,
+               qgetenv(variable).constData());
+    return value;
+}
+
+bool EnduranceTest::settle(int watchingThreads)
+{
+    if (!machine().waitForWaitingThreads(watchingThreads, std::chrono::milliseconds(patience)))
+        return false;
+    QCoreApplication::processEvents();
+    return true;
+}
+
+bool EnduranceTest::letThreadsPoll(int watchingThreads)
+{
+    machine().advance(spoolerPoll);
+    return settle(watchingThreads);
+}
+
+std::optional<PrinterStatusInformation>
+EnduranceTest::recordOf(const PrinterStatusController& controller, const QString& name)
+{
+    const QVariantList records = controller.getAvailablePrinters();
+    for (const QVariant& entry : records) {
+        auto record = entry.value<PrinterStatusInformation>();
+        if (record.printerName == name)
+            return record;
+    }
+    return std::nullopt;
+}
+
+QString EnduranceTest::mismatch(const PrinterStatusController& controller,
+                                const LabelPrinter& printer, const Moment& moment)
+{
+    const auto record = recordOf(controller, printer.name);
+    if (!record)
+        return printer.name + QStringLiteral(" has no record");
+    const QString found = difference(*record, moment.record);
+    return found.isEmpty() ? QString() : printer.name + QStringLiteral(": ") + found;
+}
+
+QStringList EnduranceTest::publishedEndpoints() const
+{
+    return QDir(m_runtime->path()).entryList({QStringLiteral("vxipc-*")}, QDir::System, QDir::Name);
+}
+
+void EnduranceTest::init()
+{
+    MachineTest::init();
+    machine().driveTime();
+    m_runtime = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_runtime->isValid());
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_runtime->path()));
+}
+
+void EnduranceTest::cleanup()
+{
+    machine().setCallHook(nullptr);
+    machine().clearFailures();
+    const QStringList left = publishedEndpoints();
+    m_runtime.reset();
+    MachineTest::cleanup();
+    QVERIFY2(left.isEmpty(), qPrintable(left.join(QLatin1Char(' '))));
+}

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#pragma once
+
+#include "machine_test.h"
+
+#include "printer_status_controller.h"
+
+#include <QtCore/QPointer>
+
+#include <chrono>
+#include <memory>
+#include <optional>
+
+using namespace std::chrono_literals;
+using virtualwindows::Call;
+using virtualwindows::PrinterValue;
+
+/// Milliseconds after which a wait for something that has to happen is a failure.
+inline constexpr int patience = 20000;
+/// A thread that gets no notification asks for the spooler's state this often.
+inline constexpr auto spoolerPoll = 5000ms;
+
+/// A label printer of a test.
+struct LabelPrinter
+{
+    QString name;
+    VXPrinting::PrinterType type = VXPrinting::PrinterType::AlderMax;
+
+    QString driver() const;
+};
+
+/// A moment in a printer's life: everything that its driver publishes then, and the record that
+/// follows from it. In neighbouring moments every value differs.
+struct Moment
+{
+    QList<PrinterValue> values;
+    PrinterStatusInformation record;
+};
+Moment moment(const LabelPrinter& printer, int number);
+/// The same but for the values that the printer's mileages are computed from.
+QList<PrinterValue> withoutMileages(const QList<PrinterValue>& values);
+
+/// What two records differ in, for people to read; empty when it is nothing. `printerDefault` is
+/// left out: it tells of the past.
+QString difference(const PrinterStatusInformation& actual,
+                   const PrinterStatusInformation& expected);
+
+/// What the process has of things that a host must not be left with.
+struct Footprint
+{
+    int threads = 0;
+    int openFiles = 0;
+    int objects = 0; ///< QObjects
+    qint64 residentBytes = 0;
+
+    static Footprint now();
+};
+
+/// Base of the tests that run the whole controller, with the sample catalogue beside them and
+/// endpoints that nobody else sees.
+class EnduranceTest : public MachineTest
+{
+    Q_OBJECT
+
+public:
+    static void initMain();
+
+protected:
+    void addPrinter(const LabelPrinter& printer, const QString& port = QStringLiteral("USB001"));
+    void publish(const LabelPrinter& printer, const Moment& moment);
+
+    /// A number from the environment, or the one of the short form.
+    static int fromEnvironment(const char* variable, int shortForm);
+
+    /// Waits until so many threads have done their work, and lets the host have their reports.
+    [[nodiscard]] bool settle(int watchingThreads);
+    /// Time without a notification passes until every thread asks for the spooler's state.
+    [[nodiscard]] bool letThreadsPoll(int watchingThreads);
+
+    static std::optional<PrinterStatusInformation>
+    recordOf(const PrinterStatusController& controller, const QString& name);
+    /// What keeps a printer's record from being that moment's; empty when nothing does.
+    static QString mismatch(const PrinterStatusController& controller, const LabelPrinter& printer,
+                            const Moment& moment);
+    /// The endpoints that other processes can find.
+    QStringList publishedEndpoints() const;
+
+protected Q_SLOTS:
+    void init() override;
+    void cleanup() override;
+
+private:
+    std::unique_ptr<QTemporaryDir> m_runtime;
+};

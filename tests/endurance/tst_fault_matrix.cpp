@@ -1,0 +1,567 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// Every Windows call fails once, at each of its uses, while a controller finds three printers, sees
+// their values change, loses the print spooler and has it back, sends a command, looks for printers
+// again and is destroyed.
+//
+// The printers' threads run beside each other, so which of them makes the n-th call of a function
+// differs from run to run. The test takes it as it comes: it sees whose call failed, and expects
+// what such a failure has for consequence.
+#include "endurance_test.h"
+#include "log_recorder.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QMutex>
+
+#include <algorithm>
+#include <array>
+
+#include <windows.h>
+#include <winspool.h>
+
+using VXPrinting::PrinterType;
+
+namespace {
+
+enum class Phase
+{
+    Start, ///< construction and the threads' first reads
+    Change,
+    SpoolerStops,
+    SpoolerRuns,
+    Command,
+    Discovery,
+    End, ///< destruction
+};
+
+enum class Caller
+{
+    Host,
+    Thread, ///< a printer's
+};
+
+enum class Access
+{
+    Any,
+    Plain,
+    Full, ///< PRINTER_ALL_ACCESS
+};
+
+/// When a change of a printer reaches its record once nothing fails any more.
+enum class Arrival
+{
+    AtOnce,
+    AfterPoll,    ///< the thread has asked for the spooler's state again
+    AfterRestart, ///< the spooler has been down and is running again
+    Never,        ///< nothing in this controller watches the printer any more
+};
+
+/// The one call that was made to fail.
+struct Failure
+{
+    QString function;
+    Phase phase = Phase::Start;
+    Caller caller = Caller::Host;
+    Access access = Access::Any;
+    QString printer; ///< that the call was about; empty for the host's that name none
+};
+
+/// What a failure has for consequence, where it is another than none: the first that fits counts.
+struct Consequence
+{
+    const char* function;
+    Caller caller;
+    Access access;
+    std::optional<Phase> phase;
+    Arrival arrival;
+    int status;         ///< what the record says until then; 0 where it stays as it was
+    const char* logged; ///< with the printer's name before it
+    const char* reason;
+};
+constexpr int unchanged = 0;
+constexpr std::array consequences{
+    Consequence{"OpenPrinterA", Caller::Host, Access::Full, Phase::Start, Arrival::Never, 258,
+                nullptr, "a printer that the user may not administer is listed and not watched"},
+    Consequence{"OpenPrinterA", Caller::Thread, Access::Plain, Phase::SpoolerRuns,
+                Arrival::AfterRestart, 254, ": Failed to open printer",
+                "opening a printer is not repeated before the spooler restarts"},
+    Consequence{"FindFirstPrinterChangeNotification", Caller::Thread, Access::Any,
+                Phase::SpoolerRuns, Arrival::AfterRestart, 254, ": Failed to create event objects",
+                "neither is asking for its notification"},
+    Consequence{"QueryServiceStatus", Caller::Thread, Access::Any, Phase::SpoolerRuns,
+                Arrival::AfterPoll, 254, nullptr,
+                "a spooler that does not tell its state counts as stopped until it does"},
+    Consequence{"CreateEventW", Caller::Thread, Access::Any, std::nullopt, Arrival::Never,
+                unchanged, nullptr,
+                "a thread that could not be told to end does not begin to watch"},
+    Consequence{"OpenSCManagerW", Caller::Thread, Access::Any, std::nullopt, Arrival::Never,
+                unchanged, nullptr, "without the service a thread cannot see the spooler restart"},
+    Consequence{"OpenServiceW", Caller::Thread, Access::Any, std::nullopt, Arrival::Never,
+                unchanged, nullptr, "the same"},
+};
+
+/// Errors that these functions are known to fail with.
+const QHash<QString, quint32> plausibleErrors{
+    {QStringLiteral("CreateEventW"), ERROR_NOT_ENOUGH_MEMORY},
+    {QStringLiteral("EnumPrintersW"), RPC_S_SERVER_UNAVAILABLE},
+    {QStringLiteral("FindFirstPrinterChangeNotification"), ERROR_NOT_ENOUGH_MEMORY},
+    {QStringLiteral("GetDefaultPrinterW"), ERROR_FILE_NOT_FOUND},
+    {QStringLiteral("GetPrinterDataA"), ERROR_FILE_NOT_FOUND},
+    {QStringLiteral("GetPrinterW"), RPC_S_SERVER_UNAVAILABLE},
+    {QStringLiteral("OpenPrinterA"), ERROR_ACCESS_DENIED},
+    {QStringLiteral("OpenSCManagerW"), ERROR_ACCESS_DENIED},
+    {QStringLiteral("OpenServiceW"), ERROR_ACCESS_DENIED},
+    {QStringLiteral("QueryServiceStatus"), RPC_S_SERVER_UNAVAILABLE},
+    {QStringLiteral("StartDocPrinterW"), ERROR_NOT_ENOUGH_MEMORY},
+    {QStringLiteral("WritePrinter"), ERROR_PRINT_CANCELLED},
+};
+quint32 plausibleError(const QString& function)
+{
+    return plausibleErrors.value(function, ERROR_INVALID_HANDLE);
+}
+
+/// What the log says of a command that did not reach the printer.
+struct CommandLine
+{
+    const char* function;
+    const char* logged;
+};
+constexpr std::array commandLines{
+    CommandLine{"OpenPrinterA", "Alder at the window: OpenPrinter call failed"},
+    CommandLine{"StartDocPrinterW", "ERROR: failed to start print job"},
+    CommandLine{"StartPagePrinter", "ERROR: failed to start new (virtual) page"},
+    CommandLine{"WritePrinter", "ERROR: printer does not accept (all) data\n"},
+};
+
+const LabelPrinter alder{QStringLiteral("Alder at the window"), PrinterType::Alder};
+const LabelPrinter alderMax{QStringLiteral("AlderMax at the door"), PrinterType::AlderMax};
+const LabelPrinter cedarMax{QStringLiteral("CedarMax upstairs"), PrinterType::CedarMax};
+const std::array labelPrinters{alder, alderMax, cedarMax};
+/// Not the first by name, which is the one that is chosen when there is no default printer.
+const LabelPrinter& windowsDefault = alderMax;
+
+/// A printer whose notification could not be had is closed at once, and, as its handle is kept,
+/// once more when the spooler stops or the thread ends.
+const QString printerClosedTwice = QStringLiteral("a printer was closed twice");
+
+constexpr int firstMoment = 0;
+constexpr int lastMoment = 11;
+
+/// Sees which thread watches which printer, and whose call fails.
+class Observer
+{
+public:
+    explicit Observer(virtualwindows::Machine& machine)
+        : m_machine(machine)
+        , m_host(QThread::currentThreadId())
+    {
+        machine.setCallHook([this](const Call& call) { see(call); });
+    }
+    ~Observer() { m_machine.setCallHook(nullptr); }
+    Q_DISABLE_COPY_MOVE(Observer)
+
+    void enter(Phase phase)
+    {
+        const QMutexLocker guard(&m_mutex);
+        m_phase = phase;
+    }
+    std::optional<Failure> failure() const
+    {
+        const QMutexLocker guard(&m_mutex);
+        return m_failure;
+    }
+
+private:
+    void see(const Call& call)
+    {
+        const QMutexLocker guard(&m_mutex);
+        const bool opensPrinter = call.function == QLatin1String("OpenPrinterA");
+        const bool isHosts = call.thread == m_host;
+        // The first thing that a thread does is to open its printer.
+        if (opensPrinter && !isHosts)
+            m_printers.insert(call.thread, call.arguments.first());
+        if (!call.plannedError)
+            return;
+        Failure failure{
+            call.function, m_phase, isHosts ? Caller::Host : Caller::Thread, Access::Any, {}};
+        if (opensPrinter) {
+            failure.printer = call.arguments.first();
+            failure.access = call.arguments.last() == QString::number(PRINTER_ALL_ACCESS)
+                                 ? Access::Full
+                                 : Access::Plain;
+        } else if (!isHosts) {
+            failure.printer = m_printers.value(call.thread);
+        }
+        m_failure = failure;
+    }
+
+    virtualwindows::Machine& m_machine;
+    const Qt::HANDLE m_host;
+    mutable QMutex m_mutex;
+    Phase m_phase = Phase::Start;
+    QHash<Qt::HANDLE, QString> m_printers;
+    std::optional<Failure> m_failure;
+};
+
+const Consequence* consequenceOf(const std::optional<Failure>& failure)
+{
+    if (!failure)
+        return nullptr;
+    const auto found = std::ranges::find_if(consequences, [&](const Consequence& entry) {
+        return failure->function == QLatin1String(entry.function) &&
+               failure->caller == entry.caller &&
+               (entry.access == Access::Any || failure->access == entry.access) &&
+               (!entry.phase || failure->phase == *entry.phase);
+    });
+    return found == consequences.end() ? nullptr : &*found;
+}
+
+QString describe(const std::optional<Failure>& failure)
+{
+    if (!failure)
+        return QStringLiteral("nothing failed");
+    return QStringLiteral("failed in phase %1, called by %2, printer \"%3\"")
+        .arg(static_cast<int>(failure->phase))
+        .arg(failure->caller == Caller::Host ? QStringLiteral("the host")
+                                             : QStringLiteral("a printer's thread"),
+             failure->printer);
+}
+
+} // namespace
+
+class FaultMatrixTest : public EnduranceTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void callFails_data();
+    void callFails();
+    void callFailsAtTheEnd_data();
+    void callFailsAtTheEnd();
+
+private:
+    struct Run
+    {
+        std::unique_ptr<Observer> observer;
+        std::unique_ptr<LogRecorder> log;
+        std::unique_ptr<PrinterStatusController> controller;
+        int deadThreads = 0; ///< that cannot have their stop event
+        QString trouble;     ///< the first thing that is not as it should be
+
+        void check(bool holds, const QString& otherwise)
+        {
+            if (!holds && trouble.isEmpty())
+                trouble = otherwise;
+        }
+    };
+
+    int watchingThreads(const Run& run) const;
+    void settle(Run& run, const char* after);
+    void letThreadsPoll(Run& run, const char* after);
+    Run begin(const QString& function, int nth);
+    void work(Run& run);
+    void checkCommand(Run& run);
+    void checkAfterwards(Run& run);
+    void end(Run& run);
+    /// The whole way with the n-th use of a function failing; says what went wrong, if anything.
+    QString runWithFailure(const QString& function, int nth, bool& hasFailed);
+    QString runWithFailureAtTheEnd(const QString& function, int nth, bool& hasFailed);
+
+    QList<QPair<QString, int>> m_uses;
+    QList<QPair<QString, int>> m_usesAtTheEnd;
+};
+
+int FaultMatrixTest::watchingThreads(const Run& run) const
+{
+    const QVariantList records = run.controller->getAvailablePrinters();
+    const auto managed = std::ranges::count_if(records, [](const QVariant& entry) {
+        return !entry.value<PrinterStatusInformation>().printerNonAdmin;
+    });
+    return std::max(0, static_cast<int>(managed) - run.deadThreads);
+}
+
+void FaultMatrixTest::settle(Run& run, const char* after)
+{
+    run.check(EnduranceTest::settle(watchingThreads(run)),
+              QStringLiteral("the threads did not come to rest after ") + QLatin1String(after));
+}
+
+void FaultMatrixTest::letThreadsPoll(Run& run, const char* after)
+{
+    run.check(EnduranceTest::letThreadsPoll(watchingThreads(run)),
+              QStringLiteral("the threads did not come to rest after ") + QLatin1String(after));
+}
+
+FaultMatrixTest::Run FaultMatrixTest::begin(const QString& function, int nth)
+{
+    machine().reset();
+    machine().driveTime();
+    for (const LabelPrinter& printer : labelPrinters) {
+        addPrinter(printer);
+        publish(printer, moment(printer, firstMoment));
+    }
+    machine().setDefaultPrinter(windowsDefault.name);
+    machine().addDevice({QStringLiteral("{28d78fad-5a12-11d1-ae5b-0000f803a8c2}"),
+                         QStringLiteral("##?#USB#VID_3E7A&PID_0104#1"), 1, QStringLiteral("1")});
+
+    Run run;
+    run.observer = std::make_unique<Observer>(machine());
+    run.log = std::make_unique<LogRecorder>();
+    if (nth > 0)
+        machine().failCall(function, nth, plausibleError(function));
+    run.controller = std::make_unique<PrinterStatusController>();
+    if (nth > 0 && function == QLatin1String("CreateEventW"))
+        run.deadThreads = 1;
+    settle(run, "the start");
+    return run;
+}
+
+void FaultMatrixTest::work(Run& run)
+{
+    const auto enter = [&](Phase phase) {
+        run.observer->enter(phase);
+    };
+
+    enter(Phase::Change);
+    publish(alder, moment(alder, 1));
+    settle(run, "a change of everything");
+    // One that says 255 is read through a handle opened for it at its next change.
+    publish(alderMax, moment(alderMax, 2));
+    settle(run, "a printer that cannot be read");
+    publish(alderMax, moment(alderMax, 3));
+    settle(run, "a printer that can be read again");
+    machine().unpublish(cedarMax.name, "StatusCode");
+    settle(run, "a printer that tells no status");
+    machine().publish(cedarMax.name, PrinterValue::text("StatusCode", "1"));
+    settle(run, "a printer that tells its status again");
+
+    enter(Phase::SpoolerStops);
+    machine().stopSpooler();
+    letThreadsPoll(run, "the stop of the spooler");
+    enter(Phase::SpoolerRuns);
+    machine().startSpooler();
+    letThreadsPoll(run, "the start of the spooler");
+
+    enter(Phase::Command);
+    run.controller->sendCommandToPrinter(QStringLiteral("~JC"), alder.name);
+    settle(run, "a command");
+    checkCommand(run);
+
+    enter(Phase::Discovery);
+    run.controller->checkForPrinters();
+    settle(run, "a look for printers");
+}
+
+void FaultMatrixTest::checkCommand(Run& run)
+{
+    const std::optional<Failure> failure = run.observer->failure();
+    if (failure && failure->phase == Phase::Command && failure->caller == Caller::Host) {
+        const auto line = std::ranges::find_if(commandLines, [&](const CommandLine& entry) {
+            return failure->function == QLatin1String(entry.function);
+        });
+        if (line != commandLines.end()) {
+            const QList<LogRecord> records = run.log->records();
+            run.check(std::ranges::any_of(records,
+                                          [&](const LogRecord& record) {
+                                              return record.message == QLatin1String(line->logged);
+                                          }),
+                      QStringLiteral("the log does not say that the command failed"));
+            return;
+        }
+    }
+    const QList<virtualwindows::PrintJob> jobs = machine().jobs(alder.name);
+    run.check(jobs.size() == 1 && jobs.first().finished &&
+                  jobs.first().pages == QList<QByteArray>{"~JC\r\n"},
+              QStringLiteral("the command did not reach the printer"));
+}
+
+void FaultMatrixTest::checkAfterwards(Run& run)
+{
+    const std::optional<Failure> failure = run.observer->failure();
+    const Consequence* const consequence = consequenceOf(failure);
+    const auto arrivalOf = [&](const LabelPrinter& printer) {
+        const bool isHit = consequence && failure->printer == printer.name;
+        return isHit ? consequence->arrival : Arrival::AtOnce;
+    };
+    const auto checkArrivals = [&](Arrival moments, const char* when) {
+        for (const LabelPrinter& printer : labelPrinters) {
+            const QString wrong = mismatch(*run.controller, printer, moment(printer, lastMoment));
+            if (arrivalOf(printer) <= moments)
+                run.check(wrong.isEmpty(), QLatin1String(when) + QLatin1String(": ") + wrong);
+            else
+                run.check(!wrong.isEmpty(), printer.name +
+                                                QLatin1String(" has a change that cannot "
+                                                              "have come, for ") +
+                                                QLatin1String(consequence->reason));
+        }
+    };
+
+    machine().clearFailures();
+    for (const LabelPrinter& printer : labelPrinters)
+        publish(printer, moment(printer, lastMoment));
+    settle(run, "a change after the failure");
+    checkArrivals(Arrival::AtOnce, "at once");
+
+    // Where the default printer cannot be managed there is none to take the place of the first.
+    const bool isDefaultManaged =
+        !consequence || consequence->status != 258 || failure->printer != windowsDefault.name;
+    run.check(
+        run.controller->activeDefaultPrinter() ==
+            (isDefaultManaged ? windowsDefault.name : alder.name),
+        QStringLiteral("the active printer is \"%1\"").arg(run.controller->activeDefaultPrinter()));
+    if (!consequence)
+        return;
+
+    const auto record = recordOf(*run.controller, failure->printer);
+    run.check(record &&
+                  (consequence->status == unchanged || record->statusEnum == consequence->status),
+              failure->printer + QLatin1String(" does not say what is wrong"));
+    if (consequence->logged) {
+        const QList<LogRecord> records = run.log->records();
+        run.check(std::ranges::any_of(records,
+                                      [&](const LogRecord& entry) {
+                                          return entry.message ==
+                                                 failure->printer +
+                                                     QLatin1String(consequence->logged);
+                                      }),
+                  QStringLiteral("the log does not say what is wrong"));
+    }
+
+    letThreadsPoll(run, "a poll after the failure");
+    checkArrivals(Arrival::AfterPoll, "after a poll");
+    machine().stopSpooler();
+    letThreadsPoll(run, "another stop of the spooler");
+    machine().startSpooler();
+    letThreadsPoll(run, "another start of the spooler");
+    checkArrivals(Arrival::AfterRestart, "after a restart");
+}
+
+void FaultMatrixTest::end(Run& run)
+{
+    run.observer->enter(Phase::End);
+    run.controller.reset();
+    QStringList misuses;
+    for (const virtualwindows::HandleMisuse& misuse : machine().settle()) {
+        const bool isClosedTwice =
+            misuse.kind == Kind::ClosedTwice && misuse.function == QLatin1String("ClosePrinter");
+        misuses.append(isClosedTwice ? printerClosedTwice : misuse.text);
+    }
+    const std::optional<Failure> failure = run.observer->failure();
+    const bool hasNoNotification =
+        failure && failure->function == QLatin1String("FindFirstPrinterChangeNotification");
+    run.check(misuses == (hasNoNotification ? QStringList{printerClosedTwice} : QStringList()),
+              misuses.join(QStringLiteral(", ")));
+    run.check(machine().waitingThreads() == 0, QStringLiteral("a thread still waits"));
+}
+
+QString FaultMatrixTest::runWithFailure(const QString& function, int nth, bool& hasFailed)
+{
+    Run run = begin(function, nth);
+    work(run);
+    hasFailed = run.observer->failure().has_value();
+    checkAfterwards(run);
+    const std::optional<Failure> failure = run.observer->failure();
+    end(run);
+    machine().reset();
+    return run.trouble.isEmpty() ? QString()
+                                 : run.trouble + QStringLiteral(" (%1)").arg(describe(failure));
+}
+
+QString FaultMatrixTest::runWithFailureAtTheEnd(const QString& function, int nth, bool& hasFailed)
+{
+    Run run = begin({}, 0);
+    run.observer->enter(Phase::End);
+    machine().failCall(function, nth, plausibleError(function));
+    end(run);
+    const std::optional<Failure> failure = run.observer->failure();
+    hasFailed = failure.has_value();
+    machine().clearFailures();
+
+    // The next controller has the printers as if nothing had been.
+    run.controller = std::make_unique<PrinterStatusController>();
+    settle(run, "another start");
+    for (const LabelPrinter& printer : labelPrinters) {
+        const QString wrong = mismatch(*run.controller, printer, moment(printer, firstMoment));
+        run.check(wrong.isEmpty(), wrong);
+    }
+    end(run);
+    machine().reset();
+    return run.trouble.isEmpty() ? QString()
+                                 : run.trouble + QStringLiteral(" (%1)").arg(describe(failure));
+}
+
+void FaultMatrixTest::initTestCase()
+{
+    init();
+    bool hasFailed = false;
+    const QString trouble = runWithFailure({}, 0, hasFailed);
+    QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
+
+    Run run = begin({}, 0);
+    work(run);
+    m_uses = machine().callCounts();
+    end(run);
+    QVERIFY2(run.trouble.isEmpty(), qPrintable(run.trouble));
+
+    run = begin({}, 0);
+    const QList<QPair<QString, int>> before = machine().callCounts();
+    end(run);
+    const QList<QPair<QString, int>> all = machine().callCounts();
+    for (const auto& [function, count] : all) {
+        const auto same = std::ranges::find(before, function, &QPair<QString, int>::first);
+        const int atTheEnd = count - (same == before.end() ? 0 : same->second);
+        if (atTheEnd > 0)
+            m_usesAtTheEnd.append({function, atTheEnd});
+    }
+    cleanup();
+}
+
+void FaultMatrixTest::callFails_data()
+{
+    QTest::addColumn<QString>("function");
+    QTest::addColumn<int>("uses");
+    for (const auto& [function, count] : std::as_const(m_uses))
+        QTest::newRow(qPrintable(function)) << function << count;
+}
+
+void FaultMatrixTest::callFails()
+{
+    QFETCH(const QString, function);
+    QFETCH(const int, uses);
+    int failed = 0;
+    for (int nth = 1; nth <= uses; ++nth) {
+        bool hasFailed = false;
+        const QString trouble = runWithFailure(function, nth, hasFailed);
+        QVERIFY2(trouble.isEmpty(), qPrintable(QStringLiteral("use %1: %2").arg(nth).arg(trouble)));
+        failed += hasFailed ? 1 : 0;
+    }
+    // How often a thread reads while a command is printed is a matter of chance, so that the last
+    // uses need not occur in every run.
+    qInfo("%d of %d uses failed", failed, uses);
+    QVERIFY(failed > 0);
+}
+
+void FaultMatrixTest::callFailsAtTheEnd_data()
+{
+    QTest::addColumn<QString>("function");
+    QTest::addColumn<int>("uses");
+    for (const auto& [function, count] : std::as_const(m_usesAtTheEnd))
+        QTest::newRow(qPrintable(function)) << function << count;
+}
+
+void FaultMatrixTest::callFailsAtTheEnd()
+{
+    QFETCH(const QString, function);
+    QFETCH(const int, uses);
+    for (int nth = 1; nth <= uses; ++nth) {
+        bool hasFailed = false;
+        const QString trouble = runWithFailureAtTheEnd(function, nth, hasFailed);
+        QVERIFY2(trouble.isEmpty(), qPrintable(QStringLiteral("use %1: %2").arg(nth).arg(trouble)));
+        QVERIFY2(hasFailed, qPrintable(QStringLiteral("use %1 did not occur").arg(nth)));
+    }
+    qInfo("%d uses failed", uses);
+}
+
+QTEST_GUILESS_MAIN(FaultMatrixTest)
+#include "tst_fault_matrix.moc"
