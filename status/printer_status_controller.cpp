@@ -323,9 +323,12 @@ void PrinterStatusController::recordOffline(const QString& printerName)
 
 void PrinterStatusController::raiseErrorState()
 {
-    if (noPrinterInError)
-        Q_EMIT printerErrorChangedSignal(true);
+    if (!noPrinterInError)
+        return;
+    // Before the signal: in its slot the host may ask for the same again, or for the opposite, and
+    // reports that come in an event loop of its own may end the error.
     noPrinterInError = false;
+    Q_EMIT printerErrorChangedSignal(true);
 }
 
 void PrinterStatusController::reevaluateErrorState()

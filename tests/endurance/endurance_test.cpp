@@ -6,6 +6,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QMetaProperty>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <filesystem>
@@ -199,6 +200,44 @@ Footprint Footprint::now()
     return footprint;
 }
 
+HeldCalls::HeldCalls(virtualwindows::Machine& machine, const char* function)
+    : m_machine(machine)
+    , m_function(QString::fromLatin1(function))
+    , m_host(QThread::currentThreadId())
+{
+    machine.setCallHook([this](const Call& call) { meet(call); });
+}
+
+HeldCalls::~HeldCalls()
+{
+    m_machine.setCallHook(nullptr);
+    letGo();
+}
+
+void HeldCalls::meet(const Call& call)
+{
+    if (call.thread == m_host || call.function != m_function)
+        return;
+    std::unique_lock guard(m_mutex);
+    ++m_held;
+    m_changed.notify_all();
+    m_changed.wait(guard, [&] { return m_isOver; });
+}
+
+bool HeldCalls::waitUntilHeld(int threads)
+{
+    std::unique_lock guard(m_mutex);
+    return m_changed.wait_for(guard, std::chrono::milliseconds(patience),
+                              [&] { return m_held >= threads; });
+}
+
+void HeldCalls::letGo()
+{
+    const std::lock_guard guard(m_mutex);
+    m_isOver = true;
+    m_changed.notify_all();
+}
+
 void EnduranceTest::initMain()
 {
     // Names of colours and materials come in the user's language.
@@ -243,6 +282,15 @@ bool EnduranceTest::letThreadsPoll(int watchingThreads)
     return settle(watchingThreads);
 }
 
+int EnduranceTest::watchedPrinters(const PrinterStatusController& controller)
+{
+    const QVariantList records = controller.getAvailablePrinters();
+    return static_cast<int>(std::ranges::count_if(records, [](const QVariant& entry) {
+        const auto record = entry.value<PrinterStatusInformation>();
+        return !record.printerNonAdmin && !record.printerRemote;
+    }));
+}
+
 std::optional<PrinterStatusInformation>
 EnduranceTest::recordOf(const PrinterStatusController& controller, const QString& name)
 {
@@ -263,6 +311,23 @@ QString EnduranceTest::mismatch(const PrinterStatusController& controller,
         return printer.name + QStringLiteral(" has no record");
     const QString found = difference(*record, moment.record);
     return found.isEmpty() ? QString() : printer.name + QStringLiteral(": ") + found;
+}
+
+void EnduranceTest::checkMemoryIsFlat(const Footprint& before, const Footprint& after)
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    // The sanitizers keep what was released, and records of who touched what; the one finds leaks
+    // by itself.
+    Q_UNUSED(before)
+    Q_UNUSED(after)
+#else
+    // An allocator's pool for each of a few threads, which fill in the course of time and then
+    // stay; a leak in what is repeated hundreds of times and more goes beyond it.
+    constexpr qint64 pools = 8 * mebibyte;
+    const qint64 growth = after.residentBytes - before.residentBytes;
+    QVERIFY2(growth <= pools,
+             qPrintable(QStringLiteral("%1 KiB more than before").arg(growth / 1024)));
+#endif
 }
 
 QStringList EnduranceTest::publishedEndpoints() const

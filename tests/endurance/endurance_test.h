@@ -9,7 +9,9 @@
 #include <QtCore/QPointer>
 
 #include <chrono>
+#include <condition_variable>
 #include <memory>
+#include <mutex>
 #include <optional>
 
 using namespace std::chrono_literals;
@@ -46,6 +48,8 @@ QList<PrinterValue> withoutMileages(const QList<PrinterValue>& values);
 QString difference(const PrinterStatusInformation& actual,
                    const PrinterStatusInformation& expected);
 
+inline constexpr qint64 mebibyte = 1024 * 1024;
+
 /// What the process has of things that a host must not be left with.
 struct Footprint
 {
@@ -55,6 +59,31 @@ struct Footprint
     qint64 residentBytes = 0;
 
     static Footprint now();
+};
+
+/// Holds the printers' threads as they call a function, until they are let go.
+class HeldCalls
+{
+public:
+    HeldCalls(virtualwindows::Machine& machine, const char* function);
+    /// Lets everybody go. Threads may still be on their way out of the hold, so the object has to
+    /// live until they have ended.
+    ~HeldCalls();
+    Q_DISABLE_COPY_MOVE(HeldCalls)
+
+    bool waitUntilHeld(int threads);
+    void letGo();
+
+private:
+    void meet(const Call& call);
+
+    virtualwindows::Machine& m_machine;
+    const QString m_function;
+    const Qt::HANDLE m_host;
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    int m_held = 0;
+    bool m_isOver = false;
 };
 
 /// Base of the tests that run the whole controller, with the sample catalogue beside them and
@@ -78,11 +107,15 @@ protected:
     /// Time without a notification passes until every thread asks for the spooler's state.
     [[nodiscard]] bool letThreadsPoll(int watchingThreads);
 
+    /// How many printers a controller has a thread for.
+    static int watchedPrinters(const PrinterStatusController& controller);
     static std::optional<PrinterStatusInformation>
     recordOf(const PrinterStatusController& controller, const QString& name);
     /// What keeps a printer's record from being that moment's; empty when nothing does.
     static QString mismatch(const PrinterStatusController& controller, const LabelPrinter& printer,
                             const Moment& moment);
+    /// Fails when a process that has come to do the same over and over uses more memory for it.
+    static void checkMemoryIsFlat(const Footprint& before, const Footprint& after);
     /// The endpoints that other processes can find.
     QStringList publishedEndpoints() const;
 
