@@ -1,0 +1,393 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// How a controller ends, whenever that comes: with its threads anywhere on their way, in order and
+// at random, and with nothing left behind.
+#include "endurance_test.h"
+#include "log_recorder.h"
+#include "vx_ipc_m4_controller.h"
+
+#include <QtCore/QRandomGenerator>
+#include <QtCore/QSemaphore>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <random>
+#include <thread>
+
+#include <windows.h>
+#include <winspool.h>
+
+using VXPrinting::PrinterType;
+
+namespace {
+
+const std::array labelPrinters{
+    LabelPrinter{QStringLiteral("Alder"), PrinterType::Alder},
+    LabelPrinter{QStringLiteral("AlderMax"), PrinterType::AlderMax},
+    LabelPrinter{QStringLiteral("BirchMax"), PrinterType::BirchMax},
+    LabelPrinter{QStringLiteral("CedarMax"), PrinterType::CedarMax},
+};
+constexpr int printerCount = static_cast<int>(labelPrinters.size());
+
+using Random = std::mt19937;
+
+int pick(Random& random, int below)
+{
+    return std::uniform_int_distribution(0, below - 1)(random);
+}
+
+/// What drivers, users and the system do to the printers, one thing after the other, until it is
+/// over.
+class World
+{
+public:
+    World(virtualwindows::Machine& machine, unsigned seed)
+        : m_machine(machine)
+        , m_random(seed)
+        , m_thread([this] {
+            while (!m_isOver)
+                happen();
+        })
+    {}
+    ~World()
+    {
+        m_isOver = true;
+        m_thread.join();
+    }
+    Q_DISABLE_COPY_MOVE(World)
+
+private:
+    void happen()
+    {
+        const LabelPrinter& printer =
+            labelPrinters[static_cast<std::size_t>(pick(m_random, printerCount))];
+        switch (pick(m_random, 12)) {
+        case 0:
+            m_machine.stopSpooler();
+            break;
+        case 1:
+        case 2:
+            m_machine.startSpooler();
+            break;
+        case 3:
+            m_machine.setStatus(printer.name, PRINTER_STATUS_OFFLINE);
+            m_machine.unpublish(printer.name, "StatusCode");
+            break;
+        case 4:
+            m_machine.setStatus(printer.name, 0);
+            break;
+        case 5:
+            m_machine.setDefaultPrinter(printer.name);
+            break;
+        case 6:
+        case 7:
+            m_machine.advance(spoolerPoll);
+            break;
+        default:
+            m_machine.publish(printer.name, moment(printer, pick(m_random, 1000)).values);
+            break;
+        }
+        // Nothing is to be gained from a world that is faster than those who look at it.
+        m_machine.waitForWaitingThreads(1, 1ms);
+    }
+
+    virtualwindows::Machine& m_machine;
+    Random m_random;
+    std::atomic<bool> m_isOver = false;
+    std::thread m_thread;
+};
+
+} // namespace
+
+class ControllerLifecycleTest : public EnduranceTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void threadsThatCannotBeToldYet_data();
+    void threadsThatCannotBeToldYet();
+    void rightAfterConstruction();
+    void spoolerIsDown();
+    void allThreadsAreToldBeforeOneIsWaitedFor();
+    void reportsUnderWayAreDropped();
+    void destroyedByItsParent();
+    void destroyedByDeleteLater();
+    void endpointsAreWithdrawn();
+    void randomMoments();
+
+protected Q_SLOTS:
+    void init() override;
+
+private:
+    std::unique_ptr<PrinterStatusController> watch();
+    void runARound(Random& random);
+};
+
+void ControllerLifecycleTest::init()
+{
+    EnduranceTest::init();
+    for (const LabelPrinter& printer : labelPrinters) {
+        addPrinter(printer);
+        publish(printer, moment(printer, 0));
+    }
+    machine().setDefaultPrinter(labelPrinters.back().name);
+}
+
+/// A controller whose threads have read their printers and wait.
+std::unique_ptr<PrinterStatusController> ControllerLifecycleTest::watch()
+{
+    auto controller = std::make_unique<PrinterStatusController>();
+    if (!settle(printerCount))
+        return nullptr;
+    return controller;
+}
+
+void ControllerLifecycleTest::threadsThatCannotBeToldYet_data()
+{
+    QTest::addColumn<QByteArray>("function");
+    QTest::addColumn<int>("told");
+    // None of them has an event to be told by.
+    QTest::newRow("opening the printer") << QByteArray("OpenPrinterA") << 0;
+    QTest::newRow("asking for the notification")
+        << QByteArray("FindFirstPrinterChangeNotification") << 0;
+    QTest::newRow("first read") << QByteArray("GetPrinterDataA") << 0;
+    QTest::newRow("making the event") << QByteArray("CreateEventW") << 0;
+    // All of them have.
+    QTest::newRow("asking for the spooler") << QByteArray("OpenSCManagerW") << printerCount;
+    QTest::newRow("first wait") << QByteArray("WaitForMultipleObjects") << printerCount;
+}
+
+void ControllerLifecycleTest::threadsThatCannotBeToldYet()
+{
+    QFETCH(const QByteArray, function);
+    QFETCH(const int, told);
+    HeldCalls held(machine(), function.constData());
+    auto controller = std::make_unique<PrinterStatusController>();
+    QVERIFY(held.waitUntilHeld(printerCount));
+
+    // The endpoints go when all threads have been told for the first time.
+    int toldAtFirst = -1;
+    connect(
+        controller->getm4Controller(), &QObject::destroyed, this,
+        [&] {
+            toldAtFirst = machine().callCount(QStringLiteral("SetEvent"));
+            held.letGo();
+        },
+        Qt::DirectConnection);
+    controller.reset();
+    QCOMPARE(toldAtFirst, told);
+    QCOMPARE(machine().callCount(QStringLiteral("SetEvent")), printerCount);
+    QCOMPARE(machine().waitingThreads(), 0);
+    QCOMPARE(machine().openHandles(), 0);
+}
+
+void ControllerLifecycleTest::rightAfterConstruction()
+{
+    for (int round = 0; round < 20; ++round) {
+        delete new PrinterStatusController;
+        QCOMPARE(machine().waitingThreads(), 0);
+        QCOMPARE(machine().openHandles(), 0);
+    }
+}
+
+void ControllerLifecycleTest::spoolerIsDown()
+{
+    auto controller = watch();
+    QVERIFY(controller);
+    machine().stopSpooler();
+    QVERIFY(letThreadsPoll(printerCount));
+    for (const LabelPrinter& printer : labelPrinters)
+        QCOMPARE(recordOf(*controller, printer.name)->statusEnum, 254);
+    controller.reset();
+    QCOMPARE(machine().openHandles(), 0);
+}
+
+void ControllerLifecycleTest::allThreadsAreToldBeforeOneIsWaitedFor()
+{
+    auto controller = watch();
+    QVERIFY(controller);
+
+    // Each is in the middle of reading a notification, in a call of the spooler that takes long.
+    HeldCalls held(machine(), "GetPrinterDataA");
+    for (const LabelPrinter& printer : labelPrinters)
+        publish(printer, moment(printer, 1));
+    QVERIFY(held.waitUntilHeld(printerCount));
+
+    // They are let go when all are told. A controller that waits for the first before it tells the
+    // second would never come to that.
+    QSemaphore allTold;
+    std::atomic<bool> isOver = false;
+    bool wereAllTold = false;
+    std::thread spooler([&] {
+        QDeadlineTimer limit(patience);
+        while (machine().callCount(QStringLiteral("SetEvent")) < printerCount &&
+               !limit.hasExpired())
+            std::this_thread::yield();
+        wereAllTold = machine().callCount(QStringLiteral("SetEvent")) == printerCount && !isOver;
+        held.letGo();
+    });
+    controller.reset();
+    isOver = true;
+    spooler.join();
+    QVERIFY(wereAllTold);
+    QCOMPARE(machine().openHandles(), 0);
+}
+
+void ControllerLifecycleTest::reportsUnderWayAreDropped()
+{
+    auto controller = watch();
+    QVERIFY(controller);
+    int called = 0;
+    const auto count = [&called] {
+        ++called;
+    };
+    using Controller = PrinterStatusController;
+    connect(controller.get(), &Controller::availablePrintersUpdated, this, count);
+    connect(controller.get(), &Controller::printerErrorChangedSignal, this, count);
+    connect(controller.get(), &Controller::statusChangedSignal, this, count);
+    connect(controller.get(), &Controller::supplyIdChangedSignal, this, count);
+    connect(controller.get(), &Controller::ribbonIdsChangedSignal, this, count);
+    connect(controller.get(), &Controller::activeDefaultPrinterSetSignal, this, count);
+
+    for (const LabelPrinter& printer : labelPrinters)
+        publish(printer, moment(printer, 1));
+    QVERIFY(machine().waitForWaitingThreads(printerCount));
+    controller.reset();
+    QCoreApplication::processEvents();
+    QCOMPARE(called, 0);
+}
+
+void ControllerLifecycleTest::destroyedByItsParent()
+{
+    auto parent = std::make_unique<QObject>();
+    const QPointer<PrinterStatusController> controller = new PrinterStatusController(parent.get());
+    QVERIFY(settle(printerCount));
+    parent.reset();
+    QVERIFY(!controller);
+    QCOMPARE(machine().waitingThreads(), 0);
+    QCOMPARE(machine().openHandles(), 0);
+}
+
+void ControllerLifecycleTest::destroyedByDeleteLater()
+{
+    const QPointer<PrinterStatusController> controller = watch().release();
+    QVERIFY(controller);
+    for (const LabelPrinter& printer : labelPrinters)
+        publish(printer, moment(printer, 1));
+    controller->deleteLater();
+    QTRY_VERIFY_WITH_TIMEOUT(!controller, patience);
+    QCOMPARE(machine().waitingThreads(), 0);
+    QCOMPARE(machine().openHandles(), 0);
+}
+
+void ControllerLifecycleTest::endpointsAreWithdrawn()
+{
+    auto controller = watch();
+    QVERIFY(controller);
+    QCOMPARE(publishedEndpoints(),
+             QStringList({QStringLiteral("vxipc-0"), QStringLiteral("vxipc-1")}));
+    controller.reset();
+    QCOMPARE(publishedEndpoints(), QStringList());
+}
+
+/// From one controller's making to its end, which comes after so many reads of values, or when
+/// nothing is read.
+void ControllerLifecycleTest::runARound(Random& random)
+{
+    const QString reads = QStringLiteral("GetPrinterDataA");
+    const int end = machine().callCount(reads) + pick(random, 300);
+    const int turns = pick(random, 30);
+
+    auto parent = std::make_unique<QObject>();
+    const QPointer<PrinterStatusController> controller =
+        new PrinterStatusController(pick(random, 2) ? parent.get() : nullptr);
+    for (int turn = 0; turn < turns && machine().callCount(reads) < end; ++turn) {
+        switch (pick(random, 8)) {
+        case 0:
+            controller->checkForPrinters();
+            break;
+        case 1:
+            controller->sendCommandToPrinter(
+                QStringLiteral("~JC"),
+                labelPrinters[static_cast<std::size_t>(pick(random, printerCount))].name);
+            break;
+        case 2:
+            controller->getAvailablePrinters();
+            break;
+        case 3:
+            controller->updateCachedStatus(pick(random, 2));
+            break;
+        default:
+            QCoreApplication::processEvents();
+            break;
+        }
+        std::this_thread::yield();
+    }
+
+    if (controller->parent()) {
+        parent.reset();
+    } else if (pick(random, 2)) {
+        controller->deleteLater();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    } else {
+        delete controller;
+    }
+    QVERIFY(!controller);
+    QCOMPARE(machine().waitingThreads(), 0);
+    QCOMPARE(machine().openHandles(), 0);
+    QCOMPARE(publishedEndpoints(), QStringList());
+}
+
+void ControllerLifecycleTest::randomMoments()
+{
+    const int rounds = fromEnvironment("VX_LIFECYCLE_ROUNDS", 300);
+    const auto seed = static_cast<unsigned>(fromEnvironment(
+        "VX_LIFECYCLE_SEED", static_cast<int>(QRandomGenerator::global()->bounded(1, 1000000))));
+    qInfo("%d rounds, VX_LIFECYCLE_SEED=%u", rounds, seed);
+
+    // What is made once and kept for the process is there after some rounds.
+    const int warmUp = std::max(30, rounds / 10);
+    Random random(seed);
+    LogRecorder log;
+    Footprint before;
+    qsizetype refusedNotifications = 0;
+    {
+        const World world(machine(), seed + 1);
+        for (int round = 0; round < warmUp + rounds; ++round) {
+            if (round == warmUp)
+                before = Footprint::now();
+            runARound(random);
+            if (QTest::currentTestFailed()) {
+                qWarning("in round %d", round);
+                return;
+            }
+            const QList<LogRecord> records = log.records();
+            refusedNotifications += std::ranges::count_if(records, [](const LogRecord& record) {
+                return record.message.endsWith(QLatin1String(": Failed to create event objects"));
+            });
+            log.clear();
+        }
+    }
+    // A spooler that stops between the opening of a printer and the asking for its notification
+    // leaves a printer that is closed twice.
+    const QList<virtualwindows::HandleMisuse> misuses = machine().misuses();
+    QVERIFY(misuses.size() <= refusedNotifications);
+    for (qsizetype count = 0; count < misuses.size(); ++count)
+        allowMisuse(Kind::ClosedTwice, QStringLiteral("ClosePrinter"));
+
+    // A thread that was waited for may still be on its way out of the system's table.
+    QTRY_COMPARE_WITH_TIMEOUT(Footprint::now().threads, before.threads - 1, patience);
+    const Footprint after = Footprint::now();
+    QCOMPARE(after.openFiles, before.openFiles);
+    QCOMPARE(after.objects, before.objects);
+    qInfo("%d rounds: %d threads, %d open files, %d objects before and %d, %d, %d after; resident "
+          "%.1f MiB before and %.1f MiB after",
+          rounds, before.threads - 1, before.openFiles, before.objects, after.threads,
+          after.openFiles, after.objects, double(before.residentBytes) / mebibyte,
+          double(after.residentBytes) / mebibyte);
+    checkMemoryIsFlat(before, after);
+}
+
+QTEST_GUILESS_MAIN(ControllerLifecycleTest)
+#include "tst_controller_lifecycle.moc"

@@ -1,0 +1,404 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// Two hundred printers that all change ten times a second: the host sees the last of every value,
+// and its event loop goes on meanwhile. Prints what a report costs the host's thread.
+#include "endurance_test.h"
+#include "supply_information.h"
+#include "vx_ipc_supplyd_controller.h"
+
+#include <QtCore/QTimer>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <cmath>
+#include <functional>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+#include <ctime>
+
+using VXPrinting::PrinterType;
+
+namespace {
+
+constexpr int printerCount = 200;
+constexpr int changesASecond = 10;
+/// Milliseconds after which reports that have not come never will, also on a busy machine.
+constexpr int farAway = 3600000;
+
+/// Time that the calling thread has spent computing: what other programs take from it meanwhile is
+/// not in it.
+double ownMicroseconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return double(time.tv_sec) * 1e6 + double(time.tv_nsec) / 1e3;
+}
+
+/// The kinds of reports, told apart by what the controller does for them.
+enum class Kind
+{
+    Status,
+    Supply,
+    Ribbons,
+    Mileage,
+    Firmware,
+};
+constexpr std::array kindNames{"status", "supply", "ribbons", "mileage", "firmware"};
+
+struct Cost
+{
+    int count = 0;
+    double total = 0;
+    double longest = 0;
+
+    void add(double microseconds)
+    {
+        ++count;
+        total += microseconds;
+        longest = std::max(longest, microseconds);
+    }
+    double mean() const { return count ? total / count : 0; }
+};
+
+/// The host's application. It watches its own event loop: what each report to the controller takes,
+/// and what everything else does.
+class Host : public QCoreApplication
+{
+public:
+    using QCoreApplication::QCoreApplication;
+
+    void watch(PrinterStatusController* controller)
+    {
+        m_controller = controller;
+        reports = {};
+        others = {};
+        delivered = 0;
+        handledTwo = false;
+        using Controller = PrinterStatusController;
+        connect(controller, &Controller::statusChangedSignal, this,
+                [this] { m_kind = Kind::Status; });
+        connect(controller, &Controller::supplyIdChangedSignal, this,
+                [this] { m_kind = Kind::Supply; });
+        connect(controller, &Controller::ribbonIdsChangedSignal, this,
+                [this] { m_kind = Kind::Ribbons; });
+        connect(controller, &Controller::availablePrintersUpdated, this, [this] { ++m_updates; });
+    }
+
+    std::array<Cost, kindNames.size()> reports;
+    Cost others;                       ///< events that are none
+    std::atomic<qint64> delivered = 0; ///< reports
+    bool handledTwo = false;           ///< more than one report in one event
+    std::atomic<bool> isInReport = false;
+
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        if (!m_controller || QThread::currentThread() != thread() || m_depth > 0)
+            return QCoreApplication::notify(receiver, event);
+        const bool isReport = receiver == m_controller && event->type() == QEvent::MetaCall;
+        m_kind = Kind::Firmware;
+        m_updates = 0;
+        const int listings = callsOfListing();
+        ++m_depth;
+        isInReport = isReport;
+        const double begin = ownMicroseconds();
+        const bool result = QCoreApplication::notify(receiver, event);
+        const double taken = ownMicroseconds() - begin;
+        isInReport = false;
+        --m_depth;
+        if (!isReport) {
+            others.add(taken);
+            return result;
+        }
+        ++delivered;
+        handledTwo = handledTwo || m_updates > 1;
+        const Kind kind = callsOfListing() != listings ? Kind::Mileage : m_kind;
+        reports[static_cast<std::size_t>(kind)].add(taken);
+        return result;
+    }
+
+private:
+    static int callsOfListing()
+    {
+        return virtualwindows::Machine::instance().callCount(QStringLiteral("EnumPrintersW"));
+    }
+
+    QPointer<PrinterStatusController> m_controller;
+    Kind m_kind = Kind::Firmware;
+    int m_updates = 0;
+    int m_depth = 0;
+};
+
+/// How late a timer of the host's comes, and how many reports were delivered before it.
+class Heartbeat
+{
+public:
+    explicit Heartbeat(const Host& host)
+        : m_host(host)
+    {
+        constexpr auto interval = 10ms;
+        m_timer.setTimerType(Qt::PreciseTimer);
+        m_timer.setInterval(interval);
+        QObject::connect(&m_timer, &QTimer::timeout, [this] { beat(); });
+        m_timer.start();
+        m_lastOwn = ownMicroseconds();
+    }
+
+    /// The most that the loop computed between two beats, in microseconds, and for how many
+    /// reports.
+    double longest = 0;
+    qint64 reportsInLongest = 0;
+
+private:
+    void beat()
+    {
+        const double own = ownMicroseconds();
+        if (own - m_lastOwn > longest) {
+            longest = own - m_lastOwn;
+            reportsInLongest = m_host.delivered - m_lastDelivered;
+        }
+        m_lastOwn = own;
+        m_lastDelivered = m_host.delivered;
+    }
+
+    const Host& m_host;
+    QTimer m_timer;
+    double m_lastOwn = 0;
+    qint64 m_lastDelivered = 0;
+};
+
+Host& host()
+{
+    return *static_cast<Host*>(QCoreApplication::instance());
+}
+
+} // namespace
+
+class StormTest : public EnduranceTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void hostWaitsInReportsAlone();
+    void storm_data();
+    void storm();
+
+private:
+    void addPrinters(int count, bool withMileages);
+    QList<PrinterValue> valuesOf(const LabelPrinter& printer, int number) const;
+    /// Changes every printer so many times, ten times a second and evenly, as far as this machine
+    /// goes along.
+    void changePrinters(int firstNumber, int rounds);
+    /// Runs the host's event loop while the printers change; tells how many seconds they did, and
+    /// how many reports the host had had by then.
+    double letStormPass(int firstNumber, int rounds, qint64* deliveredAtEnd);
+    QString firstMismatch(const PrinterStatusController& controller, int number) const;
+    static void printCosts();
+    static void printMileageParts(PrinterStatusController& controller, const QString& printer);
+
+    bool m_withMileages = true;
+    std::vector<LabelPrinter> m_printers;
+};
+
+void StormTest::addPrinters(int count, bool withMileages)
+{
+    machine().driveTime(false);
+    constexpr std::array types{PrinterType::Alder, PrinterType::AlderMax, PrinterType::BirchMax,
+                               PrinterType::CedarMax};
+    m_withMileages = withMileages;
+    m_printers.clear();
+    for (int index = 0; index < count; ++index) {
+        const LabelPrinter printer{QStringLiteral("Printer %1").arg(index, 3, 10, QLatin1Char('0')),
+                                   types[static_cast<std::size_t>(index) % types.size()]};
+        addPrinter(printer, QStringLiteral("USB%1").arg(index));
+        machine().publish(printer.name, valuesOf(printer, 0));
+        machine().addDevice({QStringLiteral("{28d78fad-5a12-11d1-ae5b-0000f803a8c2}"),
+                             QStringLiteral("##?#USB#VID_3E7A&PID_0104#%1").arg(index), index,
+                             QStringLiteral("AM-%1").arg(index)});
+        m_printers.push_back(printer);
+    }
+    machine().setDefaultPrinter(m_printers.front().name);
+}
+
+QList<PrinterValue> StormTest::valuesOf(const LabelPrinter& printer, int number) const
+{
+    const QList<PrinterValue> values = moment(printer, number).values;
+    return m_withMileages ? values : withoutMileages(values);
+}
+
+void StormTest::changePrinters(int firstNumber, int rounds)
+{
+    using Clock = std::chrono::steady_clock;
+    const auto step = std::chrono::nanoseconds(1s) / (changesASecond * m_printers.size());
+    auto next = Clock::now();
+    for (int round = 0; round < rounds; ++round) {
+        for (const LabelPrinter& printer : m_printers) {
+            machine().publish(printer.name, valuesOf(printer, firstNumber + round));
+            next += step;
+            std::this_thread::sleep_until(next);
+        }
+    }
+}
+
+QString StormTest::firstMismatch(const PrinterStatusController& controller, int number) const
+{
+    const QVariantList records = controller.getAvailablePrinters();
+    if (records.size() != static_cast<qsizetype>(m_printers.size()))
+        return QStringLiteral("%1 records").arg(records.size());
+    for (qsizetype index = 0; index < records.size(); ++index) {
+        const LabelPrinter& printer = m_printers[static_cast<std::size_t>(index)];
+        PrinterStatusInformation expected = moment(printer, number).record;
+        if (!m_withMileages) {
+            expected.supplyPercentage = 0;
+            expected.ribbon1Percentage = 0;
+            expected.ribbon2Percentage = 0;
+        }
+        const QString found =
+            difference(records[index].value<PrinterStatusInformation>(), expected);
+        if (!found.isEmpty())
+            return printer.name + QStringLiteral(": ") + found;
+    }
+    return {};
+}
+
+void StormTest::printCosts()
+{
+    for (std::size_t kind = 0; kind < kindNames.size(); ++kind) {
+        const Cost& cost = host().reports[kind];
+        if (cost.count)
+            qInfo("%-8s %7d reports, %8.1f us each, the longest %8.1f us", kindNames[kind],
+                  cost.count, cost.mean(), cost.longest);
+    }
+    qInfo("%-8s %7d events,  %8.1f us each, the longest %8.1f us", "others", host().others.count,
+          host().others.mean(), host().others.longest);
+}
+
+void StormTest::printMileageParts(PrinterStatusController& controller, const QString& printer)
+{
+    constexpr int calls = 50;
+    const auto time = [](const std::function<void()>& call) {
+        const double begin = ownMicroseconds();
+        for (int count = 0; count < calls; ++count)
+            call();
+        return (ownMicroseconds() - begin) / calls;
+    };
+    const double listing = time([&] { controller.getPrinterTypeEnum(printer); });
+    const double database =
+        time([&] { controller.getSupplyIdController()->supplyInformation(printer); });
+    qInfo("of a mileage report: listing %d printers for one's type %.1f us, asking the supply "
+          "database %.1f us",
+          printerCount, listing, database);
+}
+
+double StormTest::letStormPass(int firstNumber, int rounds, qint64* deliveredAtEnd)
+{
+    QElapsedTimer clock;
+    clock.start();
+    double seconds = 0;
+    QEventLoop loop;
+    std::thread drivers([&] {
+        changePrinters(firstNumber, rounds);
+        seconds = double(clock.elapsed()) / 1000;
+        if (deliveredAtEnd)
+            *deliveredAtEnd = host().delivered;
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    loop.exec();
+    drivers.join();
+    return seconds;
+}
+
+void StormTest::storm_data()
+{
+    QTest::addColumn<bool>("withMileages");
+    QTest::addColumn<int>("rounds");
+    const int rounds = fromEnvironment("VX_STORM_SECONDS", 3) * changesASecond;
+    QTest::newRow("status, supply, ribbons, firmware") << false << rounds;
+    // For every mileage the spooler's printers are listed, which takes the host's thread several
+    // times as long as such a storm lasts.
+    QTest::newRow("everything") << true << rounds / 10;
+}
+
+void StormTest::storm()
+{
+    QFETCH(const bool, withMileages);
+    QFETCH(const int, rounds);
+    addPrinters(printerCount, withMileages);
+    auto controller = std::make_unique<PrinterStatusController>();
+    QVERIFY(settle(printerCount));
+
+    // What is kept for good, and the allocator's pools, are there after a while of storm.
+    const int warmUp = withMileages ? 0 : changesASecond;
+    letStormPass(1, warmUp, nullptr);
+    QTRY_COMPARE_WITH_TIMEOUT(firstMismatch(*controller, warmUp), QString(), farAway);
+    const Footprint before = Footprint::now();
+
+    host().watch(controller.get());
+    Heartbeat heartbeat(host());
+    const int last = warmUp + rounds;
+    QElapsedTimer clock;
+    clock.start();
+    qint64 deliveredInTime = 0;
+    const double stormed = letStormPass(warmUp + 1, rounds, &deliveredInTime);
+    const Footprint atItsEnd = Footprint::now();
+    QTRY_COMPARE_WITH_TIMEOUT(firstMismatch(*controller, last), QString(), farAway);
+    const double passed = double(clock.elapsed()) / 1000;
+    const Footprint after = Footprint::now();
+
+    qInfo("%d printers, %d changes each in %.1f s: %lld reports, %lld of them delivered in that "
+          "time and all after %.1f s",
+          printerCount, rounds, stormed, static_cast<long long>(host().delivered),
+          static_cast<long long>(deliveredInTime), passed);
+    qInfo("resident %.1f MiB before, %.1f at the storm's end, %.1f when all was delivered",
+          double(before.residentBytes) / mebibyte, double(atItsEnd.residentBytes) / mebibyte,
+          double(after.residentBytes) / mebibyte);
+    printCosts();
+    qInfo("between two beats of a timer of the host's the loop computed at most %.1f us, for %lld "
+          "reports",
+          heartbeat.longest, static_cast<long long>(heartbeat.reportsInLongest));
+    printMileageParts(*controller, m_printers.back().name);
+
+    if (!withMileages)
+        checkMemoryIsFlat(before, after);
+    // Nothing but the reports holds the loop up, each alone.
+    QVERIFY(!host().handledTwo);
+    const double longestReport = std::ranges::max(host().reports, {}, &Cost::longest).longest;
+    QVERIFY(heartbeat.longest <= double(heartbeat.reportsInLongest + 1) * longestReport);
+}
+
+void StormTest::hostWaitsInReportsAlone()
+{
+    constexpr int few = 20;
+    addPrinters(few, true);
+    auto controller = std::make_unique<PrinterStatusController>();
+    QVERIFY(settle(few));
+    host().watch(controller.get());
+
+    // On the host's thread a call of the system is what can take long.
+    std::mutex mutex;
+    QStringList outside;
+    machine().setCallHook([&, hostThread = QThread::currentThreadId()](const Call& call) {
+        if (call.thread != hostThread || host().isInReport)
+            return;
+        const std::lock_guard guard(mutex);
+        outside.append(call.function);
+    });
+    for (const LabelPrinter& printer : m_printers)
+        publish(printer, moment(printer, 1));
+    QVERIFY(settle(few));
+    QCOMPARE(firstMismatch(*controller, 1), QString());
+    QVERIFY(!host().handledTwo);
+    QCOMPARE(outside, QStringList());
+    controller.reset();
+}
+
+int main(int argc, char* argv[])
+{
+    StormTest::initMain();
+    Host application(argc, argv);
+    StormTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_storm.moc"
