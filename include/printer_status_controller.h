@@ -48,8 +48,9 @@ struct AvailablePrinters;
 /// watching threads' reports arrive in it as queued calls, and every signal is emitted on it. All
 /// members are to be called on that thread. They block as long as the print spooler does.
 ///
-/// **In a slot** that one of the signals calls, every member may be called and the controller may
-/// be given to `deleteLater()`. It must not be deleted there.
+/// **In a slot** that one of the signals calls, every member may be called, an event loop may be run
+/// and the controller may be given to `deleteLater()`. It must not be deleted there, and so not be
+/// given to `deleteLater()` from inside that event loop either, which would delete it.
 ///
 /// **Failures** are never raised and never returned as codes: a spooler that does not answer is one
 /// without printers, what cannot be read is empty, zero, or status 255 or 257. What people who

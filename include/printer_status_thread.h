@@ -36,7 +36,9 @@
 /// progress, update error.
 ///
 /// Nothing is retried: a printer that cannot be opened at the start is opened the next time that the
-/// print spooler service has been down and is running again.
+/// print spooler service has been down and is running again. A thread that cannot make its stop
+/// event ends after its first read, and one that cannot reach the service does not notice that it
+/// restarts.
 class VX_PRINTERSTATUS_EXPORT PrinterStatusThread : public QThread
 {
     Q_OBJECT
