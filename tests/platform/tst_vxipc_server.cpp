@@ -8,12 +8,31 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QJsonArray>
 #include <QtCore/QPointer>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QScopeGuard>
+#include <QtCore/QTemporaryDir>
 #include <QtCore/QThread>
 #include <QtTest/QTest>
 
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstddef>
 #include <memory>
 #include <vector>
+
+#ifdef Q_OS_UNIX
+#include <grp.h>
+#include <signal.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#else
+#include <windows.h>
+
+#include <aclapi.h>
+#endif
 
 namespace {
 
@@ -46,6 +65,63 @@ QByteArray requestOfSize(qsizetype size)
     const QByteArray end = R"("]})";
     return begin + QByteArray(size - begin.size() - end.size(), 'x') + end;
 }
+
+#ifdef Q_OS_UNIX
+
+/// Has endpoints of this process live in another folder for a while.
+class RuntimeFolder
+{
+public:
+    explicit RuntimeFolder(const QString& path) { qputenv(Variable, QFile::encodeName(path)); }
+    ~RuntimeFolder()
+    {
+        if (m_before.isNull())
+            qunsetenv(Variable);
+        else
+            qputenv(Variable, m_before);
+    }
+    Q_DISABLE_COPY_MOVE(RuntimeFolder)
+
+private:
+    static constexpr const char* Variable = "XDG_RUNTIME_DIR";
+    QByteArray m_before = qgetenv(Variable);
+};
+
+/// The error number that a process of the user has when it connects to the socket; 0 for none.
+int connectionFault(const QByteArray& address, uid_t user)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        sockaddr_un name = {};
+        name.sun_family = AF_UNIX;
+        std::copy(address.cbegin(), address.cend(), name.sun_path);
+        const int descriptor = socket(AF_UNIX, SOCK_STREAM, 0);
+        const bool isOther = setgroups(0, nullptr) == 0 && setgid(user) == 0 && setuid(user) == 0;
+        const bool isConnected =
+            connect(descriptor, reinterpret_cast<const sockaddr*>(&name), sizeof(name)) == 0;
+        _exit(!isOther ? 255 : isConnected ? 0 : errno);
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+#else
+
+bool isThisUser(PSID user)
+{
+    HANDLE token = nullptr;
+    if (!OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token))
+        return false;
+    const auto closeToken = qScopeGuard([&] { CloseHandle(token); });
+    std::array<std::byte, sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE> buffer = {};
+    DWORD size = 0;
+    return GetTokenInformation(token, TokenUser, buffer.data(), static_cast<DWORD>(buffer.size()),
+                               &size) &&
+           EqualSid(reinterpret_cast<TOKEN_USER*>(buffer.data())->User.Sid, user);
+}
+
+#endif
 
 } // namespace
 
@@ -84,9 +160,13 @@ private Q_SLOTS:
     void isPublishedOnItsThread();
     void addsTheProcessIdToATakenName();
     void addsTheProcessIdWhenAnotherProcessHoldsTheName();
+    void leavesTheNameToAProcessThatIsStopped();
     void takesTheNameOfADeadProcess();
     void leavesNoSocketBehind();
     void letsOnlyTheUserIn();
+    void keepsOtherUsersOut();
+    void isNotPublishedWhereOthersMayWrite_data();
+    void isNotPublishedWhereOthersMayWrite();
 
     void readsALineOfTheGreatestLength();
     void refusesALineThatIsTooLong_data();
@@ -169,6 +249,8 @@ void tst_VXIPCServer::carriesValues_data()
     row("any: number", "anyEcho", "[7]", "7");
     row("any: object", "anyEcho", R"([{"a":[1]}])", R"({"a":[1]})");
     row("any: null", "anyEcho", "[null]", "null");
+    row("a member twice", "hashEcho", R"([{"a":1,"a":2}])", R"({"a":2})");
+    row("an argument twice", "scale", R"({"value":3,"value":4})", "40");
     row("record, of its defaults", "recordEcho", "[{}]",
         R"({"name":"","count":-1,"width":-1,"isLoaded":false,"image":"","panels":[],"heats":[]})");
     row("record", "recordEcho",
@@ -313,6 +395,8 @@ void tst_VXIPCServer::refusesBadRequests_data()
     row("a number", "1", ParseError, "null");
     row("nested without end", QByteArray(5000, '['), ParseError, "null");
     row("nested deeply", QByteArray(5000, '[') + QByteArray(5000, ']'), ParseError, "null");
+    row("nested one level too deep", QByteArray(1025, '[') + QByteArray(1025, ']'), ParseError,
+        "null");
     row("empty object", "{}", InvalidRequest, "null");
     row("no version", R"({"id":4,"method":"echo"})", InvalidRequest, "4");
     row("other version", R"({"jsonrpc":"1.0","id":4,"method":"echo"})", InvalidRequest, "4");
@@ -612,6 +696,24 @@ void tst_VXIPCServer::addsTheProcessIdWhenAnotherProcessHoldsTheName()
     QCOMPARE(otherClient.call("notes")[QStringLiteral("result")], parsed("[]"));
 }
 
+void tst_VXIPCServer::leavesTheNameToAProcessThatIsStopped()
+{
+#ifdef Q_OS_UNIX
+    // It does not answer, but somebody does for it: the system, which takes its connections.
+    const int serverType = newServerType();
+    const QString name = QStringLiteral("vxipc-%1").arg(serverType);
+    HostProcess other(serverType);
+    QCOMPARE(other.serverName(), name);
+    QCOMPARE(kill(static_cast<pid_t>(other.processId()), SIGSTOP), 0);
+    const auto goOn = qScopeGuard([&] { kill(static_cast<pid_t>(other.processId()), SIGCONT); });
+    TestService service(serverType);
+    QTRY_COMPARE(service.serverName(),
+                 name + QLatin1Char('-') + QString::number(QCoreApplication::applicationPid()));
+#else
+    QSKIP("Windows has no signal that stops a process");
+#endif
+}
+
 void tst_VXIPCServer::takesTheNameOfADeadProcess()
 {
     const int serverType = newServerType();
@@ -649,7 +751,96 @@ void tst_VXIPCServer::letsOnlyTheUserIn()
     QCOMPARE(folder.ownerId(), socket.ownerId());
     QCOMPARE(folder.permissions() & (QFile::WriteGroup | QFile::WriteOther), QFile::Permissions());
 #else
-    QSKIP("A pipe's access list is not seen from Qt");
+    const QString path = QStringLiteral(R"(\\.\pipe\)") + VXIPCClient::address(serverName());
+    HANDLE pipe = CreateFileW(qUtf16Printable(path), GENERIC_READ | GENERIC_WRITE | READ_CONTROL, 0,
+                              nullptr, OPEN_EXISTING, 0, nullptr);
+    QVERIFY2(pipe != INVALID_HANDLE_VALUE, qPrintable(qt_error_string()));
+    const auto closePipe = qScopeGuard([&] { CloseHandle(pipe); });
+    PACL accessList = nullptr;
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    QCOMPARE(GetSecurityInfo(pipe, SE_KERNEL_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
+                             &accessList, nullptr, &descriptor),
+             DWORD{ERROR_SUCCESS});
+    const auto freeDescriptor = qScopeGuard([&] { LocalFree(descriptor); });
+    QVERIFY(accessList);
+    QVERIFY(accessList->AceCount > 0);
+    for (DWORD i = 0; i < accessList->AceCount; ++i) {
+        ACCESS_ALLOWED_ACE* entry = nullptr;
+        QVERIFY(GetAce(accessList, i, reinterpret_cast<void**>(&entry)));
+        QCOMPARE(entry->Header.AceType, BYTE{ACCESS_ALLOWED_ACE_TYPE});
+        QVERIFY(isThisUser(&entry->SidStart));
+    }
+#endif
+}
+
+void tst_VXIPCServer::keepsOtherUsersOut()
+{
+#ifdef Q_OS_UNIX
+    if (geteuid() != 0)
+        QSKIP("Only root can try it as another user");
+    // In a folder that others may enter, so that it is the socket that keeps them out.
+    const QTemporaryDir folder;
+    QVERIFY(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner |
+                                                     QFile::ExeOwner | QFile::ReadOther |
+                                                     QFile::ExeOther));
+    const RuntimeFolder runtime(folder.path());
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QByteArray address = QFile::encodeName(VXIPCClient::address(service.serverName()));
+    QCOMPARE(connectionFault(address, geteuid()), 0);
+    constexpr uid_t Nobody = 65534;
+    QCOMPARE(connectionFault(address, Nobody), EACCES);
+#else
+    QSKIP("A test cannot log another user in");
+#endif
+}
+
+void tst_VXIPCServer::isNotPublishedWhereOthersMayWrite_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("complaint");
+
+    QTest::newRow("others may write")
+        << QStringLiteral("shared") << QStringLiteral("other users may write to it");
+    QTest::newRow("a group may write")
+        << QStringLiteral("group") << QStringLiteral("other users may write to it");
+    QTest::newRow("a file") << QStringLiteral("file") << QStringLiteral("is not a folder");
+    QTest::newRow("a link to a folder")
+        << QStringLiteral("link") << QStringLiteral("is not a folder");
+    QTest::newRow("nowhere") << QStringLiteral("missing/nowhere") << QString();
+}
+
+void tst_VXIPCServer::isNotPublishedWhereOthersMayWrite()
+{
+#ifdef Q_OS_UNIX
+    QFETCH(const QString, kind);
+    QFETCH(const QString, complaint);
+
+    const QTemporaryDir parent;
+    const QDir folder(parent.path());
+    const auto addPermissions = [&](const QString& name, QFile::Permissions more) {
+        return folder.mkdir(name) &&
+               QFile::setPermissions(folder.filePath(name),
+                                     QFile::permissions(folder.filePath(name)) | more);
+    };
+    QVERIFY(addPermissions(QStringLiteral("shared"), QFile::WriteOther));
+    QVERIFY(addPermissions(QStringLiteral("group"), QFile::WriteGroup));
+    QVERIFY(QFile(folder.filePath(QStringLiteral("file"))).open(QFile::WriteOnly));
+    QVERIFY(folder.mkdir(QStringLiteral("own")));
+    QVERIFY(QFile::link(folder.filePath(QStringLiteral("own")),
+                        folder.filePath(QStringLiteral("link"))));
+
+    const RuntimeFolder runtime(folder.filePath(kind));
+    QTest::ignoreMessage(
+        QtWarningMsg,
+        QRegularExpression(QStringLiteral("is not published: .*/%1.*%2").arg(kind, complaint)));
+    TestService service(newServerType());
+    // The endpoint is published, or not, with the first events.
+    QCoreApplication::sendPostedEvents(&service);
+    QCOMPARE(service.serverName(), QString());
+    QCOMPARE(service.echo(QStringLiteral("here")), QStringLiteral("here"));
+#else
+    QSKIP("Pipes are in no folder");
 #endif
 }
 

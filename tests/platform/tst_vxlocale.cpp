@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "vxlocalelanguages.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QProcess>
+#include <QtTest/QTest>
+
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+/// Has this program print the current language's id and end.
+constexpr const char* PrintId = "--print-language-id";
+
+} // namespace
+
+class tst_VXLocale : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void numbersLanguages_data();
+    void numbersLanguages();
+    void takesTheFirstLanguageThatIsListed_data();
+    void takesTheFirstLanguageThatIsListed();
+    void asksTheRunningSystem_data();
+    void asksTheRunningSystem();
+};
+
+void tst_VXLocale::numbersLanguages_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<int>("id");
+
+    const auto row = [](const char* locale, int id) {
+        QTest::newRow(locale) << QString::fromLatin1(locale) << id;
+    };
+    row("en", 0);
+    row("en-US", 0);
+    row("en_GB", 0);
+    row("de", 1);
+    row("de-CH", 1);
+    row("de_AT", 1);
+    row("fr", 2);
+    row("fr-CA", 2);
+    row("es", 3);
+    row("es-MX", 3);
+    row("ja", 4);
+    row("ja_JP", 4);
+    row("it", 5);
+    row("it-CH", 5);
+    row("zh-Hans", 6);
+    row("zh_CN", 6);
+    row("zh-Hans-SG", 6);
+    row("pt", 7);
+    row("pt-BR", 7);
+    row("pt_PT", 7);
+    row("nl", 8);
+    row("nl-BE", 8);
+    row("pl", 9);
+    row("ko", 10);
+    row("ko_KR", 10);
+    row("zh-Hant", 11);
+    row("zh_TW", 11);
+    row("zh-HK", 11);
+    // Not listed.
+    row("sv", 0);
+    row("tlh", 0);
+    row("C", 0);
+    row("", 0);
+    row("no locale at all", 0);
+}
+
+void tst_VXLocale::numbersLanguages()
+{
+    QFETCH(const QString, locale);
+    QFETCH(const int, id);
+    QCOMPARE(VXLocaleLanguages::languageId({locale}), id);
+}
+
+void tst_VXLocale::takesTheFirstLanguageThatIsListed_data()
+{
+    QTest::addColumn<QStringList>("locales");
+    QTest::addColumn<int>("id");
+
+    const auto row = [](const char* name, const QStringList& locales, int id) {
+        QTest::newRow(name) << locales << id;
+    };
+    row("none", {}, 0);
+    row("the first", {QStringLiteral("fr-FR"), QStringLiteral("de-DE")}, 2);
+    row("the second, after one not listed", {QStringLiteral("sv-SE"), QStringLiteral("de-DE")}, 1);
+    row("English before another", {QStringLiteral("en-GB"), QStringLiteral("de-DE")}, 0);
+    row("none listed", {QStringLiteral("sv-SE"), QStringLiteral("fi-FI")}, 0);
+}
+
+void tst_VXLocale::takesTheFirstLanguageThatIsListed()
+{
+    QFETCH(const QStringList, locales);
+    QFETCH(const int, id);
+    QCOMPARE(VXLocaleLanguages::languageId(locales), id);
+}
+
+void tst_VXLocale::asksTheRunningSystem_data()
+{
+    QTest::addColumn<QString>("languages");
+    QTest::addColumn<int>("id");
+
+    QTest::newRow("German") << QStringLiteral("de") << 1;
+    QTest::newRow("Japanese") << QStringLiteral("ja_JP") << 4;
+    QTest::newRow("traditional Chinese") << QStringLiteral("zh_TW") << 11;
+    QTest::newRow("in the user's order") << QStringLiteral("sv:fr:de") << 2;
+    QTest::newRow("none listed") << QStringLiteral("sv") << 0;
+}
+
+void tst_VXLocale::asksTheRunningSystem()
+{
+#ifdef Q_OS_WIN
+    QSKIP("Windows takes a process' language from the user's settings alone");
+#endif
+    QFETCH(const QString, languages);
+    QFETCH(const int, id);
+    // A process of its own: what the system's locale is, is settled when it is first asked for.
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    environment.insert(QStringLiteral("LANGUAGE"), languages);
+    process.setProcessEnvironment(environment);
+    process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(PrintId)});
+    QVERIFY2(process.waitForFinished(), qPrintable(process.errorString()));
+    QCOMPARE(process.readAllStandardOutput(), QByteArray::number(id));
+}
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication application(argc, argv);
+    if (argc == 2 && std::strcmp(argv[1], PrintId) == 0) {
+        std::printf("%d", VXLocaleLanguages().getCurrentLanguageId());
+        return 0;
+    }
+    tst_VXLocale test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_vxlocale.moc"
