@@ -62,7 +62,7 @@ public:
     {
         require(m_database.transaction(), "a transaction begins");
         m_writer->write(catalogue);
-        const DatabaseCounts counts = m_checker->check();
+        const DatabaseCounts counts = m_checker->checkContent();
         require(counts.supplies == catalogue.supplies.size(), "all supplies are there");
         require(counts.ribbons == catalogue.ribbons.size(), "all ribbons are there");
         require(counts.settings == catalogue.settings.size(), "all print settings are there");

@@ -56,6 +56,11 @@ DatabaseChecker::DatabaseChecker(const QSqlDatabase& database, const QString& na
 DatabaseCounts DatabaseChecker::check()
 {
     checkStructure();
+    return checkContent();
+}
+
+DatabaseCounts DatabaseChecker::checkContent()
+{
     checkSchema();
     if (const QString table = first(QStringLiteral("PRAGMA foreign_key_check")); !table.isNull())
         throw fault(QStringLiteral("a row of %1 refers to nothing").arg(table));

@@ -31,6 +31,8 @@ public:
     DatabaseChecker(const QSqlDatabase& database, const QString& name);
 
     DatabaseCounts check();
+    /// Without the structure, which SQLite keeps in order where nobody else writes.
+    DatabaseCounts checkContent();
 
 private:
     void checkStructure();
