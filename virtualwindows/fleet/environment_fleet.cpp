@@ -58,7 +58,7 @@ public:
         virtualwindows::populate(Machine::instance(), fleet);
         // The story begins when the program is ready to hear of it.
         if (!fleet.story.isEmpty())
-            QTimer::singleShot(0, &m_player, &StoryPlayer::start);
+            QMetaObject::invokeMethod(&m_player, &StoryPlayer::start, Qt::QueuedConnection);
     }
 
 private:
