@@ -16,16 +16,14 @@ function(vx_add_test name)
         RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests"
         WIN32_EXECUTABLE OFF)
     add_test(NAME ${name} COMMAND ${name})
-    # A test that hangs is killed and reported within a minute; sanitizers slow everything down. Under
-    # Wine it is Qt Test and the emulator that tell a test that hangs from one that takes its time.
-    set(environment QT_QPA_PLATFORM=offscreen QT_FORCE_STDERR_LOGGING=1)
+    # A test that hangs is killed and reported within a minute; sanitizers slow everything down, and
+    # under Wine it is the emulator that tells a test that hangs from one that takes its time.
     if(VX_SANITIZE OR WIN32)
         set(limit 300)
     else()
         set(limit 60)
     endif()
-    if(WIN32)
-        list(APPEND environment QTEST_FUNCTION_TIMEOUT=45000)
-    endif()
-    set_tests_properties(${name} PROPERTIES TIMEOUT ${limit} ENVIRONMENT "${environment}")
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT ${limit}
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FORCE_STDERR_LOGGING=1")
 endfunction()
