@@ -5,6 +5,7 @@
 #include "vxipcclient.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QThread>
 #include <QtTest/QTest>
@@ -81,6 +82,52 @@ void beBad(const QString& serverName, const Badness& badness, const std::atomic_
     }
 }
 
+/// How long threads that could have run had to wait for a processor so far, which is the machine's
+/// doing and nobody else's. Nothing where the system does not tell.
+class ProcessorWaits
+{
+public:
+    /// Of the first thread of each process.
+    explicit ProcessorWaits(const std::vector<qint64>& processes)
+    {
+        for (const qint64 process : processes) {
+            auto file =
+                std::make_unique<QFile>(QStringLiteral("/proc/%1/task/%1/schedstat").arg(process));
+            m_isKnown = file->open(QFile::ReadOnly | QFile::Unbuffered) && m_isKnown;
+            m_files.push_back(std::move(file));
+        }
+    }
+
+    bool isKnown() const { return m_isKnown; }
+
+    std::chrono::nanoseconds all() const
+    {
+        std::chrono::nanoseconds sum = 0ns;
+        for (const auto& file : m_files) {
+            file->seek(0);
+            // Time on a processor, time waiting for one, number of turns.
+            sum += std::chrono::nanoseconds(file->readAll().split(' ').value(1).toLongLong());
+        }
+        return sum;
+    }
+
+private:
+    std::vector<std::unique_ptr<QFile>> m_files;
+    bool m_isKnown = true;
+};
+
+double milliseconds(std::chrono::nanoseconds time)
+{
+    return std::chrono::duration<double, std::milli>(time).count();
+}
+
+/// The time that the given share of them does not exceed.
+std::chrono::nanoseconds quantile(std::vector<std::chrono::nanoseconds> times, double share)
+{
+    std::ranges::sort(times);
+    return times.at(static_cast<std::size_t>(static_cast<double>(times.size() - 1) * share));
+}
+
 } // namespace
 
 class tst_VXIPCFlood : public QObject
@@ -106,15 +153,19 @@ void tst_VXIPCFlood::leavesAGoodClientServed()
         threads.back()->start();
     }
 
+    const ProcessorWaits waits({host.processId(), QCoreApplication::applicationPid()});
     std::vector<std::chrono::nanoseconds> times;
+    std::vector<std::chrono::nanoseconds> timesOfTheirOwn;
     bool isServed = true;
     const QDeadlineTimer end(FloodTime);
     while (isServed && !end.hasExpired()) {
+        const std::chrono::nanoseconds waitedBefore = waits.all();
         QElapsedTimer timer;
         timer.start();
         const VXIPCReply reply =
             good.callAndWait(QStringLiteral("echo"), QJsonArray{QStringLiteral("good")});
         times.push_back(std::chrono::nanoseconds(timer.nsecsElapsed()));
+        timesOfTheirOwn.push_back(times.back() - (waits.all() - waitedBefore));
         isServed = reply.isOk() && reply.result == QStringLiteral("good");
     }
     isOver = true;
@@ -122,16 +173,16 @@ void tst_VXIPCFlood::leavesAGoodClientServed()
         thread->wait();
 
     QVERIFY(isServed);
-    std::sort(times.begin(), times.end());
-    const auto p99 = times.at(times.size() * 99 / 100);
-    qInfo("%zu calls, median %.2f ms, p99 %.2f ms, slowest %.2f ms", times.size(),
-          std::chrono::duration<double, std::milli>(times.at(times.size() / 2)).count(),
-          std::chrono::duration<double, std::milli>(p99).count(),
-          std::chrono::duration<double, std::milli>(times.back()).count());
     QVERIFY(!times.empty());
-    // A busy machine or a sanitizer makes everybody wait; whoever has a quiet one asks for this.
-    if (qEnvironmentVariableIsSet("VX_MEASURE"))
-        QVERIFY(p99 < SlowestOfAHundred);
+    // What endpoint and client took for themselves, working or blocked: on a busy machine both wait
+    // for a processor besides, along with the bad clients and whatever else runs.
+    const std::chrono::nanoseconds p99 = quantile(timesOfTheirOwn, 0.99);
+    qInfo("%zu calls: median %.2f ms, p99 %.2f ms, of which endpoint and client took p99 %.2f ms",
+          times.size(), milliseconds(quantile(times, 0.5)), milliseconds(quantile(times, 0.99)),
+          milliseconds(p99));
+    if (!waits.isKnown())
+        QSKIP("The system does not tell how long threads wait for a processor");
+    QVERIFY(p99 < SlowestOfAHundred);
     // It is still there for the next one.
     VXIPCClient next(host.serverName());
     QTRY_VERIFY(next.callAndWait(QStringLiteral("notes")).isOk());
