@@ -57,8 +57,10 @@ struct Footprint
     int openFiles = 0;
     int objects = 0; ///< QObjects
     qint64 residentBytes = 0;
+    qint64 usedBytes = 0; ///< allocated and not released
 
     static Footprint now();
+    QString memory() const;
 };
 
 /// Holds the printers' threads as they call a function, until they are let go.

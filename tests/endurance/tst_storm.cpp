@@ -191,9 +191,15 @@ private:
     /// Changes every printer so many times, ten times a second and evenly, as far as this machine
     /// goes along.
     void changePrinters(int firstNumber, int rounds);
-    /// Runs the host's event loop while the printers change; tells how many seconds they did, and
-    /// how many reports the host had had by then.
-    double letStormPass(int firstNumber, int rounds, qint64* deliveredAtEnd);
+    /// How things stand at the moment at which the printers have stopped changing.
+    struct Aftermath
+    {
+        double seconds = 0; ///< that they took
+        qint64 delivered = 0;
+        Footprint footprint;
+    };
+    /// Runs the host's event loop while the printers change.
+    Aftermath letStormPass(int firstNumber, int rounds);
     QString firstMismatch(const PrinterStatusController& controller, int number) const;
     static void printCosts();
     static void printMileageParts(PrinterStatusController& controller, const QString& printer);
@@ -292,22 +298,20 @@ void StormTest::printMileageParts(PrinterStatusController& controller, const QSt
           printerCount, listing, database);
 }
 
-double StormTest::letStormPass(int firstNumber, int rounds, qint64* deliveredAtEnd)
+StormTest::Aftermath StormTest::letStormPass(int firstNumber, int rounds)
 {
     QElapsedTimer clock;
     clock.start();
-    double seconds = 0;
+    Aftermath aftermath;
     QEventLoop loop;
     std::thread drivers([&] {
         changePrinters(firstNumber, rounds);
-        seconds = double(clock.elapsed()) / 1000;
-        if (deliveredAtEnd)
-            *deliveredAtEnd = host().delivered;
+        aftermath = {double(clock.elapsed()) / 1000, host().delivered, Footprint::now()};
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });
     loop.exec();
     drivers.join();
-    return seconds;
+    return aftermath;
 }
 
 void StormTest::storm_data()
@@ -331,7 +335,7 @@ void StormTest::storm()
 
     // What is kept for good, and the allocator's pools, are there after a while of storm.
     const int warmUp = withMileages ? 0 : changesASecond;
-    letStormPass(1, warmUp, nullptr);
+    letStormPass(1, warmUp);
     QTRY_COMPARE_WITH_TIMEOUT(firstMismatch(*controller, warmUp), QString(), farAway);
     const Footprint before = Footprint::now();
 
@@ -340,20 +344,18 @@ void StormTest::storm()
     const int last = warmUp + rounds;
     QElapsedTimer clock;
     clock.start();
-    qint64 deliveredInTime = 0;
-    const double stormed = letStormPass(warmUp + 1, rounds, &deliveredInTime);
-    const Footprint atItsEnd = Footprint::now();
+    const Aftermath aftermath = letStormPass(warmUp + 1, rounds);
     QTRY_COMPARE_WITH_TIMEOUT(firstMismatch(*controller, last), QString(), farAway);
     const double passed = double(clock.elapsed()) / 1000;
     const Footprint after = Footprint::now();
 
     qInfo("%d printers, %d changes each in %.1f s: %lld reports, %lld of them delivered in that "
           "time and all after %.1f s",
-          printerCount, rounds, stormed, static_cast<long long>(host().delivered),
-          static_cast<long long>(deliveredInTime), passed);
-    qInfo("resident %.1f MiB before, %.1f at the storm's end, %.1f when all was delivered",
-          double(before.residentBytes) / mebibyte, double(atItsEnd.residentBytes) / mebibyte,
-          double(after.residentBytes) / mebibyte);
+          printerCount, rounds, aftermath.seconds, static_cast<long long>(host().delivered),
+          static_cast<long long>(aftermath.delivered), passed);
+    qInfo("%s before; %s at the storm's end; %s when all was delivered",
+          qPrintable(before.memory()), qPrintable(aftermath.footprint.memory()),
+          qPrintable(after.memory()));
     printCosts();
     qInfo("between two beats of a timer of the host's the loop computed at most %.1f us, for %lld "
           "reports",
