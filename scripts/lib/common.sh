@@ -102,7 +102,7 @@ build_preset() {
     say "built $preset in $(seconds_since $began) s"
 }
 
-build_windows() { build_preset windows all "about 5 minutes on two cores, less what ccache has"; }
+build_windows() { build_preset windows all "about 6 minutes on two cores, less what ccache has"; }
 
 windows_packages=(ca-certificates ccache cmake g++-mingw-w64-x86-64-posix ninja-build python3
     qt6-base-dev qt6-base-dev-tools qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
