@@ -16,15 +16,15 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto TurnTime = 250us;
-/// Reading a line up to here takes a small part of a turn.
-constexpr qsizetype LightLine = qsizetype{16} << 10;
+/// Parsing a line up to here takes about a turn.
+constexpr qsizetype ShortLine = qsizetype{16} << 10;
 constexpr qsizetype ReadChunk = qsizetype{64} << 10;
 /// How long a client that is refused has to take the answer that says so, and to close.
 constexpr auto Farewell = 1s;
 
 } // namespace
 
-IpcConnection::IpcConnection(QLocalSocket* socket, const IpcDispatcher& dispatcher, QObject* parent)
+IpcConnection::IpcConnection(QLocalSocket* socket, IpcDispatcher& dispatcher, QObject* parent)
     : QObject(parent)
     , m_socket(socket)
     , m_dispatcher(dispatcher)
@@ -34,11 +34,13 @@ IpcConnection::IpcConnection(QLocalSocket* socket, const IpcDispatcher& dispatch
     m_socket->setReadBufferSize(ReadChunk);
     connect(m_socket, &QLocalSocket::readyRead, this, &IpcConnection::onReadyRead);
     connect(m_socket, &QLocalSocket::disconnected, this, &IpcConnection::onDisconnected);
+    connect(&m_parsing, &QFutureWatcherBase::finished, this, &IpcConnection::onParsed);
 }
 
 IpcConnection::~IpcConnection()
 {
     m_socket->disconnect(this);
+    dropWork();
     if (!m_isInTurn)
         return;
     // The socket is telling that it is readable and needs to outlive what that led to.
@@ -50,13 +52,16 @@ IpcConnection::~IpcConnection()
 void IpcConnection::takeTurn()
 {
     m_isTurnWanted = false;
-    work(Load::Any);
+    work();
 }
 
 void IpcConnection::onReadyRead()
 {
-    if (!m_isTurnWanted)
-        work(Load::Light);
+    // Together, many that each take a whole turn would keep those waiting who take little.
+    if (m_tookWholeTurn)
+        wantTurn();
+    else
+        work();
 }
 
 void IpcConnection::onDisconnected()
@@ -66,10 +71,21 @@ void IpcConnection::onDisconnected()
     onReadyRead();
 }
 
-void IpcConnection::work(Load load)
+void IpcConnection::onParsed()
+{
+    // Of a line that was dropped since.
+    if (!m_isParsing)
+        return;
+    m_isParsing = false;
+    m_isMessageLong = true;
+    startMessage(m_parsing.future().takeResult());
+    wantTurn();
+}
+
+void IpcConnection::work()
 {
     // A slot that runs an event loop of its own ends up here.
-    if (m_isInTurn)
+    if (m_isInTurn || m_isParsing || m_isTurnWanted)
         return;
     m_isInTurn = true;
     const QPointer<IpcConnection> self(this);
@@ -82,21 +98,28 @@ void IpcConnection::work(Load load)
                 return;
         } else if (!fetchLine()) {
             isIdle = true;
-        } else if (load == Load::Light && m_received.lineSize() > LightLine) {
-            break;
         } else {
-            startMessage();
+            takeLine();
         }
-    } while (!isIdle && !end.hasExpired());
+    } while (!isIdle && !m_isParsing && !end.hasExpired());
     m_socket->flush();
     m_isInTurn = false;
+    m_tookWholeTurn = end.hasExpired();
 
-    if (!isIdle) {
-        m_isTurnWanted = true;
-        Q_EMIT turnWanted();
-    } else if (m_isDisconnected) {
+    if (m_isParsing)
+        return;
+    if (!isIdle)
+        wantTurn();
+    else if (m_isDisconnected)
         Q_EMIT finished();
-    }
+}
+
+void IpcConnection::wantTurn()
+{
+    if (m_isTurnWanted)
+        return;
+    m_isTurnWanted = true;
+    Q_EMIT turnWanted();
 }
 
 bool IpcConnection::fetchLine()
@@ -118,15 +141,27 @@ bool IpcConnection::fetchLine()
     return false;
 }
 
-void IpcConnection::startMessage()
+void IpcConnection::takeLine()
 {
     const QByteArrayView line = m_received.takeLine();
     if (line.trimmed().isEmpty())
         return;
-    m_message = IpcDispatcher::parse(line);
+    if (line.size() <= ShortLine) {
+        startMessage(IpcDispatcher::parse(line));
+        return;
+    }
+    m_isParsing = true;
+    m_parsing.setFuture(m_dispatcher.parseAside(line.toByteArray()));
+}
+
+void IpcConnection::startMessage(IpcDispatcher::Message message)
+{
+    m_message = std::move(message);
     m_nextRequest = 0;
-    if (m_message.failure)
-        write(*m_message.failure);
+    if (!m_message.failure)
+        return;
+    write(*m_message.failure);
+    dropMessage();
 }
 
 void IpcConnection::handleNextRequest()
@@ -157,8 +192,7 @@ void IpcConnection::answer(const QByteArray& line)
 
 void IpcConnection::endMessage()
 {
-    m_message = {};
-    m_nextRequest = 0;
+    dropMessage();
     if (!m_answers.isEmpty())
         write(std::exchange(m_answers, {}) + "]\n");
 }
@@ -199,7 +233,17 @@ void IpcConnection::refuse(const JsonRpc::Error& error)
 void IpcConnection::dropWork()
 {
     m_received.clear();
-    m_message = {};
-    m_nextRequest = 0;
+    m_isParsing = false;
+    m_parsing.setFuture({});
+    dropMessage();
     m_answers.clear();
+}
+
+void IpcConnection::dropMessage()
+{
+    m_nextRequest = 0;
+    if (m_isMessageLong)
+        m_dispatcher.discardAside(std::move(m_message));
+    m_isMessageLong = false;
+    m_message = {};
 }

@@ -6,7 +6,7 @@
 #include "line_buffer.h"
 
 #include <QtCore/QByteArray>
-#include <QtCore/QJsonArray>
+#include <QtCore/QFutureWatcher>
 #include <QtCore/QObject>
 
 class QLocalSocket;
@@ -15,14 +15,15 @@ class QLocalSocket;
 /// done.
 ///
 /// Works in turns of a fraction of a millisecond, so that no client keeps the others, or the thread
-/// that the endpoint shares with its host, waiting for all it has sent.
+/// that the endpoint shares with its host, waiting for all it has sent. Long lines are parsed on
+/// another thread meanwhile.
 class IpcConnection : public QObject
 {
     Q_OBJECT
 
 public:
     /// Owns `socket`. `dispatcher` outlives the connection.
-    IpcConnection(QLocalSocket* socket, const IpcDispatcher& dispatcher, QObject* parent);
+    IpcConnection(QLocalSocket* socket, IpcDispatcher& dispatcher, QObject* parent);
     ~IpcConnection() override;
 
     /// Handles requests until the turn's time is over. May end with the connection destroyed, by
@@ -41,39 +42,40 @@ Q_SIGNALS:
     void finished();
 
 private:
-    enum class Load
-    {
-        /// Leaves a line that takes long to read for a turn of its own.
-        Light,
-        Any,
-    };
-
     void onReadyRead();
     void onDisconnected();
-    void work(Load load);
+    void onParsed();
+    void work();
+    void wantTurn();
 
     /// Whether the next line is there; reads what has arrived when it is not yet.
     bool fetchLine();
-    void startMessage();
+    void takeLine();
+    void startMessage(IpcDispatcher::Message message);
     void handleNextRequest();
     void answer(const QByteArray& line);
     void endMessage();
     void write(const QByteArray& bytes);
     void closeOverflowing();
     void dropWork();
+    void dropMessage();
 
     QLocalSocket* m_socket;
-    const IpcDispatcher& m_dispatcher;
+    IpcDispatcher& m_dispatcher;
 
     LineBuffer m_received;
+    QFutureWatcher<IpcDispatcher::Message> m_parsing;
+    bool m_isParsing = false;
 
     /// The message in work, and the answers it has so far.
     IpcDispatcher::Message m_message;
+    bool m_isMessageLong = false;
     qsizetype m_nextRequest = 0;
     QByteArray m_answers;
 
     bool m_isInTurn = false;
     bool m_isTurnWanted = false;
+    bool m_tookWholeTurn = false;
     bool m_isDisconnected = false;
     bool m_isRefused = false;
 };

@@ -6,6 +6,9 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
+#include <QtCore/QPromise>
+
+#include <memory>
 
 namespace {
 
@@ -56,7 +59,16 @@ QByteArray invalidRequest(const QJsonValue& id, const QString& defect)
 IpcDispatcher::IpcDispatcher(QObject& object, const QMetaObject& base, QString title)
     : m_methods(object, base)
     , m_title(std::move(title))
-{}
+{
+    // One, so that clients who send much get no more of the machine by being many.
+    m_aside.setMaxThreadCount(1);
+    m_aside.setThreadPriority(QThread::LowPriority);
+}
+
+IpcDispatcher::~IpcDispatcher()
+{
+    m_aside.clear();
+}
 
 IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
 {
@@ -81,6 +93,23 @@ IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
         message.failure = invalidRequest(QJsonValue::Null, QStringLiteral("the batch is empty"));
     }
     return message;
+}
+
+QFuture<IpcDispatcher::Message> IpcDispatcher::parseAside(QByteArray line)
+{
+    // Shared, because the pool wants to be able to copy what it runs.
+    const auto promise = std::make_shared<QPromise<Message>>();
+    promise->start();
+    m_aside.start([promise, line = std::move(line)] {
+        promise->addResult(parse(line));
+        promise->finish();
+    });
+    return promise->future();
+}
+
+void IpcDispatcher::discardAside(Message message)
+{
+    m_aside.start([message = std::move(message)] { Q_UNUSED(message) });
 }
 
 std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& value) const

@@ -169,6 +169,7 @@ private Q_SLOTS:
     void isNotPublishedWhereOthersMayWrite();
 
     void readsALineOfTheGreatestLength();
+    void answersInOrderAfterALongLine();
     void refusesALineThatIsTooLong_data();
     void refusesALineThatIsTooLong();
     void refusesTheClientThatIsOneTooMany();
@@ -177,10 +178,12 @@ private Q_SLOTS:
     void closesAClientWhoseBatchAsksForTooMuch();
     void outlivesAClientThatDies_data();
     void outlivesAClientThatDies();
+    void doesWhatAClientSentBeforeItLeft_data();
     void doesWhatAClientSentBeforeItLeft();
     void servesOthersDuringALongBatch();
     void takesCallsDuringACall();
     void mayBeDestroyedByACall();
+    void mayBeDestroyedWithLongLinesInWork();
 
 private:
     QString serverName();
@@ -853,6 +856,24 @@ void tst_VXIPCServer::readsALineOfTheGreatestLength()
     QCOMPARE(m_service->log.size(), 1);
 }
 
+void tst_VXIPCServer::answersInOrderAfterALongLine()
+{
+    RawClient client(serverName());
+    const QByteArray note = R"({"jsonrpc":"2.0","method":"note","params":["long"]})";
+    client.send('[' + (note + ',').repeated(5000) + note +
+                "]\n"
+                R"({"jsonrpc":"2.0","id":"wrong","method":)" +
+                QByteArray(100000, ' ') +
+                "\n"
+                R"({"jsonrpc":"2.0","id":"last","method":"notes"})"
+                "\n");
+    QCOMPARE(object(client.receive())[QStringLiteral("error")][QStringLiteral("code")].toInt(),
+             -32700);
+    const QJsonObject last = object(client.receive());
+    QCOMPARE(last[QStringLiteral("id")].toString(), QStringLiteral("last"));
+    QCOMPARE(last[QStringLiteral("result")].toArray().size(), 5001);
+}
+
 void tst_VXIPCServer::refusesALineThatIsTooLong_data()
 {
     QTest::addColumn<QByteArray>("bytes");
@@ -963,17 +984,28 @@ void tst_VXIPCServer::outlivesAClientThatDies()
     }
 }
 
+void tst_VXIPCServer::doesWhatAClientSentBeforeItLeft_data()
+{
+    QTest::addColumn<int>("lines");
+    QTest::addColumn<int>("lineLength");
+    QTest::newRow("many lines") << 1000 << 60;
+    // Parsed on another thread while the client leaves.
+    QTest::newRow("long lines") << 10 << 300000;
+}
+
 void tst_VXIPCServer::doesWhatAClientSentBeforeItLeft()
 {
+    QFETCH(const int, lines);
+    QFETCH(const int, lineLength);
+    const QByteArray note = R"({"jsonrpc":"2.0","method":"note","params":["a"])";
     {
         RawClient client(serverName());
-        for (int i = 0; i < 1000; ++i)
-            client.send(R"({"jsonrpc":"2.0","method":"note","params":["a"]})"
-                        "\n");
+        for (int i = 0; i < lines; ++i)
+            client.send(note + QByteArray(lineLength - note.size() - 1, ' ') + "}\n");
         client.socket().disconnectFromServer();
         QVERIFY(client.waitForClose());
     }
-    QTRY_COMPARE(m_service->log.size(), 1000);
+    QTRY_COMPARE(m_service->log.size(), lines);
 }
 
 void tst_VXIPCServer::servesOthersDuringALongBatch()
@@ -1021,6 +1053,28 @@ void tst_VXIPCServer::mayBeDestroyedByACall()
                 "\n");
     QVERIFY(client.waitForClose());
     QVERIFY(!service);
+}
+
+void tst_VXIPCServer::mayBeDestroyedWithLongLinesInWork()
+{
+    // Ends wherever the work has come to, on either thread.
+    for (int round = 0; round < 20; ++round) {
+        std::vector<std::unique_ptr<RawClient>> clients;
+        for (int i = 0; i < 3; ++i) {
+            clients.push_back(std::make_unique<RawClient>(serverName()));
+            clients.back()->send('[' + QByteArray("1,").repeated(50000 * (i + 1)) + "1]\n");
+        }
+        QVERIFY(QTest::qWaitFor([&] {
+            return std::ranges::all_of(
+                clients, [](const auto& each) { return each->socket().bytesToWrite() == 0; });
+        }));
+        for (int i = 0; i < round; ++i)
+            QCoreApplication::processEvents();
+        m_service.reset();
+        for (const auto& client : clients)
+            QVERIFY(client->waitForClose());
+        init();
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_VXIPCServer)
