@@ -56,6 +56,11 @@ if(VX_SANITIZE_FLAGS)
     # what is not there.
     add_compile_options(${VX_SANITIZE_FLAGS})
     add_link_options(${VX_SANITIZE_FLAGS})
+    # The optimizer takes most of the time of such a build and takes little off what the sanitizers
+    # add; of the debug information reports show lines alone. Fuzzers do need to be fast.
+    if(NOT VX_BUILD_FUZZERS)
+        add_compile_options(-Og -g1)
+    endif()
 endif()
 
 if(VX_BUILD_FUZZERS)

@@ -70,7 +70,7 @@ void IpcPublisher::publish(const QString& name)
     }
     // Between finding a dead endpoint's socket and replacing it, another process must not do the
     // same. Who does not get to look leaves the name alone.
-    QLockFile lock(IpcScope::lockFile());
+    QLockFile lock(IpcScope::lockFile(name));
     const bool mayTake = lock.tryLock(static_cast<int>(LockTime / 1ms));
     if (mayTake && !isHeld(IpcScope::address(name))) {
         listen(name);

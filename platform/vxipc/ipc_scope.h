@@ -15,8 +15,8 @@ QString address(const QString& name);
 /// Makes what addresses stand on. Empty when that succeeded, else why no endpoint can be published.
 QString prepare();
 
-/// The file that a process locks while it takes a name.
-QString lockFile();
+/// The file that a process locks while it takes `name`.
+QString lockFile(const QString& name);
 
 /// Makes a published name one of names(), and ends that.
 void announce(const QString& name);

@@ -44,9 +44,9 @@ QString prepare()
     return {};
 }
 
-QString lockFile()
+QString lockFile(const QString& name)
 {
-    return address(QStringLiteral("vxipc.lock"));
+    return address(name + QLatin1String(".lock"));
 }
 
 // The socket's own entry in the folder says that it is there.

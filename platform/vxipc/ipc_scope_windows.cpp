@@ -43,9 +43,9 @@ QString prepare()
                               : QString();
 }
 
-QString lockFile()
+QString lockFile(const QString& name)
 {
-    return QDir::temp().filePath(QStringLiteral("vxipc.lock"));
+    return QDir::temp().filePath(name + QLatin1String(".lock"));
 }
 
 void announce(const QString& name)
