@@ -76,14 +76,15 @@ follow_build() {
 }
 
 # build_preset NAME [TARGET [HOW_LONG]]: configures and builds, telling how far it is and how long it
-# usually takes; the whole output is shown only when it fails.
+# usually takes; the whole output is shown only when it fails. CMake gets configure_options too.
+configure_options=()
 build_preset() {
     local preset=$1 target=${2:-all} usual=${3:-} began=$SECONDS log
     # Clones in other folders find in the compiler's cache what this one has compiled.
     export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
     log=$(mktemp)
     say "configuring $preset"
-    (cd "$root" && cmake --preset "$preset") >"$log" 2>&1 || {
+    (cd "$root" && cmake --preset "$preset" "${configure_options[@]}") >"$log" 2>&1 || {
         cat "$log" >&2
         fail "cmake could not configure the preset $preset"
     }
