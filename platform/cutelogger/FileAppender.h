@@ -13,6 +13,7 @@ class CUTELOGGERSHARED_EXPORT FileAppender : public AbstractAppender
 public:
     explicit FileAppender(const QString& fileName = QString());
     ~FileAppender() override;
+    Q_DISABLE_COPY_MOVE(FileAppender)
 
     QString fileName() const;
     /// Closes the file and goes on in another.

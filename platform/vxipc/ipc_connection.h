@@ -25,6 +25,7 @@ public:
     /// Owns `socket`. `dispatcher` outlives the connection.
     IpcConnection(QLocalSocket* socket, IpcDispatcher& dispatcher, QObject* parent);
     ~IpcConnection() override;
+    Q_DISABLE_COPY_MOVE(IpcConnection)
 
     /// Handles requests until the turn's time is over. May end with the connection destroyed, by
     /// what a request called.

@@ -25,6 +25,7 @@ class VXLocaleLanguages : public QObject
 public:
     explicit VXLocaleLanguages(QObject* parent = nullptr);
     ~VXLocaleLanguages() override;
+    Q_DISABLE_COPY_MOVE(VXLocaleLanguages)
 
     /// The number of the language that the user of the running system reads: the first listed one
     /// among those that the system's locale names, in the user's order of preference.

@@ -81,10 +81,12 @@ QString VXSupplyDatabase::supplyId() const
 }
 QString VXSupplyDatabase::supplySKU() const
 {
+    d->called(QStringLiteral("supplySKU()"));
     return d->script().supplySku;
 }
 QStringList VXSupplyDatabase::supplyRibbonSKUs() const
 {
+    d->called(QStringLiteral("supplyRibbonSKUs()"));
     return d->script().ribbonSkus;
 }
 QStringList VXSupplyDatabase::supplyRibbon1RGBs() const

@@ -95,6 +95,7 @@ void ControllerSuppliesTest::supplyIdentifier()
     report("onSupplyIdChanged", birch, reported);
     QCOMPARE(ScriptedSupplyDatabase::takeCalls(),
              QStringList({QStringLiteral("Beech: setSupplyId(%1)").arg(stored),
+                          QStringLiteral("Beech: supplySKU()"),
                           QStringLiteral("Beech: supplyColorRGB(answer)")}));
     QCOMPARE(takeSignals(), QStringList({QStringLiteral("supplyIdChangedSignal(Beech)"), updated}));
     QCOMPARE(record(birch).supplySKU, QStringLiteral("answer"));
@@ -196,7 +197,8 @@ void ControllerSuppliesTest::ribbonsFillTheRecord()
         Q_ARG(QStringList, QStringList({QStringLiteral("105"), QStringLiteral("106")}))));
 
     QCOMPARE(ScriptedSupplyDatabase::takeCalls(),
-             QStringList{QStringLiteral("Beech: setRibbonIds(105, 106)")});
+             QStringList({QStringLiteral("Beech: setRibbonIds(105, 106)"),
+                          QStringLiteral("Beech: supplyRibbonSKUs()")}));
     const PrinterStatusInformation found = record(birch);
     QCOMPARE(found.ribbon1SKU, QStringLiteral("R-1"));
     QCOMPARE(found.ribbon1ColorHex, QStringLiteral("#ff0000"));
