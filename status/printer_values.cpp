@@ -51,7 +51,8 @@ QString read(HANDLE printer, const TextValue& value)
         ask(printer, value.name, reinterpret_cast<BYTE*>(buffer.data()), value.capacity);
     if (!isText(answer.type) || answer.needed < value.leastBytes || answer.needed > value.mostBytes)
         return {};
-    return QString::fromUtf8(buffer.data(), qstrnlen(buffer.data(), value.capacity));
+    return QString::fromUtf8(buffer.data(),
+                             static_cast<qsizetype>(qstrnlen(buffer.data(), value.capacity)));
 }
 
 QString read(HANDLE printer, const NumberValue& value)

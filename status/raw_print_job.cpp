@@ -11,7 +11,7 @@ namespace {
 QByteArray payloadOf(const QString& command)
 {
     const QByteArray text = (command + QLatin1String("\r\n")).toLocal8Bit();
-    return QByteArray(text.constData());
+    return text.constData();
 }
 
 /// The spooler's records take texts that it does not write to as pointers to writable ones.

@@ -22,6 +22,7 @@ public:
     /// Publishes the slots that `object`, which is the parent too, declares below `base`.
     IpcPublisher(QObject& object, const QMetaObject& base);
     ~IpcPublisher() override;
+    Q_DISABLE_COPY_MOVE(IpcPublisher)
 
     /// Takes `name`, or when another living endpoint has it, `name` with the process id added.
     void publish(const QString& name);

@@ -84,7 +84,7 @@ Converted wideIntegerFromJson(const QJsonValue& json, QMetaType type)
         return converted;
     }
     bool ok = false;
-    const Integer number = integerFromText<Integer>(json.toString(), &ok);
+    const auto number = integerFromText<Integer>(json.toString(), &ok);
     if (ok)
         return fitting(QVariant::fromValue(number), Fit::Lenient);
     return unfitting(integerRange<Integer>());

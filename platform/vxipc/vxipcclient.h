@@ -75,6 +75,7 @@ public:
     /// For the endpoint of that name, as VXIPCServer::serverName() and runningServers() give it.
     explicit VXIPCClient(QString serverName, QObject* parent = nullptr);
     ~VXIPCClient() override;
+    Q_DISABLE_COPY_MOVE(VXIPCClient)
 
     QString serverName() const;
     bool isConnected() const;

@@ -24,7 +24,7 @@ const QStringList BlankRibbonIds{QString(), QStringLiteral("-1"), QStringLiteral
 constexpr qsizetype KeptRecords = 256;
 constexpr qsizetype KeptSettings = 2048;
 constexpr qsizetype KeptListEntries = 16384;
-constexpr qsizetype KeptImageBytes = 4 * 1024 * 1024;
+constexpr qsizetype KeptImageBytes = qsizetype{4} << 20;
 
 // What is asked of one thing goes in small groups. Qt prepares each column of an answer anew, so a
 // first question that had to read all there is would take several times as long. Keys are bound

@@ -27,7 +27,7 @@ constexpr double MaxLength = 100000.0;
 constexpr qsizetype MaxWordLength = 40;
 constexpr qsizetype MaxTagLength = 20;
 // Enough for any file that is let through, whose own limits are lower.
-constexpr qint64 MaxBytesRead = 32 * 1024 * 1024;
+constexpr qint64 MaxBytesRead = qint64{32} << 20;
 
 const QString EnglishTag = QStringLiteral("en");
 const QString BackgroundFolder = QStringLiteral("backgrounds/");

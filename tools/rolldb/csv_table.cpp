@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr qsizetype MaxFileBytes = 16 * 1024 * 1024;
+constexpr qsizetype MaxFileBytes = qsizetype{16} << 20;
 constexpr qsizetype MaxFieldLength = 4096;
 constexpr qsizetype MaxColumns = 64;
 

@@ -6,7 +6,7 @@
 
 #include <windows.h>
 
-struct SC_HANDLE__;
+struct SC_HANDLE__; // NOLINT(bugprone-reserved-identifier): the name that Windows gives it
 using SC_HANDLE = SC_HANDLE__*;
 
 #define SERVICE_WIN32_OWN_PROCESS 0x00000010U
