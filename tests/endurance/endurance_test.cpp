@@ -196,8 +196,7 @@ Footprint Footprint::now()
     footprint.threads = entries("/proc/self/task");
     footprint.openFiles = entries("/proc/self/fd");
     footprint.objects = objectCount;
-    const struct mallinfo2 allocator = mallinfo2();
-    footprint.usedBytes = static_cast<qint64>(allocator.uordblks + allocator.hblkhd);
+    footprint.usedBytes = usedBytesNow();
     // What the allocator keeps of memory that was released, in pools for each of many threads, is
     // given back first.
     malloc_trim(0);
@@ -206,6 +205,12 @@ Footprint Footprint::now()
     std::ifstream("/proc/self/statm") >> totalPages >> residentPages;
     footprint.residentBytes = residentPages * sysconf(_SC_PAGESIZE);
     return footprint;
+}
+
+qint64 Footprint::usedBytesNow()
+{
+    const struct mallinfo2 allocator = mallinfo2();
+    return static_cast<qint64>(allocator.uordblks + allocator.hblkhd);
 }
 
 HeldCalls::HeldCalls(virtualwindows::Machine& machine, const char* function)
@@ -333,9 +338,9 @@ void EnduranceTest::checkMemoryIsFlat(const Footprint& before, const Footprint& 
     Q_UNUSED(before)
     Q_UNUSED(after)
 #else
-    // What is in use tells of a leak. How much of what was released stays resident is the allocator's
-    // affair: stacks of threads that ended wait for others, and pages with one live piece are kept.
-    // It differs by several MiB from run to run.
+    // What is in use tells of a leak. How much of what was released stays resident is the
+    // allocator's affair: stacks of threads that ended wait for others, and pages with one live
+    // piece are kept. It differs by several MiB from run to run.
     constexpr qint64 mostInUse = mebibyte; // lists of a test's own grow a little
     const qint64 inUse = after.usedBytes - before.usedBytes;
     QVERIFY2(inUse <= mostInUse,

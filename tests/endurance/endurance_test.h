@@ -60,6 +60,7 @@ struct Footprint
     qint64 usedBytes = 0; ///< allocated and not released
 
     static Footprint now();
+    static qint64 usedBytesNow();
     QString memory() const;
 };
 
