@@ -8,7 +8,9 @@
 #include <QtCore/QReadWriteLock>
 
 #include <array>
+#include <atomic>
 #include <cstdarg>
+#include <cstdio>
 
 struct Logger::Private
 {
@@ -20,6 +22,42 @@ namespace {
 
 constexpr std::array<const char*, 6> levelNames{"Trace",   "Debug", "Info",
                                                 "Warning", "Error", "Fatal"};
+
+/// The time that the clock on the wall shows. How far that is from universal time is asked once a
+/// second and not for every line: the system looks at its time zone's file for it, which takes
+/// longer than all the rest of a line.
+QDateTime wallClock()
+{
+    struct Offset
+    {
+        quint32 second = 0; ///< in which it was asked
+        qint32 seconds = 0; ///< east of universal time
+    };
+    static std::atomic<Offset> kept{Offset{}};
+
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    const auto second = static_cast<quint32>(now / 1000);
+    Offset offset = kept.load(std::memory_order_relaxed);
+    if (offset.second != second) {
+        offset = {second, QDateTime::fromMSecsSinceEpoch(now).offsetFromUtc()};
+        kept.store(offset, std::memory_order_relaxed);
+    }
+    return QDateTime::fromMSecsSinceEpoch(now, Qt::OffsetFromUTC, offset.seconds);
+}
+
+/// As QString::vasprintf, which composes a text of its pieces and takes several times as long.
+QString formatted(const char* message, va_list arguments)
+{
+    va_list again;
+    va_copy(again, arguments);
+    std::array<char, 512> text;
+    const int length = std::vsnprintf(text.data(), text.size(), message, arguments);
+    const bool fits = length >= 0 && static_cast<std::size_t>(length) < text.size();
+    const QString result =
+        fits ? QString::fromUtf8(text.data(), length) : QString::vasprintf(message, again);
+    va_end(again);
+    return result;
+}
 
 } // namespace
 
@@ -78,7 +116,7 @@ void Logger::write(const QDateTime& timeStamp, LogLevel level, const char* file,
 void Logger::write(LogLevel level, const char* file, int line, const char* function,
                    const char* category, const QString& message)
 {
-    write(QDateTime::currentDateTime(), level, file, line, function, category, message);
+    write(wallClock(), level, file, line, function, category, message);
 }
 
 CuteMessageLogger::CuteMessageLogger(Logger* logger, Logger::LogLevel level, const char* file,
@@ -101,7 +139,7 @@ void CuteMessageLogger::write(const char* message, ...) const
 {
     va_list arguments;
     va_start(arguments, message);
-    const QString text = QString::vasprintf(message, arguments);
+    const QString text = formatted(message, arguments);
     va_end(arguments);
     write(text);
 }

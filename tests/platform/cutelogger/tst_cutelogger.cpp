@@ -5,7 +5,9 @@
 #include <FileAppender.h>
 #include <Logger.h>
 
+#include <QtCore/QDateTime>
 #include <QtCore/QFile>
+#include <QtCore/QScopeGuard>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
@@ -30,6 +32,7 @@ class Recorder : public AbstractAppender
 {
 public:
     QList<Record> records;
+    QList<QDateTime> times;
 
 protected:
     void append(const QDateTime& timeStamp, Logger::LogLevel level, const char* file, int line,
@@ -37,6 +40,7 @@ protected:
     {
         if (!timeStamp.isValid())
             qFatal("a record without a time");
+        times.append(timeStamp);
         records.append(
             {level, QString::fromUtf8(file), line, QString::fromUtf8(function), category, message});
     }
@@ -57,6 +61,7 @@ private Q_SLOTS:
     void levelNames();
     void appenderTwiceIsOnce();
     void removedAppenderIsTheCallers();
+    void recordsHaveTheTimeOfTheWallClock();
     void recordsOfManyThreads();
     void fileAppender();
     void fileAppenderWithoutAFile();
@@ -164,6 +169,27 @@ void CuteLoggerTest::removedAppenderIsTheCallers()
         at(logger).write(QStringLiteral("message"));
     }
     QVERIFY(recorder.records.isEmpty());
+}
+
+void CuteLoggerTest::recordsHaveTheTimeOfTheWallClock()
+{
+    // A zone that no test machine is in, so that universal time cannot pass for the wall clock's.
+    qputenv("TZ", "VXT-5:45");
+    const auto unset = qScopeGuard([] { qunsetenv("TZ"); });
+    Logger logger;
+    auto* recorder = new Recorder;
+    logger.registerAppender(recorder);
+    // The zone is asked once a second, and another test may have had it asked in this one.
+    const QString format = QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz");
+    const auto isLocal = [&] {
+        const QString before = QDateTime::currentDateTime().toString(format);
+        at(logger).write(QStringLiteral("message"));
+        const QString written = recorder->times.constLast().toString(format);
+        return before <= written && written <= QDateTime::currentDateTime().toString(format);
+    };
+    QTRY_VERIFY(isLocal());
+    for (int record = 0; record < 100; ++record)
+        QVERIFY(isLocal());
 }
 
 void CuteLoggerTest::recordsOfManyThreads()
