@@ -47,9 +47,11 @@ VXIPCSUPPLYDController::~VXIPCSUPPLYDController()
 
 void VXIPCSUPPLYDController::addNewPrinter(const QString& printerName)
 {
-    if (databases.contains(printerName))
+    const auto place = databases.lowerBound(printerName);
+    if (place != databases.end() && place.key() == printerName)
         return;
-    databases.insert(printerName, openDatabase(printerName + QStringLiteral("_CONNECTION_NAME")));
+    databases.insert(place, printerName,
+                     openDatabase(printerName + QStringLiteral("_CONNECTION_NAME")));
 }
 
 VXSupplyDatabase* VXIPCSUPPLYDController::openDatabase(const QString& connectionName) const

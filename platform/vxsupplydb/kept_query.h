@@ -85,13 +85,6 @@ public:
         m_misses = 0;
     }
 
-    /// Forgets the answers and lets go of the connection.
-    void reset()
-    {
-        clear();
-        m_query.reset();
-    }
-
 private:
     bool ask(const QSqlDatabase& database, Answer& answer, const QVariantList& values)
     {

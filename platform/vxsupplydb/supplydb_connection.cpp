@@ -75,22 +75,25 @@ void SupplyDbConnection::setUp(const QString& path, const QString& connectionNam
 {
     close();
     m_fault.clear();
+    m_path = path;
+    m_name = connectionName;
     m_isOpenTried = false;
-    m_database = addConnection(connectionName);
-    // Whoever holds the file locked must not hold up the thread that asks.
-    m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=100"));
-    m_database.setDatabaseName(path);
 }
 
 bool SupplyDbConnection::open()
 {
-    if (!m_database.isValid() || std::exchange(m_isOpenTried, true))
+    if (std::exchange(m_isOpenTried, true))
         return m_database.isOpen();
-    m_fault = headerFault(m_database.databaseName());
-    if (m_fault.isEmpty() && m_database.open())
+    m_fault = headerFault(m_path);
+    if (!m_fault.isEmpty())
+        return false;
+    m_database = addConnection(m_name);
+    // Whoever holds the file locked must not hold up the thread that asks.
+    m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=100"));
+    m_database.setDatabaseName(m_path);
+    if (m_database.open())
         return true;
-    if (m_fault.isEmpty())
-        m_fault = m_database.lastError().databaseText();
+    m_fault = m_database.lastError().databaseText();
     close();
     return false;
 }

@@ -13,11 +13,11 @@ public:
     ~SupplyDbConnection();
     Q_DISABLE_COPY_MOVE(SupplyDbConnection)
 
-    /// Takes the connection name, or the name with a number behind it where another connection of
-    /// the process has the name. The file is not looked at.
+    /// Says which file to open. Neither is it looked at nor is the connection made yet.
     void setUp(const QString& path, const QString& connectionName);
-    /// Opens the file that was set up, at the first call. False when it cannot be used: fault() says
-    /// why then.
+    /// Opens the file that was set up, at the first call, on a connection of the name that was
+    /// given, or of the name with a number behind it where another connection of the process has
+    /// it. False when the file cannot be used: fault() says why then.
     bool open();
     /// Statements made on the connection must be gone before.
     void close();
@@ -29,7 +29,9 @@ public:
     static QString headerFault(const QString& path);
 
 private:
+    QString m_path;
+    QString m_name;
     QSqlDatabase m_database;
     QString m_fault;
-    bool m_isOpenTried = false;
+    bool m_isOpenTried = true; // there is nothing to open yet
 };

@@ -9,8 +9,8 @@
 
 #include <QtCore/QHash>
 
+#include <memory>
 #include <optional>
-#include <tuple>
 #include <utility>
 
 namespace {
@@ -245,17 +245,9 @@ qsizetype catalogueEntries(const Catalogue& catalogue)
     return 1 + catalogue.skus.size();
 }
 
-} // namespace
-
-class VXSupplyDatabase::Private
+/// All statements and their kept answers.
+struct KeptQueries
 {
-public:
-    int languageId = SupplyDbSchema::FallbackLanguage;
-    QString supplyId;
-    QStringList ribbonIds;
-    std::optional<QString> supplySku;
-    std::optional<QStringList> ribbonSkus;
-
     KeptQuery<QString, Colour> colours{
         ColourQuestion.forOne(), readColour, KeptRecords, {ColourQuestion.forAll(), textAt<3>}};
     KeptQuery<QString, SecondColour> secondColours{SecondColourQuestion.forOne(),
@@ -336,6 +328,27 @@ public:
     KeptQuery<int, Catalogue> allRibbons{RibbonsSql, readCatalogue, KeptListEntries,
                                          catalogueEntries};
 
+    void clearNames()
+    {
+        colours.clear();
+        secondColours.clear();
+        materials.clear();
+        formats.clear();
+        panelColours.clear();
+    }
+};
+
+} // namespace
+
+class VXSupplyDatabase::Private
+{
+public:
+    int languageId = SupplyDbSchema::FallbackLanguage;
+    QString supplyId;
+    QStringList ribbonIds;
+    std::optional<QString> supplySku;
+    std::optional<QStringList> ribbonSkus;
+
     void setup(const QString& path, const QString& name)
     {
         resetQueries();
@@ -352,21 +365,24 @@ public:
 
     void resetQueries()
     {
-        std::apply([](auto&... query) { (query.reset(), ...); },
-                   std::tie(colours, secondColours, materials, formats, sizes, arrangements,
-                            backgrounds, typeIndices, models, ribbons, panelColours, settings,
-                            suppliesOfKinds, ribbonsOfNumbers, supplies, allRibbons));
+        m_kept.reset();
         supplySku.reset();
         ribbonSkus.reset();
     }
 
     void clearNames()
     {
-        colours.clear();
-        secondColours.clear();
-        materials.clear();
-        formats.clear();
-        panelColours.clear();
+        if (m_kept)
+            m_kept->clearNames();
+    }
+
+    // Made when something is first asked: an application that has found a hundred printers asks
+    // about a few.
+    KeptQueries& kept()
+    {
+        if (!m_kept)
+            m_kept = std::make_unique<KeptQueries>();
+        return *m_kept;
     }
 
     // A text that cannot be a SKU is not asked for: what is kept would be as long as callers like.
@@ -392,7 +408,8 @@ public:
         static const Colour unknown{};
         if (!SupplyDbSchema::isSku(ribbonSku))
             return unknown;
-        return panelColours.answer(database(), {ribbonSku, panel}, languageId, ribbonSku, panel);
+        return kept().panelColours.answer(database(), {ribbonSku, panel}, languageId, ribbonSku,
+                                          panel);
     }
 
     const PrintSetting& setting(const QString& ribbonSku, int panel, const QString& supplySkuText)
@@ -400,8 +417,8 @@ public:
         static const PrintSetting unknown{};
         if (!SupplyDbSchema::isSku(ribbonSku) || !SupplyDbSchema::isSku(supplySkuText))
             return unknown;
-        return settings.answer(database(), {ribbonSku, panel, supplySkuText}, ribbonSku, panel,
-                               supplySkuText);
+        return kept().settings.answer(database(), {ribbonSku, panel, supplySkuText}, ribbonSku,
+                                      panel, supplySkuText);
     }
 
     QVariantList firstPanelSettings(const QStringList& skus, const QString& supplySkuText,
@@ -417,7 +434,7 @@ public:
     QStringList panelRgbs(const QString& ribbonSku)
     {
         QStringList rgbs;
-        const int panels = ofSku(ribbons, ribbonSku).panels;
+        const int panels = ofSku(kept().ribbons, ribbonSku).panels;
         for (int panel = 1; panel <= panels; ++panel)
             rgbs.append(QString::number(panelColour(ribbonSku, panel).rgb));
         return rgbs;
@@ -430,7 +447,7 @@ public:
         const SupplyC decoded(supplyId);
         if (!decoded.isDecoded())
             return {};
-        return suppliesOfKinds.answer(database(), decoded.kind, decoded.kind);
+        return kept().suppliesOfKinds.answer(database(), decoded.kind, decoded.kind);
     }
 
     QString loadedRibbonSku(const QString& id)
@@ -441,12 +458,12 @@ public:
         const int number = id.toInt(&isNumber);
         if (!isNumber)
             return {};
-        return ribbonsOfNumbers.answer(database(), number, number);
+        return kept().ribbonsOfNumbers.answer(database(), number, number);
     }
 
     QString model(const QString& printerName)
     {
-        const QStringList& names = models.answer(database(), Whole);
+        const QStringList& names = kept().models.answer(database(), Whole);
         for (const QString& name : names) {
             if (printerName.contains(name, Qt::CaseInsensitive))
                 return name;
@@ -454,11 +471,12 @@ public:
         return {};
     }
 
-    const Catalogue& supplyCatalogue() { return supplies.answer(database(), Whole); }
-    const Catalogue& ribbonCatalogue() { return allRibbons.answer(database(), Whole); }
+    const Catalogue& supplyCatalogue() { return kept().supplies.answer(database(), Whole); }
+    const Catalogue& ribbonCatalogue() { return kept().allRibbons.answer(database(), Whole); }
 
 private:
     SupplyDbConnection connection;
+    std::unique_ptr<KeptQueries> m_kept; // goes before the connection that its statements hold
 };
 
 VXSupplyDatabase::VXSupplyDatabase(QObject* parent)
@@ -554,127 +572,127 @@ QVariantHash VXSupplyDatabase::supplyRibbonColorHash() const
 
 int VXSupplyDatabase::supplyMaterial(const QString& sku) const
 {
-    return d->named(d->materials, sku).id;
+    return d->named(d->kept().materials, sku).id;
 }
 
 QString VXSupplyDatabase::supplyMaterialName(const QString& sku) const
 {
-    return d->named(d->materials, sku).name;
+    return d->named(d->kept().materials, sku).name;
 }
 
 int VXSupplyDatabase::supplyFormat(const QString& sku) const
 {
-    return d->named(d->formats, sku).id;
+    return d->named(d->kept().formats, sku).id;
 }
 
 QString VXSupplyDatabase::supplyFormatName(const QString& sku) const
 {
-    return d->named(d->formats, sku).name;
+    return d->named(d->kept().formats, sku).name;
 }
 
 QString VXSupplyDatabase::supplyFormatType(const QString& sku) const
 {
-    return d->named(d->formats, sku).type;
+    return d->named(d->kept().formats, sku).type;
 }
 
 int VXSupplyDatabase::supplyColorRGB(const QString& sku) const
 {
-    return d->named(d->colours, sku).rgb;
+    return d->named(d->kept().colours, sku).rgb;
 }
 
 QString VXSupplyDatabase::supplyColorName(const QString& sku) const
 {
-    return d->named(d->colours, sku).name;
+    return d->named(d->kept().colours, sku).name;
 }
 
 QString VXSupplyDatabase::supplyColorNameEn(const QString& sku) const
 {
-    return d->named(d->colours, sku).nameEn;
+    return d->named(d->kept().colours, sku).nameEn;
 }
 
 int VXSupplyDatabase::supplySecColorRGB(const QString& sku) const
 {
-    return d->named(d->secondColours, sku).rgb;
+    return d->named(d->kept().secondColours, sku).rgb;
 }
 
 QString VXSupplyDatabase::supplySecColorName(const QString& sku) const
 {
-    return d->named(d->secondColours, sku).name;
+    return d->named(d->kept().secondColours, sku).name;
 }
 
 QString VXSupplyDatabase::supplySecColorNameEn(const QString& sku) const
 {
-    return d->named(d->secondColours, sku).nameEn;
+    return d->named(d->kept().secondColours, sku).nameEn;
 }
 
 double VXSupplyDatabase::supplySecColorWidth(const QString& sku) const
 {
-    return d->named(d->secondColours, sku).width;
+    return d->named(d->kept().secondColours, sku).width;
 }
 
 double VXSupplyDatabase::supplyWidth(const QString& sku) const
 {
-    return d->ofSku(d->sizes, sku).width;
+    return d->ofSku(d->kept().sizes, sku).width;
 }
 
 double VXSupplyDatabase::supplyLength(const QString& sku) const
 {
-    return d->ofSku(d->sizes, sku).length;
+    return d->ofSku(d->kept().sizes, sku).length;
 }
 
 double VXSupplyDatabase::supplyNonContinuousLength(const QString& sku) const
 {
-    return d->ofSku(d->sizes, sku).labelLength;
+    return d->ofSku(d->kept().sizes, sku).labelLength;
 }
 
 double VXSupplyDatabase::supplySeparatorWidth(const QString& sku) const
 {
-    return d->ofSku(d->sizes, sku).separatorWidth;
+    return d->ofSku(d->kept().sizes, sku).separatorWidth;
 }
 
 int VXSupplyDatabase::supplyIsLandscape(const QString& sku) const
 {
-    return d->ofSku(d->arrangements, sku).isLandscape;
+    return d->ofSku(d->kept().arrangements, sku).isLandscape;
 }
 
 int VXSupplyDatabase::supplyMultiUpCount(const QString& sku) const
 {
-    return d->ofSku(d->arrangements, sku).multiUpCount;
+    return d->ofSku(d->kept().arrangements, sku).multiUpCount;
 }
 
 double VXSupplyDatabase::supplyMultiUpGapSize(const QString& sku) const
 {
-    return d->ofSku(d->arrangements, sku).multiUpGap;
+    return d->ofSku(d->kept().arrangements, sku).multiUpGap;
 }
 
 QByteArray VXSupplyDatabase::supplyBackgroundImage(const QString& sku) const
 {
-    return d->ofSku(d->backgrounds, sku);
+    return d->ofSku(d->kept().backgrounds, sku);
 }
 
 int VXSupplyDatabase::supplyTypeIndex(const QString& sku, const QString& printerName) const
 {
-    return d->ofSku(d->typeIndices, sku).value(d->model(printerName), -1);
+    return d->ofSku(d->kept().typeIndices, sku).value(d->model(printerName), -1);
 }
 
 QString VXSupplyDatabase::supplyRibbonType(const QString& ribbonSku) const
 {
-    return d->ofSku(d->ribbons, ribbonSku).type;
+    return d->ofSku(d->kept().ribbons, ribbonSku).type;
 }
 
 int VXSupplyDatabase::supplyRibbonPanels(const QString& ribbonSku) const
 {
-    return d->ofSku(d->ribbons, ribbonSku).panels;
+    return d->ofSku(d->kept().ribbons, ribbonSku).panels;
 }
 
 double VXSupplyDatabase::supplyRibbonWidth(const QString& ribbonSku) const
 {
-    return d->ofSku(d->ribbons, ribbonSku).width;
+    return d->ofSku(d->kept().ribbons, ribbonSku).width;
 }
 
 double VXSupplyDatabase::supplyRibbonLength(const QString& ribbonSku) const
 {
-    return d->ofSku(d->ribbons, ribbonSku).length;
+    return d->ofSku(d->kept().ribbons, ribbonSku).length;
 }
 
 QString VXSupplyDatabase::supplyRibbonColorName(const QString& ribbonSku, int panel) const

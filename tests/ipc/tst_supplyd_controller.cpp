@@ -298,7 +298,9 @@ private Q_SLOTS:
         m_endpoint->addNewPrinter(Added);
         m_endpoint->setSupplyId(TapeId, Added);
         m_endpoint->setRibbonIds(RibbonIds, Added);
+        QCOMPARE(m_endpoint->supplySKUCached(Added), Tape);
         const QStringList connections = QSqlDatabase::connectionNames();
+        QCOMPARE(connections.size(), 1);
         m_endpoint->addNewPrinter(Added);
         QCOMPARE(m_endpoint->supplySKUCached(Added), Tape);
         QCOMPARE(m_endpoint->supplyRibbonSKUsCached(Added), (QStringList{RibbonK, RibbonRK}));
@@ -308,12 +310,14 @@ private Q_SLOTS:
     void namesItsConnections()
     {
         m_endpoint->addNewPrinter(Added);
-        m_endpoint->addNewPrinter({}); // no query reaches this one
+        m_endpoint->addNewPrinter({}); // no query reaches this one, so that it is never connected
+        QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
+        m_endpoint->supplyColorName(Tape, Added);
+        m_endpoint->supplyColorName(Tape, {});
         QStringList names = QSqlDatabase::connectionNames();
         names.sort();
-        QCOMPARE(names,
-                 (QStringList{u"Added printer_CONNECTION_NAME"_s,
-                              u"SUPPLY_INFO_QT_SQL_CONNECTION_NAME"_s, u"_CONNECTION_NAME"_s}));
+        QCOMPARE(names, (QStringList{u"Added printer_CONNECTION_NAME"_s,
+                                     u"SUPPLY_INFO_QT_SQL_CONNECTION_NAME"_s}));
         m_endpoint->setSupplyId(TapeId, u"-"_s);
         QCOMPARE(m_endpoint->supplyInformation({}).supplySku, Tape);
     }

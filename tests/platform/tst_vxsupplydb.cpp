@@ -658,6 +658,8 @@ private Q_SLOTS:
 
     void oneConnectionNameServesTwoObjects()
     {
+        QCOMPARE(QSqlDatabase::connectionNames(), QStringList()); // until something is asked
+        QCOMPARE(m_database->supplyColorRGB(Tape), 0xFFFFFF);
         auto second = std::make_unique<VXSupplyDatabase>();
         second->setup(path(), Connection);
         QCOMPARE(second->supplyColorName(Tape), QStringLiteral("White"));
