@@ -202,6 +202,7 @@ struct Machine::Private
 
     // The spooler.
     QList<std::shared_ptr<Printer>> printers;
+    QHash<QString, std::shared_ptr<Printer>> byName; ///< the first of each name
     QString defaultPrinter;
     DWORD spoolerState = SERVICE_RUNNING;
     quint32 nextJob = 1;
@@ -256,6 +257,10 @@ struct Machine::Private
     DWORD wait(const HANDLE* handles, DWORD count, bool all, DWORD milliseconds, Function function);
 
     std::shared_ptr<Printer> printerNamed(const QString& name) const;
+    void add(const std::shared_ptr<Printer>& printer);
+    void enterName(const std::shared_ptr<Printer>& printer);
+    /// After a printer was renamed or removed.
+    void enterNames();
     void notify(const Printer* printer, DWORD change);
     void removePrinter(Printer& printer);
     void setSpoolerState(DWORD state);

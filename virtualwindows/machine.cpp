@@ -46,6 +46,7 @@ void Machine::reset()
     d->objects.clear();
     d->misuses.clear();
     d->printers.clear();
+    d->byName.clear();
     d->defaultPrinter = QString();
     d->spoolerState = SERVICE_RUNNING;
     d->nextJob = 1;
@@ -65,18 +66,34 @@ std::shared_ptr<Printer> Machine::Private::printerNamed(const QString& name) con
 {
     // The spooler knows no letter case in names; a machine set up with names that differ in nothing
     // else still tells them apart.
-    const auto isNamed = [&](Qt::CaseSensitivity sensitivity) {
-        return [&name, sensitivity](const std::shared_ptr<Printer>& printer) {
-            return !printer->setup.name.isNull() &&
-                   printer->setup.name.compare(name, sensitivity) == 0;
-        };
+    if (const auto found = byName.constFind(name); found != byName.constEnd())
+        return *found;
+    const auto isNamed = [&](const std::shared_ptr<Printer>& printer) {
+        return !printer->setup.name.isNull() &&
+               printer->setup.name.compare(name, Qt::CaseInsensitive) == 0;
     };
-    for (const Qt::CaseSensitivity sensitivity : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
-        const auto found = std::find_if(printers.begin(), printers.end(), isNamed(sensitivity));
-        if (found != printers.end())
-            return *found;
-    }
-    return {};
+    const auto found = std::find_if(printers.begin(), printers.end(), isNamed);
+    return found == printers.end() ? nullptr : *found;
+}
+
+void Machine::Private::add(const std::shared_ptr<Printer>& printer)
+{
+    printers.append(printer);
+    enterName(printer);
+}
+
+void Machine::Private::enterName(const std::shared_ptr<Printer>& printer)
+{
+    const QString& name = printer->setup.name;
+    if (!name.isNull() && !byName.contains(name))
+        byName.insert(name, printer);
+}
+
+void Machine::Private::enterNames()
+{
+    byName.clear();
+    for (const auto& printer : std::as_const(printers))
+        enterName(printer);
 }
 
 void Machine::Private::notify(const Printer* printer, DWORD change)
@@ -151,7 +168,7 @@ void Machine::addPrinter(const PrinterSetup& setup)
     const std::lock_guard guard(d->lock);
     auto printer = std::make_shared<Printer>();
     printer->setup = setup;
-    d->printers.append(printer);
+    d->add(printer);
     d->notify(printer.get(), PRINTER_CHANGE_ADD_PRINTER);
 }
 
@@ -168,6 +185,7 @@ void Machine::Private::removePrinter(Printer& printer)
     printer.deleted = true;
     notify(&printer, PRINTER_CHANGE_DELETE_PRINTER);
     printers.removeIf([&](const auto& entry) { return entry.get() == &printer; });
+    enterNames();
 }
 
 void Machine::renamePrinter(const QString& name, const QString& newName)
@@ -176,6 +194,7 @@ void Machine::renamePrinter(const QString& name, const QString& newName)
         if (d->defaultPrinter == printer.setup.name)
             d->defaultPrinter = newName;
         printer.setup.name = newName;
+        d->enterNames();
     });
 }
 

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <span>
+#include <vector>
 
 using namespace virtualwindows;
 
@@ -85,12 +87,12 @@ BOOL openPrinter(Function function, bool hasName, const QString& name, LPHANDLE 
 {
     if (!result)
         return failWith(ERROR_INVALID_PARAMETER, FALSE);
+    auto object = std::make_shared<PrinterHandleObject>(function);
+    object->access = access ? access : PRINTER_ACCESS_USE;
+
     const std::lock_guard guard(machine().lock);
     if (!machine().isSpoolerRunning())
         return failWith(RPC_S_SERVER_UNAVAILABLE, FALSE);
-
-    auto object = std::make_shared<PrinterHandleObject>(function);
-    object->access = access ? access : PRINTER_ACCESS_USE;
     if (hasName && !name.isEmpty()) {
         object->printer = machine().printerNamed(name);
         if (!object->printer)
@@ -110,6 +112,7 @@ DWORD answer(DWORD error)
     return error;
 }
 
+/// `name` is in lower case.
 DWORD getPrinterData(Function function, HANDLE handle, bool hasName, const QByteArray& name,
                      QByteArray Value::*form, LPDWORD type, LPBYTE data, DWORD size, LPDWORD needed)
 {
@@ -124,7 +127,7 @@ DWORD getPrinterData(Function function, HANDLE handle, bool hasName, const QByte
     if (!hasName || (size && !data))
         return answer(ERROR_INVALID_PARAMETER);
 
-    const auto found = object->printer->values.constFind(name.toLower());
+    const auto found = object->printer->values.constFind(name);
     if (found == object->printer->values.constEnd()) {
         *needed = 0;
         return answer(ERROR_FILE_NOT_FOUND);
@@ -166,22 +169,29 @@ public:
         , m_used(sizeOfRecords)
     {}
 
-    /// Room for a text; without a block its room is only counted.
-    LPWSTR add(const QString& text)
+    /// Room for the texts as one; without a block their room is only counted.
+    template <typename... Texts>
+    LPWSTR add(const Texts&... texts)
     {
-        if (text.isNull())
-            return nullptr;
-        const std::size_t size = (static_cast<std::size_t>(text.size()) + 1) * sizeof(WCHAR);
-        LPBYTE place = m_start ? m_start + m_used : nullptr;
-        if (place)
-            std::memcpy(place, text.utf16(), size);
-        m_used += size;
+        const LPBYTE place = m_start ? m_start + m_used : nullptr;
+        (append(texts), ...);
+        append(QStringView(u"\0", 1));
         return reinterpret_cast<LPWSTR>(place);
     }
+    /// A text that may be missing.
+    LPWSTR addIfAny(const QString& text) { return text.isNull() ? nullptr : add(text); }
 
     DWORD used() const { return static_cast<DWORD>(m_used); }
 
 private:
+    void append(QStringView text)
+    {
+        const auto size = static_cast<std::size_t>(text.size()) * sizeof(WCHAR);
+        if (m_start && size)
+            std::memcpy(m_start + m_used, text.utf16(), size);
+        m_used += size;
+    }
+
     LPBYTE m_start;
     std::size_t m_used;
 };
@@ -190,27 +200,26 @@ PRINTER_INFO_1W describe(const Printer& printer, RecordBlock& block, PRINTER_INF
 {
     PRINTER_INFO_1W record{};
     record.Flags = PRINTER_ENUM_ICON8;
-    record.pDescription = block.add(printer.setup.name + QLatin1Char(',') + printer.setup.driver +
-                                    QLatin1Char(',') + printer.location);
-    record.pName = block.add(printer.setup.name);
-    record.pComment = block.add(printer.comment + QLatin1String(""));
+    record.pDescription =
+        block.add(printer.setup.name, u",", printer.setup.driver, u",", printer.location);
+    record.pName = block.addIfAny(printer.setup.name);
+    record.pComment = block.add(printer.comment);
     return record;
 }
 
 PRINTER_INFO_2W describe(const Printer& printer, RecordBlock& block, PRINTER_INFO_2W*)
 {
-    const QString none = QLatin1String("");
     PRINTER_INFO_2W record{};
-    record.pPrinterName = block.add(printer.setup.name);
-    record.pShareName = block.add(printer.shareName + none);
-    record.pPortName = block.add(printer.setup.port);
-    record.pDriverName = block.add(printer.setup.driver);
-    record.pComment = block.add(printer.comment + none);
-    record.pLocation = block.add(printer.location + none);
-    record.pSepFile = block.add(none);
-    record.pPrintProcessor = block.add(QStringLiteral("winprint"));
-    record.pDatatype = block.add(QStringLiteral("RAW"));
-    record.pParameters = block.add(none);
+    record.pPrinterName = block.addIfAny(printer.setup.name);
+    record.pShareName = block.add(printer.shareName);
+    record.pPortName = block.addIfAny(printer.setup.port);
+    record.pDriverName = block.addIfAny(printer.setup.driver);
+    record.pComment = block.add(printer.comment);
+    record.pLocation = block.add(printer.location);
+    record.pSepFile = block.add();
+    record.pPrintProcessor = block.add(u"winprint");
+    record.pDatatype = block.add(u"RAW");
+    record.pParameters = block.add();
     record.Attributes = printer.setup.attributes;
     record.Priority = 1;
     record.Status = printer.setup.status;
@@ -222,11 +231,11 @@ PRINTER_INFO_2W describe(const Printer& printer, RecordBlock& block, PRINTER_INF
 
 /// Sizes or fills a block with one record for each printer.
 template <typename Record>
-BOOL fill(const QList<std::shared_ptr<Printer>>& printers, LPBYTE start, DWORD size, LPDWORD needed)
+BOOL fill(std::span<const Printer* const> printers, LPBYTE start, DWORD size, LPDWORD needed)
 {
-    const std::size_t sizeOfRecords = static_cast<std::size_t>(printers.size()) * sizeof(Record);
+    const std::size_t sizeOfRecords = printers.size() * sizeof(Record);
     RecordBlock sizing(nullptr, sizeOfRecords);
-    for (const auto& printer : printers)
+    for (const Printer* printer : printers)
         describe(*printer, sizing, static_cast<Record*>(nullptr));
     *needed = sizing.used();
     if (size < *needed)
@@ -234,7 +243,7 @@ BOOL fill(const QList<std::shared_ptr<Printer>>& printers, LPBYTE start, DWORD s
 
     RecordBlock block(start, sizeOfRecords);
     LPBYTE place = start;
-    for (const auto& printer : printers) {
+    for (const Printer* printer : printers) {
         const Record record = describe(*printer, block, static_cast<Record*>(nullptr));
         std::memcpy(place, &record, sizeof record);
         place += sizeof record;
@@ -292,6 +301,7 @@ BOOL changePrinter(Printer& printer, const PRINTER_INFO_2W& info)
         if (machine().defaultPrinter == printer.setup.name)
             machine().defaultPrinter = name;
         printer.setup.name = name;
+        machine().enterNames();
     }
     if (info.pPortName)
         printer.setup.port = fromWide(info.pPortName);
@@ -357,7 +367,8 @@ DWORD WINAPI GetPrinterDataA(HANDLE hPrinter, LPSTR pValueName, LPDWORD pType, L
     if (planned)
         return answer(planned);
     return getPrinterData(Function::GetPrinterDataA, hPrinter, pValueName != nullptr,
-                          QByteArray(pValueName), &Value::narrow, pType, pData, nSize, pcbNeeded);
+                          QByteArray(pValueName).toLower(), &Value::narrow, pType, pData, nSize,
+                          pcbNeeded);
 }
 
 DWORD WINAPI GetPrinterDataW(HANDLE hPrinter, LPWSTR pValueName, LPDWORD pType, LPBYTE pData,
@@ -369,8 +380,8 @@ DWORD WINAPI GetPrinterDataW(HANDLE hPrinter, LPWSTR pValueName, LPDWORD pType, 
     if (planned)
         return answer(planned);
     return getPrinterData(Function::GetPrinterDataW, hPrinter, pValueName != nullptr,
-                          fromWide(pValueName).toLocal8Bit(), &Value::wide, pType, pData, nSize,
-                          pcbNeeded);
+                          fromWide(pValueName).toLocal8Bit().toLower(), &Value::wide, pType, pData,
+                          nSize, pcbNeeded);
 }
 
 DWORD WINAPI SetPrinterDataA(HANDLE hPrinter, LPSTR pValueName, DWORD Type, LPBYTE pData,
@@ -417,10 +428,9 @@ BOOL WINAPI GetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD cbB
         return failWith(ERROR_INVALID_USER_BUFFER, FALSE);
     if (Level != 1 && Level != 2)
         return failWith(ERROR_INVALID_LEVEL, FALSE);
-    const BOOL filled = Level == 1
-                            ? fill<PRINTER_INFO_1W>({object->printer}, pPrinter, cbBuf, pcbNeeded)
-                            : fill<PRINTER_INFO_2W>({object->printer}, pPrinter, cbBuf, pcbNeeded);
-    return filled;
+    const Printer* const printer = object->printer.get();
+    return Level == 1 ? fill<PRINTER_INFO_1W>({&printer, 1}, pPrinter, cbBuf, pcbNeeded)
+                      : fill<PRINTER_INFO_2W>({&printer, 1}, pPrinter, cbBuf, pcbNeeded);
 }
 
 BOOL WINAPI SetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD Command)
@@ -470,10 +480,11 @@ BOOL WINAPI EnumPrintersW(DWORD Flags, LPWSTR Name, DWORD Level, LPBYTE pPrinter
     if ((Flags & PRINTER_ENUM_NAME) && Name && *Name)
         return failWith(ERROR_INVALID_NAME, FALSE); // this machine knows no other
 
-    QList<std::shared_ptr<Printer>> listed;
+    std::vector<const Printer*> listed;
+    listed.reserve(static_cast<std::size_t>(machine().printers.size()));
     for (const auto& printer : std::as_const(machine().printers)) {
         if (isEnumerated(*printer, Flags))
-            listed.append(printer);
+            listed.push_back(printer.get());
     }
     if (!fill<PRINTER_INFO_2W>(listed, pPrinterEnum, cbBuf, pcbNeeded))
         return FALSE;
@@ -568,7 +579,7 @@ HANDLE WINAPI AddPrinterW(LPWSTR pName, DWORD Level, LPBYTE pPrinter)
     printer->shareName = fromWide(info.pShareName);
     printer->comment = fromWide(info.pComment);
     printer->location = fromWide(info.pLocation);
-    machine().printers.append(printer);
+    machine().add(printer);
     machine().notify(printer.get(), PRINTER_CHANGE_ADD_PRINTER);
 
     auto object = std::make_shared<PrinterHandleObject>(Function::AddPrinterW);
