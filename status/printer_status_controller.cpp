@@ -4,11 +4,13 @@
 
 #include "log_lines.h"
 #include "percent_left.h"
+#include "printer_enumeration.h"
 #include "printer_status_thread.h"
 #include "raw_print_job.h"
 #include "status_titles.h"
 #include "vx_ipc_m4_controller.h"
 #include "vx_ipc_supplyd_controller.h"
+#include "wide_text.h"
 #include "windows_printer_info.h"
 
 #include <QtGui/QColor>
@@ -42,6 +44,12 @@ QList<AvailablePrinters> spoolerPrinters()
     } catch (const std::exception&) {
         return {};
     }
+}
+
+/// Whether the printer is one that does not make the whole listing count as empty.
+bool isComplete(const PRINTER_INFO_2W& printer)
+{
+    return printer.pPrinterName && printer.pPortName && printer.pDriverName;
 }
 
 void logAbout(const log_lines::LogLine& line, const QString& printerName)
@@ -365,11 +373,19 @@ QString PrinterStatusController::getStatusTitle(int statusEnum)
 
 PrinterType PrinterStatusController::getPrinterTypeEnum(QString printerName)
 {
-    const QList<AvailablePrinters> printers = spoolerPrinters();
-    const auto found = std::ranges::find(printers, printerName, &AvailablePrinters::printerName);
+    // The spooler is asked afresh, but for nothing beyond what it lists: every report of a mileage
+    // comes here, and the serial numbers in the device registry take many times as long.
+    const PrinterEnumeration spooler;
+    const auto printers = spooler.printers();
+    if (!std::ranges::all_of(printers, isComplete))
+        return PrinterType::Unknown;
+    const auto isAsked = [&](const PRINTER_INFO_2W& printer) {
+        return wideView(printer.pPrinterName) == printerName;
+    };
+    const auto found = std::ranges::find_if(printers, isAsked);
     if (found == printers.end())
         return PrinterType::Unknown;
-    return WindowsPrinterInfo::printerType(found->driverName);
+    return WindowsPrinterInfo::printerType(fromWide(found->pDriverName));
 }
 
 // Supply, ribbons, firmware ///////////////////////////////////////////////////////////////////////

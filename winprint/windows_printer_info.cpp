@@ -4,6 +4,7 @@
 
 #include "device_serial_numbers.h"
 #include "log_lines.h"
+#include "printer_enumeration.h"
 #include "printer_serial_file.h"
 #include "spooler_block.h"
 #include "wide_text.h"
@@ -15,7 +16,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <span>
 #include <stdexcept>
 
 using VXPrinting::PrinterType;
@@ -180,21 +180,14 @@ PrinterType WindowsPrinterInfo::printerType(const QString& name)
 
 QList<AvailablePrinters> WindowsPrinterInfo::getAvailablePrinters()
 {
-    constexpr DWORD kinds = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
-    DWORD needed = 0;
-    DWORD count = 0;
-    EnumPrintersW(kinds, nullptr, 2, nullptr, 0, &needed, &count);
-
-    const SpoolerBlock block(needed);
-    if (block.isNull() ||
-        !EnumPrintersW(kinds, nullptr, 2, block.bytes(), block.size(), &needed, &count) ||
-        count == 0)
+    const PrinterEnumeration spooler;
+    if (spooler.printers().empty())
         return {};
 
     QList<AvailablePrinters> printers;
-    printers.reserve(count);
+    printers.reserve(static_cast<qsizetype>(spooler.printers().size()));
     Lookups lookups;
-    for (const PRINTER_INFO_2W& info : std::span(block.as<PRINTER_INFO_2W>(), count)) {
+    for (const PRINTER_INFO_2W& info : spooler.printers()) {
         AvailablePrinters printer;
         printer.printerName = requiredText(info.pPrinterName, "name");
         printer.portName = requiredText(info.pPortName, "port");

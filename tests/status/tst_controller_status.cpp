@@ -62,6 +62,7 @@ private Q_SLOTS:
     void titles_data();
     void titles();
     void typeOfAPrinter();
+    void typeTakesTheSpoolersListAlone();
     void slotMayChangeTheRecords();
 };
 
@@ -437,6 +438,25 @@ void ControllerStatusTest::typeOfAPrinter()
     QCOMPARE(controller().getPrinterTypeEnum(ash), PrinterType::Generic);
     machine().removePrinter(ash);
     QCOMPARE(controller().getPrinterTypeEnum(ash), PrinterType::Unknown);
+}
+
+void ControllerStatusTest::typeTakesTheSpoolersListAlone()
+{
+    // Every report of a mileage asks for the type, so it must not take what discovery takes.
+    machine().addDevice({QStringLiteral("{28d78fad-5a12-11d1-ae5b-0000f803a8c2}"),
+                         QStringLiteral("##?#USB#VID_3E7A&PID_0104#1"), 1, QStringLiteral("AM-1")});
+    machine().recordCalls();
+    QCOMPARE(controller().getPrinterTypeEnum(ash), VXPrinting::PrinterType::Alder);
+    const QList<Call> calls = machine().calls();
+    machine().recordCalls(false);
+    QStringList functions;
+    for (const Call& call : calls) {
+        if (call.thread == QThread::currentThreadId())
+            functions.append(call.function);
+    }
+    QCOMPARE(functions,
+             (QStringList{QStringLiteral("EnumPrintersW"), QStringLiteral("EnumPrintersW")}));
+    QCOMPARE(calls.first().arguments.last(), QStringLiteral("0")); // sized afresh
 }
 
 void ControllerStatusTest::slotMayChangeTheRecords()
