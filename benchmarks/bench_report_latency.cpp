@@ -136,7 +136,8 @@ private:
     void startFloor()
     {
         m_floor = std::make_unique<by_hand::WatchingThread>(
-            floorPrinter, "Mileage", m_host, [this](const QString& printer, const QString& value) {
+            floorPrinter, QList<QByteArray>{"Mileage"}, m_host,
+            [this](const QString& printer, const QString& value) {
                 m_host.receive(printer, value);
             });
         m_floor->start();

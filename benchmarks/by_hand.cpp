@@ -16,6 +16,8 @@
 #include <optional>
 #include <span>
 
+#include <winsvc.h>
+
 namespace {
 constexpr QLatin1String
     classesKey("HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control\\DeviceClasses\\");
@@ -23,10 +25,10 @@ constexpr QLatin1String
 
 namespace by_hand {
 
-WatchingThread::WatchingThread(const QString& printerName, const char* valueName, QObject& host,
-                               Receive receive)
+WatchingThread::WatchingThread(const QString& printerName, const QList<QByteArray>& valueNames,
+                               QObject& host, Receive receive)
     : m_printerName(printerName)
-    , m_valueName(valueName)
+    , m_valueNames(valueNames)
     , m_host(host)
     , m_receive(std::move(receive))
     , m_stopEvent(CreateEventW(nullptr, TRUE, FALSE, nullptr))
@@ -44,7 +46,19 @@ void WatchingThread::run()
     HANDLE printer = nullptr;
     OpenPrinterA(m_printerName.toLocal8Bit().data(), &printer, nullptr);
     const HANDLE change = FindFirstPrinterChangeNotification(printer, 0x7777FFFF, 0, nullptr);
-    readAll(printer);
+    // The first read goes through a handle with full access, and the service is asked whether it
+    // runs, as the library's does.
+    HANDLE fullAccess = nullptr;
+    PRINTER_DEFAULTSA defaults{};
+    defaults.DesiredAccess = PRINTER_ALL_ACCESS;
+    OpenPrinterA(m_printerName.toLocal8Bit().data(), &fullAccess, &defaults);
+    readAll(fullAccess);
+    ClosePrinter(fullAccess);
+    const SC_HANDLE manager = OpenSCManagerW(nullptr, nullptr, 0);
+    const SC_HANDLE spooler =
+        OpenServiceW(manager, reinterpret_cast<const WCHAR*>(u"Spooler"), SERVICE_QUERY_STATUS);
+    SERVICE_STATUS status{};
+    QueryServiceStatus(spooler, &status);
 
     const std::array<HANDLE, 2> handles{m_stopEvent, change};
     for (;;) {
@@ -52,6 +66,8 @@ void WatchingThread::run()
         case WAIT_OBJECT_0:
             FindClosePrinterChangeNotification(change);
             ClosePrinter(printer);
+            CloseServiceHandle(spooler);
+            CloseServiceHandle(manager);
             return;
         case WAIT_OBJECT_0 + 1: {
             DWORD changes = 0;
@@ -83,7 +99,7 @@ void WatchingThread::readAll(HANDLE printer)
         if (readings[index] == m_lastSeen[index])
             continue;
         m_lastSeen[index] = readings[index];
-        if (m_valueName == valueReads[index].name)
+        if (m_valueNames.contains(valueReads[index].name))
             report(valueReads[index], readings[index]);
     }
 }

@@ -43,14 +43,15 @@ inline constexpr std::array<ValueRead, 11> valueReads{{
 }};
 
 /// The least that a thread can do to tell its host of a printer's values. It makes the library's
-/// calls in the same order and nothing else: no checks, no texts but for the value that the host
+/// calls in the same order and nothing else: no checks, no texts but for the values that the host
 /// asked for.
 class WatchingThread final : public QThread
 {
 public:
-    /// `receive` is called in a queued call to `host`, with the printer and the value as text.
+    /// `receive` is called in a queued call to `host`, with the printer and the value as text, for
+    /// each of the values that are named.
     using Receive = std::function<void(const QString& printer, const QString& value)>;
-    WatchingThread(const QString& printerName, const char* valueName, QObject& host,
+    WatchingThread(const QString& printerName, const QList<QByteArray>& valueNames, QObject& host,
                    Receive receive);
     ~WatchingThread() override;
     Q_DISABLE_COPY_MOVE(WatchingThread)
@@ -72,7 +73,7 @@ private:
     void report(const ValueRead& read, const Reading& reading);
 
     const QString m_printerName;
-    const QByteArray m_valueName;
+    const QList<QByteArray> m_valueNames;
     QObject& m_host;
     const Receive m_receive;
     const HANDLE m_stopEvent;
