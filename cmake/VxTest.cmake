@@ -4,14 +4,15 @@
 # vx_add_test(<name> SOURCES <file>... [LIBRARIES <target>...])
 #
 # One Qt Test executable, registered with CTest under its name. Tests run beside each other, so none
-# may use a fixed file, port or name outside its own process.
+# may use a fixed file, port or name outside its own process and its own folder.
 function(vx_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
     if(arg_UNPARSED_ARGUMENTS OR NOT arg_SOURCES)
         message(FATAL_ERROR "vx_add_test(${name}): expected SOURCES <file>... [LIBRARIES <target>...]")
     endif()
     add_executable(${name} ${arg_SOURCES})
-    target_link_libraries(${name} PRIVATE vx_build_settings Qt6::Test ${arg_LIBRARIES})
+    target_link_libraries(${name} PRIVATE
+        vx_build_settings vx_own_folder Qt6::Test ${arg_LIBRARIES})
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests"
         WIN32_EXECUTABLE OFF)

@@ -10,7 +10,6 @@
 
 #include <chrono>
 #include <condition_variable>
-#include <memory>
 #include <mutex>
 #include <optional>
 
@@ -120,12 +119,9 @@ protected:
     /// Fails when a process that has come to do the same over and over uses more memory for it.
     static void checkMemoryIsFlat(const Footprint& before, const Footprint& after);
     /// The endpoints that other processes can find.
-    QStringList publishedEndpoints() const;
+    static QStringList publishedEndpoints();
 
 protected Q_SLOTS:
     void init() override;
     void cleanup() override;
-
-private:
-    std::unique_ptr<QTemporaryDir> m_runtime;
 };

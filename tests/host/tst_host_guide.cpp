@@ -182,13 +182,5 @@ void HostGuideTest::otherProcessesAsk()
     QCOMPARE(answer, QJsonValue(QJsonArray()));
 }
 
-int main(int argc, char* argv[])
-{
-    // Services of this test alone.
-    const QTemporaryDir services;
-    qputenv("XDG_RUNTIME_DIR", services.path().toLocal8Bit());
-    QCoreApplication application(argc, argv);
-    HostGuideTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_GUILESS_MAIN(HostGuideTest)
 #include "tst_host_guide.moc"

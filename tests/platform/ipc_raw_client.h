@@ -16,7 +16,7 @@
 inline int newServerType()
 {
     static int count = 0;
-    return static_cast<int>(QCoreApplication::applicationPid() % 4'000'000) * 100 + ++count;
+    return static_cast<int>(QCoreApplication::applicationPid() % 2'000'000) * 1000 + ++count;
 }
 
 /// A client without manners: it sends and receives bytes.

@@ -9,6 +9,7 @@ import os
 import re
 import subprocess
 import sys
+import tempfile
 import unittest
 
 HOST, DOCUMENT = sys.argv[1:]
@@ -25,9 +26,16 @@ def documented_client():
     return names["endpoint"], names["call"]
 
 
+def setUpModule():
+    folder = tempfile.TemporaryDirectory()
+    unittest.addModuleCleanup(folder.cleanup)
+    # The endpoints of this test alone.
+    os.environ["XDG_RUNTIME_DIR"] = folder.name
+
+
 class PythonClient(unittest.TestCase):
     def setUp(self):
-        service = os.getpid() % 4000000 * 100 + 99
+        service = os.getpid() % 2000000 * 1000
         self.host = subprocess.Popen(
             [HOST, str(service)], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
         self.name = self.host.stdout.readline().strip()

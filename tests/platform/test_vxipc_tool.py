@@ -8,15 +8,23 @@ import json
 import os
 import subprocess
 import sys
+import tempfile
 import unittest
 
 TOOL, HOST = sys.argv[1:]
 
 
+def setUpModule():
+    folder = tempfile.TemporaryDirectory()
+    unittest.addModuleCleanup(folder.cleanup)
+    # The endpoints of this test alone.
+    os.environ["XDG_RUNTIME_DIR"] = folder.name
+
+
 class Tool(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.service = str(os.getpid() % 4000000 * 100 + 98)
+        cls.service = str(os.getpid() % 2000000 * 1000)
         cls.host = subprocess.Popen(
             [HOST, cls.service], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
         cls.name = cls.host.stdout.readline().strip()

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// Part of every test: its endpoints, and its temporary files where these are found by the same
+// variable, are in a folder of its own. In the user's, tests that run at the same time would find
+// each other's endpoints, and each look at one takes a client's place there.
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+
+namespace {
+
+class OwnFolder
+{
+public:
+    OwnFolder()
+    {
+        if (!m_folder.isValid())
+            qFatal("A folder for the test: %s", qPrintable(m_folder.errorString()));
+#ifdef Q_OS_UNIX
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_folder.path()));
+#else
+        const QByteArray path = QFile::encodeName(QDir::toNativeSeparators(m_folder.path()));
+        qputenv("TMP", path);
+        qputenv("TEMP", path);
+#endif
+    }
+
+private:
+    QTemporaryDir m_folder{QDir::temp().filePath(QStringLiteral("vxtest-XXXXXX"))};
+};
+
+const OwnFolder ownFolder;
+
+} // namespace
