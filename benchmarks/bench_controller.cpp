@@ -28,8 +28,6 @@
 #include <memory>
 #include <thread>
 
-#include <time.h>
-
 using benchmark_support::Samples;
 using virtualwindows::Machine;
 using virtualwindows::PrinterValue;
@@ -59,14 +57,6 @@ const QStringList ribbonIdentifiers{QStringLiteral("2001"), QStringLiteral("2002
 double microseconds(Clock::duration time)
 {
     return std::chrono::duration<double, std::micro>(time).count();
-}
-
-/// Microseconds of this thread's processor time.
-double processorTime()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return double(time.tv_sec) * 1e6 + double(time.tv_nsec) * 1e-3;
 }
 
 /// Takes the log's lines, which would go to the terminal otherwise.
@@ -310,11 +300,12 @@ void construction(benchmark::State& state)
     };
     const auto takeLibrary = [&] {
         populate();
-        const double processorBegin = processorTime();
+        const double processorBegin = benchmark_support::processorTime();
         const Clock::time_point begin = Clock::now();
         const PrinterStatusController controller;
         constructionTimes.library.push_back(microseconds(Clock::now() - begin));
-        constructionProcessorTimes.library.push_back(processorTime() - processorBegin);
+        constructionProcessorTimes.library.push_back(benchmark_support::processorTime() -
+                                                     processorBegin);
         settle();
     };
     const auto takeFloor = [&] {
@@ -324,7 +315,7 @@ void construction(benchmark::State& state)
         const QList<QByteArray> reported{"StatusCode", "SupplyIdentifier", "Ribbon1Identifier",
                                          "Mileage", "SoftwareVersion"};
         std::vector<std::unique_ptr<by_hand::WatchingThread>> threads;
-        const double processorBegin = processorTime();
+        const double processorBegin = benchmark_support::processorTime();
         const Clock::time_point begin = Clock::now();
         const QList<AvailablePrinters> printers = by_hand::enumerate();
         for (const AvailablePrinters& printer : printers) {
@@ -333,7 +324,8 @@ void construction(benchmark::State& state)
             threads.back()->start();
         }
         constructionTimes.floor.push_back(microseconds(Clock::now() - begin));
-        constructionProcessorTimes.floor.push_back(processorTime() - processorBegin);
+        constructionProcessorTimes.floor.push_back(benchmark_support::processorTime() -
+                                                   processorBegin);
         settle();
     };
     benchmark_support::Turns turns;
@@ -370,10 +362,10 @@ void mileageReport(benchmark::State& state)
     std::vector<double> record;
     std::vector<double> type;
     const auto take = [](std::vector<double>& into, auto work) {
-        const double begin = processorTime();
+        const double begin = benchmark_support::processorTime();
         for (int report = 0; report < reportsPerSample; ++report)
             work(report);
-        into.push_back((processorTime() - begin) / reportsPerSample);
+        into.push_back((benchmark_support::processorTime() - begin) / reportsPerSample);
     };
     for ([[maybe_unused]] auto iteration : state) {
         take(whole, [&](int report) {

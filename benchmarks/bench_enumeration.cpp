@@ -27,8 +27,6 @@
 #include <memory>
 #include <span>
 
-#include <time.h>
-
 #include <windows.h>
 #include <winspool.h>
 
@@ -116,20 +114,13 @@ struct Cost
     double cpu = 0; ///< of this thread, on which everything happens
 };
 
-double threadCpuMicroseconds()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e6 + static_cast<double>(time.tv_nsec) * 1e-3;
-}
-
 template <typename Work>
 Cost costOf(Work work)
 {
     const Clock::time_point start = Clock::now();
-    const double cpuStart = threadCpuMicroseconds();
+    const double cpuStart = benchmark_support::processorTime();
     auto result = work();
-    const double cpu = threadCpuMicroseconds() - cpuStart;
+    const double cpu = benchmark_support::processorTime() - cpuStart;
     const std::chrono::duration<double, std::micro> wall = Clock::now() - start;
     benchmark::DoNotOptimize(result);
     return {wall.count(), cpu};

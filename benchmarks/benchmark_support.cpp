@@ -9,6 +9,8 @@
 #include <cstdio>
 #include <limits>
 
+#include <time.h>
+
 namespace benchmark_support {
 
 bool run(int argc, char* argv[], const std::vector<std::string>& defaults)
@@ -43,6 +45,13 @@ double quantile(std::vector<double> samples, double share)
 double median(const std::vector<double>& samples)
 {
     return quantile(samples, 0.5);
+}
+
+double processorTime()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return double(time.tv_sec) * 1e6 + double(time.tv_nsec) * 1e-3;
 }
 
 void Samples::append(const Samples& other)

@@ -18,6 +18,9 @@ bool run(int argc, char* argv[], const std::vector<std::string>& defaults = {});
 double quantile(std::vector<double> samples, double share);
 double median(const std::vector<double>& samples);
 
+/// Microseconds that the calling thread has had a processor for.
+double processorTime();
+
 /// What the library and its floor took.
 struct Samples
 {
