@@ -77,14 +77,14 @@ void IpcConnection::onParsed()
     if (!m_isParsing)
         return;
     m_isParsing = false;
-    m_isMessageLong = true;
     startMessage(m_parsing.future().takeResult());
     wantTurn();
 }
 
 void IpcConnection::work()
 {
-    // A slot that runs an event loop of its own ends up here.
+    // A slot that runs an event loop of its own ends up here; the others go on when it is their
+    // turn, or the line is parsed.
     if (m_isInTurn || m_isParsing || m_isTurnWanted)
         return;
     m_isInTurn = true;
@@ -157,11 +157,8 @@ void IpcConnection::takeLine()
 void IpcConnection::startMessage(IpcDispatcher::Message message)
 {
     m_message = std::move(message);
-    m_nextRequest = 0;
-    if (!m_message.failure)
-        return;
-    write(*m_message.failure);
-    dropMessage();
+    if (m_message.failure)
+        write(*m_message.failure);
 }
 
 void IpcConnection::handleNextRequest()
@@ -242,8 +239,7 @@ void IpcConnection::dropWork()
 void IpcConnection::dropMessage()
 {
     m_nextRequest = 0;
-    if (m_isMessageLong)
+    if (m_message.isLong)
         m_dispatcher.discardAside(std::move(m_message));
-    m_isMessageLong = false;
     m_message = {};
 }

@@ -70,7 +70,6 @@ private:
 
     /// The message in work, and the answers it has so far.
     IpcDispatcher::Message m_message;
-    bool m_isMessageLong = false;
     qsizetype m_nextRequest = 0;
     QByteArray m_answers;
 

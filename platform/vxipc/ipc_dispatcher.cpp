@@ -101,7 +101,9 @@ QFuture<IpcDispatcher::Message> IpcDispatcher::parseAside(QByteArray line)
     const auto promise = std::make_shared<QPromise<Message>>();
     promise->start();
     m_aside.start([promise, line = std::move(line)] {
-        promise->addResult(parse(line));
+        Message message = parse(line);
+        message.isLong = true;
+        promise->addResult(std::move(message));
         promise->finish();
     });
     return promise->future();

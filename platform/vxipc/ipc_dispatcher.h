@@ -30,6 +30,8 @@ public:
         qsizetype size = 0;
         /// The answer to a line that holds no request, as a line.
         std::optional<QByteArray> failure;
+        /// Parsed aside, so that freeing it takes long too.
+        bool isLong = false;
 
         bool isBatch() const { return content.isArray(); }
         QJsonValue request(qsizetype index) const { return isBatch() ? content[index] : content; }
