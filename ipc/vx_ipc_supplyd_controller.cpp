@@ -47,11 +47,9 @@ VXIPCSUPPLYDController::~VXIPCSUPPLYDController()
 
 void VXIPCSUPPLYDController::addNewPrinter(const QString& printerName)
 {
-    const auto place = databases.lowerBound(printerName);
-    if (place != databases.end() && place.key() == printerName)
+    if (databases.contains(printerName))
         return;
-    databases.insert(place, printerName,
-                     openDatabase(printerName + QStringLiteral("_CONNECTION_NAME")));
+    databases.insert(printerName, openDatabase(printerName + QStringLiteral("_CONNECTION_NAME")));
 }
 
 VXSupplyDatabase* VXIPCSUPPLYDController::openDatabase(const QString& connectionName) const

@@ -46,12 +46,6 @@ QList<AvailablePrinters> spoolerPrinters()
     }
 }
 
-/// Whether the printer is one that does not make the whole listing count as empty.
-bool isComplete(const PRINTER_INFO_2W& printer)
-{
-    return printer.pPrinterName && printer.pPortName && printer.pDriverName;
-}
-
 void logAbout(const log_lines::LogLine& line, const QString& printerName)
 {
     log_lines::print(line, printerName.toLocal8Bit().constData());
@@ -377,7 +371,7 @@ PrinterType PrinterStatusController::getPrinterTypeEnum(QString printerName)
     // comes here, and the serial numbers in the device registry take many times as long.
     const PrinterEnumeration spooler;
     const auto printers = spooler.printers();
-    if (!std::ranges::all_of(printers, isComplete))
+    if (std::ranges::any_of(printers, missingText))
         return PrinterType::Unknown;
     const auto isAsked = [&](const PRINTER_INFO_2W& printer) {
         return wideView(printer.pPrinterName) == printerName;

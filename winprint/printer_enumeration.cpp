@@ -29,3 +29,12 @@ DWORD PrinterEnumeration::bytesNeeded()
     EnumPrintersW(kinds, nullptr, level, nullptr, 0, &needed, &count);
     return needed;
 }
+
+const char* missingText(const PRINTER_INFO_2W& printer)
+{
+    if (!printer.pPrinterName)
+        return "name";
+    if (!printer.pPortName)
+        return "port";
+    return printer.pDriverName ? nullptr : "driver";
+}

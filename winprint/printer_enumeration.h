@@ -28,3 +28,7 @@ private:
     SpoolerBlock m_block;
     DWORD m_count = 0;
 };
+
+/// Which text a listed printer lacks that each has to have: "name", "port" or "driver"; null when
+/// it has them all. A listing with one that lacks something is no listing.
+const char* missingText(const PRINTER_INFO_2W& printer);

@@ -76,13 +76,6 @@ void fillFromPortAndFlags(AvailablePrinters& printer, const PRINTER_INFO_2W& inf
     printer.isOffline = isOffline(info);
 }
 
-QString requiredText(const WCHAR* text, const char* what)
-{
-    if (!text)
-        throw std::logic_error(std::string("the print spooler lists a printer without a ") + what);
-    return fromWide(text);
-}
-
 /// What `getPrinterInfo2` hands out.
 struct RecordDeleter
 {
@@ -188,10 +181,13 @@ QList<AvailablePrinters> WindowsPrinterInfo::getAvailablePrinters()
     printers.reserve(static_cast<qsizetype>(spooler.printers().size()));
     Lookups lookups;
     for (const PRINTER_INFO_2W& info : spooler.printers()) {
+        if (const char* const missing = missingText(info))
+            throw std::logic_error(std::string("the print spooler lists a printer without a ") +
+                                   missing);
         AvailablePrinters printer;
-        printer.printerName = requiredText(info.pPrinterName, "name");
-        printer.portName = requiredText(info.pPortName, "port");
-        printer.driverName = requiredText(info.pDriverName, "driver");
+        printer.printerName = fromWide(info.pPrinterName);
+        printer.portName = fromWide(info.pPortName);
+        printer.driverName = fromWide(info.pDriverName);
         fillFromPortAndFlags(printer, info, lookups);
         printers.append(printer);
     }
