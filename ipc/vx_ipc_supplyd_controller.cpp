@@ -8,6 +8,7 @@
 #include <vxsupplydatabase.h>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QStringBuilder>
 #include <QtCore/QtAlgorithms>
 
 namespace {
@@ -25,7 +26,7 @@ const QString& orShared(const QString& printerName)
 
 QString databasePath()
 {
-    return QCoreApplication::applicationDirPath() + QLatin1Char('/') + QStringLiteral("roll.db");
+    return QCoreApplication::applicationDirPath() % QLatin1String("/roll.db");
 }
 
 } // namespace
@@ -47,9 +48,9 @@ VXIPCSUPPLYDController::~VXIPCSUPPLYDController()
 
 void VXIPCSUPPLYDController::addNewPrinter(const QString& printerName)
 {
-    if (databases.contains(printerName))
-        return;
-    databases.insert(printerName, openDatabase(printerName + QStringLiteral("_CONNECTION_NAME")));
+    VXSupplyDatabase*& database = databases[printerName];
+    if (!database)
+        database = openDatabase(printerName % QLatin1String("_CONNECTION_NAME"));
 }
 
 VXSupplyDatabase* VXIPCSUPPLYDController::openDatabase(const QString& connectionName) const
