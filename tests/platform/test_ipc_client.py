@@ -9,8 +9,9 @@ import os
 import re
 import subprocess
 import sys
-import tempfile
 import unittest
+
+from own_folder import setUpModule  # called by unittest
 
 HOST, DOCUMENT = sys.argv[1:]
 
@@ -24,13 +25,6 @@ def documented_client():
     names = {}
     exec(compile(code, DOCUMENT, "exec"), names)
     return names["endpoint"], names["call"]
-
-
-def setUpModule():
-    folder = tempfile.TemporaryDirectory()
-    unittest.addModuleCleanup(folder.cleanup)
-    # The endpoints of this test alone.
-    os.environ["XDG_RUNTIME_DIR"] = folder.name
 
 
 class PythonClient(unittest.TestCase):

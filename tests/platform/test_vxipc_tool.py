@@ -8,17 +8,11 @@ import json
 import os
 import subprocess
 import sys
-import tempfile
 import unittest
 
+from own_folder import setUpModule  # called by unittest
+
 TOOL, HOST = sys.argv[1:]
-
-
-def setUpModule():
-    folder = tempfile.TemporaryDirectory()
-    unittest.addModuleCleanup(folder.cleanup)
-    # The endpoints of this test alone.
-    os.environ["XDG_RUNTIME_DIR"] = folder.name
 
 
 class Tool(unittest.TestCase):
