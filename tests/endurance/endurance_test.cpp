@@ -3,7 +3,6 @@
 #include "endurance_test.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QMetaProperty>
 
 #include <algorithm>
