@@ -6,6 +6,7 @@
 #include "printer_types.h"
 #include "vxprinterstatus_export.h"
 
+#include <QtCore/QList>
 #include <QtCore/QMap>
 #include <QtCore/QObject>
 #include <QtCore/QSet>
@@ -48,9 +49,9 @@ struct AvailablePrinters;
 /// watching threads' reports arrive in it as queued calls, and every signal is emitted on it. All
 /// members are to be called on that thread. They block as long as the print spooler does.
 ///
-/// **In a slot** that one of the signals calls, every member may be called, an event loop may be run
-/// and the controller may be given to `deleteLater()`. It must not be deleted there, and so not be
-/// given to `deleteLater()` from inside that event loop either, which would delete it.
+/// **In a slot** that one of the signals calls, every member may be called, an event loop may be
+/// run and the controller may be given to `deleteLater()`. It must not be deleted there, and so not
+/// be given to `deleteLater()` from inside that event loop either, which would delete it.
 ///
 /// **Failures** are never raised and never returned as codes: a spooler that does not answer is one
 /// without printers, what cannot be read is empty, zero, or status 255 or 257. What people who
@@ -140,6 +141,7 @@ private Q_SLOTS:
 private:
     void checkForNewPrinter(AvailablePrinters printer);
     void createNewStatusThread(QString printerName);
+    void startThreads();
     void endThreads();
 
     void initializeDefaultPrinter();
@@ -164,4 +166,5 @@ private:
     QString m_activeDefaultPrinter;
     bool m_vxDefaultActivePrinter = false;
     bool noPrinterInError = true;
+    QList<PrinterStatusThread*> threadsToStart;
 };

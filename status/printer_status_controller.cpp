@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 using VXPrinting::PrinterType;
 
@@ -125,6 +126,7 @@ void PrinterStatusController::checkForPrinters()
     const QList<AvailablePrinters> printers = spoolerPrinters();
     for (const AvailablePrinters& printer : printers)
         checkForNewPrinter(printer);
+    startThreads();
 }
 
 void PrinterStatusController::checkForNewPrinter(AvailablePrinters printer)
@@ -141,6 +143,7 @@ void PrinterStatusController::checkForNewPrinter(AvailablePrinters printer)
     const PrinterType type = WindowsPrinterInfo::printerType(printer.driverName);
     if (static_cast<int>(type) <= lastUnsupportedType) {
         ignoredPrinters.insert(name);
+        startThreads();
         Q_EMIT statusChangedSignal(status_codes::disconnected, name);
         return;
     }
@@ -167,6 +170,7 @@ void PrinterStatusController::checkForNewPrinter(AvailablePrinters printer)
 
     if (WindowsPrinterInfo::getDefaultPrinterName() == name && !record.printerNonAdmin) {
         logAbout(log_lines::activeFromUsersDefault, name);
+        startThreads();
         makeActive(name);
     }
 }
@@ -186,8 +190,19 @@ void PrinterStatusController::createNewStatusThread(QString printerName)
             &Controller::onRibbon2IntMileageChanged);
     connect(thread, &Thread::softwareVersionChanged, this, &Controller::onSoftwareVersionChanged);
     thread->setMonitoredPrinterName(printerName);
-    thread->start();
+    threadsToStart.append(thread);
     statusThreads.insert(printerName, thread);
+}
+
+void PrinterStatusController::startThreads()
+{
+    // Together, when all else is done for the printers that were found: between the starts of two
+    // threads the same takes several times as long, with the caches full of the one and the first
+    // reads of the others under way. But always before a slot of the host's can run, which may wait
+    // for reports in an event loop of its own.
+    for (PrinterStatusThread* thread : std::as_const(threadsToStart))
+        thread->start();
+    threadsToStart.clear();
 }
 
 // The active printer //////////////////////////////////////////////////////////////////////////////

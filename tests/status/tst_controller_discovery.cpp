@@ -43,6 +43,8 @@ private Q_SLOTS:
     void threadsReportsReachTheirSlots();
     void threadsRunAtInheritedPriority();
     void signalsOfDiscovery();
+    void slotsOfDiscovery_data();
+    void slotsOfDiscovery();
     void whatIsLogged();
     void hostsOfAnotherThread();
     void parentDeletesIt();
@@ -440,6 +442,45 @@ void ControllerDiscoveryTest::signalsOfDiscovery()
     QCOMPARE(takeSignals(),
              QStringList({QStringLiteral("activeDefaultPrinterSetSignal(Shipping, true)"),
                           QStringLiteral("statusChangedSignal(0, Office)")}));
+}
+
+void ControllerDiscoveryTest::slotsOfDiscovery_data()
+{
+    QTest::addColumn<QString>("foundAfter");
+    QTest::addColumn<QString>("driver");
+    QTest::addColumn<QString>("slotOf");
+    QTest::newRow("of a printer that is ignored")
+        << office << QStringLiteral("Office Laser 9")
+        << QStringLiteral("statusChangedSignal(0, Office)");
+    QTest::newRow("of the active printer")
+        << shipping << QStringLiteral("Stratamark Alder")
+        << QStringLiteral("activeDefaultPrinterSetSignal(Shipping, true)");
+}
+
+void ControllerDiscoveryTest::slotsOfDiscovery()
+{
+    // A slot may stay in an event loop of its own, a dialog's for one: all printers that were found
+    // before are watched meanwhile.
+    QFETCH(QString, foundAfter);
+    QFETCH(QString, driver);
+    QFETCH(QString, slotOf);
+    makeController();
+    addPrinter(packing);
+    machine().publish(packing, PrinterValue::text("StatusCode", "1"));
+    addPrinter(foundAfter, driver);
+    machine().setDefaultPrinter(shipping);
+
+    bool isCalled = false;
+    bool isWatched = false;
+    recorder().hook = [&](const QString& line) {
+        if (isCalled || line != slotOf)
+            return;
+        isCalled = true;
+        isWatched = QTest::qWaitFor([&] { return record(packing).statusEnum == 1; });
+    };
+    controller().checkForPrinters();
+    QVERIFY(isCalled);
+    QVERIFY(isWatched);
 }
 
 void ControllerDiscoveryTest::whatIsLogged()
