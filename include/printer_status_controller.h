@@ -166,5 +166,6 @@ private:
     QString m_activeDefaultPrinter;
     bool m_vxDefaultActivePrinter = false;
     bool noPrinterInError = true;
+    // Connected by the discovery that is under way; in statusThreads too, which owns them.
     QList<PrinterStatusThread*> threadsToStart;
 };

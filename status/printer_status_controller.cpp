@@ -197,9 +197,8 @@ void PrinterStatusController::createNewStatusThread(QString printerName)
 void PrinterStatusController::startThreads()
 {
     // Together, when all else is done for the printers that were found: between the starts of two
-    // threads the same takes several times as long, with the caches full of the one and the first
-    // reads of the others under way. But always before a slot of the host's can run, which may wait
-    // for reports in an event loop of its own.
+    // threads it takes several times as long (bench_controller). But always before a slot of the
+    // host's can run, which may wait for reports in an event loop of its own.
     for (PrinterStatusThread* thread : std::as_const(threadsToStart))
         thread->start();
     threadsToStart.clear();
