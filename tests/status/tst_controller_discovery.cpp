@@ -476,7 +476,7 @@ void ControllerDiscoveryTest::slotsOfDiscovery()
         if (isCalled || line != slotOf)
             return;
         isCalled = true;
-        isWatched = QTest::qWaitFor([&] { return record(packing).statusEnum == 1; });
+        isWatched = QTest::qWaitFor([&] { return record(packing).statusEnum == 1; }, 20000);
     };
     controller().checkForPrinters();
     QVERIFY(isCalled);

@@ -84,14 +84,13 @@ protected:
     /// Waits for a report and takes everything up to it.
     bool waitFor(const Report& report, int milliseconds = 10000)
     {
-        const QDeadlineTimer limit(milliseconds);
         QList<Report> seen;
-        while (!limit.hasExpired()) {
+        const auto isSeen = [&] {
             seen += m_reports->take();
-            if (seen.contains(report))
-                return true;
-            QTest::qWait(10);
-        }
+            return seen.contains(report);
+        };
+        if (QTest::qWaitFor(isSeen, milliseconds))
+            return true;
         for (const Report& other : std::as_const(seen))
             qWarning("seen instead: %s", toString(other));
         return false;
