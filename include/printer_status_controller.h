@@ -6,7 +6,6 @@
 #include "printer_types.h"
 #include "vxprinterstatus_export.h"
 
-#include <QtCore/QList>
 #include <QtCore/QMap>
 #include <QtCore/QObject>
 #include <QtCore/QSet>
@@ -50,8 +49,9 @@ struct AvailablePrinters;
 /// members are to be called on that thread. They block as long as the print spooler does.
 ///
 /// **In a slot** that one of the signals calls, every member may be called, an event loop may be
-/// run and the controller may be given to `deleteLater()`. It must not be deleted there, and so not
-/// be given to `deleteLater()` from inside that event loop either, which would delete it.
+/// run and the controller may be given to `deleteLater()`, before that loop or inside it. Where
+/// such a loop deletes it, the rest of the report's signals is not emitted. It must not be deleted
+/// with `delete` in a slot.
 ///
 /// **Failures** are never raised and never returned as codes: a spooler that does not answer is one
 /// without printers, what cannot be read is empty, zero, or status 255 or 257. What people who
@@ -141,7 +141,6 @@ private Q_SLOTS:
 private:
     void checkForNewPrinter(AvailablePrinters printer);
     void createNewStatusThread(QString printerName);
-    void startThreads();
     void endThreads();
 
     void initializeDefaultPrinter();
@@ -166,6 +165,4 @@ private:
     QString m_activeDefaultPrinter;
     bool m_vxDefaultActivePrinter = false;
     bool noPrinterInError = true;
-    // Connected by the discovery that is under way; in statusThreads too, which owns them.
-    QList<PrinterStatusThread*> threadsToStart;
 };

@@ -4,15 +4,14 @@
 
 #include "log_lines.h"
 #include "percent_left.h"
-#include "printer_enumeration.h"
 #include "printer_status_thread.h"
 #include "raw_print_job.h"
 #include "status_titles.h"
 #include "vx_ipc_m4_controller.h"
 #include "vx_ipc_supplyd_controller.h"
-#include "wide_text.h"
 #include "windows_printer_info.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QColor>
 
 #include <algorithm>
@@ -123,10 +122,14 @@ QVariantList PrinterStatusController::getAvailablePrinters() const
 
 void PrinterStatusController::checkForPrinters()
 {
+    // A slot of the host's may run an event loop in which the controller is deleted.
+    const QPointer controller(this);
     const QList<AvailablePrinters> printers = spoolerPrinters();
-    for (const AvailablePrinters& printer : printers)
+    for (const AvailablePrinters& printer : printers) {
         checkForNewPrinter(printer);
-    startThreads();
+        if (!controller)
+            return;
+    }
 }
 
 void PrinterStatusController::checkForNewPrinter(AvailablePrinters printer)
@@ -143,7 +146,6 @@ void PrinterStatusController::checkForNewPrinter(AvailablePrinters printer)
     const PrinterType type = WindowsPrinterInfo::printerType(printer.driverName);
     if (static_cast<int>(type) <= lastUnsupportedType) {
         ignoredPrinters.insert(name);
-        startThreads();
         Q_EMIT statusChangedSignal(status_codes::disconnected, name);
         return;
     }
@@ -169,9 +171,9 @@ void PrinterStatusController::checkForNewPrinter(AvailablePrinters printer)
     m4Controller->onStatusChanged(record.statusEnum, name);
 
     if (WindowsPrinterInfo::getDefaultPrinterName() == name && !record.printerNonAdmin) {
-        logAbout(log_lines::activeFromUsersDefault, name);
-        startThreads();
         makeActive(name);
+        logAbout(log_lines::activeFromUsersDefault, m_activeDefaultPrinter);
+        Q_EMIT activeDefaultPrinterSetSignal(m_activeDefaultPrinter, m_vxDefaultActivePrinter);
     }
 }
 
@@ -190,18 +192,8 @@ void PrinterStatusController::createNewStatusThread(QString printerName)
             &Controller::onRibbon2IntMileageChanged);
     connect(thread, &Thread::softwareVersionChanged, this, &Controller::onSoftwareVersionChanged);
     thread->setMonitoredPrinterName(printerName);
-    threadsToStart.append(thread);
+    thread->start(QThread::InheritPriority);
     statusThreads.insert(printerName, thread);
-}
-
-void PrinterStatusController::startThreads()
-{
-    // Together, when all else is done for the printers that were found: between the starts of two
-    // threads it takes several times as long (bench_controller). But always before a slot of the
-    // host's can run, which may wait for reports in an event loop of its own.
-    for (PrinterStatusThread* thread : std::as_const(threadsToStart))
-        thread->start();
-    threadsToStart.clear();
 }
 
 // The active printer //////////////////////////////////////////////////////////////////////////////
@@ -221,7 +213,6 @@ void PrinterStatusController::makeActive(const QString& printerName)
     m_activeDefaultPrinter = printerName;
     printerStatusMap[printerName].printerDefault = true;
     m_vxDefaultActivePrinter = true;
-    Q_EMIT activeDefaultPrinterSetSignal(m_activeDefaultPrinter, m_vxDefaultActivePrinter);
 }
 
 void PrinterStatusController::initializeDefaultPrinter()
@@ -283,14 +274,18 @@ void PrinterStatusController::onPrinterStatusChanged(QString printerName, QStrin
     if (record().printerRemote)
         return;
 
+    // And after each signal the controller may be gone, deleted in an event loop that a slot runs.
+    const QPointer controller(this);
     bool readable = false;
     record().statusEnum = status.toInt(&readable);
     if (!readable) {
         if (WindowsPrinterInfo::isPrinterOffline(printerName)) {
             recordOffline(printerName);
-            Q_EMIT availablePrintersUpdated();
-            Q_EMIT statusChangedSignal(record().statusEnum, printerName);
-            if (printerName == m_activeDefaultPrinter)
+            if (controller)
+                Q_EMIT availablePrintersUpdated();
+            if (controller)
+                Q_EMIT statusChangedSignal(status_codes::offline, printerName);
+            if (controller && printerName == m_activeDefaultPrinter)
                 updateDefaultPrinter();
             return;
         }
@@ -304,19 +299,22 @@ void PrinterStatusController::onPrinterStatusChanged(QString printerName, QStrin
         reevaluateErrorState();
     } else if (mayBeOffline && WindowsPrinterInfo::isPrinterOffline(printerName)) {
         recordOffline(printerName);
-        if (printerName == m_activeDefaultPrinter)
+        if (controller && printerName == m_activeDefaultPrinter)
             updateDefaultPrinter();
     } else {
         raiseErrorState();
     }
 
-    if (record().printerOnline && shallBecomeActive(printerName)) {
-        logAbout(log_lines::activeFromWindowsDefault, printerName);
+    if (controller && record().printerOnline && shallBecomeActive(printerName)) {
         makeActive(printerName);
+        logAbout(log_lines::activeFromWindowsDefault, m_activeDefaultPrinter);
+        Q_EMIT activeDefaultPrinterSetSignal(m_activeDefaultPrinter, m_vxDefaultActivePrinter);
     }
 
-    Q_EMIT statusChangedSignal(record().statusEnum, printerName);
-    Q_EMIT availablePrintersUpdated();
+    if (controller)
+        Q_EMIT statusChangedSignal(record().statusEnum, printerName);
+    if (controller)
+        Q_EMIT availablePrintersUpdated();
 }
 
 bool PrinterStatusController::shallBecomeActive(const QString& printerName) const
@@ -381,19 +379,10 @@ QString PrinterStatusController::getStatusTitle(int statusEnum)
 
 PrinterType PrinterStatusController::getPrinterTypeEnum(QString printerName)
 {
-    // The spooler is asked afresh, but for nothing beyond what it lists: every report of a mileage
-    // comes here, and the serial numbers in the device registry take many times as long.
-    const PrinterEnumeration spooler;
-    const auto printers = spooler.printers();
-    if (std::ranges::any_of(printers, missingText))
-        return PrinterType::Unknown;
-    const auto isAsked = [&](const PRINTER_INFO_2W& printer) {
-        return wideView(printer.pPrinterName) == printerName;
-    };
-    const auto found = std::ranges::find_if(printers, isAsked);
-    if (found == printers.end())
-        return PrinterType::Unknown;
-    return WindowsPrinterInfo::printerType(fromWide(found->pDriverName));
+    const QList<AvailablePrinters> printers = spoolerPrinters();
+    const auto found = std::ranges::find(printers, printerName, &AvailablePrinters::printerName);
+    return found == printers.end() ? PrinterType::Unknown
+                                   : WindowsPrinterInfo::printerType(found->driverName);
 }
 
 // Supply, ribbons, firmware ///////////////////////////////////////////////////////////////////////
@@ -421,8 +410,10 @@ void PrinterStatusController::onSupplyIdChanged(QString printerName, QString id)
              << record.supplyColorName << record.supplyMaterialName;
     });
 
+    const QPointer controller(this);
     Q_EMIT supplyIdChangedSignal(printerName);
-    Q_EMIT availablePrintersUpdated();
+    if (controller)
+        Q_EMIT availablePrintersUpdated();
 }
 
 void PrinterStatusController::onRibbonIdsChanged(QString printerName, QStringList ids)
@@ -448,8 +439,10 @@ void PrinterStatusController::onRibbonIdsChanged(QString printerName, QStringLis
         record.ribbon2ColorName = supplyIdController->supplyRibbonColorName(ribbon2, firstPanel);
     }
 
+    const QPointer controller(this);
     Q_EMIT ribbonIdsChangedSignal(printerName);
-    Q_EMIT availablePrintersUpdated();
+    if (controller)
+        Q_EMIT availablePrintersUpdated();
 }
 
 void PrinterStatusController::onSupplyIntMileageChanged(QString printerName, QString mileage)

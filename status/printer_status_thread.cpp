@@ -65,8 +65,7 @@ struct LastSeen
 DWORD serviceState(SC_HANDLE service)
 {
     SERVICE_STATUS status{};
-    if (service)
-        QueryServiceStatus(service, &status);
+    QueryServiceStatus(service, &status);
     return status.dwCurrentState; // 0 when the service did not answer
 }
 
@@ -193,7 +192,8 @@ bool PrinterStatusThread::printSpoolerStatusChanged(SC_HANDLE service, unsigned 
         return false;
 
     // Closed even where nothing is open, when the service goes from one stopped state to another.
-    // It can also come to be running with the handles still live: its first query had failed.
+    // It can also come to be running with the handles still live, when an earlier query failed:
+    // opening the printer afresh would leak them.
     if (state != SERVICE_RUNNING || WatchedHandles::isWatching(*changeHandle))
         WatchedHandles::close(printerHandle, changeHandle);
     if (state == SERVICE_RUNNING)
@@ -281,17 +281,19 @@ void PrinterStatusThread::run()
     m_stopEvent.store(stopEvent);
 
     const ServiceHandle manager(OpenSCManagerW(nullptr, nullptr, 0));
+    // Neither handle is looked at: a manager or a service that could not be opened answers every
+    // question with a failure, which is a state of its own.
     const ServiceHandle spooler(
-        manager.isValid() ? OpenServiceW(manager.get(), wide(u"Spooler"), SERVICE_QUERY_STATUS)
-                          : nullptr);
+        OpenServiceW(manager.get(), wide(u"Spooler"), SERVICE_QUERY_STATUS));
     unsigned long spoolerState = serviceState(spooler.get());
 
-    // A change handle that could not be had is INVALID_HANDLE_VALUE, which as an object to wait for
-    // is the process itself: it is never signalled while this runs, and the wait times out.
-    std::array<HANDLE, 2> waitList{stopEvent, handles.change};
-    DWORD slots = 2;
     for (;;) {
-        switch (WaitForMultipleObjects(slots, waitList.data(), FALSE, spoolerPollInterval)) {
+        // Without a notification there is the stop event alone to wait for. INVALID_HANDLE_VALUE
+        // must not stand in for one: it is the pseudo handle of the process, and a wait for several
+        // objects fails at once when one of them is a pseudo handle.
+        const std::array<HANDLE, 2> objects{stopEvent, handles.change};
+        const DWORD count = WatchedHandles::isWatching(handles.change) ? 2 : 1;
+        switch (WaitForMultipleObjects(count, objects.data(), FALSE, spoolerPollInterval)) {
         case WAIT_OBJECT_0:
             m_stopEvent.store(nullptr);
             CloseHandle(stopEvent);
@@ -312,12 +314,9 @@ void PrinterStatusThread::run()
             if (!WatchedHandles::isWatching(handles.change)) {
                 seen.status = spoolerDownStatus;
                 Q_EMIT printerStatusChanged(m_monitoredPrinterName, spoolerDownStatus);
-                slots = 1;
                 break;
             }
-            waitList[1] = handles.change;
             readValues(false);
-            slots = 2;
             break;
 
         default:

@@ -49,7 +49,8 @@ QString read(HANDLE printer, const TextValue& value)
     std::array<char, largestCapacity> buffer{};
     const Answer answer =
         ask(printer, value.name, reinterpret_cast<BYTE*>(buffer.data()), value.capacity);
-    if (!isText(answer.type) || answer.needed < value.leastBytes || answer.needed > value.mostBytes)
+    // A text that is longer than the buffer is not one, whatever of it the buffer holds.
+    if (!isText(answer.type) || answer.needed < value.leastBytes || answer.needed > value.capacity)
         return {};
     return QString::fromUtf8(buffer.data(),
                              static_cast<qsizetype>(qstrnlen(buffer.data(), value.capacity)));

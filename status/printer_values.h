@@ -16,9 +16,8 @@ namespace printer_values {
 struct TextValue
 {
     const char* name;
-    DWORD capacity;   ///< bytes offered
-    DWORD leastBytes; ///< what the spooler says the value takes must lie between these two
-    DWORD mostBytes;
+    DWORD capacity;   ///< bytes offered, and the most that the value may take
+    DWORD leastBytes; ///< the least that the value may take
 };
 
 struct NumberValue
@@ -27,13 +26,12 @@ struct NumberValue
     LONG ceiling; ///< a larger number, read as signed, is not plausible
 };
 
-inline constexpr DWORD anySize = std::numeric_limits<DWORD>::max();
 inline constexpr LONG noCeiling = std::numeric_limits<LONG>::max();
 
-inline constexpr TextValue supplyId{"SupplyIdentifier", 21, 21, 21};
-inline constexpr TextValue statusCode{"StatusCode", 128, 0, 128};
-inline constexpr TextValue softwareVersion{"SoftwareVersion", 37, 0, anySize};
-inline constexpr TextValue ethernetConfig{"EthernetConfig", 74, 0, anySize};
+inline constexpr TextValue supplyId{"SupplyIdentifier", 21, 21};
+inline constexpr TextValue statusCode{"StatusCode", 128, 0};
+inline constexpr TextValue softwareVersion{"SoftwareVersion", 37, 0};
+inline constexpr TextValue ethernetConfig{"EthernetConfig", 74, 0};
 inline constexpr DWORD largestCapacity = statusCode.capacity;
 
 inline constexpr NumberValue ribbon1Id{"Ribbon1Identifier", 100000};

@@ -11,6 +11,13 @@ namespace {
 thread_local DWORD lastError = 0;
 std::atomic<DWORD> nextThreadId = 4;
 
+/// The calling process and the calling thread, neither of which ends during its own wait.
+bool isPseudoHandle(HANDLE handle)
+{
+    const auto number = reinterpret_cast<qintptr>(handle);
+    return number == -1 || number == -2;
+}
+
 } // namespace
 
 // What waits and who wakes them.
@@ -71,14 +78,18 @@ void Machine::Private::signal(Waitable& object)
 DWORD Machine::Private::wait(const HANDLE* handles, DWORD count, bool all, DWORD milliseconds,
                              Function function)
 {
+    // Good for a wait for one object alone.
+    if (function == Function::WaitForMultipleObjects &&
+        std::any_of(handles, handles + count, isPseudoHandle))
+        return failWith(ERROR_INVALID_HANDLE, WAIT_FAILED);
+
     std::unique_lock guard(lock);
 
     Waiter waiter;
     waiter.all = all;
     waiter.objects.reserve(count);
     for (DWORD index = 0; index < count; ++index) {
-        // As an object to wait for this value is the process itself, which does not end under us.
-        if (handles[index] == INVALID_HANDLE_VALUE) {
+        if (isPseudoHandle(handles[index])) {
             waiter.objects.emplace_back();
             continue;
         }

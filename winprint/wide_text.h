@@ -12,11 +12,6 @@ inline const WCHAR* wide(const char16_t* text)
     return reinterpret_cast<const WCHAR*>(text);
 }
 
-inline QStringView wideView(const WCHAR* text)
-{
-    return reinterpret_cast<const char16_t*>(text);
-}
-
 inline QString fromWide(const WCHAR* text)
 {
     return QString::fromUtf16(reinterpret_cast<const char16_t*>(text));

@@ -115,6 +115,8 @@ private Q_SLOTS:
     void threadsThatCannotBeToldYet();
     void rightAfterConstruction();
     void spoolerIsDown();
+    void printersThatCouldNotBeOpened_data();
+    void printersThatCouldNotBeOpened();
     void allThreadsAreToldBeforeOneIsWaitedFor();
     void reportsUnderWayAreDropped();
     void destroyedByItsParent();
@@ -206,6 +208,67 @@ void ControllerLifecycleTest::spoolerIsDown()
     for (const LabelPrinter& printer : labelPrinters)
         QCOMPARE(recordOf(*controller, printer.name)->statusEnum, 254);
     controller.reset();
+    QCOMPARE(machine().openHandles(), 0);
+}
+
+void ControllerLifecycleTest::printersThatCouldNotBeOpened_data()
+{
+    QTest::addColumn<QByteArray>("function");
+    QTest::addColumn<bool>("afterARestart");
+    for (const char* function : {"OpenPrinterA", "FindFirstPrinterChangeNotification"}) {
+        QTest::addRow("%s at the start", function) << QByteArray(function) << false;
+        QTest::addRow("%s after a restart", function) << QByteArray(function) << true;
+    }
+}
+
+void ControllerLifecycleTest::printersThatCouldNotBeOpened()
+{
+    QFETCH(const QByteArray, function);
+    QFETCH(const bool, afterARestart);
+    const bool isNotification = function != "OpenPrinterA";
+    const auto failThreads = [&] {
+        machine().failCallsFrom(QString::fromLatin1(function), 1, ERROR_NOT_ENOUGH_MEMORY);
+    };
+    std::unique_ptr<PrinterStatusController> controller;
+    if (afterARestart) {
+        controller = watch();
+        QVERIFY(controller);
+        machine().stopSpooler();
+        QVERIFY(letThreadsPoll(printerCount));
+        failThreads();
+        machine().startSpooler();
+        QVERIFY(letThreadsPoll(printerCount));
+    } else {
+        if (isNotification) {
+            failThreads();
+        } else {
+            // The host opens each printer too, to see whether it may administer it.
+            const auto host = QThread::currentThreadId();
+            machine().setCallHook([this, host](const Call& call) {
+                if (call.function == QLatin1String("OpenPrinterA") && call.thread != host)
+                    machine().removePrinter(call.arguments.first());
+            });
+        }
+        controller = watch();
+        machine().setCallHook(nullptr);
+        QVERIFY(controller);
+    }
+    machine().clearFailures();
+
+    // Nothing but the poll happens, and it happens once each time.
+    for (int poll = 0; poll < 3; ++poll) {
+        const int asked = machine().callCount(QStringLiteral("QueryServiceStatus"));
+        const int waits = machine().callCount(QStringLiteral("WaitForMultipleObjects"));
+        QVERIFY(letThreadsPoll(printerCount));
+        QCOMPARE(machine().callCount(QStringLiteral("QueryServiceStatus")), asked + printerCount);
+        QCOMPARE(machine().callCount(QStringLiteral("WaitForMultipleObjects")),
+                 waits + printerCount);
+    }
+    // A printer whose notification failed is closed once more at the end.
+    for (int printer = 0; isNotification && printer < printerCount; ++printer)
+        allowMisuse(Kind::ClosedTwice, QStringLiteral("ClosePrinter"));
+    controller.reset();
+    QCOMPARE(machine().waitingThreads(), 0);
     QCOMPARE(machine().openHandles(), 0);
 }
 

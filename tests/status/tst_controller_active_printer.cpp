@@ -3,6 +3,8 @@
 // Which printer is the active one, and when the host is told.
 #include "controller_test.h"
 
+#include <QtCore/QScopeGuard>
+
 namespace {
 const QString ash = QStringLiteral("Ash");
 const QString beech = QStringLiteral("Beech");
@@ -67,6 +69,7 @@ private Q_SLOTS:
     void onlyRecordGoesOffline();
     void otherPrinterGoesOffline();
     void activeOutsideRecordsWhenItReportsOffline();
+    void lineIsWrittenBetweenTheChangeAndTheSignal();
 
 private:
     /// A controller with no records whose active printer is not one of the maker's.
@@ -399,6 +402,60 @@ void ActivePrinterTest::activeOutsideRecordsWhenItReportsOffline()
     reportStatus(laser, "");
     QCOMPARE(takeSignals(), QStringList({updated, status(257, laser), active(laser)}));
     QVERIFY(controller().vxDefaultActivePrinter());
+}
+
+void ActivePrinterTest::lineIsWrittenBetweenTheChangeAndTheSignal()
+{
+    class Appender final : public AbstractAppender
+    {
+    public:
+        std::function<void(const QString& message)> onLine;
+
+    protected:
+        void append(const QDateTime&, Logger::LogLevel, const char*, int, const char*,
+                    const QString&, const QString& message) override
+        {
+            onLine(message);
+        }
+    };
+    QStringList seen;
+    Appender appender;
+    appender.setDetailsLevel(Logger::Trace);
+    appender.onLine = [&](const QString& message) {
+        if (!message.startsWith(QLatin1String("Setting defaultActivePrinter ")))
+            return;
+        const QString name = controller().activeDefaultPrinter();
+        const bool isMarked = record(name).printerDefault;
+        seen.append(QStringLiteral("%1 %2 %3 in \"%4\"")
+                        .arg(name)
+                        .arg(isMarked)
+                        .arg(controller().vxDefaultActivePrinter())
+                        .arg(message));
+    };
+    makeWithLaser();
+    recorder().hook = [&](const QString& line) {
+        if (line.startsWith(QLatin1String("activeDefaultPrinterSetSignal")))
+            seen.append(line);
+    };
+    Logger::globalInstance()->registerAppender(&appender);
+    const auto removeAppender =
+        qScopeGuard([&] { Logger::globalInstance()->removeAppender(&appender); });
+
+    addPrinter(ash);
+    machine().setDefaultPrinter(ash);
+    controller().checkForPrinters();
+    addPrinter(beech);
+    controller().checkForPrinters();
+    machine().setDefaultPrinter(beech);
+    reportStatus(beech, "1");
+    const QStringList expected{
+        QStringLiteral(
+            "Ash 1 1 in \"Setting defaultActivePrinter Ash from user-selected default.\""),
+        active(ash),
+        QStringLiteral("Beech 1 1 in \"Setting defaultActivePrinter Beech from Windows default.\""),
+        active(beech),
+    };
+    QCOMPARE(seen, expected);
 }
 
 QTEST_GUILESS_MAIN(ActivePrinterTest)

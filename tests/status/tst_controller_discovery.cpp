@@ -6,6 +6,7 @@
 #include "vx_ipc_m4_controller.h"
 #include "vx_ipc_supplyd_controller.h"
 
+#include <QtCore/QSemaphore>
 #include <QtCore/QThread>
 
 namespace {
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void endpointsAreToldOfEachRecord();
     void threadsReportsReachTheirSlots();
     void threadsRunAtInheritedPriority();
+    void threadIsStartedAsItsPrinterIsFound();
     void signalsOfDiscovery();
     void slotsOfDiscovery_data();
     void slotsOfDiscovery();
@@ -428,6 +430,29 @@ void ControllerDiscoveryTest::threadsRunAtInheritedPriority()
     QVERIFY(machine().waitForWaitingThreads(1));
     machine().setCallHook(nullptr);
     QCOMPARE(seen, QThread::InheritPriority);
+}
+
+void ControllerDiscoveryTest::threadIsStartedAsItsPrinterIsFound()
+{
+    // The first printer is watched before the second is as much as looked at.
+    addPrinter(packing);
+    addPrinter(shipping);
+    const QThread* const host = QThread::currentThread();
+    QSemaphore watched;
+    bool isFirstWatched = false;
+    machine().setCallHook([&](const Call& call) {
+        if (call.function == QLatin1String("FindFirstPrinterChangeNotification"))
+            watched.release();
+        const bool isLookedAt = call.function == QLatin1String("OpenPrinterA") &&
+                                QThread::currentThread() == host &&
+                                call.arguments.first() == shipping;
+        if (isLookedAt)
+            isFirstWatched = watched.tryAcquire(1, 20000);
+    });
+    makeController();
+    QVERIFY(machine().waitForWaitingThreads(2));
+    machine().setCallHook(nullptr);
+    QVERIFY(isFirstWatched);
 }
 
 void ControllerDiscoveryTest::signalsOfDiscovery()

@@ -5,6 +5,8 @@
 
 #include <vxerror.h>
 
+#include <QtCore/QSettings>
+
 namespace {
 const QString ash = QStringLiteral("Ash");
 const QString beech = QStringLiteral("Beech");
@@ -62,7 +64,8 @@ private Q_SLOTS:
     void titles_data();
     void titles();
     void typeOfAPrinter();
-    void typeTakesTheSpoolersListAlone();
+    void typeIsTakenFromAListingOfItsOwn();
+    void unreadableReportOfAnOfflinePrinterSaysSo();
     void slotMayChangeTheRecords();
 };
 
@@ -440,23 +443,40 @@ void ControllerStatusTest::typeOfAPrinter()
     QCOMPARE(controller().getPrinterTypeEnum(ash), PrinterType::Unknown);
 }
 
-void ControllerStatusTest::typeTakesTheSpoolersListAlone()
+void ControllerStatusTest::typeIsTakenFromAListingOfItsOwn()
 {
-    // Every report of a mileage asks for the type, so it must not take what discovery takes.
+    // A whole one, which records the serial numbers that it finds.
     machine().addDevice({QStringLiteral("{28d78fad-5a12-11d1-ae5b-0000f803a8c2}"),
                          QStringLiteral("##?#USB#VID_3E7A&PID_0104#1"), 1, QStringLiteral("AM-1")});
-    machine().recordCalls();
+    const auto isRecorded = [] {
+        return QSettings(QSettings::IniFormat, QSettings::UserScope,
+                         QStringLiteral("Harlow Devices Inc"), QStringLiteral("Quillmark"))
+            .contains(QStringLiteral("associatedPrinters/AM-1"));
+    };
+    QVERIFY(!isRecorded());
+    const int listings = callsOf("EnumPrintersW");
+    const int sizingAndReading = 2;
     QCOMPARE(controller().getPrinterTypeEnum(ash), VXPrinting::PrinterType::Alder);
-    const QList<Call> calls = machine().calls();
-    machine().recordCalls(false);
-    QStringList functions;
-    for (const Call& call : calls) {
-        if (call.thread == QThread::currentThreadId())
-            functions.append(call.function);
-    }
-    QCOMPARE(functions,
-             (QStringList{QStringLiteral("EnumPrintersW"), QStringLiteral("EnumPrintersW")}));
-    QCOMPARE(calls.first().arguments.last(), QStringLiteral("0")); // sized afresh
+    QCOMPARE(callsOf("EnumPrintersW"), listings + sizingAndReading);
+    QVERIFY(isRecorded());
+}
+
+void ControllerStatusTest::unreadableReportOfAnOfflinePrinterSaysSo()
+{
+    // Also when a report that a slot lets in says something else by then.
+    setOffline(ash);
+    recorder().hook = [&](const QString& line) {
+        if (line != updated)
+            return;
+        recorder().hook = nullptr;
+        reportStatus(ash, "7");
+    };
+    reportStatus(ash, "");
+    QCOMPARE(record(ash).statusEnum, 7);
+    const QStringList signalled = takeSignals();
+    QCOMPARE(signalled.indexOf(updated), 0);
+    QVERIFY2(signalled.contains(status(257)), qPrintable(signalled.join(QLatin1Char(' '))));
+    QCOMPARE(signalled.count(status(7)), 1);
 }
 
 void ControllerStatusTest::slotMayChangeTheRecords()

@@ -65,6 +65,15 @@ private Q_SLOTS:
     void failedWaitIsTriedAgain();
     void failedReArmingStillReads();
     void printerThatIsRemoved();
+
+private:
+    /// Whether the last wait was for one object, with the time-out of the poll.
+    bool waitsForItsEndAlone()
+    {
+        const QStringList arguments = lastCall("WaitForMultipleObjects").arguments;
+        return arguments.size() == 4 && arguments.first() == QLatin1String("1") &&
+               arguments.last() == QLatin1String("5000");
+    }
 };
 
 void PrinterStatusThreadSpoolerTest::pollsAfterFiveSecondsWithoutNotification()
@@ -114,10 +123,8 @@ void PrinterStatusThreadSpoolerTest::stoppingSpoolerIsReported()
                  .mid(1));
     QCOMPARE(lastCall("FindClosePrinterChangeNotification").arguments, QStringList{waited.at(2)});
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
-    // From now on it waits for its end alone.
-    const QStringList waits = lastCall("WaitForMultipleObjects").arguments;
-    QCOMPARE(waits, (QStringList{QStringLiteral("1"), waited.at(1), QStringLiteral("0"),
-                                 QStringLiteral("5000")}));
+    QVERIFY(waitsForItsEndAlone());
+    QCOMPARE(lastCall("WaitForMultipleObjects").arguments.at(1), waited.at(1));
     QVERIFY(logged().isEmpty());
 }
 
@@ -215,7 +222,7 @@ void PrinterStatusThreadSpoolerTest::comesBackWithoutThePrinter()
     QCOMPARE(logged(), QList<LogRecord>{openingFailed()});
     QCOMPARE(machine().calls(name("OpenPrinterA")).size(), 1);
     QCOMPARE(machine().calls(name("GetPrinterDataA")).size(), 0);
-    QCOMPARE(lastCall("WaitForMultipleObjects").arguments.first(), QStringLiteral("1"));
+    QVERIFY(waitsForItsEndAlone());
 
     // Nothing is tried again before the service has changed its state.
     pass(5000ms);
@@ -306,6 +313,14 @@ void PrinterStatusThreadSpoolerTest::serviceThatCannotBeAskedIsNotTakenForStoppe
     pass(5000ms);
     pass(5000ms);
     QCOMPARE(takeReports(), QList<Report>());
+
+    // The service is opened and asked whatever the handles are.
+    QCOMPARE(machine().callCount(name("OpenServiceW")), 1);
+    QCOMPARE(machine().callCount(name("QueryServiceStatus")), 3);
+    if (function == name("OpenSCManagerW"))
+        allowMisuse(Kind::NotAHandle, name("OpenServiceW"));
+    for (int query = 0; query < 3; ++query)
+        allowMisuse(Kind::NotAHandle, name("QueryServiceStatus"));
 }
 
 void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpened()
@@ -320,9 +335,13 @@ void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpened()
     QCOMPARE(takeReports(), QList<Report>());
     QCOMPARE(machine().calls(name("OpenPrinterA")).size(), 1);
     QCOMPARE(machine().calls(name("GetPrinterDataA")).size(), 0);
-    const QStringList waits = lastCall("WaitForMultipleObjects").arguments;
-    QCOMPARE(waits.first(), QStringLiteral("2"));
-    QCOMPARE(waits.at(2), noHandle);
+    QVERIFY(waitsForItsEndAlone());
+    pass(4999ms);
+    QCOMPARE(machine().calls(name("QueryServiceStatus")).size(), 1);
+    pass(1ms);
+    QCOMPARE(machine().calls(name("QueryServiceStatus")).size(), 2);
+    QVERIFY(waitsForItsEndAlone());
+    QCOMPARE(machine().calls(name("WaitForMultipleObjects")).size(), 2);
 
     machine().clearCalls();
     endThread();
@@ -377,7 +396,7 @@ void PrinterStatusThreadSpoolerTest::notificationThatCannotBeHad()
     QCOMPARE(takeReports(), QList<Report>());
     const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
-    QCOMPARE(lastCall("WaitForMultipleObjects").arguments.at(2), noHandle);
+    QVERIFY(waitsForItsEndAlone());
 
     allowMisuse(Kind::ClosedTwice, name("ClosePrinter"));
     machine().clearCalls();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "fixture.h"
+#include "pseudo_handle_checks.h"
 #include "registry_notifications.h"
 #include "report_recorder.h"
 
@@ -39,6 +40,8 @@ protected Q_SLOTS:
     {
         if (!fixture::has(Behaviour::ChangeNotifications))
             QVERIFY(supplyChangeNotifications(L"vxprinterstatus.dll"));
+        if (!fixture::has(Behaviour::PseudoHandleChecks))
+            QVERIFY(refusePseudoHandles(L"vxprinterstatus.dll"));
         m_manager.reset(OpenSCManagerW(nullptr, nullptr, SC_MANAGER_CONNECT));
         QVERIFY(m_manager);
     }

@@ -2,8 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #include "registry_notifications.h"
 
-#include <array>
-#include <cstring>
+#include "import_table.h"
+
 #include <map>
 #include <mutex>
 #include <string>
@@ -82,62 +82,15 @@ BOOL WINAPI findClose(HANDLE change)
     return TRUE;
 }
 
-struct Replacement
-{
-    const char* name;
-    ULONG_PTR function;
-};
-
-template <typename Record>
-Record* at(HMODULE module, DWORD offset)
-{
-    return reinterpret_cast<Record*>(reinterpret_cast<BYTE*>(module) + offset);
-}
-
-bool replace(HMODULE module, const IMAGE_IMPORT_DESCRIPTOR& import, const Replacement& replacement)
-{
-    auto* name = at<IMAGE_THUNK_DATA>(module, import.OriginalFirstThunk);
-    auto* address = at<IMAGE_THUNK_DATA>(module, import.FirstThunk);
-    for (; name->u1.AddressOfData; ++name, ++address) {
-        if (IMAGE_SNAP_BY_ORDINAL(name->u1.Ordinal))
-            continue;
-        const auto* byName =
-            at<IMAGE_IMPORT_BY_NAME>(module, static_cast<DWORD>(name->u1.AddressOfData));
-        if (std::strcmp(reinterpret_cast<const char*>(byName->Name), replacement.name) != 0)
-            continue;
-        DWORD protection = 0;
-        if (!VirtualProtect(&address->u1.Function, sizeof(ULONG_PTR), PAGE_READWRITE, &protection))
-            return false;
-        address->u1.Function = replacement.function;
-        return VirtualProtect(&address->u1.Function, sizeof(ULONG_PTR), protection, &protection);
-    }
-    return false;
-}
-
 } // namespace
 
 bool supplyChangeNotifications(const wchar_t* library)
 {
-    const HMODULE module = GetModuleHandleW(library);
-    if (!module)
-        return false;
-    const auto* dos = at<IMAGE_DOS_HEADER>(module, 0);
-    const auto* headers = at<IMAGE_NT_HEADERS>(module, static_cast<DWORD>(dos->e_lfanew));
-    const IMAGE_DATA_DIRECTORY& directory =
-        headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
-    const std::array replacements{
-        Replacement{"FindFirstPrinterChangeNotification", reinterpret_cast<ULONG_PTR>(&findFirst)},
-        Replacement{"FindNextPrinterChangeNotification", reinterpret_cast<ULONG_PTR>(&findNext)},
-        Replacement{"FindClosePrinterChangeNotification", reinterpret_cast<ULONG_PTR>(&findClose)},
-    };
-    auto* import = at<IMAGE_IMPORT_DESCRIPTOR>(module, directory.VirtualAddress);
-    for (; import->Name; ++import) {
-        if (_stricmp(at<const char>(module, import->Name), "winspool.drv") != 0)
-            continue;
-        bool all = true;
-        for (const Replacement& replacement : replacements)
-            all = replace(module, *import, replacement) && all;
-        return all;
-    }
-    return false;
+    return replaceImports(
+        library, "winspool.drv",
+        {
+            {"FindFirstPrinterChangeNotification", reinterpret_cast<ULONG_PTR>(&findFirst)},
+            {"FindNextPrinterChangeNotification", reinterpret_cast<ULONG_PTR>(&findNext)},
+            {"FindClosePrinterChangeNotification", reinterpret_cast<ULONG_PTR>(&findClose)},
+        });
 }

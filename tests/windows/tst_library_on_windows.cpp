@@ -5,6 +5,7 @@
 
 #include "windows_printer_info.h"
 
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
 #include <QtCore/QScopeGuard>
 #include <QtCore/QSettings>
@@ -252,8 +253,10 @@ void LibraryOnWindowsTest::renamedInNothingButItsValues()
 void LibraryOnWindowsTest::printerThatDoesNotExist()
 {
     watch(fixture::uniqueName(QStringLiteral("No Such Printer")));
-    while (!m_thread->wait(10))
+    const QDeadlineTimer limit(20000);
+    while (!m_thread->wait(10) && !limit.hasExpired())
         m_thread->stop();
+    QVERIFY(m_thread->isFinished());
     QVERIFY(m_reports->take().isEmpty());
 }
 

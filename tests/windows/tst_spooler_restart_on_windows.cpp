@@ -23,6 +23,7 @@ private Q_SLOTS:
     void spoolerThatStopsAndComesBack();
     void valueThatChangesWhileTheSpoolerIsDown();
     void stopWhileTheSpoolerIsDown();
+    void printerThatCouldNotBeOpened();
 };
 
 void SpoolerRestartTest::spoolerThatStopsAndComesBack()
@@ -70,6 +71,23 @@ void SpoolerRestartTest::stopWhileTheSpoolerIsDown()
     while (!m_thread->wait(10))
         m_thread->stop();
     QVERIFY(clock.elapsed() < 4000); // not with the next poll
+}
+
+void SpoolerRestartTest::printerThatCouldNotBeOpened()
+{
+    const QString printer = fixture::uniqueName(QStringLiteral("Label Printer"));
+    watch(printer);
+    // The service is asked for all the same, and once it has restarted the printer is there.
+    QVERIFY(fixture::setSpoolerRunning(false));
+    QVERIFY(waitFor(status(printer, "254"), twoPolls));
+    QVERIFY(fixture::setSpoolerRunning(true));
+    QVERIFY(waitFor(status(printer, "254"), twoPolls)); // running, and not to be opened
+    QVERIFY(fixture::addPrinter({printer, QStringLiteral("Stratamark Alder")}));
+    QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("1")}));
+    QVERIFY(fixture::setSpoolerRunning(false));
+    QVERIFY(waitFor(status(printer, "254"), twoPolls));
+    QVERIFY(fixture::setSpoolerRunning(true));
+    QVERIFY(waitFor(status(printer, "1"), twoPolls));
 }
 
 QTEST_GUILESS_MAIN(SpoolerRestartTest)

@@ -30,6 +30,7 @@ enum class Behaviour
     PageCalls,           ///< pages belong to a document
     PrinterCommands,     ///< SetPrinterW pauses and resumes
     PrinterRecordChecks, ///< AddPrinterW refuses a record without a driver or a port
+    PseudoHandleChecks,  ///< waiting for several objects refuses pseudo handles
     UniquePrinterNames,  ///< AddPrinterW refuses a name that is taken
 };
 

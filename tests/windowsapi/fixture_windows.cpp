@@ -39,7 +39,7 @@ constexpr std::array wineLacks{
     Behaviour::AccessRights,       Behaviour::ChangeNotifications, Behaviour::DatabaseNames,
     Behaviour::DeletedPrinters,    Behaviour::DistinctWaitObjects, Behaviour::JobCounts,
     Behaviour::PageCalls,          Behaviour::PrinterCommands,     Behaviour::PrinterRecordChecks,
-    Behaviour::UniquePrinterNames,
+    Behaviour::PseudoHandleChecks, Behaviour::UniquePrinterNames,
 };
 
 ServiceHandle openSpooler()

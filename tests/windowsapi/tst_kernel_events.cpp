@@ -40,6 +40,10 @@ DWORD waitAll(const std::vector<HANDLE>& handles, DWORD milliseconds = 0)
                                   milliseconds);
 }
 
+// What GetCurrentProcess() and GetCurrentThread() answer.
+const HANDLE currentProcess = INVALID_HANDLE_VALUE;
+const HANDLE currentThread = reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-2));
+
 HANDLE closedHandle()
 {
     const HANDLE handle = CreateEventW(nullptr, TRUE, TRUE, nullptr);
@@ -75,9 +79,10 @@ private Q_SLOTS:
     void timeOut_data();
     void timeOut();
 
-    void invalidHandleValueIsNeverSignalled_data();
-    void invalidHandleValueIsNeverSignalled();
-    void invalidHandleValueLeavesTheOthersAlone();
+    void pseudoHandleIsNeverSignalled_data();
+    void pseudoHandleIsNeverSignalled();
+    void pseudoHandleInAListFails_data();
+    void pseudoHandleInAListFails();
     void invalidHandleValueIsNoEvent();
     void closingInvalidHandleValueHasNoEffect();
 
@@ -294,31 +299,57 @@ void KernelEventsTest::timeOut()
     QVERIFY2(timer.elapsed() >= milliseconds - tick, qPrintable(QString::number(timer.elapsed())));
 }
 
-void KernelEventsTest::invalidHandleValueIsNeverSignalled_data()
+void KernelEventsTest::pseudoHandleIsNeverSignalled_data()
 {
+    QTest::addColumn<HANDLE>("handle");
     QTest::addColumn<int>("milliseconds");
-    QTest::newRow("at once") << 0;
-    QTest::newRow("after a while") << 30;
+    QTest::newRow("process, at once") << currentProcess << 0;
+    QTest::newRow("process, after a while") << currentProcess << 30;
+    QTest::newRow("thread, at once") << currentThread << 0;
+    QTest::newRow("thread, after a while") << currentThread << 30;
 }
 
-void KernelEventsTest::invalidHandleValueIsNeverSignalled()
+// wine/dlls/kernel32/tests/sync.c, test_WaitForSingleObject
+void KernelEventsTest::pseudoHandleIsNeverSignalled()
 {
-    QFETCH(int, milliseconds);
-    const auto limit = static_cast<DWORD>(milliseconds);
-    const EventHandle unset = manualEvent();
-    const EventHandle set = autoEvent(true);
-    QCOMPARE(WaitForSingleObject(INVALID_HANDLE_VALUE, limit), DWORD{WAIT_TIMEOUT});
-    QCOMPARE(waitAny({INVALID_HANDLE_VALUE, unset.get()}, limit), DWORD{WAIT_TIMEOUT});
-    QCOMPARE(waitAll({INVALID_HANDLE_VALUE, set.get()}, limit), DWORD{WAIT_TIMEOUT});
-    QVERIFY(isSignalled(set));
+    QFETCH(const HANDLE, handle);
+    QFETCH(const int, milliseconds);
+    QCOMPARE(WaitForSingleObject(handle, static_cast<DWORD>(milliseconds)), DWORD{WAIT_TIMEOUT});
 }
 
-void KernelEventsTest::invalidHandleValueLeavesTheOthersAlone()
+void KernelEventsTest::pseudoHandleInAListFails_data()
 {
+    QTest::addColumn<HANDLE>("handle");
+    QTest::addColumn<bool>("all");
+    QTest::addColumn<DWORD>("milliseconds");
+    for (const bool all : {false, true}) {
+        const char* const kind = all ? "all" : "any";
+        QTest::addRow("process, %s, at once", kind) << currentProcess << all << DWORD{0};
+        QTest::addRow("process, %s, without a limit", kind)
+            << currentProcess << all << DWORD{INFINITE};
+        QTest::addRow("thread, %s, at once", kind) << currentThread << all << DWORD{0};
+    }
+}
+
+// wine/dlls/kernel32/tests/sync.c, test_WaitForMultipleObjects, which marks it as a fault of Wine's
+void KernelEventsTest::pseudoHandleInAListFails()
+{
+    NEEDS_BEHAVIOUR(Behaviour::PseudoHandleChecks);
+    QFETCH(const HANDLE, handle);
+    QFETCH(const bool, all);
+    QFETCH(const DWORD, milliseconds);
     const EventHandle event = autoEvent(true);
-    QCOMPARE(waitAny({INVALID_HANDLE_VALUE, event.get()}, INFINITE), DWORD{WAIT_OBJECT_0 + 1});
-    QVERIFY(SetEvent(event.get()));
-    QCOMPARE(waitAny({event.get(), INVALID_HANDLE_VALUE}, INFINITE), DWORD{WAIT_OBJECT_0});
+    const std::vector<std::vector<HANDLE>> lists{
+        {handle}, {handle, event.get()}, {event.get(), handle}};
+    for (const std::vector<HANDLE>& list : lists) {
+        QCOMPARE(errorOf([&] {
+                     return WaitForMultipleObjects(static_cast<DWORD>(list.size()), list.data(),
+                                                   all, milliseconds) != WAIT_FAILED;
+                 }),
+                 DWORD{ERROR_INVALID_HANDLE});
+        QVERIFY(isSignalled(event)); // which takes it
+        QVERIFY(SetEvent(event.get()));
+    }
 }
 
 void KernelEventsTest::invalidHandleValueIsNoEvent()
@@ -528,15 +559,16 @@ void KernelEventsTest::threadTakesTheSignalledOne()
 {
     const EventHandle first = autoEvent();
     const EventHandle second = autoEvent();
+    const EventHandle third = autoEvent();
     const EventHandle started = autoEvent();
     DWORD result = WAIT_FAILED;
     {
         const std::jthread waiter([&] {
             SetEvent(started.get());
-            result = waitAny({first.get(), INVALID_HANDLE_VALUE, second.get()}, INFINITE);
+            result = waitAny({first.get(), second.get(), third.get()}, INFINITE);
         });
         WaitForSingleObject(started.get(), INFINITE);
-        SetEvent(second.get());
+        SetEvent(third.get());
     }
     QCOMPARE(result, DWORD{WAIT_OBJECT_0 + 2});
 }
@@ -547,7 +579,7 @@ void KernelEventsTest::waitingUsesNoProcessor()
     const EventHandle event = manualEvent();
     const EventHandle other = autoEvent();
     const auto before = fixture::processorTimeOfThisThread();
-    QCOMPARE(waitAny({event.get(), other.get(), INVALID_HANDLE_VALUE}, 400), DWORD{WAIT_TIMEOUT});
+    QCOMPARE(waitAny({event.get(), other.get()}, 400), DWORD{WAIT_TIMEOUT});
     const auto used = fixture::processorTimeOfThisThread() - before;
     // A wait that asked again and again would have had the processor for most of the 400 ms.
     QVERIFY2(used < 50ms, qPrintable(QString::number(used / 1us) + QStringLiteral(" us")));
