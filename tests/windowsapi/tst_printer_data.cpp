@@ -92,6 +92,7 @@ private Q_SLOTS:
     void cleanup() override;
 
     void openingAnAbsentPrinter();
+    void openingAnEmptyName();
     void openingWithoutAPlaceForTheHandle();
     void openingKnowsNoLetterCase();
     void openingThePrintServer();
@@ -154,6 +155,18 @@ void PrinterDataTest::openingAnAbsentPrinter()
              DWORD{ERROR_INVALID_PRINTER_NAME});
     QCOMPARE(errorOf([&] { return OpenPrinterA(NarrowText(absent), &handle, nullptr); }),
              DWORD{ERROR_INVALID_PRINTER_NAME});
+}
+
+// Only without a name it is the print server.
+// wine/dlls/winspool.drv/tests/info.c, test_OpenPrinter
+void PrinterDataTest::openingAnEmptyName()
+{
+    HANDLE handle = nullptr;
+    QCOMPARE(errorOf([&] { return OpenPrinterW(WideText(QString()), &handle, nullptr); }),
+             DWORD{ERROR_INVALID_PRINTER_NAME});
+    QCOMPARE(errorOf([&] { return OpenPrinterA(NarrowText(QString()), &handle, nullptr); }),
+             DWORD{ERROR_INVALID_PRINTER_NAME});
+    QVERIFY(!handle);
 }
 
 void PrinterDataTest::openingWithoutAPlaceForTheHandle()
