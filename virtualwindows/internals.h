@@ -188,7 +188,7 @@ struct DeviceClass
 {
     QString guid;
     QList<DeviceSetup> devices;
-    /// Places in the list by case-folded key name, the first where names are alike.
+    /// Places in the list by case-folded key name.
     QHash<QString, qsizetype> places;
 };
 

@@ -307,7 +307,7 @@ struct RecordLevel
 {
     DWORD level;
     bool isListed; ///< EnumPrintersW knows it
-    BOOL (*fill)
+    BOOL(*fill)
     (std::span<const Printer* const> printers, LPBYTE start, DWORD size, LPDWORD needed);
 };
 /// Levels 3, 8 and 9 are for what this machine has not: security descriptors and device modes.
