@@ -25,6 +25,7 @@ enum class Behaviour
     ChangeNotifications, ///< changes of printers can be waited for
     DeletedPrinters,     ///< handles of a deleted printer know that it is deleted
     DistinctWaitObjects, ///< waiting for all of a list refuses an object that is in it twice
+    EmptyPrinterNames,   ///< an empty name is refused as a name, not as a parameter
     JobCounts,           ///< a printer's record counts its jobs
     LevelsFirst,         ///< EnumPrintersW writes nothing when it does not know the level
     MissingWaitLists,    ///< waiting without a list is refused

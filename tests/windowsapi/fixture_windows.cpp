@@ -37,9 +37,10 @@ bool isWine()
 /// Every behaviour that Wine's spooler, kernel and service manager are without.
 constexpr std::array wineLacks{
     Behaviour::AccessRights,        Behaviour::ChangeNotifications, Behaviour::DeletedPrinters,
-    Behaviour::DistinctWaitObjects, Behaviour::JobCounts,           Behaviour::LevelsFirst,
-    Behaviour::MissingWaitLists,    Behaviour::PageCalls,           Behaviour::PrintProviders,
-    Behaviour::PrinterCommands,     Behaviour::PrinterRecordChecks, Behaviour::UniquePrinterNames,
+    Behaviour::DistinctWaitObjects, Behaviour::EmptyPrinterNames,   Behaviour::JobCounts,
+    Behaviour::LevelsFirst,         Behaviour::MissingWaitLists,    Behaviour::PageCalls,
+    Behaviour::PrintProviders,      Behaviour::PrinterCommands,     Behaviour::PrinterRecordChecks,
+    Behaviour::UniquePrinterNames,
 };
 
 ServiceHandle openSpooler()

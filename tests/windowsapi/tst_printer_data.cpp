@@ -162,11 +162,15 @@ void PrinterDataTest::openingAnAbsentPrinter()
 void PrinterDataTest::openingAnEmptyName()
 {
     HANDLE handle = nullptr;
-    QCOMPARE(errorOf([&] { return OpenPrinterW(WideText(QString()), &handle, nullptr); }),
-             DWORD{ERROR_INVALID_PRINTER_NAME});
-    QCOMPARE(errorOf([&] { return OpenPrinterA(NarrowText(QString()), &handle, nullptr); }),
-             DWORD{ERROR_INVALID_PRINTER_NAME});
+    const DWORD errorOfWide =
+        errorOf([&] { return OpenPrinterW(WideText(QString()), &handle, nullptr); });
+    const DWORD errorOfNarrow =
+        errorOf([&] { return OpenPrinterA(NarrowText(QString()), &handle, nullptr); });
+    QVERIFY(errorOfWide != ERROR_SUCCESS && errorOfNarrow != ERROR_SUCCESS);
     QVERIFY(!handle);
+    NEEDS_BEHAVIOUR(Behaviour::EmptyPrinterNames);
+    QCOMPARE(errorOfWide, DWORD{ERROR_INVALID_PRINTER_NAME});
+    QCOMPARE(errorOfNarrow, DWORD{ERROR_INVALID_PRINTER_NAME});
 }
 
 void PrinterDataTest::openingWithoutAPlaceForTheHandle()
