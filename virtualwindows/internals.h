@@ -118,7 +118,7 @@ struct ChangeNotification final : Waitable
     std::shared_ptr<Printer> printer; ///< null: of the whole spooler
     DWORD filter = 0;
     DWORD changes = 0;
-    bool dead = false; ///< the spooler it was registered with is gone
+    bool dead = false; ///< the printer handle or the spooler it was registered with is gone
 };
 
 struct Value
@@ -154,6 +154,7 @@ struct PrinterHandleObject final : Object
     bool dead = false;
     quint32 openJob = 0; ///< number of the job being written; 0: none
     bool pageOpen = false;
+    std::vector<std::weak_ptr<ChangeNotification>> notifications; ///< registered on this handle
 };
 
 struct ServiceObject final : Object
@@ -187,7 +188,7 @@ struct DeviceClass
 {
     QString guid;
     QList<DeviceSetup> devices;
-    /// Places in the list by case-folded key name, the first where names are alike.
+    /// Places in the list by case-folded key name.
     QHash<QString, qsizetype> places;
 };
 

@@ -18,6 +18,12 @@ bool isPseudoHandle(HANDLE handle)
     return number == -1 || number == -2;
 }
 
+bool hasDuplicates(std::vector<std::shared_ptr<Waitable>> objects)
+{
+    std::sort(objects.begin(), objects.end());
+    return std::adjacent_find(objects.begin(), objects.end()) != objects.end();
+}
+
 } // namespace
 
 // What waits and who wakes them.
@@ -103,6 +109,8 @@ DWORD Machine::Private::wait(const HANDLE* handles, DWORD count, bool all, DWORD
             return WAIT_FAILED;
         waiter.objects.push_back(std::move(object));
     }
+    if (all && hasDuplicates(waiter.objects))
+        return failWith(ERROR_INVALID_PARAMETER, WAIT_FAILED);
 
     if (trySatisfy(waiter))
         return waiter.result;
@@ -266,14 +274,10 @@ DWORD WINAPI WaitForMultipleObjects(DWORD nCount, const HANDLE* lpHandles, BOOL 
     });
     if (planned)
         return failWith(planned, WAIT_FAILED);
-    if (nCount == 0 || nCount > MAXIMUM_WAIT_OBJECTS || !lpHandles)
+    if (nCount == 0 || nCount > MAXIMUM_WAIT_OBJECTS)
         return failWith(ERROR_INVALID_PARAMETER, WAIT_FAILED);
-    if (bWaitAll) {
-        std::vector<HANDLE> sorted(lpHandles, lpHandles + nCount);
-        std::sort(sorted.begin(), sorted.end());
-        if (std::adjacent_find(sorted.begin(), sorted.end()) != sorted.end())
-            return failWith(ERROR_INVALID_PARAMETER, WAIT_FAILED);
-    }
+    if (!lpHandles)
+        return failWith(ERROR_NOACCESS, WAIT_FAILED);
     return machine().wait(lpHandles, nCount, bWaitAll != FALSE, dwMilliseconds,
                           Function::WaitForMultipleObjects);
 }

@@ -98,7 +98,10 @@ void Machine::Private::enterNames()
 
 void Machine::Private::notify(const Printer* printer, DWORD change)
 {
-    std::erase_if(notifications, [](const auto& notification) { return notification.expired(); });
+    std::erase_if(notifications, [](const auto& entry) {
+        const std::shared_ptr<ChangeNotification> notification = entry.lock();
+        return !notification || notification->dead;
+    });
     for (const auto& entry : notifications) {
         const std::shared_ptr<ChangeNotification> notification = entry.lock();
         const bool isAsked = !notification->printer || notification->printer.get() == printer;

@@ -61,8 +61,10 @@ void Machine::addDevice(const DeviceSetup& device)
         d->deviceClasses.begin(), d->deviceClasses.end(),
         [&](const DeviceClass& entry) { return isSame(entry.guid, device.classGuid); });
     const QString key = device.interfaceKey.toCaseFolded();
-    if (!found->places.contains(key))
-        found->places.insert(key, found->devices.size());
+    // A key is in the registry once.
+    if (found->places.contains(key))
+        return;
+    found->places.insert(key, found->devices.size());
     found->devices.append(device);
 }
 

@@ -8,6 +8,7 @@ namespace {
 
 constexpr char16_t spoolerService[] = u"Spooler";
 constexpr char16_t activeDatabase[] = u"ServicesActive";
+constexpr char16_t failedDatabase[] = u"ServicesFailed";
 
 SC_HANDLE asServiceHandle(HANDLE handle)
 {
@@ -31,8 +32,12 @@ SC_HANDLE WINAPI OpenSCManagerW(LPCWSTR lpMachineName, LPCWSTR lpDatabaseName,
         return failWith<SC_HANDLE>(planned, nullptr);
     if (lpMachineName && *lpMachineName)
         return failWith<SC_HANDLE>(RPC_S_SERVER_UNAVAILABLE, nullptr);
-    if (lpDatabaseName && !isNamed(lpDatabaseName, activeDatabase))
-        return failWith<SC_HANDLE>(ERROR_DATABASE_DOES_NOT_EXIST, nullptr);
+    if (lpDatabaseName && !isNamed(lpDatabaseName, activeDatabase)) {
+        // The one other name that there is has no database behind it.
+        const bool isKnown = isNamed(lpDatabaseName, failedDatabase);
+        return failWith<SC_HANDLE>(isKnown ? ERROR_DATABASE_DOES_NOT_EXIST : ERROR_INVALID_NAME,
+                                   nullptr);
+    }
 
     const auto manager =
         std::make_shared<ServiceObject>(Object::Kind::ServiceManager, Function::OpenSCManagerW);
@@ -55,7 +60,7 @@ SC_HANDLE WINAPI OpenServiceW(SC_HANDLE hSCManager, LPCWSTR lpServiceName, DWORD
     if (!manager)
         return nullptr;
     if (!lpServiceName)
-        return failWith<SC_HANDLE>(ERROR_INVALID_NAME, nullptr);
+        return failWith<SC_HANDLE>(ERROR_INVALID_ADDRESS, nullptr);
     if (!isNamed(lpServiceName, spoolerService))
         return failWith<SC_HANDLE>(ERROR_SERVICE_DOES_NOT_EXIST, nullptr);
 
@@ -77,6 +82,8 @@ BOOL WINAPI QueryServiceStatus(SC_HANDLE hService, LPSERVICE_STATUS lpServiceSta
                                                        Function::QueryServiceStatus);
     if (!service)
         return FALSE;
+    if (!lpServiceStatus)
+        return failWith(ERROR_INVALID_ADDRESS, FALSE);
     if (!(service->access & SERVICE_QUERY_STATUS))
         return failWith(ERROR_ACCESS_DENIED, FALSE);
 

@@ -5,6 +5,7 @@
 #include "spooler_handles.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <span>
 #include <vector>
@@ -93,7 +94,8 @@ BOOL openPrinter(Function function, bool hasName, const QString& name, LPHANDLE 
     const std::lock_guard guard(machine().lock);
     if (!machine().isSpoolerRunning())
         return failWith(RPC_S_SERVER_UNAVAILABLE, FALSE);
-    if (hasName && !name.isEmpty()) {
+    // Without a name it is the print server; an empty name is nobody's.
+    if (hasName) {
         object->printer = machine().printerNamed(name);
         if (!object->printer)
             return failWith(ERROR_INVALID_PRINTER_NAME, FALSE);
@@ -196,6 +198,31 @@ private:
     std::size_t m_used;
 };
 
+/// Jobs that are still in the queue.
+DWORD waitingJobs(const Printer& printer)
+{
+    return static_cast<DWORD>(std::count_if(printer.jobs.begin(), printer.jobs.end(),
+                                            [](const PrintJob& job) { return !job.finished; }));
+}
+
+/// What listings of level 1 by name begin with; this machine has the one for its own printers.
+struct PrintProvider
+{
+    QString name = QStringLiteral("Windows NT Local Print Providor"); // Windows spells it so
+    QString description = QStringLiteral("Windows NT Local Printers");
+    QString comment = QStringLiteral("Locally connected Printers");
+};
+
+PRINTER_INFO_1W describe(const PrintProvider& provider, RecordBlock& block, PRINTER_INFO_1W*)
+{
+    PRINTER_INFO_1W record{};
+    record.Flags = PRINTER_ENUM_CONTAINER | PRINTER_ENUM_ICON1;
+    record.pDescription = block.add(provider.description);
+    record.pName = block.add(provider.name);
+    record.pComment = block.add(provider.comment);
+    return record;
+}
+
 PRINTER_INFO_1W describe(const Printer& printer, RecordBlock& block, PRINTER_INFO_1W*)
 {
     PRINTER_INFO_1W record{};
@@ -223,32 +250,83 @@ PRINTER_INFO_2W describe(const Printer& printer, RecordBlock& block, PRINTER_INF
     record.Attributes = printer.setup.attributes;
     record.Priority = 1;
     record.Status = printer.setup.status;
-    record.cJobs =
-        static_cast<DWORD>(std::count_if(printer.jobs.begin(), printer.jobs.end(),
-                                         [](const PrintJob& job) { return !job.finished; }));
+    record.cJobs = waitingJobs(printer);
     return record;
 }
 
-/// Sizes or fills a block with one record for each printer.
-template <typename Record>
-BOOL fill(std::span<const Printer* const> printers, LPBYTE start, DWORD size, LPDWORD needed)
+PRINTER_INFO_4W describe(const Printer& printer, RecordBlock& block, PRINTER_INFO_4W*)
 {
-    const std::size_t sizeOfRecords = printers.size() * sizeof(Record);
+    PRINTER_INFO_4W record{};
+    record.pPrinterName = block.addIfAny(printer.setup.name);
+    record.Attributes = printer.setup.attributes;
+    return record;
+}
+
+PRINTER_INFO_5W describe(const Printer& printer, RecordBlock& block, PRINTER_INFO_5W*)
+{
+    PRINTER_INFO_5W record{};
+    record.pPrinterName = block.addIfAny(printer.setup.name);
+    record.pPortName = block.addIfAny(printer.setup.port);
+    record.Attributes = printer.setup.attributes;
+    return record;
+}
+
+PRINTER_INFO_6 describe(const Printer& printer, RecordBlock& /*block*/, PRINTER_INFO_6*)
+{
+    return {printer.setup.status};
+}
+
+PRINTER_INFO_7W describe(const Printer& /*printer*/, RecordBlock& /*block*/, PRINTER_INFO_7W*)
+{
+    return {nullptr, DSPRINT_UNPUBLISH};
+}
+
+/// Sizes or fills a block with one record for each source, a printer or a print provider.
+template <typename Record, typename Source>
+BOOL fill(std::span<const Source* const> sources, LPBYTE start, DWORD size, LPDWORD needed)
+{
+    const std::size_t sizeOfRecords = sources.size() * sizeof(Record);
     RecordBlock sizing(nullptr, sizeOfRecords);
-    for (const Printer* printer : printers)
-        describe(*printer, sizing, static_cast<Record*>(nullptr));
+    for (const Source* source : sources)
+        describe(*source, sizing, static_cast<Record*>(nullptr));
     *needed = sizing.used();
     if (size < *needed)
         return failWith(ERROR_INSUFFICIENT_BUFFER, FALSE);
 
     RecordBlock block(start, sizeOfRecords);
     LPBYTE place = start;
-    for (const Printer* printer : printers) {
-        const Record record = describe(*printer, block, static_cast<Record*>(nullptr));
+    for (const Source* source : sources) {
+        const Record record = describe(*source, block, static_cast<Record*>(nullptr));
         std::memcpy(place, &record, sizeof record);
         place += sizeof record;
     }
     return TRUE;
+}
+
+struct RecordLevel
+{
+    DWORD level;
+    bool isListed; ///< EnumPrintersW knows it
+    BOOL(*fill)
+    (std::span<const Printer* const> printers, LPBYTE start, DWORD size, LPDWORD needed);
+};
+/// Levels 3, 8 and 9 are for what this machine has not: security descriptors and device modes.
+constexpr std::array recordLevels{
+    RecordLevel{1, true, &fill<PRINTER_INFO_1W, Printer>},
+    RecordLevel{2, true, &fill<PRINTER_INFO_2W, Printer>},
+    RecordLevel{4, true, &fill<PRINTER_INFO_4W, Printer>},
+    RecordLevel{5, true, &fill<PRINTER_INFO_5W, Printer>},
+    RecordLevel{6, false, &fill<PRINTER_INFO_6, Printer>},
+    RecordLevel{7, false, &fill<PRINTER_INFO_7W, Printer>},
+};
+
+/// Null for a level that is not known.
+const RecordLevel* findLevel(DWORD level)
+{
+    const auto* const found =
+        std::find_if(recordLevels.begin(), recordLevels.end(),
+                     [&](const RecordLevel& entry) { return entry.level == level; });
+    return found == recordLevels.end() ? nullptr : found;
 }
 
 /// Printers of other machines that this one is connected to.
@@ -350,6 +428,10 @@ BOOL WINAPI ClosePrinter(HANDLE hPrinter)
         machine().close(hPrinter, Object::Kind::Printer, Function::ClosePrinter));
     if (!object)
         return FALSE;
+    for (const auto& entry : object->notifications) {
+        if (const std::shared_ptr<ChangeNotification> notification = entry.lock())
+            notification->dead = true;
+    }
     if (planned)
         return failWith(planned, FALSE);
     if (object->dead)
@@ -426,11 +508,11 @@ BOOL WINAPI GetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD cbB
         return failWith(RPC_X_NULL_REF_POINTER, FALSE);
     if (cbBuf && !pPrinter)
         return failWith(ERROR_INVALID_USER_BUFFER, FALSE);
-    if (Level != 1 && Level != 2)
+    const RecordLevel* const level = findLevel(Level);
+    if (!level)
         return failWith(ERROR_INVALID_LEVEL, FALSE);
     const Printer* const printer = object->printer.get();
-    return Level == 1 ? fill<PRINTER_INFO_1W>({&printer, 1}, pPrinter, cbBuf, pcbNeeded)
-                      : fill<PRINTER_INFO_2W>({&printer, 1}, pPrinter, cbBuf, pcbNeeded);
+    return level->fill({&printer, 1}, pPrinter, cbBuf, pcbNeeded);
 }
 
 BOOL WINAPI SetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD Command)
@@ -466,6 +548,11 @@ BOOL WINAPI EnumPrintersW(DWORD Flags, LPWSTR Name, DWORD Level, LPBYTE pPrinter
     if (planned)
         return failWith(planned, FALSE);
 
+    // The level is looked at before the spooler is asked, and before anything is written.
+    const RecordLevel* const level = findLevel(Level);
+    if (!level || !level->isListed)
+        return failWith(ERROR_INVALID_LEVEL, FALSE);
+
     const std::lock_guard guard(machine().lock);
     if (!machine().isSpoolerRunning())
         return failWith(RPC_S_SERVER_UNAVAILABLE, FALSE);
@@ -475,10 +562,19 @@ BOOL WINAPI EnumPrintersW(DWORD Flags, LPWSTR Name, DWORD Level, LPBYTE pPrinter
     *pcReturned = 0;
     if (cbBuf && !pPrinterEnum)
         return failWith(ERROR_INVALID_USER_BUFFER, FALSE);
-    if (Level != 2)
-        return failWith(ERROR_INVALID_LEVEL, FALSE);
-    if ((Flags & PRINTER_ENUM_NAME) && Name && *Name)
-        return failWith(ERROR_INVALID_NAME, FALSE); // this machine knows no other
+    if (Flags & PRINTER_ENUM_NAME) {
+        const PrintProvider provider;
+        const QString name = fromWide(Name);
+        if (!name.isEmpty() && name.compare(provider.name, Qt::CaseInsensitive) != 0)
+            return failWith(ERROR_INVALID_NAME, FALSE); // this machine knows no other
+        if (name.isEmpty() && Level == 1) {
+            const PrintProvider* const only = &provider;
+            if (!fill<PRINTER_INFO_1W, PrintProvider>({&only, 1}, pPrinterEnum, cbBuf, pcbNeeded))
+                return FALSE;
+            *pcReturned = 1;
+            return TRUE;
+        }
+    }
 
     std::vector<const Printer*> listed;
     listed.reserve(static_cast<std::size_t>(machine().printers.size()));
@@ -486,7 +582,7 @@ BOOL WINAPI EnumPrintersW(DWORD Flags, LPWSTR Name, DWORD Level, LPBYTE pPrinter
         if (isEnumerated(*printer, Flags))
             listed.push_back(printer.get());
     }
-    if (!fill<PRINTER_INFO_2W>(listed, pPrinterEnum, cbBuf, pcbNeeded))
+    if (!level->fill(listed, pPrinterEnum, cbBuf, pcbNeeded))
         return FALSE;
     *pcReturned = static_cast<DWORD>(listed.size());
     return TRUE;
@@ -500,11 +596,10 @@ BOOL WINAPI GetDefaultPrinterW(LPWSTR pszBuffer, LPDWORD pcchBuffer)
     if (planned)
         return failWith(planned, FALSE);
 
-    const std::lock_guard guard(machine().lock);
-    if (!machine().isSpoolerRunning())
-        return failWith(RPC_S_SERVER_UNAVAILABLE, FALSE);
+    // The choice is kept with the user's settings; the spooler is not asked for it.
     if (!pcchBuffer)
         return failWith(ERROR_INVALID_PARAMETER, FALSE);
+    const std::lock_guard guard(machine().lock);
     const QString& name = machine().defaultPrinter;
     if (name.isNull())
         return failWith(ERROR_FILE_NOT_FOUND, FALSE);
@@ -600,7 +695,10 @@ BOOL WINAPI DeletePrinter(HANDLE hPrinter)
         handleOfPrinter(hPrinter, Function::DeletePrinter, PRINTER_ACCESS_ADMINISTER);
     if (!object)
         return FALSE;
-    machine().removePrinter(*object->printer);
+    Printer& printer = *object->printer;
+    if ((printer.setup.status & PRINTER_STATUS_PAUSED) && waitingJobs(printer) > 0)
+        return failWith(ERROR_ACCESS_DENIED, FALSE);
+    machine().removePrinter(printer);
     return TRUE;
 }
 
@@ -626,6 +724,8 @@ HANDLE WINAPI FindFirstPrinterChangeNotification(HANDLE hPrinter, DWORD fdwFilte
     notification->printer = object->printer;
     notification->filter = fdwFilter;
     machine().notifications.push_back(notification);
+    std::erase_if(object->notifications, [](const auto& entry) { return entry.expired(); });
+    object->notifications.push_back(notification);
     return machine().open(notification);
 }
 

@@ -13,8 +13,9 @@ QStringList childKeys(const QString& path)
     return virtualwindows::registry::childGroups(path);
 }
 
-DeviceParameters deviceParameters(const QString& path)
+DeviceParameters deviceParameters(const QString& devicePath)
 {
+    const QString path = devicePath + parametersSuffix;
     return {virtualwindows::registry::value(path, portNumberValue),
             virtualwindows::registry::value(path, serialNumberValue)};
 }

@@ -39,8 +39,7 @@ DeviceSerialNumbers::DeviceSerialNumbers()
     const QString classKey = deviceClassesKey + guid;
     const QStringList devices = childKeys(classKey);
     for (const QString& device : devices) {
-        const DeviceParameters parameters =
-            deviceParameters(classKey + QLatin1Char('\\') + device + parametersSuffix);
+        const DeviceParameters parameters = deviceParameters(classKey + QLatin1Char('\\') + device);
         m_last = parameters.serialNumber.toString();
         const auto port = static_cast<quint16>(parameters.portNumber.toUInt());
         if (!m_byPort.contains(port))

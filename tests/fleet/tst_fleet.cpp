@@ -44,13 +44,22 @@ private Q_SLOTS:
     void smallestFleet();
     void everythingAboutAPrinter();
     void valuesOfEachKind();
+    void bytesOfAnyLength_data();
+    void bytesOfAnyLength();
     void devicesReachTheRegistry();
     void eventsHappen_data();
     void eventsHappen();
     void printersComeAndGoInAStory();
     void brokenFile_data();
     void brokenFile();
+    void limitsOfAFile_data();
+    void limitsOfAFile();
+    void messageIsOneShortLine_data();
+    void messageIsOneShortLine();
+    void manyPrintersAreNamedByTheFirst();
     void fileThatCannotBeRead();
+    void fileNameStaysInItsLine();
+    void fileWithoutAnEnd();
     void fileIsReadFromDisk();
     void playerTellsInOrderAndInTime();
     void audienceMissesNothing();
@@ -155,6 +164,23 @@ void FleetTest::valuesOfEachKind()
     QCOMPARE(values.at(2).type, quint32(REG_BINARY));
     QCOMPARE(values.at(2).data, QByteArray("\x00\xff\x10", 3));
     QCOMPARE(values.at(3).data, QByteArray("\0", 1));
+}
+
+void FleetTest::bytesOfAnyLength_data()
+{
+    QTest::addColumn<int>("count");
+    for (const int count : {0, 1, 21844, 21845, 70000, 1 << 20})
+        QTest::addRow("%d", count) << count;
+}
+
+void FleetTest::bytesOfAnyLength()
+{
+    QFETCH(const int, count);
+    const QByteArray digits = QByteArray("a7").repeated(count);
+    const Fleet fleet = fleetOf(R"({"printers": [{"name": "P", "driver": "D", "values":
+        {"A": {"binary": ")" + digits +
+                                R"("}}}]})");
+    QCOMPARE(fleet.printers.first().values.first().data, QByteArray(count, '\xa7'));
 }
 
 void FleetTest::devicesReachTheRegistry()
@@ -296,6 +322,10 @@ void FleetTest::brokenFile_data()
     row("device with a path",
         "{\"printers\": [], \"devices\": [{\"class\": \"{c}\",\n\"key\": \"a\\\\b\"}]}",
         "fleet.json:2: devices[0].key: expected a key's name, which has no backslash");
+    row("device twice",
+        "{\"printers\": [], \"devices\": [{\"class\": \"{c}\", \"key\": \"a\"}, {\"class\": "
+        "\"{d}\", \"key\": \"a\"},\n{\"class\": \"{C}\", \"key\": \"A\"}]}",
+        "fleet.json:2: devices[2].key: there is a device \"A\" already");
     row("event without a time", "{\"printers\": [], \"timeline\": [\n{}]}",
         "fleet.json:2: timeline[0]: expected the key \"at\"");
     row("negative time", "{\"printers\": [], \"timeline\": [{\"at\": -1}]}",
@@ -332,6 +362,117 @@ void FleetTest::brokenFile()
     QCOMPARE(errorOf(text), message);
 }
 
+void FleetTest::limitsOfAFile_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("message");
+    const QString notKnown = QStringLiteral(
+        "fleet.json:1: a: is not known here; expected one of printers, defaultPrinter, devices, "
+        "timeline");
+    const auto nested = [](int depth) {
+        return "{\"a\":\n" + QByteArray(depth - 1, '[') + QByteArray(depth - 1, ']') + "}";
+    };
+    const auto wide = [](int values) {
+        return "{\"a\":[\n" + QByteArray("0,").repeated(values - 3) + "0]}";
+    };
+    const QString isNestedDeeper =
+        QStringLiteral("fleet.json:2: expected at most 32 lists and objects within each other");
+    QTest::newRow("as deep as can be")
+        << nested(32) << QString(notKnown).replace(QLatin1String(":1:"), QLatin1String(":2:"));
+    QTest::newRow("one deeper") << nested(33) << isNestedDeeper;
+    QTest::newRow("deeper than the reader goes") << nested(1001) << isNestedDeeper;
+    QTest::newRow("much deeper") << nested(1'000'000) << isNestedDeeper;
+    QTest::newRow("brackets in a text")
+        << "{\"a\": \"\\\"" + QByteArray(100, '[') + "\"}" << notKnown;
+    QTest::newRow("as many values as can be") << wide(1'000'000) << notKnown;
+    QTest::newRow("one more") << wide(1'000'001)
+                              << QStringLiteral("fleet.json:2: expected at most 1000000 values");
+}
+
+void FleetTest::limitsOfAFile()
+{
+    brokenFile();
+}
+
+void FleetTest::messageIsOneShortLine_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("message"); // its beginning
+
+    const QByteArray hostile = R"(a\n\r\t\u0000\u001b]\u0085\u2028\u202e\udb40\udc01)";
+    const QString shown =
+        QStringLiteral(R"(a\u000a\u000d\u0009\u0000\u001b]\u0085\u2028\u202e\udb40\udc01)");
+    const QByteArray longOne(100'000, 'x');
+    const QString shortOne = QString(80, QLatin1Char('x')) + QStringLiteral("…");
+    const auto row = [](const char* title, const QByteArray& text, const QString& message) {
+        QTest::newRow(title) << text << QStringLiteral("fleet.json:1: ") + message;
+    };
+    const auto rows = [&](const char* title, const auto& text, const auto& message) {
+        row(qPrintable(QString::fromLatin1(title) + QStringLiteral(", hostile")), text(hostile),
+            message(shown));
+        row(qPrintable(QString::fromLatin1(title) + QStringLiteral(", long")), text(longOne),
+            message(shortOne));
+    };
+    rows(
+        "value", [](const QByteArray& value) { return "{\"printers\": \"" + value + "\"}"; },
+        [](const QString& value) {
+            return QStringLiteral("printers: expected a list, found \"%1\"").arg(value);
+        });
+    rows(
+        "key", [](const QByteArray& key) { return "{\"" + key + "\": 1}"; },
+        [](const QString& key) {
+            return key + QStringLiteral(": is not known here; expected one of ");
+        });
+    rows(
+        "value's name",
+        [](const QByteArray& name) {
+            return R"({"printers": [{"name": "P", "driver": "D", "values": {")" + name +
+                   "\": null}}]}";
+        },
+        [](const QString& name) {
+            return QStringLiteral("printers[0].values.%1: expected a text, ").arg(name);
+        });
+    rows(
+        "printer",
+        [](const QByteArray& name) {
+            return R"({"printers": [{"name": ")" + name +
+                   R"(", "driver": "D"}], "defaultPrinter": "P"})";
+        },
+        [](const QString& name) {
+            return QStringLiteral("defaultPrinter: there is no printer \"P\"; expected one of %1")
+                .arg(name);
+        });
+    row("key twice",
+        R"({"a": 1, ")" + hostile + R"(": 1, ")" + hostile + R"(": 1, "b": )" + longOne,
+        QStringLiteral("not JSON: "));
+    row("number", R"({"printers": )" + QByteArray(100'000, '9') + "}",
+        QStringLiteral("not JSON: '99999"));
+}
+
+void FleetTest::messageIsOneShortLine()
+{
+    QFETCH(const QByteArray, text);
+    QFETCH(const QString, message);
+    const QString error = errorOf(text);
+    QVERIFY2(error.startsWith(message), qPrintable(error.left(1000)));
+    constexpr qsizetype few = 500;
+    QVERIFY2(error.size() < few, qPrintable(QString::number(error.size())));
+    for (const QChar character : error)
+        QVERIFY2(character.isPrint(), qPrintable(error));
+}
+
+void FleetTest::manyPrintersAreNamedByTheFirst()
+{
+    QByteArray printers;
+    for (int number = 1; number <= 20'000; ++number)
+        printers += R"({"name": "P)" + QByteArray::number(number) + R"(", "driver": "D"},)";
+    printers.chop(1);
+    QCOMPARE(errorOf(R"({"printers": [)" + printers + R"(], "defaultPrinter": "Q"})"),
+             QStringLiteral("fleet.json:1: defaultPrinter: there is no printer \"Q\"; expected one "
+                            "of P1, P2, P3, P4, P5, P6, P7, P8, P9, P10, P11, P12, P13, P14, P15, "
+                            "P16 and 19984 more"));
+}
+
 void FleetTest::fileThatCannotBeRead()
 {
     const auto missing = readFleet(settingsFolder() + QStringLiteral("/none.json"));
@@ -341,6 +482,40 @@ void FleetTest::fileThatCannotBeRead()
     const auto folder = readFleet(settingsFolder());
     QCOMPARE(std::get<FleetError>(folder).message,
              settingsFolder() + QStringLiteral(": expected a file, found a folder"));
+}
+
+void FleetTest::fileNameStaysInItsLine()
+{
+    const QString name = settingsFolder() + QStringLiteral("/a\nb\x1b.json");
+    const QString shown = settingsFolder() + QStringLiteral("/a\\u000ab\\u001b.json");
+    QCOMPARE(std::get<FleetError>(readFleet(name)).message,
+             shown + QStringLiteral(": No such file or directory"));
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[]");
+    file.close();
+    QCOMPARE(std::get<FleetError>(readFleet(name)).message,
+             shown + QStringLiteral(":1: expected an object, found a list"));
+}
+
+void FleetTest::fileWithoutAnEnd()
+{
+    const auto endless = readFleet(QStringLiteral("/dev/zero"));
+    QVERIFY(std::holds_alternative<FleetError>(endless));
+    QCOMPARE(std::get<FleetError>(endless).message,
+             QStringLiteral("/dev/zero: expected at most 16 MiB"));
+
+    // Exactly as much is read, and found to be no fleet.
+    const QString name = settingsFolder() + QStringLiteral("/large.json");
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.resize(16 * 1024 * 1024));
+    const auto largest = readFleet(name);
+    QVERIFY(std::get<FleetError>(largest).message.contains(QLatin1String(":1: not JSON: ")));
+    QVERIFY(file.resize(file.size() + 1));
+    const auto larger = readFleet(name);
+    QCOMPARE(std::get<FleetError>(larger).message,
+             name + QStringLiteral(": expected at most 16 MiB"));
 }
 
 void FleetTest::fileIsReadFromDisk()

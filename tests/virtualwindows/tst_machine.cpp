@@ -252,8 +252,7 @@ const std::vector<NamedCaller>& callers()
          [](const Handles&) {
              number = 300;
              return attempt(GetDefaultPrinterW(reinterpret_cast<LPWSTR>(block.data()), &number));
-         },
-         true},
+         }},
         {"AddPrinterW",
          [](const Handles&) {
              WCHAR name[] = u"New Printer";
@@ -323,13 +322,13 @@ const std::vector<NamedCaller>& closers()
          [](const Handles& handles) {
              return attempt(CloseHandle(handles.event));
          }},
-        {"ClosePrinter",
-         [](const Handles& handles) { return attempt(ClosePrinter(handles.printer)); }, true},
         {"FindClosePrinterChangeNotification",
          [](const Handles& handles) {
              return attempt(FindClosePrinterChangeNotification(handles.notification));
          },
          true},
+        {"ClosePrinter",
+         [](const Handles& handles) { return attempt(ClosePrinter(handles.printer)); }, true},
         {"CloseServiceHandle",
          [](const Handles& handles) {
              return attempt(CloseServiceHandle(handles.service));

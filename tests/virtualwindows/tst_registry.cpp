@@ -39,6 +39,7 @@ private Q_SLOTS:
     void classesAndDevicesInTheirOrder();
     void classWithoutDevices();
     void classIsAddedOnce();
+    void deviceIsAddedOnce();
     void keysOfADevice();
     void interfaceKeys_data();
     void interfaceKeys();
@@ -96,6 +97,20 @@ void RegistryTest::classIsAddedOnce()
     addDevice(QStringLiteral("##?#USB#VID_1"));
     QCOMPARE(registry::childGroups(root), QStringList{printerClass});
     QCOMPARE(registry::childGroups(path({printerClass})).size(), 1);
+}
+
+void RegistryTest::deviceIsAddedOnce()
+{
+    addDevice(QStringLiteral("##?#USB#VID_1"), 1, QStringLiteral("first"));
+    addDevice(QStringLiteral("##?#USB#VID_2"), 2, QStringLiteral("other"));
+    addDevice(QStringLiteral("##?#usb#vid_1"), 3, QStringLiteral("second"));
+    QCOMPARE(registry::childGroups(path({printerClass})),
+             (QStringList{QStringLiteral("##?#USB#VID_1"), QStringLiteral("##?#USB#VID_2")}));
+    const QString parameters = path({printerClass, QStringLiteral("##?#USB#VID_1"),
+                                     QStringLiteral("#"), QStringLiteral("Device Parameters")});
+    QCOMPARE(registry::value(parameters, QStringLiteral("Port Number")).toInt(), 1);
+    QCOMPARE(registry::value(parameters, QStringLiteral("Serial Number")).toString(),
+             QStringLiteral("first"));
 }
 
 void RegistryTest::keysOfADevice()

@@ -7,8 +7,10 @@
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
+#include <QtCore/QProcess>
 #include <QtCore/QScopeGuard>
 #include <QtCore/QSettings>
+#include <QtCore/QTemporaryDir>
 
 using VXPrinting::PrinterType;
 
@@ -16,6 +18,63 @@ namespace {
 
 const QString deviceClasses =
     QStringLiteral("HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control\\DeviceClasses");
+
+/// A class of devices in the registry that goes with this object. The keys are made by the
+/// registry's own calls, which take names as they are.
+class RegistryClass
+{
+public:
+    explicit RegistryClass(const QString& guid)
+        : m_path(deviceClasses.mid(deviceClasses.indexOf(QLatin1Char('\\')) + 1) +
+                 QLatin1Char('\\') + guid)
+    {}
+    ~RegistryClass() { RegDeleteTreeW(HKEY_LOCAL_MACHINE, WideText(m_path)); }
+    Q_DISABLE_COPY_MOVE(RegistryClass)
+
+    bool makeKey(const QString& below) { return open(below) != nullptr; }
+    bool makeParameters(const QString& device, DWORD port, const QString& serialNumber)
+    {
+        const Key key = open(device + QStringLiteral("\\#\\Device Parameters"));
+        WideText text(serialNumber);
+        return key &&
+               RegSetValueExW(key.get(), L"Port Number", 0, REG_DWORD,
+                              reinterpret_cast<const BYTE*>(&port), sizeof port) == ERROR_SUCCESS &&
+               RegSetValueExW(key.get(), L"Serial Number", 0, REG_SZ, text.bytes(), text.size()) ==
+                   ERROR_SUCCESS;
+    }
+
+private:
+    struct KeyCloser
+    {
+        void operator()(HKEY key) const { RegCloseKey(key); }
+    };
+    using Key = std::unique_ptr<std::remove_pointer_t<HKEY>, KeyCloser>;
+
+    Key open(const QString& below)
+    {
+        HKEY key = nullptr;
+        WideText path(m_path + QLatin1Char('\\') + below);
+        return Key(RegCreateKeyExW(HKEY_LOCAL_MACHINE, path, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr,
+                                   &key, nullptr) == ERROR_SUCCESS
+                       ? key
+                       : nullptr);
+    }
+
+    const QString m_path;
+};
+
+/// All device classes as the system writes them to a file; empty when it could not.
+QByteArray exportedDeviceClasses(const QTemporaryDir& folder)
+{
+    const QString name = QDir::toNativeSeparators(folder.filePath(QStringLiteral("classes.reg")));
+    QProcess reg;
+    reg.start(QStringLiteral("reg"),
+              {QStringLiteral("export"), deviceClasses, name, QStringLiteral("/y")});
+    QFile file(name);
+    const bool isWritten =
+        reg.waitForFinished(-1) && reg.exitCode() == 0 && file.open(QIODevice::ReadOnly);
+    return isWritten ? file.readAll() : QByteArray();
+}
 
 } // namespace
 
@@ -29,6 +88,7 @@ private Q_SLOTS:
     void administrationAndDefaultPrinter();
     void recordOfAPrinter();
     void serialNumbersFromTheRegistry();
+    void readingMakesNoKeys();
     void firstReadReportsEverything();
     void changeOfEachValue_data();
     void changeOfEachValue();
@@ -152,6 +212,41 @@ void LibraryOnWindowsTest::serialNumbersFromTheRegistry()
 
     QSettings(deviceClasses, QSettings::NativeFormat).remove(guid);
     QVERIFY(WindowsPrinterInfo::getDriverGUID() != guid);
+}
+
+void LibraryOnWindowsTest::readingMakesNoKeys()
+{
+    const QTemporaryDir folder;
+    QVERIFY(folder.isValid());
+    const QString guid = QStringLiteral("{1d5b2d1e-7a3f-4d52-9d55-%1}")
+                             .arg(QCoreApplication::applicationPid(), 12, 10, QLatin1Char('0'));
+    RegistryClass devices(guid);
+    const auto device = [&](const char* instance) {
+        return QStringLiteral("##?#USB#VID_3E7A&PID_0101#%1#%2")
+            .arg(QString::fromLatin1(instance), guid);
+    };
+    QVERIFY(devices.makeParameters(device("1"), 41, QStringLiteral("WHOLE")));
+    QVERIFY(devices.makeKey(device("2")));
+    QVERIFY(devices.makeKey(device("3") + QStringLiteral("\\#")));
+    QVERIFY(devices.makeKey(device("4") + QStringLiteral("\\#\\Other")));
+    // The last one listed, which is whose serial number is answered for a port of nobody's.
+    QVERIFY(devices.makeParameters(device("9/9"), 49, QStringLiteral("SLASH")));
+    const QString printer = fixture::uniqueName(QStringLiteral("Label Printer"));
+    QVERIFY(fixture::addPrinter(
+        {printer, QStringLiteral("Stratamark Alder"), QStringLiteral("USB999")}));
+
+    const QByteArray before = exportedDeviceClasses(folder);
+    QVERIFY(before.size() > 1000);
+    const QList<AvailablePrinters> printers = WindowsPrinterInfo::getAvailablePrinters();
+    const QByteArray after = exportedDeviceClasses(folder);
+    QCOMPARE(after.size(), before.size());
+    QVERIFY(after == before);
+
+    const auto found =
+        std::find_if(printers.begin(), printers.end(),
+                     [&](const AvailablePrinters& entry) { return entry.printerName == printer; });
+    QVERIFY(found != printers.end());
+    QCOMPARE(found->serialNumber, QStringLiteral("SLASH"));
 }
 
 void LibraryOnWindowsTest::firstReadReportsEverything()

@@ -23,11 +23,14 @@ enum class Behaviour
 {
     AccessRights,        ///< a handle is good for no more than it was opened for
     ChangeNotifications, ///< changes of printers can be waited for
-    DatabaseNames,       ///< the service manager knows the names of its databases
     DeletedPrinters,     ///< handles of a deleted printer know that it is deleted
     DistinctWaitObjects, ///< waiting for all of a list refuses an object that is in it twice
+    EmptyPrinterNames,   ///< an empty name is refused as a name, not as a parameter
     JobCounts,           ///< a printer's record counts its jobs
+    LevelsFirst,         ///< EnumPrintersW writes nothing when it does not know the level
+    MissingWaitLists,    ///< waiting without a list is refused
     PageCalls,           ///< pages belong to a document
+    PrintProviders,      ///< EnumPrintersW lists print providers
     PrinterCommands,     ///< SetPrinterW pauses and resumes
     PrinterRecordChecks, ///< AddPrinterW refuses a record without a driver or a port
     PseudoHandleChecks,  ///< waiting for several objects refuses pseudo handles

@@ -36,10 +36,11 @@ bool isWine()
 
 /// Every behaviour that Wine's spooler, kernel and service manager are without.
 constexpr std::array wineLacks{
-    Behaviour::AccessRights,       Behaviour::ChangeNotifications, Behaviour::DatabaseNames,
-    Behaviour::DeletedPrinters,    Behaviour::DistinctWaitObjects, Behaviour::JobCounts,
-    Behaviour::PageCalls,          Behaviour::PrinterCommands,     Behaviour::PrinterRecordChecks,
-    Behaviour::PseudoHandleChecks, Behaviour::UniquePrinterNames,
+    Behaviour::AccessRights,        Behaviour::ChangeNotifications, Behaviour::DeletedPrinters,
+    Behaviour::DistinctWaitObjects, Behaviour::EmptyPrinterNames,   Behaviour::JobCounts,
+    Behaviour::LevelsFirst,         Behaviour::MissingWaitLists,    Behaviour::PageCalls,
+    Behaviour::PrintProviders,      Behaviour::PrinterCommands,     Behaviour::PrinterRecordChecks,
+    Behaviour::PseudoHandleChecks,  Behaviour::UniquePrinterNames,
 };
 
 ServiceHandle openSpooler()

@@ -102,6 +102,7 @@ private Q_SLOTS:
     void badNotificationFails();
     void invalidHandleValueIsNoNotification();
     void closingLeavesThePrinterOpen();
+    void endsWithItsPrinterHandle();
 
 private:
     QString m_name;
@@ -155,6 +156,11 @@ void ChangeNotificationsTest::changeIsTold_data()
         char byte = 'x';
         DWORD written = 0;
         WritePrinter(printer.get(), &byte, 1, &written);
+        EndDocPrinter(printer.get());
+    });
+    row("purging", PRINTER_CHANGE_DELETE_JOB, [](const PrinterHandle& printer) {
+        startDocument(printer);
+        SetPrinterW(printer.get(), 0, nullptr, PRINTER_CONTROL_PURGE);
         EndDocPrinter(printer.get());
     });
     row("deletion", PRINTER_CHANGE_DELETE_PRINTER,
@@ -439,6 +445,24 @@ void ChangeNotificationsTest::closingLeavesThePrinterOpen()
     notification = watch(m_printer);
     QVERIFY(notification);
     QVERIFY(isQuiet(notification));
+}
+
+// https://learn.microsoft.com/openspecs/windows_protocols/ms-rprn/8482c186-7773-4fb5-8034-e9bae7a91e52
+// (RpcClosePrinter: what the client did not close is closed with the handle)
+void ChangeNotificationsTest::endsWithItsPrinterHandle()
+{
+    const PrinterHandle again = openPrinter(m_name);
+    const Notification ended = watch(m_printer);
+    const Notification other = watch(again);
+    QVERIFY(ClosePrinter(m_printer.release()));
+    writeValue(again);
+    QVERIFY(isTold(other));
+    // What was handed out to wait for can still be waited for, in vain.
+    QVERIFY(isQuiet(ended));
+    QCOMPARE(errorOf([&] {
+                 return FindNextPrinterChangeNotification(ended.get(), nullptr, nullptr, nullptr);
+             }),
+             DWORD{ERROR_INVALID_HANDLE});
 }
 
 QTEST_GUILESS_MAIN(ChangeNotificationsTest)

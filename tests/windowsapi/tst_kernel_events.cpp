@@ -75,6 +75,8 @@ private Q_SLOTS:
     void numberOfObjects_data();
     void numberOfObjects();
     void allRefusesAnObjectThatIsListedTwice();
+    void badHandlesAreSeenBeforeDuplicates();
+    void waitingWithoutAList();
 
     void timeOut_data();
     void timeOut();
@@ -270,6 +272,33 @@ void KernelEventsTest::allRefusesAnObjectThatIsListedTwice()
                  return waitAll({first.get(), second.get(), first.get()}) != WAIT_FAILED;
              }),
              DWORD{ERROR_INVALID_PARAMETER});
+}
+
+// The order in which the kernel looks: the count, the list, its handles, then duplicates.
+// reactos/ntoskrnl/ob/obwait.c, NtWaitForMultipleObjects
+void KernelEventsTest::badHandlesAreSeenBeforeDuplicates()
+{
+    expectMisuse(QStringLiteral("WaitForMultipleObjects"));
+    const EventHandle event = manualEvent(true);
+    const HANDLE closed = closedHandle();
+    QCOMPARE(errorOf([&] {
+                 return waitAll({event.get(), event.get(), closed}) != WAIT_FAILED;
+             }),
+             DWORD{ERROR_INVALID_HANDLE});
+}
+
+void KernelEventsTest::waitingWithoutAList()
+{
+    // The count is looked at first.
+    for (const DWORD count : {0, MAXIMUM_WAIT_OBJECTS + 1})
+        QCOMPARE(errorOf([&] {
+                     return WaitForMultipleObjects(count, nullptr, FALSE, 0) != WAIT_FAILED;
+                 }),
+                 DWORD{ERROR_INVALID_PARAMETER});
+    NEEDS_BEHAVIOUR(Behaviour::MissingWaitLists);
+    for (const BOOL all : {FALSE, TRUE})
+        QCOMPARE(errorOf([&] { return WaitForMultipleObjects(2, nullptr, all, 0) != WAIT_FAILED; }),
+                 DWORD{ERROR_NOACCESS});
 }
 
 void KernelEventsTest::timeOut_data()

@@ -92,6 +92,7 @@ private Q_SLOTS:
     void cleanup() override;
 
     void openingAnAbsentPrinter();
+    void openingAnEmptyName();
     void openingWithoutAPlaceForTheHandle();
     void openingKnowsNoLetterCase();
     void openingThePrintServer();
@@ -154,6 +155,22 @@ void PrinterDataTest::openingAnAbsentPrinter()
              DWORD{ERROR_INVALID_PRINTER_NAME});
     QCOMPARE(errorOf([&] { return OpenPrinterA(NarrowText(absent), &handle, nullptr); }),
              DWORD{ERROR_INVALID_PRINTER_NAME});
+}
+
+// Only without a name it is the print server.
+// wine/dlls/winspool.drv/tests/info.c, test_OpenPrinter
+void PrinterDataTest::openingAnEmptyName()
+{
+    HANDLE handle = nullptr;
+    const DWORD errorOfWide =
+        errorOf([&] { return OpenPrinterW(WideText(QString()), &handle, nullptr); });
+    const DWORD errorOfNarrow =
+        errorOf([&] { return OpenPrinterA(NarrowText(QString()), &handle, nullptr); });
+    QVERIFY(errorOfWide != ERROR_SUCCESS && errorOfNarrow != ERROR_SUCCESS);
+    QVERIFY(!handle);
+    NEEDS_BEHAVIOUR(Behaviour::EmptyPrinterNames);
+    QCOMPARE(errorOfWide, DWORD{ERROR_INVALID_PRINTER_NAME});
+    QCOMPARE(errorOfNarrow, DWORD{ERROR_INVALID_PRINTER_NAME});
 }
 
 void PrinterDataTest::openingWithoutAPlaceForTheHandle()

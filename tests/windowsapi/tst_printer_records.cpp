@@ -119,6 +119,8 @@ private Q_SLOTS:
     void sizeOfARecord();
     void longRecord();
     void shortRecord();
+    void recordsOfAFewMembers();
+    void recordsWithoutTexts();
     void attributes_data();
     void attributes();
     void unknownLevel_data();
@@ -138,7 +140,13 @@ private Q_SLOTS:
     void listGrowsBetweenSizingAndFilling();
     void listedByFlags_data();
     void listedByFlags();
+    void listOfEachLevel_data();
+    void listOfEachLevel();
+    void listOfPrintProviders();
+    void listByName_data();
+    void listByName();
     void listOfNothing();
+    void listOfAnUnknownLevel_data();
     void listOfAnUnknownLevel();
 
     void choosingTheDefaultPrinter();
@@ -148,6 +156,7 @@ private Q_SLOTS:
     void choosingNothingKeepsTheChoice_data();
     void choosingNothingKeepsTheChoice();
     void deletedPrinterIsNoDefault();
+    void defaultPrinterNeedsNoSpooler();
 
     void addingGivesAHandleThatAdministers();
     void addingRefuses_data();
@@ -159,6 +168,7 @@ private Q_SLOTS:
     void handlesOfADeletedPrinter();
     void nameOfADeletedPrinterIsFree();
     void deletingNeedsTheRightToAdminister();
+    void heldPrinterWithJobsIsNotDeleted();
 
 private:
     QString m_name;
@@ -188,6 +198,8 @@ void PrinterRecordsTest::sizeOfARecord_data()
     QTest::addColumn<int>("sizeOfRecord");
     QTest::newRow("1") << DWORD{1} << static_cast<int>(sizeof(PRINTER_INFO_1W));
     QTest::newRow("2") << DWORD{2} << static_cast<int>(sizeof(PRINTER_INFO_2W));
+    QTest::newRow("4") << DWORD{4} << static_cast<int>(sizeof(PRINTER_INFO_4W));
+    QTest::newRow("5") << DWORD{5} << static_cast<int>(sizeof(PRINTER_INFO_5W));
 }
 
 void PrinterRecordsTest::sizeOfARecord()
@@ -242,6 +254,44 @@ void PrinterRecordsTest::shortRecord()
     QVERIFY(record.Flags & PRINTER_ENUM_ICON8);
     QVERIFY(block.holds(record.pName, sizeof record));
     QVERIFY(block.holds(record.pDescription, sizeof record));
+}
+
+// https://learn.microsoft.com/windows/win32/printdocs/getprinter lists the levels,
+// reactos/modules/rostests/apitests/winspool/GetPrinter.c asks for each of them.
+void PrinterRecordsTest::recordsOfAFewMembers()
+{
+    const Block names = getPrinter(m_printer.get(), 4);
+    QCOMPARE(names.error, DWORD{ERROR_SUCCESS});
+    const auto& record4 = names.record<PRINTER_INFO_4W>();
+    QCOMPARE(fromWide(record4.pPrinterName), m_name);
+    QCOMPARE(fromWide(record4.pServerName), QString());
+    QCOMPARE(record4.Attributes & PRINTER_ATTRIBUTE_LOCAL, DWORD{PRINTER_ATTRIBUTE_LOCAL});
+    QVERIFY(names.holds(record4.pPrinterName, sizeof record4));
+
+    const Block ports = getPrinter(m_printer.get(), 5);
+    QCOMPARE(ports.error, DWORD{ERROR_SUCCESS});
+    const auto& record5 = ports.record<PRINTER_INFO_5W>();
+    QCOMPARE(fromWide(record5.pPrinterName), m_name);
+    QCOMPARE(fromWide(record5.pPortName), QStringLiteral("USB004"));
+    QCOMPARE(record5.Attributes, DWORD{PRINTER_ATTRIBUTE_LOCAL});
+    QVERIFY(ports.holds(record5.pPrinterName, sizeof record5));
+    QVERIFY(ports.holds(record5.pPortName, sizeof record5));
+}
+
+// https://learn.microsoft.com/openspecs/windows_protocols/ms-rprn/436ef388-39cd-4992-95ac-02ddd2a51193
+// https://learn.microsoft.com/windows/win32/printdocs/printer-info-7
+void PrinterRecordsTest::recordsWithoutTexts()
+{
+    const Block status = getPrinter(m_printer.get(), 6);
+    QCOMPARE(status.error, DWORD{ERROR_SUCCESS});
+    QCOMPARE(status.needed, static_cast<DWORD>(sizeof(PRINTER_INFO_6)));
+    QCOMPARE(status.record<PRINTER_INFO_6>().dwStatus, DWORD{0});
+
+    // No directory service knows this printer.
+    const Block published = getPrinter(m_printer.get(), 7);
+    QCOMPARE(published.error, DWORD{ERROR_SUCCESS});
+    QCOMPARE(fromWide(published.record<PRINTER_INFO_7W>().pszObjectGUID), QString());
+    QCOMPARE(published.record<PRINTER_INFO_7W>().dwAction, DWORD{DSPRINT_UNPUBLISH});
 }
 
 void PrinterRecordsTest::attributes_data()
@@ -487,6 +537,80 @@ void PrinterRecordsTest::listedByFlags()
     QCOMPARE(listedPrinters(flags).count(m_name), isListed ? 1 : 0);
 }
 
+// https://learn.microsoft.com/windows/win32/printdocs/enumprinters lists the levels,
+// reactos/modules/rostests/apitests/winspool/EnumPrinters.c asks for each of them.
+void PrinterRecordsTest::listOfEachLevel_data()
+{
+    QTest::addColumn<DWORD>("level");
+    for (const DWORD level : {1, 2, 4, 5})
+        QTest::addRow("%u", static_cast<unsigned>(level)) << level;
+}
+
+void PrinterRecordsTest::listOfEachLevel()
+{
+    QFETCH(DWORD, level);
+    const DWORD needed = enumPrinters(allLocal, 0, level).needed;
+    QCOMPARE(enumPrinters(allLocal, needed - 1, level).error, DWORD{ERROR_INSUFFICIENT_BUFFER});
+    const Block block = enumPrinters(allLocal, needed, level);
+    QCOMPARE(block.error, DWORD{ERROR_SUCCESS});
+    QStringList names;
+    for (DWORD index = 0; index < block.returned; ++index) {
+        const LPWSTR name = level == 1   ? block.record<PRINTER_INFO_1W>(index).pName
+                            : level == 2 ? block.record<PRINTER_INFO_2W>(index).pPrinterName
+                            : level == 4 ? block.record<PRINTER_INFO_4W>(index).pPrinterName
+                                         : block.record<PRINTER_INFO_5W>(index).pPrinterName;
+        names.append(fromWide(name));
+    }
+    QCOMPARE(names.count(m_name), 1);
+    QCOMPARE(names, listedPrinters(allLocal));
+}
+
+// Without a name, level 1 by name is about who provides printers.
+// reactos/modules/rostests/apitests/winspool/EnumPrinters.c
+void PrinterRecordsTest::listOfPrintProviders()
+{
+    NEEDS_BEHAVIOUR(Behaviour::PrintProviders);
+    const DWORD needed = enumPrinters(PRINTER_ENUM_LOCAL | PRINTER_ENUM_NAME, 0, 1).needed;
+    const Block block = enumPrinters(PRINTER_ENUM_LOCAL | PRINTER_ENUM_NAME, needed, 1);
+    QCOMPARE(block.error, DWORD{ERROR_SUCCESS});
+    QCOMPARE(block.needed, needed);
+    QVERIFY(block.returned >= 1);
+    const auto& record = block.record<PRINTER_INFO_1W>();
+    QCOMPARE(fromWide(record.pName), QStringLiteral("Windows NT Local Print Providor"));
+    QCOMPARE(fromWide(record.pDescription), QStringLiteral("Windows NT Local Printers"));
+    QCOMPARE(fromWide(record.pComment), QStringLiteral("Locally connected Printers"));
+}
+
+// reactos/modules/rostests/apitests/winspool/EnumPrinters.c
+void PrinterRecordsTest::listByName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isKnown");
+    QTest::newRow("provider") << QStringLiteral("wInDoWs NT Local Print Providor") << true;
+    QTest::newRow("nobody") << QStringLiteral("LOREM IPSUM") << false;
+}
+
+void PrinterRecordsTest::listByName()
+{
+    NEEDS_BEHAVIOUR(Behaviour::PrintProviders);
+    QFETCH(QString, name);
+    QFETCH(bool, isKnown);
+    DWORD needed = noSize;
+    DWORD returned = noSize;
+    const DWORD error = errorOf([&] {
+        return EnumPrintersW(PRINTER_ENUM_LOCAL | PRINTER_ENUM_NAME, WideText(name), 2, nullptr, 0,
+                             &needed, &returned);
+    });
+    QCOMPARE(returned, DWORD{0});
+    if (isKnown) {
+        QCOMPARE(error, DWORD{ERROR_INSUFFICIENT_BUFFER});
+        QCOMPARE(needed, enumPrinters(PRINTER_ENUM_LOCAL, 0).needed);
+    } else {
+        QCOMPARE(error, DWORD{ERROR_INVALID_NAME});
+        QCOMPARE(needed, DWORD{0});
+    }
+}
+
 void PrinterRecordsTest::listOfNothing()
 {
     // No test connects to another machine's printers.
@@ -496,12 +620,23 @@ void PrinterRecordsTest::listOfNothing()
     QCOMPARE(block.returned, DWORD{0});
 }
 
+// reactos/modules/rostests/apitests/winspool/EnumPrinters.c
+void PrinterRecordsTest::listOfAnUnknownLevel_data()
+{
+    QTest::addColumn<DWORD>("level");
+    for (const DWORD level : {3, 6, 17})
+        QTest::addRow("%u", static_cast<unsigned>(level)) << level;
+}
+
 void PrinterRecordsTest::listOfAnUnknownLevel()
 {
-    const Block block = enumPrinters(PRINTER_ENUM_LOCAL, 10000, 17);
+    QFETCH(DWORD, level);
+    const Block block = enumPrinters(PRINTER_ENUM_LOCAL, 10000, level);
     QCOMPARE(block.error, DWORD{ERROR_INVALID_LEVEL});
-    QCOMPARE(block.needed, DWORD{0});
-    QCOMPARE(block.returned, DWORD{0});
+    NEEDS_BEHAVIOUR(Behaviour::LevelsFirst);
+    QVERIFY(block.isUntouched());
+    QCOMPARE(block.needed, noSize);
+    QCOMPARE(block.returned, noSize);
 }
 
 void PrinterRecordsTest::choosingTheDefaultPrinter()
@@ -585,6 +720,22 @@ void PrinterRecordsTest::deletedPrinterIsNoDefault()
     QVERIFY(SetDefaultPrinterW(WideText(second)));
     QVERIFY(fixture::removePrinter(second));
     QVERIFY(defaultPrinter() != second);
+}
+
+// https://learn.microsoft.com/windows/win32/printdocs/getdefaultprinter knows no other failures
+// than a short buffer and no default printer: the choice is the user's, in the user's registry.
+void PrinterRecordsTest::defaultPrinterNeedsNoSpooler()
+{
+    const KeptDefaultPrinter kept;
+    QVERIFY(SetDefaultPrinterW(WideText(m_name)));
+    const bool hasStopped = fixture::setSpoolerRunning(false);
+    const QString answer = defaultPrinter();
+    DWORD count = 0;
+    const DWORD errorOfSizing = errorOf([&] { return GetDefaultPrinterW(nullptr, &count); });
+    QVERIFY(fixture::setSpoolerRunning(true));
+    QVERIFY(hasStopped);
+    QCOMPARE(answer, m_name);
+    QCOMPARE(errorOfSizing, DWORD{ERROR_INSUFFICIENT_BUFFER});
 }
 
 namespace {
@@ -747,6 +898,23 @@ void PrinterRecordsTest::deletingNeedsTheRightToAdminister()
     const PrinterHandle used = openPrinter(m_name, PRINTER_ACCESS_USE);
     QCOMPARE(errorOf([&] { return DeletePrinter(used.get()); }), DWORD{ERROR_ACCESS_DENIED});
     QVERIFY(listedPrinters(allLocal).contains(m_name));
+}
+
+// https://learn.microsoft.com/windows/win32/printdocs/deleteprinter
+void PrinterRecordsTest::heldPrinterWithJobsIsNotDeleted()
+{
+    NEEDS_BEHAVIOUR(Behaviour::PrinterCommands);
+    WideText datatype(QStringLiteral("RAW"));
+    DOC_INFO_1W info{};
+    info.pDatatype = datatype;
+    QVERIFY(SetPrinterW(m_printer.get(), 0, nullptr, PRINTER_CONTROL_PAUSE));
+    QVERIFY(StartDocPrinterW(m_printer.get(), 1, reinterpret_cast<LPBYTE>(&info)) != 0);
+    QCOMPARE(errorOf([&] { return DeletePrinter(m_printer.get()); }), DWORD{ERROR_ACCESS_DENIED});
+    QVERIFY(listedPrinters(allLocal).contains(m_name));
+
+    // Held without a job it can be.
+    QVERIFY(SetPrinterW(m_printer.get(), 0, nullptr, PRINTER_CONTROL_PURGE));
+    QVERIFY(DeletePrinter(m_printer.get()));
 }
 
 QTEST_GUILESS_MAIN(PrinterRecordsTest)

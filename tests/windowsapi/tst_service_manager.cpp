@@ -30,13 +30,16 @@ class ServiceManagerTest : public WindowsApiTest
 private Q_SLOTS:
     void opensTheLocalManager_data();
     void opensTheLocalManager();
-    void unknownDatabase();
+    void databaseThatCannotBeOpened_data();
+    void databaseThatCannotBeOpened();
     void opensTheSpooler_data();
     void opensTheSpooler();
     void unknownService();
+    void serviceWithoutAName();
     void statusFollowsTheService();
     void statusOfAStoppedService();
     void statusNeedsTheRightToAskForIt();
+    void statusWithoutAPlaceForIt();
     void badHandleFails_data();
     void badHandleFails();
     void serviceIsNoManager();
@@ -61,13 +64,24 @@ void ServiceManagerTest::opensTheLocalManager()
     QVERIFY2(manager, qPrintable(QString::number(GetLastError())));
 }
 
-void ServiceManagerTest::unknownDatabase()
+// wine/dlls/advapi32/tests/service.c, test_open_scm
+void ServiceManagerTest::databaseThatCannotBeOpened_data()
 {
-    NEEDS_BEHAVIOUR(Behaviour::DatabaseNames);
-    WideText database(QStringLiteral("VxNoDatabase"));
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<DWORD>("error");
+    QTest::newRow("no such name") << QStringLiteral("VxNoDatabase") << DWORD{ERROR_INVALID_NAME};
+    QTest::newRow("a name without a database")
+        << QStringLiteral("ServicesFailed") << DWORD{ERROR_DATABASE_DOES_NOT_EXIST};
+}
+
+void ServiceManagerTest::databaseThatCannotBeOpened()
+{
+    QFETCH(QString, name);
+    QFETCH(DWORD, error);
+    WideText database(name);
     QCOMPARE(
         errorOf([&] { return OpenSCManagerW(nullptr, database, SC_MANAGER_CONNECT) != nullptr; }),
-        DWORD{ERROR_DATABASE_DOES_NOT_EXIST});
+        error);
 }
 
 void ServiceManagerTest::opensTheSpooler_data()
@@ -93,6 +107,17 @@ void ServiceManagerTest::unknownService()
     QCOMPARE(
         errorOf([&] { return openService(manager, QStringLiteral("VxNoService")) != nullptr; }),
         DWORD{ERROR_SERVICE_DOES_NOT_EXIST});
+}
+
+// wine/dlls/advapi32/tests/service.c, test_open_svc
+void ServiceManagerTest::serviceWithoutAName()
+{
+    const ServiceHandle manager = openManager();
+    QVERIFY(manager);
+    QCOMPARE(errorOf([&] {
+                 return OpenServiceW(manager.get(), nullptr, SERVICE_QUERY_STATUS) != nullptr;
+             }),
+             DWORD{ERROR_INVALID_ADDRESS});
 }
 
 void ServiceManagerTest::statusFollowsTheService()
@@ -137,6 +162,22 @@ void ServiceManagerTest::statusNeedsTheRightToAskForIt()
     QCOMPARE(errorOf([&] { return QueryServiceStatus(service.get(), &status); }),
              DWORD{ERROR_ACCESS_DENIED});
     QCOMPARE(status.dwCurrentState, DWORD{77});
+}
+
+// wine/dlls/advapi32/tests/service.c, test_query_svc
+void ServiceManagerTest::statusWithoutAPlaceForIt()
+{
+    expectMisuse(QStringLiteral("QueryServiceStatus"));
+    const ServiceHandle manager = openManager();
+    // The place is looked at before the right to ask, and after the handle.
+    for (const DWORD access : {SERVICE_QUERY_STATUS, SERVICE_QUERY_CONFIG}) {
+        const ServiceHandle service = openService(manager, spooler, access);
+        QVERIFY(service);
+        QCOMPARE(errorOf([&] { return QueryServiceStatus(service.get(), nullptr); }),
+                 DWORD{ERROR_INVALID_ADDRESS});
+    }
+    QCOMPARE(errorOf([] { return QueryServiceStatus(nullptr, nullptr); }),
+             DWORD{ERROR_INVALID_HANDLE});
 }
 
 void ServiceManagerTest::badHandleFails_data()

@@ -49,6 +49,8 @@ private Q_SLOTS:
     void registryPathsThatAreRead();
     void fileIsTheUsers();
     void firstSightIsKept();
+    void othersFilesDoNotCount_data();
+    void othersFilesDoNotCount();
     void emptySerialNumberIsNotRecorded();
     void everythingElseInTheFileIsKept();
     void serialNumbersWithOddCharacters_data();
@@ -245,6 +247,32 @@ void DeviceSerialNumbersTest::firstSightIsKept()
     WindowsPrinterInfo::getDeviceSerialNumber(1);
     WindowsPrinterInfo::addPrinterSerialToIniFile(text("ONE"));
     QCOMPARE(firstSeen(text("ONE")), text("2001-02-03 04:05:06"));
+}
+
+void DeviceSerialNumbersTest::othersFilesDoNotCount_data()
+{
+    QTest::addColumn<QString>("fileName"); // in the folder of the user's settings
+    QTest::newRow("the organisation's") << text("Harlow Devices Inc.ini");
+    QTest::newRow("the system's") << text("system/Harlow Devices Inc/Quillmark.ini");
+    QTest::newRow("the system's, the organisation's") << text("system/Harlow Devices Inc.ini");
+}
+
+/// Settings of a wider scope are what others have seen.
+void DeviceSerialNumbersTest::othersFilesDoNotCount()
+{
+    QFETCH(const QString, fileName);
+    QSettings::setPath(QSettings::IniFormat, QSettings::SystemScope,
+                       settingsFolder() + text("/system"));
+    const QString others = settingsFolder() + QLatin1Char('/') + fileName;
+    QVERIFY(QDir().mkpath(QFileInfo(others).path()));
+    QSettings(others, QSettings::IniFormat)
+        .setValue(text("associatedPrinters/ONE"), text("2001-02-03 04:05:06"));
+    WindowsPrinterInfo::addPrinterSerialToIniFile(text("ONE"));
+    QCOMPARE(recorded(), QStringList{text("ONE")});
+    QVERIFY(firstSeen(text("ONE")) != text("2001-02-03 04:05:06"));
+    QCOMPARE(
+        QSettings(others, QSettings::IniFormat).value(text("associatedPrinters/ONE")).toString(),
+        text("2001-02-03 04:05:06"));
 }
 
 void DeviceSerialNumbersTest::emptySerialNumberIsNotRecorded()

@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #include "virtualwindows/fleet.h"
 
+#include "message_text.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
@@ -41,7 +43,7 @@ double speedOf(const QString& text)
     if (!readable || !(speed > 0 && speed <= 1000))
         refuse(QStringLiteral(
                    "VX_VIRTUAL_SPEED: expected a number above 0 and up to 1000, found \"%1\"")
-                   .arg(text));
+                   .arg(virtualwindows::escaped(virtualwindows::shortened(text))));
     return speed;
 }
 

@@ -3,9 +3,13 @@
 #include "virtualwindows/fleet.h"
 
 #include "located_json.h"
+#include "message_text.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QHash>
+#include <QtCore/QMap>
+#include <QtCore/QSet>
 
 #include <algorithm>
 #include <array>
@@ -58,7 +62,7 @@ quint32 readBits(const JsonPlace& place, const std::array<NamedBit, Count>& name
             for (const NamedBit& bit : names)
                 known.append(QString::fromLatin1(bit.name));
             entry.complain(QStringLiteral("\"%1\" is not known; expected one of %2")
-                               .arg(name, known.join(QStringLiteral(", "))));
+                               .arg(shortened(name), listed(known)));
         }
         bits |= found->bit;
     }
@@ -84,7 +88,7 @@ QList<PrinterValue> readValues(const JsonPlace& place)
     QList<PrinterValue> values;
     const QStringList names = place.keys();
     for (const QString& name : names)
-        values.append(readValue(name, place.at(name.toUtf8().constData())));
+        values.append(readValue(name, place.at(name.toUtf8())));
     return values;
 }
 
@@ -135,11 +139,47 @@ void add(Machine& machine, const FleetPrinter& printer)
         machine.publish(printer.setup.name, printer.values);
 }
 
+/// The names of the printers that there are at a moment, in the order in which they came.
+class PrinterNames
+{
+public:
+    bool has(const QString& name) const
+    {
+        const auto found = m_places.constFind(name.toCaseFolded());
+        return found != m_places.cend() && m_names.value(*found) == name;
+    }
+    /// Names that differ in nothing but letter case are one to the spooler.
+    void expectNew(const JsonPlace& place, const QString& name) const
+    {
+        if (m_places.contains(name.toCaseFolded()))
+            place.complain(
+                QStringLiteral("there is a printer \"%1\" already").arg(shortened(name)));
+    }
+    void add(const QString& name)
+    {
+        m_places.insert(name.toCaseFolded(), m_next);
+        m_names.insert(m_next++, name);
+    }
+    void remove(const QString& name) { m_names.remove(m_places.take(name.toCaseFolded())); }
+    void rename(const QString& name, const QString& newName)
+    {
+        const int place = m_places.take(name.toCaseFolded());
+        m_places.insert(newName.toCaseFolded(), place);
+        m_names.insert(place, newName);
+    }
+    QString list() const { return listed(m_names.values()); }
+
+private:
+    QMap<int, QString> m_names;
+    QHash<QString, int> m_places; ///< by name without letter case
+    int m_next = 0;
+};
+
 /// Reads the story, following which printers there are at each of its moments.
 class StoryReader
 {
 public:
-    explicit StoryReader(const QStringList& printers)
+    explicit StoryReader(const PrinterNames& printers)
         : m_printers(printers)
     {}
 
@@ -178,8 +218,8 @@ private:
             changes.append(readSpooler(place.at("spooler")));
         if (place.has("add")) {
             const FleetPrinter printer = readPrinter(place.at("add"));
-            expectNew(place.at("add").at("name"), printer.setup.name);
-            m_printers.append(printer.setup.name);
+            m_printers.expectNew(place.at("add").at("name"), printer.setup.name);
+            m_printers.add(printer.setup.name);
             changes.append([printer](Machine& machine) { add(machine, printer); });
         }
         if (place.has("defaultPrinter")) {
@@ -198,8 +238,8 @@ private:
     {
         const QString state = place.text();
         if (state != QLatin1String("stopped") && state != QLatin1String("running"))
-            place.complain(
-                QStringLiteral("expected \"stopped\" or \"running\", found \"%1\"").arg(state));
+            place.complain(QStringLiteral("expected \"stopped\" or \"running\", found \"%1\"")
+                               .arg(shortened(state)));
         if (state == QLatin1String("stopped"))
             return [](Machine& machine) {
                 machine.stopSpooler();
@@ -246,14 +286,14 @@ private:
         }
         if (place.has("rename")) {
             const QString newName = place.at("rename").nonEmptyText();
-            expectNew(place.at("rename"), newName);
-            m_printers.replace(m_printers.indexOf(name), newName);
+            m_printers.expectNew(place.at("rename"), newName);
+            m_printers.rename(name, newName);
             changes.append([=](Machine& machine) { machine.renamePrinter(name, newName); });
         }
         if (place.has("remove")) {
             if (!place.at("remove").flag() || place.has("rename"))
                 place.at("remove").complain(QStringLiteral("expected true, without a \"rename\""));
-            m_printers.removeAll(name);
+            m_printers.remove(name);
             changes.append([=](Machine& machine) { machine.removePrinter(name); });
         }
     }
@@ -261,20 +301,14 @@ private:
     QString readPrinterName(const JsonPlace& place) const
     {
         const QString name = place.text();
-        if (!m_printers.contains(name))
+        if (!m_printers.has(name))
             place.complain(
                 QStringLiteral("there is no printer \"%1\" at this moment; expected one of %2")
-                    .arg(name, m_printers.join(QStringLiteral(", "))));
+                    .arg(shortened(name), m_printers.list()));
         return name;
     }
 
-    void expectNew(const JsonPlace& place, const QString& name) const
-    {
-        if (m_printers.contains(name, Qt::CaseInsensitive))
-            place.complain(QStringLiteral("there is a printer \"%1\" already").arg(name));
-    }
-
-    QStringList m_printers;
+    PrinterNames m_printers;
 };
 
 Fleet readFleet(const LocatedJson& file)
@@ -284,27 +318,34 @@ Fleet readFleet(const LocatedJson& file)
         {QStringLiteral("printers")},
         {QStringLiteral("defaultPrinter"), QStringLiteral("devices"), QStringLiteral("timeline")});
     Fleet fleet;
-    QStringList names;
+    PrinterNames names;
     const QList<JsonPlace> printers = root.at("printers").entries();
     for (const JsonPlace& place : printers) {
         fleet.printers.append(readPrinter(place));
         const QString name = fleet.printers.last().setup.name;
-        if (names.contains(name, Qt::CaseInsensitive))
-            place.at("name").complain(
-                QStringLiteral("there is a printer \"%1\" already").arg(name));
-        names.append(name);
+        names.expectNew(place.at("name"), name);
+        names.add(name);
     }
     if (root.has("defaultPrinter")) {
         fleet.defaultPrinter = root.at("defaultPrinter").text();
-        if (!names.contains(fleet.defaultPrinter))
+        if (!names.has(fleet.defaultPrinter))
             root.at("defaultPrinter")
                 .complain(QStringLiteral("there is no printer \"%1\"; expected one of %2")
-                              .arg(fleet.defaultPrinter, names.join(QStringLiteral(", "))));
+                              .arg(shortened(fleet.defaultPrinter), names.list()));
     }
     if (root.has("devices")) {
+        QSet<QString> keys;
         const QList<JsonPlace> devices = root.at("devices").entries();
-        for (const JsonPlace& place : devices)
-            fleet.devices.append(readDevice(place));
+        for (const JsonPlace& place : devices) {
+            const DeviceSetup device = readDevice(place);
+            const QString key =
+                (device.classGuid + QLatin1Char('\\') + device.interfaceKey).toCaseFolded();
+            if (keys.contains(key))
+                place.at("key").complain(QStringLiteral("there is a device \"%1\" already")
+                                             .arg(shortened(device.interfaceKey)));
+            keys.insert(key);
+            fleet.devices.append(device);
+        }
     }
     if (root.has("timeline"))
         fleet.story = StoryReader(names).read(root.at("timeline"));
@@ -319,18 +360,35 @@ std::variant<Fleet, FleetError> parseFleet(const QByteArray& text, const QString
         return readFleet(LocatedJson(text));
     } catch (const JsonComplaint& complaint) {
         return FleetError{
-            QStringLiteral("%1:%2: %3").arg(name).arg(complaint.line).arg(complaint.text)};
+            escaped(QStringLiteral("%1:%2: ").arg(name).arg(complaint.line) + complaint.text)};
     }
 }
 
 std::variant<Fleet, FleetError> readFleet(const QString& fileName)
 {
+    const auto refused = [&](const QString& why) {
+        return FleetError{escaped(fileName + QStringLiteral(": ") + why)};
+    };
     QFile file(fileName);
     if (QFileInfo(file).isDir())
-        return FleetError{QStringLiteral("%1: expected a file, found a folder").arg(fileName)};
+        return refused(QStringLiteral("expected a file, found a folder"));
     if (!file.open(QIODevice::ReadOnly))
-        return FleetError{QStringLiteral("%1: %2").arg(fileName, file.errorString())};
-    return parseFleet(file.readAll(), fileName);
+        return refused(file.errorString());
+    constexpr qint64 mebibyte = 1024 * 1024;
+    constexpr qint64 largest = 16 * mebibyte;
+    // Devices and pipes have no size; so what comes is counted.
+    QByteArray text;
+    while (text.size() <= largest) {
+        const QByteArray more = file.read(mebibyte);
+        if (more.isEmpty())
+            break;
+        text.append(more);
+    }
+    if (text.size() > largest)
+        return refused(QStringLiteral("expected at most %1 MiB").arg(largest / mebibyte));
+    if (file.error() != QFileDevice::NoError)
+        return refused(file.errorString());
+    return parseFleet(text, fileName);
 }
 
 void populate(Machine& machine, const Fleet& fleet)

@@ -2,13 +2,19 @@
 // Copyright The VxPrinterStatus authors
 #include "located_json.h"
 
+#include "message_text.h"
+
 #include <QtCore/QRegularExpression>
 
 #include <json/reader.h>
 
 #include <algorithm>
+#include <cctype>
 #include <limits>
 #include <memory>
+
+using virtualwindows::listed;
+using virtualwindows::shortened;
 
 namespace {
 
@@ -19,12 +25,7 @@ QString fromStd(const std::string& text)
 
 QString quoted(const QString& text)
 {
-    return QLatin1Char('"') + text + QLatin1Char('"');
-}
-
-QString listed(const QStringList& keys)
-{
-    return keys.join(QStringLiteral(", "));
+    return QLatin1Char('"') + shortened(text) + QLatin1Char('"');
 }
 
 /// The reader's own report begins "* Line 3, Column 5", and its next line says what is wrong.
@@ -35,7 +36,48 @@ JsonComplaint complaintOf(const std::string& report)
     const QRegularExpressionMatch match = pattern.match(fromStd(report));
     if (!match.hasMatch())
         return {1, QStringLiteral("not JSON: expected an object")};
-    return {match.captured(1).toInt(), QStringLiteral("not JSON: ") + match.captured(2)};
+    constexpr qsizetype longest = 200; // a report repeats what it does not understand
+    return {match.captured(1).toInt(),
+            QStringLiteral("not JSON: ") + shortened(match.captured(2), longest)};
+}
+
+/// The reader calls itself for each level, and a value in memory is many times as large as in the
+/// file; so both are counted before it reads.
+void expectWithinLimits(const QByteArray& text)
+{
+    constexpr int deepest = 32;
+    constexpr int most = 1'000'000;
+    int depth = 0;
+    int values = 1;
+    int line = 1;
+    bool isInText = false;
+    for (qsizetype place = 0; place < text.size(); ++place) {
+        const char character = text.at(place);
+        if (character == '\n')
+            ++line;
+        if (isInText) {
+            if (character == '\\')
+                ++place;
+            else if (character == '"')
+                isInText = false;
+            continue;
+        }
+        if (character == '"')
+            isInText = true;
+        else if (character == '[' || character == '{')
+            ++depth;
+        else if (character == ']' || character == '}')
+            --depth;
+        if (depth > deepest)
+            throw JsonComplaint{
+                line, QStringLiteral("expected at most %1 lists and objects within each other")
+                          .arg(deepest)};
+        // Each value but the first of a list or an object has a comma before it.
+        if (character == ',' || character == '[' || character == '{')
+            ++values;
+        if (values > most)
+            throw JsonComplaint{line, QStringLiteral("expected at most %1 values").arg(most)};
+    }
 }
 
 } // namespace
@@ -43,6 +85,7 @@ JsonComplaint complaintOf(const std::string& report)
 LocatedJson::LocatedJson(const QByteArray& text)
     : m_text(text)
 {
+    expectWithinLimits(m_text);
     Json::CharReaderBuilder builder;
     Json::CharReaderBuilder::strictMode(&builder.settings_);
     const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
@@ -85,7 +128,7 @@ QString JsonPlace::found() const
     case Json::stringValue:
         return quoted(fromStd(m_value->asString()));
     default:
-        return fromStd(m_value->asString());
+        return shortened(fromStd(m_value->asString()));
     }
 }
 
@@ -96,7 +139,7 @@ void JsonPlace::expectKeys(const QStringList& required, const QStringList& allow
     const QStringList present = keys();
     for (const QString& key : present) {
         if (!required.contains(key) && !allowed.contains(key))
-            at(key.toUtf8().constData())
+            at(key.toUtf8())
                 .complain(QStringLiteral("is not known here; expected one of ") +
                           listed(required + allowed));
     }
@@ -106,10 +149,12 @@ void JsonPlace::expectKeys(const QStringList& required, const QStringList& allow
     }
 }
 
-JsonPlace JsonPlace::at(const char* key) const
+JsonPlace JsonPlace::at(const QByteArray& key) const
 {
-    const QString name = QString::fromUtf8(key);
-    return {*m_file, (*m_value)[key], m_path.isEmpty() ? name : m_path + QLatin1Char('.') + name};
+    const QString name = shortened(QString::fromUtf8(key));
+    const Json::Value* value = m_value->find(key.begin(), key.end());
+    return {*m_file, value ? *value : Json::Value::nullSingleton(),
+            m_path.isEmpty() ? name : m_path + QLatin1Char('.') + name};
 }
 
 QList<JsonPlace> JsonPlace::entries() const
@@ -179,8 +224,11 @@ bool JsonPlace::flag() const
 
 QByteArray JsonPlace::hexBytes() const
 {
-    static const QRegularExpression pattern(QStringLiteral("^([0-9A-Fa-f]{2})*$"));
-    if (!pattern.match(text()).hasMatch())
+    const QByteArray digits = text().toUtf8();
+    const bool areDigits = std::all_of(digits.begin(), digits.end(), [](char digit) {
+        return std::isxdigit(static_cast<unsigned char>(digit)) != 0;
+    });
+    if (digits.size() % 2 != 0 || !areDigits)
         complain(QStringLiteral("expected bytes as pairs of hexadecimal digits, found ") + found());
-    return QByteArray::fromHex(text().toLatin1());
+    return QByteArray::fromHex(digits);
 }

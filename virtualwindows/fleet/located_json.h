@@ -19,7 +19,8 @@ struct JsonComplaint
 class LocatedJson
 {
 public:
-    /// Raises a complaint when the text is not JSON, or has a key twice.
+    /// Raises a complaint when the text is not JSON, has a key twice, or is nested deeper or has
+    /// more values than any fleet needs.
     explicit LocatedJson(const QByteArray& text);
 
     const Json::Value& root() const { return m_root; }
@@ -44,7 +45,7 @@ public:
     /// An object with these keys and no others.
     void expectKeys(const QStringList& required, const QStringList& allowed) const;
     bool has(const char* key) const { return m_value->isMember(key); }
-    JsonPlace at(const char* key) const;
+    JsonPlace at(const QByteArray& key) const;
     QList<JsonPlace> entries() const; ///< of a list
     QStringList keys() const;         ///< of an object, in the file's order
 

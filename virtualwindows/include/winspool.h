@@ -15,6 +15,8 @@
 #define PRINTER_ENUM_CONNECTIONS 0x00000004U
 #define PRINTER_ENUM_NAME 0x00000008U
 #define PRINTER_ENUM_SHARED 0x00000020U
+#define PRINTER_ENUM_CONTAINER 0x00008000U
+#define PRINTER_ENUM_ICON1 0x00010000U
 #define PRINTER_ENUM_ICON8 0x00800000U
 
 #define PRINTER_ATTRIBUTE_QUEUED 0x00000001U
@@ -37,6 +39,8 @@
 #define PRINTER_CONTROL_RESUME 2U
 #define PRINTER_CONTROL_PURGE 3U
 #define PRINTER_CONTROL_SET_STATUS 4U
+
+#define DSPRINT_UNPUBLISH 0x00000004U
 
 #define PRINTER_CHANGE_ADD_PRINTER 0x00000001U
 #define PRINTER_CHANGE_SET_PRINTER 0x00000002U
@@ -103,6 +107,33 @@ struct PRINTER_INFO_2W
     DWORD Status;
     DWORD cJobs;
     DWORD AveragePPM;
+};
+
+struct PRINTER_INFO_4W
+{
+    LPWSTR pPrinterName;
+    LPWSTR pServerName;
+    DWORD Attributes;
+};
+
+struct PRINTER_INFO_5W
+{
+    LPWSTR pPrinterName;
+    LPWSTR pPortName;
+    DWORD Attributes;
+    DWORD DeviceNotSelectedTimeout;
+    DWORD TransmissionRetryTimeout;
+};
+
+struct PRINTER_INFO_6
+{
+    DWORD dwStatus;
+};
+
+struct PRINTER_INFO_7W
+{
+    LPWSTR pszObjectGUID;
+    DWORD dwAction;
 };
 
 struct DOC_INFO_1W

@@ -20,7 +20,7 @@ namespace virtualwindows {
 struct PrinterSetup
 {
     QString name{};
-    QString driver{};                          ///< null: the spooler reports a null pointer
+    QString driver{};                        ///< null: the spooler reports a null pointer
     QString port = QStringLiteral("USB001"); ///< null: the spooler reports a null pointer
     quint32 attributes = 0x40;               ///< PRINTER_ATTRIBUTE_* (default: local)
     quint32 status = 0;                      ///< PRINTER_STATUS_*
@@ -131,6 +131,7 @@ public:
 
     // The device registry, classes and devices in the order in which they are listed.
     void addDeviceClass(const QString& classGuid);
+    /// A key that the class has already stays as it is.
     void addDevice(const DeviceSetup& device);
 
     // The log of calls. Nothing is recorded until it is asked for.
