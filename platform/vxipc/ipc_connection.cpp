@@ -157,8 +157,11 @@ void IpcConnection::takeLine()
 void IpcConnection::startMessage(IpcDispatcher::Message message)
 {
     m_message = std::move(message);
-    if (m_message.failure)
-        write(*m_message.failure);
+    if (!m_message.failure)
+        return;
+    const QByteArray failure = *m_message.failure;
+    dropMessage();
+    write(failure);
 }
 
 void IpcConnection::handleNextRequest()

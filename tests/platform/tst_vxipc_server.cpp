@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
+#include "ipc_connection.h"
 #include "ipc_host_process.h"
 #include "ipc_raw_client.h"
 #include "ipc_test_service.h"
@@ -18,6 +19,7 @@
 #include <array>
 #include <cerrno>
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -65,6 +67,31 @@ QByteArray requestOfSize(qsizetype size)
     const QByteArray end = R"("]})";
     return begin + QByteArray(size - begin.size() - end.size(), 'x') + end;
 }
+
+/// Destroys something from the event loop, before whatever else waits there to be done.
+class Destroyer : public QObject
+{
+public:
+    explicit Destroyer(std::function<void()> destroy)
+        : m_destroy(std::move(destroy))
+    {}
+
+    void destroyFirst()
+    {
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
+    }
+
+    bool event(QEvent* event) override
+    {
+        if (event->type() != QEvent::User)
+            return QObject::event(event);
+        m_destroy();
+        return true;
+    }
+
+private:
+    std::function<void()> m_destroy;
+};
 
 #ifdef Q_OS_UNIX
 
@@ -184,6 +211,7 @@ private Q_SLOTS:
     void takesCallsDuringACall();
     void mayBeDestroyedByACall();
     void mayBeDestroyedWithLongLinesInWork();
+    void mayBeDestroyedAsAClientLeavesAfterALongBadLine();
 
 private:
     QString serverName();
@@ -1075,6 +1103,20 @@ void tst_VXIPCServer::mayBeDestroyedWithLongLinesInWork()
             QVERIFY(client->waitForClose());
         init();
     }
+}
+
+void tst_VXIPCServer::mayBeDestroyedAsAClientLeavesAfterALongBadLine()
+{
+    RawClient client(serverName());
+    // Long enough to be parsed on the other thread.
+    QCOMPARE(errorCode(object(client.exchange(QByteArray(100000, 'x')))), -32700);
+    auto* connection = m_service->findChild<IpcConnection*>();
+    QVERIFY(connection);
+
+    Destroyer destroyer([this] { m_service.reset(); });
+    connect(connection, &IpcConnection::finished, &destroyer, &Destroyer::destroyFirst);
+    client.socket().abort();
+    QTRY_VERIFY(!m_service);
 }
 
 QTEST_GUILESS_MAIN(tst_VXIPCServer)
