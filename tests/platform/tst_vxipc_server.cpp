@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "ipc_connection.h"
 #include "ipc_host_process.h"
+#include "ipc_publisher.h"
 #include "ipc_raw_client.h"
 #include "ipc_test_service.h"
 
@@ -18,6 +19,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -35,6 +37,8 @@
 
 #include <aclapi.h>
 #endif
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -209,6 +213,8 @@ private Q_SLOTS:
     void doesWhatAClientSentBeforeItLeft();
     void servesOthersDuringALongBatch();
     void takesCallsDuringACall();
+    void letsTheClientGoThatWasSilentLongest();
+    void letsNoClientGoThatWaitsForAnAnswer();
     void mayBeDestroyedByACall();
     void mayBeDestroyedWithLongLinesInWork();
     void mayBeDestroyedAsAClientLeavesAfterALongBadLine();
@@ -1069,6 +1075,59 @@ void tst_VXIPCServer::takesCallsDuringACall()
     QCOMPARE(object(waiting.receive())[QStringLiteral("result")].toString(),
              QStringLiteral("waited"));
     QCOMPARE(object(waiting.receive())[QStringLiteral("id")].toString(), QStringLiteral("n"));
+}
+
+void tst_VXIPCServer::letsTheClientGoThatWasSilentLongest()
+{
+    m_service->findChild<IpcPublisher*>()->setPatience(0ms);
+    const auto asks = [](RawClient& client) {
+        return client.call("scale", "[1]")[QStringLiteral("result")].toInt() == 10;
+    };
+    std::vector<std::unique_ptr<RawClient>> clients;
+    for (int i = 0; i < 64; ++i) {
+        clients.push_back(std::make_unique<RawClient>(serverName()));
+        QVERIFY(asks(*clients.back()));
+    }
+    QVERIFY(asks(*clients[0]));
+
+    RawClient next(serverName());
+    QVERIFY(asks(next));
+    QCOMPARE(errorCode(object(clients[1]->receive())), -32001);
+    QVERIFY(clients[1]->waitForClose());
+    clients.erase(clients.begin() + 1);
+    for (const auto& client : clients)
+        QVERIFY(asks(*client));
+}
+
+void tst_VXIPCServer::letsNoClientGoThatWaitsForAnAnswer()
+{
+    // On another thread, as the call that is waited for runs an event loop of its own.
+    QThread thread;
+    auto* service = new TestService(newServerType());
+    QTRY_VERIFY(!service->serverName().isEmpty());
+    const QString name = service->serverName();
+    service->findChild<IpcPublisher*>()->setPatience(0ms);
+    service->moveToThread(&thread);
+    connect(&thread, &QThread::finished, service, &QObject::deleteLater);
+    thread.start();
+    const auto end = qScopeGuard([&] {
+        thread.quit();
+        thread.wait();
+    });
+
+    RawClient waiting(name);
+    waiting.send(R"({"jsonrpc":"2.0","id":"w","method":"wait"})"
+                 "\n");
+    std::vector<std::unique_ptr<RawClient>> clients;
+    for (int i = 0; i < 63; ++i) {
+        clients.push_back(std::make_unique<RawClient>(name));
+        QTRY_VERIFY(clients.back()->call("isWaiting")[QStringLiteral("result")].toBool());
+    }
+    RawClient next(name);
+    QVERIFY(next.call("release").contains(QStringLiteral("result")));
+    QCOMPARE(object(waiting.receive())[QStringLiteral("result")].toString(),
+             QStringLiteral("waited"));
+    QCOMPARE(errorCode(object(clients[0]->receive())), -32001);
 }
 
 void tst_VXIPCServer::mayBeDestroyedByACall()
