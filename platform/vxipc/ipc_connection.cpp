@@ -55,6 +55,13 @@ void IpcConnection::takeTurn()
     work();
 }
 
+std::optional<std::chrono::steady_clock::time_point> IpcConnection::silentSince() const
+{
+    if (m_isParsing || m_message.size > 0)
+        return std::nullopt;
+    return m_lastRequest;
+}
+
 void IpcConnection::onReadyRead()
 {
     // Together, many that each take a whole turn would keep those waiting who take little.
@@ -157,12 +164,16 @@ void IpcConnection::takeLine()
 void IpcConnection::startMessage(IpcDispatcher::Message message)
 {
     m_message = std::move(message);
-    if (m_message.failure)
-        write(*m_message.failure);
+    if (!m_message.failure)
+        return;
+    const QByteArray failure = *m_message.failure;
+    dropMessage();
+    write(failure);
 }
 
 void IpcConnection::handleNextRequest()
 {
+    m_lastRequest = std::chrono::steady_clock::now();
     const QPointer<IpcConnection> self(this);
     const std::optional<QByteArray> answered =
         m_dispatcher.handle(m_message.request(m_nextRequest++));

@@ -9,6 +9,9 @@
 #include <QtCore/QFutureWatcher>
 #include <QtCore/QObject>
 
+#include <chrono>
+#include <optional>
+
 class QLocalSocket;
 
 /// One client of an endpoint, for as long as it is connected and after that until what it sent is
@@ -35,6 +38,9 @@ public:
     /// the client does.
     void refuse(const JsonRpc::Error& error);
     bool isRefused() const { return m_isRefused; }
+
+    /// When the client asked last, or came; nothing while something it asked is being done.
+    std::optional<std::chrono::steady_clock::time_point> silentSince() const;
 
 Q_SIGNALS:
     /// There is more to do than the client's turn had time for.
@@ -72,6 +78,7 @@ private:
     IpcDispatcher::Message m_message;
     qsizetype m_nextRequest = 0;
     QByteArray m_answers;
+    std::chrono::steady_clock::time_point m_lastRequest = std::chrono::steady_clock::now();
 
     bool m_isInTurn = false;
     bool m_isTurnWanted = false;

@@ -14,7 +14,8 @@ namespace {
 
 bool canBeId(const QJsonValue& id)
 {
-    return id.isString() || id.isDouble() || id.isNull();
+    return id.isDouble() || id.isNull() ||
+           (id.isString() && id.toString().size() <= JsonRpc::MaximumText);
 }
 
 /// A request's members, each looked up once.
@@ -40,7 +41,8 @@ QString defectOf(const Request& request)
     if (!request.method.isString())
         return QStringLiteral("\"method\" must be a text");
     if (!request.id.isUndefined() && !canBeId(request.id))
-        return QStringLiteral("\"id\" must be a text, a number or null");
+        return QStringLiteral("\"id\" must be a text of at most %1 characters, a number or null")
+            .arg(JsonRpc::MaximumText);
     if (!request.parameters.isUndefined() && !request.parameters.isArray() &&
         !request.parameters.isObject())
         return QStringLiteral("\"params\" must be a list or an object");

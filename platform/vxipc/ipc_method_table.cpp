@@ -18,6 +18,16 @@ JsonRpc::Error invalidParams(const QString& message, const QJsonObject& data = {
     return {JsonRpc::InvalidParams, QStringLiteral("Invalid params: ") + message, data};
 }
 
+/// As much of a name that a client sent as an error message repeats.
+QString excerpt(const QString& name)
+{
+    constexpr qsizetype Most = 100;
+    if (name.size() <= Most)
+        return name;
+    // No half of a character that takes two.
+    return name.first(name.at(Most - 1).isHighSurrogate() ? Most - 1 : Most) + QStringLiteral("…");
+}
+
 bool isCallable(const QMetaMethod& method)
 {
     return method.methodType() == QMetaMethod::Slot && method.access() == QMetaMethod::Public;
@@ -39,12 +49,17 @@ bool begins(const QMetaMethod& slot, const QMetaMethod& shorter)
 IpcMethodTable::IpcMethodTable(QObject& object, const QMetaObject& base)
     : m_object(object)
 {
+    const auto* server = qobject_cast<const VXIPCServer*>(&object);
     const QMetaObject& meta = *object.metaObject();
     for (int i = base.methodCount(); i < meta.methodCount(); ++i) {
         if (!isCallable(meta.method(i)))
             continue;
-        if (const std::optional<Method> method = readMethod(meta.method(i)))
-            add(*method);
+        std::optional<Method> method = readMethod(meta.method(i));
+        if (!method)
+            continue;
+        if (server)
+            method->check = server->m_callChecks.value(method->slot.name());
+        add(*method);
     }
 }
 
@@ -55,7 +70,8 @@ std::optional<IpcMethodTable::Method> IpcMethodTable::readMethod(const QMetaMeth
         return std::nullopt;
 
     Method method{
-        slot, result, {}, slot.parameterCount(), (slot.attributes() & QMetaMethod::Cloned) != 0};
+        slot, result, {}, slot.parameterCount(), (slot.attributes() & QMetaMethod::Cloned) != 0,
+        {}};
     const QList<QByteArray> names = slot.parameterNames();
     for (int i = 0; i < slot.parameterCount(); ++i) {
         const QMetaType type = slot.parameterMetaType(i);
@@ -97,6 +113,12 @@ IpcMethodTable::Outcome IpcMethodTable::call(const QString& name,
     Match chosen = choose(name, parameters);
     if (chosen.error)
         return {{}, std::move(chosen.error)};
+    if (const VXIPCServer::CallCheck& check = chosen.method->check) {
+        const QVariantList arguments(chosen.arguments.cbegin(), chosen.arguments.cend());
+        if (const QString objection = check(arguments); !objection.isEmpty())
+            return {{},
+                    JsonRpc::Error{JsonRpc::Refused, QStringLiteral("Refused: ") + objection, {}}};
+    }
 
     const QMetaType resultType = chosen.method->result;
     QVariant result;
@@ -123,7 +145,7 @@ IpcMethodTable::Match IpcMethodTable::choose(const QString& name,
     if (overloads == m_overloads.cend()) {
         Match none;
         none.error = {
-            JsonRpc::MethodNotFound, QStringLiteral("Method not found: %1").arg(name), {}};
+            JsonRpc::MethodNotFound, QStringLiteral("Method not found: %1").arg(excerpt(name)), {}};
         return none;
     }
     // Of those that fit, the best; of those that do not, the one that came closest says why.
@@ -175,8 +197,9 @@ IpcMethodTable::Match IpcMethodTable::matchNamed(const Method& method, const QJs
         if (std::any_of(method.parameters.cbegin(), method.parameters.cend(),
                         [&](const Parameter& each) { return each.name == name; }))
             continue;
-        failed.error = invalidParams(QStringLiteral("there is no argument \"%1\"").arg(name),
-                                     {{QStringLiteral("argument"), name}});
+        const QString shown = excerpt(name);
+        failed.error = invalidParams(QStringLiteral("there is no argument \"%1\"").arg(shown),
+                                     {{QStringLiteral("argument"), shown}});
         return failed;
     }
 
@@ -202,13 +225,19 @@ IpcMethodTable::Match IpcMethodTable::matchArguments(const Method& method,
     match.isOfRightCount = true;
     for (qsizetype i = 0; const QJsonValue& argument : given) {
         const Parameter& parameter = method.parameters.at(i++);
+        const auto misfit = [&](const QString& expected, const QString& got) {
+            return invalidParams(QStringLiteral("argument %1 (%2): expected %3, got %4")
+                                     .arg(QString::number(i), parameter.name, expected, got),
+                                 {{QStringLiteral("argument"), parameter.name},
+                                  {QStringLiteral("expected"), expected}});
+        };
+        if (const auto excess = IpcValues::excessOf(argument)) {
+            match.error = misfit(excess->expected, QString::number(excess->found));
+            return match;
+        }
         IpcValues::Converted converted = IpcValues::fromJson(argument, parameter.type);
         if (converted.fit == IpcValues::Fit::None) {
-            match.error = invalidParams(QStringLiteral("argument %1 (%2): expected %3, got %4")
-                                            .arg(QString::number(i), parameter.name,
-                                                 converted.expected, IpcValues::kindOf(argument)),
-                                        {{QStringLiteral("argument"), parameter.name},
-                                         {QStringLiteral("expected"), converted.expected}});
+            match.error = misfit(converted.expected, IpcValues::kindOf(argument));
             return match;
         }
         match.fit += static_cast<int>(converted.fit);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "json_rpc.h"
+#include "vxipcserver.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QHash>
@@ -55,6 +56,8 @@ private:
         qsizetype required = 0;
         /// Whether this is a shorter way to call the entry before, leaving a default argument out.
         bool isShortened = false;
+        /// What the object has to say on each call; may be empty.
+        VXIPCServer::CallCheck check;
     };
 
     /// Room for so many saves calls from allocating it.

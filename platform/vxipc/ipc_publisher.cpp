@@ -114,14 +114,35 @@ void IpcPublisher::onNewConnection()
         const auto served =
             std::count_if(m_connections.cbegin(), m_connections.cend(),
                           [](const IpcConnection* each) { return !each->isRefused(); });
+        IpcConnection* silent = served >= JsonRpc::MaximumClients ? longestSilent() : nullptr;
         m_connections.append(connection);
-        if (served >= JsonRpc::MaximumClients) {
+        if (silent) {
+            silent->refuse({JsonRpc::TooManyClients,
+                            QStringLiteral("Too many clients: another takes the place of this one, "
+                                           "which has asked nothing for a while"),
+                            {}});
+        } else if (served >= JsonRpc::MaximumClients) {
             connection->refuse({JsonRpc::TooManyClients,
                                 QStringLiteral("Too many clients: at most %1 are served at a time")
                                     .arg(JsonRpc::MaximumClients),
                                 {}});
         }
     }
+}
+
+/// The client that may be let go when another waits, if there is one.
+IpcConnection* IpcPublisher::longestSilent() const
+{
+    IpcConnection* longest = nullptr;
+    auto earliest = std::chrono::steady_clock::now() - m_patience;
+    for (IpcConnection* connection : m_connections) {
+        const auto since = connection->silentSince();
+        if (connection->isRefused() || !since || *since > earliest)
+            continue;
+        longest = connection;
+        earliest = *since;
+    }
+    return longest;
 }
 
 void IpcPublisher::onTurnWanted(IpcConnection* connection)

@@ -9,6 +9,7 @@
 #include <QtCore/QString>
 #include <QtNetwork/QLocalServer>
 
+#include <chrono>
 #include <memory>
 
 class IpcConnection;
@@ -30,9 +31,14 @@ public:
     /// Empty while nothing is published.
     QString name() const { return m_name; }
 
+    /// How long a client may ask nothing, a minute unless set, before it is let go when another one
+    /// waits for its place.
+    void setPatience(std::chrono::milliseconds patience) { m_patience = patience; }
+
 private:
     void listen(const QString& name);
     void onNewConnection();
+    IpcConnection* longestSilent() const;
     void onTurnWanted(IpcConnection* connection);
     void onFinished(IpcConnection* connection);
     void giveTurn();
@@ -42,6 +48,7 @@ private:
     const QMetaObject& m_base;
     QLocalServer m_server;
     QString m_name;
+    std::chrono::milliseconds m_patience = std::chrono::minutes(1);
     /// Made with the first client, when the object is surely whole.
     std::unique_ptr<IpcDispatcher> m_dispatcher;
     QList<IpcConnection*> m_connections;

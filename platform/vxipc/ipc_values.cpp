@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "ipc_values.h"
 
+#include "json_rpc.h"
 #include "json_writer.h"
 
 #include <QtCore/QHash>
@@ -402,7 +403,64 @@ QJsonObject recordSchema(QMetaType type, QJsonObject& records)
     return {{QStringLiteral("$ref"), QStringLiteral("#/components/schemas/") + name}};
 }
 
+std::optional<Excess> beyond(qsizetype found, qsizetype most, const QString& expected)
+{
+    if (found <= most)
+        return std::nullopt;
+    return Excess{expected.arg(most), found};
+}
+
+std::optional<Excess> excessOfText(const QString& text)
+{
+    return beyond(text.size(), JsonRpc::MaximumText,
+                  QStringLiteral("a text of at most %1 characters"));
+}
+
+std::optional<Excess> excessOf(const QJsonValue& json, qsizetype& values);
+
+std::optional<Excess> excessOfList(const QJsonArray& array, qsizetype& values)
+{
+    auto excess = beyond(array.size(), JsonRpc::MaximumEntries,
+                         QStringLiteral("a list of at most %1 entries"));
+    for (auto entry = array.begin(); !excess && entry != array.end(); ++entry)
+        excess = excessOf(*entry, values);
+    return excess;
+}
+
+std::optional<Excess> excessOfObject(const QJsonObject& object, qsizetype& values)
+{
+    auto excess = beyond(object.size(), JsonRpc::MaximumEntries,
+                         QStringLiteral("an object of at most %1 members"));
+    for (auto member = object.begin(); !excess && member != object.end(); ++member) {
+        excess = excessOfText(member.key());
+        if (!excess)
+            excess = excessOf(*member, values);
+    }
+    return excess;
+}
+
+/// `values` counts those that have been looked at so far.
+std::optional<Excess> excessOf(const QJsonValue& json, qsizetype& values)
+{
+    if (auto excess = beyond(++values, JsonRpc::MaximumValues,
+                             QStringLiteral("at most %1 values, nested ones included")))
+        return excess;
+    if (json.isString())
+        return excessOfText(json.toString());
+    if (json.isArray())
+        return excessOfList(json.toArray(), values);
+    if (json.isObject())
+        return excessOfObject(json.toObject(), values);
+    return std::nullopt;
+}
+
 } // namespace
+
+std::optional<Excess> excessOf(const QJsonValue& json)
+{
+    qsizetype values = 0;
+    return excessOf(json, values);
+}
 
 bool isSupported(QMetaType type)
 {

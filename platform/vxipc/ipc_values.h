@@ -8,6 +8,8 @@
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
+#include <optional>
+
 class JsonWriter;
 
 /// How the values of slots cross as JSON.
@@ -30,6 +32,17 @@ struct Converted
     /// What would have fitted, for the error message; empty when something did.
     QString expected;
 };
+
+/// A bound that a value exceeds.
+struct Excess
+{
+    /// What is within the bound, and how many of what it counts there are instead.
+    QString expected;
+    qsizetype found = 0;
+};
+
+/// The first bound on what another process may send as an argument that `json` exceeds.
+std::optional<Excess> excessOf(const QJsonValue& json);
 
 /// Whether values of `type` can cross: as an argument too, or as a result.
 bool isSupported(QMetaType type);

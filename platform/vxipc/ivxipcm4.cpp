@@ -2,8 +2,37 @@
 // Copyright The VxPrinterStatus authors
 #include "ivxipcm4.h"
 
+namespace {
+
+constexpr qsizetype MaximumPrinters = 4096;
+/// Two backslashes, the print server's DNS name (255, Microsoft's page "Computer Names",
+/// learn.microsoft.com/windows/win32/sysinfo/computer-names), a backslash, and the printer's own
+/// name (220, ReactOS, win32ss/printing/providers/localspl/precomp.h, MAX_PRINTER_NAME).
+constexpr qsizetype MaximumNameLength = 2 + 255 + 1 + 220;
+
+} // namespace
+
 IVXIPCM4::IVXIPCM4(int serverType, QObject* parent)
     : VXIPCServer(serverType, parent)
-{}
+{
+    checkCalls(QByteArrayLiteral("onStatusChanged"), [this](const QVariantList& arguments) {
+        return objectionToKeeping(arguments.value(1).toString());
+    });
+}
 
 IVXIPCM4::~IVXIPCM4() = default;
+
+QString IVXIPCM4::objectionToKeeping(const QString& printerName)
+{
+    if (printerName.size() > MaximumNameLength) {
+        return QStringLiteral("a printer's name has at most %1 characters, got %2")
+            .arg(MaximumNameLength)
+            .arg(printerName.size());
+    }
+    if (m_reportedPrinters.size() >= MaximumPrinters && !m_reportedPrinters.contains(printerName)) {
+        return QStringLiteral("%1 printers were reported by other processes, and no more are kept")
+            .arg(MaximumPrinters);
+    }
+    m_reportedPrinters.insert(printerName);
+    return {};
+}

@@ -4,6 +4,7 @@
 
 #include "vxipcserver.h"
 
+#include <QtCore/QSet>
 #include <QtCore/QString>
 
 /// The printer-controller service: a printer's controller board as other processes may ask and
@@ -11,6 +12,10 @@
 ///
 /// The order of the slots, their argument names and their default arguments are the service's
 /// method table, which its clients are built for.
+///
+/// An endpoint may have a slot `onStatusChanged(int status, QString printerName)` besides, and keep
+/// each name for as long as it lives. So other processes may report 4096 names to it, each as long
+/// as a printer's can be on Windows (478 characters with its print server's), and no more.
 class IVXIPCM4 : public VXIPCServer
 {
     Q_OBJECT
@@ -101,4 +106,10 @@ public Q_SLOTS:
     virtual int tach4Tension() = 0;
     virtual void printJobStart(uint addr) = 0;
     virtual void printJobAdded(uint addr) = 0;
+
+private:
+    QString objectionToKeeping(const QString& printerName);
+
+    /// Those that other processes have reported.
+    QSet<QString> m_reportedPrinters;
 };

@@ -23,11 +23,17 @@ enum ErrorCode : int
     LineTooLong = -32000,
     TooManyClients = -32001,
     AnswerTooLong = -32002,
+    Refused = -32003,
 };
 
 inline constexpr qsizetype MaximumLine = qsizetype{1} << 20;
 inline constexpr qsizetype MaximumClients = 64;
 inline constexpr qsizetype MaximumAnswers = qsizetype{4} << 20;
+/// What an argument may hold, so that no call takes the endpoint's thread for long: characters of a
+/// text, entries of a list or members of an object, and values in all where these are nested.
+inline constexpr qsizetype MaximumText = 4096;
+inline constexpr qsizetype MaximumEntries = 64;
+inline constexpr qsizetype MaximumValues = 1024;
 
 /// The error object of an answer.
 struct Error

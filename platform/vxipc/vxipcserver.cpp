@@ -26,3 +26,8 @@ QString VXIPCServer::serverName() const
 {
     return m_publisher ? m_publisher->name() : QString();
 }
+
+void VXIPCServer::checkCalls(const QByteArray& slotName, CallCheck check)
+{
+    m_callChecks.insert(slotName, std::move(check));
+}

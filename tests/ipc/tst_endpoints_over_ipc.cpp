@@ -572,6 +572,7 @@ private Q_SLOTS:
     void gathersWhatIsAskedFor();
     void sharesOneDatabaseAmongPrintersNeverAdded();
     void keepsTheStatusOfPrinters();
+    void keepsAsManyStatusesForOthersAsThereMayBe();
     void keepsNoJob();
 
 private:
@@ -951,6 +952,46 @@ void EndpointsOverIpcTest::keepsTheStatusOfPrinters()
     QCOMPARE(status(Loaded), -1);
     QVERIFY(call(Printers, u"onStatusChanged"_s, QJsonArray{3, u""_s}).isNull());
     QCOMPARE(status({}), 3);
+}
+
+void EndpointsOverIpcTest::keepsAsManyStatusesForOthersAsThereMayBe()
+{
+    // A host of its own, as the names stay.
+    HostProcess host(u"endpoint_host"_s, {}, int(ServiceCount));
+    VXIPCClient client(host.serverName(Printers));
+    const auto report = [&](int status, const QString& printer) {
+        const VXIPCReply reply =
+            client.callAndWait(u"onStatusChanged"_s, QJsonArray{status, printer});
+        return reply.isOk() ? QString()
+                            : u"%1 %2"_s.arg(reply.error->code).arg(reply.error->message);
+    };
+    const auto status = [&](const QString& printer) {
+        return client.callAndWait(u"getPrinterStatus"_s, QJsonArray{printer}).result.toInt();
+    };
+
+    // "\\\\SERVER\\PRINTER" with names of 255 and 220 characters: Microsoft's page "Computer Names"
+    // (learn.microsoft.com/windows/win32/sysinfo/computer-names), and ReactOS,
+    // win32ss/printing/providers/localspl/precomp.h, MAX_PRINTER_NAME.
+    const QString longestName(478, u'n');
+    QCOMPARE(report(1, longestName), QString());
+    QCOMPARE(report(1, longestName + u'n'),
+             u"-32003 Refused: a printer's name has at most 478 characters, got 479"_s);
+    QCOMPARE(status(longestName + u'n'), 255);
+
+    int refused = 0;
+    for (int i = 1; i < 4096; ++i)
+        refused += report(i, u"printer %1"_s.arg(i)).isEmpty() ? 0 : 1;
+    QCOMPARE(refused, 0);
+    QCOMPARE(
+        report(1, u"one more"_s),
+        u"-32003 Refused: 4096 printers were reported by other processes, and no more are kept"_s);
+    QCOMPARE(status(u"one more"_s), 255);
+    // Those that are kept still change.
+    QCOMPARE(status(u"printer 4095"_s), 4095);
+    QCOMPARE(report(7, u"printer 4095"_s), QString());
+    QCOMPARE(status(u"printer 4095"_s), 7);
+    QCOMPARE(report(8, longestName), QString());
+    QCOMPARE(status(longestName), 8);
 }
 
 void EndpointsOverIpcTest::keepsNoJob()

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void knowsNoStatusThatWasNotReported();
     void keepsTheLastStatusOfEachName();
     void keepsStatusesApart();
+    void keepsWhateverItsOwnProcessReports();
     void answersAMessageWithAndWithoutItsValue();
     void keepsNoJob();
 
@@ -54,6 +55,20 @@ void PlaceholderEndpointsTest::keepsStatusesApart()
     VXIPCM4Controller second;
     first.onStatusChanged(1, QStringLiteral("CedarMax"));
     QCOMPARE(second.getPrinterStatus(QStringLiteral("CedarMax")), 255);
+}
+
+void PlaceholderEndpointsTest::keepsWhateverItsOwnProcessReports()
+{
+    // More names, and longer ones, than other processes may leave.
+    VXIPCM4Controller printers;
+    constexpr int Names = 5000;
+    for (int i = 0; i < Names; ++i)
+        printers.onStatusChanged(i, QStringLiteral("printer %1").arg(i));
+    for (int i = 0; i < Names; ++i)
+        QCOMPARE(printers.getPrinterStatus(QStringLiteral("printer %1").arg(i)), i);
+    const QString longName(100000, QLatin1Char('n'));
+    printers.onStatusChanged(7, longName);
+    QCOMPARE(printers.getPrinterStatus(longName), 7);
 }
 
 void PlaceholderEndpointsTest::answersAMessageWithAndWithoutItsValue()

@@ -58,9 +58,16 @@ class TestService : public TestInterface
 public:
     explicit TestService(int serverType, QObject* parent = nullptr)
         : TestInterface(serverType, parent)
-    {}
+    {
+        checkCalls("keep", [this](const QVariantList& arguments) {
+            return kept.size() < 2 ? QString()
+                                   : QStringLiteral("two are enough, keep \"%1\" yourself")
+                                         .arg(arguments.value(0).toString());
+        });
+    }
 
     QStringList log;
+    QStringList kept;
     bool isSecretTold = false;
 
 public Q_SLOTS:
@@ -98,6 +105,9 @@ public Q_SLOTS:
 
     void note(QString entry) { log.append(entry); }
     QStringList notes() { return log; }
+
+    /// Other processes may call it twice.
+    void keep(QString entry) { kept.append(entry); }
 
     QByteArray zeroes(int count) { return {count, '\0'}; }
     /// Takes calls while it is being called, until `release` is.

@@ -3,6 +3,7 @@
 #include "ipc_host_process.h"
 #include "ipc_raw_client.h"
 #include "ipc_test_service.h"
+#include "json_rpc.h"
 #include "vxipcclient.h"
 
 #include <QtCore/QElapsedTimer>
@@ -14,6 +15,7 @@
 #include <QtTest/QTest>
 
 #include <memory>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -43,6 +45,39 @@ public:
     }
 };
 
+/// A server that dies in the middle of its first answer and answers each call after that with the
+/// number of the call.
+class DyingServer : public QLocalServer
+{
+public:
+    explicit DyingServer(const QString& name)
+    {
+        setSocketOptions(UserAccessOption);
+        listen(VXIPCClient::address(name));
+        connect(this, &QLocalServer::newConnection, this, [this] {
+            QLocalSocket* socket = nextPendingConnection();
+            connect(socket, &QLocalSocket::readyRead, socket, [this, socket] { answer(*socket); });
+        });
+    }
+
+private:
+    void answer(QLocalSocket& socket)
+    {
+        while (socket.canReadLine()) {
+            const QJsonValue id = QJsonDocument::fromJson(socket.readLine())[QStringLiteral("id")];
+            const QByteArray line = JsonRpc::success(id, QByteArray::number(id.toInteger()));
+            if (std::exchange(m_isFirst, false)) {
+                socket.write(line.first(line.size() / 2));
+                socket.disconnectFromServer();
+                return;
+            }
+            socket.write(line);
+        }
+    }
+
+    bool m_isFirst = true;
+};
+
 } // namespace
 
 class tst_VXIPCClient : public QObject
@@ -59,6 +94,7 @@ private Q_SLOTS:
     void givesUpWaitingInTime();
     void takesNoLateAnswerForAnother();
     void losesACallWithItsProcess();
+    void forgetsHalfAnAnswerOfAServerThatDied();
     void refusesToSendALineThatIsTooLong();
 
     void callsWithoutWaiting();
@@ -192,15 +228,39 @@ void tst_VXIPCClient::losesACallWithItsProcess()
     QLocalServer::removeServer(VXIPCClient::address(host.serverName()));
 }
 
+void tst_VXIPCClient::forgetsHalfAnAnswerOfAServerThatDied()
+{
+    const int serverType = newServerType();
+    // Makes the folder that endpoints live in, where there is none yet.
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const DyingServer server(nameOf(serverType));
+    QVERIFY(server.isListening());
+    VXIPCClient client(serverType);
+    std::optional<VXIPCReply> first;
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) { first = reply; });
+    QTRY_VERIFY(first);
+    QCOMPARE(first->error->code, int(VXIPCError::ConnectionLost));
+    std::optional<VXIPCReply> second;
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) { second = reply; });
+    QTRY_VERIFY(second);
+    QVERIFY2(second->isOk(), qPrintable(second->error.value_or(VXIPCError()).message));
+    QCOMPARE(second->result.toInt(), 2);
+}
+
 void tst_VXIPCClient::refusesToSendALineThatIsTooLong()
 {
     VXIPCClient client(m_name);
-    const QString text(1 << 20, QLatin1Char('x'));
-    QCOMPARE(client.callAndWait(QStringLiteral("echo"), QJsonArray{text}).error->code, -32000);
-    QCOMPARE(client.callAndWait(QStringLiteral("echo"), QJsonArray{text.chopped(1000)})
-                 .result.toString()
-                 .size(),
-             text.size() - 1000);
+    // A line of the greatest length that an endpoint reads, its end not counted, and one byte more.
+    // The calls have numbers of one digit.
+    const QByteArray bare = JsonRpc::request(QString(), QJsonArray(), 1);
+    const QString longest(JsonRpc::MaximumLine + 1 - bare.size(), QLatin1Char('x'));
+    QCOMPARE(client.callAndWait(longest, QJsonArray()).error->code, -32601);
+    QCOMPARE(client.callAndWait(longest + QLatin1Char('x'), QJsonArray()).error->code, -32000);
+    // It was not sent: the endpoint would have ended the connection.
+    QSignalSpy disconnected(&client, &VXIPCClient::disconnected);
+    QCOMPARE(client.callAndWait(QStringLiteral("scale"), QJsonArray{1}).result.toInt(), 10);
+    QVERIFY(disconnected.isEmpty());
 }
 
 void tst_VXIPCClient::callsWithoutWaiting()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
+#include "ipc_connection.h"
 #include "ipc_host_process.h"
+#include "ipc_publisher.h"
 #include "ipc_raw_client.h"
 #include "ipc_test_service.h"
 
@@ -17,7 +19,9 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -33,6 +37,8 @@
 
 #include <aclapi.h>
 #endif
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -61,10 +67,57 @@ QJsonObject object(const QByteArray& line)
 /// A request of exactly `size` bytes, without the line end.
 QByteArray requestOfSize(qsizetype size)
 {
-    const QByteArray begin = R"({"jsonrpc":"2.0","id":1,"method":"note","params":[")";
-    const QByteArray end = R"("]})";
-    return begin + QByteArray(size - begin.size() - end.size(), 'x') + end;
+    const QByteArray begin = R"({"jsonrpc":"2.0","id":1,"method":"note","params":["x"])";
+    return begin + QByteArray(size - begin.size() - 1, ' ') + '}';
 }
+
+QByteArray textOfSize(qsizetype size)
+{
+    return '"' + QByteArray(size, 'x') + '"';
+}
+
+/// A list, or what is between its brackets.
+QByteArray entries(qsizetype count, const QByteArray& entry)
+{
+    return entry + (',' + entry).repeated(count - 1);
+}
+QByteArray list(qsizetype count, const QByteArray& entry)
+{
+    return '[' + entries(count, entry) + ']';
+}
+
+QByteArray objectOfSize(qsizetype members)
+{
+    QByteArrayList all;
+    for (qsizetype i = 0; i < members; ++i)
+        all.append("\"m" + QByteArray::number(i) + "\":1");
+    return '{' + all.join(',') + '}';
+}
+
+/// Destroys something from the event loop, before whatever else waits there to be done.
+class Destroyer : public QObject
+{
+public:
+    explicit Destroyer(std::function<void()> destroy)
+        : m_destroy(std::move(destroy))
+    {}
+
+    void destroyFirst()
+    {
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
+    }
+
+    bool event(QEvent* event) override
+    {
+        if (event->type() != QEvent::User)
+            return QObject::event(event);
+        m_destroy();
+        return true;
+    }
+
+private:
+    std::function<void()> m_destroy;
+};
 
 #ifdef Q_OS_UNIX
 
@@ -140,6 +193,12 @@ private Q_SLOTS:
     void choosesTheOverload();
     void refusesBadParameters_data();
     void refusesBadParameters();
+    void takesArgumentsAtTheirBounds_data();
+    void takesArgumentsAtTheirBounds();
+    void refusesArgumentsBeyondTheirBounds_data();
+    void refusesArgumentsBeyondTheirBounds();
+    void refusesCallsThatTheEndpointObjectsTo();
+    void repeatsNoLongNameInAnError();
     void refusesBadRequests_data();
     void refusesBadRequests();
     void answersUnderTheId_data();
@@ -182,8 +241,12 @@ private Q_SLOTS:
     void doesWhatAClientSentBeforeItLeft();
     void servesOthersDuringALongBatch();
     void takesCallsDuringACall();
+    void readsNoMoreThanItWorksOn();
+    void letsTheClientGoThatWasSilentLongest();
+    void letsNoClientGoThatWaitsForAnAnswer();
     void mayBeDestroyedByACall();
     void mayBeDestroyedWithLongLinesInWork();
+    void mayBeDestroyedAsAClientLeavesAfterALongBadLine();
 
 private:
     QString serverName();
@@ -379,6 +442,116 @@ void tst_VXIPCServer::refusesBadParameters()
     QCOMPARE(client.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
 }
 
+void tst_VXIPCServer::takesArgumentsAtTheirBounds_data()
+{
+    QTest::addColumn<QByteArray>("method");
+    QTest::addColumn<QByteArray>("argument");
+
+    const QByteArray text = textOfSize(4096);
+    QTest::newRow("text") << QByteArray("echo") << text;
+    QTest::newRow("bytes") << QByteArray("reversed") << '"' + QByteArray(4096, 'A') + '"';
+    QTest::newRow("texts") << QByteArray("sorted") << list(64, text);
+    QTest::newRow("list") << QByteArray("listEcho") << list(64, "1");
+    QTest::newRow("nested lists") << QByteArray("listEcho") << list(31, list(32, "1"));
+    QTest::newRow("object") << QByteArray("hashEcho") << objectOfSize(64);
+    QTest::newRow("object with a long name") << QByteArray("mapEcho") << '{' + text + ":1}";
+}
+
+void tst_VXIPCServer::takesArgumentsAtTheirBounds()
+{
+    QFETCH(const QByteArray, method);
+    QFETCH(const QByteArray, argument);
+
+    RawClient client(serverName());
+    const QJsonObject answer = client.call(method, '[' + argument + ']');
+    QVERIFY2(!answer.contains(QStringLiteral("error")), qPrintable(errorMessage(answer)));
+    QCOMPARE(answer[QStringLiteral("result")], parsed(argument));
+}
+
+void tst_VXIPCServer::refusesArgumentsBeyondTheirBounds_data()
+{
+    QTest::addColumn<QByteArray>("method");
+    QTest::addColumn<QByteArray>("argument");
+    QTest::addColumn<QString>("complaint");
+
+    const auto row = [](const char* name, const char* method, const QByteArray& argument,
+                        const char* complaint) {
+        QTest::newRow(name) << QByteArray(method) << argument << QString::fromLatin1(complaint);
+    };
+    const QByteArray text = textOfSize(4097);
+    const char* longText = "expected a text of at most 4096 characters, got 4097";
+    row("text", "echo", text, longText);
+    row("text of a mebibyte", "echo", textOfSize(1000000),
+        "expected a text of at most 4096 characters, got 1000000");
+    row("decimal text", "wideEcho", '"' + QByteArray(4097, '0') + '"', longText);
+    row("bytes", "reversed", '"' + QByteArray(4100, 'A') + '"',
+        "expected a text of at most 4096 characters, got 4100");
+    row("texts", "sorted", list(65, R"("x")"), "expected a list of at most 64 entries, got 65");
+    row("many texts", "sorted", list(250000, R"("")"),
+        "expected a list of at most 64 entries, got 250000");
+    row("a long text among texts", "sorted", list(1, text), longText);
+    row("list", "listEcho", list(65, "1"), "expected a list of at most 64 entries, got 65");
+    row("list in a list", "listEcho", list(1, list(65, "1")),
+        "expected a list of at most 64 entries, got 65");
+    row("text in an object in a list", "listEcho", R"([{"k":)" + text + "}]", longText);
+    row("lists of lists", "listEcho", list(64, list(64, "1")),
+        "expected at most 1024 values, nested ones included, got 1025");
+    row("object", "hashEcho", objectOfSize(65), "expected an object of at most 64 members, got 65");
+    row("long name in an object", "mapEcho", '{' + text + ":1}", longText);
+    row("record", "recordEcho", R"({"panels":)" + list(65, R"("x")") + '}',
+        "expected a list of at most 64 entries, got 65");
+    row("any", "anyEcho", list(65, "1"), "expected a list of at most 64 entries, got 65");
+}
+
+void tst_VXIPCServer::refusesArgumentsBeyondTheirBounds()
+{
+    QFETCH(const QByteArray, method);
+    QFETCH(const QByteArray, argument);
+    QFETCH(const QString, complaint);
+
+    RawClient client(serverName());
+    const QJsonObject answer = client.call(method, '[' + argument + ']');
+    QCOMPARE(errorCode(answer), -32602);
+    QVERIFY2(errorMessage(answer).startsWith(QStringLiteral("Invalid params: argument 1 (")) &&
+                 errorMessage(answer).endsWith(complaint),
+             qPrintable(errorMessage(answer)));
+    QCOMPARE(client.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
+}
+
+void tst_VXIPCServer::refusesCallsThatTheEndpointObjectsTo()
+{
+    RawClient client(serverName());
+    QVERIFY(client.call("keep", R"(["a"])")[QStringLiteral("result")].isNull());
+    QVERIFY(client.call("keep", R"(["b"])")[QStringLiteral("result")].isNull());
+    const QJsonObject answer = client.call("keep", R"(["c"])");
+    QCOMPARE(errorCode(answer), -32003);
+    QCOMPARE(errorMessage(answer), QStringLiteral("Refused: two are enough, keep \"c\" yourself"));
+    // A notification is refused as well, and a call by name.
+    client.send(R"({"jsonrpc":"2.0","method":"keep","params":{"entry":"d"}})"
+                "\n");
+    QCOMPARE(client.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
+    QCOMPARE(m_service->kept, (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
+    // The endpoint's own process may.
+    m_service->keep(QStringLiteral("e"));
+    QCOMPARE(m_service->kept.size(), 3);
+}
+
+void tst_VXIPCServer::repeatsNoLongNameInAnError()
+{
+    RawClient client(serverName());
+    const QByteArray name(100000, 'n');
+    const QString start(100, QLatin1Char('n'));
+    const QJsonObject noMethod = client.call(name);
+    QCOMPARE(errorCode(noMethod), -32601);
+    QCOMPARE(errorMessage(noMethod), QStringLiteral("Method not found: %1…").arg(start));
+    const QJsonObject noArgument = client.call("echo", "{\"" + name + "\":1}");
+    QCOMPARE(errorCode(noArgument), -32602);
+    QCOMPARE(errorMessage(noArgument),
+             QStringLiteral("Invalid params: there is no argument \"%1…\"").arg(start));
+    QCOMPARE(noArgument[QStringLiteral("error")][QStringLiteral("data")],
+             QJsonValue(QJsonObject{{QStringLiteral("argument"), start + QStringLiteral("…")}}));
+}
+
 void tst_VXIPCServer::refusesBadRequests_data()
 {
     QTest::addColumn<QByteArray>("line");
@@ -412,6 +585,8 @@ void tst_VXIPCServer::refusesBadRequests_data()
         InvalidRequest, "4");
     row("id is an object", R"({"jsonrpc":"2.0","id":{},"method":"notes"})", InvalidRequest, "null");
     row("id is true", R"({"jsonrpc":"2.0","id":true,"method":"notes"})", InvalidRequest, "null");
+    row("id is too long", R"({"jsonrpc":"2.0","method":"notes","id":)" + textOfSize(4097) + '}',
+        InvalidRequest, "null");
     row("unknown method", R"({"jsonrpc":"2.0","id":4,"method":"nothing"})", -32601, "4");
     row("other letter case", R"({"jsonrpc":"2.0","id":4,"method":"Echo"})", -32601, "4");
     row("empty method", R"({"jsonrpc":"2.0","id":4,"method":""})", -32601, "4");
@@ -443,6 +618,7 @@ void tst_VXIPCServer::answersUnderTheId_data()
 
     for (const char* id : {"0", "-7", "1.5", "9007199254740993", R"("")", R"("a-1")", "null"})
         QTest::newRow(id) << QByteArray(id);
+    QTest::newRow("of the greatest length") << textOfSize(4096);
 }
 
 void tst_VXIPCServer::answersUnderTheId()
@@ -507,10 +683,11 @@ void tst_VXIPCServer::describesItsMethods()
          const QJsonValue& method : methods)
         names.append(method[QStringLiteral("name")].toString());
     const QStringList expected =
-        QStringLiteral("echo scale invert unsignedEcho wideEcho unsignedWideEcho single half "
-                       "notANumber reversed sorted listEcho hashEcho mapEcho anyEcho recordEcho "
-                       "overloaded overloaded overloaded overloaded overloaded note notes zeroes "
-                       "wait isWaiting release block destroy quit")
+        QStringLiteral(
+            "echo scale invert unsignedEcho wideEcho unsignedWideEcho single half "
+            "notANumber reversed sorted listEcho hashEcho mapEcho anyEcho recordEcho "
+            "overloaded overloaded overloaded overloaded overloaded note notes keep zeroes "
+            "wait isWaiting release block destroy quit")
             .split(QLatin1Char(' '));
     QCOMPARE(names, expected);
 }
@@ -1043,6 +1220,83 @@ void tst_VXIPCServer::takesCallsDuringACall()
     QCOMPARE(object(waiting.receive())[QStringLiteral("id")].toString(), QStringLiteral("n"));
 }
 
+void tst_VXIPCServer::readsNoMoreThanItWorksOn()
+{
+    HostProcess host(newServerType());
+    RawClient busy(host.serverName());
+    RawClient other(host.serverName());
+    busy.send(R"({"jsonrpc":"2.0","id":"w","method":"wait"})"
+              "\n");
+    QTRY_VERIFY(other.call("isWaiting")[QStringLiteral("result")].toBool());
+    // Stays with the client but for what the system takes and one piece that the endpoint reads.
+    // After each round of calls the endpoint has had a hundred chances to read more.
+    busy.send(QByteArray(8 * Mebibyte, '\n'));
+    qint64 before = 0;
+    do {
+        before = busy.socket().bytesToWrite();
+        for (int i = 0; i < 100; ++i)
+            QCOMPARE(other.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    } while (busy.socket().bytesToWrite() < before);
+    QVERIFY2(before > 4 * Mebibyte, qPrintable(QString::number(before)));
+
+    QVERIFY(other.call("release").contains(QStringLiteral("result")));
+    QCOMPARE(object(busy.receive())[QStringLiteral("result")].toString(), QStringLiteral("waited"));
+    QCOMPARE(busy.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+}
+
+void tst_VXIPCServer::letsTheClientGoThatWasSilentLongest()
+{
+    m_service->findChild<IpcPublisher*>()->setPatience(0ms);
+    const auto asks = [](RawClient& client) {
+        return client.call("scale", "[1]")[QStringLiteral("result")].toInt() == 10;
+    };
+    std::vector<std::unique_ptr<RawClient>> clients;
+    for (int i = 0; i < 64; ++i) {
+        clients.push_back(std::make_unique<RawClient>(serverName()));
+        QVERIFY(asks(*clients.back()));
+    }
+    QVERIFY(asks(*clients[0]));
+
+    RawClient next(serverName());
+    QVERIFY(asks(next));
+    QCOMPARE(errorCode(object(clients[1]->receive())), -32001);
+    QVERIFY(clients[1]->waitForClose());
+    clients.erase(clients.begin() + 1);
+    for (const auto& client : clients)
+        QVERIFY(asks(*client));
+}
+
+void tst_VXIPCServer::letsNoClientGoThatWaitsForAnAnswer()
+{
+    // On another thread, as the call that is waited for runs an event loop of its own.
+    QThread thread;
+    auto* service = new TestService(newServerType());
+    QTRY_VERIFY(!service->serverName().isEmpty());
+    const QString name = service->serverName();
+    service->findChild<IpcPublisher*>()->setPatience(0ms);
+    service->moveToThread(&thread);
+    connect(&thread, &QThread::finished, service, &QObject::deleteLater);
+    thread.start();
+    const auto end = qScopeGuard([&] {
+        thread.quit();
+        thread.wait();
+    });
+
+    RawClient waiting(name);
+    waiting.send(R"({"jsonrpc":"2.0","id":"w","method":"wait"})"
+                 "\n");
+    std::vector<std::unique_ptr<RawClient>> clients;
+    for (int i = 0; i < 63; ++i) {
+        clients.push_back(std::make_unique<RawClient>(name));
+        QTRY_VERIFY(clients.back()->call("isWaiting")[QStringLiteral("result")].toBool());
+    }
+    RawClient next(name);
+    QVERIFY(next.call("release").contains(QStringLiteral("result")));
+    QCOMPARE(object(waiting.receive())[QStringLiteral("result")].toString(),
+             QStringLiteral("waited"));
+    QCOMPARE(errorCode(object(clients[0]->receive())), -32001);
+}
+
 void tst_VXIPCServer::mayBeDestroyedByACall()
 {
     const QPointer<TestService> service(m_service.release());
@@ -1075,6 +1329,20 @@ void tst_VXIPCServer::mayBeDestroyedWithLongLinesInWork()
             QVERIFY(client->waitForClose());
         init();
     }
+}
+
+void tst_VXIPCServer::mayBeDestroyedAsAClientLeavesAfterALongBadLine()
+{
+    RawClient client(serverName());
+    // Long enough to be parsed on the other thread.
+    QCOMPARE(errorCode(object(client.exchange(QByteArray(100000, 'x')))), -32700);
+    auto* connection = m_service->findChild<IpcConnection*>();
+    QVERIFY(connection);
+
+    Destroyer destroyer([this] { m_service.reset(); });
+    connect(connection, &IpcConnection::finished, &destroyer, &Destroyer::destroyFirst);
+    client.socket().abort();
+    QTRY_VERIFY(!m_service);
 }
 
 QTEST_GUILESS_MAIN(tst_VXIPCServer)
