@@ -3,12 +3,14 @@
 #pragma once
 
 #include "ipc_dispatcher.h"
+#include "ipc_listener.h"
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QString>
-#include <QtNetwork/QLocalServer>
+#include <QtCore/QTimer>
 
+#include <chrono>
 #include <memory>
 
 class IpcConnection;
@@ -24,14 +26,16 @@ public:
     ~IpcPublisher() override;
     Q_DISABLE_COPY_MOVE(IpcPublisher)
 
-    /// Takes `name`, or when another living endpoint has it, `name` with the process id added.
+    /// Takes `name`, or when another living endpoint has it, `name` with the process id added. When
+    /// that fails, it is tried again, at growing intervals, until it succeeds.
     void publish(const QString& name);
 
     /// Empty while nothing is published.
     QString name() const { return m_name; }
 
 private:
-    void listen(const QString& name);
+    void tryToPublish();
+    IpcListener::Outcome listen();
     void onNewConnection();
     void onTurnWanted(IpcConnection* connection);
     void onFinished(IpcConnection* connection);
@@ -40,8 +44,11 @@ private:
 
     QObject& m_object;
     const QMetaObject& m_base;
-    QLocalServer m_server;
+    IpcListener m_listener;
+    QString m_wantedName;
     QString m_name;
+    QTimer m_retry;
+    std::chrono::milliseconds m_retryInterval;
     /// Made with the first client, when the object is surely whole.
     std::unique_ptr<IpcDispatcher> m_dispatcher;
     QList<IpcConnection*> m_connections;
