@@ -3,8 +3,11 @@
 #pragma once
 
 #include <QtCore/QObject>
+#include <QtCore/QQueue>
 #include <QtCore/QString>
+#include <QtCore/QTimer>
 
+#include <chrono>
 #include <memory>
 
 class QLocalSocket;
@@ -26,12 +29,13 @@ public:
     };
 
     explicit IpcListener(QObject* parent);
-    ~IpcListener() override;
+    /// This system's.
+    static std::unique_ptr<IpcListener> create(QObject* parent);
     Q_DISABLE_COPY_MOVE(IpcListener)
 
     /// Called until it succeeds, and no more then.
-    Outcome listen(const QString& name);
-    QString errorString() const;
+    virtual Outcome listen(const QString& name) = 0;
+    QString errorString() const { return m_errorString; }
 
     /// The next client that was let in, a child of this object until it is given another parent;
     /// null when there is none.
@@ -40,7 +44,19 @@ public:
 Q_SIGNALS:
     void newClient();
 
+protected:
+    /// Lets in who waits, as far as it can be.
+    virtual void letIn() = 0;
+
+    Outcome failed(const QString& what, const QString& why);
+    /// Makes a client of what is connected. False when that fails, which leaves it the caller's.
+    bool accept(qintptr descriptor);
+    /// Calls letIn() again in a while, with every call in a row a longer one.
+    void pause(const QString& what, const QString& why);
+
 private:
-    class Private;
-    std::unique_ptr<Private> d;
+    QString m_errorString;
+    QQueue<QLocalSocket*> m_clients;
+    QTimer m_pause;
+    std::chrono::milliseconds m_pauseTime;
 };

@@ -8,30 +8,19 @@
 #include "owned_descriptor.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QLoggingCategory>
-#include <QtCore/QQueue>
 #include <QtCore/QSocketNotifier>
-#include <QtCore/QTimer>
-#include <QtNetwork/QLocalSocket>
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
+#include <memory>
 #include <optional>
 
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
 
-using namespace std::chrono_literals;
-
-Q_DECLARE_LOGGING_CATEGORY(vxIpc)
-
 namespace {
 
-/// How soon a client that could not be let in is tried again.
-constexpr auto FirstPause = 50ms;
-constexpr auto LongestPause = 1s;
 /// Those over the limit have to be let in to be told so.
 constexpr int Backlog = static_cast<int>(2 * JsonRpc::MaximumClients);
 
@@ -83,50 +72,32 @@ Found lookAt(const QByteArray& path, const sockaddr_un& address)
     return Found::Somebody;
 }
 
-} // namespace
-
-class IpcListener::Private
+class SocketListener final : public IpcListener
 {
 public:
-    explicit Private(IpcListener& listener);
-    ~Private();
-    Q_DISABLE_COPY_MOVE(Private)
+    using IpcListener::IpcListener;
+    ~SocketListener() override;
+    Q_DISABLE_COPY_MOVE(SocketListener)
 
-    Outcome listen(const QString& name);
+    Outcome listen(const QString& name) override;
 
-    QString errorString;
-    QQueue<QLocalSocket*> clients;
+protected:
+    void letIn() override;
 
 private:
     Outcome bindTo(const QByteArray& path, const sockaddr_un& address);
-    Outcome failed(const QString& what);
     Outcome systemFailed(const QByteArray& path, int error);
-    void letIn();
-    void pause(int error);
 
-    IpcListener& q;
     OwnedDescriptor m_socket;
-    QSocketNotifier* m_notifier = nullptr;
-    QTimer* m_pause;
-    std::chrono::milliseconds m_pauseTime = FirstPause;
-
+    std::unique_ptr<QSocketNotifier> m_notifier;
     /// Which entry of which folder is this endpoint's.
     QByteArray m_path;
     struct stat m_entry = {};
 };
 
-IpcListener::Private::Private(IpcListener& listener)
-    : q(listener)
-    // A child, so that it moves to another thread with the listener.
-    , m_pause(new QTimer(&listener))
+SocketListener::~SocketListener()
 {
-    m_pause->setSingleShot(true);
-    connect(m_pause, &QTimer::timeout, &q, [this] { m_notifier->setEnabled(true); });
-}
-
-IpcListener::Private::~Private()
-{
-    delete m_notifier;
+    m_notifier.reset();
     struct stat entry = {};
     // Somebody may have put another in its place. While this one is open its number is not given to
     // another, and nobody takes it for dead and replaces it.
@@ -136,15 +107,15 @@ IpcListener::Private::~Private()
     }
 }
 
-IpcListener::Outcome IpcListener::Private::listen(const QString& name)
+IpcListener::Outcome SocketListener::listen(const QString& name)
 {
     if (const QString obstacle = IpcScope::prepare(); !obstacle.isEmpty())
-        return failed(obstacle);
+        return failed(name, obstacle);
     const QString file = IpcScope::address(name);
     const QByteArray path = QFile::encodeName(file);
     const std::optional<sockaddr_un> address = socketAddress(path);
     if (!address)
-        return failed(QStringLiteral("%1: the path is too long for a socket").arg(file));
+        return failed(file, QStringLiteral("the path is too long for a socket"));
 
     // Between finding a dead endpoint's socket and replacing it, another process must not do the
     // same. Who does not get to look leaves the name alone.
@@ -171,8 +142,7 @@ IpcListener::Outcome IpcListener::Private::listen(const QString& name)
     return bindTo(path, *address);
 }
 
-IpcListener::Outcome IpcListener::Private::bindTo(const QByteArray& path,
-                                                  const sockaddr_un& address)
+IpcListener::Outcome SocketListener::bindTo(const QByteArray& path, const sockaddr_un& address)
 {
     OwnedDescriptor socket = newSocket();
     if (!socket.isValid())
@@ -188,72 +158,38 @@ IpcListener::Outcome IpcListener::Private::bindTo(const QByteArray& path,
     }
     m_path = path;
     m_socket = std::move(socket);
-    m_notifier = new QSocketNotifier(m_socket.get(), QSocketNotifier::Read, &q);
-    connect(m_notifier, &QSocketNotifier::activated, &q, [this] { letIn(); });
+    m_notifier = std::make_unique<QSocketNotifier>(m_socket.get(), QSocketNotifier::Read, this);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] { letIn(); });
     return Outcome::Listening;
 }
 
-IpcListener::Outcome IpcListener::Private::failed(const QString& what)
+IpcListener::Outcome SocketListener::systemFailed(const QByteArray& path, int error)
 {
-    errorString = what;
-    return Outcome::Failed;
+    return failed(QFile::decodeName(path), qt_error_string(error));
 }
 
-IpcListener::Outcome IpcListener::Private::systemFailed(const QByteArray& path, int error)
+void SocketListener::letIn()
 {
-    return failed(QStringLiteral("%1: %2").arg(QFile::decodeName(path), qt_error_string(error)));
-}
-
-void IpcListener::Private::letIn()
-{
+    m_notifier->setEnabled(true);
     OwnedDescriptor client(accept4(m_socket.get(), nullptr, nullptr, SOCK_CLOEXEC));
-    if (!client.isValid()) {
-        // A client that has left again is no reason to wait.
-        if (errno != EAGAIN && errno != EINTR && errno != ECONNABORTED)
-            pause(errno);
+    if (client.isValid()) {
+        if (accept(client.get()))
+            client.release();
+        Q_EMIT newClient();
         return;
     }
-    m_pauseTime = FirstPause;
-    auto* socket = new QLocalSocket(&q);
-    if (!socket->setSocketDescriptor(client.get())) {
-        delete socket;
+    // One that has left again is no reason to wait.
+    if (errno == EAGAIN || errno == EINTR || errno == ECONNABORTED)
         return;
-    }
-    client.release();
-    clients.enqueue(socket);
-    Q_EMIT q.newClient();
-}
-
-void IpcListener::Private::pause(int error)
-{
-    if (m_pauseTime == FirstPause) {
-        qCWarning(vxIpc, "%s lets nobody in until this is over: %s", m_path.constData(),
-                  qUtf8Printable(qt_error_string(error)));
-    }
-    // The system goes on telling that a client waits.
+    const int error = errno;
+    // It would go on telling that somebody waits.
     m_notifier->setEnabled(false);
-    m_pause->start(m_pauseTime);
-    m_pauseTime = std::min<std::chrono::milliseconds>(2 * m_pauseTime, LongestPause);
+    pause(QFile::decodeName(m_path), qt_error_string(error));
 }
 
-IpcListener::IpcListener(QObject* parent)
-    : QObject(parent)
-    , d(std::make_unique<Private>(*this))
-{}
+} // namespace
 
-IpcListener::~IpcListener() = default;
-
-IpcListener::Outcome IpcListener::listen(const QString& name)
+std::unique_ptr<IpcListener> IpcListener::create(QObject* parent)
 {
-    return d->listen(name);
-}
-
-QString IpcListener::errorString() const
-{
-    return d->errorString;
-}
-
-QLocalSocket* IpcListener::nextClient()
-{
-    return d->clients.isEmpty() ? nullptr : d->clients.dequeue();
+    return std::make_unique<SocketListener>(parent);
 }

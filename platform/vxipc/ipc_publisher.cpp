@@ -32,13 +32,13 @@ IpcPublisher::IpcPublisher(QObject& object, const QMetaObject& base)
     , m_object(object)
     , m_base(base)
     // Children, so that they move to another thread with the object.
-    , m_listener(this)
+    , m_listener(IpcListener::create(this))
     , m_retry(this)
     , m_retryInterval(FirstRetry)
 {
     m_retry.setSingleShot(true);
     connect(&m_retry, &QTimer::timeout, this, &IpcPublisher::tryToPublish);
-    connect(&m_listener, &IpcListener::newClient, this, &IpcPublisher::onNewConnection);
+    connect(m_listener.get(), &IpcListener::newClient, this, &IpcPublisher::onNewConnection);
 }
 
 IpcPublisher::~IpcPublisher()
@@ -68,7 +68,7 @@ void IpcPublisher::tryToPublish()
         const QString obstacle =
             outcome == IpcListener::Outcome::NameTaken
                 ? QStringLiteral("the name and %1 more like it are taken").arg(MaximumOwnNames)
-                : m_listener.errorString();
+                : m_listener->errorString();
         qCWarning(vxIpc, "%s is not published: %s (it is tried again)",
                   qUtf8Printable(m_wantedName), qUtf8Printable(obstacle));
     }
@@ -81,10 +81,10 @@ IpcListener::Outcome IpcPublisher::listen()
     const QString own =
         m_wantedName + QLatin1Char('-') + QString::number(QCoreApplication::applicationPid());
     QString candidate = m_wantedName;
-    IpcListener::Outcome outcome = m_listener.listen(candidate);
+    IpcListener::Outcome outcome = m_listener->listen(candidate);
     for (int i = 1; outcome == IpcListener::Outcome::NameTaken && i <= MaximumOwnNames; ++i) {
         candidate = i == 1 ? own : own + QLatin1Char('-') + QString::number(i);
-        outcome = m_listener.listen(candidate);
+        outcome = m_listener->listen(candidate);
     }
     if (outcome == IpcListener::Outcome::Listening)
         m_name = candidate;
@@ -95,7 +95,7 @@ void IpcPublisher::onNewConnection()
 {
     if (!m_dispatcher)
         m_dispatcher = std::make_unique<IpcDispatcher>(m_object, m_base, m_name);
-    while (QLocalSocket* socket = m_listener.nextClient()) {
+    while (QLocalSocket* socket = m_listener->nextClient()) {
         if (m_connections.size() >= JsonRpc::MaximumClients + MaximumRefused) {
             delete socket;
             continue;

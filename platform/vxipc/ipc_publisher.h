@@ -44,7 +44,7 @@ private:
 
     QObject& m_object;
     const QMetaObject& m_base;
-    IpcListener m_listener;
+    std::unique_ptr<IpcListener> m_listener;
     QString m_wantedName;
     QString m_name;
     QTimer m_retry;
