@@ -6,7 +6,6 @@
 #include "ipc_scope.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QLockFile>
 #include <QtCore/QLoggingCategory>
 #include <QtNetwork/QLocalSocket>
 
@@ -19,22 +18,12 @@ Q_LOGGING_CATEGORY(vxIpc, "vx.ipc", QtWarningMsg)
 
 namespace {
 
-/// A living endpoint takes a connection at once, even when its process is busy.
-constexpr auto ProbeTime = 250ms;
 /// How many clients over the limit may be about to read that they are; any more are just closed.
 constexpr qsizetype MaximumRefused = 64;
-/// Taking a name is a matter of a millisecond.
-constexpr auto LockTime = 500ms;
-
-bool isHeld(const QString& address)
-{
-    QLocalSocket probe;
-    probe.connectToServer(address);
-    if (probe.waitForConnected(static_cast<int>(ProbeTime / 1ms)))
-        return true;
-    return probe.error() != QLocalSocket::ServerNotFoundError &&
-           probe.error() != QLocalSocket::ConnectionRefusedError;
-}
+/// How many names with the process id are tried.
+constexpr int MaximumOwnNames = 16;
+constexpr std::chrono::milliseconds FirstRetry = 100ms;
+constexpr std::chrono::milliseconds LastRetry = 10s;
 
 } // namespace
 
@@ -42,14 +31,14 @@ IpcPublisher::IpcPublisher(QObject& object, const QMetaObject& base)
     : QObject(&object)
     , m_object(object)
     , m_base(base)
-    // So that it moves to another thread with the object.
-    , m_server(this)
+    // Children, so that they move to another thread with the object.
+    , m_listener(IpcListener::create(this))
+    , m_retry(this)
+    , m_retryInterval(FirstRetry)
 {
-    m_server.setSocketOptions(QLocalServer::UserAccessOption);
-    // Those over the limit have to be let in to be told so.
-    m_server.setMaxPendingConnections(static_cast<int>(2 * JsonRpc::MaximumClients));
-    m_server.setListenBacklogSize(static_cast<int>(2 * JsonRpc::MaximumClients));
-    connect(&m_server, &QLocalServer::newConnection, this, &IpcPublisher::onNewConnection);
+    m_retry.setSingleShot(true);
+    connect(&m_retry, &QTimer::timeout, this, &IpcPublisher::tryToPublish);
+    connect(m_listener.get(), &IpcListener::newClient, this, &IpcPublisher::onNewConnection);
 }
 
 IpcPublisher::~IpcPublisher()
@@ -64,44 +53,49 @@ IpcPublisher::~IpcPublisher()
 
 void IpcPublisher::publish(const QString& name)
 {
-    if (const QString obstacle = IpcScope::prepare(); !obstacle.isEmpty()) {
-        qCWarning(vxIpc, "%s is not published: %s", qUtf8Printable(name), qUtf8Printable(obstacle));
-        return;
-    }
-    // Between finding a dead endpoint's socket and replacing it, another process must not do the
-    // same. Who does not get to look leaves the name alone.
-    QLockFile lock(IpcScope::lockFile(name));
-    const bool mayTake = lock.tryLock(static_cast<int>(LockTime / 1ms));
-    if (mayTake && !isHeld(IpcScope::address(name))) {
-        listen(name);
-        return;
-    }
-    const QString own =
-        name + QLatin1Char('-') + QString::number(QCoreApplication::applicationPid());
-    QString candidate = own;
-    for (int i = 2; isHeld(IpcScope::address(candidate)); ++i)
-        candidate = own + QLatin1Char('-') + QString::number(i);
-    listen(candidate);
+    m_wantedName = name;
+    tryToPublish();
 }
 
-void IpcPublisher::listen(const QString& name)
+void IpcPublisher::tryToPublish()
 {
-    const QString address = IpcScope::address(name);
-    QLocalServer::removeServer(address);
-    if (m_server.listen(address)) {
-        m_name = name;
+    const IpcListener::Outcome outcome = listen();
+    if (outcome == IpcListener::Outcome::Listening) {
         IpcScope::announce(m_name);
         return;
     }
-    qCWarning(vxIpc, "%s is not published: %s", qUtf8Printable(name),
-              qUtf8Printable(m_server.errorString()));
+    if (m_retryInterval == FirstRetry) {
+        const QString obstacle =
+            outcome == IpcListener::Outcome::NameTaken
+                ? QStringLiteral("the name and %1 more like it are taken").arg(MaximumOwnNames)
+                : m_listener->errorString();
+        qCWarning(vxIpc, "%s is not published: %s (it is tried again)",
+                  qUtf8Printable(m_wantedName), qUtf8Printable(obstacle));
+    }
+    m_retry.start(m_retryInterval);
+    m_retryInterval = std::min(2 * m_retryInterval, LastRetry);
+}
+
+IpcListener::Outcome IpcPublisher::listen()
+{
+    const QString own =
+        m_wantedName + QLatin1Char('-') + QString::number(QCoreApplication::applicationPid());
+    QString candidate = m_wantedName;
+    IpcListener::Outcome outcome = m_listener->listen(candidate);
+    for (int i = 1; outcome == IpcListener::Outcome::NameTaken && i <= MaximumOwnNames; ++i) {
+        candidate = i == 1 ? own : own + QLatin1Char('-') + QString::number(i);
+        outcome = m_listener->listen(candidate);
+    }
+    if (outcome == IpcListener::Outcome::Listening)
+        m_name = candidate;
+    return outcome;
 }
 
 void IpcPublisher::onNewConnection()
 {
     if (!m_dispatcher)
         m_dispatcher = std::make_unique<IpcDispatcher>(m_object, m_base, m_name);
-    while (QLocalSocket* socket = m_server.nextPendingConnection()) {
+    while (QLocalSocket* socket = m_listener->nextClient()) {
         if (m_connections.size() >= JsonRpc::MaximumClients + MaximumRefused) {
             delete socket;
             continue;

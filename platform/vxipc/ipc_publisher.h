@@ -3,11 +3,12 @@
 #pragma once
 
 #include "ipc_dispatcher.h"
+#include "ipc_listener.h"
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QString>
-#include <QtNetwork/QLocalServer>
+#include <QtCore/QTimer>
 
 #include <chrono>
 #include <memory>
@@ -25,7 +26,8 @@ public:
     ~IpcPublisher() override;
     Q_DISABLE_COPY_MOVE(IpcPublisher)
 
-    /// Takes `name`, or when another living endpoint has it, `name` with the process id added.
+    /// Takes `name`, or when another living endpoint has it, `name` with the process id added. When
+    /// that fails, it is tried again, at growing intervals, until it succeeds.
     void publish(const QString& name);
 
     /// Empty while nothing is published.
@@ -36,7 +38,8 @@ public:
     void setPatience(std::chrono::milliseconds patience) { m_patience = patience; }
 
 private:
-    void listen(const QString& name);
+    void tryToPublish();
+    IpcListener::Outcome listen();
     void onNewConnection();
     IpcConnection* longestSilent() const;
     void onTurnWanted(IpcConnection* connection);
@@ -46,9 +49,12 @@ private:
 
     QObject& m_object;
     const QMetaObject& m_base;
-    QLocalServer m_server;
+    std::unique_ptr<IpcListener> m_listener;
+    QString m_wantedName;
     QString m_name;
     std::chrono::milliseconds m_patience = std::chrono::minutes(1);
+    QTimer m_retry;
+    std::chrono::milliseconds m_retryInterval;
     /// Made with the first client, when the object is surely whole.
     std::unique_ptr<IpcDispatcher> m_dispatcher;
     QList<IpcConnection*> m_connections;

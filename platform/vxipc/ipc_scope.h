@@ -15,8 +15,9 @@ QString address(const QString& name);
 /// Makes what addresses stand on. Empty when that succeeded, else why no endpoint can be published.
 QString prepare();
 
-/// The file that a process locks while it takes `name`.
-QString lockFile(const QString& name);
+/// Why the endpoint `name`, or without one any endpoint, may be somebody else's although it is
+/// where the user's own is expected. Empty where nothing speaks against it, also where nothing is.
+QString distrust(const QString& name = {});
 
 /// Makes a published name one of names(), and ends that.
 void announce(const QString& name);

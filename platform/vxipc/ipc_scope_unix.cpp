@@ -5,19 +5,50 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 
+#include <cerrno>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace IpcScope {
 namespace {
 
-/// The folder that the session gave the user, or one of our own where there is no session.
+/// The folder that the session gave the user, or one of our own where there is no session. A
+/// relative path would mean another folder in each working directory; the XDG Base Directory
+/// Specification has it ignored.
 QString directory()
 {
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    if (!runtime.isEmpty())
+    if (QDir::isAbsolutePath(runtime))
         return runtime;
-    return QStringLiteral("%1/vxipc-%2").arg(QDir::tempPath()).arg(geteuid());
+    const QString temporary = QDir::tempPath();
+    return QStringLiteral("%1/vxipc-%2")
+        .arg(QDir::isAbsolutePath(temporary) ? temporary : QStringLiteral("/tmp"))
+        .arg(geteuid());
+}
+
+enum class Kind : quint8
+{
+    Folder,
+    Socket,
+};
+
+/// Why what is at `path` is not the user's own; empty when it is, or nothing is there.
+QString fault(const QString& path, Kind kind)
+{
+    struct stat entry = {};
+    if (lstat(QFile::encodeName(path).constData(), &entry) != 0)
+        return errno == ENOENT ? QString()
+                               : QStringLiteral("%1: %2").arg(path, qt_error_string(errno));
+    if (kind == Kind::Folder && !S_ISDIR(entry.st_mode))
+        return QStringLiteral("%1 is not a folder").arg(path);
+    if (kind == Kind::Socket && !S_ISSOCK(entry.st_mode))
+        return QStringLiteral("%1 is not a socket").arg(path);
+    if (entry.st_uid != geteuid())
+        return QStringLiteral("%1 belongs to another user").arg(path);
+    if ((entry.st_mode & (S_IWGRP | S_IWOTH)) != 0)
+        return QStringLiteral("%1: other users may write to it").arg(path);
+    return {};
 }
 
 } // namespace
@@ -30,23 +61,18 @@ QString address(const QString& name)
 QString prepare()
 {
     const QString path = directory();
-    const QByteArray nativePath = QFile::encodeName(path);
-    // Fails where the folder exists, which is what the checks below are for: in a folder that
-    // everybody writes to, anybody may have made it.
-    mkdir(nativePath.constData(), S_IRWXU);
-    struct stat status = {};
-    if (lstat(nativePath.constData(), &status) != 0)
-        return QStringLiteral("%1: %2").arg(path, qt_error_string());
-    if (!S_ISDIR(status.st_mode))
-        return QStringLiteral("%1 is not a folder").arg(path);
-    if (status.st_uid != geteuid() || (status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
-        return QStringLiteral("%1: other users may write to it").arg(path);
-    return {};
+    // Fails where the folder exists, which is what the check is for: in a folder that everybody
+    // writes to, anybody may have made it.
+    if (mkdir(QFile::encodeName(path).constData(), S_IRWXU) != 0 && errno != EEXIST)
+        return QStringLiteral("%1: %2").arg(path, qt_error_string(errno));
+    return fault(path, Kind::Folder);
 }
 
-QString lockFile(const QString& name)
+QString distrust(const QString& name)
 {
-    return address(name + QLatin1String(".lock"));
+    const QString obstacle = fault(directory(), Kind::Folder);
+    // In a folder that only the user writes to, a socket stays what it is found to be.
+    return obstacle.isEmpty() && !name.isEmpty() ? fault(address(name), Kind::Socket) : obstacle;
 }
 
 // The socket's own entry in the folder says that it is there.

@@ -2,26 +2,20 @@
 // Copyright The VxPrinterStatus authors
 #include "ipc_scope.h"
 
+#include "windows_security.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
-
-#include <array>
-
-#include <windows.h>
-
-#include <lmcons.h>
 
 namespace IpcScope {
 namespace {
 
-/// All users of the machine share one folder of pipes, so each has an ending of his own.
+/// All users of the machine share one folder of pipes, so each has an ending of his own: the
+/// security identifier, as users of two domains may have the same name.
 QString ending()
 {
-    std::array<wchar_t, UNLEN + 1> user = {};
-    auto size = static_cast<DWORD>(user.size());
-    if (!GetUserNameW(user.data(), &size))
-        return {};
-    return QLatin1Char('@') + QString::fromWCharArray(user.data());
+    const QString user = WindowsSecurity::userOfProcess();
+    return user.isEmpty() ? QString() : QLatin1Char('@') + user;
 }
 
 /// A file for each published name. Not every system that runs Windows programs lists its pipes.
@@ -39,13 +33,14 @@ QString address(const QString& name)
 
 QString prepare()
 {
-    return ending().isEmpty() ? QStringLiteral("the user has no name: %1").arg(qt_error_string())
+    return ending().isEmpty() ? QStringLiteral("the user is not known: %1").arg(qt_error_string())
                               : QString();
 }
 
-QString lockFile(const QString& name)
+// A pipe says itself whose it is, to those who have opened it.
+QString distrust(const QString& /*name*/)
 {
-    return QDir::temp().filePath(name + QLatin1String(".lock"));
+    return {};
 }
 
 void announce(const QString& name)

@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "vxipcclient.h"
 
+#include "ipc_connect.h"
 #include "ipc_scope.h"
 #include "ipc_send.h"
 #include "json_rpc.h"
@@ -29,11 +30,6 @@ constexpr std::chrono::milliseconds FirstRetry = 100ms;
 constexpr std::chrono::milliseconds LastRetry = 5s;
 /// An endpoint's longest answer and what surrounds it in a batch.
 constexpr qsizetype MaximumLine = 2 * JsonRpc::MaximumAnswers;
-
-int milliseconds(std::chrono::milliseconds time)
-{
-    return static_cast<int>(time.count());
-}
 
 VXIPCReply failed(VXIPCError::Code code, const QString& message)
 {
@@ -77,7 +73,7 @@ public:
     Q_DISABLE_COPY_MOVE(Private)
 
     bool isConnected() const { return m_socket->state() == QLocalSocket::ConnectedState; }
-    bool connectNow();
+    bool connectNow(std::chrono::milliseconds limit = ConnectTime);
     void disconnectNow();
     void call(const QString& method, const QJsonValue& parameters, Callback done);
     VXIPCReply callAndWait(const QString& method, const QJsonValue& parameters,
@@ -97,7 +93,7 @@ private:
     };
 
     /// Why the request cannot be sent, if it cannot; sends it otherwise.
-    std::optional<VXIPCReply> send(const QByteArray& line);
+    std::optional<VXIPCReply> send(const QByteArray& line, std::chrono::milliseconds limit);
     void onReadyRead();
     void onLine(QByteArrayView line);
     void onDisconnected();
@@ -112,6 +108,8 @@ private:
 
     VXIPCClient& q;
     QLocalSocket* m_socket;
+    /// What spoke against the endpoint when it was last to be connected to.
+    QString m_obstacle;
     QTimer m_lateness;
     QTimer m_reconnect;
     std::chrono::milliseconds m_retryInterval = FirstRetry;
@@ -153,15 +151,14 @@ VXIPCClient::Private::~Private()
     m_socket->deleteLater();
 }
 
-bool VXIPCClient::Private::connectNow()
+bool VXIPCClient::Private::connectNow(std::chrono::milliseconds limit)
 {
     if (isConnected())
         return true;
     m_reconnect.stop();
     m_received.clear();
-    m_socket->connectToServer(IpcScope::address(serverName));
-    if (!m_socket->waitForConnected(milliseconds(ConnectTime))) {
-        m_socket->abort();
+    m_obstacle = connectToEndpoint(*m_socket, serverName, std::clamp(limit, 0ms, ConnectTime));
+    if (!isConnected()) {
         retryLater();
         return false;
     }
@@ -185,7 +182,7 @@ void VXIPCClient::Private::retryLater()
 void VXIPCClient::Private::call(const QString& method, const QJsonValue& parameters, Callback done)
 {
     const qint64 id = ++m_lastId;
-    if (const auto failure = send(JsonRpc::request(method, parameters, id))) {
+    if (const auto failure = send(JsonRpc::request(method, parameters, id), timeout)) {
         deliverLater(std::move(done), *failure);
         return;
     }
@@ -199,7 +196,7 @@ VXIPCReply VXIPCClient::Private::callAndWait(const QString& method, const QJsonV
 {
     const QDeadlineTimer deadline(limit);
     const qint64 id = ++m_lastId;
-    if (const auto failure = send(JsonRpc::request(method, parameters, id)))
+    if (const auto failure = send(JsonRpc::request(method, parameters, id), limit))
         return *failure;
     std::optional<VXIPCReply> outcome;
     m_calls.insert(id, {deadline, {}, &outcome});
@@ -223,12 +220,13 @@ VXIPCReply VXIPCClient::Private::callAndWait(const QString& method, const QJsonV
 
 bool VXIPCClient::Private::notify(const QString& method, const QJsonValue& parameters)
 {
-    const bool isSent = !send(JsonRpc::request(method, parameters, std::nullopt));
+    const bool isSent = !send(JsonRpc::request(method, parameters, std::nullopt), timeout);
     m_socket->flush();
     return isSent;
 }
 
-std::optional<VXIPCReply> VXIPCClient::Private::send(const QByteArray& line)
+std::optional<VXIPCReply> VXIPCClient::Private::send(const QByteArray& line,
+                                                     std::chrono::milliseconds limit)
 {
     if (line.size() > JsonRpc::MaximumLine + 1) {
         return VXIPCReply{QJsonValue::Null,
@@ -237,9 +235,10 @@ std::optional<VXIPCReply> VXIPCClient::Private::send(const QByteArray& line)
                                          .arg(JsonRpc::MaximumLine),
                                      {}}};
     }
-    if (!connectNow()) {
+    if (!connectNow(limit)) {
+        const QString nobody = QStringLiteral("no endpoint answers under %1").arg(serverName);
         return failed(VXIPCError::NotReachable,
-                      QStringLiteral("no endpoint answers under %1").arg(serverName));
+                      m_obstacle.isEmpty() ? nobody : nobody + QLatin1String(": ") + m_obstacle);
     }
     // Calls that come together go together, with the event loop.
     if (m_calls.isEmpty())
@@ -442,11 +441,16 @@ QStringList VXIPCClient::runningServers()
     for (const QStringList names = IpcScope::names(QStringLiteral("vxipc-"));
          const QString& name : names) {
         QLocalSocket probe;
-        probe.connectToServer(IpcScope::address(name));
-        if (probe.waitForConnected(milliseconds(ConnectTime)))
+        connectToEndpoint(probe, name, ConnectTime);
+        if (probe.state() == QLocalSocket::ConnectedState)
             running.append(name);
     }
     return running;
+}
+
+QString VXIPCClient::distrust()
+{
+    return IpcScope::distrust();
 }
 
 QString VXIPCClient::address(const QString& serverName)

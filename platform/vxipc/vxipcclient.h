@@ -84,7 +84,8 @@ public:
     void setTimeout(std::chrono::milliseconds timeout);
     std::chrono::milliseconds timeout() const;
 
-    /// Connects if it is not connected. False when no endpoint answers under the name.
+    /// Connects if it is not connected. False when no endpoint of this user answers under the name;
+    /// others are not asked.
     bool connectToServer();
     /// Ends the connection, and the attempts to have one. Calls in flight end with ConnectionLost.
     void disconnectFromServer();
@@ -104,6 +105,9 @@ public:
 
     /// The names of the user's endpoints that answer now.
     static QStringList runningServers();
+    /// Why no endpoint is believed: where the user's are expected, other users may have put theirs.
+    /// Empty where nothing speaks against them.
+    static QString distrust();
     /// Where the endpoint of that name listens: a socket's path, a pipe's name on Windows.
     static QString address(const QString& serverName);
 

@@ -5,6 +5,7 @@
 #include "ipc_publisher.h"
 #include "ipc_raw_client.h"
 #include "ipc_test_service.h"
+#include "scoped_variable.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -120,25 +121,6 @@ private:
 };
 
 #ifdef Q_OS_UNIX
-
-/// Has endpoints of this process live in another folder for a while.
-class RuntimeFolder
-{
-public:
-    explicit RuntimeFolder(const QString& path) { qputenv(Variable, QFile::encodeName(path)); }
-    ~RuntimeFolder()
-    {
-        if (m_before.isNull())
-            qunsetenv(Variable);
-        else
-            qputenv(Variable, m_before);
-    }
-    Q_DISABLE_COPY_MOVE(RuntimeFolder)
-
-private:
-    static constexpr const char* Variable = "XDG_RUNTIME_DIR";
-    QByteArray m_before = qgetenv(Variable);
-};
 
 /// The error number that a process of the user has when it connects to the socket; 0 for none.
 int connectionFault(const QByteArray& address, uid_t user)
@@ -963,7 +945,7 @@ void tst_VXIPCServer::keepsOtherUsersOut()
     QVERIFY(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner |
                                                      QFile::ExeOwner | QFile::ReadOther |
                                                      QFile::ExeOther));
-    const RuntimeFolder runtime(folder.path());
+    const ScopedVariable runtime("XDG_RUNTIME_DIR", folder.path());
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
     const QByteArray address = QFile::encodeName(VXIPCClient::address(service.serverName()));
@@ -1010,7 +992,7 @@ void tst_VXIPCServer::isNotPublishedWhereOthersMayWrite()
     QVERIFY(QFile::link(folder.filePath(QStringLiteral("own")),
                         folder.filePath(QStringLiteral("link"))));
 
-    const RuntimeFolder runtime(folder.filePath(kind));
+    const ScopedVariable runtime("XDG_RUNTIME_DIR", folder.filePath(kind));
     QTest::ignoreMessage(
         QtWarningMsg,
         QRegularExpression(QStringLiteral("is not published: .*/%1.*%2").arg(kind, complaint)));

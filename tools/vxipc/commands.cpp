@@ -99,6 +99,8 @@ int complain(const QString& subject, const VXIPCError& error)
 
 int list(const Options& options)
 {
+    if (const QString obstacle = VXIPCClient::distrust(); !obstacle.isEmpty())
+        return complain(Failed, obstacle);
     QJsonArray found;
     for (const QStringList servers = VXIPCClient::runningServers();
          const QString& server : servers) {

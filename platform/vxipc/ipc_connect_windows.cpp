@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "ipc_connect.h"
+
+#include "ipc_scope.h"
+#include "windows_security.h"
+
+#include <QtCore/QDeadlineTimer>
+#include <QtNetwork/QLocalSocket>
+
+#include <algorithm>
+
+namespace {
+
+using WindowsSecurity::OwnedHandle;
+
+/// Waits for an end of the pipe to be free. Null with Windows' reason in GetLastError().
+OwnedHandle openPipe(const QString& path, std::chrono::milliseconds limit)
+{
+    const QDeadlineTimer end(limit);
+    for (;;) {
+        // The other end may learn who this is and nothing else: by default it could act as this
+        // user.
+        OwnedHandle pipe = WindowsSecurity::owned(CreateFileW(
+            qUtf16Printable(path), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+            FILE_FLAG_OVERLAPPED | SECURITY_SQOS_PRESENT | SECURITY_IDENTIFICATION, nullptr));
+        if (pipe || GetLastError() != ERROR_PIPE_BUSY || end.hasExpired())
+            return pipe;
+        // 0 stands for the pipe's own time.
+        WaitNamedPipeW(qUtf16Printable(path),
+                       static_cast<DWORD>(std::max<qint64>(end.remainingTime(), 1)));
+    }
+}
+
+} // namespace
+
+QString connectToEndpoint(QLocalSocket& socket, const QString& name,
+                          std::chrono::milliseconds limit)
+{
+    const QString path = QLatin1String(R"(\\.\pipe\)") + IpcScope::address(name);
+    OwnedHandle pipe = openPipe(path, limit);
+    if (!pipe) {
+        const DWORD error = GetLastError();
+        return error == ERROR_FILE_NOT_FOUND || error == ERROR_PIPE_BUSY
+                   ? QString()
+                   : QStringLiteral("%1: %2").arg(path, qt_error_string(static_cast<int>(error)));
+    }
+    const QString user = WindowsSecurity::userOfProcess();
+    if (user.isEmpty() || WindowsSecurity::ownerOfPipe(pipe.get()) != user)
+        return QStringLiteral("%1 belongs to another user").arg(path);
+    if (socket.setSocketDescriptor(reinterpret_cast<qintptr>(pipe.get())))
+        pipe.release();
+    return {};
+}

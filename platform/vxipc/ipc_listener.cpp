@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "ipc_listener.h"
+
+#include <QtCore/QLoggingCategory>
+#include <QtNetwork/QLocalSocket>
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+Q_DECLARE_LOGGING_CATEGORY(vxIpc)
+
+namespace {
+
+constexpr std::chrono::milliseconds FirstPause = 50ms;
+constexpr std::chrono::milliseconds LongestPause = 1s;
+
+} // namespace
+
+IpcListener::IpcListener(QObject* parent)
+    : QObject(parent)
+    // A child, so that it moves to another thread with this object.
+    , m_pause(this)
+    , m_pauseTime(FirstPause)
+{
+    m_pause.setSingleShot(true);
+    connect(&m_pause, &QTimer::timeout, this, &IpcListener::letIn);
+}
+
+QLocalSocket* IpcListener::nextClient()
+{
+    return m_clients.isEmpty() ? nullptr : m_clients.dequeue();
+}
+
+IpcListener::Outcome IpcListener::failed(const QString& what, const QString& why)
+{
+    m_errorString = QStringLiteral("%1: %2").arg(what, why);
+    return Outcome::Failed;
+}
+
+bool IpcListener::accept(qintptr descriptor)
+{
+    m_pauseTime = FirstPause;
+    auto socket = std::make_unique<QLocalSocket>(this);
+    if (!socket->setSocketDescriptor(descriptor))
+        return false;
+    m_clients.enqueue(socket.release());
+    return true;
+}
+
+void IpcListener::pause(const QString& what, const QString& why)
+{
+    if (m_pauseTime == FirstPause) {
+        qCWarning(vxIpc, "%s lets nobody in until this is over: %s", qUtf8Printable(what),
+                  qUtf8Printable(why));
+    }
+    m_pause.start(m_pauseTime);
+    m_pauseTime = std::min(2 * m_pauseTime, LongestPause);
+}

@@ -1,0 +1,237 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "ipc_listener.h"
+
+#include "ipc_scope.h"
+#include "json_rpc.h"
+#include "windows_security.h"
+
+#include <QtCore/QLoggingCategory>
+#include <QtCore/QWinEventNotifier>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+Q_DECLARE_LOGGING_CATEGORY(vxIpc)
+
+namespace {
+
+using WindowsSecurity::OwnedHandle;
+
+/// Each client needs an end that waits for it. Those over the limit have to be let in to be told
+/// so.
+constexpr std::size_t WaitingEnds = 2 * JsonRpc::MaximumClients;
+/// What a pipe holds of bytes that are not read yet.
+constexpr DWORD BufferSize = 4096;
+constexpr DWORD DefaultWait = 3000;
+
+/// A server end of the pipe that waits for a client or has one.
+class PipeEnd
+{
+public:
+    enum class State : quint8
+    {
+        Idle,
+        Waiting,
+        Connected,
+    };
+
+    PipeEnd() = default;
+    ~PipeEnd() { stopWaiting(); }
+    Q_DISABLE_COPY_MOVE(PipeEnd)
+
+    /// `event` is set when a client comes.
+    void wait(OwnedHandle pipe, HANDLE event);
+    void sendAway(HANDLE event);
+    State state();
+    HANDLE handle() const { return m_pipe.get(); }
+    OwnedHandle release() { return std::move(m_pipe); }
+
+private:
+    void wait(HANDLE event);
+    void stopWaiting();
+
+    OwnedHandle m_pipe;
+    OVERLAPPED m_overlapped = {};
+    State m_state = State::Idle;
+};
+
+void PipeEnd::wait(OwnedHandle pipe, HANDLE event)
+{
+    stopWaiting();
+    m_pipe = std::move(pipe);
+    wait(event);
+}
+
+void PipeEnd::sendAway(HANDLE event)
+{
+    stopWaiting();
+    DisconnectNamedPipe(m_pipe.get());
+    wait(event);
+}
+
+void PipeEnd::wait(HANDLE event)
+{
+    m_overlapped = {};
+    m_overlapped.hEvent = event;
+    const bool isConnected = ConnectNamedPipe(m_pipe.get(), &m_overlapped) != 0;
+    const DWORD error = GetLastError();
+    if (!isConnected && error == ERROR_IO_PENDING) {
+        m_state = State::Waiting;
+    } else if (isConnected || error == ERROR_PIPE_CONNECTED) {
+        m_state = State::Connected;
+        SetEvent(event);
+    } else {
+        m_state = State::Idle;
+        // To be sent away: a client that has left again.
+        if (error == ERROR_NO_DATA)
+            SetEvent(event);
+    }
+}
+
+void PipeEnd::stopWaiting()
+{
+    if (m_state != State::Waiting)
+        return;
+    m_state = State::Idle;
+    // Windows writes to the record until then. The event, which all ends have in common, would not
+    // tell which of them is meant.
+    CancelIoEx(m_pipe.get(), &m_overlapped);
+    while (!HasOverlappedIoCompleted(&m_overlapped))
+        SwitchToThread();
+}
+
+PipeEnd::State PipeEnd::state()
+{
+    if (m_state == State::Waiting && HasOverlappedIoCompleted(&m_overlapped)) {
+        DWORD ignored = 0;
+        m_state = GetOverlappedResult(m_pipe.get(), &m_overlapped, &ignored, FALSE)
+                      ? State::Connected
+                      : State::Idle;
+    }
+    return m_state;
+}
+
+QString errorText(DWORD error)
+{
+    return qt_error_string(static_cast<int>(error));
+}
+
+/// For Wine, which takes no notice of FILE_FLAG_FIRST_PIPE_INSTANCE.
+bool hasOtherEnds(HANDLE pipe)
+{
+    DWORD ends = 1;
+    return GetNamedPipeHandleStateW(pipe, nullptr, &ends, nullptr, nullptr, nullptr, 0) && ends > 1;
+}
+
+class PipeListener final : public IpcListener
+{
+public:
+    using IpcListener::IpcListener;
+
+    Outcome listen(const QString& name) override;
+
+protected:
+    void letIn() override;
+
+private:
+    OwnedHandle newPipe(DWORD flags = 0) const;
+    bool isUsers(HANDLE pipe) const;
+
+    QString m_path;
+    QString m_user;
+    WindowsSecurity::LocalMemory<void> m_descriptor;
+    OwnedHandle m_event;
+    /// As long as there is one, nobody else can make a pipe of this name.
+    std::vector<std::unique_ptr<PipeEnd>> m_ends;
+    std::unique_ptr<QWinEventNotifier> m_notifier;
+};
+
+IpcListener::Outcome PipeListener::listen(const QString& name)
+{
+    if (const QString obstacle = IpcScope::prepare(); !obstacle.isEmpty())
+        return failed(name, obstacle);
+    m_path = QLatin1String(R"(\\.\pipe\)") + IpcScope::address(name);
+    m_user = WindowsSecurity::userOfProcess();
+    m_descriptor = WindowsSecurity::ownedByUserAlone(m_user);
+    if (!m_descriptor)
+        return failed(m_path, errorText(GetLastError()));
+    m_event = WindowsSecurity::owned(CreateEventW(nullptr, TRUE, FALSE, nullptr));
+    if (!m_event)
+        return failed(m_path, errorText(GetLastError()));
+
+    // Whoever made a pipe decides about all its ends. So it has to be this process that makes it.
+    OwnedHandle pipe = newPipe(FILE_FLAG_FIRST_PIPE_INSTANCE);
+    if (!pipe) {
+        const DWORD error = GetLastError();
+        return error == ERROR_ACCESS_DENIED || error == ERROR_PIPE_BUSY
+                   ? Outcome::NameTaken
+                   : failed(m_path, errorText(error));
+    }
+    if (hasOtherEnds(pipe.get()))
+        return Outcome::NameTaken;
+    while (pipe && m_ends.size() < WaitingEnds) {
+        m_ends.push_back(std::make_unique<PipeEnd>());
+        m_ends.back()->wait(std::move(pipe), m_event.get());
+        pipe = newPipe();
+    }
+    m_notifier = std::make_unique<QWinEventNotifier>(m_event.get(), this);
+    connect(m_notifier.get(), &QWinEventNotifier::activated, this, [this] { letIn(); });
+    return Outcome::Listening;
+}
+
+OwnedHandle PipeListener::newPipe(DWORD flags) const
+{
+    SECURITY_ATTRIBUTES attributes = {};
+    attributes.nLength = sizeof(attributes);
+    attributes.lpSecurityDescriptor = m_descriptor.get();
+    return WindowsSecurity::owned(CreateNamedPipeW(
+        qUtf16Printable(m_path), PIPE_ACCESS_DUPLEX | FILE_FLAG_OVERLAPPED | flags,
+        PIPE_TYPE_BYTE | PIPE_READMODE_BYTE | PIPE_WAIT | PIPE_REJECT_REMOTE_CLIENTS,
+        PIPE_UNLIMITED_INSTANCES, BufferSize, BufferSize, DefaultWait, &attributes));
+}
+
+void PipeListener::letIn()
+{
+    // Before the ends are looked at: one that is looked at too early sets it again.
+    ResetEvent(m_event.get());
+    for (const std::unique_ptr<PipeEnd>& end : m_ends) {
+        const PipeEnd::State state = end->state();
+        if (state == PipeEnd::State::Waiting)
+            continue;
+        if (state == PipeEnd::State::Idle || !isUsers(end->handle())) {
+            end->sendAway(m_event.get());
+            continue;
+        }
+        // First, as the name is lost with the last end. Until one can be made, the client waits.
+        OwnedHandle next = newPipe();
+        if (!next) {
+            pause(m_path, errorText(GetLastError()));
+            break;
+        }
+        OwnedHandle client = end->release();
+        end->wait(std::move(next), m_event.get());
+        if (accept(reinterpret_cast<qintptr>(client.get())))
+            client.release();
+    }
+    Q_EMIT newClient();
+}
+
+/// The pipe's rights have kept others out already. This is about who has more rights than they say.
+bool PipeListener::isUsers(HANDLE pipe) const
+{
+    const QString client = WindowsSecurity::clientOfPipe(pipe);
+    if (client.isEmpty() || client == m_user)
+        return true;
+    qCWarning(vxIpc, "%s refuses a client of another user, %s", qUtf8Printable(m_path),
+              qUtf8Printable(client));
+    return false;
+}
+
+} // namespace
+
+std::unique_ptr<IpcListener> IpcListener::create(QObject* parent)
+{
+    return std::make_unique<PipeListener>(parent);
+}

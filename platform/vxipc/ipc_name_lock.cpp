@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "ipc_name_lock.h"
+
+#include <QtCore/QDeadlineTimer>
+
+#include <cerrno>
+#include <chrono>
+#include <thread>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Taking a name is a matter of a millisecond.
+constexpr auto LockTime = 500ms;
+constexpr auto Pause = 5ms;
+
+bool isSameFile(const struct stat& one, const struct stat& other)
+{
+    return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}
+
+} // namespace
+
+IpcNameLock::IpcNameLock(QByteArray path)
+    : m_path(std::move(path))
+{}
+
+IpcNameLock::~IpcNameLock()
+{
+    if (m_file.isValid())
+        unlink(m_path.constData());
+}
+
+IpcNameLock::Outcome IpcNameLock::lock()
+{
+    const QDeadlineTimer end(LockTime);
+    Outcome outcome = tryToLock();
+    while (outcome == Outcome::Denied && errno == EWOULDBLOCK && !end.hasExpired()) {
+        std::this_thread::sleep_for(Pause);
+        outcome = tryToLock();
+    }
+    return outcome;
+}
+
+IpcNameLock::Outcome IpcNameLock::tryToLock()
+{
+    struct stat entry = {};
+    const bool isThere = lstat(m_path.constData(), &entry) == 0;
+    // Before it is opened: opening a pipe waits for its other end, and opening a device may start
+    // whatever the device does.
+    if (isThere && !S_ISREG(entry.st_mode)) {
+        errno = EINVAL;
+        return Outcome::Denied;
+    }
+    OwnedDescriptor file(open(m_path.constData(),
+                              O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK,
+                              S_IRUSR | S_IWUSR));
+    if (!file.isValid())
+        return isThere && errno == EACCES ? Outcome::Denied : Outcome::Failed;
+    if (flock(file.get(), LOCK_EX | LOCK_NB) != 0)
+        return errno == EWOULDBLOCK ? Outcome::Denied : Outcome::Failed;
+    // Who held the lock until now has removed its file, and somebody may have made a new one.
+    struct stat locked = {};
+    if (fstat(file.get(), &locked) != 0 || lstat(m_path.constData(), &entry) != 0 ||
+        !isSameFile(locked, entry)) {
+        errno = EWOULDBLOCK;
+        return Outcome::Denied;
+    }
+    m_file = std::move(file);
+    return Outcome::Locked;
+}

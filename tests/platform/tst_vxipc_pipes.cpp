@@ -1,0 +1,346 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// How endpoints get their pipes on Windows, and which pipes clients believe.
+//
+// Shown here: the name, the owner and the rights of a pipe, that a name is taken once, whose pipes
+// are believed, and for how long is waited. Not shown under Wine, which has one user, looks at no
+// rights when a pipe is opened, takes no clients from other machines, and has its server
+// impersonate the server's own process whoever the client is (wine/server/named_pipe.c,
+// FSCTL_PIPE_IMPERSONATE): that other users and machines are kept out, and what a client lets be
+// done in its name.
+#include "ipc_host_process.h"
+#include "ipc_raw_client.h"
+#include "ipc_test_service.h"
+#include "vxipcclient.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QJsonObject>
+#include <QtTest/QTest>
+
+#include <array>
+#include <chrono>
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+#include <windows.h>
+
+#include <aclapi.h>
+#include <sddl.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+struct HandleCloser
+{
+    void operator()(HANDLE handle) const { CloseHandle(handle); }
+};
+using OwnedHandle = std::unique_ptr<void, HandleCloser>;
+
+struct LocalMemoryFreer
+{
+    void operator()(void* memory) const { LocalFree(memory); }
+};
+using OwnedMemory = std::unique_ptr<void, LocalMemoryFreer>;
+
+OwnedHandle owned(HANDLE handle)
+{
+    return OwnedHandle(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
+}
+
+bool isWine()
+{
+    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+}
+
+QString text(PSID identifier)
+{
+    wchar_t* text = nullptr;
+    if (!ConvertSidToStringSidW(identifier, &text))
+        return {};
+    const OwnedMemory memory(text);
+    return QString::fromWCharArray(text);
+}
+
+QString userOfProcess()
+{
+    HANDLE token = nullptr;
+    if (!OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token))
+        return {};
+    const OwnedHandle closeToken(token);
+    alignas(TOKEN_USER) std::array<std::byte, sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE> user = {};
+    DWORD size = 0;
+    if (!GetTokenInformation(token, TokenUser, user.data(), static_cast<DWORD>(user.size()), &size))
+        return {};
+    return text(reinterpret_cast<const TOKEN_USER*>(user.data())->User.Sid);
+}
+
+QString nameOf(int serverType)
+{
+    return QStringLiteral("vxipc-%1").arg(serverType);
+}
+
+QString ownNameOf(int serverType)
+{
+    return QStringLiteral("vxipc-%1-%2").arg(serverType).arg(QCoreApplication::applicationPid());
+}
+
+QString pathOf(const QString& name)
+{
+    return QStringLiteral(R"(\\.\pipe\)") + VXIPCClient::address(name);
+}
+
+OwnedHandle openPipe(const QString& path)
+{
+    return owned(CreateFileW(qUtf16Printable(path), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                             OPEN_EXISTING, 0, nullptr));
+}
+
+/// A pipe of the test's own under the path, with as many ends as it gets clients. `rights` is in
+/// the language of security descriptors.
+OwnedHandle makePipe(const QString& path, const QString& rights, DWORD ends = 1)
+{
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    if (!ConvertStringSecurityDescriptorToSecurityDescriptorW(
+            qUtf16Printable(rights), SDDL_REVISION_1, &descriptor, nullptr)) {
+        return nullptr;
+    }
+    const OwnedMemory memory(descriptor);
+    SECURITY_ATTRIBUTES attributes = {};
+    attributes.nLength = sizeof(attributes);
+    attributes.lpSecurityDescriptor = descriptor;
+    return owned(CreateNamedPipeW(qUtf16Printable(path), PIPE_ACCESS_DUPLEX | FILE_FLAG_OVERLAPPED,
+                                  PIPE_TYPE_BYTE, ends, 4096, 4096, 0, &attributes));
+}
+
+/// The rights of a pipe as the user's own endpoints have them.
+QString usersOwn()
+{
+    return QStringLiteral("O:%1D:P(A;;FA;;;%1)").arg(userOfProcess());
+}
+
+} // namespace
+
+class tst_VXIPCPipes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isNamedAfterTheUser();
+    void belongsToTheUser();
+    void takesNoNameThatSomebodyHas();
+    void takesNoNameThatIsBusy();
+    void isPublishedOnceAnyNameIsFree();
+    void keepsItsNameWhenItsClientsGo();
+    void staysAwayFromOtherMachines();
+
+    void believesOnlyTheUsersOwn_data();
+    void believesOnlyTheUsersOwn();
+    void letsItselfBeIdentifiedAndNoMore();
+    void waitsForAConnectionNoLongerThanForTheAnswer();
+};
+
+void tst_VXIPCPipes::isNamedAfterTheUser()
+{
+    const QString user = userOfProcess();
+    QVERIFY2(user.startsWith(QStringLiteral("S-1-")), qPrintable(user));
+    QCOMPARE(VXIPCClient::address(QStringLiteral("vxipc-0")), QStringLiteral("vxipc-0@") + user);
+}
+
+void tst_VXIPCPipes::belongsToTheUser()
+{
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const OwnedHandle pipe = openPipe(pathOf(service.serverName()));
+    QVERIFY2(pipe, qPrintable(qt_error_string()));
+    PSID owner = nullptr;
+    PACL rights = nullptr;
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    QCOMPARE(GetSecurityInfo(pipe.get(), SE_KERNEL_OBJECT,
+                             OWNER_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION, &owner,
+                             nullptr, &rights, nullptr, &descriptor),
+             DWORD{ERROR_SUCCESS});
+    const OwnedMemory memory(descriptor);
+    QCOMPARE(text(owner), userOfProcess());
+    QVERIFY(rights);
+    QCOMPARE(rights->AceCount, WORD{1});
+    ACCESS_ALLOWED_ACE* entry = nullptr;
+    QVERIFY(GetAce(rights, 0, reinterpret_cast<void**>(&entry)));
+    QCOMPARE(entry->Header.AceType, BYTE{ACCESS_ALLOWED_ACE_TYPE});
+    QCOMPARE(text(&entry->SidStart), userOfProcess());
+}
+
+void tst_VXIPCPipes::takesNoNameThatSomebodyHas()
+{
+    // A pipe that would let more ends be made, which Windows gives to whoever asks with the rights.
+    const int serverType = newServerType();
+    const OwnedHandle pipe = makePipe(pathOf(nameOf(serverType)), QStringLiteral("D:P(A;;FA;;;WD)"),
+                                      PIPE_UNLIMITED_INSTANCES);
+    QVERIFY2(pipe, qPrintable(qt_error_string()));
+    TestService service(serverType);
+    QTRY_COMPARE(service.serverName(), ownNameOf(serverType));
+    DWORD ends = 0;
+    QVERIFY(GetNamedPipeHandleStateW(pipe.get(), nullptr, &ends, nullptr, nullptr, nullptr, 0));
+    QCOMPARE(ends, DWORD{1});
+    RawClient client(service.serverName());
+    QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+}
+
+void tst_VXIPCPipes::takesNoNameThatIsBusy()
+{
+    constexpr int Services = 6;
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < Services; ++i) {
+        const int serverType = newServerType();
+        const QString path = pathOf(nameOf(serverType));
+        const OwnedHandle pipe = makePipe(path, usersOwn());
+        QVERIFY2(pipe, qPrintable(qt_error_string()));
+        const OwnedHandle client = openPipe(path);
+        QVERIFY2(client, qPrintable(qt_error_string()));
+        TestService service(serverType);
+        QTRY_COMPARE(service.serverName(), ownNameOf(serverType));
+    }
+    // Five seconds for each, for which a client may wait for an end that is free, would be more
+    // than twice that.
+    QVERIFY2(timer.elapsed() < Services * 2000, qPrintable(QString::number(timer.elapsed())));
+}
+
+void tst_VXIPCPipes::isPublishedOnceAnyNameIsFree()
+{
+    const int serverType = newServerType();
+    OwnedHandle first = makePipe(pathOf(nameOf(serverType)), usersOwn());
+    QVERIFY(first);
+    std::vector<OwnedHandle> others;
+    others.push_back(makePipe(pathOf(ownNameOf(serverType)), usersOwn()));
+    for (int i = 2; i <= 100; ++i) {
+        const QString name = ownNameOf(serverType) + QLatin1Char('-') + QString::number(i);
+        others.push_back(makePipe(pathOf(name), usersOwn()));
+        QVERIFY(others.back());
+    }
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QStringLiteral("is not published: .* are taken")));
+    TestService service(serverType);
+    QCoreApplication::sendPostedEvents(&service);
+    QCOMPARE(service.serverName(), QString());
+    first.reset();
+    QTRY_COMPARE(service.serverName(), nameOf(serverType));
+}
+
+void tst_VXIPCPipes::keepsItsNameWhenItsClientsGo()
+{
+    const int serverType = newServerType();
+    TestService service(serverType);
+    QTRY_COMPARE(service.serverName(), nameOf(serverType));
+    // More than wait for clients at a time.
+    for (int i = 0; i < 300; ++i) {
+        RawClient client(service.serverName());
+        QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    }
+    TestService other(serverType);
+    QTRY_COMPARE(other.serverName(), ownNameOf(serverType));
+    RawClient client(service.serverName());
+    QVERIFY(client.isConnected());
+}
+
+void tst_VXIPCPipes::staysAwayFromOtherMachines()
+{
+    if (isWine())
+        QSKIP("Wine opens no pipes through the network");
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const OwnedHandle pipe = openPipe(QStringLiteral(R"(\\localhost\pipe\)") +
+                                      VXIPCClient::address(service.serverName()));
+    const DWORD error = GetLastError();
+    QVERIFY(!pipe);
+    QCOMPARE(error, DWORD{ERROR_ACCESS_DENIED});
+}
+
+void tst_VXIPCPipes::believesOnlyTheUsersOwn_data()
+{
+    QTest::addColumn<QString>("rights");
+    QTest::addColumn<bool>("isBelieved");
+
+    QTest::newRow("the user's") << usersOwn() << true;
+    // Who may name them as the owner is an administrator, so this is what there is of other users.
+    QTest::newRow("the administrators'") << QStringLiteral("O:BAD:P(A;;FA;;;WD)") << false;
+}
+
+void tst_VXIPCPipes::believesOnlyTheUsersOwn()
+{
+    QFETCH(const QString, rights);
+    QFETCH(const bool, isBelieved);
+
+    const int serverType = newServerType();
+    const QString path = pathOf(nameOf(serverType));
+    const OwnedHandle pipe = makePipe(path, rights);
+    if (!pipe && GetLastError() == ERROR_INVALID_OWNER)
+        QSKIP("Only an administrator can make it");
+    QVERIFY2(pipe, qPrintable(qt_error_string()));
+    VXIPCClient client(serverType);
+    QCOMPARE(client.connectToServer(), isBelieved);
+    if (isBelieved)
+        return;
+    DisconnectNamedPipe(pipe.get());
+    OVERLAPPED overlapped = {};
+    ConnectNamedPipe(pipe.get(), &overlapped);
+    const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"), {}, 100ms);
+    CancelIo(pipe.get());
+    QCOMPARE(reply.error->code, int(VXIPCError::NotReachable));
+    QVERIFY2(reply.error->message.contains(path) &&
+                 reply.error->message.contains(QStringLiteral("belongs to another user")),
+             qPrintable(reply.error->message));
+}
+
+void tst_VXIPCPipes::letsItselfBeIdentifiedAndNoMore()
+{
+    if (isWine())
+        QSKIP("Wine does not keep what a client allows");
+    const int serverType = newServerType();
+    const OwnedHandle pipe = makePipe(pathOf(nameOf(serverType)), usersOwn());
+    QVERIFY2(pipe, qPrintable(qt_error_string()));
+    VXIPCClient client(serverType);
+    QVERIFY(client.connectToServer());
+    QVERIFY(client.notify(QStringLiteral("notes")));
+    // The level counts of what was read last.
+    std::array<char, 1> byte = {};
+    DWORD size = 0;
+    OVERLAPPED overlapped = {};
+    ReadFile(pipe.get(), byte.data(), static_cast<DWORD>(byte.size()), nullptr, &overlapped);
+    QVERIFY(GetOverlappedResult(pipe.get(), &overlapped, &size, TRUE));
+    QVERIFY(ImpersonateNamedPipeClient(pipe.get()));
+    HANDLE token = nullptr;
+    const bool isOpen = OpenThreadToken(GetCurrentThread(), TOKEN_QUERY, TRUE, &token) != 0;
+    QVERIFY(RevertToSelf());
+    QVERIFY(isOpen);
+    const OwnedHandle closeToken(token);
+    SECURITY_IMPERSONATION_LEVEL level = SecurityAnonymous;
+    QVERIFY(GetTokenInformation(token, TokenImpersonationLevel, &level, sizeof(level), &size));
+    QCOMPARE(int(level), int(SecurityIdentification));
+}
+
+void tst_VXIPCPipes::waitsForAConnectionNoLongerThanForTheAnswer()
+{
+    constexpr int Calls = 6;
+    const int serverType = newServerType();
+    const QString path = pathOf(nameOf(serverType));
+    const OwnedHandle pipe = makePipe(path, usersOwn());
+    QVERIFY2(pipe, qPrintable(qt_error_string()));
+    const OwnedHandle other = openPipe(path);
+    QVERIFY2(other, qPrintable(qt_error_string()));
+
+    VXIPCClient client(serverType);
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < Calls; ++i) {
+        const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"), {}, 1ms);
+        QCOMPARE(reply.error->code, int(VXIPCError::NotReachable));
+    }
+    // Five seconds for each would be more than twice that.
+    QVERIFY2(timer.elapsed() < Calls * 2000, qPrintable(QString::number(timer.elapsed())));
+}
+
+QTEST_GUILESS_MAIN(tst_VXIPCPipes)
+#include "tst_vxipc_pipes.moc"

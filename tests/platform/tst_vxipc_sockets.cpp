@@ -1,0 +1,557 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// How endpoints get their sockets and keep them, and which sockets clients believe.
+#include "ipc_raw_client.h"
+#include "ipc_test_service.h"
+#include "scoped_variable.h"
+#include "vxipcclient.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QFileInfo>
+#include <QtCore/QJsonObject>
+#include <QtCore/QScopeGuard>
+#include <QtCore/QTemporaryDir>
+#include <QtNetwork/QLocalServer>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <memory>
+#include <vector>
+
+#include <fcntl.h>
+#include <linux/capability.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/sysmacros.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto RuntimeFolder = "XDG_RUNTIME_DIR";
+constexpr uid_t Nobody = 65534;
+
+QString nameOf(int serverType)
+{
+    return QStringLiteral("vxipc-%1").arg(serverType);
+}
+
+QString ownNameOf(int serverType)
+{
+    return QStringLiteral("vxipc-%1-%2").arg(serverType).arg(QCoreApplication::applicationPid());
+}
+
+/// Collects what endpoints complain of.
+class Complaints
+{
+public:
+    Complaints()
+    {
+        list().clear();
+        m_before = qInstallMessageHandler(handle);
+    }
+    ~Complaints() { qInstallMessageHandler(m_before); }
+    Q_DISABLE_COPY_MOVE(Complaints)
+
+    qsizetype size() const { return list().size(); }
+    QString last() const { return list().isEmpty() ? QString() : list().last(); }
+
+private:
+    static QStringList& list()
+    {
+        static QStringList complaints;
+        return complaints;
+    }
+    static void handle(QtMsgType /*type*/, const QMessageLogContext& /*context*/,
+                       const QString& message)
+    {
+        list().append(message);
+    }
+
+    QtMessageHandler m_before;
+};
+
+/// Takes every file descriptor that this process may still have.
+class NoDescriptors
+{
+public:
+    NoDescriptors()
+    {
+        getrlimit(RLIMIT_NOFILE, &m_before);
+        rlimit few = m_before;
+        few.rlim_cur = std::min<rlim_t>(256, few.rlim_cur);
+        setrlimit(RLIMIT_NOFILE, &few);
+        for (int descriptor = dup(STDIN_FILENO); descriptor >= 0; descriptor = dup(STDIN_FILENO))
+            m_taken.push_back(descriptor);
+        m_areNone = errno == EMFILE;
+    }
+    ~NoDescriptors()
+    {
+        for (const int descriptor : m_taken)
+            close(descriptor);
+        setrlimit(RLIMIT_NOFILE, &m_before);
+    }
+    Q_DISABLE_COPY_MOVE(NoDescriptors)
+
+    bool areNone() const { return m_areNone; }
+
+private:
+    rlimit m_before = {};
+    std::vector<int> m_taken;
+    bool m_areNone = false;
+};
+
+/// Holds this thread to the permissions of files even when root runs the test.
+class BoundByPermissions
+{
+public:
+    BoundByPermissions() { m_isBound = read(m_before) && write(without(m_before)); }
+    ~BoundByPermissions() { write(m_before); }
+    Q_DISABLE_COPY_MOVE(BoundByPermissions)
+
+    bool isBound() const { return m_isBound; }
+
+private:
+    using Capabilities = std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3>;
+
+    static __user_cap_header_struct header() { return {_LINUX_CAPABILITY_VERSION_3, 0}; }
+    static bool read(Capabilities& capabilities)
+    {
+        __user_cap_header_struct of = header();
+        return syscall(SYS_capget, &of, capabilities.data()) == 0;
+    }
+    static bool write(const Capabilities& capabilities)
+    {
+        __user_cap_header_struct of = header();
+        return syscall(SYS_capset, &of, capabilities.data()) == 0;
+    }
+    static Capabilities without(Capabilities capabilities)
+    {
+        capabilities[0].effective &= ~((1U << CAP_DAC_OVERRIDE) | (1U << CAP_DAC_READ_SEARCH));
+        return capabilities;
+    }
+
+    Capabilities m_before = {};
+    bool m_isBound = false;
+};
+
+/// How often something that belongs to the object has been tried again.
+class Retries
+{
+public:
+    explicit Retries(const QObject& object)
+    {
+        for (QTimer* timer : object.findChildren<QTimer*>())
+            m_spies.push_back(std::make_unique<QSignalSpy>(timer, &QTimer::timeout));
+    }
+
+    qsizetype count() const
+    {
+        qsizetype sum = 0;
+        for (const std::unique_ptr<QSignalSpy>& spy : m_spies)
+            sum += spy->size();
+        return sum;
+    }
+
+private:
+    std::vector<std::unique_ptr<QSignalSpy>> m_spies;
+};
+
+/// A socket of the test's own.
+class PlainSocket
+{
+public:
+    PlainSocket()
+        : m_descriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0))
+    {}
+    ~PlainSocket() { close(m_descriptor); }
+    Q_DISABLE_COPY_MOVE(PlainSocket)
+
+    bool connectTo(const QString& path) const
+    {
+        const sockaddr_un name = address(path);
+        return connect(m_descriptor, reinterpret_cast<const sockaddr*>(&name), sizeof(name)) == 0;
+    }
+    /// Takes no clients but those that the system lets wait.
+    bool listenAt(const QString& path) const
+    {
+        const sockaddr_un name = address(path);
+        return bind(m_descriptor, reinterpret_cast<const sockaddr*>(&name), sizeof(name)) == 0 &&
+               chmod(name.sun_path, S_IRUSR | S_IWUSR) == 0 && listen(m_descriptor, 0) == 0;
+    }
+    void send(const QByteArray& bytes) const
+    {
+        ::send(m_descriptor, bytes.constData(), static_cast<std::size_t>(bytes.size()),
+               MSG_NOSIGNAL);
+    }
+    QByteArray received() const
+    {
+        QByteArray bytes(4096, '\0');
+        const ssize_t size =
+            recv(m_descriptor, bytes.data(), static_cast<std::size_t>(bytes.size()), 0);
+        return bytes.first(std::max<ssize_t>(size, 0));
+    }
+
+private:
+    static sockaddr_un address(const QString& path)
+    {
+        sockaddr_un name = {};
+        name.sun_family = AF_UNIX;
+        const QByteArray encoded = QFile::encodeName(path);
+        std::copy(encoded.cbegin(), encoded.cend(), name.sun_path);
+        return name;
+    }
+
+    int m_descriptor;
+};
+
+} // namespace
+
+class tst_VXIPCSockets : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isPublishedOnceThereAreDescriptors();
+    void isPublishedOnceAnyNameIsAllowed();
+    void isPublishedOnceAnyNameIsFree();
+    void isPublishedOnceItsFolderIsTheUsersAlone();
+    void letsClientsInOnceThereAreDescriptors();
+    void takesNoNameWithoutItsLock();
+    void takesNoNameWhoseLockIsNoFile_data();
+    void takesNoNameWhoseLockIsNoFile();
+    void takesTheNameWhoseLockADeadProcessLeft();
+    void leavesWhatIsNoSocket();
+    void leavesTheSocketThatTookItsPlace();
+    void ignoresARelativeFolder();
+
+    void believesOnlyTheUsersOwn_data();
+    void believesOnlyTheUsersOwn();
+    void findsNobodyInAFolderThatIsNotThere();
+    void waitsForAConnectionNoLongerThanForTheAnswer();
+};
+
+void tst_VXIPCSockets::isPublishedOnceThereAreDescriptors()
+{
+    const int serverType = newServerType();
+    TestService service(serverType);
+    const Complaints complaints;
+    {
+        const NoDescriptors noDescriptors;
+        QVERIFY(noDescriptors.areNone());
+        QCoreApplication::sendPostedEvents(&service);
+        QCOMPARE(service.serverName(), QString());
+        const Retries retries(service);
+        QTRY_VERIFY(retries.count() >= 3);
+        QCOMPARE(service.serverName(), QString());
+    }
+    QCOMPARE(complaints.size(), 1);
+    QVERIFY2(complaints.last().contains(nameOf(serverType)), qPrintable(complaints.last()));
+    QVERIFY2(complaints.last().contains(qt_error_string(EMFILE)), qPrintable(complaints.last()));
+    QTRY_COMPARE(service.serverName(), nameOf(serverType));
+    RawClient client(service.serverName());
+    QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+}
+
+void tst_VXIPCSockets::isPublishedOnceAnyNameIsAllowed()
+{
+    const QTemporaryDir folder;
+    const ScopedVariable runtime(RuntimeFolder, folder.path());
+    const int serverType = newServerType();
+    TestService service(serverType);
+    const Complaints complaints;
+    {
+        const BoundByPermissions bound;
+        QVERIFY(bound.isBound());
+        QVERIFY(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner));
+        QCoreApplication::sendPostedEvents(&service);
+        const Retries retries(service);
+        QTRY_VERIFY(retries.count() >= 3);
+        QCOMPARE(service.serverName(), QString());
+        QVERIFY(QFile::setPermissions(folder.path(),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    }
+    QCOMPARE(complaints.size(), 1);
+    QVERIFY2(complaints.last().contains(qt_error_string(EACCES)), qPrintable(complaints.last()));
+    QTRY_COMPARE(service.serverName(), nameOf(serverType));
+}
+
+void tst_VXIPCSockets::isPublishedOnceAnyNameIsFree()
+{
+    const QTemporaryDir folder;
+    const ScopedVariable runtime(RuntimeFolder, folder.path());
+    const int serverType = newServerType();
+    const QDir names(folder.path());
+    QVERIFY(names.mkdir(nameOf(serverType)));
+    QVERIFY(names.mkdir(ownNameOf(serverType)));
+    for (int i = 2; i <= 100; ++i)
+        QVERIFY(names.mkdir(ownNameOf(serverType) + QLatin1Char('-') + QString::number(i)));
+
+    TestService service(serverType);
+    const Complaints complaints;
+    QCoreApplication::sendPostedEvents(&service);
+    const Retries retries(service);
+    QTRY_VERIFY(retries.count() >= 2);
+    QCOMPARE(service.serverName(), QString());
+    QCOMPARE(complaints.size(), 1);
+    QVERIFY2(complaints.last().contains(QStringLiteral("taken")), qPrintable(complaints.last()));
+    QVERIFY(names.rmdir(nameOf(serverType)));
+    QTRY_COMPARE(service.serverName(), nameOf(serverType));
+}
+
+void tst_VXIPCSockets::isPublishedOnceItsFolderIsTheUsersAlone()
+{
+    const QTemporaryDir folder;
+    const ScopedVariable runtime(RuntimeFolder, folder.path());
+    const QFile::Permissions before = QFile::permissions(folder.path());
+    QVERIFY(QFile::setPermissions(folder.path(), before | QFile::WriteOther));
+    TestService service(newServerType());
+    const Complaints complaints;
+    QCoreApplication::sendPostedEvents(&service);
+    QCOMPARE(service.serverName(), QString());
+    QCOMPARE(complaints.size(), 1);
+    QVERIFY(QFile::setPermissions(folder.path(), before));
+    QTRY_VERIFY(!service.serverName().isEmpty());
+}
+
+void tst_VXIPCSockets::letsClientsInOnceThereAreDescriptors()
+{
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QString address = VXIPCClient::address(service.serverName());
+    const PlainSocket client;
+    const Complaints complaints;
+    {
+        const NoDescriptors noDescriptors;
+        QVERIFY(noDescriptors.areNone());
+        const Retries retries(service);
+        QVERIFY(client.connectTo(address));
+        client.send("{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"scale\",\"params\":[1]}\n");
+        QTRY_COMPARE(complaints.size(), 1);
+        QVERIFY2(complaints.last().contains(qt_error_string(EMFILE)),
+                 qPrintable(complaints.last()));
+        QVERIFY(QFileInfo::exists(address));
+        QTRY_VERIFY(retries.count() >= 3);
+        QCOMPARE(complaints.size(), 1);
+    }
+    // The client that came meanwhile, and others.
+    QByteArray answer;
+    QTRY_VERIFY(!(answer += client.received()).isEmpty());
+    QCOMPARE(answer, QByteArray("{\"id\":1,\"jsonrpc\":\"2.0\",\"result\":10}\n"));
+    RawClient other(service.serverName());
+    QCOMPARE(other.call("scale", "[2]")[QStringLiteral("result")].toInt(), 20);
+}
+
+void tst_VXIPCSockets::takesNoNameWithoutItsLock()
+{
+    const int serverType = newServerType();
+    // As another process does between its look at the name and its socket.
+    const QByteArray path =
+        QFile::encodeName(VXIPCClient::address(nameOf(serverType)) + QStringLiteral(".lock"));
+    const int lock = open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    QVERIFY(lock >= 0);
+    const auto end = qScopeGuard([&] {
+        unlink(path.constData());
+        close(lock);
+    });
+    QCOMPARE(flock(lock, LOCK_EX | LOCK_NB), 0);
+    TestService service(serverType);
+    QTRY_COMPARE(service.serverName(), ownNameOf(serverType));
+    QVERIFY(!QFileInfo::exists(VXIPCClient::address(nameOf(serverType))));
+    QVERIFY(QFileInfo::exists(QFile::decodeName(path)));
+}
+
+void tst_VXIPCSockets::takesNoNameWhoseLockIsNoFile_data()
+{
+    QTest::addColumn<QString>("kind");
+
+    for (const char* kind : {"pipe", "device", "link", "folder"})
+        QTest::newRow(kind) << QString::fromLatin1(kind);
+}
+
+void tst_VXIPCSockets::takesNoNameWhoseLockIsNoFile()
+{
+    QFETCH(const QString, kind);
+
+    const int serverType = newServerType();
+    const QByteArray path =
+        QFile::encodeName(VXIPCClient::address(nameOf(serverType)) + QStringLiteral(".lock"));
+    const int made = kind == QStringLiteral("pipe") ? mkfifo(path.constData(), 0600)
+                     : kind == QStringLiteral("device")
+                         ? mknod(path.constData(), S_IFCHR | 0600, makedev(1, 5))
+                     : kind == QStringLiteral("link") ? symlink("/dev/zero", path.constData())
+                                                      : mkdir(path.constData(), 0700);
+    if (made != 0 && kind == QStringLiteral("device"))
+        QSKIP("Only root can make devices");
+    QCOMPARE(made, 0);
+    const auto end = qScopeGuard([&] { remove(path.constData()); });
+    TestService service(serverType);
+    QTRY_COMPARE(service.serverName(), ownNameOf(serverType));
+    struct stat entry = {};
+    QCOMPARE(lstat(path.constData(), &entry), 0);
+}
+
+void tst_VXIPCSockets::takesTheNameWhoseLockADeadProcessLeft()
+{
+    const int serverType = newServerType();
+    const QString path = VXIPCClient::address(nameOf(serverType)) + QStringLiteral(".lock");
+    QFile left(path);
+    QVERIFY(left.open(QFile::WriteOnly));
+    left.write("4711\n");
+    left.close();
+    TestService service(serverType);
+    QTRY_COMPARE(service.serverName(), nameOf(serverType));
+    QVERIFY(!QFileInfo::exists(path));
+}
+
+void tst_VXIPCSockets::leavesWhatIsNoSocket()
+{
+    const int serverType = newServerType();
+    const QString path = VXIPCClient::address(nameOf(serverType));
+    QFile file(path);
+    QVERIFY(file.open(QFile::WriteOnly));
+    {
+        TestService service(serverType);
+        QTRY_COMPARE(service.serverName(), ownNameOf(serverType));
+    }
+    QVERIFY(file.remove());
+}
+
+void tst_VXIPCSockets::leavesTheSocketThatTookItsPlace()
+{
+    auto service = std::make_unique<TestService>(newServerType());
+    QTRY_VERIFY(!service->serverName().isEmpty());
+    const QString path = VXIPCClient::address(service->serverName());
+    QVERIFY(QFile::remove(path));
+    QLocalServer other;
+    QVERIFY(other.listen(path));
+    service.reset();
+    QVERIFY(QFileInfo::exists(path));
+    QLocalSocket client;
+    client.connectToServer(path);
+    QVERIFY(client.waitForConnected());
+}
+
+void tst_VXIPCSockets::ignoresARelativeFolder()
+{
+    const QTemporaryDir folder;
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(folder.path()));
+    const auto goBack = qScopeGuard([&] { QDir::setCurrent(before); });
+    const ScopedVariable runtime(RuntimeFolder, QStringLiteral("relative"));
+    const ScopedVariable temporary("TMPDIR", folder.path());
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QString address = VXIPCClient::address(service.serverName());
+    QCOMPARE(address, QStringLiteral("%1/vxipc-%2/%3")
+                          .arg(folder.path(), QString::number(geteuid()), service.serverName()));
+    QVERIFY(QFileInfo::exists(address));
+    QVERIFY(!QFileInfo::exists(QStringLiteral("relative")));
+    VXIPCClient client(service.serverName());
+    QVERIFY(client.connectToServer());
+}
+
+void tst_VXIPCSockets::believesOnlyTheUsersOwn_data()
+{
+    QTest::addColumn<bool>("isFolder");
+    QTest::addColumn<uint>("mode");
+    QTest::addColumn<bool>("isOthers");
+    QTest::addColumn<QString>("complaint");
+
+    const QString writable = QStringLiteral("other users may write to it");
+    const QString others = QStringLiteral("belongs to another user");
+    QTest::newRow("a folder that others write to") << true << 0703U << false << writable;
+    QTest::newRow("a folder that a group writes to") << true << 0730U << false << writable;
+    QTest::newRow("a folder of another user") << true << 0700U << true << others;
+    QTest::newRow("a socket that others write to") << false << 0602U << false << writable;
+    QTest::newRow("a socket that a group writes to") << false << 0620U << false << writable;
+    QTest::newRow("a socket of another user") << false << 0600U << true << others;
+}
+
+void tst_VXIPCSockets::believesOnlyTheUsersOwn()
+{
+    QFETCH(const bool, isFolder);
+    QFETCH(const uint, mode);
+    QFETCH(const bool, isOthers);
+    QFETCH(const QString, complaint);
+    if (isOthers && geteuid() != 0)
+        QSKIP("Only root can give a file to another user");
+
+    const QTemporaryDir folder;
+    const ScopedVariable runtime(RuntimeFolder, folder.path());
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QString name = service.serverName();
+    VXIPCClient client(name);
+    QVERIFY(client.connectToServer());
+    QVERIFY(VXIPCClient::runningServers().contains(name));
+    client.disconnectFromServer();
+
+    const QByteArray path =
+        QFile::encodeName(isFolder ? folder.path() : VXIPCClient::address(name));
+    QCOMPARE(chmod(path.constData(), mode), 0);
+    QCOMPARE(isOthers ? chown(path.constData(), Nobody, Nobody) : 0, 0);
+    QVERIFY(!client.connectToServer());
+    const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"), {}, 100ms);
+    QCOMPARE(reply.error->code, int(VXIPCError::NotReachable));
+    QVERIFY2(reply.error->message.contains(QFile::decodeName(path)) &&
+                 reply.error->message.contains(complaint),
+             qPrintable(reply.error->message));
+    QVERIFY(!VXIPCClient::runningServers().contains(name));
+
+    QCOMPARE(chown(path.constData(), geteuid(), getegid()), 0);
+    QCOMPARE(chmod(path.constData(), 0700), 0);
+    QVERIFY(client.connectToServer());
+}
+
+void tst_VXIPCSockets::findsNobodyInAFolderThatIsNotThere()
+{
+    const QTemporaryDir folder;
+    const ScopedVariable runtime(RuntimeFolder, folder.filePath(QStringLiteral("missing")));
+    VXIPCClient client(newServerType());
+    const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"));
+    QCOMPARE(reply.error->code, int(VXIPCError::NotReachable));
+    QCOMPARE(reply.error->message,
+             QStringLiteral("no endpoint answers under %1").arg(client.serverName()));
+    QVERIFY(VXIPCClient::runningServers().isEmpty());
+    // Looking for endpoints makes no folder for them.
+    QVERIFY(!QFileInfo::exists(folder.filePath(QStringLiteral("missing"))));
+}
+
+void tst_VXIPCSockets::waitsForAConnectionNoLongerThanForTheAnswer()
+{
+    constexpr int Calls = 30;
+    const int serverType = newServerType();
+    const QString path = VXIPCClient::address(nameOf(serverType));
+    const PlainSocket busy;
+    QVERIFY(busy.listenAt(path));
+    const auto removeSocket = qScopeGuard([&] { QFile::remove(path); });
+    std::vector<std::unique_ptr<PlainSocket>> waiting;
+    do {
+        waiting.push_back(std::make_unique<PlainSocket>());
+    } while (waiting.back()->connectTo(path));
+
+    VXIPCClient client(serverType);
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < Calls; ++i) {
+        const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"), {}, 1ms);
+        QCOMPARE(reply.error->code, int(VXIPCError::NotReachable));
+    }
+    // A second for each, which a connection may take otherwise, would be three times that.
+    QVERIFY2(timer.elapsed() < Calls * 1000 / 3, qPrintable(QString::number(timer.elapsed())));
+}
+
+QTEST_GUILESS_MAIN(tst_VXIPCSockets)
+#include "tst_vxipc_sockets.moc"
