@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #include "supplydb_connection.h"
 
+#include "lock_patience.h"
+#include "supplydb_pages.h"
 #include "supplydb_schema.h"
 
 #include <QtCore/QFile>
@@ -9,8 +11,7 @@
 #include <QtCore/QMutex>
 #include <QtCore/QtEndian>
 #include <QtSql/QSqlError>
-
-#include <utility>
+#include <QtSql/QSqlQuery>
 
 namespace {
 
@@ -40,21 +41,8 @@ QSqlDatabase addConnection(const QString& wantedName)
     return QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
 }
 
-} // namespace
-
-SupplyDbConnection::~SupplyDbConnection()
+QString headerFault(const QByteArray& header)
 {
-    close();
-}
-
-QString SupplyDbConnection::headerFault(const QString& path)
-{
-    if (!QFileInfo(path).isFile())
-        return QStringLiteral("no such file");
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return QStringLiteral("cannot be read: %1").arg(file.errorString());
-    const QByteArray header = file.read(HeaderSize);
     if (header.size() < HeaderSize || !header.startsWith(QByteArray(Magic, sizeof(Magic))))
         return QStringLiteral("not an SQLite database");
     if (numberAt(header, ApplicationIdOffset) != SupplyDbSchema::ApplicationId)
@@ -71,31 +59,63 @@ QString SupplyDbConnection::headerFault(const QString& path)
     return {};
 }
 
+// Why a file is no supply database that can be read here; empty when it is in order.
+QString fileFault(const QString& path)
+{
+    if (!QFileInfo(path).isFile())
+        return QStringLiteral("no such file");
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return QStringLiteral("cannot be read: %1").arg(file.errorString());
+    const QString fault = headerFault(file.read(HeaderSize));
+    return fault.isEmpty() ? SupplyDbPages::fault(file) : fault;
+}
+
+} // namespace
+
+SupplyDbConnection::~SupplyDbConnection()
+{
+    close();
+}
+
 void SupplyDbConnection::setUp(const QString& path, const QString& connectionName)
 {
     close();
     m_fault.clear();
+    m_sinceFault.invalidate();
     m_path = path;
     m_name = connectionName;
-    m_isOpenTried = false;
+    m_isSetUp = true;
 }
 
 bool SupplyDbConnection::open()
 {
-    if (std::exchange(m_isOpenTried, true))
-        return m_database.isOpen();
-    m_fault = headerFault(m_path);
-    if (!m_fault.isEmpty())
-        return false;
-    m_database = addConnection(m_name);
-    // Whoever holds the file locked must not hold up the thread that asks.
-    m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=100"));
-    m_database.setDatabaseName(m_path);
-    if (m_database.open())
+    if (m_database.isOpen())
         return true;
-    m_fault = m_database.lastError().databaseText();
+    const bool isTooEarly =
+        m_sinceFault.isValid() && !m_sinceFault.hasExpired(RetryInterval.count());
+    if (!m_isSetUp || isTooEarly)
+        return false;
+    m_fault = tryToOpen();
+    if (m_fault.isEmpty())
+        return true;
     close();
+    m_sinceFault.start();
     return false;
+}
+
+QString SupplyDbConnection::tryToOpen()
+{
+    const QString fault = fileFault(m_path);
+    if (!fault.isEmpty())
+        return fault;
+    m_database = addConnection(m_name);
+    // LockPatience has SQLite's part in waiting, which knows one statement only.
+    m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=0"));
+    m_database.setDatabaseName(m_path);
+    if (!m_database.open())
+        return m_database.lastError().databaseText();
+    return {};
 }
 
 void SupplyDbConnection::close()

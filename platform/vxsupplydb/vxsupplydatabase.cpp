@@ -10,7 +10,6 @@
 #include <QtCore/QHash>
 
 #include <memory>
-#include <optional>
 #include <utility>
 
 namespace {
@@ -148,7 +147,8 @@ struct Ribbon
     int panels = -1;
 };
 const Question RibbonQuestion{
-    R"(type, width, length, (SELECT count(*) FROM ribbon_panel WHERE ribbon_sku = sku))",
+    R"(type, width, length, (SELECT count(*) FROM
+        (SELECT 1 FROM ribbon_panel WHERE ribbon_sku = sku LIMIT 16)))",
     R"(ribbon)", "sku"};
 
 using PanelKey = std::pair<QString, int>;
@@ -346,12 +346,10 @@ public:
     int languageId = SupplyDbSchema::FallbackLanguage;
     QString supplyId;
     QStringList ribbonIds;
-    std::optional<QString> supplySku;
-    std::optional<QStringList> ribbonSkus;
 
     void setup(const QString& path, const QString& name)
     {
-        resetQueries();
+        m_kept.reset();
         connection.setUp(path, name);
     }
 
@@ -361,13 +359,6 @@ public:
     {
         connection.open();
         return connection.database();
-    }
-
-    void resetQueries()
-    {
-        m_kept.reset();
-        supplySku.reset();
-        ribbonSkus.reset();
     }
 
     void clearNames()
@@ -502,13 +493,11 @@ void VXSupplyDatabase::setLanguageId(int languageId)
 void VXSupplyDatabase::setSupplyId(const QString& id)
 {
     d->supplyId = id;
-    d->supplySku.reset();
 }
 
 void VXSupplyDatabase::setRibbonIds(const QStringList& ids)
 {
     d->ribbonIds = ids;
-    d->ribbonSkus.reset();
 }
 
 QString VXSupplyDatabase::supplyId() const
@@ -518,20 +507,16 @@ QString VXSupplyDatabase::supplyId() const
 
 QString VXSupplyDatabase::supplySKU() const
 {
-    if (!d->supplySku)
-        d->supplySku = d->loadedSupplySku();
-    return *d->supplySku;
+    return d->loadedSupplySku();
 }
 
 QStringList VXSupplyDatabase::supplyRibbonSKUs() const
 {
-    if (!d->ribbonSkus) {
-        QStringList skus;
-        for (const QString& id : std::as_const(d->ribbonIds))
-            skus.append(d->loadedRibbonSku(id));
-        d->ribbonSkus = skus;
-    }
-    return *d->ribbonSkus;
+    QStringList skus;
+    skus.reserve(d->ribbonIds.size());
+    for (const QString& id : std::as_const(d->ribbonIds))
+        skus.append(d->loadedRibbonSku(id));
+    return skus;
 }
 
 QString VXSupplyDatabase::supplySupplyRGB() const
