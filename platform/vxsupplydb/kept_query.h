@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "lock_patience.h"
+
 #include <QtCore/QCache>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
@@ -60,7 +62,8 @@ public:
             return *kept;
         const QVariantList bound{QVariant(values)...};
         if (m_all && ++m_misses == 2) {
-            askAll(database, bound);
+            if (!askAll(database, bound))
+                m_misses = 1; // the next miss is as good
             if (const Answer* kept = m_answers.object(key))
                 return *kept;
         }
@@ -88,31 +91,53 @@ public:
 private:
     bool ask(const QSqlDatabase& database, Answer& answer, const QVariantList& values)
     {
-        if (!database.isOpen() || !prepare(database))
+        if (!database.isOpen())
             return false;
+        QSqlError error;
+        do {
+            answer = Answer();
+            error = tryToAsk(database, answer, values);
+        } while (LockPatience::ofThisThread().waitAfter(error));
+        return !error.isValid();
+    }
+
+    QSqlError tryToAsk(const QSqlDatabase& database, Answer& answer, const QVariantList& values)
+    {
+        if (!m_query) {
+            QSqlQuery query(database);
+            query.setForwardOnly(true);
+            if (!query.prepare(m_statement))
+                return query.lastError();
+            m_query = std::move(query);
+        }
         for (qsizetype i = 0; i < values.size(); ++i)
             m_query->bindValue(static_cast<int>(i), values.at(i));
         if (!m_query->exec())
-            return false;
+            return m_query->lastError();
         while (m_query->next())
             m_readRow(*m_query, answer);
-        const bool isWhole = !m_query->lastError().isValid();
-        m_query->finish(); // or the file stays locked
-        return isWhole;
+        const QSqlError error = m_query->lastError(); // that an answer ended with
+        m_query->finish();                            // or the file stays locked
+        return error;
     }
 
-    void askAll(const QSqlDatabase& database, const QVariantList& values)
+    // False when it could not be asked: what is asked for one key then waits for a locked file.
+    bool askAll(const QSqlDatabase& database, const QVariantList& values)
     {
         QSqlQuery query(database);
         query.setForwardOnly(true);
         if (!database.isOpen() || !query.prepare(m_all->statement))
-            return;
+            return false;
         const qsizetype parameters = m_all->statement.count(u'?');
         for (qsizetype i = 0; i < parameters; ++i)
             query.bindValue(static_cast<int>(i), values.at(i));
         if (!query.exec())
-            return;
-        while (m_answers.size() < m_answers.maxCost() && query.next()) {
+            return false;
+        // No more rows than there is room for, though a key that comes twice leaves some.
+        const auto hasRoom = [this] {
+            return m_answers.size() < m_answers.maxCost();
+        };
+        for (qsizetype row = 0; row < m_answers.maxCost() && hasRoom() && query.next(); ++row) {
             const Key key = m_all->keyOf(query);
             if (m_answers.contains(key))
                 continue;
@@ -120,17 +145,6 @@ private:
             m_readRow(query, *answer);
             m_answers.insert(key, answer.release());
         }
-    }
-
-    bool prepare(const QSqlDatabase& database)
-    {
-        if (m_query)
-            return true;
-        QSqlQuery query(database);
-        query.setForwardOnly(true);
-        if (!query.prepare(m_statement))
-            return false;
-        m_query = std::move(query);
         return true;
     }
 

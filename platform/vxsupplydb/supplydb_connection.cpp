@@ -2,15 +2,16 @@
 // Copyright The VxPrinterStatus authors
 #include "supplydb_connection.h"
 
+#include "supplydb_pages.h"
 #include "supplydb_schema.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QHash>
 #include <QtCore/QMutex>
 #include <QtCore/QtEndian>
 #include <QtSql/QSqlError>
-
-#include <utility>
 
 namespace {
 
@@ -40,21 +41,8 @@ QSqlDatabase addConnection(const QString& wantedName)
     return QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
 }
 
-} // namespace
-
-SupplyDbConnection::~SupplyDbConnection()
+QString headerFault(const QByteArray& header)
 {
-    close();
-}
-
-QString SupplyDbConnection::headerFault(const QString& path)
-{
-    if (!QFileInfo(path).isFile())
-        return QStringLiteral("no such file");
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return QStringLiteral("cannot be read: %1").arg(file.errorString());
-    const QByteArray header = file.read(HeaderSize);
     if (header.size() < HeaderSize || !header.startsWith(QByteArray(Magic, sizeof(Magic))))
         return QStringLiteral("not an SQLite database");
     if (numberAt(header, ApplicationIdOffset) != SupplyDbSchema::ApplicationId)
@@ -71,31 +59,114 @@ QString SupplyDbConnection::headerFault(const QString& path)
     return {};
 }
 
+/// What the pages of a file were found to be like, by what tells it from the file before it and
+/// after it: SQLite counts its changes in the header.
+struct Finding
+{
+    qint64 size = -1;
+    qint64 modified = 0;
+    QByteArray header{};
+    QString fault{};
+
+    bool isOf(const Finding& file) const
+    {
+        return size == file.size && modified == file.modified && header == file.header;
+    }
+};
+Q_CONSTINIT QBasicMutex findingsMutex;
+constexpr qsizetype MaxFindings = 16;
+// A file that has just been written may be written again without its time being another.
+constexpr qint64 ModifiedLongAgo = 2000;
+
+QHash<QString, Finding>& findings()
+{
+    static QHash<QString, Finding> all;
+    return all;
+}
+
+// A host opens the same file for each of its printers.
+QString pagesFault(QFile& file, const Finding& asItIs)
+{
+    {
+        const QMutexLocker locker(&findingsMutex);
+        const auto found = findings().constFind(file.fileName());
+        if (found != findings().constEnd() && found->isOf(asItIs))
+            return found->fault;
+    }
+    Finding finding = asItIs;
+    finding.fault = SupplyDbPages::fault(file);
+    if (QDateTime::currentMSecsSinceEpoch() - finding.modified > ModifiedLongAgo) {
+        const QMutexLocker locker(&findingsMutex);
+        if (findings().size() >= MaxFindings)
+            findings().clear();
+        findings().insert(file.fileName(), finding);
+    }
+    return finding.fault;
+}
+
+// Why a file is no supply database that can be read here; empty when it is in order.
+QString fileFault(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.isFile())
+        return QStringLiteral("no such file");
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return QStringLiteral("cannot be read: %1").arg(file.errorString());
+    const QByteArray header = file.read(HeaderSize);
+    const QString fault = headerFault(header);
+    if (!fault.isEmpty())
+        return fault;
+    return pagesFault(file, {.size = info.size(),
+                             .modified = info.lastModified().toMSecsSinceEpoch(),
+                             .header = header});
+}
+
+} // namespace
+
+SupplyDbConnection::~SupplyDbConnection()
+{
+    close();
+}
+
 void SupplyDbConnection::setUp(const QString& path, const QString& connectionName)
 {
     close();
     m_fault.clear();
+    m_sinceFault.invalidate();
     m_path = path;
     m_name = connectionName;
-    m_isOpenTried = false;
+    m_isSetUp = true;
 }
 
 bool SupplyDbConnection::open()
 {
-    if (std::exchange(m_isOpenTried, true))
-        return m_database.isOpen();
-    m_fault = headerFault(m_path);
-    if (!m_fault.isEmpty())
-        return false;
-    m_database = addConnection(m_name);
-    // Whoever holds the file locked must not hold up the thread that asks.
-    m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=100"));
-    m_database.setDatabaseName(m_path);
-    if (m_database.open())
+    if (m_database.isOpen())
         return true;
-    m_fault = m_database.lastError().databaseText();
+    const bool isTooEarly =
+        m_sinceFault.isValid() && !m_sinceFault.hasExpired(RetryInterval.count());
+    if (!m_isSetUp || isTooEarly)
+        return false;
+    m_fault = tryToOpen();
+    if (m_fault.isEmpty())
+        return true;
     close();
+    m_sinceFault.start();
     return false;
+}
+
+QString SupplyDbConnection::tryToOpen()
+{
+    const QString fault = fileFault(m_path);
+    if (!fault.isEmpty())
+        return fault;
+    m_database = addConnection(m_name);
+    // LockPatience has SQLite's part in waiting, which knows one statement only.
+    m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=0"));
+    m_database.setDatabaseName(m_path);
+    if (!m_database.open())
+        return m_database.lastError().databaseText();
+    return {};
 }
 
 void SupplyDbConnection::close()

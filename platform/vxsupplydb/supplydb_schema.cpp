@@ -3,6 +3,7 @@
 #include "supplydb_schema.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -118,7 +119,82 @@ R"(CREATE TABLE printer_format (
 };
 // clang-format on
 
+// The indices that SQLite makes for what is to be unique and is not the key of the table itself.
+constexpr const char* Indices[][2] = {
+    {"sqlite_autoindex_language_1", "language"},
+    {"sqlite_autoindex_colour_1", "colour"},
+    {"sqlite_autoindex_background_1", "background"},
+    {"sqlite_autoindex_printer_format_2", "printer_format"},
+};
+
+// The longest of a row's texts have 200 characters of at most four bytes.
+constexpr qsizetype MaxRowBytes = 2048;
+// Bounded by the file's size, where rows are never read in whole.
+constexpr qsizetype AnyNumber = std::numeric_limits<qsizetype>::max();
+
+// Of the list of tables and indices: enough to see that a file has others than ours.
+constexpr qsizetype MaxEntries = 64;
+
+QString tableName(const QString& statement)
+{
+    return statement.section(u' ', 2, 2);
+}
+
+qsizetype maxRowsOf(const QString& table)
+{
+    const bool isListed = table == QLatin1String("supply") || table == QLatin1String("ribbon") ||
+                          table == QLatin1String("printer_format");
+    return isListed ? SupplyDbSchema::MaxListedRows : AnyNumber;
+}
+
+qsizetype maxRowBytesOf(const QString& table)
+{
+    return table == QLatin1String("background") ? SupplyDbSchema::MaxImageBytes + MaxRowBytes
+                                                : MaxRowBytes;
+}
+
+QList<SupplyDbSchema::Entry> makeEntries()
+{
+    QList<SupplyDbSchema::Entry> all;
+    for (const char* table : Tables) {
+        const QString sql = QString::fromLatin1(table);
+        const QString name = tableName(sql);
+        all.append({QStringLiteral("table"), name, name, sql,
+                    !sql.endsWith(QLatin1String("WITHOUT ROWID")), maxRowsOf(name),
+                    maxRowBytesOf(name)});
+    }
+    for (const auto& [index, table] : Indices) {
+        all.append({QStringLiteral("index"), QString::fromLatin1(index), QString::fromLatin1(table),
+                    QString(), false, AnyNumber, MaxRowBytes});
+    }
+    return all;
+}
+
 } // namespace
+
+const QList<SupplyDbSchema::Entry>& SupplyDbSchema::entries()
+{
+    static const QList<Entry> all = makeEntries();
+    return all;
+}
+
+const SupplyDbSchema::Entry* SupplyDbSchema::entry(const QString& name)
+{
+    const auto found = std::ranges::find(entries(), name, &Entry::name);
+    return found == entries().end() ? nullptr : &*found;
+}
+
+const SupplyDbSchema::Entry& SupplyDbSchema::schemaTable()
+{
+    static const Entry table{QStringLiteral("table"),
+                             QStringLiteral("sqlite_schema"),
+                             QStringLiteral("sqlite_schema"),
+                             QString(),
+                             true,
+                             MaxEntries,
+                             MaxRowBytes};
+    return table;
+}
 
 QStringList SupplyDbSchema::statements()
 {

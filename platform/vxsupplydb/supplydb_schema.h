@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include <QtCore/QList>
+#include <QtCore/QString>
 #include <QtCore/QStringList>
 
 /// How a supply database lies in its file: what the reader and the tool that builds it share.
@@ -20,6 +22,28 @@ constexpr int MaxNameLength = 200;
 constexpr int MaxImageBytes = 256 * 1024;
 constexpr int MaxKind = 999999;
 constexpr int MaxRibbonNumber = 100000;
+
+/// What a reader takes. A file is refused in whole that has more.
+constexpr qint64 MaxFileBytes = qint64{64} << 20;
+/// Of supplies, of ribbons, and of the formats of all printer models: these are read in whole.
+constexpr qsizetype MaxListedRows = 16384;
+
+/// A table or an index as the file itself lists it.
+struct Entry
+{
+    QString type;
+    QString name;
+    QString table;
+    QString sql; ///< null for an index that goes without saying
+    bool hasRowIds;
+    qsizetype maxRows;
+    qsizetype maxRowBytes;
+};
+const QList<Entry>& entries();
+/// Null when there is none of the name.
+const Entry* entry(const QString& name);
+/// The list of the entries, which is a table too.
+const Entry& schemaTable();
 
 /// The statements that make an empty database, one each, in their order.
 QStringList statements();

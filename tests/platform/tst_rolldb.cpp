@@ -5,9 +5,12 @@
 #include <csv_table.h>
 #include <database_check.h>
 #include <fault.h>
+#include <file_replacement.h>
 #include <sku_report.h>
+#include <visible_text.h>
 #include <vxsupplydatabase.h>
 
+#include <QtCore/QDataStream>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
@@ -18,6 +21,13 @@
 #include <QtTest/QtTest>
 
 #include <memory>
+
+#ifdef Q_OS_UNIX
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -53,6 +63,21 @@ bool runOn(const QString& path, const QByteArray& statement)
     }
     QSqlDatabase::removeDatabase(name);
     return isDone;
+}
+
+/// All that a bitmap's file says of its size, and no pixels.
+QByteArray bitmapHeader(qint32 width, qint32 height)
+{
+    constexpr quint32 HeaderSize = 54;
+    constexpr quint32 InfoSize = 40;
+    QByteArray header;
+    QDataStream stream(&header, QIODevice::WriteOnly);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    stream << quint8{'B'} << quint8{'M'} << HeaderSize << quint32{0} << HeaderSize << InfoSize
+           << width << height << quint16{1} << quint16{24};
+    for (int i = 0; i < 6; ++i)
+        stream << quint32{0};
+    return header;
 }
 
 } // namespace
@@ -264,6 +289,98 @@ private Q_SLOTS:
         QTEST(fault, "fault");
     }
 
+    void refusesCharactersThatCannotBeSeen_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("place");
+
+        const auto row = [](const char* name, const char* file, const char* text,
+                            const char* place) {
+            QTest::newRow(name) << QString::fromLatin1(file) << QByteArray(text)
+                                << QString::fromLatin1(place);
+        };
+        row("an English name", "colours.csv", "Teal", "colours.csv:5, column 3 (en)");
+        row("a translation", "colours.csv", "Schwarz", "colours.csv:4, column 4 (de)");
+        row("a colour's key", "colours.csv", "teal", "colours.csv:5, column 1 (colour)");
+        row("a material", "materials.csv", "Vinyl", "materials.csv:2, column 2 (en)");
+        row("a format", "formats.csv", "Etiketten", "formats.csv:3, column 4 (de)");
+        row("a ribbon's type", "ribbons.csv", "wax", "ribbons.csv:2, column 3 (type)");
+        row("a model", "printer_formats.csv", "Alder,", "printer_formats.csv:2, column 1 (model)");
+        row("a picture's file", "supplies.csv", "dot.png",
+            "supplies.csv:2, column 13 (background)");
+    }
+    void refusesCharactersThatCannotBeSeen()
+    {
+        QFETCH(QString, file);
+        QFETCH(QByteArray, text);
+        QFETCH(QString, place);
+        SmallCatalogue catalogue;
+        QByteArray& table = catalogue.files[file];
+        QVERIFY(table.contains(text));
+        table.insert(table.indexOf(text) + 1, "\u202e");
+        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+                 place + u": the character U+202E cannot be seen; take it out"_s);
+    }
+
+    void knowsWhichCharactersCannotBeSeen()
+    {
+        for (const char32_t character :
+             {U'\0',           U'\a',     U'\t',         U'\n',         U'\r',
+              U'\x1b',         U'\x7f',   U'\x9b',       U'\xad',       U'\u061c',
+              U'\u200b',       U'\u200c', U'\u200d',     U'\u200e',     U'\u2028',
+              U'\u2029',       U'\u202e', U'\u2066',     U'\ufeff',     U'\ufffe',
+              U'\uffff',       U'\ufdd0', U'\U000e0041', U'\U0010ffff', char32_t{0xd800},
+              char32_t{0xdfff}}) {
+            QString text = u"a"_s;
+            if (QChar::requiresSurrogates(character))
+                text += QChar(QChar::highSurrogate(character));
+            text += QChar::requiresSurrogates(character) ? QChar(QChar::lowSurrogate(character))
+                                                         : QChar(static_cast<char16_t>(character));
+            QCOMPARE(invisibleCharacter(text + u"b"_s), character);
+        }
+        for (const QString& text :
+             {QString(), u"Weiß, matt"_s, u"白 / 赤"_s, u"no-break\u00a0space"_s,
+              u"é by a combining e\u0301"_s, u"葛\U000e0100"_s, u"😀"_s, u"\ue000 of private use"_s})
+            QVERIFY2(!invisibleCharacter(text), qPrintable(text));
+    }
+
+    void refusesAPictureOfTooManyPixels_data()
+    {
+        QTest::addColumn<QByteArray>("image");
+        QTest::addColumn<QString>("fault");
+
+        const QString place = u"supplies.csv:2, column 13 (background): backgrounds/dot.png has "_s;
+        QTest::newRow("as many as can be") << bitmapHeader(4096, 4096) << QString();
+        QTest::newRow("wide") << bitmapHeader(4097, 1)
+                              << place + u"4097 by 1 pixels, where 4096 by 4096 can be"_s;
+        QTest::newRow("high") << bitmapHeader(1, 4097)
+                              << place + u"1 by 4097 pixels, where 4096 by 4096 can be"_s;
+        QTest::newRow("a few bytes of 60,000 by 60,000")
+            << QByteArray::fromBase64("iVBORw0KGgoAAAANSUhEUgAA6mAAAOpgCAIAAAAPsOIVAAAA"
+                                      "CElEQVR4nAMAAAAAAUgGidIAAAAASUVORK5CYII=")
+            << place + u"60000 by 60000 pixels, where 4096 by 4096 can be"_s;
+    }
+    void refusesAPictureOfTooManyPixels()
+    {
+        QFETCH(QByteArray, image);
+        SmallCatalogue catalogue;
+        catalogue.files[u"backgrounds/dot.png"_s] = image;
+        QTEST(faultOf([&catalogue] { catalogue.read(); }), "fault");
+    }
+
+    void refusesMoreRowsThanAReaderTakes()
+    {
+        SmallCatalogue catalogue;
+        QByteArray& supplies = catalogue.files[u"supplies.csv"_s];
+        for (int i = 3; i < 16384; ++i)
+            supplies += "S" + QByteArray::number(i) + ",,0,2,black,,,2,300,1,0,yes,,1,\n";
+        QCOMPARE(catalogue.read().supplies.size(), 16384);
+        supplies += "S16384,,0,2,black,,,2,300,1,0,yes,,1,\n";
+        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+                 u"supplies.csv: more than 16384 rows"_s);
+    }
+
     void refusesAMissingTable_data()
     {
         QTest::addColumn<QString>("file");
@@ -444,12 +561,84 @@ private Q_SLOTS:
         QVERIFY(!QDir(m_folder->filePath(u"missing"_s)).exists());
     }
 
+#ifdef Q_OS_UNIX
+    void leavesAPipeInItsPlace_data()
+    {
+        QTest::addColumn<QString>("target");
+
+        QTest::newRow("the pipe itself") << u"pipe"_s;
+        QTest::newRow("a link to it") << u"link"_s;
+    }
+    // A device is left alone for the same reason; only the super-user could make one here.
+    void leavesAPipeInItsPlace()
+    {
+        QFETCH(QString, target);
+        const QString pipe = m_folder->filePath(u"pipe"_s);
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QVERIFY(QFile::link(pipe, m_folder->filePath(u"link"_s)));
+        target = m_folder->filePath(target);
+        QCOMPARE(faultOf([&target] { SmallCatalogue().write(target); }),
+                 target + u": not a file, so nothing is put in its place"_s);
+        struct stat status = {};
+        QCOMPARE(stat(QFile::encodeName(pipe).constData(), &status), 0);
+        QVERIFY(S_ISFIFO(status.st_mode));
+    }
+
+    void doesNotWaitForAPipe_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("fault");
+
+        QTest::newRow("a table") << u"ribbons.csv"_s << u"ribbons.csv is not a file"_s;
+        QTest::newRow("a picture")
+            << u"backgrounds/dot.png"_s
+            << u"supplies.csv:2, column 13 (background): backgrounds/dot.png is not a file"_s;
+    }
+    void doesNotWaitForAPipe()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, fault);
+        QVERIFY(QDir(m_folder->path()).mkdir(u"backgrounds"_s));
+        const SmallCatalogue catalogue;
+        for (auto entry = catalogue.files.begin(); entry != catalogue.files.end(); ++entry)
+            writeFile(m_folder->filePath(entry.key()), entry.value());
+        const QByteArray pipe = QFile::encodeName(m_folder->filePath(file));
+        QVERIFY(QFile::remove(m_folder->filePath(file)));
+        QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
+        QProcess tool;
+        tool.start(QStringLiteral(VX_ROLLDB), {u"build"_s, m_folder->path(), path()});
+        QVERIFY2(tool.waitForFinished(), qPrintable(tool.errorString()));
+        QCOMPARE(tool.exitCode(), 1);
+        QCOMPARE(QString::fromUtf8(tool.readAllStandardError()), u"rolldb: "_s + fault + u'\n');
+        QVERIFY(!QFile::exists(path()));
+    }
+
+    // A bound on a file's size ends a write in its midst, as a full disk does.
+    void saysWhyBytesCannotBeWritten()
+    {
+        writeFile(path(), "old");
+        rlimit before = {};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit small{.rlim_cur = 50000, .rlim_max = before.rlim_max};
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        const QString fault = faultOf([this] { replaceFile(path(), QByteArray(100000, 'x')); });
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
+        std::signal(SIGXFSZ, handler);
+        QCOMPARE(fault, path() + u": "_s + qt_error_string(EFBIG));
+        QCOMPARE(readFile(path()), QByteArray("old"));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
+    }
+#endif
+
     void findsWhatIsWrong_data()
     {
         QTest::addColumn<QByteArray>("change");
         QTest::addColumn<QString>("fault");
 
-        QTest::newRow("nothing") << QByteArray("ANALYZE name") << QString();
+        QTest::newRow("nothing") << QByteArray("VACUUM") << QString();
+        QTest::newRow("statistics")
+            << QByteArray("ANALYZE name") << u"its tables are not those of schema version 1"_s;
         QTest::newRow("another schema version")
             << QByteArray("PRAGMA user_version = 9")
             << u"of schema version 9, where version 1 can be read"_s;
@@ -620,7 +809,10 @@ private Q_SLOTS:
     }
 
 private:
-    QString path() const { return m_folder->filePath(u"roll.db"_s); }
+    QString path() const
+    {
+        return m_folder->filePath(u"roll.db"_s);
+    }
 
     static QByteArray readFile(const QString& name)
     {

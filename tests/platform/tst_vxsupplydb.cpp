@@ -3,18 +3,27 @@
 #include "small_catalogue.h"
 
 #include <kept_query.h>
+#include <lock_patience.h>
+#include <supplydb_connection.h>
+#include <supplydb_schema.h>
 #include <vxsupplydatabase.h>
 
 #include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QRandomGenerator>
+#include <QtCore/QSemaphore>
 #include <QtCore/QTemporaryDir>
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlError>
 #include <QtSql/QSqlQuery>
 #include <QtTest/QtTest>
 
+#include <atomic>
+#include <chrono>
+#include <functional>
 #include <memory>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -38,8 +47,8 @@ const QString TapeId = QStringLiteral("000001F41000420000A7");
 class Other
 {
 public:
-    explicit Other(const QString& path)
-        : m_name(QStringLiteral("other"))
+    explicit Other(const QString& path, const QString& name = QStringLiteral("other"))
+        : m_name(name)
         , m_database(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_name))
     {
         m_database.setDatabaseName(path);
@@ -66,6 +75,66 @@ public:
 private:
     QString m_name;
     QSqlDatabase m_database;
+};
+
+/// Has a file locked, on a thread of its own, until it goes or the time is over.
+class Locker
+{
+public:
+    Locker(const QString& path, int milliseconds)
+        : m_thread([this, path, milliseconds] {
+            const Other other(path, QStringLiteral("locker"));
+            m_hasLocked = other.run("BEGIN EXCLUSIVE");
+            m_isReady.release();
+            m_mayLetGo.tryAcquire(1, milliseconds);
+            m_hasLocked = m_hasLocked && other.run("ROLLBACK");
+        })
+    {
+        m_isReady.acquire();
+    }
+    ~Locker()
+    {
+        m_mayLetGo.release();
+        m_thread.join();
+    }
+    Q_DISABLE_COPY_MOVE(Locker)
+
+    bool hasLocked() const { return m_hasLocked; }
+
+private:
+    QSemaphore m_isReady;
+    QSemaphore m_mayLetGo;
+    std::atomic<bool> m_hasLocked = false;
+    std::thread m_thread;
+};
+
+/// A time that passes only where somebody waits for a locked file, for this thread.
+class SleptTime
+{
+public:
+    using Milliseconds = LockPatience::Milliseconds;
+
+    explicit SleptTime(const std::function<void()>& inEachSleep = [] {})
+    {
+        now = Milliseconds{0};
+        s_inEachSleep = inEachSleep;
+        LockPatience::ofThisThread() = LockPatience({[] { return now; },
+                                                     [](Milliseconds duration) {
+                                                         now += duration;
+                                                         s_inEachSleep();
+                                                     }});
+    }
+    ~SleptTime()
+    {
+        LockPatience::ofThisThread() = LockPatience();
+        s_inEachSleep = {};
+    }
+    Q_DISABLE_COPY_MOVE(SleptTime)
+
+    static inline Milliseconds now{0};
+
+private:
+    static inline std::function<void()> s_inEachSleep;
 };
 
 /// Asks everything that can be asked of a supply and a ribbon. True when nothing is known of them.
@@ -223,6 +292,26 @@ private Q_SLOTS:
         QTEST(m_database->supplyRibbonColorName(RibbonK, 1), "black");
         QCOMPARE(m_database->supplyColorNameEn(Tape), QStringLiteral("White"));
         QCOMPARE(m_database->supplySecColorNameEn(Tape), QStringLiteral("Red"));
+    }
+
+    void keepsNoNameOfAnotherLanguage()
+    {
+        const auto names = [this] {
+            return QStringList{m_database->supplyColorName(Tape),
+                               m_database->supplySecColorName(Tape),
+                               m_database->supplyMaterialName(Tape),
+                               m_database->supplyFormatName(Tape),
+                               m_database->supplyRibbonColorName(RibbonK, 1),
+                               m_database->supplyRibbonsColorNames({RibbonRK}).value(0)};
+        };
+        const QStringList english{u"White"_s, u"Red"_s,   u"Vinyl"_s,
+                                  u"Tape"_s,  u"Black"_s, u"Red"_s};
+        QCOMPARE(names(), english);
+        m_database->setLanguageId(German);
+        QCOMPARE(names(), (QStringList{u"Weiß"_s, u"Rot"_s, u"Vinylfolie"_s, u"Band"_s,
+                                       u"Schwarz"_s, u"Rot"_s}));
+        m_database->setLanguageId(0);
+        QCOMPARE(names(), english);
     }
 
     void keepsTheLanguageOverASetup()
@@ -440,6 +529,23 @@ private Q_SLOTS:
         QCOMPARE(database.supplyRibbonSKUs(), QStringList{RibbonK});
     }
 
+    void whatIsLoadedIsLookedUpAgainAfterASetup()
+    {
+        m_database->setSupplyId(TapeId);
+        m_database->setRibbonIds({u"2001"_s, u"2003"_s});
+        QCOMPARE(m_database->supplySKU(), Tape);
+        QCOMPARE(m_database->supplyRibbonSKUs(), (QStringList{RibbonK, RibbonRK}));
+        {
+            const Other other(path());
+            QVERIFY(other.run("UPDATE supply_kind SET supply_sku = 'LABEL-1' WHERE kind = 100042"));
+            QVERIFY(
+                other.run("UPDATE ribbon_number SET ribbon_sku = 'RIBBON-T' WHERE number = 2003"));
+        }
+        m_database->setup(path(), Connection);
+        QCOMPARE(m_database->supplySKU(), Label);
+        QCOMPARE(m_database->supplyRibbonSKUs(), (QStringList{RibbonK, RibbonT}));
+    }
+
     void theTypeIndexIsThePlaceInTheModelsList_data()
     {
         QTest::addColumn<QString>("printer");
@@ -527,44 +633,213 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
     }
 
-    void aMissingTableIsSurvived()
+    void aFileOfOtherTablesIsRefused_data()
     {
-        QVERIFY(Other(path()).run("DROP TABLE print_setting"));
+        QTest::addColumn<QByteArrayList>("changes");
+
+        const auto row = [](const char* name, const QByteArrayList& changes) {
+            QTest::newRow(name) << changes;
+        };
+        const QByteArray drop = "DROP TABLE print_setting";
+        row("a missing table", {drop});
+        row("an endless view",
+            {drop,
+             "CREATE VIEW print_setting AS WITH RECURSIVE n (heat) AS (SELECT 1 UNION ALL SELECT "
+             "heat + 1 FROM n) SELECT heat, 0 AS heat_offset, 1 AS max_speed, 1 AS tension, "
+             "'RIBBON-K' AS ribbon_sku, 1 AS panel, 'TAPE-1' AS supply_sku FROM n"});
+        row("a view more", {"CREATE VIEW other AS SELECT * FROM supply"});
+        row("a table more", {"CREATE TABLE other (id INTEGER)"});
+        row("a table without its constraints",
+            {drop, "CREATE TABLE print_setting (ribbon_sku TEXT, panel INTEGER, supply_sku TEXT, "
+                   "heat INTEGER, heat_offset INTEGER, max_speed INTEGER, tension INTEGER)"});
+        row("a column that is computed",
+            {"ALTER TABLE name ADD COLUMN copy TEXT AS (english || english)"});
+        row("an index of what is computed", {"CREATE INDEX other ON name (length(english))"});
+        row("a trigger", {"CREATE TRIGGER other AFTER DELETE ON supply BEGIN SELECT 1; END"});
+        row("statistics, by which SQLite would plan", {"ANALYZE"});
+    }
+    void aFileOfOtherTablesIsRefused()
+    {
+        QFETCH(QByteArrayList, changes);
+        {
+            const Other other(path());
+            for (const QByteArray& change : changes)
+                QVERIFY(other.run(change.constData()));
+        }
+        QCOMPARE(faultOf(path()), u"its tables are not those of schema version 1"_s);
         m_database->setup(path(), Connection);
-        QCOMPARE(m_database->supplyRibbonHeat(RibbonK, 1, Tape), -1);
-        QCOMPARE(m_database->supplyColorName(Tape), QStringLiteral("White"));
+        QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
+        QVERIFY(holdsNothing(*m_database));
     }
 
-    void damageIsSurvived_data()
+    void aFileThatIsTooLargeIsRefused()
     {
-        QTest::addColumn<quint32>("seed");
-        for (quint32 seed = 1; seed <= 40; ++seed)
-            QTest::addRow("seed %u", seed) << seed;
+        QVERIFY(QFile::resize(path(), SupplyDbSchema::MaxFileBytes + 1));
+        QCOMPARE(faultOf(path()), u"larger than 64 MiB"_s);
+        m_database->setup(path(), Connection);
+        QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
     }
-    // Whatever it answers, it answers: the header is left in order so that the rest is looked at.
+
+    void rowsWithoutMeasureAreRefused_data()
+    {
+        QTest::addColumn<QByteArray>("change");
+        QTest::addColumn<QString>("fault");
+
+        const QByteArray numbers = "WITH RECURSIVE n (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM "
+                                   "n WHERE i <= 16384) ";
+        QTest::newRow("a long name")
+            << QByteArray("UPDATE name SET english = printf('%.*c', 10000000, 'x') WHERE id = 1")
+            << u"a row of more than 2048 bytes in name"_s;
+        QTest::newRow("a long key")
+            << QByteArray("UPDATE colour SET key = printf('%.*c', 3000, 'x') WHERE id = 1")
+            << u"a row of more than 2048 bytes in colour"_s;
+        QTest::newRow("a large picture")
+            << QByteArray("UPDATE background SET image = zeroblob(300000)")
+            << u"a row of more than 264192 bytes in background"_s;
+        QTest::newRow("many supplies")
+            << numbers + "INSERT INTO supply SELECT 'S' || i, 7, 1, 1, NULL, NULL, 1, 1, NULL, "
+                         "NULL, 1, NULL, 1, NULL FROM n"
+            << u"more than 16384 rows in supply"_s;
+        QTest::newRow("many ribbons")
+            << numbers + "INSERT INTO ribbon SELECT 'R' || i, 'wax', 1, 1 FROM n"
+            << u"more than 16384 rows in ribbon"_s;
+        QTest::newRow("many models")
+            << numbers + "INSERT INTO printer_format SELECT 'P' || i, 0, 1 FROM n"
+            << u"more than 16384 rows in printer_format"_s;
+    }
+    void rowsWithoutMeasureAreRefused()
+    {
+        QFETCH(QByteArray, change);
+        {
+            const Other other(path());
+            QVERIFY(other.run("PRAGMA ignore_check_constraints = ON"));
+            QVERIFY(other.run(change.constData()));
+        }
+        QTEST(faultOf(path()), "fault");
+        m_database->setup(path(), Connection);
+        QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
+        QVERIFY(holdsNothing(*m_database));
+    }
+
+    void readsAsManyRowsAsItMay()
+    {
+        {
+            const Other other(path());
+            QVERIFY(other.run("WITH RECURSIVE n (i) AS (SELECT 4 UNION ALL SELECT i + 1 FROM n "
+                              "WHERE i < 16384) INSERT INTO supply SELECT 'S' || i, 7, 1, 1, NULL, "
+                              "NULL, 1, 1, NULL, NULL, 1, NULL, 1, NULL FROM n"));
+            QVERIFY(other.run("UPDATE name SET english = printf('%.*c', 200, char(128512)) "
+                              "WHERE id = 1"));
+            QVERIFY(other.run("UPDATE background SET image = zeroblob(262144)"));
+        }
+        QCOMPARE(faultOf(path()), QString());
+        m_database->setup(path(), Connection);
+        QCOMPARE(m_database->supplySKUList().size(), 16384);
+        QCOMPARE(m_database->supplyColorName(Tape).toUcs4().size(), 200);
+        QCOMPARE(m_database->supplyBackgroundImage(Tape).size(), 262144);
+    }
+
+    // A tree that leads to a page twice has endlessly many rows on a few pages.
+    void pagesInDisorderAreRefused_data()
+    {
+        QTest::addColumn<QByteArray>("change");
+        QTest::addColumn<QString>("fault");
+
+        const auto root = [](const char* table) {
+            return QByteArray("(SELECT rootpage FROM sqlite_schema WHERE name = '") + table + "')";
+        };
+        const QByteArray update = "UPDATE sqlite_schema SET rootpage = ";
+        QTest::newRow("two tables on one page")
+            << update + root("name") + " WHERE name = 'material'" << u"page 4 is used twice"_s;
+        QTest::newRow("a table on no page")
+            << QByteArray(update + "0 WHERE name = 'name'") << u"page 0 is not in the file"_s;
+        QTest::newRow("a table behind the end")
+            << QByteArray(update + "999 WHERE name = 'name'") << u"page 999 is not in the file"_s;
+        QTest::newRow("a table kept as an index is")
+            << update + root("translation") + " WHERE name = 'name'"
+            << u"page 5 is of a kind that does not belong there"_s;
+    }
+    void pagesInDisorderAreRefused()
+    {
+        QFETCH(QByteArray, change);
+        QFETCH(QString, fault);
+        {
+            const Other other(path());
+            QVERIFY(other.run("PRAGMA writable_schema = ON"));
+            QVERIFY(other.run(change.constData()));
+        }
+        QCOMPARE(faultOf(path()), u"damaged: "_s + fault);
+        m_database->setup(path(), Connection);
+        QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
+    }
+
+    void aTreeThatLeadsToAPageTwiceIsRefused()
+    {
+        const QString sample = m_folder->filePath(QStringLiteral("sample.db"));
+        writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), sample);
+        QCOMPARE(faultOf(sample), QString());
+        constexpr qsizetype PageSize = 4096;
+        qsizetype root = 0;
+        {
+            const Other other(sample);
+            QSqlQuery query(other.database());
+            QVERIFY(
+                query.exec(u"SELECT rootpage FROM sqlite_schema WHERE name = 'print_setting'"_s));
+            QVERIFY(query.next());
+            root = query.value(0).toInt();
+        }
+        QByteArray bytes = readFile(sample);
+        // The page behind the last row becomes that in front of the first.
+        const qsizetype page = (root - 1) * PageSize;
+        QCOMPARE(bytes.at(page), '\x02');
+        const qsizetype firstCell = static_cast<quint8>(bytes.at(page + 12)) * 256 +
+                                    static_cast<quint8>(bytes.at(page + 13));
+        bytes.replace(page + 8, 4, bytes.sliced(page + firstCell, 4));
+        writeFile(sample, bytes);
+        QVERIFY2(faultOf(sample).endsWith(u" is used twice"_s), qPrintable(faultOf(sample)));
+    }
+
+    void aFileOfAnotherEncodingIsRefused()
+    {
+        QByteArray bytes = readFile(path());
+        constexpr qsizetype LastByteOfTheEncoding = 59;
+        bytes[LastByteOfTheEncoding] = 2;
+        writeFile(path(), bytes);
+        QCOMPARE(faultOf(path()), u"its texts are not UTF-8"_s);
+    }
+
+    // Whatever it answers, it answers. Some of the damage is noticed before the file is opened, and
+    // some is left to SQLite.
     void damageIsSurvived()
     {
-        QFETCH(quint32, seed);
-        QRandomGenerator random(seed);
-        QByteArray bytes = readFile(path());
-        for (int i = 0; i < 200; ++i)
-            bytes[random.bounded(100, static_cast<int>(bytes.size()))] =
-                static_cast<char>(random.bounded(256));
-        if (seed % 4 == 0)
-            bytes.truncate(random.bounded(100, static_cast<int>(bytes.size())));
-        const QString damaged = m_folder->filePath(QStringLiteral("damaged.db"));
-        writeFile(damaged, bytes);
-        m_database->setup(damaged, Connection);
-        m_database->setSupplyId(TapeId);
-        m_database->setRibbonIds({QStringLiteral("2001"), QStringLiteral("2003")});
-        for (const QString& sku : {Tape, Label, Spare}) {
-            for (const QString& ribbon : {RibbonK, RibbonRK, RibbonT})
-                knowsNothing(*m_database, sku, ribbon);
+        const QByteArray whole = readFile(path());
+        int opened = 0;
+        constexpr quint32 Seeds = 200;
+        for (quint32 seed = 1; seed <= Seeds; ++seed) {
+            QRandomGenerator random(seed);
+            QByteArray bytes = whole;
+            // The header is left in order so that the rest is looked at.
+            for (quint32 i = 0; i < 1 + seed % 16; ++i)
+                bytes[random.bounded(100, static_cast<int>(bytes.size()))] =
+                    static_cast<char>(random.bounded(256));
+            if (seed % 16 == 0)
+                bytes.truncate(random.bounded(100, static_cast<int>(bytes.size())));
+            const QString damaged = m_folder->filePath(QStringLiteral("damaged.db"));
+            writeFile(damaged, bytes);
+            m_database->setup(damaged, Connection);
+            m_database->setSupplyId(TapeId);
+            m_database->setRibbonIds({QStringLiteral("2001"), QStringLiteral("2003")});
+            for (const QString& sku : {Tape, Label, Spare}) {
+                for (const QString& ribbon : {RibbonK, RibbonRK, RibbonT})
+                    knowsNothing(*m_database, sku, ribbon);
+            }
+            holdsNothing(*m_database);
+            m_database->supplyRibbon1RGBs();
+            QCOMPARE(readFile(damaged), bytes);
+            opened += QSqlDatabase::contains(Connection) ? 1 : 0;
         }
-        holdsNothing(*m_database);
-        m_database->supplyRibbon1RGBs();
-        QCOMPARE(readFile(damaged), bytes);
-        QVERIFY(QSqlDatabase::contains(Connection)); // it was looked at
+        QVERIFY(opened > 0);
+        QVERIFY(opened < static_cast<int>(Seeds));
 
         m_database->setup(path(), Connection);
         QCOMPARE(m_database->supplySKU(), Tape);
@@ -633,6 +908,97 @@ private Q_SLOTS:
         QCOMPARE(m_database->supplyColorRGB(Tape), -1);
         QVERIFY(other.run("ROLLBACK"));
         QCOMPARE(m_database->supplyColorRGB(Tape), 0xFFFFFF);
+    }
+
+    void aPassingLockLosesNoSku()
+    {
+        m_database->setSupplyId(TapeId);
+        m_database->setRibbonIds({u"2001"_s});
+        {
+            const Other other(path());
+            QVERIFY(other.run("BEGIN EXCLUSIVE"));
+            QCOMPARE(m_database->supplySKU(), QString());
+            QCOMPARE(m_database->supplyRibbonSKUs(), QStringList{QString()});
+            QVERIFY(other.run("ROLLBACK"));
+        }
+        QCOMPARE(m_database->supplySKU(), Tape);
+        QCOMPARE(m_database->supplyRibbonSKUs(), QStringList{RibbonK});
+    }
+
+    void aPassingLockIsWaitedFor()
+    {
+        const Other other(path());
+        QVERIFY(other.run("BEGIN EXCLUSIVE"));
+        int sleeps = 0;
+        const SleptTime time([&other, &sleeps] {
+            if (++sleeps == 3)
+                other.run("ROLLBACK");
+        });
+        QCOMPARE(m_database->supplyColorRGB(Tape), 0xFFFFFF);
+        QCOMPARE(sleeps, 3);
+    }
+
+    void aLockedFileIsWaitedForOnceASecond()
+    {
+        using namespace std::chrono_literals;
+        const Other other(path());
+        QVERIFY(other.run("BEGIN EXCLUSIVE"));
+        const SleptTime time;
+        QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
+        QCOMPARE(SleptTime::now, 100ms);
+        SleptTime::now += 999ms;
+        VXSupplyDatabase second; // for whose sake its thread does not wait either
+        second.setup(path(), u"second"_s);
+        QVERIFY(knowsNothing(second, Tape, RibbonK));
+        QCOMPARE(SleptTime::now, 1099ms);
+        SleptTime::now += 1ms;
+        QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
+        QCOMPARE(SleptTime::now, 1200ms);
+    }
+
+    // The file is free again long after all questions are answered: whoever waits for it to the end
+    // has an answer.
+    void aLockedFileIsGivenUp()
+    {
+        constexpr int LockedFor = 3000;
+        const Locker locker(path(), LockedFor);
+        QVERIFY(locker.hasLocked());
+        QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
+    }
+
+    void aFileThatComesLaterIsNoticed()
+    {
+        const QString late = m_folder->filePath(u"late.db"_s);
+        m_database->setup(late, Connection);
+        m_database->setSupplyId(TapeId);
+        QCOMPARE(m_database->supplySKU(), QString());
+        QVERIFY(QFile::copy(path(), late));
+        QTRY_COMPARE(m_database->supplySKU(), Tape);
+        QCOMPARE(m_database->supplyColorName(Tape), u"White"_s);
+    }
+
+    void aFileThatIsMendedIsNoticed()
+    {
+        const QByteArray whole = readFile(path());
+        writeFile(path(), whole.first(5000));
+        m_database->setup(path(), Connection);
+        QCOMPARE(m_database->supplyColorName(Tape), QString());
+        writeFile(path(), whole);
+        QTRY_COMPARE(m_database->supplyColorName(Tape), u"White"_s);
+    }
+
+    void aFileThatCannotBeUsedIsNotLookedAtForEachQuestion()
+    {
+        const QString late = m_folder->filePath(u"late.db"_s);
+        QElapsedTimer timer;
+        timer.start();
+        m_database->setup(late, Connection);
+        QCOMPARE(m_database->supplyColorRGB(Tape), -1);
+        QVERIFY(QFile::copy(path(), late));
+        const int rgb = m_database->supplyColorRGB(Tape);
+        if (timer.hasExpired(SupplyDbConnection::RetryInterval.count()))
+            QSKIP("the two questions were not within the time in which the file is left alone");
+        QCOMPARE(rgb, -1);
     }
 
     void objectsHaveNothingInCommon()
@@ -771,6 +1137,26 @@ private Q_SLOTS:
         QCOMPARE(answer(1), QStringLiteral("new"));
     }
 
+    void doesNotKeepHalfAnAnswer()
+    {
+        const Other other(path());
+        QVERIFY(other.run("CREATE TABLE remark (id INTEGER PRIMARY KEY, number INTEGER)"));
+        QVERIFY(other.run("INSERT INTO remark VALUES (1, 5), (2, -9223372036854775807 - 1)"));
+        // The second row's number has no absolute value.
+        KeptQuery<int, QStringList> query(
+            QStringLiteral("SELECT abs(number) FROM remark WHERE id >= ? ORDER BY id"),
+            [](const QSqlQuery& row, QStringList& numbers) {
+                numbers.append(row.value(0).toString());
+            },
+            2);
+        const auto answer = [&] {
+            return query.answer(other.database(), 1, 1);
+        };
+        QCOMPARE(answer(), QStringList());
+        QVERIFY(other.run("UPDATE remark SET number = -7 WHERE id = 2"));
+        QCOMPARE(answer(), (QStringList{u"5"_s, u"7"_s}));
+    }
+
     void doesNotKeepAFailure()
     {
         const Other other(path());
@@ -786,6 +1172,14 @@ private:
     static void readText(const QSqlQuery& row, QString& text) { text = row.value(0).toString(); }
 
     QString path() const { return m_folder->filePath(QStringLiteral("roll.db")); }
+
+    /// Why a file is not opened; empty when it is.
+    static QString faultOf(const QString& name)
+    {
+        SupplyDbConnection connection;
+        connection.setUp(name, u"looked at"_s);
+        return connection.open() ? QString() : connection.fault();
+    }
 
     static QByteArray readFile(const QString& name)
     {

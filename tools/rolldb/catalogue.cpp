@@ -4,6 +4,7 @@
 
 #include "csv_table.h"
 #include "fault.h"
+#include "visible_text.h"
 
 #include <supplydb_schema.h>
 #include <vxlocalelanguages.h>
@@ -11,6 +12,7 @@
 #include <QtCore/QBuffer>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QSet>
 #include <QtGui/QImageReader>
 
@@ -26,6 +28,9 @@ constexpr double MaxWidth = 100.0;
 constexpr double MaxLength = 100000.0;
 constexpr qsizetype MaxWordLength = 40;
 constexpr qsizetype MaxTagLength = 20;
+// Of a picture: more than any label is printed with. A small file can hold far more, and whoever
+// shows it needs memory for each pixel.
+constexpr int MaxImageSide = 4096;
 // Enough for any file that is let through, whose own limits are lower.
 constexpr qint64 MaxBytesRead = qint64{32} << 20;
 
@@ -77,10 +82,18 @@ QLatin1String column(const char* name)
     return QLatin1String(name);
 }
 
+void requireVisible(const CsvField& field)
+{
+    if (const std::optional<char32_t> character = invisibleCharacter(field.text))
+        throw field.fault(QStringLiteral("the character U+%1 cannot be seen; take it out")
+                              .arg(QString::number(*character, 16).toUpper(), 4, u'0'));
+}
+
 QString textOf(const CsvField& field, qsizetype maxLength)
 {
     if (field.text.isEmpty())
         throw field.fault(QStringLiteral("empty"));
+    requireVisible(field);
     if (field.text.size() > maxLength)
         throw field.fault(QStringLiteral("longer than %1 characters").arg(maxLength));
     return field.text;
@@ -313,11 +326,17 @@ private:
         const auto found = m_backgrounds.constFind(field.text);
         if (found != m_backgrounds.constEnd())
             return *found;
+        requireVisible(field);
         // A plain name: a catalogue takes no file from outside its folder.
         if (field.text.contains(u'/') || field.text.contains(u'\\') || field.text.contains(u':') ||
             field.text.startsWith(u'.') || field.text.size() > SupplyDbSchema::MaxNameLength)
             throw field.fault(QStringLiteral("\"%1\" is no plain file name").arg(field.text));
-        const std::optional<QByteArray> image = m_readFile(BackgroundFolder + field.text);
+        std::optional<QByteArray> image;
+        try {
+            image = m_readFile(BackgroundFolder + field.text);
+        } catch (const Fault& fault) {
+            throw field.fault(fault.message());
+        }
         if (!image)
             throw field.fault(
                 QStringLiteral("%1%2 cannot be read").arg(BackgroundFolder, field.text));
@@ -328,18 +347,36 @@ private:
         QBuffer buffer;
         buffer.setData(*image);
         buffer.open(QIODevice::ReadOnly);
-        if (!QImageReader(&buffer).canRead())
+        QImageReader reader(&buffer);
+        const QSize size = reader.size();
+        if (!reader.canRead() || size.isEmpty())
             throw field.fault(QStringLiteral("%1%2 is no image that can be read")
                                   .arg(BackgroundFolder, field.text));
+        if (size.width() > MaxImageSide || size.height() > MaxImageSide)
+            throw field.fault(QStringLiteral("%1%2 has %3 by %4 pixels, where %5 by %5 can be")
+                                  .arg(BackgroundFolder, field.text)
+                                  .arg(size.width())
+                                  .arg(size.height())
+                                  .arg(MaxImageSide));
         const qsizetype place = m_catalogue.backgrounds.size();
         m_backgrounds.insert(field.text, place);
         m_catalogue.backgrounds.append({field.text, *image});
         return place;
     }
 
+    // Tables that a reader of the file reads in whole.
+    CsvTable listedTable(const TableLayout& layout)
+    {
+        CsvTable source = table(layout);
+        if (source.rowCount() > SupplyDbSchema::MaxListedRows)
+            throw source.faultInFile(
+                QStringLiteral("more than %1 rows").arg(SupplyDbSchema::MaxListedRows));
+        return source;
+    }
+
     void readSupplies()
     {
-        const CsvTable source = table(SupplyLayout);
+        const CsvTable source = listedTable(SupplyLayout);
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
             const auto field = [&source, row](const char* name) {
                 return source.field(row, column(name));
@@ -409,7 +446,7 @@ private:
 
     void readRibbons()
     {
-        const CsvTable source = table(RibbonLayout);
+        const CsvTable source = listedTable(RibbonLayout);
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
             const auto field = [&source, row](const char* name) {
                 return source.field(row, column(name));
@@ -471,7 +508,7 @@ private:
 
     void readPrinterFormats()
     {
-        const CsvTable source = table(PrinterFormatLayout);
+        const CsvTable source = listedTable(PrinterFormatLayout);
         QHash<QString, QList<int>> lists;
         QHash<QString, QString> spellings; // models are looked for in any case
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
@@ -519,7 +556,11 @@ Catalogue readCatalogueDirectory(const QString& directory)
     if (!dir.exists())
         throw Fault(QStringLiteral("%1: no such directory").arg(directory));
     return readCatalogue([&dir](const QString& name) -> std::optional<QByteArray> {
-        QFile file(dir.filePath(name));
+        const QFileInfo info(dir.filePath(name));
+        // Whoever opens a pipe waits for somebody who writes into it.
+        if (info.exists() && !info.isFile())
+            throw Fault(QStringLiteral("%1 is not a file").arg(name));
+        QFile file(info.filePath());
         if (!file.open(QIODevice::ReadOnly))
             return std::nullopt;
         return file.read(MaxBytesRead);

@@ -4,11 +4,11 @@
 
 #include "database_check.h"
 #include "fault.h"
+#include "file_replacement.h"
 
 #include <supplydb_schema.h>
 
 #include <QtCore/QFile>
-#include <QtCore/QSaveFile>
 #include <QtCore/QTemporaryDir>
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlError>
@@ -61,16 +61,29 @@ private:
     QSqlDatabase m_database;
 };
 
-void putInPlace(const QString& madeFile, const QString& path)
+QByteArray bytesOf(const QString& path)
 {
-    QFile made(madeFile);
-    if (!made.open(QIODevice::ReadOnly))
-        throw Fault(QStringLiteral("%1: %2").arg(madeFile, made.errorString()));
-    QSaveFile target(path); // writes beside the path and renames
-    const QByteArray bytes = made.readAll();
-    if (!target.open(QIODevice::WriteOnly) || target.write(bytes) != bytes.size() ||
-        !target.commit())
-        throw Fault(QStringLiteral("%1: %2").arg(path, target.errorString()));
+    QFile file(path);
+    QByteArray bytes;
+    if (file.open(QIODevice::ReadOnly))
+        bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        throw Fault(QStringLiteral("%1: %2").arg(path, file.errorString()));
+    return bytes;
+}
+
+void writeDraft(const Catalogue& catalogue, const QString& path)
+{
+    const WritingConnection connection(path);
+    const QSqlDatabase& database = connection.database();
+    // A file that is not in place yet needs no protection against a crash.
+    run(database, QStringLiteral("PRAGMA journal_mode = OFF"));
+    run(database, QStringLiteral("PRAGMA synchronous = OFF"));
+    run(database, QStringLiteral("PRAGMA foreign_keys = ON"));
+    run(database, QStringLiteral("BEGIN"));
+    createTables(database);
+    CatalogueWriter(database).write(catalogue);
+    run(database, QStringLiteral("COMMIT"));
 }
 
 } // namespace
@@ -184,22 +197,17 @@ void CatalogueWriter::writeRibbons(const Catalogue& catalogue)
 
 void writeDatabase(const Catalogue& catalogue, const QString& path)
 {
+    requireFileOrNothing(path);
     const QTemporaryDir workshop;
     if (!workshop.isValid())
         throw Fault(QStringLiteral("%1: %2").arg(workshop.path(), workshop.errorString()));
     const QString draft = workshop.filePath(QStringLiteral("draft.db"));
-    {
-        const WritingConnection connection(draft);
-        const QSqlDatabase& database = connection.database();
-        // A file that is not in place yet needs no protection against a crash.
-        run(database, QStringLiteral("PRAGMA journal_mode = OFF"));
-        run(database, QStringLiteral("PRAGMA synchronous = OFF"));
-        run(database, QStringLiteral("PRAGMA foreign_keys = ON"));
-        run(database, QStringLiteral("BEGIN"));
-        createTables(database);
-        CatalogueWriter(database).write(catalogue);
-        run(database, QStringLiteral("COMMIT"));
+    try {
+        writeDraft(catalogue, draft);
+    } catch (const Fault& fault) {
+        throw Fault(QStringLiteral("%1: cannot be made in %2: %3")
+                        .arg(path, workshop.path(), fault.message()));
     }
-    checkDatabase(draft);
-    putInPlace(draft, path);
+    checkDatabase(draft, path);
+    replaceFile(path, bytesOf(draft));
 }

@@ -41,11 +41,16 @@ constexpr std::array Rules{
 
 DatabaseCounts checkDatabase(const QString& path)
 {
+    return checkDatabase(path, path);
+}
+
+DatabaseCounts checkDatabase(const QString& path, const QString& name)
+{
     SupplyDbConnection connection;
     connection.setUp(path, path);
     if (!connection.open())
-        throw Fault(QStringLiteral("%1: %2").arg(path, connection.fault()));
-    return DatabaseChecker(connection.database(), path).check();
+        throw Fault(QStringLiteral("%1: %2").arg(name, connection.fault()));
+    return DatabaseChecker(connection.database(), name).check();
 }
 
 DatabaseChecker::DatabaseChecker(const QSqlDatabase& database, const QString& name)

@@ -22,6 +22,8 @@ struct DatabaseCounts
 /// Looks at everything in a file: its structure as SQLite keeps it, its schema, its references, and
 /// what no constraint of the schema can express. Throws a Fault for the first thing wrong.
 DatabaseCounts checkDatabase(const QString& path);
+/// Faults call the file `name`.
+DatabaseCounts checkDatabase(const QString& path, const QString& name);
 
 /// The same for a database that is open, any number of times.
 class DatabaseChecker

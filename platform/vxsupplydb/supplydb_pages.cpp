@@ -1,0 +1,389 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// The file format is described at https://www.sqlite.org/fileformat2.html.
+#include "supplydb_pages.h"
+
+#include "supplydb_schema.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QIODevice>
+#include <QtCore/QList>
+#include <QtCore/QSet>
+#include <QtCore/QtEndian>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <vector>
+
+namespace {
+
+using SupplyDbSchema::Entry;
+using SupplyDbSchema::MaxFileBytes;
+
+// The file's header, which is the beginning of page 1.
+constexpr qsizetype HeaderSize = 100;
+constexpr qsizetype PageSizeOffset = 16;
+constexpr qsizetype ReservedOffset = 20;
+constexpr qsizetype EncodingOffset = 56;
+constexpr quint32 LargestPageSize = 65536; // written as 1, which is what fits
+constexpr quint32 SmallestPageSize = 512;
+constexpr quint32 SmallestUsableSize = 480;
+constexpr quint32 Utf8 = 1;
+
+constexpr quint32 SchemaPage = 1;
+
+// A page of a tree: its kind, the number of its cells, the page behind its last cell, and then the
+// places of the cells.
+constexpr qsizetype CellCountOffset = 3;
+constexpr qsizetype LastChildOffset = 8;
+constexpr qsizetype LeafHeaderSize = 8;
+constexpr qsizetype InnerHeaderSize = 12;
+constexpr qsizetype CellPlaceSize = 2;
+constexpr qsizetype PageNumberSize = 4;
+constexpr qsizetype SmallestCellSize = 4;
+
+/// The kinds of a tree's pages. SQLite keeps a table without row ids as it keeps an index.
+struct TreeKind
+{
+    quint8 inner;
+    quint8 leaf;
+};
+constexpr TreeKind RowIdTree{5, 13};
+constexpr TreeKind KeyTree{2, 10};
+
+template <typename Number>
+Number numberAt(const QByteArray& bytes, qsizetype offset)
+{
+    return qFromBigEndian<Number>(bytes.constData() + offset);
+}
+
+/// Reads numbers of one to nine bytes, seven bits in each, one after the other.
+class VarintReader
+{
+public:
+    VarintReader(const QByteArray& bytes, qsizetype offset, qsizetype end)
+        : m_bytes(bytes)
+        , m_offset(offset)
+        , m_end(end)
+    {}
+
+    qsizetype offset() const { return m_offset; }
+    std::optional<quint64> next()
+    {
+        constexpr int LongestVarint = 9;
+        quint64 number = 0;
+        for (int i = 1; m_offset < m_end; ++i) {
+            const auto byte = static_cast<quint8>(m_bytes.at(m_offset++));
+            if (i == LongestVarint)
+                return number << 8U | byte;
+            number = number << 7U | (byte & 0x7fU);
+            if (byte < 0x80U)
+                return number;
+        }
+        return std::nullopt;
+    }
+
+private:
+    const QByteArray& m_bytes;
+    qsizetype m_offset;
+    qsizetype m_end;
+};
+
+/// A row of the table that lists all tables and indices.
+struct SchemaRow
+{
+    QString type;
+    QString name;
+    QString table;
+    quint32 root = 0;
+    QString sql;
+};
+
+// What is written before the columns of a row says the type of each, and so its size.
+std::optional<qsizetype> columnSize(quint64 type, quint64 most)
+{
+    constexpr std::array<qsizetype, 10> Sizes{0, 1, 2, 3, 4, 6, 8, 8, 0, 0};
+    constexpr quint64 FirstOfVariableSize = 12;
+    if (type < Sizes.size())
+        return Sizes[type];
+    if (type < FirstOfVariableSize || (type - FirstOfVariableSize) / 2 > most)
+        return std::nullopt;
+    return static_cast<qsizetype>((type - FirstOfVariableSize) / 2);
+}
+
+std::optional<SchemaRow> schemaRow(const QByteArray& row)
+{
+    VarintReader types(row, 0, row.size());
+    const std::optional<quint64> headerSize = types.next();
+    if (!headerSize || *headerSize > static_cast<quint64>(row.size()))
+        return std::nullopt;
+    auto offset = static_cast<qsizetype>(*headerSize);
+    std::array<QByteArray, 5> columns;
+    for (QByteArray& column : columns) {
+        const std::optional<quint64> type = types.next();
+        if (!type || types.offset() > static_cast<qsizetype>(*headerSize))
+            return std::nullopt;
+        const std::optional<qsizetype> size = columnSize(*type, static_cast<quint64>(row.size()));
+        if (!size || *size > row.size() - offset)
+            return std::nullopt;
+        column = row.sliced(offset, *size);
+        offset += *size;
+    }
+    quint32 root = 0;
+    for (const char byte : columns[3].last(std::min<qsizetype>(columns[3].size(), 4)))
+        root = root << 8U | static_cast<quint8>(byte);
+    return SchemaRow{QString::fromUtf8(columns[0]), QString::fromUtf8(columns[1]),
+                     QString::fromUtf8(columns[2]), root, QString::fromUtf8(columns[4])};
+}
+
+class Pages
+{
+public:
+    explicit Pages(QIODevice& file)
+        : m_file(file)
+    {}
+
+    QString fault()
+    {
+        if (readHeader() && readSchema()) {
+            for (const SchemaRow& row : m_schema) {
+                if (!walk(row.root, *SupplyDbSchema::entry(row.name), nullptr))
+                    break;
+            }
+        }
+        return m_fault;
+    }
+
+private:
+    /// A row as it lies on a page, without the page's number that may be in front of it.
+    struct Cell
+    {
+        quint64 payload = 0;
+        qsizetype start = 0;
+        qsizetype local = 0;
+        qsizetype end = 0;
+        bool hasRest = false;
+    };
+
+    bool refuse(const QString& fault)
+    {
+        m_fault = fault;
+        return false;
+    }
+    bool damaged(quint32 page, const char* how)
+    {
+        return refuse(QStringLiteral("damaged: page %1 %2").arg(page).arg(QLatin1String(how)));
+    }
+
+    bool readHeader()
+    {
+        if (m_file.size() > MaxFileBytes)
+            return refuse(QStringLiteral("larger than %1 MiB").arg(MaxFileBytes >> 20));
+        QByteArray header;
+        if (m_file.seek(0))
+            header = m_file.read(HeaderSize);
+        if (header.size() < HeaderSize)
+            return damaged(SchemaPage, "is cut off");
+        m_pageSize = numberAt<quint16>(header, PageSizeOffset);
+        if (m_pageSize == 1)
+            m_pageSize = LargestPageSize;
+        const quint32 reserved = numberAt<quint8>(header, ReservedOffset);
+        if (m_pageSize < SmallestPageSize || (m_pageSize & (m_pageSize - 1)) != 0 ||
+            m_pageSize < SmallestUsableSize + reserved)
+            return damaged(SchemaPage, "has no size that a page can have");
+        m_usableSize = static_cast<qsizetype>(m_pageSize - reserved);
+        if (numberAt<quint32>(header, EncodingOffset) != Utf8)
+            return refuse(QStringLiteral("its texts are not UTF-8"));
+        m_isTaken.assign(static_cast<std::size_t>(m_file.size() / m_pageSize) + 1, false);
+        return true;
+    }
+
+    bool readSchema()
+    {
+        QList<QByteArray> rows;
+        if (!walk(SchemaPage, SupplyDbSchema::schemaTable(), &rows))
+            return false;
+        for (const QByteArray& bytes : rows) {
+            std::optional<SchemaRow> row = schemaRow(bytes);
+            if (!row)
+                return damaged(SchemaPage, "lists a table that cannot be read");
+            m_schema.append(*std::move(row));
+        }
+        return isOurSchema() ||
+               refuse(QStringLiteral("its tables are not those of schema version %1")
+                          .arg(SupplyDbSchema::Version));
+    }
+
+    bool isOurSchema() const
+    {
+        QSet<QString> names;
+        return m_schema.size() == SupplyDbSchema::entries().size() &&
+               std::ranges::all_of(m_schema,
+                                   [&names](const SchemaRow& row) {
+                                       const Entry* entry = SupplyDbSchema::entry(row.name);
+                                       names.insert(row.name);
+                                       return entry && row.type == entry->type &&
+                                              row.table == entry->table && row.sql == entry->sql;
+                                   }) &&
+               names.size() == m_schema.size();
+    }
+
+    /// A page may be used once, or a small file could have more rows than can be counted.
+    bool take(quint32 number)
+    {
+        if (number == 0 || number >= m_isTaken.size())
+            return damaged(number, "is not in the file");
+        if (m_isTaken[number])
+            return damaged(number, "is used twice");
+        m_isTaken[number] = true;
+        return true;
+    }
+
+    bool read(quint32 number, QByteArray& page)
+    {
+        page.resize(m_pageSize);
+        return (m_file.seek(qint64{number - 1} * m_pageSize) &&
+                m_file.read(page.data(), m_pageSize) == m_pageSize) ||
+               damaged(number, "is cut off");
+    }
+
+    /// Goes through a tree, page by page. The rows are read where somebody wants them.
+    bool walk(quint32 root, const Entry& entry, QList<QByteArray>* rows)
+    {
+        if (!take(root))
+            return false;
+        m_waiting = {root};
+        m_rowCount = 0;
+        QByteArray page;
+        while (!m_waiting.empty()) {
+            const quint32 number = m_waiting.back();
+            m_waiting.pop_back();
+            if (!read(number, page) || !checkPage(number, page, entry, rows))
+                return false;
+        }
+        return true;
+    }
+
+    bool checkPage(quint32 number, const QByteArray& page, const Entry& entry,
+                   QList<QByteArray>* rows)
+    {
+        const TreeKind& kind = entry.hasRowIds ? RowIdTree : KeyTree;
+        const qsizetype start = number == SchemaPage ? HeaderSize : 0;
+        const auto type = numberAt<quint8>(page, start);
+        if (type != kind.inner && type != kind.leaf)
+            return damaged(number, "is of a kind that does not belong there");
+        const bool isInner = type == kind.inner;
+        const qsizetype places = start + (isInner ? InnerHeaderSize : LeafHeaderSize);
+        const qsizetype cells = numberAt<quint16>(page, start + CellCountOffset);
+        qsizetype room = m_usableSize - places - cells * (CellPlaceSize + SmallestCellSize);
+        if (room < 0)
+            return damaged(number, "holds more than fits");
+        for (qsizetype i = 0; i < cells; ++i) {
+            const qsizetype place = numberAt<quint16>(page, places + i * CellPlaceSize);
+            if (isInner && !takeChild(number, page, place))
+                return false;
+            if (isInner && entry.hasRowIds)
+                continue; // a row id, and no row
+            const std::optional<Cell> cell =
+                cellAt(page, place + (isInner ? PageNumberSize : 0), entry.hasRowIds);
+            if (!cell)
+                return damaged(number, "has a row outside of it");
+            room -= std::max<qsizetype>(0, cell->end - place - SmallestCellSize);
+            if (room < 0)
+                return damaged(number, "holds more than fits");
+            if (!checkRow(page, *cell, entry, rows))
+                return false;
+        }
+        return !isInner || takeChild(number, page, start + LastChildOffset);
+    }
+
+    bool checkRow(const QByteArray& page, const Cell& cell, const Entry& entry,
+                  QList<QByteArray>* rows)
+    {
+        if (++m_rowCount > entry.maxRows)
+            return refuse(
+                QStringLiteral("more than %1 rows in %2").arg(entry.maxRows).arg(entry.name));
+        if (cell.payload > static_cast<quint64>(entry.maxRowBytes))
+            return refuse(QStringLiteral("a row of more than %1 bytes in %2")
+                              .arg(entry.maxRowBytes)
+                              .arg(entry.name));
+        QByteArray row;
+        if (rows)
+            row = page.sliced(cell.start, cell.local);
+        if (cell.hasRest && !readRest(page, cell, row))
+            return false;
+        if (rows)
+            rows->append(row);
+        return true;
+    }
+
+    bool takeChild(quint32 number, const QByteArray& page, qsizetype place)
+    {
+        if (place + PageNumberSize > m_usableSize)
+            return damaged(number, "has a row outside of it");
+        m_waiting.push_back(numberAt<quint32>(page, place));
+        return take(m_waiting.back());
+    }
+
+    std::optional<Cell> cellAt(const QByteArray& page, qsizetype place, bool hasRowId) const
+    {
+        VarintReader numbers(page, place, m_usableSize);
+        const std::optional<quint64> payload = numbers.next();
+        if (!payload || (hasRowId && !numbers.next()))
+            return std::nullopt;
+        Cell cell{.payload = *payload, .start = numbers.offset()};
+        cell.local = localSize(*payload, hasRowId);
+        cell.hasRest = static_cast<quint64>(cell.local) < *payload;
+        cell.end = cell.start + cell.local + (cell.hasRest ? PageNumberSize : 0);
+        if (cell.end > m_usableSize)
+            return std::nullopt;
+        return cell;
+    }
+
+    // How much of a row is on the page itself, as SQLite's file format has it.
+    qsizetype localSize(quint64 payload, bool hasRowId) const
+    {
+        const auto usable = static_cast<quint64>(m_usableSize);
+        const quint64 most = hasRowId ? usable - 35 : (usable - 12) * 64 / 255 - 23;
+        if (payload <= most)
+            return static_cast<qsizetype>(payload);
+        const quint64 least = (usable - 12) * 32 / 255 - 23;
+        const quint64 wanted = least + (payload - least) % (usable - 4);
+        return static_cast<qsizetype>(wanted <= most ? wanted : least);
+    }
+
+    /// The rest of a row is in a chain of pages, each of which begins with the number of the next.
+    bool readRest(const QByteArray& page, const Cell& cell, QByteArray& row)
+    {
+        auto left = static_cast<qsizetype>(cell.payload) - cell.local;
+        auto next = numberAt<quint32>(page, cell.start + cell.local);
+        QByteArray link;
+        while (left > 0) {
+            if (!take(next) || !read(next, link))
+                return false;
+            const qsizetype size = std::min(left, m_usableSize - PageNumberSize);
+            row.append(link.constData() + PageNumberSize, size);
+            left -= size;
+            next = numberAt<quint32>(link, 0);
+        }
+        return true;
+    }
+
+    QIODevice& m_file;
+    quint32 m_pageSize = 0;
+    qsizetype m_usableSize = 0;
+    std::vector<bool> m_isTaken;
+    std::vector<quint32> m_waiting; ///< the pages of a tree that are still to be looked at
+    qsizetype m_rowCount = 0;
+    QList<SchemaRow> m_schema;
+    QString m_fault;
+};
+
+} // namespace
+
+QString SupplyDbPages::fault(QIODevice& file)
+{
+    return Pages(file).fault();
+}
