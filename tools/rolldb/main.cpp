@@ -28,7 +28,8 @@ check looks for anything wrong in FILE,
 show prints what FILE says of a supply or a ribbon, in English or in the
 language TAG ("de", "ja").
 
-Exit status: 0 done, 1 failed, 2 wrong usage.
+Exit status: 0 done, 1 failed, 2 wrong usage. Output that cannot be written is
+a failure, a pipe that its reader has closed is not.
 )";
 
 QString counted(const DatabaseCounts& counts)

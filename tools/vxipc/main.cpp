@@ -20,7 +20,8 @@ it is typed, all others as JSON.
 --help          prints this
 --              what follows is no option
 
-Exit status: 0 done, 1 failed, 2 wrong usage.
+Exit status: 0 done, 1 failed, 2 wrong usage. Output that cannot be written is
+a failure, a pipe that its reader has closed is not.
 )";
 
 /// Carries out the command line, and answers the exit status.
