@@ -10,7 +10,11 @@
 #include <QtCore/QTimer>
 #include <QtCore/QTranslator>
 
+#include <cerrno>
+#include <cstring>
+
 static QTextStream out(stdout);
+static int outputError = 0; // why the output could not be written
 
 static void print(PrinterStatusController& printers)
 {
@@ -25,6 +29,10 @@ static void print(PrinterStatusController& printers)
     if (records.isEmpty())
         out << "no printers\n";
     out << "active printer: " << printers.activeDefaultPrinter() << '\n' << Qt::endl;
+    if (out.status() != QTextStream::Ok && outputError == 0) {
+        outputError = errno;
+        QCoreApplication::exit();
+    }
 }
 
 int main(int argc, char* argv[])
@@ -47,5 +55,12 @@ int main(int argc, char* argv[])
 
     if (argc > 1)
         QTimer::singleShot(std::chrono::seconds(seconds), qApp, &QCoreApplication::quit);
-    return QCoreApplication::exec();
+    if (outputError == 0)
+        QCoreApplication::exec();
+    // Who closes the pipe that this writes to has read all that he wants.
+    if (outputError == 0 || outputError == EPIPE)
+        return 0;
+    QTextStream(stderr) << "minimal_host: standard output could not be written: "
+                        << std::strerror(outputError) << '\n';
+    return 1;
 }

@@ -73,6 +73,7 @@ private Q_SLOTS:
     void initTestCase();
 
     void withoutPrinters();
+    void outputThatCannotBeWritten();
     void wrongArgument_data();
     void wrongArgument();
     void hostThatKeepsTheLog();
@@ -106,6 +107,19 @@ void InstalledPackageTest::withoutPrinters()
     QCOMPARE(result.exitStatus, 0);
     QCOMPARE(result.output, QByteArray("no printers\nactive printer: \n\n"));
     QCOMPARE(result.errors, QByteArray());
+}
+
+void InstalledPackageTest::outputThatCannotBeWritten()
+{
+    QFile full(QStringLiteral("/dev/full"));
+    if (!full.exists())
+        QSKIP("there is no device here that is always full");
+    const Result result =
+        run(QStringLiteral("/bin/sh"),
+            {QStringLiteral("-c"), QStringLiteral("exec \"$0\" > /dev/full"), host});
+    QCOMPARE(result.exitStatus, 1);
+    QCOMPARE(result.errors, QByteArray("minimal_host: standard output could not be written: "
+                                       "No space left on device\n"));
 }
 
 void InstalledPackageTest::wrongArgument_data()

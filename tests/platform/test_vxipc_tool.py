@@ -62,6 +62,9 @@ class Tool(unittest.TestCase):
                 (["echo", "12"], "12\n"),
                 (["echo", "Jägergrün"], "Jägergrün\n"),
                 (["echo", "--", "--json"], "--json\n"),
+                (["echo", "a\x1b[31m\n\u202e"], "a\\u001b[31m\\u000a\\u202e\n"),
+                (["echo", "a\x1b\u202e", "--json"], "\"a\\u001b\\u202e\"\n"),
+                (["hashEcho", '{"a\\u009b":"\\u2028"}'], "a\\u009b: \\u2028\n"),
                 (["scale", "-3"], "-30\n"),
                 (["scale", "-3", "2"], "-6\n"),
                 (["invert", "true"], "false\n"),
@@ -82,6 +85,7 @@ class Tool(unittest.TestCase):
     def test_says_what_failed(self):
         for arguments, complaint in [
                 (["nothing"], "there is no method nothing"),
+                (["no\x1b[2Jthing\n"], "there is no method no\\u001b[2Jthing\\u000a\n"),
                 (["deleteLater"], "there is no method deleteLater"),
                 (["scale", "x"], "do not fit scale(value: int, [factor: int])"),
                 (["scale"], "do not fit"),

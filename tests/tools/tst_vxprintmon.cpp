@@ -623,39 +623,53 @@ void VxPrintMonTest::watchForPeople()
     QCOMPARE(result.errors, QByteArray());
 
     const QList<QByteArray> lines = result.output.trimmed().split('\n');
-    QByteArrayList withoutClock;
-    for (const QByteArray& line : lines.mid(3))
-        withoutClock.append(line.mid(qstrlen("   0.0 s  ")));
     QCOMPARE(lines.mid(0, 3),
              (QByteArrayList{
                  "PRINTER  STATUS     SUPPLY  RIBBON 1  RIBBON 2  FIRMWARE  ACTIVE",
                  "P        not known  -       -         -         -         yes",
                  "",
              }));
-    QCOMPARE(withoutClock, (QByteArrayList{
-                               "P  status     1  Ready",
-                               "P  records  status not known → Ready",
-                               "P  supply   was changed or taken out",
-                               "P  records  supply Yellow Vinyl (VT-400-YL)",
-                               "The lid is opened.",
-                               "   errors   some printer is in error",
-                               "P  status     4  The cover is open",
-                               "P  records  status Ready → The cover is open",
-                               "P  supply   was changed or taken out",
-                               "P  records  supply Yellow Vinyl (VT-400-YL) → none",
-                               "A ribbon comes.",
-                               "P  ribbons  were changed or taken out",
-                               "P  records  ribbon 1 Blue (RS-43-BL)",
-                               "P  records  ribbon 1 left 0 % → 100 %",
-                               "P  records  ribbon 1 left 100 % → 99 %",
-                               "A printer comes.",
-                               "Quill  found    Printer Is Remotely Connected.",
-                               "The lid is closed.",
-                               "       errors   no printer is in error",
-                               "P      status     1  Ready",
-                               "P      records  status The cover is open → Ready",
-                               "P      records  firmware 1.0",
-                           }));
+    // What changed in the records is told once for all signals that were queued together, so how it
+    // is spread over lines is a matter of chance. What it is in each part of the story is not.
+    QByteArrayList told;
+    QByteArrayList changed;
+    const auto endPart = [&] {
+        if (!changed.isEmpty())
+            told.append("records: " + changed.join(", "));
+        changed.clear();
+    };
+    for (const QByteArray& line : lines.mid(3)) {
+        const QByteArray text = line.mid(qstrlen("   0.0 s  "));
+        const qsizetype records = text.indexOf("records  ");
+        if (text.endsWith('.'))
+            endPart();
+        if (records < 0)
+            told.append(text);
+        else
+            changed.append(text.mid(records + qsizetype(qstrlen("records  "))));
+    }
+    endPart();
+    QCOMPARE(told, (QByteArrayList{
+                       "P  status     1  Ready",
+                       "P  supply   was changed or taken out",
+                       "records: status not known → Ready, supply Yellow Vinyl (VT-400-YL)",
+                       "The lid is opened.",
+                       "   errors   some printer is in error",
+                       "P  status     4  The cover is open",
+                       "P  supply   was changed or taken out",
+                       "records: status Ready → The cover is open, "
+                       "supply Yellow Vinyl (VT-400-YL) → none",
+                       "A ribbon comes.",
+                       "P  ribbons  were changed or taken out",
+                       "records: ribbon 1 Blue (RS-43-BL), ribbon 1 left 0 % → 100 %, "
+                       "ribbon 1 left 100 % → 99 %",
+                       "A printer comes.",
+                       "Quill  found    Printer Is Remotely Connected.",
+                       "The lid is closed.",
+                       "       errors   no printer is in error",
+                       "P      status     1  Ready",
+                       "records: status The cover is open → Ready, firmware 1.0",
+                   }));
 }
 
 void VxPrintMonTest::watchEndsInTime()

@@ -4,14 +4,15 @@
 #include "catalogue_writer.h"
 #include "database_check.h"
 #include "fault.h"
+#include "shown_text.h"
 #include "sku_report.h"
+#include "standard_output.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 
 namespace {
 
@@ -27,14 +28,9 @@ check looks for anything wrong in FILE,
 show prints what FILE says of a supply or a ribbon, in English or in the
 language TAG ("de", "ja").
 
-Exit status: 0 done, 1 failed, 2 wrong usage.
+Exit status: 0 done, 1 failed, 2 wrong usage. Output that cannot be written is
+a failure, a pipe that its reader has closed is not.
 )";
-
-void print(std::FILE* stream, const QString& text)
-{
-    const QByteArray utf8 = text.toUtf8();
-    std::fwrite(utf8.constData(), 1, static_cast<size_t>(utf8.size()), stream);
-}
 
 QString counted(const DatabaseCounts& counts)
 {
@@ -55,13 +51,13 @@ const std::array Verbs{
     Verb{"build", 2,
          [](const QStringList& arguments, int) {
              writeDatabase(readCatalogueDirectory(arguments.at(0)), arguments.at(1));
-             return QStringLiteral("%1: %2").arg(arguments.at(1),
+             return QStringLiteral("%1: %2").arg(shown(arguments.at(1)),
                                                  counted(checkDatabase(arguments.at(1))));
          }},
     Verb{"check", 1,
          [](const QStringList& arguments, int) {
              return QStringLiteral("%1: in order, %2")
-                 .arg(arguments.at(0), counted(checkDatabase(arguments.at(0))));
+                 .arg(shown(arguments.at(0)), counted(checkDatabase(arguments.at(0))));
          }},
     Verb{"show", 2,
          [](const QStringList& arguments, int language) {
@@ -69,17 +65,13 @@ const std::array Verbs{
          }},
 };
 
-int wrongUsage(const QString& what)
+/// Carries out the command line, and answers the exit status.
+int run(StandardOutput& output)
 {
-    print(stderr, QStringLiteral("rolldb: %1 (see rolldb --help)\n").arg(what));
-    return WrongUsage;
-}
-
-} // namespace
-
-int main(int argc, char* argv[])
-{
-    const QCoreApplication application(argc, argv);
+    const auto wrongUsage = [&output](const QString& what) {
+        output.complain(QStringLiteral("%1 (see rolldb --help)").arg(what));
+        return WrongUsage;
+    };
     const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
     const QCommandLineOption languageOption(QStringLiteral("language"), {}, QStringLiteral("TAG"));
     QCommandLineParser parser;
@@ -87,7 +79,7 @@ int main(int argc, char* argv[])
     if (!parser.parse(QCoreApplication::arguments()))
         return wrongUsage(parser.errorText());
     if (parser.isSet(help)) {
-        print(stdout, QString::fromLatin1(Usage));
+        output.write(QString::fromLatin1(Usage));
         return 0;
     }
 
@@ -111,10 +103,19 @@ int main(int argc, char* argv[])
         return wrongUsage(QStringLiteral("\"%1\" is no language that names are had in").arg(tag));
 
     try {
-        print(stdout, verb->run(arguments, *language));
+        output.write(verb->run(arguments, *language));
     } catch (const Fault& fault) {
-        print(stderr, QStringLiteral("rolldb: %1\n").arg(fault.message()));
+        output.complain(fault.message());
         return Failed;
     }
     return 0;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    StandardOutput output("rolldb");
+    const QCoreApplication application(argc, argv);
+    return output.exitStatus(run(output));
 }

@@ -4,6 +4,7 @@
 
 #include "database_check.h"
 #include "fault.h"
+#include "shown_text.h"
 
 #include <vxsupplydatabase.h>
 
@@ -14,7 +15,7 @@ class Report
 public:
     void line(const char* label, const QString& value)
     {
-        m_text += QStringLiteral("%1 %2\n").arg(QLatin1String(label) + u':', -16).arg(value);
+        m_text += QStringLiteral("%1 %2\n").arg(QLatin1String(label) + u':', -16).arg(shown(value));
     }
     void inches(const char* label, double value)
     {

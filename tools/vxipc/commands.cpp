@@ -3,16 +3,16 @@
 #include "commands.h"
 
 #include "arguments.h"
+#include "json_text.h"
+#include "shown_text.h"
 #include "vxipcclient.h"
 
 #include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QRegularExpression>
-#include <QtCore/QTextStream>
 
+#include <algorithm>
 #include <array>
-#include <cstdio>
 #include <optional>
 
 namespace {
@@ -29,19 +29,13 @@ constexpr std::array Services = {Service{"supplyd", 0}, Service{"m4", 1}, Servic
 
 void print(const QString& line)
 {
-    QTextStream(stdout) << line << '\n';
+    output().write(shown(line) + QLatin1Char('\n'));
 }
 
-QString compact(const QJsonValue& value)
-{
-    const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return QString::fromUtf8(list.mid(1).chopped(1));
-}
-
-/// A text as it is, anything else as JSON.
+/// A text by itself, anything else as JSON.
 QString plain(const QJsonValue& value)
 {
-    return value.isString() ? value.toString() : compact(value);
+    return value.isString() ? value.toString() : json_text::value(value);
 }
 
 void printPlain(const QJsonValue& value)
@@ -117,17 +111,18 @@ int list(const Options& options)
             {QStringLiteral("error"), reply.isOk() ? QJsonValue() : reply.error->message}});
     }
     if (options.isJson) {
-        print(compact(found));
+        print(json_text::value(found));
         return Done;
     }
     for (const QJsonValue& server : std::as_const(found)) {
         const bool answers = server[QStringLiteral("error")].isNull();
-        print(QStringList{server[QStringLiteral("name")].toString(),
+        QStringList cells{server[QStringLiteral("name")].toString(),
                           server[QStringLiteral("service")].toString(),
                           answers ? plain(server[QStringLiteral("process")])
                                   : server[QStringLiteral("error")].toString(),
-                          server[QStringLiteral("application")].toString()}
-                  .join(QLatin1Char('\t')));
+                          server[QStringLiteral("application")].toString()};
+        std::ranges::transform(cells, cells.begin(), shown);
+        output().write(cells.join(QLatin1Char('\t')) + QLatin1Char('\n'));
     }
     return Done;
 }
@@ -140,7 +135,7 @@ int describe(const QString& server, const Options& options)
     if (!reply.isOk())
         return complain(server, *reply.error);
     if (options.isJson) {
-        print(compact(reply.result));
+        print(json_text::value(reply.result));
         return Done;
     }
     for (const QJsonArray methods = reply.result[QStringLiteral("methods")].toArray();
@@ -168,7 +163,7 @@ int call(const QString& server, const QString& method, const QStringList& texts,
     if (!reply.isOk())
         return complain(QStringLiteral("%1: %2").arg(server, method), *reply.error);
     if (options.isJson)
-        print(compact(reply.result));
+        print(json_text::value(reply.result));
     else
         printPlain(reply.result);
     return Done;
@@ -176,9 +171,15 @@ int call(const QString& server, const QString& method, const QStringList& texts,
 
 } // namespace
 
+StandardOutput& output()
+{
+    static StandardOutput output("vxipc");
+    return output;
+}
+
 int complain(ExitStatus status, const QString& complaint)
 {
-    QTextStream(stderr) << "vxipc: " << complaint << '\n';
+    output().complain(complaint);
     return status;
 }
 

@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "standard_output.h"
+
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -23,6 +25,9 @@ struct Options
 
 /// Carries out a command line without its options, and answers the exit status.
 int runCommand(const QStringList& words, const Options& options);
+
+/// What the tool writes with.
+StandardOutput& output();
 
 /// Prints `complaint` as the tool's own.
 int complain(ExitStatus status, const QString& complaint);

@@ -4,8 +4,6 @@
 
 #include <QtCore/QCoreApplication>
 
-#include <cstdio>
-
 namespace {
 
 constexpr const char* Help = R"(Calls the endpoints that run for this user.
@@ -22,14 +20,13 @@ it is typed, all others as JSON.
 --help          prints this
 --              what follows is no option
 
-Exit status: 0 done, 1 failed, 2 wrong usage.
+Exit status: 0 done, 1 failed, 2 wrong usage. Output that cannot be written is
+a failure, a pipe that its reader has closed is not.
 )";
 
-} // namespace
-
-int main(int argc, char* argv[])
+/// Carries out the command line, and answers the exit status.
+int run()
 {
-    const QCoreApplication app(argc, argv);
     const QStringList given = QCoreApplication::arguments().mid(1);
     QStringList words;
     Options options;
@@ -40,7 +37,7 @@ int main(int argc, char* argv[])
             break;
         }
         if (word == QStringLiteral("--help")) {
-            std::fputs(Help, stdout);
+            output().write(QString::fromLatin1(Help));
             return Done;
         }
         if (word == QStringLiteral("--json")) {
@@ -59,4 +56,13 @@ int main(int argc, char* argv[])
         }
     }
     return runCommand(words, options);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    StandardOutput& standardOutput = output();
+    const QCoreApplication app(argc, argv);
+    return standardOutput.exitStatus(run());
 }

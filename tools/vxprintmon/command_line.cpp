@@ -49,11 +49,13 @@ Options:
   --version              the version
 
 status waits until the printers it shows have reported and 0.1 seconds have passed without more, but
-no longer than 2 seconds.
+no longer than 2 seconds; what has come by then is taken in for half a second more.
 Names of colours and materials come from the file roll.db beside this program.
 Where there is no Windows, virtual printers are all there is: without FILE a fleet of six.
 Colours are left out when the output is no terminal or NO_COLOR is set.
-Exit status: 0 done, 1 failed, 2 wrong usage.
+Characters that could steer the terminal are shown as \u001b and the like.
+Exit status: 0 done, 1 failed, 2 wrong usage. Output that cannot be written is a failure, a pipe that
+its reader has closed is not.
 )";
 
 QString verbList()

@@ -19,15 +19,15 @@ Interruption::Interruption()
 {
     std::signal(SIGINT, interrupt);
     std::signal(SIGTERM, interrupt);
-    connect(&m_clock, &QTimer::timeout, this, [this] {
-        if (isInterrupted)
-            Q_EMIT happened();
-    });
-    m_clock.start(std::chrono::milliseconds(50));
 }
 
 Interruption::~Interruption()
 {
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
+}
+
+bool Interruption::hasHappened() const
+{
+    return isInterrupted != 0;
 }

@@ -2,22 +2,16 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
-#include <QtCore/QTimer>
+#include <QtCore/QtGlobal>
 
-/// The user's wish that the program end (Ctrl-C, or a polite kill), as a Qt signal: while one of
-/// these lives, the wish does not end the program by itself.
-class Interruption : public QObject
+/// The user's wish that the program end (Ctrl-C, or a polite kill): while one of these lives, the
+/// wish does not end the program by itself.
+class Interruption
 {
-    Q_OBJECT
-
 public:
     Interruption();
-    ~Interruption() override;
+    ~Interruption();
     Q_DISABLE_COPY_MOVE(Interruption)
 
-Q_SIGNALS:
-    void happened();
-
-private:
-    QTimer m_clock;
+    bool hasHappened() const;
 };

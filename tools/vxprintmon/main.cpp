@@ -8,16 +8,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <exception>
 
 namespace {
-
-int fail(const QString& text, int exitStatus)
-{
-    std::fprintf(stderr, "vxprintmon: %s\n", qUtf8Printable(text));
-    return exitStatus;
-}
 
 struct Runner
 {
@@ -29,22 +22,14 @@ constexpr std::array runners{
     Runner{Verb::Send, runSend}, Runner{Verb::Title, runTitle},
 };
 
-} // namespace
-
-int main(int argc, char* argv[])
+/// Carries out the command line, and answers the exit status.
+int run(StandardOutput& standardOutput)
 {
-    // The monitor's printers are chosen by its arguments: a fleet meant for hosts would come on top.
-    qunsetenv("VX_VIRTUAL_FLEET");
-    const QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("vxprintmon"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(VX_VERSION));
-    // In the language that the library has the names of colours and materials in.
-    QTranslator titles;
-    if (titles.load(QLocale::system(), QStringLiteral("vxprinterstatus"), QStringLiteral("_"),
-                    QStringLiteral(":/vxprinterstatus/translations")))
-        QCoreApplication::installTranslator(&titles);
-
-    Output output;
+    const auto fail = [&](const QString& text, int exitStatus) {
+        standardOutput.complain(text);
+        return exitStatus;
+    };
+    Output output(standardOutput);
     const auto parsed = parseCommandLine(QCoreApplication::arguments());
     if (const auto* wrong = std::get_if<WrongUsage>(&parsed))
         return fail(wrong->text, 2);
@@ -67,4 +52,24 @@ int main(int argc, char* argv[])
         // What the spooler lists can be such that no record of it can be made.
         return fail(QString::fromLocal8Bit(exception.what()), 1);
     }
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    StandardOutput output("vxprintmon");
+    // The monitor's printers are chosen by its arguments: a fleet meant for hosts would come on
+    // top.
+    qunsetenv("VX_VIRTUAL_FLEET");
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("vxprintmon"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(VX_VERSION));
+    // In the language that the library has the names of colours and materials in.
+    QTranslator titles;
+    if (titles.load(QLocale::system(), QStringLiteral("vxprinterstatus"), QStringLiteral("_"),
+                    QStringLiteral(":/vxprinterstatus/translations")))
+        QCoreApplication::installTranslator(&titles);
+
+    return output.exitStatus(run(output));
 }

@@ -2,13 +2,13 @@
 // Copyright The VxPrinterStatus authors
 #include "output.h"
 
+#include "shown_text.h"
 #include "terminal.h"
 
 #include <QtCore/QtGlobal>
 #include <QtGui/QColor>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
@@ -42,8 +42,8 @@ const QString sampleBlock = QStringLiteral("\u2588\u2588 ");
 
 } // namespace
 
-Output::Output()
-    : m_stream(stdout)
+Output::Output(StandardOutput& stream)
+    : m_stream(stream)
     , m_hasColours(wantsColours())
 {
     terminal::useUtf8();
@@ -63,7 +63,7 @@ QString Output::sampleOf(const Cell& cell) const
 
 qsizetype Output::widthOf(const Cell& cell) const
 {
-    return cell.text.size() + (sampleOf(cell).isEmpty() ? 0 : sampleBlock.size());
+    return shown(cell.text).size() + (sampleOf(cell).isEmpty() ? 0 : sampleBlock.size());
 }
 
 QString Output::coloured(const Cell& cell, qsizetype width) const
@@ -71,8 +71,8 @@ QString Output::coloured(const Cell& cell, qsizetype width) const
     const QString padding(std::max<qsizetype>(0, width - widthOf(cell)), QLatin1Char(' '));
     const QString sample = sampleOf(cell);
     if (!m_hasColours || cell.colour == Colour::None)
-        return sample + cell.text + padding;
-    return sample + QLatin1String(escapeOf(cell.colour)) + cell.text + plain + padding;
+        return sample + shown(cell.text) + padding;
+    return sample + QLatin1String(escapeOf(cell.colour)) + shown(cell.text) + plain + padding;
 }
 
 void Output::line(const QList<Cell>& cells)
@@ -85,8 +85,7 @@ void Output::line(const QList<Cell>& cells)
 
 void Output::text(const QString& text)
 {
-    m_stream << text;
-    m_stream.flush();
+    m_stream.write(text);
 }
 
 void Output::table(const QStringList& heading, const QList<QList<Cell>>& rows)
@@ -102,12 +101,13 @@ void Output::table(const QStringList& heading, const QList<QList<Cell>>& rows)
         for (qsizetype column = 0; column < row.size(); ++column)
             widths[column] = std::max(widths.at(column), widthOf(row.at(column)));
     }
+    QString text;
     for (const QList<Cell>& row : std::as_const(all)) {
-        QString text;
         for (qsizetype column = 0; column < row.size(); ++column) {
             const bool isLast = column == row.size() - 1;
             text += coloured(row.at(column), isLast ? 0 : widths.at(column) + 2);
         }
-        this->text(text + QLatin1Char('\n'));
+        text += QLatin1Char('\n');
     }
+    this->text(text);
 }

@@ -2,10 +2,11 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "standard_output.h"
+
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
-#include <QtCore/QTextStream>
 
 enum class Colour
 {
@@ -17,7 +18,8 @@ enum class Colour
     Heading,
 };
 
-/// A piece of text with its colour, after a sample of another colour ("#rrggbb") if it has one.
+/// A piece of text with its colour, after a sample of another colour ("#rrggbb") if it has one. The
+/// text may be anybody's: it is shown with marks for what is no printable character.
 struct Cell
 {
     QString text{};
@@ -30,12 +32,16 @@ struct Cell
 class Output
 {
 public:
-    Output();
+    explicit Output(StandardOutput& stream);
 
     void line(const QList<Cell>& cells);
+    /// The tool's own text, or JSON, as it is.
     void text(const QString& text);
     /// Rows under a heading, each column as wide as its widest cell.
     void table(const QStringList& heading, const QList<QList<Cell>>& rows);
+
+    /// Whether writing is of no use any more.
+    bool isOver() const { return m_stream.isOver(); }
 
 private:
     QString coloured(const Cell& cell, qsizetype width = 0) const;
@@ -43,6 +49,6 @@ private:
     QString sampleOf(const Cell& cell) const;
     qsizetype widthOf(const Cell& cell) const;
 
-    QTextStream m_stream;
+    StandardOutput& m_stream;
     bool m_hasColours;
 };

@@ -6,7 +6,7 @@
 
 #include <QtCore/QMetaProperty>
 
-#include <iterator>
+#include <tuple>
 
 namespace records {
 
@@ -146,12 +146,27 @@ const Facet facets[] = {
      }},
 };
 
+/// Does not compile without all members there are.
+auto everythingOf(const Record& record)
+{
+    const auto& [printerName, statusEnum, online, remote, nonAdmin, wasActive, ribbon1Percentage,
+                 ribbon1ColorHex, ribbon1ColorName, ribbon1Sku, ribbon2Percentage, ribbon2ColorHex,
+                 ribbon2ColorName, ribbon2Sku, softwareVersion, supplyPercentage, supplyColorHex,
+                 supplyColorName, supplySku, supplyMaterialName, ribbon2Visible] = record;
+    return std::tie(printerName, statusEnum, online, remote, nonAdmin, wasActive, ribbon1Percentage,
+                    ribbon1ColorHex, ribbon1ColorName, ribbon1Sku, ribbon2Percentage,
+                    ribbon2ColorHex, ribbon2ColorName, ribbon2Sku, softwareVersion,
+                    supplyPercentage, supplyColorHex, supplyColorName, supplySku,
+                    supplyMaterialName, ribbon2Visible);
+}
+
 } // namespace
 
 QList<Record> of(const PrinterStatusController& controller)
 {
     QList<Record> all;
     const QVariantList entries = controller.getAvailablePrinters();
+    all.reserve(entries.size());
     for (const QVariant& entry : entries)
         all.append(entry.value<Record>());
     return all;
@@ -174,6 +189,24 @@ TitleOf shortTitlesOf(PrinterStatusController& controller)
     return [titleOf = titlesOf(controller)](int statusCode) {
         return statusCode == unknown ? QStringLiteral("not known") : titleOf(statusCode);
     };
+}
+
+bool areSame(const Record& left, const Record& right)
+{
+    return everythingOf(left) == everythingOf(right);
+}
+
+QStringList JsonTexts::of(const QList<Record>& all)
+{
+    QStringList texts;
+    texts.reserve(all.size());
+    for (const Record& record : all) {
+        Entry& entry = m_entries[record.printerName];
+        if (entry.text.isEmpty() || !areSame(entry.record, record))
+            entry = {record, m_textOf(record)};
+        texts.append(entry.text);
+    }
+    return texts;
 }
 
 QString json(const Record& record)

@@ -6,7 +6,10 @@
 
 #include "printer_status_controller.h"
 
+#include <QtCore/QHash>
+
 #include <functional>
+#include <utility>
 
 /// The status records of the label printers, as programs and as people get them.
 namespace records {
@@ -24,8 +27,31 @@ TitleOf titlesOf(PrinterStatusController& controller);
 /// yet.
 TitleOf shortTitlesOf(PrinterStatusController& controller);
 
+/// Whether two records agree in every property.
+bool areSame(const Record& left, const Record& right);
+
 /// All properties under their own names.
 QString json(const Record& record);
+
+/// The JSON of many records, time and again: what has not changed is not put together again.
+class JsonTexts
+{
+public:
+    explicit JsonTexts(std::function<QString(const Record&)> textOf = json)
+        : m_textOf(std::move(textOf))
+    {}
+
+    QStringList of(const QList<Record>& all);
+
+private:
+    struct Entry
+    {
+        Record record;
+        QString text;
+    };
+    std::function<QString(const Record&)> m_textOf;
+    QHash<QString, Entry> m_entries;
+};
 
 /// One line for each record.
 void printTable(Output& output, const QList<Record>& all, const QString& activePrinter,

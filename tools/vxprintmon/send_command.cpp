@@ -57,7 +57,7 @@ QString jobText(const Scene::Job& job)
     qsizetype bytes = 0;
     for (const QByteArray& page : job.pages)
         bytes += page.size();
-    return QStringLiteral("It became print job %1, \"%2\": %3, pages: %4, bytes: %5.\n")
+    return QStringLiteral("It became print job %1, \"%2\": %3, pages: %4, bytes: %5.")
         .arg(QString::number(job.id), job.document, job.datatype, QString::number(job.pages.size()),
              QString::number(bytes));
 }
@@ -86,8 +86,8 @@ QString runSend(const CommandLine& line, Output& output, Scene& scene)
         output.text(json_text::object(members) + QLatin1Char('\n'));
         return {};
     }
-    output.text(QStringLiteral("Sent to %1: %2\n").arg(printer, command));
+    output.line({{QStringLiteral("Sent to %1: %2").arg(printer, command)}});
     if (job)
-        output.text(jobText(*job));
+        output.line({{jobText(*job)}});
     return {};
 }

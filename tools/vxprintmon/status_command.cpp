@@ -2,7 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "commands.h"
 
-#include "interruption.h"
+#include "ending.h"
 #include "json_text.h"
 #include "records.h"
 
@@ -27,12 +27,14 @@ QList<records::Record> wanted(const CommandLine& line, const PrinterStatusContro
 }
 
 /// Lets the first reports of printers arrive; false when the user would not wait.
-bool waitForFirstReports(PrinterStatusController& controller,
+bool waitForFirstReports(PrinterStatusController& controller, const Output& output,
                          const QList<records::Record>& printers)
 {
     // What a printer says first comes as one burst, in which its status is the first.
     constexpr auto pause = 100ms;
     constexpr auto patience = 2s;
+    // Reports that came in time count, though on a busy computer the end came before their turn.
+    constexpr auto timeForTheRest = 500ms;
     QSet<QString> silent;
     for (const records::Record& record : printers) {
         if (records::isWatched(record))
@@ -56,16 +58,12 @@ bool waitForFirstReports(PrinterStatusController& controller,
     QObject::connect(&controller, &PrinterStatusController::availablePrintersUpdated, &loop, heard);
     QObject::connect(&quiet, &QTimer::timeout, &loop, &QEventLoop::quit);
     QTimer::singleShot(patience, &loop, &QEventLoop::quit);
-    const Interruption interruption;
-    bool isInterrupted = false;
-    QObject::connect(&interruption, &Interruption::happened, &loop, [&] {
-        isInterrupted = true;
-        loop.quit();
-    });
+    Ending ending(controller, output);
+    ending.setTime(patience + timeForTheRest);
+    QObject::connect(&ending, &Ending::came, &loop, &QEventLoop::quit);
     loop.exec();
-    // Reports that came in time count, though on a busy computer the end came before their turn.
     QCoreApplication::sendPostedEvents(&controller);
-    return !isInterrupted;
+    return !ending.isInterrupted();
 }
 
 } // namespace
@@ -78,7 +76,7 @@ QString runStatus(const CommandLine& line, Output& output, Scene& /*scene*/)
         return QStringLiteral("there is no record of a printer \"%1\"; \"vxprintmon status\" shows "
                               "those there are")
             .arg(line.words.first());
-    if (!waitForFirstReports(controller, wanted(line, controller)))
+    if (!waitForFirstReports(controller, output, wanted(line, controller)))
         return QStringLiteral("interrupted");
 
     const QList<records::Record> shown = wanted(line, controller);

@@ -7,7 +7,8 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-/// JSON on one line, with the keys of objects in the order in which they are given.
+/// JSON on one line, with the keys of objects in the order in which they are given. What is no
+/// printable character is escaped.
 namespace json_text {
 
 using Member = std::pair<QString, QString>;

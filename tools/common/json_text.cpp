@@ -2,13 +2,15 @@
 // Copyright The VxPrinterStatus authors
 #include "json_text.h"
 
+#include "shown_text.h"
+
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 
 QString json_text::value(const QJsonValue& value)
 {
     const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return QString::fromUtf8(list.mid(1, list.size() - 2));
+    return shown(QString::fromUtf8(list.mid(1, list.size() - 2)));
 }
 
 QString json_text::object(const QList<Member>& members)

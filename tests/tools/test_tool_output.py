@@ -1,0 +1,131 @@
+# SPDX-License-Identifier: MIT
+# Copyright The VxPrinterStatus authors
+"""Writes the output of the tools to a full disk, to a closed pipe and to nowhere, and other people's
+text to a terminal.
+
+test_tool_output.py VXPRINTMON VXIPC ROLLDB
+"""
+import json
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+VXPRINTMON, VXIPC, ROLLDB = sys.argv[1:]
+HOSTILE = "P\x1b[31m\x07\r\x9b\u202e\u2028\U000e0001"
+SHOWN = r"P\u001b[31m\u0007\u000d\u009b\u202e\u2028\udb40\udc01"
+FLEET = {"printers": [{"name": HOSTILE, "driver": "Stratamark Alder", "port": HOSTILE,
+                       "values": {"StatusCode": "1", "SoftwareVersion": HOSTILE}}],
+         "timeline": [{"at": 0.1, "say": HOSTILE}]}
+# Ends what hangs.
+LIMIT = 300
+
+
+class Output(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self.folder.cleanup)
+        self.environment = dict(os.environ, LC_ALL="C.UTF-8", LANGUAGE="")
+        for name in ("HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "TMPDIR"):
+            self.environment[name] = self.folder.name
+        self.before = os.listdir(self.folder.name)
+
+    def run_tool(self, *command, stdout=subprocess.PIPE, **options):
+        done = subprocess.run(command, stdout=stdout, stderr=subprocess.PIPE, timeout=LIMIT,
+                              env=self.environment, **options)
+        return done.returncode, (done.stdout or b"").decode(), done.stderr.decode()
+
+    def commands(self):
+        return [(VXPRINTMON, "list"), (VXPRINTMON, "list", "--json"), (VXPRINTMON, "status"),
+                (VXPRINTMON, "title", "1"), (VXPRINTMON, "send", "Shipping", "X"),
+                (VXPRINTMON, "watch"), (VXPRINTMON, "watch", "--json"), (VXPRINTMON, "--help"),
+                (VXPRINTMON, "--version"), (VXIPC, "list", "--json"), (VXIPC, "--help"),
+                (ROLLDB, "--help")]
+
+    def test_full_disk_is_told(self):
+        for command in self.commands():
+            with self.subTest(command), open("/dev/full", "wb") as full:
+                tool = os.path.basename(command[0])
+                self.assertEqual(
+                    self.run_tool(*command, stdout=full),
+                    (1, "", f"{tool}: standard output could not be written: "
+                            "No space left on device\n"))
+
+    def test_output_that_is_closed_is_told(self):
+        for command in self.commands():
+            with self.subTest(command):
+                status, _, errors = self.run_tool("sh", "-c", 'exec "$@" >&-', "sh", *command)
+                self.assertEqual(status, 1)
+                self.assertIn("standard output could not be written: Bad file descriptor", errors)
+                self.assertEqual(errors.count("\n"), 1)
+
+    def test_closed_pipe_ends_quietly(self):
+        for command in self.commands():
+            with self.subTest(command):
+                reading, writing = os.pipe()
+                os.close(reading)
+                with os.fdopen(writing, "wb") as closed:
+                    self.assertEqual(self.run_tool(*command, stdout=closed), (0, "", ""))
+                self.assertEqual(os.listdir(self.folder.name), self.before)
+
+    def test_watch_ends_when_its_reader_does(self):
+        # Nothing happens to the printer, and so nothing is written that could fail.
+        quiet = self.fleet({"printers": [{"name": "P", "driver": "Stratamark Alder"}]})
+        with subprocess.Popen((VXPRINTMON, "watch", "--virtual", quiet), stdout=subprocess.PIPE,
+                              stderr=subprocess.PIPE, env=self.environment) as watch:
+            self.assertIn(b"PRINTER", watch.stdout.readline())
+            watch.stdout.close()
+            self.assertEqual(watch.stderr.read(), b"")
+            self.assertEqual(watch.wait(LIMIT), 0)
+
+    def fleet(self, content):
+        name = os.path.join(self.folder.name, "fleet.json")
+        with open(name, "w", encoding="utf-8") as file:
+            json.dump(content, file)
+        return name
+
+    def check_shown(self, text):
+        # JSON has a shorter escape for one of them.
+        self.assertIn(SHOWN, text.replace("\\r", "\\u000d"))
+        for character in text:
+            self.assertTrue(character == "\n" or character.isprintable(), repr(character))
+
+    def test_monitor_shows_other_peoples_text(self):
+        fleet = ("--virtual", self.fleet(FLEET))
+        for words in (("list",), ("status",), ("status", HOSTILE), ("send", HOSTILE, HOSTILE),
+                      ("watch", "--for", "1"), ("watch", "--for", "1", "--json"),
+                      ("list", "--json"), ("status", "--json"),
+                      ("send", HOSTILE, HOSTILE, "--json")):
+            with self.subTest(words):
+                status, output, errors = self.run_tool(VXPRINTMON, *words, *fleet)
+                self.assertEqual((status, errors), (0, ""))
+                self.check_shown(output)
+        for words in (("status", HOSTILE), ("list", "--json")):
+            output = self.run_tool(VXPRINTMON, *words, "--json", *fleet)[1]
+            self.assertEqual(json.loads(output)[0]["printerName"], HOSTILE)
+
+    def test_columns_are_as_wide_as_what_is_shown(self):
+        _, output, _ = self.run_tool(VXPRINTMON, "list", "--virtual", self.fleet(FLEET))
+        heading, row = output.splitlines()
+        self.assertEqual(heading.index("MODEL"), row.index("Alder"))
+
+    def test_messages_are_one_bounded_line(self):
+        long = HOSTILE + "x" * 100000
+        for command, status in (
+                ((VXPRINTMON, HOSTILE), 2), ((VXPRINTMON, "status", HOSTILE), 1),
+                ((VXPRINTMON, "list", "--virtual", HOSTILE), 1), ((VXPRINTMON, "title", long), 2),
+                ((VXPRINTMON, long), 2), ((VXPRINTMON, "status", long), 1),
+                ((VXIPC, HOSTILE), 2), ((VXIPC, "describe", long), 2),
+                ((VXIPC, "list", "--" + HOSTILE), 2), ((ROLLDB, "check", HOSTILE), 1),
+                ((ROLLDB, "check", long), 1), ((ROLLDB, long), 2)):
+            with self.subTest(command[1][:20]):
+                returned, output, errors = self.run_tool(*command)
+                self.assertEqual((returned, output), (status, ""))
+                self.assertEqual(errors.count("\n"), 1)
+                self.assertLess(len(errors), 2000)
+                self.check_shown(errors)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+// What the tools make of text that is not theirs before they print it.
+#include <json_text.h>
+#include <shown_text.h>
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtTest/QtTest>
+
+class ShownTextTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void printableTextStaysAsItIs_data();
+    void printableTextStaysAsItIs();
+    void whatSteersATerminalBecomesAMark_data();
+    void whatSteersATerminalBecomesAMark();
+    void everyCharacterOfTheseKindsBecomesAMark();
+    void messageIsBounded();
+    void jsonStaysTheSameJson();
+};
+
+void ShownTextTest::printableTextStaysAsItIs_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("words") << QStringLiteral("Front Desk ~ {1}");
+    QTest::newRow("network path") << QStringLiteral("\\\\server\\u001b");
+    QTest::newRow("letters of other languages") << QStringLiteral("Jägergrün 黄 ビニール שלום");
+    QTest::newRow("beyond the first plane") << QStringLiteral("\U0001F5A8 \U00020000");
+    QTest::newRow("combining") << QStringLiteral("e\u0301");
+    QTest::newRow("for private use") << QStringLiteral("\uE000");
+}
+
+void ShownTextTest::printableTextStaysAsItIs()
+{
+    QFETCH(const QString, text);
+    QCOMPARE(shown(text), text);
+}
+
+void ShownTextTest::whatSteersATerminalBecomesAMark_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("mark");
+    const auto row = [](const char* name, const QString& text, const char* mark) {
+        QTest::newRow(name) << text << QString::fromLatin1(mark);
+    };
+    const auto unit = [](char16_t number) {
+        return QString(QChar(number));
+    };
+    row("escape", unit(0x1B) + QStringLiteral("[31m"), "\\u001b[31m");
+    row("bell", unit(7), "\\u0007");
+    row("carriage return", unit(0x0D), "\\u000d");
+    row("line feed", QStringLiteral("a\nb"), "a\\u000ab");
+    row("null", unit(0), "\\u0000");
+    row("delete", unit(0x7F), "\\u007f");
+    row("control sequence introducer", unit(0x9B), "\\u009b");
+    row("soft hyphen", unit(0xAD), "\\u00ad");
+    row("right-to-left override", unit(0x202E), "\\u202e");
+    row("isolate", unit(0x2066), "\\u2066");
+    row("zero-width joiner", unit(0x200D), "\\u200d");
+    row("line separator", unit(0x2028), "\\u2028");
+    row("paragraph separator", unit(0x2029), "\\u2029");
+    row("byte order mark", unit(0xFEFF), "\\ufeff");
+    row("tag", QStringLiteral("\U000E0001"), "\\udb40\\udc01");
+    row("high half alone", unit(0xD83D), "\\ud83d");
+    row("halves in the wrong order", unit(0xDC00) + unit(0xD83D), "\\udc00\\ud83d");
+    row("noncharacter", unit(0xFFFE), "\\ufffe");
+    row("noncharacter beyond the first plane", QString::fromUcs4(U"\U0010FFFF"), "\\udbff\\udfff");
+}
+
+void ShownTextTest::whatSteersATerminalBecomesAMark()
+{
+    QFETCH(const QString, text);
+    QTEST(shown(text), "mark");
+    QTEST(shown(shown(text)), "mark");
+}
+
+void ShownTextTest::everyCharacterOfTheseKindsBecomesAMark()
+{
+    for (char32_t character = 0; character <= QChar::LastValidCodePoint; ++character) {
+        const QChar::Category kind = QChar::category(character);
+        const bool isMarked = kind == QChar::Other_Control || kind == QChar::Other_Format ||
+                              kind == QChar::Other_Surrogate || kind == QChar::Separator_Line ||
+                              kind == QChar::Separator_Paragraph ||
+                              QChar::isNonCharacter(character);
+        const QString text = QString::fromUcs4(&character, 1);
+        if ((shown(text) != text) != isMarked)
+            QFAIL(qPrintable(QStringLiteral("U+%1 becomes \"%2\"")
+                                 .arg(uint(character), 4, 16, QLatin1Char('0'))
+                                 .arg(shown(text))));
+    }
+}
+
+void ShownTextTest::messageIsBounded()
+{
+    const QString fits(MessageLength, QLatin1Char('x'));
+    QCOMPARE(shownAsMessage(fits), fits);
+    const QString begin = QStringLiteral("found \n\"");
+    const QString end = QStringLiteral("\", expected less");
+    const QString message = shownAsMessage(begin + QString(1000000, QLatin1Char('x')) + end);
+    QVERIFY(message.size() <= MessageLength + 20);
+    QVERIFY(message.startsWith(QStringLiteral("found \\u000a\"xxx")));
+    QVERIFY(message.contains(QStringLiteral("x ... x")));
+    QVERIFY(message.endsWith(end));
+}
+
+void ShownTextTest::jsonStaysTheSameJson()
+{
+    QString hostile = QStringLiteral("\"\\ \u001b\u009b\u202e\u2028\U000E0001");
+    hostile += QChar(0xD83D);
+    const QString json = json_text::value(hostile);
+    for (const QChar character : json)
+        QVERIFY(character >= QLatin1Char(' ') && character <= QLatin1Char('~'));
+    QCOMPARE(QJsonDocument::fromJson('[' + json.toUtf8() + ']').array().first().toString(),
+             hostile);
+}
+
+QTEST_GUILESS_MAIN(ShownTextTest)
+#include "tst_shown_text.moc"

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "standard_output.h"
+
+#include "shown_text.h"
+#include "system_output.h"
+
+#include <cerrno>
+#include <system_error>
+
+StandardOutput::StandardOutput(const char* tool, std::FILE* stream)
+    : m_tool(tool)
+    , m_stream(stream)
+{
+    system_output::prepare();
+}
+
+void StandardOutput::write(const QString& text)
+{
+    if (m_isOver)
+        return;
+    const QByteArray utf8 = text.toUtf8();
+    const auto size = static_cast<std::size_t>(utf8.size());
+    if (std::fwrite(utf8.constData(), 1, size, m_stream) == size && std::fflush(m_stream) == 0)
+        return;
+    const int error = errno;
+    m_isOver = true;
+    if (!system_output::failedAtClosedPipe())
+        m_failure = QString::fromLocal8Bit(std::generic_category().message(error));
+}
+
+bool StandardOutput::isOver()
+{
+    m_isOver = m_isOver || system_output::isPipeClosed(m_stream);
+    return m_isOver;
+}
+
+void StandardOutput::complain(const QString& message) const
+{
+    const QByteArray line = shownAsMessage(message).toUtf8();
+    std::fprintf(stderr, "%s: %s\n", m_tool, line.constData());
+}
+
+int StandardOutput::exitStatus(int status) const
+{
+    constexpr int failed = 1;
+    if (m_failure.isEmpty())
+        return status;
+    complain(QStringLiteral("standard output could not be written: %1").arg(m_failure));
+    return failed;
+}

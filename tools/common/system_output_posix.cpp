@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "system_output.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+void system_output::prepare()
+{
+    std::signal(SIGPIPE, SIG_IGN);
+    for (const int stream : std::array{STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        // The lowest number that is free is the one that is given out. Opened for reading, it
+        // refuses what is written to it, as a stream that is closed does.
+        if (fcntl(stream, F_GETFD) < 0)
+            static_cast<void>(open("/dev/null", O_RDONLY));
+    }
+}
+
+bool system_output::failedAtClosedPipe()
+{
+    return errno == EPIPE;
+}
+
+bool system_output::isPipeClosed(std::FILE* stream)
+{
+    pollfd output{fileno(stream), 0, 0};
+    return poll(&output, 1, 0) == 1 && (output.revents & POLLERR) != 0;
+}
