@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 #include "commands.h"
+#include "library_log.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLocale>
@@ -33,7 +34,8 @@ constexpr std::array runners{
 
 int main(int argc, char* argv[])
 {
-    // The monitor's printers are chosen by its arguments: a fleet meant for hosts would come on top.
+    // The monitor's printers are chosen by its arguments: a fleet meant for hosts would come on
+    // top.
     qunsetenv("VX_VIRTUAL_FLEET");
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vxprintmon"));
@@ -54,6 +56,8 @@ int main(int argc, char* argv[])
     }
 
     const auto& line = std::get<CommandLine>(parsed);
+    if (const QString wrong = keepLibraryLog(line.logFile); !wrong.isEmpty())
+        return fail(wrong, 1);
     const auto made = Scene::make(line);
     if (const auto* failure = std::get_if<Scene::Failure>(&made))
         return fail(failure->text, failure->exitStatus);
