@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
+#include "patience.h"
+#include "start_process.h"
 #include "vxlocalelanguages.h"
 
 #include <QtCore/QCoreApplication>
@@ -127,8 +129,8 @@ void tst_VXLocale::asksTheRunningSystem()
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     environment.insert(QStringLiteral("LANGUAGE"), languages);
     process.setProcessEnvironment(environment);
-    process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(PrintId)});
-    QVERIFY2(process.waitForFinished(), qPrintable(process.errorString()));
+    startProcess(process, QCoreApplication::applicationFilePath(), {QString::fromLatin1(PrintId)});
+    QVERIFY2(process.waitForFinished(patience), qPrintable(process.errorString()));
     QCOMPARE(process.readAllStandardOutput(), QByteArray::number(id));
 }
 
