@@ -15,11 +15,18 @@ find_package_handle_standard_args(CuteLogger
     REQUIRED_VARS CuteLogger_LIBRARY CuteLogger_INCLUDE_DIR)
 
 if(CuteLogger_FOUND AND NOT TARGET CuteLogger::CuteLogger)
-    add_library(CuteLogger::CuteLogger UNKNOWN IMPORTED GLOBAL)
+    # As a shared library it is found again by what links a library that links it.
+    if(CuteLogger_LIBRARY MATCHES "\\.(so|dylib)[^/]*$")
+        set(type SHARED)
+    else()
+        set(type UNKNOWN)
+    endif()
+    add_library(CuteLogger::CuteLogger ${type} IMPORTED GLOBAL)
     set_target_properties(CuteLogger::CuteLogger PROPERTIES
         IMPORTED_LOCATION "${CuteLogger_LIBRARY}"
         INTERFACE_INCLUDE_DIRECTORIES "${CuteLogger_INCLUDE_DIR}"
         INTERFACE_LINK_LIBRARIES Qt6::Core)
+    unset(type)
 endif()
 
 if(CuteLogger_FOUND AND NOT CuteLogger_GLOBAL_LOGGER)

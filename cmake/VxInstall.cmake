@@ -45,6 +45,17 @@ if(TARGET cutelogger)
         platform/cutelogger/FileAppender.h
         platform/cutelogger/Logger.h
         DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/CuteLogger")
+    set(VX_LOGS_THROUGH_INSTALLED FALSE)
+else()
+    # An installed one stays where it is: what is installed here finds it there.
+    set(VX_LOGS_THROUGH_INSTALLED TRUE)
+    install(FILES cmake/FindCuteLogger.cmake DESTINATION "${VX_PACKAGE_FOLDER}")
+    cmake_path(GET CuteLogger_LIBRARY PARENT_PATH logger_folder)
+    foreach(target vxprinterstatus vxprintmon)
+        if(TARGET ${target})
+            set_property(TARGET ${target} APPEND PROPERTY INSTALL_RPATH "${logger_folder}")
+        endif()
+    endforeach()
 endif()
 foreach(tool vxprintmon vxipc_tool rolldb)
     if(TARGET ${tool})

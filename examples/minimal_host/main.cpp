@@ -2,7 +2,10 @@
 // Copyright The VxPrinterStatus authors
 //
 // A host in one file: prints the maker's label printers and whatever happens to them, until it is
-// interrupted or for so many seconds. Usage: minimal_host [SECONDS]
+// interrupted or for so many seconds. Usage: minimal_host [--log FILE] [SECONDS]
+#include <ConsoleAppender.h>
+#include <FileAppender.h>
+#include <Logger.h>
 #include <printer_status_controller.h>
 
 #include <QtCore/QCoreApplication>
@@ -15,6 +18,18 @@
 
 static QTextStream out(stdout);
 static int outputError = 0; // why the output could not be written
+
+static void keepLog(const QString& fileName)
+{
+    auto* console = new ConsoleAppender;
+    console->setDetailsLevel(Logger::Warning); // above every line of the library
+    Logger::globalInstance()->registerAppender(console);
+    if (fileName.isEmpty())
+        return;
+    auto* file = new FileAppender(fileName);
+    file->setDetailsLevel(Logger::Debug); // every line of the library is at this level
+    Logger::globalInstance()->registerAppender(file);
+}
 
 static void print(PrinterStatusController& printers)
 {
@@ -38,12 +53,19 @@ static void print(PrinterStatusController& printers)
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
+    QStringList arguments = QCoreApplication::arguments().mid(1);
+    QString logFile;
+    if (arguments.size() > 1 && arguments.first() == "--log") {
+        logFile = arguments.at(1);
+        arguments = arguments.mid(2);
+    }
     bool readable = true;
-    const int seconds = argc > 1 ? QCoreApplication::arguments().at(1).toInt(&readable) : 0;
+    const int seconds = arguments.isEmpty() ? 0 : arguments.first().toInt(&readable);
     if (!readable || seconds < 0) {
         QTextStream(stderr) << "minimal_host: expected a number of seconds\n";
         return 2;
     }
+    keepLog(logFile);
     QTranslator titles;
     if (titles.load(QLocale(), "vxprinterstatus", "_", ":/vxprinterstatus/translations"))
         QCoreApplication::installTranslator(&titles);
@@ -53,7 +75,7 @@ int main(int argc, char* argv[])
     QObject::connect(&printers, &PrinterStatusController::availablePrintersUpdated,
                      [&printers] { print(printers); });
 
-    if (argc > 1)
+    if (!arguments.isEmpty())
         QTimer::singleShot(std::chrono::seconds(seconds), qApp, &QCoreApplication::quit);
     if (outputError == 0)
         QCoreApplication::exec();

@@ -1,13 +1,34 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
+//
+// The host with a window. Usage: widgets_host [--log FILE]
 #include "printer_window.h"
+
+#include <ConsoleAppender.h>
+#include <FileAppender.h>
+#include <Logger.h>
 
 #include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 
+static void keepLog(const QString& fileName)
+{
+    auto* console = new ConsoleAppender;
+    console->setDetailsLevel(Logger::Warning); // above every line of the library
+    Logger::globalInstance()->registerAppender(console);
+    if (fileName.isEmpty())
+        return;
+    auto* file = new FileAppender(fileName);
+    file->setDetailsLevel(Logger::Debug); // every line of the library is at this level
+    Logger::globalInstance()->registerAppender(file);
+}
+
 int main(int argc, char* argv[])
 {
     const QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    keepLog(arguments.value(1) == "--log" ? arguments.value(2) : QString());
+
     QTranslator titles;
     if (titles.load(QLocale(), "vxprinterstatus", "_", ":/vxprinterstatus/translations"))
         QCoreApplication::installTranslator(&titles);

@@ -4,18 +4,31 @@
 
 #include "AbstractAppender.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QList>
+#include <QtCore/QMultiHash>
+#include <QtCore/QMutex>
 #include <QtCore/QReadWriteLock>
+#include <QtCore/QSet>
 
 #include <array>
 #include <atomic>
 #include <cstdarg>
 #include <cstdio>
+#include <cstdlib>
 
 struct Logger::Private
 {
     QReadWriteLock lock;
     QList<AbstractAppender*> appenders;
+    QMultiHash<QString, AbstractAppender*> categoryAppenders;
+    QSet<QString> linkedCategories;
+
+    /// Deletes all appenders.
+    void clear();
+    QMutex remarksMutex;
+    QSet<QString> remarks; ///< made already
+    void remarkOnce(const QString& remark);
 };
 
 namespace {
@@ -59,7 +72,62 @@ QString formatted(const char* message, va_list arguments)
     return result;
 }
 
+void say(const QString& text)
+{
+    std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
+    std::fflush(stderr);
+}
+
+Logger::LogLevel levelOf(QtMsgType type)
+{
+    switch (type) {
+    case QtInfoMsg:
+        return Logger::Info;
+    case QtWarningMsg:
+        return Logger::Warning;
+    case QtCriticalMsg:
+        return Logger::Error;
+    case QtFatalMsg:
+        return Logger::Fatal;
+    case QtDebugMsg:
+        break;
+    }
+    return Logger::Debug;
+}
+
+void writeQtMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    const bool hasCategory = context.category && qstrcmp(context.category, "default") != 0;
+    Logger::globalInstance()->write(levelOf(type), context.file, context.line, context.function,
+                                    hasCategory ? context.category : nullptr, message);
+}
+
+/// Whether the global logger is set up for the application object that there is, or will be.
+std::atomic<bool> isSetUp = false;
+
 } // namespace
+
+void Logger::Private::clear()
+{
+    const QWriteLocker guard(&lock);
+    // One that is registered for several purposes is deleted once.
+    QSet<AbstractAppender*> all(appenders.cbegin(), appenders.cend());
+    for (AbstractAppender* appender : std::as_const(categoryAppenders))
+        all.insert(appender);
+    qDeleteAll(all);
+    appenders.clear();
+    categoryAppenders.clear();
+    linkedCategories.clear();
+}
+
+void Logger::Private::remarkOnce(const QString& remark)
+{
+    const QMutexLocker guard(&remarksMutex);
+    if (remarks.contains(remark))
+        return;
+    remarks.insert(remark);
+    say(remark);
+}
 
 Logger::Logger()
     : d(std::make_unique<Private>())
@@ -67,13 +135,21 @@ Logger::Logger()
 
 Logger::~Logger()
 {
-    qDeleteAll(d->appenders);
+    d->clear();
 }
 
 Logger* Logger::globalInstance()
 {
-    static Logger logger;
-    return &logger;
+    // Never destroyed: threads and destructors of static objects may log until the very end.
+    static Logger* const logger = new Logger;
+    if (!isSetUp.load(std::memory_order_acquire) && !isSetUp.exchange(true)) {
+        qInstallMessageHandler(writeQtMessage);
+        qAddPostRoutine([] {
+            isSetUp = false;
+            logger->d->clear();
+        });
+    }
+    return logger;
 }
 
 QString Logger::levelToString(LogLevel level)
@@ -94,23 +170,75 @@ Logger::LogLevel Logger::levelFromString(const QString& name)
 void Logger::registerAppender(AbstractAppender* appender)
 {
     const QWriteLocker guard(&d->lock);
-    if (!d->appenders.contains(appender))
+    if (d->appenders.contains(appender))
+        say(QStringLiteral("log: an appender was registered that is registered already"));
+    else
         d->appenders.append(appender);
+}
+
+void Logger::registerCategoryAppender(const QString& category, AbstractAppender* appender)
+{
+    const QWriteLocker guard(&d->lock);
+    if (d->categoryAppenders.values().contains(appender))
+        say(QStringLiteral("log: an appender was registered that is registered already"));
+    else
+        d->categoryAppenders.insert(category, appender);
 }
 
 void Logger::removeAppender(AbstractAppender* appender)
 {
     const QWriteLocker guard(&d->lock);
     d->appenders.removeAll(appender);
+    d->categoryAppenders.removeIf([&](const auto& entry) { return entry.value() == appender; });
+}
+
+void Logger::logToGlobalInstance(const QString& category, bool isLinked)
+{
+    Logger* const global = globalInstance();
+    const QWriteLocker guard(&global->d->lock);
+    if (isLinked)
+        global->d->linkedCategories.insert(category);
+    else
+        global->d->linkedCategories.remove(category);
+}
+
+bool Logger::hand(const QDateTime& timeStamp, LogLevel level, const char* file, int line,
+                  const char* function, const QString& category, const QString& message)
+{
+    const QReadLocker guard(&d->lock);
+    bool isTaken = false;
+    const auto handTo = [&](const QList<AbstractAppender*>& appenders) {
+        for (AbstractAppender* appender : appenders)
+            appender->write(timeStamp, level, file, line, function, category, message);
+        isTaken = isTaken || !appenders.isEmpty();
+    };
+    if (!category.isNull())
+        handTo(d->categoryAppenders.values(category));
+    if (category.isNull() || d->linkedCategories.contains(category))
+        handTo(d->appenders);
+    return isTaken;
 }
 
 void Logger::write(const QDateTime& timeStamp, LogLevel level, const char* file, int line,
                    const char* function, const char* category, const QString& message)
 {
-    const QString categoryText = QString::fromUtf8(category);
-    const QReadLocker guard(&d->lock);
-    for (AbstractAppender* appender : std::as_const(d->appenders))
-        appender->write(timeStamp, level, file, line, function, categoryText, message);
+    const QString categoryText = category ? QString::fromUtf8(category) : QString();
+    bool isTaken = hand(timeStamp, level, file, line, function, categoryText, message);
+    // What has a category reaches the global logger from any other.
+    if (category && this != globalInstance()) {
+        globalInstance()->hand(timeStamp, level, file, line, function, categoryText, message);
+        isTaken = true;
+    }
+    if (!isTaken) {
+        d->remarkOnce(category
+                          ? QStringLiteral("log: no appender is registered for the category \"%1\"")
+                                .arg(categoryText)
+                          : QStringLiteral("log: no appender is registered"));
+        say(QStringLiteral("%1 <%2> %3")
+                .arg(levelToString(level).leftJustified(7), QString::fromUtf8(function), message));
+    }
+    if (level == Fatal)
+        std::abort();
 }
 
 void Logger::write(LogLevel level, const char* file, int line, const char* function,
@@ -157,6 +285,11 @@ QDebug CuteMessageLogger::write() const
 }
 
 Logger* loggerInstance()
+{
+    return Logger::globalInstance();
+}
+
+Logger* cuteLoggerInstance()
 {
     return Logger::globalInstance();
 }

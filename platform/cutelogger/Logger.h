@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// A stand-in for CuteLogger where that library is not installed: the same names, so that a host can
-// have either.
+// A stand-in for CuteLogger where that library is not installed: the same names and the same
+// behaviour, so that a host can have either.
 #pragma once
 
 #include "CuteLogger_global.h"
@@ -16,6 +16,10 @@
 class AbstractAppender;
 
 /// Hands records to appenders. May be used on any thread.
+///
+/// A record that no appender is registered for goes to standard error, with one remark the first
+/// time; one below the level of the registered appenders goes nowhere. A fatal record ends the
+/// process once it is written.
 class CUTELOGGERSHARED_EXPORT Logger
 {
 public:
@@ -34,7 +38,8 @@ public:
     ~Logger();
     Q_DISABLE_COPY_MOVE(Logger)
 
-    /// The logger of the whole process.
+    /// The logger of the whole process. From the first use on Qt's own messages are records too,
+    /// and when the application object ends its appenders are deleted.
     static Logger* globalInstance();
 
     static QString levelToString(LogLevel level);
@@ -42,10 +47,15 @@ public:
     /// text.
     static LogLevel levelFromString(const QString& name);
 
-    /// Takes the appender over; a second registration of the same one does nothing.
+    /// Takes the appender over, for records without a category; a second registration of the same
+    /// one is refused with a remark on standard error.
     void registerAppender(AbstractAppender* appender);
+    /// The same for records of a category.
+    void registerCategoryAppender(const QString& category, AbstractAppender* appender);
     /// Gives the appender back to the caller; one that is not registered is left alone.
     void removeAppender(AbstractAppender* appender);
+    /// Whether records of the category reach the global logger's other appenders as well.
+    void logToGlobalInstance(const QString& category, bool isLinked = false);
 
     void write(const QDateTime& timeStamp, LogLevel level, const char* file, int line,
                const char* function, const char* category, const QString& message);
@@ -53,6 +63,10 @@ public:
                const char* category, const QString& message);
 
 private:
+    /// Writes a record, and answers whether an appender was there to take it.
+    bool hand(const QDateTime& timeStamp, LogLevel level, const char* file, int line,
+              const char* function, const QString& category, const QString& message);
+
     struct Private;
     std::unique_ptr<Private> d;
 };
@@ -83,5 +97,6 @@ private:
     mutable std::unique_ptr<QString> m_streamed;
 };
 
-/// The global logger.
+/// The global logger, under the names that older and newer releases give it.
 CUTELOGGERSHARED_EXPORT Logger* loggerInstance();
+CUTELOGGERSHARED_EXPORT Logger* cuteLoggerInstance();

@@ -75,11 +75,13 @@ follow_build() {
     wait "$pid"
 }
 
-# build_preset NAME [TARGET [HOW_LONG]]: configures and builds, telling how far it is and how long it
-# usually takes; the whole output is shown only when it fails. CMake gets configure_options too.
+# build_preset NAME [TARGETS [HOW_LONG]]: configures and builds, telling how far it is and how long it
+# usually takes; the whole output is shown only when it fails. CMake gets configure_options too. Several
+# targets are one text with blanks between.
 configure_options=()
 build_preset() {
-    local preset=$1 target=${2:-all} usual=${3:-} began=$SECONDS log
+    local preset=$1 targets usual=${3:-} began=$SECONDS log
+    read -ra targets <<<"${2:-all}"
     # Clones in other folders find in the compiler's cache what this one has compiled.
     export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
     log=$(mktemp)
@@ -88,12 +90,12 @@ build_preset() {
         cat "$log" >&2
         fail "cmake could not configure the preset $preset"
     }
-    say "building $preset${2:+ ($2)}${usual:+: $usual}"
+    say "building $preset${2:+ (${#targets[@]} targets)}${usual:+: $usual}"
     if [ -t 2 ]; then
-        cmake --build "$root/build/$preset" --target "$target" --parallel "$jobs" >&2 ||
+        cmake --build "$root/build/$preset" --target "${targets[@]}" --parallel "$jobs" >&2 ||
             fail "the build of $preset failed"
     else
-        cmake --build "$root/build/$preset" --target "$target" --parallel "$jobs" >"$log" 2>&1 &
+        cmake --build "$root/build/$preset" --target "${targets[@]}" --parallel "$jobs" >"$log" 2>&1 &
         follow_build $! "$log" || {
             cat "$log" >&2
             fail "the build of $preset failed"

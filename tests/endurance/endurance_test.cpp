@@ -2,6 +2,9 @@
 // Copyright The VxPrinterStatus authors
 #include "endurance_test.h"
 
+#include <ConsoleAppender.h>
+#include <Logger.h>
+
 #include <QtCore/QDir>
 #include <QtCore/QMetaProperty>
 
@@ -259,6 +262,11 @@ void EnduranceTest::initMain()
     const bool isLong = std::ranges::any_of(longForms, qEnvironmentVariableIsSet);
     if (isLong && !qEnvironmentVariableIsSet("QTEST_FUNCTION_TIMEOUT"))
         qputenv("QTEST_FUNCTION_TIMEOUT", "2000000000");
+    // Without an appender each line goes to standard error, which costs more than the report it is
+    // of.
+    auto* console = new ConsoleAppender;
+    console->setDetailsLevel(Logger::Warning);
+    Logger::globalInstance()->registerAppender(console);
     countObjects();
 }
 

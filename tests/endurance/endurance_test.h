@@ -3,6 +3,7 @@
 #pragma once
 
 #include "machine_test.h"
+#include "patience.h"
 
 #include "printer_status_controller.h"
 
@@ -17,8 +18,6 @@ using namespace std::chrono_literals;
 using virtualwindows::Call;
 using virtualwindows::PrinterValue;
 
-/// Milliseconds after which a wait for something that has to happen is a failure.
-inline constexpr int patience = 20000;
 /// A thread that gets no notification asks for the spooler's state this often.
 inline constexpr auto spoolerPoll = 5000ms;
 

@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 // Fleet files: what they make of a machine, the story they tell, and how a broken one is refused.
 #include "machine_test.h"
+#include "patience.h"
 
 #include "printer_status_thread.h"
 #include "virtualwindows/fleet.h"
@@ -580,7 +581,7 @@ void FleetTest::audienceMissesNothing()
     connect(&player, &StoryPlayer::happened, this,
             [&, event = 0]() mutable { QCOMPARE(reported.size(), ++event); });
     player.start();
-    QTRY_COMPARE_WITH_TIMEOUT(reported.size(), expected.size(), 30000);
+    QTRY_COMPARE_WITH_TIMEOUT(reported.size(), expected.size(), patience);
     QCOMPARE(reported, expected);
 
     while (!thread.wait(10))
@@ -594,7 +595,7 @@ void FleetTest::storyGoesOnWithoutItsAudience()
     player.setAudience([] { return 1; });
     QSignalSpy finished(&player, &StoryPlayer::finished);
     player.start();
-    QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
 }
 
 QTEST_GUILESS_MAIN(FleetTest)

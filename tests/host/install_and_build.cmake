@@ -3,9 +3,11 @@
 #
 # Installs a build into a scratch folder and builds hosts against what is there, as somebody
 # does who has the package only. Expects BUILD (what is installed), SCRATCH, EXAMPLES (folders), FIND_BY
-# (the variable that leads to packages) and OPTIONS (for configuring the examples).
+# (the variable that leads to packages) and OPTIONS (for configuring the examples). LOGGER is the library
+# of the installed CuteLogger that the build has, and empty where it has the stand-in.
 
 function(run what)
+    message(STATUS "${what}")
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
     if(NOT result EQUAL 0)
         message(FATAL_ERROR "${what}: ${result}\n${output}")
@@ -21,3 +23,25 @@ foreach(example IN LISTS EXAMPLES)
         "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Werror" ${OPTIONS})
     run("building ${name}" "${CMAKE_COMMAND}" --build "${SCRATCH}/${name}")
 endforeach()
+
+# The package says what to set when the CuteLogger that it was built with is not there any more.
+if(LOGGER)
+    file(GLOB_RECURSE config "${SCRATCH}/installed/*/VxPrinterStatusConfig.cmake")
+    file(READ "${config}" text)
+    string(REPLACE "${LOGGER}" "/gone/libCuteLogger.so" text "${text}")
+    file(WRITE "${config}" "${text}")
+    list(GET EXAMPLES 0 example)
+    set(configure "${CMAKE_COMMAND}" -S "${example}" -G Ninja
+        "-D${FIND_BY}=${SCRATCH}/installed" -DCMAKE_BUILD_TYPE=Release ${OPTIONS})
+    message(STATUS "configuring without CuteLogger")
+    execute_process(COMMAND ${configure} -B "${SCRATCH}/without logger"
+        RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(result EQUAL 0 OR NOT output MATCHES "CuteLogger_ROOT")
+        message(FATAL_ERROR "expected to be told of CuteLogger_ROOT: ${result}\n${output}")
+    endif()
+    cmake_path(GET LOGGER PARENT_PATH folder)
+    cmake_path(GET folder PARENT_PATH prefix)
+    run("configuring with CuteLogger_ROOT" ${configure} -B "${SCRATCH}/moved logger"
+        "-DCuteLogger_ROOT=${prefix}")
+    run("building with CuteLogger_ROOT" "${CMAKE_COMMAND}" --build "${SCRATCH}/moved logger")
+endif()

@@ -2,6 +2,9 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "patience.h"
+#include "start_process.h"
+
 #include <vxipcserver.h>
 
 #include <QtCore/QJsonArray>
@@ -17,15 +20,15 @@ inline QJsonValue askFromOutside(const VXIPCServer& endpoint, const QString& met
                                  const QStringList& arguments)
 {
     // Published by the event loop.
-    if (!QTest::qWaitFor([&endpoint] { return !endpoint.serverName().isEmpty(); }, 20000))
+    if (!QTest::qWaitFor([&endpoint] { return !endpoint.serverName().isEmpty(); }, patience))
         return QJsonValue::Undefined;
     QProcess process;
-    process.start(QStringLiteral(VX_VXIPC),
-                  QStringList{QStringLiteral("--json"), QStringLiteral("call"),
-                              endpoint.serverName(), method, QStringLiteral("--")} +
-                      arguments);
+    startProcess(process, QStringLiteral(VX_VXIPC),
+                 QStringList{QStringLiteral("--json"), QStringLiteral("call"),
+                             endpoint.serverName(), method, QStringLiteral("--")} +
+                     arguments);
     const bool ended =
-        QTest::qWaitFor([&process] { return process.state() == QProcess::NotRunning; }, 20000);
+        QTest::qWaitFor([&process] { return process.state() == QProcess::NotRunning; }, patience);
     if (!ended || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
         qWarning("%s: %s%s", qPrintable(method), qPrintable(process.errorString()),
                  process.readAllStandardError().constData());

@@ -237,7 +237,7 @@ void EndToEndTest::nobodyAnswersAfterTheController()
     QProcess process;
     process.start(QStringLiteral(VX_VXIPC),
                   {QStringLiteral("call"), name, QStringLiteral("supplyId")});
-    QVERIFY(process.waitForFinished(20000));
+    QVERIFY(process.waitForFinished(patience));
     QCOMPARE(process.exitCode(), 1);
     QVERIFY(process.readAllStandardError().startsWith("vxipc: " + name.toUtf8()));
 }

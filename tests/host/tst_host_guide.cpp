@@ -4,6 +4,7 @@
 // The pieces of code that docs/host-guide.md shows besides those of the examples: they compile, and
 // do what the guide says.
 #include "controller_test.h"
+#include "patience.h"
 #include "vx_ipc_supplyd_controller.h"
 
 #include <vxipcclient.h>
@@ -103,7 +104,7 @@ void HostGuideTest::slowWorkGoesElsewhere()
     });
 
     reportError();
-    QVERIFY(QThreadPool::globalInstance()->waitForDone(20000));
+    QVERIFY(QThreadPool::globalInstance()->waitForDone(patience));
     QCOMPARE(reports.loadRelaxed(), 1);
 }
 

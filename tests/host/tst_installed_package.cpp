@@ -3,7 +3,9 @@
 //
 // Hosts that were built against the installed package and know nothing of tests or virtual
 // printers.
+#include "patience.h"
 #include "sample_database.h"
+#include "start_process.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -46,15 +48,21 @@ Result run(const QString& program, const QStringList& arguments,
 {
     QProcess process;
     process.setProcessEnvironment(variables);
-    process.start(program, arguments);
-    if (!process.waitForFinished(30000)) {
+    startProcess(process, program, arguments);
+    if (!process.waitForFinished(patience)) {
         qWarning("%s", qPrintable(process.errorString()));
         process.kill();
-        process.waitForFinished();
+        process.waitForFinished(patience);
         return {};
     }
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             process.readAllStandardOutput().replace("\r\n", "\n"), process.readAllStandardError()};
+}
+
+QByteArray contents(const QString& fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
@@ -77,10 +85,14 @@ private Q_SLOTS:
     void wrongArgument_data();
     void wrongArgument();
     void hostThatKeepsTheLog();
+    void logOfAHostWithoutAnAppenderGoesToStandardError();
 #ifdef Q_OS_WIN
     void printersOfTheSystem();
 #else
     void printersOfAFleet();
+    void examplesShowNothingOfTheLog();
+    void examplesLogIntoAFile_data();
+    void examplesLogIntoAFile();
     void titlesInTheUsersLanguage();
     void brokenFleet_data();
     void brokenFleet();
@@ -140,21 +152,21 @@ void InstalledPackageTest::wrongArgument()
 
 void InstalledPackageTest::hostThatKeepsTheLog()
 {
-#ifdef VX_LOGGING_HOST
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("printers.log"));
     const Result result = run(QStringLiteral(VX_LOGGING_HOST), {file});
     QCOMPARE(result.errors, QByteArray());
     QCOMPARE(result.exitStatus, 0);
-    QFile log(file);
-    QVERIFY(log.open(QIODevice::ReadOnly));
-    const QByteArray text = log.readAll();
+    const QByteArray text = contents(file);
     QVERIFY2(text.contains("host is up"), text.constData());
-    QVERIFY2(text.contains("void PrinterStatusController::sendToLogger(QString)"),
-             text.constData());
-#else
-    QSKIP("hosts log through a CuteLogger of their own");
-#endif
+    QVERIFY2(text.contains("PrinterStatusController::sendToLogger"), text.constData());
+}
+
+void InstalledPackageTest::logOfAHostWithoutAnAppenderGoesToStandardError()
+{
+    const Result result = run(QStringLiteral(VX_PLAIN_HOST), {});
+    QCOMPARE(result.exitStatus, 0);
+    QVERIFY2(result.errors.contains("host is up"), result.errors.constData());
 }
 
 #ifdef Q_OS_WIN
@@ -197,10 +209,10 @@ bool InstalledPackageTest::printsOn(const QString& fleet, const QByteArray& line
     process.setProcessEnvironment(variables);
     process.start(host, {});
     QByteArray output;
-    while (!output.contains(line) && process.waitForReadyRead(20000))
+    while (!output.contains(line) && process.waitForReadyRead(patience))
         output += process.readAllStandardOutput();
     process.kill();
-    process.waitForFinished();
+    process.waitForFinished(patience);
     if (!output.contains(line))
         qWarning("printed instead:\n%s%s", output.constData(),
                  process.readAllStandardError().constData());
@@ -231,6 +243,40 @@ void InstalledPackageTest::printersOfAFleet()
                      QStringLiteral("en")));
     QVERIFY(printsOn(fleet, "Packing: Ready, supply VT-400-WH 50 %, ribbon Green 49 %\n" + active,
                      QStringLiteral("en")));
+}
+
+void InstalledPackageTest::examplesShowNothingOfTheLog()
+{
+    QProcessEnvironment variables = environment();
+    variables.insert(QStringLiteral("VX_VIRTUAL_FLEET"), QStringLiteral("built-in"));
+    const Result result = run(host, {QStringLiteral("0")}, variables);
+    QCOMPARE(result.exitStatus, 0);
+    QVERIFY2(result.output.contains("Warehouse: "), result.output.constData());
+    QCOMPARE(result.errors, QByteArray());
+}
+
+void InstalledPackageTest::examplesLogIntoAFile_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::newRow("minimal_host") << host;
+    if (!QStringLiteral(VX_WIDGETS_HOST).isEmpty())
+        QTest::newRow("widgets_host") << QStringLiteral(VX_WIDGETS_HOST);
+}
+
+void InstalledPackageTest::examplesLogIntoAFile()
+{
+    QFETCH(const QString, program);
+    const QTemporaryDir folder;
+    const QString log = folder.filePath(QStringLiteral("printers.log"));
+    QProcessEnvironment variables = environment();
+    variables.insert(QStringLiteral("VX_VIRTUAL_FLEET"), QStringLiteral("built-in"));
+    QProcess process;
+    process.setProcessEnvironment(variables);
+    process.start(program, {QStringLiteral("--log"), log});
+    QTRY_VERIFY_WITH_TIMEOUT(contents(log).contains("Evaluating Printer: Warehouse"), patience);
+    process.kill();
+    QVERIFY(process.waitForFinished(patience));
+    QCOMPARE(process.readAllStandardError(), QByteArray());
 }
 
 void InstalledPackageTest::titlesInTheUsersLanguage()

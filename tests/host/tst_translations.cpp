@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 // The titles of status codes in every language that the library carries.
+#include "patience.h"
 #include "printer_status_controller.h"
 
 #include <QtCore/QCoreApplication>
@@ -194,7 +195,7 @@ void TranslationsTest::everyTitleOfTheSourceIsInEveryFile()
     lupdate.start(QStringLiteral(VX_LUPDATE),
                   {QStringLiteral("-silent"), QStringLiteral("-locations"), QStringLiteral("none"),
                    QStringLiteral(VX_TITLES_SOURCE), QStringLiteral("-ts"), found});
-    QVERIFY(lupdate.waitForFinished());
+    QVERIFY(lupdate.waitForFinished(patience));
     QVERIFY2(lupdate.exitCode() == 0, lupdate.readAllStandardError().constData());
 
     const QStringList expected = keysOf(messagesOf(found));

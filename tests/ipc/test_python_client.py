@@ -51,7 +51,7 @@ class PythonClient(unittest.TestCase):
     def tearDownClass(cls):
         cls.host.stdin.close()
         cls.host.stdout.close()
-        status = cls.host.wait(timeout=30)
+        status = cls.host.wait()
         cls.folder.cleanup()
         assert status == 0, status
 

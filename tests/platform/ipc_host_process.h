@@ -2,6 +2,9 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "patience.h"
+#include "start_process.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QProcess>
 #include <QtCore/QString>
@@ -20,8 +23,8 @@ public:
     HostProcess(const QString& program, const QStringList& arguments, int services)
     {
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QCoreApplication::applicationDirPath() + QLatin1Char('/') + program,
-                        arguments);
+        startProcess(m_process, QCoreApplication::applicationDirPath() + QLatin1Char('/') + program,
+                     arguments);
         for (int i = 0; i < services; ++i) {
             while (!m_process.canReadLine() && m_process.waitForReadyRead()) {
             }
@@ -32,7 +35,7 @@ public:
     ~HostProcess()
     {
         m_process.closeWriteChannel();
-        if (!m_process.waitForFinished())
+        if (!m_process.waitForFinished(patience))
             kill();
     }
     Q_DISABLE_COPY_MOVE(HostProcess)
@@ -45,7 +48,7 @@ public:
     void kill()
     {
         m_process.kill();
-        m_process.waitForFinished();
+        m_process.waitForFinished(patience);
     }
 
 private:

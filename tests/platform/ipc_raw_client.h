@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "patience.h"
 #include "vxipcclient.h"
 
 #include <QtCore/QCoreApplication>
@@ -35,7 +36,7 @@ public:
     void send(const QByteArray& bytes) { m_socket.write(bytes); }
 
     /// The next line without its end; empty when the connection ends or `timeout` is over before.
-    QByteArray receive(int timeout = 10000)
+    QByteArray receive(int timeout = patience)
     {
         QEventLoop loop;
         QTimer::singleShot(timeout, &loop, &QEventLoop::quit);
@@ -63,7 +64,7 @@ public:
             .object();
     }
 
-    bool waitForClose(int timeout = 10000)
+    bool waitForClose(int timeout = patience)
     {
         return QTest::qWaitFor(
             [this] { return m_socket.state() == QLocalSocket::UnconnectedState; }, timeout);

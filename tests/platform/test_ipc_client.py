@@ -41,7 +41,7 @@ class PythonClient(unittest.TestCase):
         self.stream.close()
         self.host.stdin.close()
         self.host.stdout.close()
-        self.assertEqual(self.host.wait(timeout=30), 0)
+        self.assertEqual(self.host.wait(), 0)
 
     def call(self, method, *arguments):
         return self.documented_call(self.stream, method, *arguments)

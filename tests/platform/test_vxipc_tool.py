@@ -27,10 +27,10 @@ class Tool(unittest.TestCase):
     def tearDownClass(cls):
         cls.host.stdin.close()
         cls.host.stdout.close()
-        cls.host.wait(timeout=30)
+        cls.host.wait()
 
     def run_tool(self, *arguments):
-        done = subprocess.run([TOOL, *arguments], capture_output=True, text=True, timeout=30)
+        done = subprocess.run([TOOL, *arguments], capture_output=True, text=True)
         return done.returncode, done.stdout, done.stderr
 
     def check_output(self, arguments, output):

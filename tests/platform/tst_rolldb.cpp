@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
+#include "patience.h"
 #include "small_catalogue.h"
+#include "start_process.h"
 
 #include <csv_table.h>
 #include <database_check.h>
@@ -787,8 +789,8 @@ private Q_SLOTS:
         SmallCatalogue().write(path());
         writeFile(m_folder->filePath(u"text.db"_s), "not a database");
         QProcess tool;
-        tool.start(QStringLiteral(VX_ROLLDB), arguments.replaceInStrings(u"@"_s, folder));
-        QVERIFY2(tool.waitForFinished(), qPrintable(tool.errorString()));
+        startProcess(tool, QStringLiteral(VX_ROLLDB), arguments.replaceInStrings(u"@"_s, folder));
+        QVERIFY2(tool.waitForFinished(patience), qPrintable(tool.errorString()));
         QCOMPARE(tool.exitStatus(), QProcess::NormalExit);
         QCOMPARE(QString::fromUtf8(tool.readAllStandardError()).remove(u'\r'),
                  error.replace(u"@"_s, folder));
@@ -800,8 +802,8 @@ private Q_SLOTS:
     void theToolExplainsItself()
     {
         QProcess tool;
-        tool.start(QStringLiteral(VX_ROLLDB), {u"--help"_s});
-        QVERIFY2(tool.waitForFinished(), qPrintable(tool.errorString()));
+        startProcess(tool, QStringLiteral(VX_ROLLDB), {u"--help"_s});
+        QVERIFY2(tool.waitForFinished(patience), qPrintable(tool.errorString()));
         QCOMPARE(tool.exitCode(), 0);
         const QString help = QString::fromUtf8(tool.readAllStandardOutput());
         for (const auto& verb : {u"rolldb build"_s, u"rolldb check"_s, u"rolldb show"_s})

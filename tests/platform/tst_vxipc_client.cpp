@@ -298,7 +298,7 @@ void tst_VXIPCClient::keepsManyCallsInFlight()
         client.call(QStringLiteral("scale"), QJsonArray{i, 1},
                     [&](const VXIPCReply& outcome) { results.append(outcome.result.toInt(-1)); });
     }
-    QTRY_COMPARE_WITH_TIMEOUT(results.size(), Calls, 30000);
+    QTRY_COMPARE_WITH_TIMEOUT(results.size(), Calls, patience);
     for (int i = 0; i < Calls; ++i)
         QCOMPARE(results.at(i), i);
 }
@@ -426,7 +426,7 @@ void tst_VXIPCClient::connectsAgain()
     host->kill();
     QTRY_COMPARE(disconnected.size(), 1);
     host = std::make_unique<HostProcess>(serverType);
-    QTRY_COMPARE_WITH_TIMEOUT(connected.size(), 2, 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(connected.size(), 2, patience);
     QVERIFY(client.isConnected());
 
     // A call does not wait for the next attempt.
@@ -454,7 +454,7 @@ void tst_VXIPCClient::findsAnEndpointThatComesLater()
     QVERIFY(!client.connectToServer());
     QSignalSpy connected(&client, &VXIPCClient::connected);
     TestService service(serverType);
-    QTRY_COMPARE_WITH_TIMEOUT(connected.size(), 1, 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(connected.size(), 1, patience);
 }
 
 void tst_VXIPCClient::readsWhatIsNoAnswer_data()

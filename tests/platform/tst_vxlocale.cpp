@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
+#include "patience.h"
+#include "start_process.h"
 #include "vxlocalelanguages.h"
 
 #include <QtCore/QCoreApplication>
@@ -27,9 +29,9 @@ QByteArray idPrinted(const QString& systemLanguages, const QString& defaultLocal
     QStringList arguments{QString::fromLatin1(PrintId)};
     if (!defaultLocale.isEmpty())
         arguments.append(defaultLocale);
-    process.start(QCoreApplication::applicationFilePath(), arguments);
-    return process.waitForFinished() ? process.readAllStandardOutput()
-                                     : process.errorString().toUtf8();
+    startProcess(process, QCoreApplication::applicationFilePath(), arguments);
+    return process.waitForFinished(patience) ? process.readAllStandardOutput()
+                                             : process.errorString().toUtf8();
 }
 
 } // namespace

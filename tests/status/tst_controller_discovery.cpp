@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 // Which printers the controller takes up, and what it makes of them.
 #include "controller_test.h"
+#include "patience.h"
 
 #include "vx_ipc_m4_controller.h"
 #include "vx_ipc_supplyd_controller.h"
@@ -501,7 +502,7 @@ void ControllerDiscoveryTest::slotsOfDiscovery()
         if (isCalled || line != slotOf)
             return;
         isCalled = true;
-        isWatched = QTest::qWaitFor([&] { return record(packing).statusEnum == 1; }, 20000);
+        isWatched = QTest::qWaitFor([&] { return record(packing).statusEnum == 1; }, patience);
     };
     controller().checkForPrinters();
     QVERIFY(isCalled);
@@ -543,7 +544,7 @@ void ControllerDiscoveryTest::hostsOfAnotherThread()
         loop.exec();
     }));
     host->start();
-    QVERIFY(host->wait(20s));
+    QVERIFY(host->wait(patience));
     QCOMPARE(slotThread, host.get());
     QCOMPARE(machine().openHandles(), 0);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 // How a monitoring thread is brought to its end, whenever that comes.
+#include "patience.h"
 #include "thread_test.h"
 
 #include <QtCore/QSemaphore>
@@ -27,7 +28,7 @@ public:
             m_goOn.acquire();
         });
     }
-    bool waitUntilReached() { return m_reached.tryAcquire(1, 20000); }
+    bool waitUntilReached() { return m_reached.tryAcquire(1, patience); }
     void letGo() { m_goOn.release(1000); }
 
 private:
@@ -66,7 +67,7 @@ void PrinterStatusThreadEndTest::stopEndsAWaitAndClosesInOrder()
     machine().clearCalls();
 
     thread().stop();
-    QVERIFY(thread().wait(20000));
+    QVERIFY(thread().wait(patience));
     QCOMPARE(functionsCalled(),
              (QStringList{name("SetEvent"), name("CloseHandle"),
                           name("FindClosePrinterChangeNotification"), name("ClosePrinter"),
@@ -86,7 +87,7 @@ void PrinterStatusThreadEndTest::stopOnlySignals()
     QVERIFY(closing.waitUntilReached());
     QVERIFY(thread().isRunning());
     closing.letGo();
-    QVERIFY(thread().wait(20000));
+    QVERIFY(thread().wait(patience));
 }
 
 void PrinterStatusThreadEndTest::stopBeforeTheStartDoesNothing()
@@ -114,7 +115,7 @@ void PrinterStatusThreadEndTest::stopTwice()
     watch();
     thread().stop();
     thread().stop();
-    QVERIFY(thread().wait(20000));
+    QVERIFY(thread().wait(patience));
     QCOMPARE(machine().callCount(name("SetEvent")), 1);
 }
 
@@ -128,7 +129,7 @@ void PrinterStatusThreadEndTest::stopWhileTheEventIsBeingClosed()
     thread().stop();
     QCOMPARE(machine().callCount(name("SetEvent")), 1);
     closing.letGo();
-    QVERIFY(thread().wait(20000));
+    QVERIFY(thread().wait(patience));
 }
 
 void PrinterStatusThreadEndTest::stopAfterTheEnd()
@@ -147,7 +148,7 @@ void PrinterStatusThreadEndTest::stopThatFailsCanBeRepeated()
     thread().stop();
     QVERIFY(thread().isRunning());
     thread().stop();
-    QVERIFY(thread().wait(20000));
+    QVERIFY(thread().wait(patience));
 }
 
 void PrinterStatusThreadEndTest::stopWhileTheSpoolerIsDown()
@@ -156,7 +157,7 @@ void PrinterStatusThreadEndTest::stopWhileTheSpoolerIsDown()
     machine().stopSpooler();
     pass(5000ms);
     thread().stop();
-    QVERIFY(thread().wait(20000));
+    QVERIFY(thread().wait(patience));
 }
 
 void PrinterStatusThreadEndTest::stopWinsOverAPendingNotification()
@@ -170,7 +171,7 @@ void PrinterStatusThreadEndTest::stopWinsOverAPendingNotification()
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "2"));
     thread().stop();
     reading.letGo();
-    QVERIFY(thread().wait(20000));
+    QVERIFY(thread().wait(patience));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
 }
 
@@ -178,7 +179,7 @@ void PrinterStatusThreadEndTest::endsWhenTheEventCannotBeMade()
 {
     machine().failCall(name("CreateEventW"), 1, ERROR_NOT_ENOUGH_MEMORY);
     thread().start();
-    QVERIFY(thread().wait(20000));
+    QVERIFY(thread().wait(patience));
     QCOMPARE(takeReports(), QList<Report>{report("printerNameChangedSignal", labelPrinter)});
     QCOMPARE(machine().callCount(name("OpenSCManagerW")), 0);
     QCOMPARE(machine().callCount(name("WaitForMultipleObjects")), 0);
@@ -211,7 +212,7 @@ void PrinterStatusThreadEndTest::stopsAndStartsAtRandomMoments()
     });
     for (int round = 0; round < 100; ++round) {
         thread().start();
-        if (!thread().wait(20000))
+        if (!thread().wait(patience))
             break;
     }
     const bool allEnded = thread().isFinished();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 // The monitor as its users see it: arguments in, text, JSON and exit status out.
+#include "patience.h"
 #include "printer_status_controller.h"
 
 #include <QtCore/QJsonArray>
@@ -125,6 +126,8 @@ private Q_SLOTS:
     void wrongUsage();
     void brokenFleet();
     void helpAndVersion();
+    void logGoesToAFile();
+    void logThatCannotBeWrittenIsAFailure();
     void leavesNothingBehind();
 
 private:
@@ -145,7 +148,7 @@ private:
         QProcess process;
         process.setProcessEnvironment(changed.isEmpty() ? environment() : changed);
         process.start(program, arguments);
-        if (!process.waitForFinished(30000))
+        if (!process.waitForFinished(patience))
             return {};
         return resultOf(process);
     }
@@ -157,13 +160,13 @@ private:
         process.start(QStringLiteral(VXPRINTMON), arguments);
         QByteArray output;
         while (!output.contains(last)) {
-            if (!process.waitForReadyRead(30000))
+            if (!process.waitForReadyRead(patience))
                 return {-1, output + "\n... and no \"" + last + '"',
                         process.readAllStandardError()};
             output += process.readAllStandardOutput();
         }
         process.terminate();
-        process.waitForFinished(30000);
+        process.waitForFinished(patience);
         Result result = resultOf(process);
         result.output.prepend(output);
         return result;
@@ -428,9 +431,9 @@ void VxPrintMonTest::statusEndsWhenInterrupted()
         // Its endpoint is published from the event loop, in which it waits.
         QTRY_VERIFY_WITH_TIMEOUT(entries().contains(QStringLiteral("vxipc-0")) ||
                                      process.state() == QProcess::NotRunning,
-                                 20000);
+                                 patience);
         process.terminate();
-        QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished(20000));
+        QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished(patience));
         const Result result = resultOf(process);
         exitStatus = result.exitStatus;
         if (exitStatus != 0) {
@@ -715,9 +718,9 @@ void VxPrintMonTest::watchEndsWhenInterrupted()
     QProcess process;
     process.setProcessEnvironment(environment());
     process.start(QStringLiteral(VXPRINTMON), {QStringLiteral("watch"), QStringLiteral("--json")});
-    QTRY_VERIFY_WITH_TIMEOUT(process.bytesAvailable() > 0, 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(process.bytesAvailable() > 0, patience);
     QCOMPARE(::kill(static_cast<pid_t>(process.processId()), number), 0);
-    QVERIFY(process.waitForFinished(20000));
+    QVERIFY(process.waitForFinished(patience));
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 0);
 }
@@ -734,9 +737,9 @@ void VxPrintMonTest::twoAtOnce()
                            {QStringLiteral("watch"), QStringLiteral("--json")});
         QTRY_VERIFY_WITH_TIMEOUT((outputs[i] += processes[i].readAllStandardOutput())
                                      .contains(R"("softwareVersion":"4.1.3,boot 1.7")"),
-                                 20000);
+                                 patience);
         QTRY_COMPARE_WITH_TIMEOUT(entries().filter(QStringLiteral("vxipc-")).size(), 2 * (i + 1),
-                                  20000);
+                                  patience);
     }
     const QStringList endpoints = entries().filter(QStringLiteral("vxipc-"));
     QVERIFY(endpoints.contains(QStringLiteral("vxipc-0")));
@@ -745,7 +748,7 @@ void VxPrintMonTest::twoAtOnce()
     for (int i = 0; i < count; ++i) {
         QCOMPARE(processes[i].state(), QProcess::Running);
         processes[i].terminate();
-        QVERIFY(processes[i].waitForFinished(20000));
+        QVERIFY(processes[i].waitForFinished(patience));
         QCOMPARE(processes[i].exitStatus(), QProcess::NormalExit);
         QCOMPARE(processes[i].exitCode(), 0);
         QCOMPARE(processes[i].readAllStandardError(), QByteArray());
@@ -1072,6 +1075,43 @@ void VxPrintMonTest::helpAndVersion()
     QVERIFY(QRegularExpression(QStringLiteral("^vxprintmon \\d+\\.\\d+\\.\\d+\n$"))
                 .match(QString::fromUtf8(version.output))
                 .hasMatch());
+}
+
+void VxPrintMonTest::logGoesToAFile()
+{
+    const QTemporaryDir folder;
+    const QString log = folder.filePath(QStringLiteral("library.log"));
+    const auto lines = [&log] {
+        QFile file(log);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const Result first = run({QStringLiteral("status"), QStringLiteral("--log"), log});
+    QCOMPARE(first.exitStatus, 0);
+    QCOMPARE(first.errors, QByteArray());
+    const qsizetype once = lines().count("Evaluating Printer: Warehouse");
+    QCOMPARE(once, 1);
+    // It is added to what is there.
+    QCOMPARE(run({QStringLiteral("status"), QStringLiteral("--log"), log}).exitStatus, 0);
+    QCOMPARE(lines().count("Evaluating Printer: Warehouse"), 2 * once);
+
+    const Result without = run({QStringLiteral("status")});
+    QCOMPARE(without.exitStatus, 0);
+    QCOMPARE(without.output, first.output);
+    QCOMPARE(without.errors, QByteArray());
+}
+
+void VxPrintMonTest::logThatCannotBeWrittenIsAFailure()
+{
+    const Result result =
+        run({QStringLiteral("list"), QStringLiteral("--log"), QStringLiteral("no/such/folder")});
+    QCOMPARE(result.exitStatus, 1);
+    QCOMPARE(result.output, QByteArray());
+    QCOMPARE(result.errors, QByteArray("vxprintmon: cannot write the log no/such/folder: "
+                                       "No such file or directory\n"));
+    const Result empty = run({QStringLiteral("list"), QStringLiteral("--log"), QString()});
+    QCOMPARE(empty.exitStatus, 2);
+    QVERIFY2(empty.errors.startsWith("vxprintmon: --log: expected a file's name"),
+             empty.errors.constData());
 }
 
 void VxPrintMonTest::leavesNothingBehind()

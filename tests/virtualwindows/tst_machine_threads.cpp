@@ -3,6 +3,7 @@
 // Several threads at once: no wake-up is lost, and nothing is told twice.
 
 #include "machine_test.h"
+#include "patience.h"
 
 #include <atomic>
 #include <thread>
@@ -449,7 +450,7 @@ void MachineThreadsTest::stoppingTheServiceUnderWatchers()
             machine().startSpooler();
         }
         const int openedBefore = opened;
-        const bool isUsable = QTest::qWaitFor([&] { return opened > openedBefore; }, 20000);
+        const bool isUsable = QTest::qWaitFor([&] { return opened > openedBefore; }, patience);
         stop = true;
         QVERIFY(isUsable);
     }

@@ -120,14 +120,14 @@ protected:
     /// Waits until a printer that publishes nothing but a status has reported it.
     void waitForStatus(const QString& printer, int status)
     {
-        QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, status, 20000);
+        QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, status, patience);
         takeSignals();
     }
     /// Waits until what addLoadedPrinter() publishes has been reported, the last of it too.
     void waitUntilLoaded(const QString& printer)
     {
         QTRY_COMPARE_WITH_TIMEOUT(record(printer).softwareVersion, QStringLiteral("4.1.3,boot 1.7"),
-                                  20000);
+                                  patience);
         takeSignals();
     }
 

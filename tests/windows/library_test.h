@@ -3,6 +3,7 @@
 #pragma once
 
 #include "fixture.h"
+#include "patience.h"
 #include "pseudo_handle_checks.h"
 #include "registry_notifications.h"
 #include "report_recorder.h"
@@ -85,7 +86,7 @@ protected:
         m_thread->start();
     }
     /// Waits for a report and takes everything up to it.
-    bool waitFor(const Report& report, int milliseconds = 10000)
+    bool waitFor(const Report& report, int milliseconds = patience)
     {
         QList<Report> seen;
         const auto isSeen = [&] {

@@ -58,7 +58,7 @@ void ControllerOnWindowsTest::findsThePrintersOfEveryModel()
     QVERIFY(!record(watched.at(2)).ribbon2Visible);
     QVERIFY(record(watched.at(3)).ribbon2Visible);
     for (const QString& printer : std::as_const(watched))
-        QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, 1, 20000);
+        QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, 1, patience);
     QCOMPARE(m_controller->getPrinterTypeEnum(watched.at(2)), VXPrinting::PrinterType::CedarMax);
 }
 
@@ -86,7 +86,7 @@ void ControllerOnWindowsTest::takesUpAnOfflinePrinterLater()
     QCOMPARE(recordNames(), QStringList()); // nothing looks for printers on its own
     m_controller->checkForPrinters();
     QCOMPARE(recordNames(), QStringList{printer});
-    QTRY_VERIFY_WITH_TIMEOUT(m_signals.contains(statusChanged(1, printer)), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(m_signals.contains(statusChanged(1, printer)), patience);
 }
 
 void ControllerOnWindowsTest::tellsOfAPrinterThatGoesOffline()
@@ -98,7 +98,7 @@ void ControllerOnWindowsTest::tellsOfAPrinterThatGoesOffline()
 
     setAttributes(printer, offlinePrinter);
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("0")}));
-    QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, 257, 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, 257, patience);
     QVERIFY(!record(printer).printerOnline);
     // The only record there is stays the active printer.
     QCOMPARE(takeSignals(),
@@ -107,7 +107,7 @@ void ControllerOnWindowsTest::tellsOfAPrinterThatGoesOffline()
 
     setAttributes(printer, localPrinter);
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("1")}));
-    QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, 1, 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, 1, patience);
     QVERIFY(record(printer).printerOnline);
 }
 
@@ -128,7 +128,7 @@ void ControllerOnWindowsTest::worksWithTheDefaultPrinter()
 
     QVERIFY(SetDefaultPrinterW(WideText(first)));
     QVERIFY(publish(first, {"StatusCode", REG_SZ, text("4")}));
-    QTRY_COMPARE_WITH_TIMEOUT(m_controller->activeDefaultPrinter(), first, 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(m_controller->activeDefaultPrinter(), first, patience);
     QCOMPARE(takeSignals(),
              (QStringList{QStringLiteral("printerErrorChangedSignal(1)"),
                           QStringLiteral("activeDefaultPrinterSetSignal(%1, 1)").arg(first),
@@ -166,11 +166,11 @@ void ControllerOnWindowsTest::errorIsRaisedAndCleared()
     waitForStatus(printer, 1);
 
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("4")}));
-    QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, 4, 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, 4, patience);
     QCOMPARE(takeSignals(), (QStringList{QStringLiteral("printerErrorChangedSignal(1)"),
                                          statusChanged(4, printer), listUpdated}));
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("1")}));
-    QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, 1, 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, 1, patience);
     QCOMPARE(takeSignals(), (QStringList{QStringLiteral("printerErrorChangedSignal(0)"),
                                          statusChanged(1, printer), listUpdated}));
 }
@@ -199,7 +199,7 @@ void ControllerOnWindowsTest::commandArrivesAtThePrinter()
     host();
     m_controller->sendCommandToPrinter(QStringLiteral("FEED 3"), printer);
     QFile printed(port);
-    QTRY_VERIFY_WITH_TIMEOUT(printed.exists() && printed.size() == 8, 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(printed.exists() && printed.size() == 8, patience);
     QVERIFY(printed.open(QIODevice::ReadOnly));
     QCOMPARE(printed.readAll(), QByteArray("FEED 3\r\n"));
 }

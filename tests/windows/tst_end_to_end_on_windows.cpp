@@ -40,7 +40,7 @@ void EndToEndOnWindowsTest::newRibbonReachesHostAndOtherProcess()
 
     QVERIFY(publish(printer, {"Ribbon1Identifier", REG_DWORD, word(2006)}));
 
-    QTRY_COMPARE_WITH_TIMEOUT(record(printer).ribbon1ColorName, QStringLiteral("Green"), 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(record(printer).ribbon1ColorName, QStringLiteral("Green"), patience);
     QCOMPARE(takeSignals(),
              (QStringList{QStringLiteral("ribbonIdsChangedSignal(%1)").arg(printer), listUpdated}));
     const PrinterStatusInformation loaded = record(printer);
@@ -64,7 +64,7 @@ void EndToEndOnWindowsTest::newSupplyReachesHostAndOtherProcess()
 
     QVERIFY(publish(printer, {"SupplyIdentifier", REG_SZ, text("000000641000050000B1")}));
 
-    QTRY_COMPARE_WITH_TIMEOUT(record(printer).supplyColorName, QStringLiteral("Blue"), 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(record(printer).supplyColorName, QStringLiteral("Blue"), patience);
     QCOMPARE(takeSignals(),
              (QStringList{QStringLiteral("supplyIdChangedSignal(%1)").arg(printer), listUpdated}));
     QCOMPARE(askSupplies("supplySKUCached", {printer}).toString(), QStringLiteral("VT-400-BL"));

@@ -270,7 +270,7 @@ void LibraryOnWindowsTest::firstReadReportsEverything()
 
     watch(printer);
     QList<Report> reports;
-    QTRY_VERIFY_WITH_TIMEOUT((reports += m_reports->take()).size() >= 9, 10000);
+    QTRY_VERIFY_WITH_TIMEOUT((reports += m_reports->take()).size() >= 9, patience);
     const auto report = [&](const char* signal, const char* value) {
         return Report{QString::fromLatin1(signal), printer, {QString::fromLatin1(value)}};
     };

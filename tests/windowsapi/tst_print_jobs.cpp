@@ -3,6 +3,7 @@
 // Documents, their pages and the bytes that are sent to a printer.
 
 #include "fixture.h"
+#include "patience.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>

@@ -43,6 +43,7 @@ Verbs:
 Options:
   --json                 JSON instead of text for people: an array, or an object a line
   --for SECONDS          watch: end after so many seconds; without it, watch until interrupted
+  --log FILE             write what the library logs to the end of FILE
   --virtual FILE         run on the virtual printers that FILE describes
   --speed FACTOR         watch: let the virtual printers' story pass FACTOR times as fast
   --help                 this text
@@ -102,9 +103,10 @@ std::variant<CommandLine, WrongUsage, Answer> parseCommandLine(const QStringList
     const QCommandLineOption version(QStringLiteral("version"));
     const QCommandLineOption json(QStringLiteral("json"));
     const QCommandLineOption forSeconds(QStringLiteral("for"), {}, QStringLiteral("SECONDS"));
+    const QCommandLineOption log(QStringLiteral("log"), {}, QStringLiteral("FILE"));
     const QCommandLineOption fleet(QStringLiteral("virtual"), {}, QStringLiteral("FILE"));
     const QCommandLineOption speed(QStringLiteral("speed"), {}, QStringLiteral("FACTOR"));
-    parser.addOptions({help, version, json, forSeconds, fleet, speed});
+    parser.addOptions({help, version, json, forSeconds, log, fleet, speed});
     if (!parser.parse(withCodeLast(arguments))) {
         const QString error = parser.errorText();
         return wrong(error.endsWith(QLatin1Char('.')) ? error.chopped(1) : error);
@@ -144,9 +146,13 @@ std::variant<CommandLine, WrongUsage, Answer> parseCommandLine(const QStringList
                     .arg(words.first()));
     }
     line.json = parser.isSet(json);
+    line.logFile = parser.value(log);
     line.fleetFile = parser.value(fleet);
-    if (parser.isSet(fleet) && line.fleetFile.isEmpty())
-        return wrong(QStringLiteral("--virtual: expected a file's name"));
+    for (const QCommandLineOption* option : {&log, &fleet}) {
+        if (parser.isSet(*option) && parser.value(*option).isEmpty())
+            return wrong(
+                QStringLiteral("--%1: expected a file's name").arg(option->names().constFirst()));
+    }
     for (const QCommandLineOption* option : {&forSeconds, &speed}) {
         if (!parser.isSet(*option))
             continue;

@@ -22,6 +22,7 @@ struct CommandLine
     Verb verb = Verb::List;
     QStringList words; ///< what follows the verb, as many as it takes
     bool json = false;
+    QString logFile;               ///< what the library's log goes into; empty: nothing
     QString fleetFile;             ///< empty: the built-in fleet, or the system's own printers
     std::optional<double> seconds; ///< how long to watch; without it, until interrupted
     double speed = 1;              ///< of the fleet's story

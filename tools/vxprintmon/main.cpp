@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 #include "commands.h"
+#include "library_log.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLocale>
@@ -39,6 +40,8 @@ int run(StandardOutput& standardOutput)
     }
 
     const auto& line = std::get<CommandLine>(parsed);
+    if (const QString wrong = keepLibraryLog(line.logFile); !wrong.isEmpty())
+        return fail(wrong, 1);
     const auto made = Scene::make(line);
     if (const auto* failure = std::get_if<Scene::Failure>(&made))
         return fail(failure->text, failure->exitStatus);

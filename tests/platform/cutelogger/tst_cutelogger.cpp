@@ -1,16 +1,23 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// The stand-in for CuteLogger.
+//
+// What the product relies on in CuteLogger, be it an installed one or the stand-in for it.
+#include "patience.h"
+#include "start_process.h"
+
 #include <ConsoleAppender.h>
 #include <FileAppender.h>
 #include <Logger.h>
+#include <cute_logger.h>
 
 #include <QtCore/QDateTime>
 #include <QtCore/QFile>
+#include <QtCore/QProcess>
 #include <QtCore/QScopeGuard>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
+#include <cstdio>
 #include <thread>
 #include <vector>
 
@@ -46,6 +53,81 @@ protected:
     }
 };
 
+void record(Logger::LogLevel level, const char* category, const QString& message)
+{
+    VX_GLOBAL_LOGGER()->write(level, "file", 12, "void function()", category, message);
+}
+
+/// What a process of its own does: its standard error is what is looked at, or it ends badly.
+struct Scenario
+{
+    const char* name;
+    void (*run)();
+};
+constexpr Scenario scenarios[]{
+    {"nobody registered an appender",
+     [] {
+         record(Logger::Debug, nullptr, QStringLiteral("first"));
+         record(Logger::Debug, nullptr, QStringLiteral("second"));
+     }},
+    {"an appender above the level",
+     [] {
+         auto* console = new ConsoleAppender;
+         console->setDetailsLevel(Logger::Warning);
+         Logger::globalInstance()->registerAppender(console);
+         record(Logger::Debug, nullptr, QStringLiteral("a detail"));
+         record(Logger::Warning, nullptr, QStringLiteral("a warning"));
+     }},
+    {"a category without an appender",
+     [] {
+         Logger::globalInstance()->registerAppender(new Recorder);
+         record(Logger::Debug, "network", QStringLiteral("first"));
+         record(Logger::Debug, "network", QStringLiteral("second"));
+     }},
+    {"Qt's messages",
+     [] {
+         auto* recorder = new Recorder;
+         Logger::globalInstance()->registerAppender(recorder);
+         qWarning("of Qt's");
+         std::fprintf(stderr, "%d records\n", int(recorder->records.size()));
+     }},
+    {"a fatal record",
+     [] {
+         record(Logger::Fatal, nullptr, QStringLiteral("the last words"));
+         std::fputs("went on\n", stderr);
+     }},
+    {"after the application",
+     [] {
+         {
+             int argc = 1;
+             char name[] = "tst_cutelogger";
+             char* argv[] = {name, nullptr};
+             const QCoreApplication application(argc, argv);
+             auto* console = new ConsoleAppender;
+             console->setDetailsLevel(Logger::Error);
+             Logger::globalInstance()->registerAppender(console);
+             record(Logger::Debug, nullptr, QStringLiteral("in time"));
+         }
+         record(Logger::Debug, nullptr, QStringLiteral("too late"));
+     }},
+};
+
+struct Ending
+{
+    bool isNormal = false;
+    QByteArray errors;
+};
+
+Ending endingOf(const char* scenario)
+{
+    QProcess process;
+    startProcess(process, QCoreApplication::applicationFilePath(), {QString::fromLatin1(scenario)});
+    if (!process.waitForFinished(patience))
+        qWarning("%s: %s", scenario, qPrintable(process.errorString()));
+    return {process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
+            process.readAllStandardError().replace("\r\n", "\n")};
+}
+
 } // namespace
 
 class CuteLoggerTest : public QObject
@@ -55,7 +137,9 @@ class CuteLoggerTest : public QObject
 private Q_SLOTS:
     void globalLoggerHasTwoNames();
     void threeFormsOfAMessage();
-    void categoryAndPlaceArePassedOn();
+    void placeIsPassedOn();
+    void categoriesHaveTheirAppenders();
+    void linkedCategoriesReachAllAppenders();
     void levels_data();
     void levels();
     void levelNames();
@@ -65,6 +149,12 @@ private Q_SLOTS:
     void recordsOfManyThreads();
     void fileAppender();
     void fileAppenderWithoutAFile();
+    void recordsWithoutAnAppenderGoToStandardError();
+    void recordsBelowTheLevelGoNowhere();
+    void categoriesWithoutAnAppenderGoToStandardError();
+    void messagesOfQtAreRecords();
+    void fatalRecordsEndTheProcess();
+    void appendersEndWithTheApplication();
 
 private:
     static CuteMessageLogger at(Logger& logger, Logger::LogLevel level = Logger::Debug)
@@ -75,8 +165,12 @@ private:
 
 void CuteLoggerTest::globalLoggerHasTwoNames()
 {
-    QVERIFY(loggerInstance());
+    QVERIFY(VX_GLOBAL_LOGGER());
+    QCOMPARE(VX_GLOBAL_LOGGER(), Logger::globalInstance());
+#ifdef VX_STAND_IN
     QCOMPARE(loggerInstance(), Logger::globalInstance());
+    QCOMPARE(cuteLoggerInstance(), Logger::globalInstance());
+#endif
 }
 
 void CuteLoggerTest::threeFormsOfAMessage()
@@ -95,23 +189,58 @@ void CuteLoggerTest::threeFormsOfAMessage()
                           QStringLiteral("streamed 7 \"quoted\" ")}));
 }
 
-void CuteLoggerTest::categoryAndPlaceArePassedOn()
+void CuteLoggerTest::placeIsPassedOn()
 {
     Logger logger;
     auto* recorder = new Recorder;
     logger.registerAppender(recorder);
     at(logger, Logger::Warning).write(QStringLiteral("message"));
+    QCOMPARE(recorder->records, (QList<Record>{{Logger::Warning,
+                                                QStringLiteral("file"),
+                                                12,
+                                                QStringLiteral("void function()"),
+                                                {},
+                                                QStringLiteral("message")}}));
+}
+
+void CuteLoggerTest::categoriesHaveTheirAppenders()
+{
+    Logger logger;
+    auto* all = new Recorder;
+    auto* network = new Recorder;
+    logger.registerAppender(all);
+    logger.registerCategoryAppender(QStringLiteral("network"), network);
     CuteMessageLogger(&logger, Logger::Error, "other", 3, "f", "network").write("%s", "text");
-    QCOMPARE(recorder->records, (QList<Record>{
-                                    {Logger::Warning,
-                                     QStringLiteral("file"),
-                                     12,
-                                     QStringLiteral("void function()"),
-                                     {},
-                                     QStringLiteral("message")},
-                                    {Logger::Error, QStringLiteral("other"), 3, QStringLiteral("f"),
-                                     QStringLiteral("network"), QStringLiteral("text")},
-                                }));
+    CuteMessageLogger(&logger, Logger::Error, "other", 4, "f", "disk").write("%s", "text");
+    QCOMPARE(all->records, QList<Record>{});
+    QCOMPARE(network->records,
+             (QList<Record>{{Logger::Error, QStringLiteral("other"), 3, QStringLiteral("f"),
+                             QStringLiteral("network"), QStringLiteral("text")}}));
+    logger.removeAppender(network);
+    CuteMessageLogger(&logger, Logger::Error, "other", 5, "f", "network").write("%s", "text");
+    QCOMPARE(network->records.size(), 1);
+    delete network;
+}
+
+void CuteLoggerTest::linkedCategoriesReachAllAppenders()
+{
+    Logger* const global = Logger::globalInstance();
+    Recorder recorder;
+    global->registerAppender(&recorder);
+    const auto remove = qScopeGuard([&] {
+        global->logToGlobalInstance(QStringLiteral("linked"), false);
+        global->removeAppender(&recorder);
+    });
+    global->logToGlobalInstance(QStringLiteral("linked"), true);
+    record(Logger::Info, "linked", QStringLiteral("global"));
+    Logger local;
+    local.write(Logger::Info, "file", 1, "f", "linked", QStringLiteral("local"));
+    global->logToGlobalInstance(QStringLiteral("linked"), false);
+    record(Logger::Info, "linked", QStringLiteral("no more"));
+    QStringList messages;
+    for (const Record& each : std::as_const(recorder.records))
+        messages.append(each.message);
+    QCOMPARE(messages, (QStringList{QStringLiteral("global"), QStringLiteral("local")}));
 }
 
 void CuteLoggerTest::levels_data()
@@ -128,14 +257,14 @@ void CuteLoggerTest::levels()
 {
     QFETCH(const int, details);
     QFETCH(const int, records);
-    Logger logger;
-    auto* recorder = new Recorder;
-    QCOMPARE(recorder->detailsLevel(), Logger::Debug);
-    recorder->setDetailsLevel(static_cast<Logger::LogLevel>(details));
-    logger.registerAppender(recorder);
+    Recorder recorder;
+    AbstractAppender& appender = recorder;
+    QCOMPARE(appender.detailsLevel(), Logger::Debug);
+    appender.setDetailsLevel(static_cast<Logger::LogLevel>(details));
     for (int level = Logger::Trace; level <= Logger::Fatal; ++level)
-        at(logger, static_cast<Logger::LogLevel>(level)).write(QStringLiteral("message"));
-    QCOMPARE(recorder->records.size(), records);
+        appender.write(QDateTime::currentDateTime(), static_cast<Logger::LogLevel>(level), "file",
+                       12, "f", QString(), QStringLiteral("message"));
+    QCOMPARE(recorder.records.size(), records);
 }
 
 void CuteLoggerTest::levelNames()
@@ -222,8 +351,8 @@ void CuteLoggerTest::fileAppender()
     QCOMPARE(appender->fileName(), name);
     logger.registerAppender(appender);
     at(logger, Logger::Info).write(QStringLiteral("ein Überblick"));
-    QVERIFY2(lines().endsWith(QStringLiteral(" Info    <file:12 void function()> ein Überblick\n")),
-             qPrintable(lines()));
+    QVERIFY2(lines().endsWith(QStringLiteral("> ein Überblick\n")), qPrintable(lines()));
+    QVERIFY2(lines().contains(QStringLiteral("Info ")), qPrintable(lines()));
     at(logger).write(QStringLiteral("second"));
     QCOMPARE(lines().count(QLatin1Char('\n')), 2);
     appender->setFileName(folder.filePath(QStringLiteral("other")));
@@ -243,5 +372,69 @@ void CuteLoggerTest::fileAppenderWithoutAFile()
     QCOMPARE(recorder->records.size(), 1);
 }
 
-QTEST_GUILESS_MAIN(CuteLoggerTest)
+void CuteLoggerTest::recordsWithoutAnAppenderGoToStandardError()
+{
+    const Ending ending = endingOf("nobody registered an appender");
+    QVERIFY(ending.isNormal);
+    const QList<QByteArray> lines = ending.errors.trimmed().split('\n');
+    QVERIFY2(lines.size() == 3, ending.errors.constData());
+    QVERIFY2(lines.at(0).contains("ppender"), ending.errors.constData());
+    QVERIFY2(lines.at(1).contains("first"), ending.errors.constData());
+    QVERIFY2(lines.at(2).contains("second"), ending.errors.constData());
+}
+
+void CuteLoggerTest::recordsBelowTheLevelGoNowhere()
+{
+    const Ending ending = endingOf("an appender above the level");
+    QVERIFY(ending.isNormal);
+    QCOMPARE(ending.errors.count('\n'), 1);
+    QVERIFY2(ending.errors.contains("a warning"), ending.errors.constData());
+}
+
+void CuteLoggerTest::categoriesWithoutAnAppenderGoToStandardError()
+{
+    const Ending ending = endingOf("a category without an appender");
+    QVERIFY(ending.isNormal);
+    const QList<QByteArray> lines = ending.errors.trimmed().split('\n');
+    QVERIFY2(lines.size() == 3, ending.errors.constData());
+    QVERIFY2(lines.at(0).contains("network"), ending.errors.constData());
+    QVERIFY2(lines.at(1).contains("first"), ending.errors.constData());
+    QVERIFY2(lines.at(2).contains("second"), ending.errors.constData());
+}
+
+void CuteLoggerTest::messagesOfQtAreRecords()
+{
+    const Ending ending = endingOf("Qt's messages");
+    QVERIFY(ending.isNormal);
+    QCOMPARE(ending.errors, QByteArray("1 records\n"));
+}
+
+void CuteLoggerTest::fatalRecordsEndTheProcess()
+{
+    const Ending ending = endingOf("a fatal record");
+    QVERIFY(!ending.isNormal);
+    QVERIFY2(ending.errors.contains("the last words"), ending.errors.constData());
+    QVERIFY2(!ending.errors.contains("went on"), ending.errors.constData());
+}
+
+void CuteLoggerTest::appendersEndWithTheApplication()
+{
+    const Ending ending = endingOf("after the application");
+    QVERIFY(ending.isNormal);
+    QVERIFY2(!ending.errors.contains("in time"), ending.errors.constData());
+    QVERIFY2(ending.errors.contains("too late"), ending.errors.constData());
+}
+
+int main(int argc, char* argv[])
+{
+    for (const Scenario& scenario : scenarios) {
+        if (argc == 2 && qstrcmp(argv[1], scenario.name) == 0) {
+            scenario.run();
+            return 0;
+        }
+    }
+    QCoreApplication application(argc, argv);
+    CuteLoggerTest test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_cutelogger.moc"

@@ -41,7 +41,7 @@ def run(arguments, folder, **environment):
     out_path, error_path = folder / "out.txt", folder / "err.txt"
     with open(out_path, "wb") as out, open(error_path, "wb") as error:
         status = subprocess.run(arguments, stdin=subprocess.DEVNULL, stdout=out, stderr=error,
-                                env={**os.environ, **environment}, timeout=50, check=False).returncode
+                                env={**os.environ, **environment}, check=False).returncode
     output, errors = (path.read_text(encoding="utf-8", errors="replace")
                       for path in (out_path, error_path))
     shown = " ".join(map(str, arguments))

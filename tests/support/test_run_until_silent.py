@@ -1,0 +1,102 @@
+# SPDX-License-Identifier: MIT
+# Copyright The VxPrinterStatus authors
+"""Holds what runs the tests to what it promises. Usage: test_run_until_silent.py RUNNER"""
+import os
+import select
+import signal
+import subprocess
+import sys
+import unittest
+
+RUNNER = sys.argv.pop(1)
+FAR = "3600"
+
+
+def run(program, *, idle=FAR, work=FAR):
+    """Runs a Python program under the runner."""
+    return subprocess.run(
+        [RUNNER, "--idle", idle, "--work", work, sys.executable, "-c", program],
+        stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+
+
+def runs(process_id):
+    try:
+        os.kill(process_id, 0)
+    except ProcessLookupError:
+        return False
+    # One that has ended and that nobody has asked about is there by name only.
+    with open(f"/proc/{process_id}/stat", encoding="utf-8") as file:
+        return file.read().rpartition(")")[2].split()[0] != "Z"
+
+
+class RunUntilSilent(unittest.TestCase):
+    def test_passes_output_and_status_on(self):
+        done = run("import sys; print('out', flush=True); print('err', file=sys.stderr); sys.exit(7)")
+        self.assertEqual((done.stdout, done.returncode), ("out\nerr\n", 7))
+
+    def test_ends_as_the_test_ended(self):
+        done = run("import os; print('before', flush=True); os.abort()")
+        self.assertEqual((done.stdout, done.returncode), ("before\n", -signal.SIGABRT))
+        self.assertEqual(run("import os; os.kill(os.getpid(), 9)").returncode, -signal.SIGKILL)
+
+    def test_ends_what_waits_for_ever(self):
+        done = run("import time; print('before', flush=True); time.sleep(3600)", idle="1")
+        self.assertEqual(done.returncode, 1)
+        self.assertRegex(done.stdout, "^before\n.*said nothing and did nothing for 1 s and was ended")
+
+    def test_ends_what_turns_in_circles(self):
+        done = run("while True: pass", work="1")
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("said nothing in 1 s of processor time and was ended", done.stdout)
+
+    def test_ends_what_waits_without_heeding_a_request(self):
+        done = run("import signal, time; signal.signal(signal.SIGTERM, signal.SIG_IGN)\n"
+                   "time.sleep(3600)", idle="1")
+        self.assertEqual(done.returncode, 1)
+
+    def test_leaves_what_speaks_alone(self):
+        done = run("import time\nfor i in range(15): print(i, flush=True); time.sleep(0.2)", idle="2")
+        self.assertEqual((done.returncode, len(done.stdout.split())), (0, 15))
+
+    def test_leaves_what_works_alone(self):
+        # In a process of its own, as a compiler is one of the build's.
+        work = "import time\nwhile time.process_time() < 3: pass"
+        done = run(f"import subprocess, sys; subprocess.run([sys.executable, '-c', {work!r}])\n"
+                   "print('done')", idle="2")
+        self.assertEqual((done.stdout, done.returncode), ("done\n", 0))
+
+    def test_counts_the_work_since_the_last_word_only(self):
+        done = run("import time\nfor i in range(8):\n"
+                   "    end = time.process_time() + 0.5\n"
+                   "    while time.process_time() < end: pass\n"
+                   "    print(i, flush=True)", work="3")
+        self.assertEqual((done.returncode, len(done.stdout.split())), (0, 8))
+
+    def test_does_not_wait_for_what_the_test_left_running(self):
+        sleeper = "import time; time.sleep(3600)"
+        done = run("import subprocess, sys\n"
+                   f"print(subprocess.Popen([sys.executable, '-c', {sleeper!r}]).pid)")
+        self.assertEqual(done.returncode, 0)
+        self.assertFalse(runs(int(done.stdout)))
+
+    def test_takes_the_test_with_it(self):
+        for number in (signal.SIGTERM, signal.SIGKILL):
+            with subprocess.Popen(
+                    [RUNNER, sys.executable, "-c",
+                     "import os, time; print(os.getpid(), flush=True); time.sleep(3600)"],
+                    stdout=subprocess.PIPE, text=True) as runner:
+                test = os.pidfd_open(int(runner.stdout.readline()))
+                runner.send_signal(number)
+                # Waits for ever if the test goes on, which ends this one.
+                select.select([test], [], [])
+                os.close(test)
+
+    def test_says_what_cannot_be_started(self):
+        done = subprocess.run([RUNNER, "no/such/program"], stdout=subprocess.PIPE,
+                              stderr=subprocess.STDOUT, text=True)
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("cannot start no/such/program: No such file or directory", done.stdout)
+
+
+if __name__ == "__main__":
+    unittest.main()
