@@ -86,7 +86,7 @@ void ShownTextTest::everyCharacterOfTheseKindsBecomesAMark()
                               kind == QChar::Other_Surrogate || kind == QChar::Separator_Line ||
                               kind == QChar::Separator_Paragraph ||
                               QChar::isNonCharacter(character);
-        const QString text = QString::fromUcs4(&character, 1);
+        const QString text = QStringView(QChar::fromUcs4(character)).toString();
         if ((shown(text) != text) != isMarked)
             QFAIL(qPrintable(QStringLiteral("U+%1 becomes \"%2\"")
                                  .arg(uint(character), 4, 16, QLatin1Char('0'))
