@@ -307,20 +307,25 @@ QByteArray longestLine(const QByteArray& begin, const QByteArray& filler, const 
 /// What is refused, at the bound of what is read.
 std::vector<Request> refusedRequests()
 {
+    using namespace JsonRpc;
     const auto fixed = [](const char* name, const QByteArray& line, int errorCode) {
         return Request{name, [line] { return line; }, errorCode};
+    };
+    // So that as many values as are read fill the line.
+    const auto padded = [](const QByteArray& filler) {
+        return filler.leftJustified(2 * MaximumLine / MaximumLineValues + 1);
     };
     const QByteArray call = R"({"jsonrpc":"2.0","id":1,"method":")";
     const QByteArray ask = call + R"(getPrinterStatus","params":)";
     const QByteArray set = call + R"(setRibbonIds","params":[[")";
-    using namespace JsonRpc;
     return {
         fixed("text of a mebibyte", longestLine(ask + "[\"", "x", "\"]}"), InvalidParams),
         fixed("text of a mebibyte of escapes", longestLine(ask + "[\"", "\\u0001", "\"]}"),
               InvalidParams),
-        fixed("list of texts", longestLine(set, "\",\"", "\"],\"-\"]}"), InvalidParams),
-        fixed("list of lists", longestLine(set + "\"", ",[]", "],\"-\"]}"), InvalidParams),
-        fixed("many arguments", longestLine(ask + "[1", ",1", "]}"), InvalidParams),
+        fixed("list of texts", longestLine(set, padded("\",\""), "\"],\"-\"]}"), InvalidParams),
+        fixed("list of lists", longestLine(set + "\"", padded(",[]"), "],\"-\"]}"), InvalidParams),
+        fixed("many arguments", longestLine(ask + "[1", padded(",1"), "]}"), InvalidParams),
+        fixed("more values than are read", longestLine(ask + "[1", ",1", "]}"), InvalidRequest),
         fixed("long name of an argument", longestLine(ask + "{\"", "n", "\":1}}"), InvalidParams),
         fixed("long name of a method", longestLine(call, "m", "\"}"), MethodNotFound),
         fixed("long id",

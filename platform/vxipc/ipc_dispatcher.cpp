@@ -49,6 +49,26 @@ QString defectOf(const Request& request)
     return {};
 }
 
+/// Whether there are more values in `line` than are read, those in others included. Of a line that
+/// is no JSON the answer may be either.
+bool hasTooManyValues(QByteArrayView line)
+{
+    if (line.size() <= JsonRpc::MaximumLineValues)
+        return false;
+    qsizetype values = 1;
+    bool isInText = false;
+    for (qsizetype i = 0; i < line.size(); ++i) {
+        const char character = line[i];
+        if (isInText && character == '\\')
+            ++i; // the next one is part of the text, even a quotation mark
+        else if (character == '"')
+            isInText = !isInText;
+        else if (!isInText && (character == ',' || character == '[' || character == '{'))
+            ++values;
+    }
+    return values > JsonRpc::MaximumLineValues;
+}
+
 QByteArray invalidRequest(const QJsonValue& id, const QString& defect)
 {
     return JsonRpc::failure(
@@ -74,10 +94,16 @@ IpcDispatcher::~IpcDispatcher()
 
 IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
 {
+    Message message;
+    if (hasTooManyValues(line)) {
+        message.failure = invalidRequest(
+            QJsonValue::Null,
+            QStringLiteral("the line holds more than %1 values").arg(JsonRpc::MaximumLineValues));
+        return message;
+    }
     QJsonParseError error;
     const QJsonDocument document =
         QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), line.size()), &error);
-    Message message;
     if (error.error != QJsonParseError::NoError) {
         message.failure =
             JsonRpc::failure(QJsonValue::Null, {JsonRpc::ParseError,

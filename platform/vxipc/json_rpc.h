@@ -27,6 +27,8 @@ enum ErrorCode : int
 };
 
 inline constexpr qsizetype MaximumLine = qsizetype{1} << 20;
+/// Small values take up to 40 times as much memory as their line does.
+inline constexpr qsizetype MaximumLineValues = 65536;
 inline constexpr qsizetype MaximumClients = 64;
 inline constexpr qsizetype MaximumAnswers = qsizetype{4} << 20;
 /// What an argument may hold, so that no call takes the endpoint's thread for long: characters of a
