@@ -9,7 +9,9 @@ import os
 import re
 import subprocess
 import sys
+import tempfile
 import unittest
+import unittest.mock
 
 from own_folder import setUpModule  # called by unittest
 
@@ -21,7 +23,7 @@ def documented_client():
     with open(DOCUMENT, encoding="utf-8") as document:
         code = re.search(r"```python\n(.*?)```", document.read(), re.DOTALL).group(1)
     lines = [line for line in code.splitlines() if line]
-    assert len(lines) <= 10, "the document promises ten lines"
+    assert len(lines) <= 20, "the document promises twenty lines"
     names = {}
     exec(compile(code, DOCUMENT, "exec"), names)
     return names["endpoint"], names["call"]
@@ -34,8 +36,9 @@ class PythonClient(unittest.TestCase):
             [HOST, str(service)], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
         self.name = self.host.stdout.readline().strip()
         self.assertEqual(self.name, f"vxipc-{service}")
-        endpoint, self.documented_call = documented_client()
-        self.stream = endpoint(service)
+        self.service = service
+        self.endpoint, self.documented_call = documented_client()
+        self.stream = self.endpoint(service)
 
     def tearDown(self):
         self.stream.close()
@@ -83,6 +86,37 @@ class PythonClient(unittest.TestCase):
         self.stream.write(b"garbage\n")
         self.assertEqual(json.loads(self.stream.readline())["error"]["code"], -32700)
         self.assertEqual(self.call("scale", 1)["result"], 10)
+
+    def test_refuses_what_others_may_have_put_there(self):
+        folder = os.environ["XDG_RUNTIME_DIR"]
+        for path, mode, restored in [
+                (folder, 0o703, 0o700), (folder, 0o730, 0o700),
+                (f"{folder}/{self.name}", 0o602, 0o600), (f"{folder}/{self.name}", 0o620, 0o600)]:
+            with self.subTest(path=path, mode=mode):
+                os.chmod(path, mode)
+                with self.assertRaises(PermissionError):
+                    self.endpoint(self.service)
+                os.chmod(path, restored)
+        if os.geteuid() == 0:
+            for path in (folder, f"{folder}/{self.name}"):
+                with self.subTest(path=path):
+                    os.chown(path, 65534, 65534)
+                    with self.assertRaises(PermissionError):
+                        self.endpoint(self.service)
+                    os.chown(path, 0, 0)
+        self.endpoint(self.service).close()
+
+    def test_ignores_a_relative_folder(self):
+        with tempfile.TemporaryDirectory() as temporary:
+            environment = {**os.environ, "XDG_RUNTIME_DIR": "relative", "TMPDIR": temporary}
+            with subprocess.Popen([HOST, str(self.service)], stdin=subprocess.PIPE,
+                                  stdout=subprocess.PIPE, text=True, env=environment) as host:
+                self.assertEqual(host.stdout.readline().strip(), self.name)
+                with unittest.mock.patch.dict(os.environ, environment):
+                    stream = self.endpoint(self.service)
+                self.assertEqual(self.documented_call(stream, "scale", 1)["result"], 10)
+                stream.close()
+                host.stdin.close()
 
 
 if __name__ == "__main__":

@@ -97,6 +97,14 @@ class Tool(unittest.TestCase):
         self.check_complaint(["call", nobody, "echo", "a"], 1, "no endpoint answers")
         self.check_complaint(["describe", nobody], 1, "no endpoint answers")
 
+    def test_believes_no_folder_that_others_write_to(self):
+        folder = os.environ["XDG_RUNTIME_DIR"]
+        os.chmod(folder, 0o703)
+        self.addCleanup(os.chmod, folder, 0o700)
+        for arguments in (["list"], ["describe", self.service], ["call", self.service, "notes"]):
+            with self.subTest(arguments):
+                self.check_complaint(arguments, 1, "other users may write to it")
+
     def test_refuses_wrong_usage(self):
         for arguments in [[], ["nothing"], ["list", "x"], ["describe"], ["describe", "1", "2"],
                           ["call"], ["call", "supplyd"], ["call", "nosuch", "echo"],
