@@ -27,7 +27,9 @@ set(VX_TEST_ENVIRONMENT QT_QPA_PLATFORM=offscreen QT_FORCE_STDERR_LOGGING=1
 #
 # A test that is a program of the machine that the tests run on: a script, or CMake.
 function(vx_add_script_test name)
-    add_test(NAME ${name} COMMAND ${VX_RUN_TEST} ${ARGN})
+    # Not ARGN, which takes an argument that is a list for several.
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "" "${name}")
+    add_test(NAME ${name} COMMAND ${VX_RUN_TEST} ${arg_${name}})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${VX_TEST_LIMIT} ENVIRONMENT "${VX_TEST_ENVIRONMENT}")
 endfunction()
