@@ -331,7 +331,7 @@ std::vector<Request> refusedRequests()
         fixed("long id",
               longestLine(R"({"jsonrpc":"2.0","method":"getError","id":")", "\\u0001", "\"}"),
               InvalidRequest),
-        fixed("a line that ends nowhere in JSON", longestLine("", "[", ""), ParseError),
+        fixed("a text that does not end", longestLine("[\"", "x", ""), ParseError),
         fixed("a line of blanks and a bracket", longestLine("", " ", "["), ParseError),
     };
 }
