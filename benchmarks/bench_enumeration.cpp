@@ -48,8 +48,6 @@ constexpr double growthLimit = 1.3;
 constexpr QLatin1String companyName("Harlow Devices Inc");
 constexpr QLatin1String applicationName("Quillmark");
 
-constexpr QLatin1String classGuid("{4d36e979-e325-11ce-bfc1-08002be10318}");
-
 void populateMachine(int count)
 {
     Machine& machine = Machine::instance();
@@ -58,17 +56,9 @@ void populateMachine(int count)
         virtualwindows::PrinterSetup printer;
         printer.name = QStringLiteral("Label printer %1").arg(number);
         printer.driver = QStringLiteral("Stratamark BirchMax");
-        printer.port = QStringLiteral("USB%1").arg(number, 3, 10, QLatin1Char('0'));
+        printer.port = by_hand::portName(number);
         machine.addPrinter(printer);
-
-        const QString serialNumber = QStringLiteral("BM%1").arg(number, 8, 10, QLatin1Char('0'));
-        virtualwindows::DeviceSetup device;
-        device.classGuid = classGuid;
-        device.interfaceKey =
-            QStringLiteral("##?#USB#VID_3E7A&PID_0102#%1#%2").arg(serialNumber, QString(classGuid));
-        device.portNumber = number;
-        device.serialNumber = serialNumber;
-        machine.addDevice(device);
+        machine.addDevice(by_hand::deviceOnPort(number));
     }
 }
 

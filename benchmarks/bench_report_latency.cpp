@@ -137,7 +137,7 @@ private:
     {
         m_floor = std::make_unique<by_hand::WatchingThread>(
             floorPrinter, QList<QByteArray>{"Mileage"}, m_host,
-            [this](const QString& printer, const QString& value) {
+            [this](const QByteArray&, const QString& printer, const QString& value) {
                 m_host.receive(printer, value);
             });
         m_floor->start();

@@ -2,8 +2,6 @@
 // Copyright The VxPrinterStatus authors
 #include "by_hand.h"
 
-#include <virtualwindows/machine.h>
-
 #include <QtCore/QDateTime>
 #include <QtCore/QSettings>
 
@@ -21,9 +19,27 @@
 namespace {
 constexpr QLatin1String
     classesKey("HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control\\DeviceClasses\\");
+constexpr QLatin1String classGuid("{4d36e979-e325-11ce-bfc1-08002be10318}");
 } // namespace
 
 namespace by_hand {
+
+virtualwindows::DeviceSetup deviceOnPort(int number)
+{
+    const QString serialNumber = QStringLiteral("BM%1").arg(number, 8, 10, QLatin1Char('0'));
+    virtualwindows::DeviceSetup device;
+    device.classGuid = classGuid;
+    device.interfaceKey =
+        QStringLiteral("##?#USB#VID_3E7A&PID_0102#%1#%2").arg(serialNumber, QString(classGuid));
+    device.portNumber = number;
+    device.serialNumber = serialNumber;
+    return device;
+}
+
+QString portName(int number)
+{
+    return QStringLiteral("USB%1").arg(number, 3, 10, QLatin1Char('0'));
+}
 
 WatchingThread::WatchingThread(const QString& printerName, const QList<QByteArray>& valueNames,
                                QObject& host, Receive receive)
@@ -115,7 +131,8 @@ void WatchingThread::report(const ValueRead& read, const Reading& reading)
         value = QString::number(number);
     }
     QMetaObject::invokeMethod(
-        &m_host, [this, value] { m_receive(m_printerName, value); }, Qt::QueuedConnection);
+        &m_host, [this, name = read.name, value] { m_receive(name, m_printerName, value); },
+        Qt::QueuedConnection);
 }
 
 Devices readDevices()

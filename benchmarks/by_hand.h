@@ -5,6 +5,7 @@
 // needs nothing but the answer.
 #pragma once
 
+#include <virtualwindows/machine.h>
 #include <windows_printer_info.h>
 
 #include <QtCore/QHash>
@@ -19,6 +20,11 @@
 #include <winspool.h>
 
 namespace by_hand {
+
+/// A device of the maker's on the port of that number, with a serial number of its own.
+virtualwindows::DeviceSetup deviceOnPort(int number);
+/// The name of the port of that number.
+QString portName(int number);
 
 struct ValueRead
 {
@@ -48,9 +54,10 @@ inline constexpr std::array<ValueRead, 11> valueReads{{
 class WatchingThread final : public QThread
 {
 public:
-    /// `receive` is called in a queued call to `host`, with the printer and the value as text, for
-    /// each of the values that are named.
-    using Receive = std::function<void(const QString& printer, const QString& value)>;
+    /// `receive` is called in a queued call to `host`, with the value's name, the printer and the
+    /// value as text, for each of the values that are named.
+    using Receive = std::function<void(const QByteArray& valueName, const QString& printer,
+                                       const QString& value)>;
     WatchingThread(const QString& printerName, const QList<QByteArray>& valueNames, QObject& host,
                    Receive receive);
     ~WatchingThread() override;

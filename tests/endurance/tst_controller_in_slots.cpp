@@ -27,6 +27,8 @@ const LabelPrinter alderMax{QStringLiteral("AlderMax at the door"), PrinterType:
 const LabelPrinter birchMax{QStringLiteral("BirchMax, new"), PrinterType::BirchMax};
 const LabelPrinter cedarMax{QStringLiteral("CedarMax, new"), PrinterType::CedarMax};
 const LabelPrinter laser{QStringLiteral("Laser"), PrinterType::Unknown};
+/// Listed last, so that the controller still has to look at it when the slots are done.
+const LabelPrinter plotter{QStringLiteral("Plotter"), PrinterType::Unknown};
 
 constexpr int firstMoment = 0;
 constexpr int momentInSlot = 8; ///< in error
@@ -236,6 +238,7 @@ void ControllerInSlotsTest::errorEnds()
 void ControllerInSlotsTest::ignoredPrinterIsFound()
 {
     addPrinter(laser);
+    addPrinter(plotter);
     m_controller->checkForPrinters();
 }
 
@@ -272,6 +275,7 @@ void ControllerInSlotsTest::newDefaultIsFound()
     addPrinter(cedarMax);
     publish(cedarMax, moment(cedarMax, firstMoment));
     machine().setDefaultPrinter(cedarMax.name);
+    addPrinter(plotter);
     m_controller->checkForPrinters();
 }
 
