@@ -98,15 +98,12 @@ void Machine::Private::enterNames()
 
 void Machine::Private::notify(const Printer* printer, DWORD change)
 {
-    std::erase_if(notifications, [](const auto& entry) {
-        const std::shared_ptr<ChangeNotification> notification = entry.lock();
-        return !notification || notification->dead;
-    });
+    std::erase_if(notifications, [](const auto& notification) { return notification.expired(); });
     for (const auto& entry : notifications) {
         const std::shared_ptr<ChangeNotification> notification = entry.lock();
         const bool isAsked = !notification->printer || notification->printer.get() == printer;
         const DWORD told = change & notification->filter;
-        if (!isAsked || !told)
+        if (!isAsked || !told || notification->dead)
             continue;
         notification->changes |= told;
         signal(*notification);

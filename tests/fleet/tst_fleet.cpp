@@ -487,8 +487,8 @@ void FleetTest::fileThatCannotBeRead()
 
 void FleetTest::fileNameStaysInItsLine()
 {
-    const QString name = settingsFolder() + QStringLiteral("/a\nb\x1b.json");
-    const QString shown = settingsFolder() + QStringLiteral("/a\\u000ab\\u001b.json");
+    const QString name = settingsFolder() + QStringLiteral("/a\nb\x1b%2.json");
+    const QString shown = settingsFolder() + QStringLiteral("/a\\u000ab\\u001b%2.json");
     QCOMPARE(std::get<FleetError>(readFleet(name)).message,
              shown + QStringLiteral(": No such file or directory"));
     QFile file(name);

@@ -359,8 +359,8 @@ std::variant<Fleet, FleetError> parseFleet(const QByteArray& text, const QString
     try {
         return readFleet(LocatedJson(text));
     } catch (const JsonComplaint& complaint) {
-        return FleetError{
-            escaped(QStringLiteral("%1:%2: ").arg(name).arg(complaint.line) + complaint.text)};
+        return FleetError{escaped(name + QLatin1Char(':') + QString::number(complaint.line) +
+                                  QStringLiteral(": ") + complaint.text)};
     }
 }
 
