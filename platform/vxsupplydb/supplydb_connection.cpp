@@ -2,16 +2,16 @@
 // Copyright The VxPrinterStatus authors
 #include "supplydb_connection.h"
 
-#include "lock_patience.h"
 #include "supplydb_pages.h"
 #include "supplydb_schema.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QHash>
 #include <QtCore/QMutex>
 #include <QtCore/QtEndian>
 #include <QtSql/QSqlError>
-#include <QtSql/QSqlQuery>
 
 namespace {
 
@@ -59,16 +59,67 @@ QString headerFault(const QByteArray& header)
     return {};
 }
 
+/// What the pages of a file were found to be like, by what tells it from the file before it and
+/// after it: SQLite counts its changes in the header.
+struct Finding
+{
+    qint64 size = -1;
+    qint64 modified = 0;
+    QByteArray header{};
+    QString fault{};
+
+    bool isOf(const Finding& file) const
+    {
+        return size == file.size && modified == file.modified && header == file.header;
+    }
+};
+Q_CONSTINIT QBasicMutex findingsMutex;
+constexpr qsizetype MaxFindings = 16;
+// A file that has just been written may be written again without its time being another.
+constexpr qint64 ModifiedLongAgo = 2000;
+
+QHash<QString, Finding>& findings()
+{
+    static QHash<QString, Finding> all;
+    return all;
+}
+
+// A host opens the same file for each of its printers.
+QString pagesFault(QFile& file, const Finding& asItIs)
+{
+    {
+        const QMutexLocker locker(&findingsMutex);
+        const auto found = findings().constFind(file.fileName());
+        if (found != findings().constEnd() && found->isOf(asItIs))
+            return found->fault;
+    }
+    Finding finding = asItIs;
+    finding.fault = SupplyDbPages::fault(file);
+    if (QDateTime::currentMSecsSinceEpoch() - finding.modified > ModifiedLongAgo) {
+        const QMutexLocker locker(&findingsMutex);
+        if (findings().size() >= MaxFindings)
+            findings().clear();
+        findings().insert(file.fileName(), finding);
+    }
+    return finding.fault;
+}
+
 // Why a file is no supply database that can be read here; empty when it is in order.
 QString fileFault(const QString& path)
 {
-    if (!QFileInfo(path).isFile())
+    const QFileInfo info(path);
+    if (!info.isFile())
         return QStringLiteral("no such file");
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return QStringLiteral("cannot be read: %1").arg(file.errorString());
-    const QString fault = headerFault(file.read(HeaderSize));
-    return fault.isEmpty() ? SupplyDbPages::fault(file) : fault;
+    const QByteArray header = file.read(HeaderSize);
+    const QString fault = headerFault(header);
+    if (!fault.isEmpty())
+        return fault;
+    return pagesFault(file, {.size = info.size(),
+                             .modified = info.lastModified().toMSecsSinceEpoch(),
+                             .header = header});
 }
 
 } // namespace
