@@ -56,7 +56,9 @@ VXLocaleLanguages::~VXLocaleLanguages() = default;
 
 qint32 VXLocaleLanguages::getCurrentLanguageId() const
 {
-    return languageId(QLocale::system().uiLanguages());
+    // The default locale is the system's until the application sets another, and then it has the
+    // languages of the system's user in their order.
+    return languageId(QLocale().uiLanguages());
 }
 
 qint32 VXLocaleLanguages::languageId(const QStringList& localeNames)

@@ -27,8 +27,9 @@ public:
     ~VXLocaleLanguages() override;
     Q_DISABLE_COPY_MOVE(VXLocaleLanguages)
 
-    /// The number of the language that the user of the running system reads: the first listed one
-    /// among those that the system's locale names, in the user's order of preference.
+    /// The number of the language of the running application: the first listed one among those that
+    /// its default locale (`QLocale()`) names. That is the locale that `QLocale::setDefault` was
+    /// called with, and otherwise the system's, with its user's languages in order of preference.
     qint32 getCurrentLanguageId() const;
 
     /// The number of the first listed language among locale names such as "de-CH" or "zh_TW"; 0

@@ -3,6 +3,7 @@
 #include "vxlocalelanguages.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QLocale>
 #include <QtCore/QProcess>
 #include <QtTest/QTest>
 
@@ -11,8 +12,25 @@
 
 namespace {
 
-/// Has this program print the current language's id and end.
+/// Has this program print the current language's id and end; with a locale's name behind it as one
+/// of an application with that default locale.
 constexpr const char* PrintId = "--print-language-id";
+
+/// A process of its own: what the system's locale is, is settled when it is first asked for.
+QByteArray idPrinted(const QString& systemLanguages, const QString& defaultLocale)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    environment.insert(QStringLiteral("LANGUAGE"), systemLanguages);
+    process.setProcessEnvironment(environment);
+    QStringList arguments{QString::fromLatin1(PrintId)};
+    if (!defaultLocale.isEmpty())
+        arguments.append(defaultLocale);
+    process.start(QCoreApplication::applicationFilePath(), arguments);
+    return process.waitForFinished() ? process.readAllStandardOutput()
+                                     : process.errorString().toUtf8();
+}
 
 } // namespace
 
@@ -27,6 +45,8 @@ private Q_SLOTS:
     void takesTheFirstLanguageThatIsListed();
     void asksTheRunningSystem_data();
     void asksTheRunningSystem();
+    void asksTheRunningApplication_data();
+    void asksTheRunningApplication();
 };
 
 void tst_VXLocale::numbersLanguages_data()
@@ -121,21 +141,46 @@ void tst_VXLocale::asksTheRunningSystem()
 #endif
     QFETCH(const QString, languages);
     QFETCH(const int, id);
-    // A process of its own: what the system's locale is, is settled when it is first asked for.
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-    environment.insert(QStringLiteral("LANGUAGE"), languages);
-    process.setProcessEnvironment(environment);
-    process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(PrintId)});
-    QVERIFY2(process.waitForFinished(), qPrintable(process.errorString()));
-    QCOMPARE(process.readAllStandardOutput(), QByteArray::number(id));
+    QCOMPARE(idPrinted(languages, QString()), QByteArray::number(id));
+}
+
+void tst_VXLocale::asksTheRunningApplication_data()
+{
+    QTest::addColumn<QString>("languages");
+    QTest::addColumn<QString>("defaultLocale");
+    QTest::addColumn<int>("id");
+
+    // Whatever the system's languages are, the locale that the application has set is its own.
+    for (const char* languages : {"de", "ja_JP", "zh_TW", "sv:fr:de", "en_GB:de", "sv"}) {
+        const auto row = [languages](const char* defaultLocale, int id) {
+            QTest::addRow("%s in a system of %s", defaultLocale, languages)
+                << QString::fromLatin1(languages) << QString::fromLatin1(defaultLocale) << id;
+        };
+        row("en_US", 0);
+        row("de_CH", 1);
+        row("fr_FR", 2);
+        row("ja_JP", 4);
+        row("zh_CN", 6);
+        row("zh_HK", 11);
+        row("sv_SE", 0);
+        row("C", 0);
+    }
+}
+
+void tst_VXLocale::asksTheRunningApplication()
+{
+    QFETCH(const QString, languages);
+    QFETCH(const QString, defaultLocale);
+    QFETCH(const int, id);
+    QCOMPARE(idPrinted(languages, defaultLocale), QByteArray::number(id));
 }
 
 int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
-    if (argc == 2 && std::strcmp(argv[1], PrintId) == 0) {
+    if (argc >= 2 && std::strcmp(argv[1], PrintId) == 0) {
+        if (argc > 2)
+            QLocale::setDefault(QLocale(QString::fromLatin1(argv[2])));
         std::printf("%d", VXLocaleLanguages().getCurrentLanguageId());
         return 0;
     }
