@@ -4,7 +4,6 @@
 #include "windowserrors.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QSet>
 #include <QtCore/QTranslator>
 #include <QtTest/QTest>
 
@@ -13,9 +12,44 @@
 
 namespace {
 
+struct Description
+{
+    int code;
+    const char* text;
+};
+
 /// The codes that have a text of their own: those of the library, and those of drivers.
-constexpr std::array KnownCodes{0,  1,  2,  3,  4,  5,  6,  7,  8,  9,   10,  11,  12,  13, 14,
-                                15, 16, 17, 18, 19, 20, 21, 22, 23, 254, 255, 256, 257, 258};
+constexpr std::array Descriptions{
+    Description{0, "The printer is disconnected"},
+    Description{1, "The printer is ready"},
+    Description{2, "The printer is out of labels"},
+    Description{3, "The ribbon has run out"},
+    Description{4, "The cover is open"},
+    Description{5, "The labels are jammed"},
+    Description{6, "The cutter is jammed"},
+    Description{7, "The cutter cover is open"},
+    Description{8, "The print head is too hot"},
+    Description{9, "The print head is not connected"},
+    Description{10, "The motor is too hot"},
+    Description{11, "No labels are loaded"},
+    Description{12, "No ribbon is loaded"},
+    Description{13, "The labels are not recognized"},
+    Description{14, "The ribbon is not recognized"},
+    Description{15, "The ribbon does not suit the labels"},
+    Description{16, "The start of the label was not found"},
+    Description{17, "The ribbon is torn or slack"},
+    Description{18, "The label sensor must be calibrated"},
+    Description{19, "The printer is paused"},
+    Description{20, "The printer's memory is full"},
+    Description{21, "The firmware is being updated"},
+    Description{22, "The firmware update has failed"},
+    Description{23, "The battery is low"},
+    Description{254, "The print spooler is not running"},
+    Description{255, "The printer's status is not known"},
+    Description{256, "The printer is reached over a network"},
+    Description{257, "The printer is offline"},
+    Description{258, "The printer is not managed"},
+};
 
 /// Marks what it is asked to translate in the context of the messages.
 class MarkingTranslator : public QTranslator
@@ -50,17 +84,8 @@ private Q_SLOTS:
 
 void tst_VXMessages::describesKnownCodes()
 {
-    QSet<QString> texts;
-    for (const int code : KnownCodes) {
-        const QString text = getErrorDescription(VXError(code));
-        QVERIFY2(!text.isEmpty(), qPrintable(QString::number(code)));
-        QVERIFY2(text.front().isUpper() && text == text.simplified(), qPrintable(text));
-        QVERIFY2(!text.contains(QLatin1String("error")), qPrintable(text));
-        texts.insert(text);
-    }
-    QCOMPARE(texts.size(), qsizetype{KnownCodes.size()});
-    QCOMPARE(getErrorDescription(VXError(4)), QStringLiteral("The cover is open"));
-    QCOMPARE(getErrorDescription(VXError(254)), QStringLiteral("The print spooler is not running"));
+    for (const Description& known : Descriptions)
+        QCOMPARE(getErrorDescription(VXError(known.code)), QString::fromLatin1(known.text));
 }
 
 void tst_VXMessages::namesOtherCodes_data()
@@ -81,10 +106,9 @@ void tst_VXMessages::canBeTranslated()
 {
     MarkingTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
-    for (const int code : KnownCodes) {
-        const QString text = getErrorDescription(VXError(code));
-        QVERIFY2(text.startsWith(u'<') && text.endsWith(u'>'), qPrintable(text));
-    }
+    for (const Description& known : Descriptions)
+        QCOMPARE(getErrorDescription(VXError(known.code)),
+                 QStringLiteral("<%1>").arg(QLatin1String(known.text)));
     QCOMPARE(getErrorDescription(VXError(24)), QStringLiteral("<Printer error 24>"));
 }
 
