@@ -4,6 +4,10 @@
 #include "patience.h"
 #include "printer_status_controller.h"
 
+#ifdef VX_HAS_OWN_LANGUAGES
+#include <vxlocalelanguages.h>
+#endif
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QLocale>
@@ -127,6 +131,8 @@ private Q_SLOTS:
     void localesFindTheirLanguage();
     void localesWithoutALanguageStayEnglish_data();
     void localesWithoutALanguageStayEnglish();
+    void titlesAndNamesAreInOneLanguage_data();
+    void titlesAndNamesAreInOneLanguage();
     void otherTitlesStay_data();
     void otherTitlesStay();
     void otherTitlesAreTranslatableOnTheirOwn();
@@ -281,6 +287,34 @@ void TranslationsTest::localesWithoutALanguageStayEnglish()
     QTranslator translator;
     QVERIFY(!load(translator, locale));
     QCOMPARE(title(1), QStringLiteral("Ready"));
+}
+
+void TranslationsTest::titlesAndNamesAreInOneLanguage_data()
+{
+    localesFindTheirLanguage_data();
+    for (const char* locale : {"en_US", "sv_SE", "C"})
+        QTest::newRow(locale) << QString::fromLatin1(locale) << QStringLiteral("Ready");
+}
+
+// As a host does that follows the guide, on a system of whatever language.
+void TranslationsTest::titlesAndNamesAreInOneLanguage()
+{
+#ifdef VX_HAS_OWN_LANGUAGES
+    QFETCH(const QString, locale);
+    const QLocale before;
+    QLocale::setDefault(QLocale(locale));
+    const qint32 languageOfNames = VXLocaleLanguages().getCurrentLanguageId();
+    QTranslator translator;
+    if (translator.load(QLocale(), QStringLiteral("vxprinterstatus"), QStringLiteral("_"),
+                        QStringLiteral(":/vxprinterstatus/translations")))
+        QCoreApplication::installTranslator(&translator);
+    QLocale::setDefault(before);
+    QTEST(title(1), "ready");
+    const QString language = translator.isEmpty() ? QStringLiteral("en") : translator.language();
+    QCOMPARE(languageOfNames, VXLocaleLanguages::languageId({language}));
+#else
+    QSKIP("the languages of names are those of another library");
+#endif
 }
 
 void TranslationsTest::otherTitlesStay_data()
