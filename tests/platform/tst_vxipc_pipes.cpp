@@ -16,6 +16,7 @@
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QJsonObject>
+#include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
 
 #include <array>
@@ -226,7 +227,8 @@ void tst_VXIPCPipes::isPublishedOnceAnyNameIsFree()
     QCoreApplication::sendPostedEvents(&service);
     QCOMPARE(service.serverName(), QString());
     first.reset();
-    QTRY_COMPARE(service.serverName(), nameOf(serverType));
+    // On a busy machine the intervals have grown by now.
+    QTRY_COMPARE_WITH_TIMEOUT(service.serverName(), nameOf(serverType), 30000);
 }
 
 void tst_VXIPCPipes::keepsItsNameWhenItsClientsGo()
