@@ -147,7 +147,7 @@ private:
     void updateDefaultPrinter();
     void chooseFromRecords();
     void chooseOutsideRecords();
-    bool shallBecomeActive(const QString& printerName) const;
+    bool shouldBecomeActive(const QString& printerName);
     void makeActive(const QString& printerName);
 
     void recordOffline(const QString& printerName);

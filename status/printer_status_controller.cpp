@@ -305,7 +305,7 @@ void PrinterStatusController::onPrinterStatusChanged(QString printerName, QStrin
         raiseErrorState();
     }
 
-    if (controller && record().printerOnline && shallBecomeActive(printerName)) {
+    if (controller && shouldBecomeActive(printerName)) {
         makeActive(printerName);
         logAbout(log_lines::activeFromWindowsDefault, m_activeDefaultPrinter);
         Q_EMIT activeDefaultPrinterSetSignal(m_activeDefaultPrinter, m_vxDefaultActivePrinter);
@@ -317,12 +317,13 @@ void PrinterStatusController::onPrinterStatusChanged(QString printerName, QStrin
         Q_EMIT availablePrintersUpdated();
 }
 
-bool PrinterStatusController::shallBecomeActive(const QString& printerName) const
+bool PrinterStatusController::shouldBecomeActive(const QString& printerName)
 {
-    if (m_activeDefaultPrinter.isEmpty())
-        return true;
-    return printerName != m_activeDefaultPrinter &&
-           printerName == WindowsPrinterInfo::getDefaultPrinterName();
+    // Windows is asked for its default printer at every report, whatever else decides.
+    const bool isWindowsDefault = WindowsPrinterInfo::getDefaultPrinterName() == printerName;
+    return ((isWindowsDefault && printerName != m_activeDefaultPrinter) ||
+            m_activeDefaultPrinter.isEmpty()) &&
+           printerStatusMap[printerName].printerOnline;
 }
 
 void PrinterStatusController::recordOffline(const QString& printerName)

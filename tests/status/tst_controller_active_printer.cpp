@@ -50,6 +50,8 @@ private Q_SLOTS:
     void networkPrinterThatIsWindowsDefault();
     void printerThatMayNotBeManagedIsNotTakenAtDiscovery();
     void defaultNameIsComparedExactly();
+    void windowsIsAskedForItsDefaultAtEveryReport_data();
+    void windowsIsAskedForItsDefaultAtEveryReport();
     void firstLocalRecordByName();
     void unmanagedPrinterIsTakenByName();
     void lastOfNetworkPrinters();
@@ -155,6 +157,32 @@ void ActivePrinterTest::defaultNameIsComparedExactly()
     machine().setDefaultPrinter(QStringLiteral("BEECH"));
     makeController();
     QCOMPARE(controller().activeDefaultPrinter(), ash);
+}
+
+void ActivePrinterTest::windowsIsAskedForItsDefaultAtEveryReport_data()
+{
+    QTest::addColumn<QString>("printer");
+    QTest::addColumn<QByteArray>("status");
+
+    QTest::newRow("active printer is ready") << ash << QByteArray("1");
+    QTest::newRow("active printer is in error") << ash << QByteArray("4");
+    QTest::newRow("another printer is ready") << beech << QByteArray("1");
+    QTest::newRow("another printer is offline") << cherry << QByteArray("0");
+}
+
+void ActivePrinterTest::windowsIsAskedForItsDefaultAtEveryReport()
+{
+    QFETCH(const QString, printer);
+    QFETCH(const QByteArray, status);
+    addPrinter(cherry);
+    makeWithTwo();
+    setOffline(cherry, true);
+    machine().setDefaultPrinter(ash);
+    machine().clearCalls();
+    machine().recordCalls();
+    reportStatus(printer, status.constData());
+    // The first call asks how long the name is, the second for the name.
+    QCOMPARE(machine().calls(QStringLiteral("GetDefaultPrinterW")).size(), 2);
 }
 
 void ActivePrinterTest::firstLocalRecordByName()

@@ -396,11 +396,14 @@ void ControllerStatusTest::spoolerStopsAndComesBack()
 
 void ControllerStatusTest::reportGoesToNoEndpoint()
 {
-    // Nor is anything else of Windows asked for a ready printer but the default printer's name.
+    // Windows is asked for the name of its default printer, and for nothing else of a ready
+    // printer.
     reportStatus(ash, "1");
     machine().recordCalls();
     reportStatus(ash, "1");
-    QVERIFY(machine().calls().isEmpty());
+    QVERIFY(!machine().calls().isEmpty());
+    QCOMPARE(machine().calls().size(),
+             machine().calls(QStringLiteral("GetDefaultPrinterW")).size());
 }
 
 void ControllerStatusTest::titles_data()
