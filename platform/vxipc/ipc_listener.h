@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QObject>
 #include <QtCore/QQueue>
 #include <QtCore/QString>
@@ -33,8 +34,9 @@ public:
     static std::unique_ptr<IpcListener> create(QObject* parent);
     Q_DISABLE_COPY_MOVE(IpcListener)
 
-    /// Called until it succeeds, and no more then.
-    virtual Outcome listen(const QString& name) = 0;
+    /// Called until it succeeds, and no more then. Waits until `end` at most for another process
+    /// that is taking a name at the same moment.
+    virtual Outcome listen(const QString& name, QDeadlineTimer end) = 0;
     QString errorString() const { return m_errorString; }
 
     /// The next client that was let in, a child of this object until it is given another parent;

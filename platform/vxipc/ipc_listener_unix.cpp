@@ -79,7 +79,7 @@ public:
     ~SocketListener() override;
     Q_DISABLE_COPY_MOVE(SocketListener)
 
-    Outcome listen(const QString& name) override;
+    Outcome listen(const QString& name, QDeadlineTimer end) override;
 
 protected:
     void letIn() override;
@@ -107,7 +107,7 @@ SocketListener::~SocketListener()
     }
 }
 
-IpcListener::Outcome SocketListener::listen(const QString& name)
+IpcListener::Outcome SocketListener::listen(const QString& name, QDeadlineTimer end)
 {
     if (const QString obstacle = IpcScope::prepare(); !obstacle.isEmpty())
         return failed(name, obstacle);
@@ -120,7 +120,7 @@ IpcListener::Outcome SocketListener::listen(const QString& name)
     // Between finding a dead endpoint's socket and replacing it, another process must not do the
     // same. Who does not get to look leaves the name alone.
     IpcNameLock lock(path + ".lock");
-    switch (lock.lock()) {
+    switch (lock.lock(end)) {
     case IpcNameLock::Outcome::Locked:
         break;
     case IpcNameLock::Outcome::Denied:

@@ -130,7 +130,7 @@ class PipeListener final : public IpcListener
 public:
     using IpcListener::IpcListener;
 
-    Outcome listen(const QString& name) override;
+    Outcome listen(const QString& name, QDeadlineTimer end) override;
 
 protected:
     void letIn() override;
@@ -148,7 +148,7 @@ private:
     std::unique_ptr<QWinEventNotifier> m_notifier;
 };
 
-IpcListener::Outcome PipeListener::listen(const QString& name)
+IpcListener::Outcome PipeListener::listen(const QString& name, QDeadlineTimer /*end*/)
 {
     if (const QString obstacle = IpcScope::prepare(); !obstacle.isEmpty())
         return failed(name, obstacle);

@@ -17,8 +17,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Taking a name is a matter of a millisecond.
-constexpr auto LockTime = 500ms;
 constexpr auto Pause = 5ms;
 
 bool isSameFile(const struct stat& one, const struct stat& other)
@@ -38,9 +36,8 @@ IpcNameLock::~IpcNameLock()
         unlink(m_path.constData());
 }
 
-IpcNameLock::Outcome IpcNameLock::lock()
+IpcNameLock::Outcome IpcNameLock::lock(QDeadlineTimer end)
 {
-    const QDeadlineTimer end(LockTime);
     Outcome outcome = tryToLock();
     while (outcome == Outcome::Denied && errno == EWOULDBLOCK && !end.hasExpired()) {
         std::this_thread::sleep_for(Pause);

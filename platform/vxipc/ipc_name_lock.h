@@ -5,6 +5,7 @@
 #include "owned_descriptor.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QDeadlineTimer>
 
 /// Held by a process while it takes an endpoint's name. The system releases the lock of a process
 /// that dies.
@@ -26,8 +27,8 @@ public:
     IpcNameLock(const IpcNameLock&) = delete;
     IpcNameLock& operator=(const IpcNameLock&) = delete;
 
-    /// Waits a fraction of a second for somebody who is taking the name.
-    Outcome lock();
+    /// Waits until `end` for a process that is taking the name; tries once when that has passed.
+    Outcome lock(QDeadlineTimer end);
 
 private:
     Outcome tryToLock();

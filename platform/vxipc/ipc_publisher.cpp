@@ -22,6 +22,9 @@ namespace {
 constexpr qsizetype MaximumRefused = 64;
 /// How many names with the process id are tried.
 constexpr int MaximumOwnNames = 16;
+/// Taking a name is a matter of a millisecond. All names together may take this long, and only at
+/// the first attempt: later ones find time again.
+constexpr auto LockTime = 500ms;
 constexpr std::chrono::milliseconds FirstRetry = 100ms;
 constexpr std::chrono::milliseconds LastRetry = 10s;
 
@@ -37,7 +40,7 @@ IpcPublisher::IpcPublisher(QObject& object, const QMetaObject& base)
     , m_retryInterval(FirstRetry)
 {
     m_retry.setSingleShot(true);
-    connect(&m_retry, &QTimer::timeout, this, &IpcPublisher::tryToPublish);
+    connect(&m_retry, &QTimer::timeout, this, [this] { tryToPublish(QDeadlineTimer(0ms)); });
     connect(m_listener.get(), &IpcListener::newClient, this, &IpcPublisher::onNewConnection);
 }
 
@@ -54,12 +57,12 @@ IpcPublisher::~IpcPublisher()
 void IpcPublisher::publish(const QString& name)
 {
     m_wantedName = name;
-    tryToPublish();
+    tryToPublish(QDeadlineTimer(LockTime));
 }
 
-void IpcPublisher::tryToPublish()
+void IpcPublisher::tryToPublish(QDeadlineTimer end)
 {
-    const IpcListener::Outcome outcome = listen();
+    const IpcListener::Outcome outcome = listen(end);
     if (outcome == IpcListener::Outcome::Listening) {
         IpcScope::announce(m_name);
         return;
@@ -76,15 +79,15 @@ void IpcPublisher::tryToPublish()
     m_retryInterval = std::min(2 * m_retryInterval, LastRetry);
 }
 
-IpcListener::Outcome IpcPublisher::listen()
+IpcListener::Outcome IpcPublisher::listen(QDeadlineTimer end)
 {
     const QString own =
         m_wantedName + QLatin1Char('-') + QString::number(QCoreApplication::applicationPid());
     QString candidate = m_wantedName;
-    IpcListener::Outcome outcome = m_listener->listen(candidate);
+    IpcListener::Outcome outcome = m_listener->listen(candidate, end);
     for (int i = 1; outcome == IpcListener::Outcome::NameTaken && i <= MaximumOwnNames; ++i) {
         candidate = i == 1 ? own : own + QLatin1Char('-') + QString::number(i);
-        outcome = m_listener->listen(candidate);
+        outcome = m_listener->listen(candidate, end);
     }
     if (outcome == IpcListener::Outcome::Listening)
         m_name = candidate;

@@ -5,6 +5,7 @@
 #include "ipc_dispatcher.h"
 #include "ipc_listener.h"
 
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QString>
@@ -35,11 +36,11 @@ public:
 
     /// How long a client may ask nothing, a minute unless set, before it is let go when another one
     /// waits for its place.
-    void setPatience(std::chrono::milliseconds patience) { m_patience = patience; }
+    void setPatience(std::chrono::milliseconds limit) { m_patience = limit; }
 
 private:
-    void tryToPublish();
-    IpcListener::Outcome listen();
+    void tryToPublish(QDeadlineTimer end);
+    IpcListener::Outcome listen(QDeadlineTimer end);
     void onNewConnection();
     IpcConnection* longestSilent() const;
     void onTurnWanted(IpcConnection* connection);
