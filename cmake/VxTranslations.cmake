@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
 #
-# The titles of status codes in the languages of translations/, compiled and embedded in the library,
+# The titles of status codes and the texts of faults in the languages of translations/, compiled and embedded in the library,
 # so that a host has nothing to ship beside it. After a title was changed, the target
 # vxprinterstatus_lupdate brings the .ts files up to it.
 
@@ -16,7 +16,7 @@ list(TRANSFORM translations PREPEND translations/vxprinterstatus_)
 list(TRANSFORM translations APPEND .ts)
 qt_add_translations(vxprinterstatus
     TS_FILES ${translations}
-    SOURCES status/status_titles.cpp
+    SOURCES status/status_titles.cpp platform/vxmessages/vxerror.cpp
     RESOURCE_PREFIX /vxprinterstatus/translations
     LUPDATE_OPTIONS -locations none
     LRELEASE_OPTIONS -silent)

@@ -5,6 +5,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
+#include <QtCore/QHash>
 #include <QtCore/QLocale>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
@@ -32,8 +33,10 @@ constexpr std::array titles{
     Title{258, "Printer Is Not Managed.\nUnable to retrieve printer info."},
 };
 
-/// Codes whose title the status-messages library has.
-constexpr std::array otherCodes{2, 4, 254, 259, -5, 4711};
+/// Codes whose title the status-messages library has, and codes that it does not list.
+constexpr std::array faultCodes{2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13,
+                                14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 254};
+constexpr std::array unlistedCodes{259, -5, 4711};
 
 const QStringList languages = QStringLiteral(VX_LANGUAGES).split(QLatin1Char(' '));
 
@@ -126,8 +129,8 @@ private Q_SLOTS:
     void localesFindTheirLanguage();
     void localesWithoutALanguageStayEnglish_data();
     void localesWithoutALanguageStayEnglish();
-    void otherTitlesStay_data();
-    void otherTitlesStay();
+    void faultsAreTranslated_data();
+    void faultsAreTranslated();
     void otherTitlesAreTranslatableOnTheirOwn();
 
 private:
@@ -166,16 +169,17 @@ void TranslationsTest::everyEntryIsFinished()
 {
     QFETCH(const QString, language);
     const QList<Message> messages = messagesOf(fileOf(language));
-    QCOMPARE(messages.size(), 5); // of six titles, two of which read the same
+    // Two of the library's six titles read the same. One text covers all codes that are not listed.
+    QCOMPARE(messages.size(), 5 + 29 + 1);
     for (const Message& message : messages) {
         QCOMPARE(message.state, QString());
         QVERIFY(!message.translation.trimmed().isEmpty());
         QVERIFY(message.translation != message.source);
         QCOMPARE(message.translation.count(QLatin1Char('\n')),
                  message.source.count(QLatin1Char('\n')));
-        // The status messages are another library's, which has its own translators.
-        QCOMPARE(message.context, QStringLiteral("QObject"));
-        QCOMPARE(message.remark, QStringLiteral("Printer status message"));
+        const bool isTitle = message.context == QStringLiteral("QObject");
+        QVERIFY(isTitle || message.context == QStringLiteral("VXError"));
+        QCOMPARE(message.remark, isTitle ? QStringLiteral("Printer status message") : QString());
     }
 }
 
@@ -193,7 +197,8 @@ void TranslationsTest::everyTitleOfTheSourceIsInEveryFile()
     QProcess lupdate;
     lupdate.start(QStringLiteral(VX_LUPDATE),
                   {QStringLiteral("-silent"), QStringLiteral("-locations"), QStringLiteral("none"),
-                   QStringLiteral(VX_TITLES_SOURCE), QStringLiteral("-ts"), found});
+                   QStringLiteral(VX_TITLES_SOURCE), QStringLiteral(VX_FAULTS_SOURCE),
+                   QStringLiteral("-ts"), found});
     QVERIFY(lupdate.waitForFinished());
     QVERIFY2(lupdate.exitCode() == 0, lupdate.readAllStandardError().constData());
 
@@ -282,24 +287,33 @@ void TranslationsTest::localesWithoutALanguageStayEnglish()
     QCOMPARE(title(1), QStringLiteral("Ready"));
 }
 
-void TranslationsTest::otherTitlesStay_data()
+void TranslationsTest::faultsAreTranslated_data()
 {
     addLanguageRows();
 }
 
-void TranslationsTest::otherTitlesStay()
+void TranslationsTest::faultsAreTranslated()
 {
     QFETCH(const QString, language);
-    QStringList before;
-    for (const int code : otherCodes)
-        before.append(title(code));
+    QHash<QString, QString> translations;
+    for (const Message& message : messagesOf(fileOf(language)))
+        translations.insert(message.source, message.translation);
+    QStringList english;
+    for (const int code : faultCodes)
+        english.append(title(code));
+
     QTranslator translator;
     QVERIFY(load(translator, language));
     QVERIFY(QCoreApplication::installTranslator(&translator));
-    QStringList after;
-    for (const int code : otherCodes)
-        after.append(title(code));
-    QCOMPARE(after, before);
+    for (qsizetype i = 0; i < english.size(); ++i) {
+        QVERIFY2(!translations.value(english[i]).isEmpty(), qPrintable(english[i]));
+        QCOMPARE(title(faultCodes[static_cast<std::size_t>(i)]), translations.value(english[i]));
+        QVERIFY(title(faultCodes[static_cast<std::size_t>(i)]) != english[i]);
+    }
+    for (const int code : unlistedCodes) {
+        QCOMPARE(title(code), translations.value(QStringLiteral("Printer error %1")).arg(code));
+        QVERIFY(title(code) != QStringLiteral("Printer error %1").arg(code));
+    }
 }
 
 void TranslationsTest::otherTitlesAreTranslatableOnTheirOwn()
