@@ -35,8 +35,8 @@
 /// mileage, ribbon 2 mileage, printer name, firmware version, Ethernet configuration, update
 /// progress, update error.
 ///
-/// Nothing is retried: a printer that cannot be opened at the start is opened the next time that the
-/// print spooler service has been down and is running again. A thread that cannot make its stop
+/// Nothing is retried: a printer that cannot be opened at the start is opened the next time that
+/// the print spooler service has been down and is running again. A thread that cannot make its stop
 /// event ends after its first read, and one that cannot reach the service does not notice that it
 /// restarts.
 class VX_PRINTERSTATUS_EXPORT PrinterStatusThread : public QThread
@@ -95,9 +95,9 @@ public:
                               QString& ethernetConfig);
 
 public Q_SLOTS:
-    /// Tells the thread to end; may be called on any thread and again. It does not wait, and it does
-    /// nothing while `run()` has not yet made its stop event: to end a thread that was only just
-    /// started, call it until `wait()` says that the thread has finished.
+    /// Tells the thread to end; may be called on any thread and again. It does not wait, and it
+    /// does nothing while `run()` has not yet made its stop event: to end a thread that was only
+    /// just started, call it until `wait()` says that the thread has finished.
     void stop();
 
 Q_SIGNALS:

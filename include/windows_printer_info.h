@@ -81,11 +81,11 @@ public:
     static QString getDriverGUID();
 
     /// The serial number of the USB device on a port, which is then recorded in the printer-serial
-    /// file. When no device is on the port, the serial number of the last one looked at, unrecorded;
-    /// empty when there is none at all.
+    /// file. When no device is on the port, the serial number of the last one looked at,
+    /// unrecorded; empty when there is none at all.
     static QString getDeviceSerialNumber(unsigned short port);
 
-    /// Records a serial number with the present local time in the user's printer-serial file, unless
-    /// it is there already or empty.
+    /// Records a serial number with the present local time in the user's printer-serial file,
+    /// unless it is there already or empty.
     static void addPrinterSerialToIniFile(const QString& serialNumber);
 };

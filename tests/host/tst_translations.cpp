@@ -10,6 +10,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
+#include <QtCore/QHash>
 #include <QtCore/QLocale>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
@@ -18,6 +19,7 @@
 #include <QtTest/QtTest>
 
 #include <array>
+#include <cstdio>
 #include <memory>
 
 namespace {
@@ -37,10 +39,15 @@ constexpr std::array titles{
     Title{258, "Printer Is Not Managed.\nUnable to retrieve printer info."},
 };
 
-/// Codes whose title the status-messages library has.
-constexpr std::array otherCodes{2, 4, 254, 259, -5, 4711};
+/// Codes whose title the status-messages library has, and codes that it does not list.
+constexpr std::array faultCodes{2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13,
+                                14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 254};
+constexpr std::array unlistedCodes{259, -5, 4711};
 
 const QStringList languages = QStringLiteral(VX_LANGUAGES).split(QLatin1Char(' '));
+
+/// Makes this program print the title of a ready printer and end.
+constexpr char printReadyTitle[] = "--print-ready-title";
 
 struct Message
 {
@@ -86,7 +93,7 @@ QList<Message> messagesOf(const QString& fileName)
 }
 
 /// What is translated, whatever it is translated to.
-[[maybe_unused]] QStringList keysOf(const QList<Message>& messages)
+QStringList keysOf(const QList<Message>& messages)
 {
     QStringList keys;
     for (const Message& message : messages)
@@ -131,10 +138,13 @@ private Q_SLOTS:
     void localesFindTheirLanguage();
     void localesWithoutALanguageStayEnglish_data();
     void localesWithoutALanguageStayEnglish();
+    void englishRepeatsTheSources();
+    void firstOfTheUsersLanguagesIsTaken_data();
+    void firstOfTheUsersLanguagesIsTaken();
     void titlesAndNamesAreInOneLanguage_data();
     void titlesAndNamesAreInOneLanguage();
-    void otherTitlesStay_data();
-    void otherTitlesStay();
+    void faultsAreTranslated_data();
+    void faultsAreTranslated();
     void otherTitlesAreTranslatableOnTheirOwn();
 
 private:
@@ -159,8 +169,9 @@ void TranslationsTest::everyLanguageIsThere()
 {
     QCOMPARE(languages, QStringLiteral("de es fr it ja zh_CN").split(QLatin1Char(' ')));
     QStringList files;
-    for (const QString& language : languages)
+    for (const QString& language : languages + QStringList{QStringLiteral("en")})
         files.append(QStringLiteral("vxprinterstatus_%1.qm").arg(language));
+    files.sort();
     QCOMPARE(QDir(QStringLiteral(":/vxprinterstatus/translations")).entryList(), files);
 }
 
@@ -173,16 +184,17 @@ void TranslationsTest::everyEntryIsFinished()
 {
     QFETCH(const QString, language);
     const QList<Message> messages = messagesOf(fileOf(language));
-    QCOMPARE(messages.size(), 5); // of six titles, two of which read the same
+    // Two of the library's six titles read the same. One text covers all codes that are not listed.
+    QCOMPARE(messages.size(), 5 + 29 + 1);
     for (const Message& message : messages) {
         QCOMPARE(message.state, QString());
         QVERIFY(!message.translation.trimmed().isEmpty());
         QVERIFY(message.translation != message.source);
         QCOMPARE(message.translation.count(QLatin1Char('\n')),
                  message.source.count(QLatin1Char('\n')));
-        // The status messages are another library's, which has its own translators.
-        QCOMPARE(message.context, QStringLiteral("QObject"));
-        QCOMPARE(message.remark, QStringLiteral("Printer status message"));
+        const bool isTitle = message.context == QStringLiteral("QObject");
+        QVERIFY(isTitle || message.context == QStringLiteral("VXError"));
+        QCOMPARE(message.remark, isTitle ? QStringLiteral("Printer status message") : QString());
     }
 }
 
@@ -200,7 +212,8 @@ void TranslationsTest::everyTitleOfTheSourceIsInEveryFile()
     QProcess lupdate;
     lupdate.start(QStringLiteral(VX_LUPDATE),
                   {QStringLiteral("-silent"), QStringLiteral("-locations"), QStringLiteral("none"),
-                   QStringLiteral(VX_TITLES_SOURCE), QStringLiteral("-ts"), found});
+                   QStringLiteral(VX_TITLES_SOURCE), QStringLiteral(VX_FAULTS_SOURCE),
+                   QStringLiteral("-ts"), found});
     QVERIFY(lupdate.waitForFinished(patience));
     QVERIFY2(lupdate.exitCode() == 0, lupdate.readAllStandardError().constData());
 
@@ -277,7 +290,7 @@ void TranslationsTest::localesFindTheirLanguage()
 void TranslationsTest::localesWithoutALanguageStayEnglish_data()
 {
     QTest::addColumn<QString>("locale");
-    for (const char* locale : {"en_US", "pt_BR", "zh_TW", "C"})
+    for (const char* locale : {"pt_BR", "zh_TW", "C"})
         QTest::newRow(locale) << QString::fromLatin1(locale);
 }
 
@@ -287,6 +300,42 @@ void TranslationsTest::localesWithoutALanguageStayEnglish()
     QTranslator translator;
     QVERIFY(!load(translator, locale));
     QCOMPARE(title(1), QStringLiteral("Ready"));
+}
+
+void TranslationsTest::englishRepeatsTheSources()
+{
+    const QList<Message> messages = messagesOf(fileOf(QStringLiteral("en")));
+    QCOMPARE(keysOf(messages), keysOf(messagesOf(fileOf(QStringLiteral("de")))));
+    for (const Message& message : messages)
+        QCOMPARE(message.translation, message.source);
+}
+
+void TranslationsTest::firstOfTheUsersLanguagesIsTaken_data()
+{
+    QTest::addColumn<QString>("userLanguages");
+    QTest::addColumn<QByteArray>("ready");
+
+    QTest::newRow("German before English") << QStringLiteral("de:en") << QByteArray("Bereit");
+    QTest::newRow("English before German") << QStringLiteral("en:de") << QByteArray("Ready");
+    QTest::newRow("British English before French")
+        << QStringLiteral("en_GB:fr") << QByteArray("Ready");
+}
+
+void TranslationsTest::firstOfTheUsersLanguagesIsTaken()
+{
+#ifdef Q_OS_WIN
+    QSKIP("Windows keeps the user's languages in its settings, which a test leaves alone");
+#endif
+    QFETCH(const QString, userLanguages);
+    // In a process of its own: the system's locale is read once.
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    environment.insert(QStringLiteral("LANGUAGE"), userLanguages);
+    process.setProcessEnvironment(environment);
+    process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(printReadyTitle)});
+    QVERIFY2(process.waitForFinished(patience), qPrintable(process.errorString()));
+    QTEST(process.readAllStandardOutput(), "ready");
 }
 
 void TranslationsTest::titlesAndNamesAreInOneLanguage_data()
@@ -317,24 +366,33 @@ void TranslationsTest::titlesAndNamesAreInOneLanguage()
 #endif
 }
 
-void TranslationsTest::otherTitlesStay_data()
+void TranslationsTest::faultsAreTranslated_data()
 {
     addLanguageRows();
 }
 
-void TranslationsTest::otherTitlesStay()
+void TranslationsTest::faultsAreTranslated()
 {
     QFETCH(const QString, language);
-    QStringList before;
-    for (const int code : otherCodes)
-        before.append(title(code));
+    QHash<QString, QString> translations;
+    for (const Message& message : messagesOf(fileOf(language)))
+        translations.insert(message.source, message.translation);
+    QStringList english;
+    for (const int code : faultCodes)
+        english.append(title(code));
+
     QTranslator translator;
     QVERIFY(load(translator, language));
     QVERIFY(QCoreApplication::installTranslator(&translator));
-    QStringList after;
-    for (const int code : otherCodes)
-        after.append(title(code));
-    QCOMPARE(after, before);
+    for (qsizetype i = 0; i < english.size(); ++i) {
+        QVERIFY2(!translations.value(english[i]).isEmpty(), qPrintable(english[i]));
+        QCOMPARE(title(faultCodes[static_cast<std::size_t>(i)]), translations.value(english[i]));
+        QVERIFY(title(faultCodes[static_cast<std::size_t>(i)]) != english[i]);
+    }
+    for (const int code : unlistedCodes) {
+        QCOMPARE(title(code), translations.value(QStringLiteral("Printer error %1")).arg(code));
+        QVERIFY(title(code) != QStringLiteral("Printer error %1").arg(code));
+    }
 }
 
 void TranslationsTest::otherTitlesAreTranslatableOnTheirOwn()
@@ -348,5 +406,19 @@ void TranslationsTest::otherTitlesAreTranslatableOnTheirOwn()
         QCOMPARE(title(own.code), QString::fromLatin1(own.text));
 }
 
-QTEST_GUILESS_MAIN(TranslationsTest)
+int main(int argc, char* argv[])
+{
+    QCoreApplication application(argc, argv);
+    if (argc > 1 && qstrcmp(argv[1], printReadyTitle) == 0) {
+        QTranslator translator;
+        if (translator.load(QLocale(), QStringLiteral("vxprinterstatus"), QStringLiteral("_"),
+                            QStringLiteral(":/vxprinterstatus/translations")))
+            QCoreApplication::installTranslator(&translator);
+        PrinterStatusController controller;
+        return std::fputs(qUtf8Printable(controller.getStatusTitle(1)), stdout) < 0;
+    }
+    TranslationsTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_translations.moc"

@@ -35,7 +35,8 @@ void MachineTest::cleanup()
             m_allowed.erase(allowed);
     }
     for (const Allowed& entry : std::as_const(m_allowed))
-        wrong.append(QStringLiteral("expected a misuse by %1, and none happened").arg(entry.function));
+        wrong.append(
+            QStringLiteral("expected a misuse by %1, and none happened").arg(entry.function));
     machine().reset();
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(QLatin1Char('\n'))));
 }

@@ -1,0 +1,109 @@
+# SPDX-License-Identifier: MIT
+# Copyright The VxPrinterStatus authors
+"""Runs clang-tidy on the sources of a build, leaving out those that were found clean as they are now.
+
+Usage: tidy.py [--all] BUILD CACHE
+
+BUILD has been built with Ninja: it knows the headers that each source includes. CACHE keeps one empty file
+for each source that was found clean, named after a hash of everything that the result depends on: the
+source, our headers that it includes, how it is compiled, the configuration and clang-tidy itself. --all
+checks every source again. Findings are printed; the exit status is 1 when there are any.
+"""
+import argparse
+import concurrent.futures
+import hashlib
+import json
+import os
+import pathlib
+import subprocess
+import sys
+import time
+
+PATIENCE = 600  # seconds that one source may take
+
+
+def dependencies(build):
+    """Each object's inputs as Ninja recorded them, by the object's path."""
+    listing = subprocess.run(["ninja", "-C", str(build), "-t", "deps"], check=True,
+                             capture_output=True, text=True).stdout
+    found, current = {}, None
+    for line in listing.splitlines():
+        if line.startswith("    "):
+            found[current].append((build / line.strip()).resolve())
+        elif line:
+            current = line.split(":", 1)[0]
+            found[current] = []
+    return found
+
+
+class Hashes:
+    """Hashes of files, each read once."""
+
+    def __init__(self):
+        self.known = {}
+
+    def of(self, path):
+        if path not in self.known:
+            self.known[path] = hashlib.sha256(path.read_bytes()).hexdigest()
+        return self.known[path]
+
+
+def key_of(entry, inputs, root, common, hashes):
+    key = hashlib.sha256(common)
+    key.update(entry["command"].replace(str(root), "").encode())
+    for path in sorted(set(inputs)):
+        if path.is_relative_to(root) and path.exists():
+            key.update(f"{path.relative_to(root)}={hashes.of(path)}\n".encode())
+    return key.hexdigest()
+
+
+def check(source, build):
+    run = subprocess.run(["clang-tidy", "-p", str(build), "--quiet", str(source)],
+                         capture_output=True, text=True, timeout=PATIENCE, check=False)
+    return run.returncode == 0, run.stdout + ("" if run.returncode == 0 else run.stderr)
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--all", action="store_true")
+    parser.add_argument("build", type=pathlib.Path)
+    parser.add_argument("cache", type=pathlib.Path)
+    arguments = parser.parse_args()
+    root = pathlib.Path(__file__).resolve().parents[2]
+    build = arguments.build.resolve()
+    arguments.cache.mkdir(parents=True, exist_ok=True)
+
+    version = subprocess.run(["clang-tidy", "--version"], check=True, capture_output=True).stdout
+    common = version + (root / ".clang-tidy").read_bytes()
+    recorded, hashes = dependencies(build), Hashes()
+    todo = []
+    for entry in json.loads((build / "compile_commands.json").read_text(encoding="utf-8")):
+        source = pathlib.Path(entry["directory"], entry["file"]).resolve()
+        if not source.is_relative_to(root) or source.is_relative_to(build):
+            continue
+        inputs = recorded.get(entry.get("output", ""))
+        if inputs is None:
+            inputs = recorded.get(os.path.relpath(entry.get("output", ""), build), [])
+        stamp = arguments.cache / key_of(entry, [source, *inputs], root, common, hashes)
+        if arguments.all or not stamp.exists():
+            todo.append((source, stamp))
+    todo = list({source: (source, stamp) for source, stamp in todo}.values())
+    print(f"tidy: {len(todo)} sources to check", file=sys.stderr)
+
+    began, told, clean = time.monotonic(), time.monotonic(), True
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        runs = {pool.submit(check, source, build): stamp for source, stamp in todo}
+        for count, run in enumerate(concurrent.futures.as_completed(runs), 1):
+            passed, output = run.result()
+            if passed:
+                runs[run].touch()
+            else:
+                clean = False
+                print(output.replace(f"{root}/", ""), flush=True)
+            if time.monotonic() - told > 30:
+                told = time.monotonic()
+                print(f"tidy:   [{count}/{len(todo)}] after {told - began:.0f} s", file=sys.stderr)
+    sys.exit(0 if clean else 1)
+
+
+main()
