@@ -191,12 +191,12 @@ Load readLoad()
         load.supplySku = supply.text(1);
     }
     SqliteStatement ribbon(file, "SELECT number || '', ribbon_sku FROM ribbon_number");
-    while (load.ribbonIds.size() < JsonRpc::MaximumEntries && ribbon.step()) {
+    while (load.ribbonIds.size() < JsonRpc::maximumEntries && ribbon.step()) {
         load.ribbonIds.append(ribbon.text(0));
         load.ribbonSkus.append(ribbon.text(1));
     }
     // And as many as may be reported, of which the database knows nothing.
-    for (int number = 99999; load.ribbonIds.size() < JsonRpc::MaximumEntries; --number)
+    for (int number = 99999; load.ribbonIds.size() < JsonRpc::maximumEntries; --number)
         load.ribbonIds.append(QString::number(number));
     return load;
 }
@@ -213,15 +213,15 @@ std::vector<Filling> fillings(const Load& load)
     return {
         {"longest text",
          [](const QString&, qsizetype) {
-             return QString(JsonRpc::MaximumText, u'x');
+             return QString(JsonRpc::maximumText, u'x');
          }},
         {"longest text of quotes",
          [](const QString&, qsizetype) {
-             return QString(JsonRpc::MaximumText, u'"');
+             return QString(JsonRpc::maximumText, u'"');
          }},
         {"longest text of surrogates",
          [](const QString&, qsizetype) {
-             return QStringLiteral("\U0001F5A8").repeated(JsonRpc::MaximumText / 2);
+             return QStringLiteral("\U0001F5A8").repeated(JsonRpc::maximumText / 2);
          }},
         {"SKU that nobody asked for before",
          [count = 0](const QString&, qsizetype) mutable {
@@ -255,7 +255,7 @@ QJsonValue argument(const QJsonValue& parameter, const Filling& filling)
     if (type != QStringLiteral("QStringList"))
         return 1;
     QJsonArray texts;
-    for (qsizetype i = 0; i < JsonRpc::MaximumEntries; ++i)
+    for (qsizetype i = 0; i < JsonRpc::maximumEntries; ++i)
         texts.append(filling.text(name, i));
     return texts;
 }
@@ -300,7 +300,7 @@ void addRequests(std::vector<Request>& requests, const QJsonValue& method,
 /// As `line` is, up to the greatest length with a line end, by repeating `filler` in its middle.
 QByteArray longestLine(const QByteArray& begin, const QByteArray& filler, const QByteArray& end)
 {
-    const qsizetype room = JsonRpc::MaximumLine - begin.size() - end.size();
+    const qsizetype room = JsonRpc::maximumLine - begin.size() - end.size();
     return begin + filler.repeated(room / filler.size()) + end + '\n';
 }
 
@@ -313,7 +313,7 @@ std::vector<Request> refusedRequests()
     };
     // So that as many values as are read fill the line.
     const auto padded = [](const QByteArray& filler) {
-        return filler.leftJustified(2 * MaximumLine / MaximumLineValues + 1);
+        return filler.leftJustified(2 * maximumLine / maximumLineValues + 1);
     };
     const QByteArray call = R"({"jsonrpc":"2.0","id":1,"method":")";
     const QByteArray ask = call + R"(getPrinterStatus","params":)";

@@ -5,7 +5,7 @@
 #include "server_types.h"
 
 namespace {
-constexpr bool Succeeded = true;
+constexpr bool succeeded = true;
 }
 
 VXIPCPRINTQDController::VXIPCPRINTQDController(QObject* parent)
@@ -18,13 +18,13 @@ VXIPCPRINTQDController::~VXIPCPRINTQDController() = default;
 
 // One line an answer.
 // clang-format off
-bool             VXIPCPRINTQDController::printQueueFull(uint)                           { return Succeeded; }
-bool             VXIPCPRINTQDController::printQueueComplete(uint)                       { return Succeeded; }
+bool             VXIPCPRINTQDController::printQueueFull(uint)                           { return succeeded; }
+bool             VXIPCPRINTQDController::printQueueComplete(uint)                       { return succeeded; }
 void             VXIPCPRINTQDController::addJob(QString, QString, QString, int, int)    { }
 QStringList      VXIPCPRINTQDController::getJobList()                                   { return {}; }
 PrintJobMetaData VXIPCPRINTQDController::getJobInfo(QString)                            { return {}; }
-bool             VXIPCPRINTQDController::reprintPrintJob()                              { return Succeeded; }
-bool             VXIPCPRINTQDController::retryPrintJob()                                { return Succeeded; }
-bool             VXIPCPRINTQDController::clearPrintJob()                                { return Succeeded; }
-bool             VXIPCPRINTQDController::clearAllPrintJobs()                            { return Succeeded; }
+bool             VXIPCPRINTQDController::reprintPrintJob()                              { return succeeded; }
+bool             VXIPCPRINTQDController::retryPrintJob()                                { return succeeded; }
+bool             VXIPCPRINTQDController::clearPrintJob()                                { return succeeded; }
+bool             VXIPCPRINTQDController::clearAllPrintJobs()                            { return succeeded; }
 // clang-format on

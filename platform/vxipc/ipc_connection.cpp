@@ -15,12 +15,12 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto TurnTime = 250us;
+constexpr auto turnTime = 250us;
 /// Parsing a line up to here takes about a turn.
-constexpr qsizetype ShortLine = qsizetype{16} << 10;
-constexpr qsizetype ReadChunk = qsizetype{64} << 10;
+constexpr qsizetype shortLine = qsizetype{16} << 10;
+constexpr qsizetype readChunk = qsizetype{64} << 10;
 /// How long a client that is refused has to take the answer that says so, and to close.
-constexpr auto Farewell = 1s;
+constexpr auto farewell = 1s;
 
 } // namespace
 
@@ -31,7 +31,7 @@ IpcConnection::IpcConnection(QLocalSocket* socket, IpcDispatcher& dispatcher, QO
 {
     m_socket->setParent(this);
     // What a client sends faster than it is worked on waits on the client's side.
-    m_socket->setReadBufferSize(ReadChunk);
+    m_socket->setReadBufferSize(readChunk);
     connect(m_socket, &QLocalSocket::readyRead, this, &IpcConnection::onReadyRead);
     connect(m_socket, &QLocalSocket::disconnected, this, &IpcConnection::onDisconnected);
     connect(&m_parsing, &QFutureWatcherBase::finished, this, &IpcConnection::onParsed);
@@ -96,7 +96,7 @@ void IpcConnection::work()
         return;
     m_isInTurn = true;
     const QPointer<IpcConnection> self(this);
-    const QDeadlineTimer end(TurnTime, Qt::PreciseTimer);
+    const QDeadlineTimer end(turnTime, Qt::PreciseTimer);
     bool isIdle = false;
     do {
         if (m_nextRequest < m_message.size) {
@@ -131,19 +131,19 @@ void IpcConnection::wantTurn()
 
 bool IpcConnection::fetchLine()
 {
-    while (!m_received.hasLine() && m_received.lineSize() <= JsonRpc::MaximumLine) {
+    while (!m_received.hasLine() && m_received.lineSize() <= JsonRpc::maximumLine) {
         if (m_socket->bytesAvailable() == 0)
             return false;
         if (m_isRefused) {
-            m_socket->read(ReadChunk);
+            m_socket->read(readChunk);
             continue;
         }
-        m_received.appendFrom(*m_socket, ReadChunk);
+        m_received.appendFrom(*m_socket, readChunk);
     }
-    if (m_received.lineSize() <= JsonRpc::MaximumLine)
+    if (m_received.lineSize() <= JsonRpc::maximumLine)
         return true;
     refuse({JsonRpc::LineTooLong,
-            QStringLiteral("Line too long: at most %1 bytes are read").arg(JsonRpc::MaximumLine),
+            QStringLiteral("Line too long: at most %1 bytes are read").arg(JsonRpc::maximumLine),
             {}});
     return false;
 }
@@ -153,7 +153,7 @@ void IpcConnection::takeLine()
     const QByteArrayView line = m_received.takeLine();
     if (line.trimmed().isEmpty())
         return;
-    if (line.size() <= ShortLine) {
+    if (line.size() <= shortLine) {
         startMessage(IpcDispatcher::parse(line));
         return;
     }
@@ -194,7 +194,7 @@ void IpcConnection::answer(const QByteArray& line)
     m_answers += m_answers.isEmpty() ? '[' : ',';
     m_answers += QByteArrayView(line).chopped(1);
     // Already more than the client may have waiting for it.
-    if (m_answers.size() > JsonRpc::MaximumAnswers)
+    if (m_answers.size() > JsonRpc::maximumAnswers)
         closeOverflowing();
 }
 
@@ -209,9 +209,9 @@ void IpcConnection::write(const QByteArray& bytes)
 {
     if (m_isDisconnected)
         return;
-    if (m_socket->bytesToWrite() + bytes.size() > JsonRpc::MaximumAnswers)
+    if (m_socket->bytesToWrite() + bytes.size() > JsonRpc::maximumAnswers)
         m_socket->flush();
-    if (m_socket->bytesToWrite() + bytes.size() > JsonRpc::MaximumAnswers)
+    if (m_socket->bytesToWrite() + bytes.size() > JsonRpc::maximumAnswers)
         closeOverflowing();
     else if (m_received.hasLine())
         // The next answers can go with this one.
@@ -235,7 +235,7 @@ void IpcConnection::refuse(const JsonRpc::Error& error)
     write(JsonRpc::failure(QJsonValue::Null, error));
     m_socket->flush();
     // Not at once: the answer is lost to a client whose sending fails before it reads.
-    QTimer::singleShot(Farewell, m_socket, &QLocalSocket::abort);
+    QTimer::singleShot(farewell, m_socket, &QLocalSocket::abort);
 }
 
 void IpcConnection::dropWork()

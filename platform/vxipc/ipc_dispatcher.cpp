@@ -15,7 +15,7 @@ namespace {
 bool canBeId(const QJsonValue& id)
 {
     return id.isDouble() || id.isNull() ||
-           (id.isString() && id.toString().size() <= JsonRpc::MaximumText);
+           (id.isString() && id.toString().size() <= JsonRpc::maximumText);
 }
 
 /// A request's members, each looked up once.
@@ -42,7 +42,7 @@ QString defectOf(const Request& request)
         return QStringLiteral("\"method\" must be a text");
     if (!request.id.isUndefined() && !canBeId(request.id))
         return QStringLiteral("\"id\" must be a text of at most %1 characters, a number or null")
-            .arg(JsonRpc::MaximumText);
+            .arg(JsonRpc::maximumText);
     if (!request.parameters.isUndefined() && !request.parameters.isArray() &&
         !request.parameters.isObject())
         return QStringLiteral("\"params\" must be a list or an object");
@@ -53,7 +53,7 @@ QString defectOf(const Request& request)
 /// is no JSON the answer may be either.
 bool hasTooManyValues(QByteArrayView line)
 {
-    if (line.size() <= JsonRpc::MaximumLineValues)
+    if (line.size() <= JsonRpc::maximumLineValues)
         return false;
     qsizetype values = 1;
     bool isInText = false;
@@ -66,7 +66,7 @@ bool hasTooManyValues(QByteArrayView line)
         else if (!isInText && (character == ',' || character == '[' || character == '{'))
             ++values;
     }
-    return values > JsonRpc::MaximumLineValues;
+    return values > JsonRpc::maximumLineValues;
 }
 
 QByteArray invalidRequest(const QJsonValue& id, const QString& defect)
@@ -98,7 +98,7 @@ IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
     if (hasTooManyValues(line)) {
         message.failure = invalidRequest(
             QJsonValue::Null,
-            QStringLiteral("the line holds more than %1 values").arg(JsonRpc::MaximumLineValues));
+            QStringLiteral("the line holds more than %1 values").arg(JsonRpc::maximumLineValues));
         return message;
     }
     QJsonParseError error;
@@ -155,12 +155,12 @@ std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& value) const
         return std::nullopt;
     QByteArray answer = outcome.error ? JsonRpc::failure(request.id, *outcome.error)
                                       : JsonRpc::success(request.id, outcome.result);
-    if (answer.size() <= JsonRpc::MaximumAnswers)
+    if (answer.size() <= JsonRpc::maximumAnswers)
         return answer;
     return JsonRpc::failure(
         request.id,
         {JsonRpc::AnswerTooLong,
-         QStringLiteral("Answer too long: at most %1 bytes are sent").arg(JsonRpc::MaximumAnswers),
+         QStringLiteral("Answer too long: at most %1 bytes are sent").arg(JsonRpc::maximumAnswers),
          {}});
 }
 

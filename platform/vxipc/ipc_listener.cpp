@@ -13,8 +13,8 @@ Q_DECLARE_LOGGING_CATEGORY(vxIpc)
 
 namespace {
 
-constexpr std::chrono::milliseconds FirstPause = 50ms;
-constexpr std::chrono::milliseconds LongestPause = 1s;
+constexpr std::chrono::milliseconds firstPause = 50ms;
+constexpr std::chrono::milliseconds longestPause = 1s;
 
 } // namespace
 
@@ -22,7 +22,7 @@ IpcListener::IpcListener(QObject* parent)
     : QObject(parent)
     // A child, so that it moves to another thread with this object.
     , m_pause(this)
-    , m_pauseTime(FirstPause)
+    , m_pauseTime(firstPause)
 {
     m_pause.setSingleShot(true);
     connect(&m_pause, &QTimer::timeout, this, &IpcListener::letIn);
@@ -41,7 +41,7 @@ IpcListener::Outcome IpcListener::failed(const QString& what, const QString& why
 
 bool IpcListener::accept(qintptr descriptor)
 {
-    m_pauseTime = FirstPause;
+    m_pauseTime = firstPause;
     auto socket = std::make_unique<QLocalSocket>(this);
     if (!socket->setSocketDescriptor(descriptor))
         return false;
@@ -51,10 +51,10 @@ bool IpcListener::accept(qintptr descriptor)
 
 void IpcListener::pause(const QString& what, const QString& why)
 {
-    if (m_pauseTime == FirstPause) {
+    if (m_pauseTime == firstPause) {
         qCWarning(vxIpc, "%s lets nobody in until this is over: %s", qUtf8Printable(what),
                   qUtf8Printable(why));
     }
     m_pause.start(m_pauseTime);
-    m_pauseTime = std::min(2 * m_pauseTime, LongestPause);
+    m_pauseTime = std::min(2 * m_pauseTime, longestPause);
 }

@@ -22,7 +22,7 @@
 namespace {
 
 /// Those over the limit have to be let in to be told so.
-constexpr int Backlog = static_cast<int>(2 * JsonRpc::MaximumClients);
+constexpr int backlog = static_cast<int>(2 * JsonRpc::maximumClients);
 
 /// Nothing when the path is too long for a socket.
 std::optional<sockaddr_un> socketAddress(const QByteArray& path)
@@ -151,7 +151,7 @@ IpcListener::Outcome SocketListener::bindTo(const QByteArray& path, const sockad
         return errno == EADDRINUSE ? Outcome::NameTaken : systemFailed(path, errno);
     // Nobody can connect before the socket listens, and from then on only the user.
     if (chmod(path.constData(), S_IRUSR | S_IWUSR) != 0 || lstat(path.constData(), &m_entry) != 0 ||
-        ::listen(socket.get(), Backlog) != 0) {
+        ::listen(socket.get(), backlog) != 0) {
         const int error = errno;
         unlink(path.constData());
         return systemFailed(path, error);

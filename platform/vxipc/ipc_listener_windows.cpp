@@ -21,10 +21,10 @@ using WindowsSecurity::OwnedHandle;
 
 /// Each client needs an end that waits for it. Those over the limit have to be let in to be told
 /// so.
-constexpr std::size_t WaitingEnds = 2 * JsonRpc::MaximumClients;
+constexpr std::size_t waitingEnds = 2 * JsonRpc::maximumClients;
 /// What a pipe holds of bytes that are not read yet.
-constexpr DWORD BufferSize = 4096;
-constexpr DWORD DefaultWait = 3000;
+constexpr DWORD bufferSize = 4096;
+constexpr DWORD defaultWait = 3000;
 
 /// A server end of the pipe that waits for a client or has one.
 class PipeEnd
@@ -171,7 +171,7 @@ IpcListener::Outcome PipeListener::listen(const QString& name, QDeadlineTimer /*
     }
     if (hasOtherEnds(pipe.get()))
         return Outcome::NameTaken;
-    while (pipe && m_ends.size() < WaitingEnds) {
+    while (pipe && m_ends.size() < waitingEnds) {
         m_ends.push_back(std::make_unique<PipeEnd>());
         m_ends.back()->wait(std::move(pipe), m_event.get());
         pipe = newPipe();
@@ -189,7 +189,7 @@ OwnedHandle PipeListener::newPipe(DWORD flags) const
     return WindowsSecurity::owned(CreateNamedPipeW(
         qUtf16Printable(m_path), PIPE_ACCESS_DUPLEX | FILE_FLAG_OVERLAPPED | flags,
         PIPE_TYPE_BYTE | PIPE_READMODE_BYTE | PIPE_WAIT | PIPE_REJECT_REMOTE_CLIENTS,
-        PIPE_UNLIMITED_INSTANCES, BufferSize, BufferSize, DefaultWait, &attributes));
+        PIPE_UNLIMITED_INSTANCES, bufferSize, bufferSize, defaultWait, &attributes));
 }
 
 void PipeListener::letIn()

@@ -21,11 +21,13 @@ JsonRpc::Error invalidParams(const QString& message, const QJsonObject& data = {
 /// As much of a name that a client sent as an error message repeats.
 QString excerpt(const QString& name)
 {
-    constexpr qsizetype Most = 100;
-    if (name.size() <= Most)
+    constexpr qsizetype longestShown = 100;
+    if (name.size() <= longestShown)
         return name;
     // No half of a character that takes two.
-    return name.first(name.at(Most - 1).isHighSurrogate() ? Most - 1 : Most) + QStringLiteral("…");
+    return name.first(name.at(longestShown - 1).isHighSurrogate() ? longestShown - 1
+                                                                  : longestShown) +
+           QStringLiteral("…");
 }
 
 bool isCallable(const QMetaMethod& method)
@@ -124,7 +126,7 @@ IpcMethodTable::Outcome IpcMethodTable::call(const QString& name,
     QVariant result;
     if (!isVoid(resultType))
         result = QVariant(resultType);
-    QVarLengthArray<void*, UsualArguments + 1> arguments{result.isValid() ? result.data()
+    QVarLengthArray<void*, usualArguments + 1> arguments{result.isValid() ? result.data()
                                                                           : nullptr};
     for (QVariant& argument : chosen.arguments)
         arguments.append(argument.data());
@@ -169,7 +171,7 @@ IpcMethodTable::Match IpcMethodTable::match(const Method& method, const QJsonVal
     const QJsonArray array = parameters.toArray();
     if (array.size() != method.parameters.size())
         return mismatchedCount(method, array.size());
-    const QVarLengthArray<QJsonValue, UsualArguments> given(array.cbegin(), array.cend());
+    const QVarLengthArray<QJsonValue, usualArguments> given(array.cbegin(), array.cend());
     return matchArguments(method, given);
 }
 
@@ -203,7 +205,7 @@ IpcMethodTable::Match IpcMethodTable::matchNamed(const Method& method, const QJs
         return failed;
     }
 
-    QVarLengthArray<QJsonValue, UsualArguments> ordered;
+    QVarLengthArray<QJsonValue, usualArguments> ordered;
     for (const Parameter& parameter : method.parameters) {
         const auto found = given.constFind(parameter.name);
         if (found == given.constEnd()) {

@@ -61,13 +61,13 @@ private:
     };
 
     /// Room for so many saves calls from allocating it.
-    static constexpr qsizetype UsualArguments = 6;
+    static constexpr qsizetype usualArguments = 6;
 
     /// How far the arguments of a call fit a method.
     struct Match
     {
         const Method* method = nullptr;
-        QVarLengthArray<QVariant, UsualArguments> arguments;
+        QVarLengthArray<QVariant, usualArguments> arguments;
         /// The sum over the arguments.
         int fit = 0;
         std::optional<JsonRpc::Error> error;

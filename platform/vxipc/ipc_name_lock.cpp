@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto Pause = 5ms;
+constexpr auto retryPause = 5ms;
 
 bool isSameFile(const struct stat& one, const struct stat& other)
 {
@@ -40,7 +40,7 @@ IpcNameLock::Outcome IpcNameLock::lock(QDeadlineTimer end)
 {
     Outcome outcome = tryToLock();
     while (outcome == Outcome::Denied && errno == EWOULDBLOCK && !end.hasExpired()) {
-        std::this_thread::sleep_for(Pause);
+        std::this_thread::sleep_for(retryPause);
         outcome = tryToLock();
     }
     return outcome;

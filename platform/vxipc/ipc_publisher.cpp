@@ -19,14 +19,14 @@ Q_LOGGING_CATEGORY(vxIpc, "vx.ipc", QtWarningMsg)
 namespace {
 
 /// How many clients over the limit may be about to read that they are; any more are just closed.
-constexpr qsizetype MaximumRefused = 64;
+constexpr qsizetype maximumRefused = 64;
 /// How many names with the process id are tried.
-constexpr int MaximumOwnNames = 16;
+constexpr int maximumOwnNames = 16;
 /// Taking a name is a matter of a millisecond. All names together may take this long, and only at
 /// the first attempt: later ones find time again.
-constexpr auto LockTime = 500ms;
-constexpr std::chrono::milliseconds FirstRetry = 100ms;
-constexpr std::chrono::milliseconds LastRetry = 10s;
+constexpr auto lockTime = 500ms;
+constexpr std::chrono::milliseconds firstRetry = 100ms;
+constexpr std::chrono::milliseconds lastRetry = 10s;
 
 } // namespace
 
@@ -37,7 +37,7 @@ IpcPublisher::IpcPublisher(QObject& object, const QMetaObject& base)
     // Children, so that they move to another thread with the object.
     , m_listener(IpcListener::create(this))
     , m_retry(this)
-    , m_retryInterval(FirstRetry)
+    , m_retryInterval(firstRetry)
 {
     m_retry.setSingleShot(true);
     connect(&m_retry, &QTimer::timeout, this, [this] { tryToPublish(QDeadlineTimer(0ms)); });
@@ -57,7 +57,7 @@ IpcPublisher::~IpcPublisher()
 void IpcPublisher::publish(const QString& name)
 {
     m_wantedName = name;
-    tryToPublish(QDeadlineTimer(LockTime));
+    tryToPublish(QDeadlineTimer(lockTime));
 }
 
 void IpcPublisher::tryToPublish(QDeadlineTimer end)
@@ -67,16 +67,16 @@ void IpcPublisher::tryToPublish(QDeadlineTimer end)
         IpcScope::announce(m_name);
         return;
     }
-    if (m_retryInterval == FirstRetry) {
+    if (m_retryInterval == firstRetry) {
         const QString obstacle =
             outcome == IpcListener::Outcome::NameTaken
-                ? QStringLiteral("the name and %1 more like it are taken").arg(MaximumOwnNames)
+                ? QStringLiteral("the name and %1 more like it are taken").arg(maximumOwnNames)
                 : m_listener->errorString();
         qCWarning(vxIpc, "%s is not published: %s (it is tried again)",
                   qUtf8Printable(m_wantedName), qUtf8Printable(obstacle));
     }
     m_retry.start(m_retryInterval);
-    m_retryInterval = std::min(2 * m_retryInterval, LastRetry);
+    m_retryInterval = std::min(2 * m_retryInterval, lastRetry);
 }
 
 IpcListener::Outcome IpcPublisher::listen(QDeadlineTimer end)
@@ -85,7 +85,7 @@ IpcListener::Outcome IpcPublisher::listen(QDeadlineTimer end)
         m_wantedName + QLatin1Char('-') + QString::number(QCoreApplication::applicationPid());
     QString candidate = m_wantedName;
     IpcListener::Outcome outcome = m_listener->listen(candidate, end);
-    for (int i = 1; outcome == IpcListener::Outcome::NameTaken && i <= MaximumOwnNames; ++i) {
+    for (int i = 1; outcome == IpcListener::Outcome::NameTaken && i <= maximumOwnNames; ++i) {
         candidate = i == 1 ? own : own + QLatin1Char('-') + QString::number(i);
         outcome = m_listener->listen(candidate, end);
     }
@@ -99,7 +99,7 @@ void IpcPublisher::onNewConnection()
     if (!m_dispatcher)
         m_dispatcher = std::make_unique<IpcDispatcher>(m_object, m_base, m_name);
     while (QLocalSocket* socket = m_listener->nextClient()) {
-        if (m_connections.size() >= JsonRpc::MaximumClients + MaximumRefused) {
+        if (m_connections.size() >= JsonRpc::maximumClients + maximumRefused) {
             delete socket;
             continue;
         }
@@ -111,17 +111,17 @@ void IpcPublisher::onNewConnection()
         const auto served =
             std::count_if(m_connections.cbegin(), m_connections.cend(),
                           [](const IpcConnection* each) { return !each->isRefused(); });
-        IpcConnection* silent = served >= JsonRpc::MaximumClients ? longestSilent() : nullptr;
+        IpcConnection* silent = served >= JsonRpc::maximumClients ? longestSilent() : nullptr;
         m_connections.append(connection);
         if (silent) {
             silent->refuse({JsonRpc::TooManyClients,
                             QStringLiteral("Too many clients: another takes the place of this one, "
                                            "which has asked nothing for a while"),
                             {}});
-        } else if (served >= JsonRpc::MaximumClients) {
+        } else if (served >= JsonRpc::maximumClients) {
             connection->refuse({JsonRpc::TooManyClients,
                                 QStringLiteral("Too many clients: at most %1 are served at a time")
-                                    .arg(JsonRpc::MaximumClients),
+                                    .arg(JsonRpc::maximumClients),
                                 {}});
         }
     }

@@ -20,7 +20,7 @@ namespace IpcValues {
 namespace {
 
 /// Beyond these a reader that knows only double, as most do, would see another number.
-constexpr qint64 LargestSafeInteger = (Q_INT64_C(1) << 53) - 1;
+constexpr qint64 largestSafeInteger = (Q_INT64_C(1) << 53) - 1;
 
 Converted fitting(QVariant value, Fit fit = Fit::Exact)
 {
@@ -101,7 +101,7 @@ template <typename Integer>
 void writeWideInteger(JsonWriter& json, const QVariant& value)
 {
     const auto number = value.value<Integer>();
-    if (std::cmp_greater(number, LargestSafeInteger) || std::cmp_less(number, -LargestSafeInteger))
+    if (std::cmp_greater(number, largestSafeInteger) || std::cmp_less(number, -largestSafeInteger))
         json.text(QString::number(number));
     else
         json.number(static_cast<qint64>(number));
@@ -304,35 +304,36 @@ struct Kind
 };
 
 template <typename Integer>
-constexpr Kind Narrow = {integerFromJson<Integer>, writeInteger<Integer>, integerSchema};
+constexpr Kind narrow = {integerFromJson<Integer>, writeInteger<Integer>, integerSchema};
 template <typename Integer>
-constexpr Kind Wide = {wideIntegerFromJson<Integer>, writeWideInteger<Integer>, wideIntegerSchema};
+constexpr Kind wideInteger = {wideIntegerFromJson<Integer>, writeWideInteger<Integer>,
+                              wideIntegerSchema};
 /// A long is as wide as the system makes it.
 template <typename Integer>
 constexpr const Kind& nativeKind()
 {
     if constexpr (sizeof(Integer) < sizeof(qint64))
-        return Narrow<Integer>;
+        return narrow<Integer>;
     else
-        return Wide<Integer>;
+        return wideInteger<Integer>;
 }
 template <typename Real>
-constexpr Kind Floating = {realFromJson<Real>, writeReal<Real>, realSchema};
+constexpr Kind floating = {realFromJson<Real>, writeReal<Real>, realSchema};
 
 const Kind* findKind(int typeId)
 {
     static const QHash<int, Kind> kinds = {
         {QMetaType::Bool, {boolFromJson, writeBool, boolSchema}},
-        {QMetaType::Short, Narrow<short>},
-        {QMetaType::UShort, Narrow<ushort>},
-        {QMetaType::Int, Narrow<int>},
-        {QMetaType::UInt, Narrow<uint>},
+        {QMetaType::Short, narrow<short>},
+        {QMetaType::UShort, narrow<ushort>},
+        {QMetaType::Int, narrow<int>},
+        {QMetaType::UInt, narrow<uint>},
         {QMetaType::Long, nativeKind<long>()},
         {QMetaType::ULong, nativeKind<ulong>()},
-        {QMetaType::LongLong, Wide<qlonglong>},
-        {QMetaType::ULongLong, Wide<qulonglong>},
-        {QMetaType::Float, Floating<float>},
-        {QMetaType::Double, Floating<double>},
+        {QMetaType::LongLong, wideInteger<qlonglong>},
+        {QMetaType::ULongLong, wideInteger<qulonglong>},
+        {QMetaType::Float, floating<float>},
+        {QMetaType::Double, floating<double>},
         {QMetaType::QString, {textFromJson, writeText, textSchema}},
         {QMetaType::QStringList, {textListFromJson, writeTextList, textListSchema}},
         {QMetaType::QByteArray, {bytesFromJson, writeBytes, bytesSchema}},
@@ -412,7 +413,7 @@ std::optional<Excess> beyond(qsizetype found, qsizetype most, const QString& exp
 
 std::optional<Excess> excessOfText(const QString& text)
 {
-    return beyond(text.size(), JsonRpc::MaximumText,
+    return beyond(text.size(), JsonRpc::maximumText,
                   QStringLiteral("a text of at most %1 characters"));
 }
 
@@ -420,7 +421,7 @@ std::optional<Excess> excessOf(const QJsonValue& json, qsizetype& values);
 
 std::optional<Excess> excessOfList(const QJsonArray& array, qsizetype& values)
 {
-    auto excess = beyond(array.size(), JsonRpc::MaximumEntries,
+    auto excess = beyond(array.size(), JsonRpc::maximumEntries,
                          QStringLiteral("a list of at most %1 entries"));
     for (auto entry = array.begin(); !excess && entry != array.end(); ++entry)
         excess = excessOf(*entry, values);
@@ -429,7 +430,7 @@ std::optional<Excess> excessOfList(const QJsonArray& array, qsizetype& values)
 
 std::optional<Excess> excessOfObject(const QJsonObject& object, qsizetype& values)
 {
-    auto excess = beyond(object.size(), JsonRpc::MaximumEntries,
+    auto excess = beyond(object.size(), JsonRpc::maximumEntries,
                          QStringLiteral("an object of at most %1 members"));
     for (auto member = object.begin(); !excess && member != object.end(); ++member) {
         excess = excessOfText(member.key());
@@ -442,7 +443,7 @@ std::optional<Excess> excessOfObject(const QJsonObject& object, qsizetype& value
 /// `values` counts those that have been looked at so far.
 std::optional<Excess> excessOf(const QJsonValue& json, qsizetype& values)
 {
-    if (auto excess = beyond(++values, JsonRpc::MaximumValues,
+    if (auto excess = beyond(++values, JsonRpc::maximumValues,
                              QStringLiteral("at most %1 values, nested ones included")))
         return excess;
     if (json.isString())

@@ -4,11 +4,11 @@
 
 namespace {
 
-constexpr qsizetype MaximumPrinters = 4096;
+constexpr qsizetype maximumPrinters = 4096;
 /// Two backslashes, the print server's DNS name (255, Microsoft's page "Computer Names",
 /// learn.microsoft.com/windows/win32/sysinfo/computer-names), a backslash, and the printer's own
 /// name (220, ReactOS, win32ss/printing/providers/localspl/precomp.h, MAX_PRINTER_NAME).
-constexpr qsizetype MaximumNameLength = 2 + 255 + 1 + 220;
+constexpr qsizetype maximumNameLength = 2 + 255 + 1 + 220;
 
 } // namespace
 
@@ -24,14 +24,14 @@ IVXIPCM4::~IVXIPCM4() = default;
 
 QString IVXIPCM4::objectionToKeeping(const QString& printerName)
 {
-    if (printerName.size() > MaximumNameLength) {
+    if (printerName.size() > maximumNameLength) {
         return QStringLiteral("a printer's name has at most %1 characters, got %2")
-            .arg(MaximumNameLength)
+            .arg(maximumNameLength)
             .arg(printerName.size());
     }
-    if (m_reportedPrinters.size() >= MaximumPrinters && !m_reportedPrinters.contains(printerName)) {
+    if (m_reportedPrinters.size() >= maximumPrinters && !m_reportedPrinters.contains(printerName)) {
         return QStringLiteral("%1 printers were reported by other processes, and no more are kept")
-            .arg(MaximumPrinters);
+            .arg(maximumPrinters);
     }
     m_reportedPrinters.insert(printerName);
     return {};

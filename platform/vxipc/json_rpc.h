@@ -26,16 +26,16 @@ enum ErrorCode : int
     Refused = -32003,
 };
 
-inline constexpr qsizetype MaximumLine = qsizetype{1} << 20;
+inline constexpr qsizetype maximumLine = qsizetype{1} << 20;
 /// Small values take up to 40 times as much memory as their line does.
-inline constexpr qsizetype MaximumLineValues = 65536;
-inline constexpr qsizetype MaximumClients = 64;
-inline constexpr qsizetype MaximumAnswers = qsizetype{4} << 20;
+inline constexpr qsizetype maximumLineValues = 65536;
+inline constexpr qsizetype maximumClients = 64;
+inline constexpr qsizetype maximumAnswers = qsizetype{4} << 20;
 /// What an argument may hold, so that no call takes the endpoint's thread for long: characters of a
 /// text, entries of a list or members of an object, and values in all where these are nested.
-inline constexpr qsizetype MaximumText = 4096;
-inline constexpr qsizetype MaximumEntries = 64;
-inline constexpr qsizetype MaximumValues = 1024;
+inline constexpr qsizetype maximumText = 4096;
+inline constexpr qsizetype maximumEntries = 64;
+inline constexpr qsizetype maximumValues = 1024;
 
 /// The error object of an answer.
 struct Error

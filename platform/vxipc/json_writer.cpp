@@ -53,9 +53,9 @@ template <typename Number>
 void JsonWriter::digits(Number number)
 {
     // More than any number takes.
-    constexpr qsizetype Most = 32;
-    char* begin = room(Most);
-    const auto [end, error] = std::to_chars(begin, begin + Most, number);
+    constexpr qsizetype longestNumber = 32;
+    char* begin = room(longestNumber);
+    const auto [end, error] = std::to_chars(begin, begin + longestNumber, number);
     m_json.resize(end - m_json.data());
 }
 

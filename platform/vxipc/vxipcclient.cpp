@@ -23,13 +23,13 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr std::chrono::milliseconds DefaultTimeout = 30s;
+constexpr std::chrono::milliseconds defaultTimeout = 30s;
 /// A living endpoint takes a connection at once, even when its process is busy.
-constexpr std::chrono::milliseconds ConnectTime = 1s;
-constexpr std::chrono::milliseconds FirstRetry = 100ms;
-constexpr std::chrono::milliseconds LastRetry = 5s;
+constexpr std::chrono::milliseconds connectTime = 1s;
+constexpr std::chrono::milliseconds firstRetry = 100ms;
+constexpr std::chrono::milliseconds lastRetry = 5s;
 /// An endpoint's longest answer and what surrounds it in a batch.
-constexpr qsizetype MaximumLine = 2 * JsonRpc::MaximumAnswers;
+constexpr qsizetype maximumLine = 2 * JsonRpc::maximumAnswers;
 
 VXIPCReply failed(VXIPCError::Code code, const QString& message)
 {
@@ -73,7 +73,7 @@ public:
     Q_DISABLE_COPY_MOVE(Private)
 
     bool isConnected() const { return m_socket->state() == QLocalSocket::ConnectedState; }
-    bool connectNow(std::chrono::milliseconds limit = ConnectTime);
+    bool connectNow(std::chrono::milliseconds limit = connectTime);
     void disconnectNow();
     void call(const QString& method, const QJsonValue& parameters, Callback done);
     VXIPCReply callAndWait(const QString& method, const QJsonValue& parameters,
@@ -81,7 +81,7 @@ public:
     bool notify(const QString& method, const QJsonValue& parameters);
 
     const QString serverName;
-    std::chrono::milliseconds timeout = DefaultTimeout;
+    std::chrono::milliseconds timeout = defaultTimeout;
 
 private:
     struct Call
@@ -112,7 +112,7 @@ private:
     QString m_obstacle;
     QTimer m_lateness;
     QTimer m_reconnect;
-    std::chrono::milliseconds m_retryInterval = FirstRetry;
+    std::chrono::milliseconds m_retryInterval = firstRetry;
 
     LineBuffer m_received;
     qint64 m_lastId = 0;
@@ -157,12 +157,12 @@ bool VXIPCClient::Private::connectNow(std::chrono::milliseconds limit)
         return true;
     m_reconnect.stop();
     m_received.clear();
-    m_obstacle = connectToEndpoint(*m_socket, serverName, std::clamp(limit, 0ms, ConnectTime));
+    m_obstacle = connectToEndpoint(*m_socket, serverName, std::clamp(limit, 0ms, connectTime));
     if (!isConnected()) {
         retryLater();
         return false;
     }
-    m_retryInterval = FirstRetry;
+    m_retryInterval = firstRetry;
     Q_EMIT q.connected();
     return isConnected();
 }
@@ -176,7 +176,7 @@ void VXIPCClient::Private::disconnectNow()
 void VXIPCClient::Private::retryLater()
 {
     m_reconnect.start(m_retryInterval);
-    m_retryInterval = std::min(2 * m_retryInterval, LastRetry);
+    m_retryInterval = std::min(2 * m_retryInterval, lastRetry);
 }
 
 void VXIPCClient::Private::call(const QString& method, const QJsonValue& parameters, Callback done)
@@ -228,11 +228,11 @@ bool VXIPCClient::Private::notify(const QString& method, const QJsonValue& param
 std::optional<VXIPCReply> VXIPCClient::Private::send(const QByteArray& line,
                                                      std::chrono::milliseconds limit)
 {
-    if (line.size() > JsonRpc::MaximumLine + 1) {
+    if (line.size() > JsonRpc::maximumLine + 1) {
         return VXIPCReply{QJsonValue::Null,
                           VXIPCError{JsonRpc::LineTooLong,
                                      QStringLiteral("Line too long: at most %1 bytes can be sent")
-                                         .arg(JsonRpc::MaximumLine),
+                                         .arg(JsonRpc::maximumLine),
                                      {}}};
     }
     if (!connectNow(limit)) {
@@ -260,7 +260,7 @@ void VXIPCClient::Private::onReadyRead()
             continue;
         }
         m_received.appendFrom(*m_socket, m_socket->bytesAvailable());
-        if (m_received.lineSize() > MaximumLine && !m_received.hasLine()) {
+        if (m_received.lineSize() > maximumLine && !m_received.hasLine()) {
             finishAll(failed(VXIPCError::BadAnswer, QStringLiteral("the answer has no end")));
             if (!alive)
                 return;
@@ -441,7 +441,7 @@ QStringList VXIPCClient::runningServers()
     for (const QStringList names = IpcScope::names(QStringLiteral("vxipc-"));
          const QString& name : names) {
         QLocalSocket probe;
-        connectToEndpoint(probe, name, ConnectTime);
+        connectToEndpoint(probe, name, connectTime);
         if (probe.state() == QLocalSocket::ConnectedState)
             running.append(name);
     }

@@ -17,10 +17,10 @@ struct Language
     qint32 id;
 };
 
-constexpr qint32 English = 0;
+constexpr qint32 english = 0;
 
-constexpr std::array Languages{
-    Language{QLocale::English, QLocale::AnyScript, English},
+constexpr std::array knownLanguages{
+    Language{QLocale::English, QLocale::AnyScript, english},
     Language{QLocale::German, QLocale::AnyScript, 1},
     Language{QLocale::French, QLocale::AnyScript, 2},
     Language{QLocale::Spanish, QLocale::AnyScript, 3},
@@ -37,11 +37,11 @@ constexpr std::array Languages{
 std::optional<qint32> listedId(const QString& localeName)
 {
     const QLocale locale(localeName);
-    const auto found = std::ranges::find_if(Languages, [&locale](const Language& candidate) {
+    const auto found = std::ranges::find_if(knownLanguages, [&locale](const Language& candidate) {
         return candidate.language == locale.language() &&
                (candidate.script == QLocale::AnyScript || candidate.script == locale.script());
     });
-    if (found == Languages.end())
+    if (found == knownLanguages.end())
         return std::nullopt;
     return found->id;
 }
@@ -67,5 +67,5 @@ qint32 VXLocaleLanguages::languageId(const QStringList& localeNames)
         if (const std::optional<qint32> id = listedId(name))
             return *id;
     }
-    return English;
+    return english;
 }

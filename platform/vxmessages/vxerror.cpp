@@ -16,7 +16,7 @@ struct Description
 };
 
 // clang-format off
-constexpr std::array Descriptions{
+constexpr std::array descriptions{
     Description{0,   QT_TRANSLATE_NOOP("VXError", "The printer is disconnected")},
     Description{1,   QT_TRANSLATE_NOOP("VXError", "The printer is ready")},
     Description{2,   QT_TRANSLATE_NOOP("VXError", "The printer is out of labels")},
@@ -53,8 +53,8 @@ constexpr std::array Descriptions{
 
 QString getErrorDescription(const VXError& error)
 {
-    const auto found = std::ranges::find(Descriptions, error.code, &Description::code);
-    if (found == Descriptions.end())
+    const auto found = std::ranges::find(descriptions, error.code, &Description::code);
+    if (found == descriptions.end())
         return QCoreApplication::translate("VXError", "Printer error %1").arg(error.code);
     return QCoreApplication::translate("VXError", found->text);
 }

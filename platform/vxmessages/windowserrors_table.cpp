@@ -16,7 +16,7 @@ struct Text
     const char* text;
 };
 
-constexpr std::array Texts{
+constexpr std::array knownTexts{
     Text{0, "No error."},
     Text{2, "The file or entry does not exist."},
     Text{3, "The path does not exist."},
@@ -58,8 +58,8 @@ constexpr std::array Texts{
 
 QString WindowsErrors::winError(unsigned long code)
 {
-    const auto found = std::ranges::find(Texts, code, &Text::code);
-    if (found == Texts.end())
+    const auto found = std::ranges::find(knownTexts, code, &Text::code);
+    if (found == knownTexts.end())
         return QStringLiteral("Windows error %1").arg(code);
     return QString::fromLatin1(found->text);
 }

@@ -10,9 +10,9 @@
 namespace {
 
 // SQLite's result codes; the low byte of an extended one is the code that it extends.
-constexpr int SqliteBusy = 5;
-constexpr int SqliteLocked = 6;
-constexpr int PrimaryCode = 0xff;
+constexpr int sqliteBusy = 5;
+constexpr int sqliteLocked = 6;
+constexpr int primaryCode = 0xff;
 
 LockPatience::Milliseconds systemNow()
 {
@@ -44,11 +44,11 @@ LockPatience& LockPatience::ofThisThread()
 bool LockPatience::wait()
 {
     const Milliseconds start = m_clock.now();
-    if (m_lastWait && start - *m_lastWait >= Rest)
+    if (m_lastWait && start - *m_lastWait >= rest)
         m_waited = Milliseconds{0};
-    if (m_waited >= MaxWait)
+    if (m_waited >= maxWait)
         return false;
-    m_clock.sleep(std::min(Pause, MaxWait - m_waited));
+    m_clock.sleep(std::min(pause, maxWait - m_waited));
     m_lastWait = m_clock.now();
     m_waited += *m_lastWait - start;
     return true;
@@ -61,6 +61,6 @@ bool LockPatience::waitAfter(const QSqlError& error)
 
 bool LockPatience::isLocked(const QSqlError& error)
 {
-    const int code = error.nativeErrorCode().toInt() & PrimaryCode;
-    return code == SqliteBusy || code == SqliteLocked;
+    const int code = error.nativeErrorCode().toInt() & primaryCode;
+    return code == sqliteBusy || code == sqliteLocked;
 }

@@ -10,16 +10,16 @@
 /// How long a thread waits for a file that somebody else has locked.
 ///
 /// One record takes dozens of questions, and a host may have a hundred printers. The bound is
-/// therefore for all questions of the thread together: they wait `MaxWait`, then no more until
-/// `Rest` has passed without a wait.
+/// therefore for all questions of the thread together: they wait `maxWait`, then no more until
+/// `rest` has passed without a wait.
 class LockPatience
 {
 public:
     using Milliseconds = std::chrono::milliseconds;
 
-    static constexpr Milliseconds MaxWait{100};
-    static constexpr Milliseconds Pause{5};
-    static constexpr Milliseconds Rest{1000};
+    static constexpr Milliseconds maxWait{100};
+    static constexpr Milliseconds pause{5};
+    static constexpr Milliseconds rest{1000};
 
     /// Where the time comes from, and how it passes.
     struct Clock

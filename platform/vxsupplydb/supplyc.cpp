@@ -9,9 +9,9 @@
 
 namespace {
 
-constexpr qsizetype LengthDigits = 8;
-constexpr qsizetype KindDigits = 6;
-constexpr qsizetype RollDigits = 6;
+constexpr qsizetype lengthDigits = 8;
+constexpr qsizetype kindDigits = 6;
+constexpr qsizetype rollDigits = 6;
 
 // Signs, spaces and prefixes, which the conversion alone would let through, are no digits.
 std::optional<quint32> number(QStringView digits, int base)
@@ -30,12 +30,12 @@ std::optional<quint32> number(QStringView digits, int base)
 
 SupplyC::SupplyC(const QString& identifier)
 {
-    if (identifier.size() != LengthDigits + KindDigits + RollDigits)
+    if (identifier.size() != lengthDigits + kindDigits + rollDigits)
         return;
     const QStringView text(identifier);
-    const std::optional<quint32> feet = number(text.first(LengthDigits), 16);
-    const std::optional<quint32> kindNumber = number(text.sliced(LengthDigits, KindDigits), 10);
-    const std::optional<quint32> roll = number(text.last(RollDigits), 16);
+    const std::optional<quint32> feet = number(text.first(lengthDigits), 16);
+    const std::optional<quint32> kindNumber = number(text.sliced(lengthDigits, kindDigits), 10);
+    const std::optional<quint32> roll = number(text.last(rollDigits), 16);
     if (!feet || !kindNumber || !roll)
         return;
     lengthInFeet = static_cast<qint32>(*feet);

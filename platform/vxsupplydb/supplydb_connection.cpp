@@ -16,13 +16,13 @@
 namespace {
 
 // What SQLite's file format has in the first bytes of every file.
-constexpr char Magic[] = "SQLite format 3"; // with its NUL
-constexpr qsizetype HeaderSize = 100;
-constexpr qsizetype WriteVersionOffset = 18;
-constexpr qsizetype ReadVersionOffset = 19;
-constexpr qsizetype UserVersionOffset = 60;
-constexpr qsizetype ApplicationIdOffset = 68;
-constexpr char RollbackJournal = 1;
+constexpr char magic[] = "SQLite format 3"; // with its NUL
+constexpr qsizetype fileHeaderSize = 100;
+constexpr qsizetype writeVersionOffset = 18;
+constexpr qsizetype readVersionOffset = 19;
+constexpr qsizetype userVersionOffset = 60;
+constexpr qsizetype applicationIdOffset = 68;
+constexpr char rollbackJournal = 1;
 
 quint32 numberAt(const QByteArray& header, qsizetype offset)
 {
@@ -43,18 +43,18 @@ QSqlDatabase addConnection(const QString& wantedName)
 
 QString headerFault(const QByteArray& header)
 {
-    if (header.size() < HeaderSize || !header.startsWith(QByteArray(Magic, sizeof(Magic))))
+    if (header.size() < fileHeaderSize || !header.startsWith(QByteArray(magic, sizeof(magic))))
         return QStringLiteral("not an SQLite database");
-    if (numberAt(header, ApplicationIdOffset) != SupplyDbSchema::ApplicationId)
+    if (numberAt(header, applicationIdOffset) != SupplyDbSchema::applicationId)
         return QStringLiteral("an SQLite database, but not a supply database");
-    const quint32 version = numberAt(header, UserVersionOffset);
-    if (version != SupplyDbSchema::Version)
+    const quint32 version = numberAt(header, userVersionOffset);
+    if (version != SupplyDbSchema::schemaVersion)
         return QStringLiteral("of schema version %1, where version %2 can be read")
             .arg(version)
-            .arg(SupplyDbSchema::Version);
+            .arg(SupplyDbSchema::schemaVersion);
     // SQLite makes files beside one with a write-ahead log, even to read it.
-    if (header.at(WriteVersionOffset) != RollbackJournal ||
-        header.at(ReadVersionOffset) != RollbackJournal)
+    if (header.at(writeVersionOffset) != rollbackJournal ||
+        header.at(readVersionOffset) != rollbackJournal)
         return QStringLiteral("kept with a write-ahead log, which cannot be read without writing");
     return {};
 }
@@ -74,9 +74,9 @@ struct Finding
     }
 };
 Q_CONSTINIT QBasicMutex findingsMutex;
-constexpr qsizetype MaxFindings = 16;
+constexpr qsizetype maxFindings = 16;
 // A file that has just been written may be written again without its time being another.
-constexpr qint64 ModifiedLongAgo = 2000;
+constexpr qint64 modifiedLongAgo = 2000;
 
 QHash<QString, Finding>& findings()
 {
@@ -95,9 +95,9 @@ QString pagesFault(QFile& file, const Finding& asItIs)
     }
     Finding finding = asItIs;
     finding.fault = SupplyDbPages::fault(file);
-    if (QDateTime::currentMSecsSinceEpoch() - finding.modified > ModifiedLongAgo) {
+    if (QDateTime::currentMSecsSinceEpoch() - finding.modified > modifiedLongAgo) {
         const QMutexLocker locker(&findingsMutex);
-        if (findings().size() >= MaxFindings)
+        if (findings().size() >= maxFindings)
             findings().clear();
         findings().insert(file.fileName(), finding);
     }
@@ -113,7 +113,7 @@ QString fileFault(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return QStringLiteral("cannot be read: %1").arg(file.errorString());
-    const QByteArray header = file.read(HeaderSize);
+    const QByteArray header = file.read(fileHeaderSize);
     const QString fault = headerFault(header);
     if (!fault.isEmpty())
         return fault;
@@ -144,7 +144,7 @@ bool SupplyDbConnection::open()
     if (m_database.isOpen())
         return true;
     const bool isTooEarly =
-        m_sinceFault.isValid() && !m_sinceFault.hasExpired(RetryInterval.count());
+        m_sinceFault.isValid() && !m_sinceFault.hasExpired(retryInterval.count());
     if (!m_isSetUp || isTooEarly)
         return false;
     m_fault = tryToOpen();

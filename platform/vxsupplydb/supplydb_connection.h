@@ -14,7 +14,7 @@ class SupplyDbConnection
 public:
     /// A file that cannot be used may be there, or in order, a moment later. To look at it for each
     /// question would cost more than the answers of one that is in order.
-    static constexpr std::chrono::milliseconds RetryInterval{1000};
+    static constexpr std::chrono::milliseconds retryInterval{1000};
 
     SupplyDbConnection() = default;
     ~SupplyDbConnection();
@@ -24,7 +24,7 @@ public:
     void setUp(const QString& path, const QString& connectionName);
     /// Opens the file that was set up, on a connection of the name that was given, or of the name
     /// with a number behind it where another connection of the process has it. False when the file
-    /// cannot be used: fault() says why then, and the file is left alone until `RetryInterval` has
+    /// cannot be used: fault() says why then, and the file is left alone until `retryInterval` has
     /// passed.
     bool open();
     /// Statements made on the connection must be gone before.

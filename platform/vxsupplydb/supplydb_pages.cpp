@@ -20,29 +20,29 @@
 namespace {
 
 using SupplyDbSchema::Entry;
-using SupplyDbSchema::MaxFileBytes;
+using SupplyDbSchema::maxFileBytes;
 
 // The file's header, which is the beginning of page 1.
-constexpr qsizetype HeaderSize = 100;
-constexpr qsizetype PageSizeOffset = 16;
-constexpr qsizetype ReservedOffset = 20;
-constexpr qsizetype EncodingOffset = 56;
-constexpr quint32 LargestPageSize = 65536; // written as 1, which is what fits
-constexpr quint32 SmallestPageSize = 512;
-constexpr quint32 SmallestUsableSize = 480;
-constexpr quint32 Utf8 = 1;
+constexpr qsizetype fileHeaderSize = 100;
+constexpr qsizetype pageSizeOffset = 16;
+constexpr qsizetype reservedOffset = 20;
+constexpr qsizetype encodingOffset = 56;
+constexpr quint32 largestPageSize = 65536; // written as 1, which is what fits
+constexpr quint32 smallestPageSize = 512;
+constexpr quint32 smallestUsableSize = 480;
+constexpr quint32 utf8 = 1;
 
-constexpr quint32 SchemaPage = 1;
+constexpr quint32 schemaPage = 1;
 
 // A page of a tree: its kind, the number of its cells, the page behind its last cell, and then the
 // places of the cells.
-constexpr qsizetype CellCountOffset = 3;
-constexpr qsizetype LastChildOffset = 8;
-constexpr qsizetype LeafHeaderSize = 8;
-constexpr qsizetype InnerHeaderSize = 12;
-constexpr qsizetype CellPlaceSize = 2;
-constexpr qsizetype PageNumberSize = 4;
-constexpr qsizetype SmallestCellSize = 4;
+constexpr qsizetype cellCountOffset = 3;
+constexpr qsizetype lastChildOffset = 8;
+constexpr qsizetype leafHeaderSize = 8;
+constexpr qsizetype innerHeaderSize = 12;
+constexpr qsizetype cellPlaceSize = 2;
+constexpr qsizetype pageNumberSize = 4;
+constexpr qsizetype smallestCellSize = 4;
 
 /// The kinds of a tree's pages. SQLite keeps a table without row ids as it keeps an index.
 struct TreeKind
@@ -50,8 +50,8 @@ struct TreeKind
     quint8 inner;
     quint8 leaf;
 };
-constexpr TreeKind RowIdTree{5, 13};
-constexpr TreeKind KeyTree{2, 10};
+constexpr TreeKind rowIdTree{5, 13};
+constexpr TreeKind keyTree{2, 10};
 
 template <typename Number>
 Number numberAt(const QByteArray& bytes, qsizetype offset)
@@ -72,11 +72,11 @@ public:
     qsizetype offset() const { return m_offset; }
     std::optional<quint64> next()
     {
-        constexpr int LongestVarint = 9;
+        constexpr int longestVarint = 9;
         quint64 number = 0;
         for (int i = 1; m_offset < m_end; ++i) {
             const auto byte = static_cast<quint8>(m_bytes.at(m_offset++));
-            if (i == LongestVarint)
+            if (i == longestVarint)
                 return number << 8U | byte;
             number = number << 7U | (byte & 0x7fU);
             if (byte < 0x80U)
@@ -104,13 +104,13 @@ struct SchemaRow
 // What is written before the columns of a row says the type of each, and so its size.
 std::optional<qsizetype> columnSize(quint64 type, quint64 most)
 {
-    constexpr std::array<qsizetype, 10> Sizes{0, 1, 2, 3, 4, 6, 8, 8, 0, 0};
-    constexpr quint64 FirstOfVariableSize = 12;
-    if (type < Sizes.size())
-        return Sizes[type];
-    if (type < FirstOfVariableSize || (type - FirstOfVariableSize) / 2 > most)
+    constexpr std::array<qsizetype, 10> sizes{0, 1, 2, 3, 4, 6, 8, 8, 0, 0};
+    constexpr quint64 firstOfVariableSize = 12;
+    if (type < sizes.size())
+        return sizes[type];
+    if (type < firstOfVariableSize || (type - firstOfVariableSize) / 2 > most)
         return std::nullopt;
-    return static_cast<qsizetype>((type - FirstOfVariableSize) / 2);
+    return static_cast<qsizetype>((type - firstOfVariableSize) / 2);
 }
 
 std::optional<SchemaRow> schemaRow(const QByteArray& row)
@@ -179,22 +179,22 @@ private:
 
     bool readHeader()
     {
-        if (m_file.size() > MaxFileBytes)
-            return refuse(QStringLiteral("larger than %1 MiB").arg(MaxFileBytes >> 20));
+        if (m_file.size() > maxFileBytes)
+            return refuse(QStringLiteral("larger than %1 MiB").arg(maxFileBytes >> 20));
         QByteArray header;
         if (m_file.seek(0))
-            header = m_file.read(HeaderSize);
-        if (header.size() < HeaderSize)
-            return damaged(SchemaPage, "is cut off");
-        m_pageSize = numberAt<quint16>(header, PageSizeOffset);
+            header = m_file.read(fileHeaderSize);
+        if (header.size() < fileHeaderSize)
+            return damaged(schemaPage, "is cut off");
+        m_pageSize = numberAt<quint16>(header, pageSizeOffset);
         if (m_pageSize == 1)
-            m_pageSize = LargestPageSize;
-        const quint32 reserved = numberAt<quint8>(header, ReservedOffset);
-        if (m_pageSize < SmallestPageSize || (m_pageSize & (m_pageSize - 1)) != 0 ||
-            m_pageSize < SmallestUsableSize + reserved)
-            return damaged(SchemaPage, "has no size that a page can have");
+            m_pageSize = largestPageSize;
+        const quint32 reserved = numberAt<quint8>(header, reservedOffset);
+        if (m_pageSize < smallestPageSize || (m_pageSize & (m_pageSize - 1)) != 0 ||
+            m_pageSize < smallestUsableSize + reserved)
+            return damaged(schemaPage, "has no size that a page can have");
         m_usableSize = static_cast<qsizetype>(m_pageSize - reserved);
-        if (numberAt<quint32>(header, EncodingOffset) != Utf8)
+        if (numberAt<quint32>(header, encodingOffset) != utf8)
             return refuse(QStringLiteral("its texts are not UTF-8"));
         m_isTaken.assign(static_cast<std::size_t>(m_file.size() / m_pageSize) + 1, false);
         return true;
@@ -203,17 +203,17 @@ private:
     bool readSchema()
     {
         QList<QByteArray> rows;
-        if (!walk(SchemaPage, SupplyDbSchema::schemaTable(), &rows))
+        if (!walk(schemaPage, SupplyDbSchema::schemaTable(), &rows))
             return false;
         for (const QByteArray& bytes : rows) {
             std::optional<SchemaRow> row = schemaRow(bytes);
             if (!row)
-                return damaged(SchemaPage, "lists a table that cannot be read");
+                return damaged(schemaPage, "lists a table that cannot be read");
             m_schema.append(*std::move(row));
         }
         return isOurSchema() ||
                refuse(QStringLiteral("its tables are not those of schema version %1")
-                          .arg(SupplyDbSchema::Version));
+                          .arg(SupplyDbSchema::schemaVersion));
     }
 
     bool isOurSchema() const
@@ -269,34 +269,34 @@ private:
     bool checkPage(quint32 number, const QByteArray& page, const Entry& entry,
                    QList<QByteArray>* rows)
     {
-        const TreeKind& kind = entry.hasRowIds ? RowIdTree : KeyTree;
-        const qsizetype start = number == SchemaPage ? HeaderSize : 0;
+        const TreeKind& kind = entry.hasRowIds ? rowIdTree : keyTree;
+        const qsizetype start = number == schemaPage ? fileHeaderSize : 0;
         const auto type = numberAt<quint8>(page, start);
         if (type != kind.inner && type != kind.leaf)
             return damaged(number, "is of a kind that does not belong there");
         const bool isInner = type == kind.inner;
-        const qsizetype places = start + (isInner ? InnerHeaderSize : LeafHeaderSize);
-        const qsizetype cells = numberAt<quint16>(page, start + CellCountOffset);
-        qsizetype room = m_usableSize - places - cells * (CellPlaceSize + SmallestCellSize);
+        const qsizetype places = start + (isInner ? innerHeaderSize : leafHeaderSize);
+        const qsizetype cells = numberAt<quint16>(page, start + cellCountOffset);
+        qsizetype room = m_usableSize - places - cells * (cellPlaceSize + smallestCellSize);
         if (room < 0)
             return damaged(number, "holds more than fits");
         for (qsizetype i = 0; i < cells; ++i) {
-            const qsizetype place = numberAt<quint16>(page, places + i * CellPlaceSize);
+            const qsizetype place = numberAt<quint16>(page, places + i * cellPlaceSize);
             if (isInner && !takeChild(number, page, place))
                 return false;
             if (isInner && entry.hasRowIds)
                 continue; // a row id, and no row
             const std::optional<Cell> cell =
-                cellAt(page, place + (isInner ? PageNumberSize : 0), entry.hasRowIds);
+                cellAt(page, place + (isInner ? pageNumberSize : 0), entry.hasRowIds);
             if (!cell)
                 return damaged(number, "has a row outside of it");
-            room -= std::max<qsizetype>(0, cell->end - place - SmallestCellSize);
+            room -= std::max<qsizetype>(0, cell->end - place - smallestCellSize);
             if (room < 0)
                 return damaged(number, "holds more than fits");
             if (!checkRow(page, *cell, entry, rows))
                 return false;
         }
-        return !isInner || takeChild(number, page, start + LastChildOffset);
+        return !isInner || takeChild(number, page, start + lastChildOffset);
     }
 
     bool checkRow(const QByteArray& page, const Cell& cell, const Entry& entry,
@@ -321,7 +321,7 @@ private:
 
     bool takeChild(quint32 number, const QByteArray& page, qsizetype place)
     {
-        if (place + PageNumberSize > m_usableSize)
+        if (place + pageNumberSize > m_usableSize)
             return damaged(number, "has a row outside of it");
         m_waiting.push_back(numberAt<quint32>(page, place));
         return take(m_waiting.back());
@@ -336,7 +336,7 @@ private:
         Cell cell{.payload = *payload, .start = numbers.offset()};
         cell.local = localSize(*payload, hasRowId);
         cell.hasRest = static_cast<quint64>(cell.local) < *payload;
-        cell.end = cell.start + cell.local + (cell.hasRest ? PageNumberSize : 0);
+        cell.end = cell.start + cell.local + (cell.hasRest ? pageNumberSize : 0);
         if (cell.end > m_usableSize)
             return std::nullopt;
         return cell;
@@ -363,8 +363,8 @@ private:
         while (left > 0) {
             if (!take(next) || !read(next, link))
                 return false;
-            const qsizetype size = std::min(left, m_usableSize - PageNumberSize);
-            row.append(link.constData() + PageNumberSize, size);
+            const qsizetype size = std::min(left, m_usableSize - pageNumberSize);
+            row.append(link.constData() + pageNumberSize, size);
             left -= size;
             next = numberAt<quint32>(link, 0);
         }

@@ -128,12 +128,12 @@ constexpr const char* Indices[][2] = {
 };
 
 // The longest of a row's texts have 200 characters of at most four bytes.
-constexpr qsizetype MaxRowBytes = 2048;
+constexpr qsizetype maxRowBytes = 2048;
 // Bounded by the file's size, where rows are never read in whole.
-constexpr qsizetype AnyNumber = std::numeric_limits<qsizetype>::max();
+constexpr qsizetype anyNumber = std::numeric_limits<qsizetype>::max();
 
 // Of the list of tables and indices: enough to see that a file has others than ours.
-constexpr qsizetype MaxEntries = 64;
+constexpr qsizetype maxEntries = 64;
 
 QString tableName(const QString& statement)
 {
@@ -144,13 +144,13 @@ qsizetype maxRowsOf(const QString& table)
 {
     const bool isListed = table == QLatin1String("supply") || table == QLatin1String("ribbon") ||
                           table == QLatin1String("printer_format");
-    return isListed ? SupplyDbSchema::MaxListedRows : AnyNumber;
+    return isListed ? SupplyDbSchema::maxListedRows : anyNumber;
 }
 
 qsizetype maxRowBytesOf(const QString& table)
 {
-    return table == QLatin1String("background") ? SupplyDbSchema::MaxImageBytes + MaxRowBytes
-                                                : MaxRowBytes;
+    return table == QLatin1String("background") ? SupplyDbSchema::maxImageBytes + maxRowBytes
+                                                : maxRowBytes;
 }
 
 QList<SupplyDbSchema::Entry> makeEntries()
@@ -165,7 +165,7 @@ QList<SupplyDbSchema::Entry> makeEntries()
     }
     for (const auto& [index, table] : Indices) {
         all.append({QStringLiteral("index"), QString::fromLatin1(index), QString::fromLatin1(table),
-                    QString(), false, AnyNumber, MaxRowBytes});
+                    QString(), false, anyNumber, maxRowBytes});
     }
     return all;
 }
@@ -191,16 +191,16 @@ const SupplyDbSchema::Entry& SupplyDbSchema::schemaTable()
                              QStringLiteral("sqlite_schema"),
                              QString(),
                              true,
-                             MaxEntries,
-                             MaxRowBytes};
+                             maxEntries,
+                             maxRowBytes};
     return table;
 }
 
 QStringList SupplyDbSchema::statements()
 {
     QStringList all{
-        QStringLiteral("PRAGMA application_id = %1").arg(ApplicationId),
-        QStringLiteral("PRAGMA user_version = %1").arg(Version),
+        QStringLiteral("PRAGMA application_id = %1").arg(applicationId),
+        QStringLiteral("PRAGMA user_version = %1").arg(schemaVersion),
     };
     for (const char* table : Tables)
         all.append(QString::fromLatin1(table));
@@ -213,7 +213,7 @@ bool SupplyDbSchema::isSku(const QString& text)
         const auto lower = static_cast<char16_t>(character.unicode() | 0x20U);
         return (character >= u'0' && character <= u'9') || (lower >= u'a' && lower <= u'z');
     };
-    return !text.isEmpty() && text.size() <= MaxSkuLength && isAlphanumeric(text.front()) &&
+    return !text.isEmpty() && text.size() <= maxSkuLength && isAlphanumeric(text.front()) &&
            std::ranges::all_of(text, [&isAlphanumeric](QChar character) {
                return isAlphanumeric(character) || character == u'.' || character == u'_' ||
                       character == u'-';

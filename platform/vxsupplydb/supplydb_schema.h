@@ -10,23 +10,23 @@
 namespace SupplyDbSchema {
 
 /// Marks an SQLite file as a supply database: the letters "VXSD".
-constexpr quint32 ApplicationId = 0x56585344;
+constexpr quint32 applicationId = 0x56585344;
 /// Grows with every change that an older reader would misunderstand.
-constexpr quint32 Version = 1;
+constexpr quint32 schemaVersion = 1;
 
 /// The language that every name is had in, and that stands in where another is missing.
-constexpr int FallbackLanguage = 0;
+constexpr int fallbackLanguage = 0;
 
-constexpr int MaxSkuLength = 40;
-constexpr int MaxNameLength = 200;
-constexpr int MaxImageBytes = 256 * 1024;
-constexpr int MaxKind = 999999;
-constexpr int MaxRibbonNumber = 100000;
+constexpr int maxSkuLength = 40;
+constexpr int maxNameLength = 200;
+constexpr int maxImageBytes = 256 * 1024;
+constexpr int maxKind = 999999;
+constexpr int maxRibbonNumber = 100000;
 
 /// What a reader takes. A file is refused in whole that has more.
-constexpr qint64 MaxFileBytes = qint64{64} << 20;
+constexpr qint64 maxFileBytes = qint64{64} << 20;
 /// Of supplies, of ribbons, and of the formats of all printer models: these are read in whole.
-constexpr qsizetype MaxListedRows = 16384;
+constexpr qsizetype maxListedRows = 16384;
 
 /// A table or an index as the file itself lists it.
 struct Entry

@@ -20,10 +20,10 @@ const QString BlankSupplyId = QStringLiteral("00000000000000000000");
 const QStringList BlankRibbonIds{QString(), QStringLiteral("-1"), QStringLiteral("4294967295"),
                                  QStringLiteral("0")};
 
-constexpr qsizetype KeptRecords = 256;
-constexpr qsizetype KeptSettings = 2048;
-constexpr qsizetype KeptListEntries = 16384;
-constexpr qsizetype KeptImageBytes = qsizetype{4} << 20;
+constexpr qsizetype keptRecords = 256;
+constexpr qsizetype keptSettings = 2048;
+constexpr qsizetype keptListEntries = 16384;
+constexpr qsizetype keptImageBytes = qsizetype{4} << 20;
 
 // What is asked of one thing goes in small groups. Qt prepares each column of an answer anew, so a
 // first question that had to read all there is would take several times as long. Keys are bound
@@ -187,8 +187,8 @@ const Question SettingQuestion{
 PrintSetting unpacked(qulonglong numbers)
 {
     const auto numberAt = [numbers](unsigned int place) {
-        constexpr unsigned int Bits = 16;
-        return static_cast<int>(numbers >> place * Bits & 0xffffU);
+        constexpr unsigned int bits = 16;
+        return static_cast<int>(numbers >> place * bits & 0xffffU);
     };
     return {numberAt(0), numberAt(1), numberAt(2), numberAt(3)};
 }
@@ -221,7 +221,7 @@ QString textAt(const QSqlQuery& row)
 }
 
 // The key of an answer to a question that takes none.
-constexpr int Whole = 0;
+constexpr int whole = 0;
 
 QString textOr(const QVariant& translation, const QString& english)
 {
@@ -261,52 +261,52 @@ qsizetype catalogueEntries(const Catalogue& catalogue)
 struct KeptQueries
 {
     KeptQuery<QString, Colour> colours{
-        ColourQuestion.forOne(), readColour, KeptRecords, {ColourQuestion.forAll(), textAt<3>}};
+        ColourQuestion.forOne(), readColour, keptRecords, {ColourQuestion.forAll(), textAt<3>}};
     KeptQuery<QString, SecondColour> secondColours{SecondColourQuestion.forOne(),
                                                    [](const QSqlQuery& row, SecondColour& colour) {
                                                        readColour(row, colour);
                                                        colour.width = row.value(3).toDouble();
                                                    },
-                                                   KeptRecords,
+                                                   keptRecords,
                                                    {SecondColourQuestion.forAll(), textAt<4>}};
     KeptQuery<QString, Material> materials{
         MaterialQuestion.forOne(),
         [](const QSqlQuery& row, Material& material) {
             material = {row.value(0).toInt(), row.value(1).toString()};
         },
-        KeptRecords,
+        keptRecords,
         {MaterialQuestion.forAll(), textAt<2>}};
     KeptQuery<QString, Format> formats{
         FormatQuestion.forOne(),
         [](const QSqlQuery& row, Format& format) {
             format = {row.value(0).toInt(), row.value(1).toString(), row.value(2).toString()};
         },
-        KeptRecords,
+        keptRecords,
         {FormatQuestion.forAll(), textAt<3>}};
     KeptQuery<QString, Size> sizes{SizeQuestion.forOne(),
                                    [](const QSqlQuery& row, Size& size) {
                                        size = {row.value(0).toDouble(), row.value(1).toDouble(),
                                                row.value(2).toDouble(), row.value(3).toDouble()};
                                    },
-                                   KeptRecords,
+                                   keptRecords,
                                    {SizeQuestion.forAll(), textAt<4>}};
     KeptQuery<QString, Arrangement> arrangements{
         ArrangementQuestion.forOne(),
         [](const QSqlQuery& row, Arrangement& arrangement) {
             arrangement = {row.value(0).toInt(), row.value(1).toInt(), row.value(2).toDouble()};
         },
-        KeptRecords,
+        keptRecords,
         {ArrangementQuestion.forAll(), textAt<3>}};
     KeptQuery<QString, QByteArray> backgrounds{
         BackgroundSql,
         [](const QSqlQuery& row, QByteArray& image) { image = row.value(0).toByteArray(); },
-        KeptImageBytes, imageBytes};
+        keptImageBytes, imageBytes};
     KeptQuery<QString, TypeIndices> typeIndices{TypeIndicesSql,
                                                 [](const QSqlQuery& row, TypeIndices& indices) {
                                                     indices.insert(row.value(0).toString(),
                                                                    row.value(1).toInt());
                                                 },
-                                                KeptRecords};
+                                                keptRecords};
     KeptQuery<int, QStringList> models{
         ModelsSql,
         [](const QSqlQuery& row, QStringList& names) { names.append(row.value(0).toString()); }, 1};
@@ -316,12 +316,12 @@ struct KeptQueries
                                                      row.value(1).toDouble(),
                                                      row.value(2).toDouble(), row.value(3).toInt()};
                                        },
-                                       KeptRecords,
+                                       keptRecords,
                                        {RibbonQuestion.forAll(), textAt<4>}};
     KeptQuery<PanelKey, Colour> panelColours{
         PanelColourQuestion.forOne(),
         readColour,
-        KeptRecords,
+        keptRecords,
         {PanelColourQuestion.forAll(), [](const QSqlQuery& row) {
              return PanelKey(row.value(3).toString(), row.value(4).toInt());
          }}};
@@ -330,12 +330,12 @@ struct KeptQueries
                                                  [](const QSqlQuery& row, PrintSetting& setting) {
                                                      setting = unpacked(row.value(0).toULongLong());
                                                  },
-                                                 KeptSettings};
-    KeptQuery<int, QString> suppliesOfKinds{SupplyOfKindSql, readText, KeptRecords};
-    KeptQuery<int, QString> ribbonsOfNumbers{RibbonOfNumberSql, readText, KeptRecords};
-    KeptQuery<int, Catalogue> supplies{SuppliesSql, readCatalogue, KeptListEntries,
+                                                 keptSettings};
+    KeptQuery<int, QString> suppliesOfKinds{SupplyOfKindSql, readText, keptRecords};
+    KeptQuery<int, QString> ribbonsOfNumbers{RibbonOfNumberSql, readText, keptRecords};
+    KeptQuery<int, Catalogue> supplies{SuppliesSql, readCatalogue, keptListEntries,
                                        catalogueEntries};
-    KeptQuery<int, Catalogue> allRibbons{RibbonsSql, readCatalogue, KeptListEntries,
+    KeptQuery<int, Catalogue> allRibbons{RibbonsSql, readCatalogue, keptListEntries,
                                          catalogueEntries};
 
     void clearNames()
@@ -353,7 +353,7 @@ struct KeptQueries
 class VXSupplyDatabase::Private
 {
 public:
-    int languageId = SupplyDbSchema::FallbackLanguage;
+    int languageId = SupplyDbSchema::fallbackLanguage;
     QString supplyId;
     QStringList ribbonIds;
 
@@ -464,7 +464,7 @@ public:
 
     QString model(const QString& printerName)
     {
-        const QStringList& names = kept().models.answer(database(), Whole);
+        const QStringList& names = kept().models.answer(database(), whole);
         for (const QString& name : names) {
             if (printerName.contains(name, Qt::CaseInsensitive))
                 return name;
@@ -472,8 +472,8 @@ public:
         return {};
     }
 
-    const Catalogue& supplyCatalogue() { return kept().supplies.answer(database(), Whole); }
-    const Catalogue& ribbonCatalogue() { return kept().allRibbons.answer(database(), Whole); }
+    const Catalogue& supplyCatalogue() { return kept().supplies.answer(database(), whole); }
+    const Catalogue& ribbonCatalogue() { return kept().allRibbons.answer(database(), whole); }
 
 private:
     SupplyDbConnection connection;

@@ -26,8 +26,6 @@
 #include <array>
 #include <memory>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 enum Service : int
@@ -38,159 +36,162 @@ enum Service : int
     ServiceCount,
 };
 
-const QString Idle = u"Idle printer"_s; // nothing is ever reported of it
-const QString Loaded = u"Loaded CedarMax 4"_s;
-const QString NeverAdded = u"AlderMax that was never added"_s;
+const QString Idle = QStringLiteral("Idle printer"); // nothing is ever reported of it
+const QString Loaded = QStringLiteral("Loaded CedarMax 4");
+const QString NeverAdded = QStringLiteral("AlderMax that was never added");
 
-const QString ConnectionName = u"expected answers"_s;
+const QString ConnectionName = QStringLiteral("expected answers");
 
 QString databasePath()
 {
-    return QCoreApplication::applicationDirPath() + u"/roll.db"_s;
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/roll.db");
 }
 
 /// The method tables. A question mark is behind an argument that may be left out.
 const std::array<QStringList, ServiceCount> MethodTables{
     QStringList{
-        u"QStringList supplySKUList()"_s,
-        u"QStringList supplyRibbonSKUList()"_s,
-        u"QVariantHash supplyColorHash()"_s,
-        u"QVariantHash supplyRibbonColorHash()"_s,
-        u"QString supplyId()"_s,
-        u"QString supplySKUCached(QString printerName)"_s,
-        u"QStringList supplyRibbonSKUsCached(QString printerName)"_s,
-        u"double supplySupplyPercent()"_s,
-        u"double supplyRibbon1Percent()"_s,
-        u"double supplyRibbon2Percent()"_s,
-        u"QString supplySupplyRGB(QString printerName)"_s,
-        u"QStringList supplyRibbon1RGBs(QString printerName)"_s,
-        u"QStringList supplyRibbon2RGBs(QString printerName)"_s,
-        u"QString supplySupplyUID()"_s,
-        u"QString supplyRibbon1UID()"_s,
-        u"QString supplyRibbon2UID()"_s,
-        u"SupplyInformation supplyInformation(QString printerName)"_s,
-        u"SupplyInformation supplyInformationBySKUs(QString supplySku, QStringList ribbonSkus,"
-        " QString printerName)"_s,
-        u"QString supplyMaterialName(QString sku, QString printerName)"_s,
-        u"QString supplyFormatName(QString sku, QString printerName)"_s,
-        u"int supplyColorRGB(QString sku, QString printerName)"_s,
-        u"QString supplyColorName(QString sku, QString printerName)"_s,
-        u"double supplyWidth(QString sku, QString printerName)"_s,
-        u"int supplyIsLandscape(QString sku)"_s,
-        u"QByteArray supplyBackgroundImage(QString sku)"_s,
-        u"double supplyNonContinuousLength(QString sku, QString printerName)"_s,
-        u"int supplyTypeIndex(QString sku, QString printerName)"_s,
-        u"int supplyRibbonPanels(QString ribbonSku)"_s,
-        u"double supplyRibbonWidth(QString ribbonSku)"_s,
-        u"double supplyRibbonLength(QString ribbonSku)"_s,
-        u"QString supplyRibbonColorName(QString ribbonSku, int panel?)"_s,
-        u"int supplyRibbonColorRGB(QString ribbonSku, int panel?)"_s,
-        u"int supplyRibbonHeat(QString ribbonSku, int panel, QString supplySku)"_s,
-        u"int supplyRibbonHeatOffset(QString ribbonSku, int panel, QString supplySku)"_s,
-        u"int supplyRibbonMaxSpeed(QString ribbonSku, int panel, QString supplySku)"_s,
-        u"int supplyRibbonTension(QString ribbonSku, int panel, QString supplySku)"_s,
-        u"QString supplyRibbonType(QString ribbonSku)"_s,
-        u"void supplyModuleReady(int windowId, int processId, QString applicationName)"_s,
-        u"void applicationWasClicked()"_s,
-        u"void setModulePrinterName(QString printerName)"_s,
-        u"void openLabelFile(QString filePath)"_s,
-        u"void setSupplyId(QString id, QString printerName)"_s,
-        u"void setRibbonIds(QStringList ids, QString printerName)"_s,
+        QStringLiteral("QStringList supplySKUList()"),
+        QStringLiteral("QStringList supplyRibbonSKUList()"),
+        QStringLiteral("QVariantHash supplyColorHash()"),
+        QStringLiteral("QVariantHash supplyRibbonColorHash()"),
+        QStringLiteral("QString supplyId()"),
+        QStringLiteral("QString supplySKUCached(QString printerName)"),
+        QStringLiteral("QStringList supplyRibbonSKUsCached(QString printerName)"),
+        QStringLiteral("double supplySupplyPercent()"),
+        QStringLiteral("double supplyRibbon1Percent()"),
+        QStringLiteral("double supplyRibbon2Percent()"),
+        QStringLiteral("QString supplySupplyRGB(QString printerName)"),
+        QStringLiteral("QStringList supplyRibbon1RGBs(QString printerName)"),
+        QStringLiteral("QStringList supplyRibbon2RGBs(QString printerName)"),
+        QStringLiteral("QString supplySupplyUID()"),
+        QStringLiteral("QString supplyRibbon1UID()"),
+        QStringLiteral("QString supplyRibbon2UID()"),
+        QStringLiteral("SupplyInformation supplyInformation(QString printerName)"),
+        QStringLiteral(
+            "SupplyInformation supplyInformationBySKUs(QString supplySku, QStringList ribbonSkus,"
+            " QString printerName)"),
+        QStringLiteral("QString supplyMaterialName(QString sku, QString printerName)"),
+        QStringLiteral("QString supplyFormatName(QString sku, QString printerName)"),
+        QStringLiteral("int supplyColorRGB(QString sku, QString printerName)"),
+        QStringLiteral("QString supplyColorName(QString sku, QString printerName)"),
+        QStringLiteral("double supplyWidth(QString sku, QString printerName)"),
+        QStringLiteral("int supplyIsLandscape(QString sku)"),
+        QStringLiteral("QByteArray supplyBackgroundImage(QString sku)"),
+        QStringLiteral("double supplyNonContinuousLength(QString sku, QString printerName)"),
+        QStringLiteral("int supplyTypeIndex(QString sku, QString printerName)"),
+        QStringLiteral("int supplyRibbonPanels(QString ribbonSku)"),
+        QStringLiteral("double supplyRibbonWidth(QString ribbonSku)"),
+        QStringLiteral("double supplyRibbonLength(QString ribbonSku)"),
+        QStringLiteral("QString supplyRibbonColorName(QString ribbonSku, int panel?)"),
+        QStringLiteral("int supplyRibbonColorRGB(QString ribbonSku, int panel?)"),
+        QStringLiteral("int supplyRibbonHeat(QString ribbonSku, int panel, QString supplySku)"),
+        QStringLiteral(
+            "int supplyRibbonHeatOffset(QString ribbonSku, int panel, QString supplySku)"),
+        QStringLiteral("int supplyRibbonMaxSpeed(QString ribbonSku, int panel, QString supplySku)"),
+        QStringLiteral("int supplyRibbonTension(QString ribbonSku, int panel, QString supplySku)"),
+        QStringLiteral("QString supplyRibbonType(QString ribbonSku)"),
+        QStringLiteral(
+            "void supplyModuleReady(int windowId, int processId, QString applicationName)"),
+        QStringLiteral("void applicationWasClicked()"),
+        QStringLiteral("void setModulePrinterName(QString printerName)"),
+        QStringLiteral("void openLabelFile(QString filePath)"),
+        QStringLiteral("void setSupplyId(QString id, QString printerName)"),
+        QStringLiteral("void setRibbonIds(QStringList ids, QString printerName)"),
     },
     QStringList{
-        u"int getError()"_s,
-        u"int getAlert()"_s,
-        u"bool isPrinterReady()"_s,
-        u"bool emitError(int value)"_s,
-        u"bool emitAlert(int value)"_s,
-        u"int getPrinterStatus(QString printerName)"_s,
-        u"bool resetCutter()"_s,
-        u"bool resetPrinter()"_s,
-        u"bool cycleCutter()"_s,
-        u"bool calibrateSupply()"_s,
-        u"bool calibrateTach()"_s,
-        u"bool setClearTailRibbon1(bool value)"_s,
-        u"bool setClearTailRibbon2(bool value)"_s,
-        u"bool setSupplySensor(int value, bool override)"_s,
-        u"bool setSupplyWidth(bool value)"_s,
-        u"bool setSupplyLED(bool value)"_s,
-        u"bool setRibbon1Tension(float motor1Tension, float motor2Tension)"_s,
-        u"bool setRibbon2Tension(float motor1Tension, float motor2Tension)"_s,
-        u"bool cancelPrintJob()"_s,
-        u"QString m4Version()"_s,
-        u"QString getSupplySKU()"_s,
-        u"int getBatteryStatus()"_s,
-        u"uint bMark()"_s,
-        u"uint gap()"_s,
-        u"uint preCutter()"_s,
-        u"uint ribbonClr1()"_s,
-        u"uint ribbonClr2()"_s,
-        u"uint ribbonEnc1()"_s,
-        u"uint ribbonEnc2()"_s,
-        u"uint ribbonEnc3()"_s,
-        u"uint ribbonEnc4()"_s,
-        u"bool cutterCover()"_s,
-        u"bool cutterHome()"_s,
-        u"bool printerLid()"_s,
-        u"uint supplySensor()"_s,
-        u"int ribbon1Mileage()"_s,
-        u"int ribbon2Mileage()"_s,
-        u"int supplyMileage()"_s,
-        u"int printerMileage()"_s,
-        u"bool sendMCCMessage(int type, int definedMessage, qulonglong value?)"_s,
-        u"bool sendMCCMessage(int type, int definedMessage, QString value)"_s,
-        u"bool forwardFeed(uint steps)"_s,
-        u"bool backwardFeed(uint steps)"_s,
-        u"bool solenoid1()"_s,
-        u"bool resetSolenoid1()"_s,
-        u"bool solenoid2()"_s,
-        u"bool resetSolenoid2()"_s,
-        u"bool ribbon1()"_s,
-        u"bool resetRibbon1()"_s,
-        u"bool ribbon2()"_s,
-        u"bool resetRibbon2()"_s,
-        u"bool resetPaperMotor1()"_s,
-        u"bool resetMotor()"_s,
-        u"bool setUserSetting(int setting, int value)"_s,
-        u"bool refreshSettings()"_s,
-        u"bool refreshSensors()"_s,
-        u"bool refreshAll()"_s,
-        u"bool rfidTest()"_s,
-        u"bool dumpSettings()"_s,
-        u"bool reqTph1Therm()"_s,
-        u"bool reqTph2Therm()"_s,
-        u"bool reqTph1HeatIndex()"_s,
-        u"bool reqTph2HeatIndex()"_s,
-        u"bool reqTach1Tension()"_s,
-        u"bool reqTach2Tension()"_s,
-        u"bool reqTach3Tension()"_s,
-        u"bool reqTach4Tension()"_s,
-        u"bool reqRibbon1Mileage()"_s,
-        u"bool reqRibbon2Mileage()"_s,
-        u"bool reqSupplyMileage()"_s,
-        u"int tph1Therm()"_s,
-        u"int tph2Therm()"_s,
-        u"int tph1HeatIndexOffset()"_s,
-        u"int tph2HeatIndexOffset()"_s,
-        u"int tach1Tension()"_s,
-        u"int tach2Tension()"_s,
-        u"int tach3Tension()"_s,
-        u"int tach4Tension()"_s,
-        u"void printJobStart(uint addr)"_s,
-        u"void printJobAdded(uint addr)"_s,
-        u"void onStatusChanged(int status, QString printerName)"_s,
+        QStringLiteral("int getError()"),
+        QStringLiteral("int getAlert()"),
+        QStringLiteral("bool isPrinterReady()"),
+        QStringLiteral("bool emitError(int value)"),
+        QStringLiteral("bool emitAlert(int value)"),
+        QStringLiteral("int getPrinterStatus(QString printerName)"),
+        QStringLiteral("bool resetCutter()"),
+        QStringLiteral("bool resetPrinter()"),
+        QStringLiteral("bool cycleCutter()"),
+        QStringLiteral("bool calibrateSupply()"),
+        QStringLiteral("bool calibrateTach()"),
+        QStringLiteral("bool setClearTailRibbon1(bool value)"),
+        QStringLiteral("bool setClearTailRibbon2(bool value)"),
+        QStringLiteral("bool setSupplySensor(int value, bool override)"),
+        QStringLiteral("bool setSupplyWidth(bool value)"),
+        QStringLiteral("bool setSupplyLED(bool value)"),
+        QStringLiteral("bool setRibbon1Tension(float motor1Tension, float motor2Tension)"),
+        QStringLiteral("bool setRibbon2Tension(float motor1Tension, float motor2Tension)"),
+        QStringLiteral("bool cancelPrintJob()"),
+        QStringLiteral("QString m4Version()"),
+        QStringLiteral("QString getSupplySKU()"),
+        QStringLiteral("int getBatteryStatus()"),
+        QStringLiteral("uint bMark()"),
+        QStringLiteral("uint gap()"),
+        QStringLiteral("uint preCutter()"),
+        QStringLiteral("uint ribbonClr1()"),
+        QStringLiteral("uint ribbonClr2()"),
+        QStringLiteral("uint ribbonEnc1()"),
+        QStringLiteral("uint ribbonEnc2()"),
+        QStringLiteral("uint ribbonEnc3()"),
+        QStringLiteral("uint ribbonEnc4()"),
+        QStringLiteral("bool cutterCover()"),
+        QStringLiteral("bool cutterHome()"),
+        QStringLiteral("bool printerLid()"),
+        QStringLiteral("uint supplySensor()"),
+        QStringLiteral("int ribbon1Mileage()"),
+        QStringLiteral("int ribbon2Mileage()"),
+        QStringLiteral("int supplyMileage()"),
+        QStringLiteral("int printerMileage()"),
+        QStringLiteral("bool sendMCCMessage(int type, int definedMessage, qulonglong value?)"),
+        QStringLiteral("bool sendMCCMessage(int type, int definedMessage, QString value)"),
+        QStringLiteral("bool forwardFeed(uint steps)"),
+        QStringLiteral("bool backwardFeed(uint steps)"),
+        QStringLiteral("bool solenoid1()"),
+        QStringLiteral("bool resetSolenoid1()"),
+        QStringLiteral("bool solenoid2()"),
+        QStringLiteral("bool resetSolenoid2()"),
+        QStringLiteral("bool ribbon1()"),
+        QStringLiteral("bool resetRibbon1()"),
+        QStringLiteral("bool ribbon2()"),
+        QStringLiteral("bool resetRibbon2()"),
+        QStringLiteral("bool resetPaperMotor1()"),
+        QStringLiteral("bool resetMotor()"),
+        QStringLiteral("bool setUserSetting(int setting, int value)"),
+        QStringLiteral("bool refreshSettings()"),
+        QStringLiteral("bool refreshSensors()"),
+        QStringLiteral("bool refreshAll()"),
+        QStringLiteral("bool rfidTest()"),
+        QStringLiteral("bool dumpSettings()"),
+        QStringLiteral("bool reqTph1Therm()"),
+        QStringLiteral("bool reqTph2Therm()"),
+        QStringLiteral("bool reqTph1HeatIndex()"),
+        QStringLiteral("bool reqTph2HeatIndex()"),
+        QStringLiteral("bool reqTach1Tension()"),
+        QStringLiteral("bool reqTach2Tension()"),
+        QStringLiteral("bool reqTach3Tension()"),
+        QStringLiteral("bool reqTach4Tension()"),
+        QStringLiteral("bool reqRibbon1Mileage()"),
+        QStringLiteral("bool reqRibbon2Mileage()"),
+        QStringLiteral("bool reqSupplyMileage()"),
+        QStringLiteral("int tph1Therm()"),
+        QStringLiteral("int tph2Therm()"),
+        QStringLiteral("int tph1HeatIndexOffset()"),
+        QStringLiteral("int tph2HeatIndexOffset()"),
+        QStringLiteral("int tach1Tension()"),
+        QStringLiteral("int tach2Tension()"),
+        QStringLiteral("int tach3Tension()"),
+        QStringLiteral("int tach4Tension()"),
+        QStringLiteral("void printJobStart(uint addr)"),
+        QStringLiteral("void printJobAdded(uint addr)"),
+        QStringLiteral("void onStatusChanged(int status, QString printerName)"),
     },
     QStringList{
-        u"bool printQueueFull(uint value)"_s,
-        u"bool printQueueComplete(uint value)"_s,
-        u"void addJob(QString GUID, QString jobName, QString appName, int copies,"
-        " int mergeIndex?)"_s,
-        u"QStringList getJobList()"_s,
-        u"PrintJobMetaData getJobInfo(QString GUID)"_s,
-        u"bool reprintPrintJob()"_s,
-        u"bool retryPrintJob()"_s,
-        u"bool clearPrintJob()"_s,
-        u"bool clearAllPrintJobs()"_s,
+        QStringLiteral("bool printQueueFull(uint value)"),
+        QStringLiteral("bool printQueueComplete(uint value)"),
+        QStringLiteral("void addJob(QString GUID, QString jobName, QString appName, int copies,"
+                       " int mergeIndex?)"),
+        QStringLiteral("QStringList getJobList()"),
+        QStringLiteral("PrintJobMetaData getJobInfo(QString GUID)"),
+        QStringLiteral("bool reprintPrintJob()"),
+        QStringLiteral("bool retryPrintJob()"),
+        QStringLiteral("bool clearPrintJob()"),
+        QStringLiteral("bool clearAllPrintJobs()"),
     },
 };
 
@@ -211,103 +212,114 @@ struct DatabaseAnswer
 };
 
 const QJsonObject IdleRecord{
-    {u"supplyId"_s, u""_s},
-    {u"supplySku"_s, u"-1"_s},
-    {u"ribbonSkus"_s, QJsonArray()},
-    {u"secColorWidth"_s, -1},
-    {u"secColorRGB"_s, -1},
-    {u"secColorName"_s, u""_s},
-    {u"secColorNameEn"_s, u""_s},
-    {u"supplyLength"_s, -1},
-    {u"material"_s, -1},
-    {u"materialName"_s, u""_s},
-    {u"format"_s, -1},
-    {u"formatName"_s, u""_s},
-    {u"formatType"_s, u""_s},
-    {u"colorRGB"_s, -1},
-    {u"colorName"_s, u""_s},
-    {u"colorNameEn"_s, u""_s},
-    {u"supplyWidth"_s, -1},
-    {u"isLandscape"_s, 1},
-    {u"backgroundImage"_s, u""_s},
-    {u"separatorWidth"_s, -1},
-    {u"nonContinuousLength"_s, -1},
-    {u"typeIndex"_s, -1},
-    {u"ribbon1Panels"_s, -1},
-    {u"ribbon2Panels"_s, -1},
-    {u"ribbon1Width"_s, -1},
-    {u"ribbon2Width"_s, -1},
-    {u"ribbon1Length"_s, -1},
-    {u"ribbon2Length"_s, -1},
-    {u"ribbonColorNames"_s, QJsonArray()},
-    {u"ribbonColorRGBs"_s, QJsonArray()},
-    {u"ribbonHeats"_s, QJsonArray()},
-    {u"ribbonHeatOffsets"_s, QJsonArray()},
-    {u"ribbonMaxSpeeds"_s, QJsonArray()},
-    {u"ribbonTensions"_s, QJsonArray()},
-    {u"ribbonTypes"_s, QJsonArray{u""_s, u""_s}},
-    {u"multiUpCount"_s, 1},
-    {u"multiUpGapSize"_s, -1},
+    {QStringLiteral("supplyId"), QStringLiteral("")},
+    {QStringLiteral("supplySku"), QStringLiteral("-1")},
+    {QStringLiteral("ribbonSkus"), QJsonArray()},
+    {QStringLiteral("secColorWidth"), -1},
+    {QStringLiteral("secColorRGB"), -1},
+    {QStringLiteral("secColorName"), QStringLiteral("")},
+    {QStringLiteral("secColorNameEn"), QStringLiteral("")},
+    {QStringLiteral("supplyLength"), -1},
+    {QStringLiteral("material"), -1},
+    {QStringLiteral("materialName"), QStringLiteral("")},
+    {QStringLiteral("format"), -1},
+    {QStringLiteral("formatName"), QStringLiteral("")},
+    {QStringLiteral("formatType"), QStringLiteral("")},
+    {QStringLiteral("colorRGB"), -1},
+    {QStringLiteral("colorName"), QStringLiteral("")},
+    {QStringLiteral("colorNameEn"), QStringLiteral("")},
+    {QStringLiteral("supplyWidth"), -1},
+    {QStringLiteral("isLandscape"), 1},
+    {QStringLiteral("backgroundImage"), QStringLiteral("")},
+    {QStringLiteral("separatorWidth"), -1},
+    {QStringLiteral("nonContinuousLength"), -1},
+    {QStringLiteral("typeIndex"), -1},
+    {QStringLiteral("ribbon1Panels"), -1},
+    {QStringLiteral("ribbon2Panels"), -1},
+    {QStringLiteral("ribbon1Width"), -1},
+    {QStringLiteral("ribbon2Width"), -1},
+    {QStringLiteral("ribbon1Length"), -1},
+    {QStringLiteral("ribbon2Length"), -1},
+    {QStringLiteral("ribbonColorNames"), QJsonArray()},
+    {QStringLiteral("ribbonColorRGBs"), QJsonArray()},
+    {QStringLiteral("ribbonHeats"), QJsonArray()},
+    {QStringLiteral("ribbonHeatOffsets"), QJsonArray()},
+    {QStringLiteral("ribbonMaxSpeeds"), QJsonArray()},
+    {QStringLiteral("ribbonTensions"), QJsonArray()},
+    {QStringLiteral("ribbonTypes"), QJsonArray{QStringLiteral(""), QStringLiteral("")}},
+    {QStringLiteral("multiUpCount"), 1},
+    {QStringLiteral("multiUpGapSize"), -1},
 };
 
 const QJsonObject UnknownJob{
-    {u"queuePosition"_s, 0}, {u"guid"_s, u""_s},        {u"jobName"_s, u""_s},
-    {u"appName"_s, u""_s},   {u"copies"_s, 0},          {u"mergeIndex"_s, 0},
-    {u"userName"_s, u""_s},  {u"printerName"_s, u""_s}, {u"labelCount"_s, 0},
-    {u"labelsPrinted"_s, 0}, {u"supplySku"_s, u""_s},   {u"supplyName"_s, u""_s},
-    {u"isCutting"_s, false}, {u"ribbon1Sku"_s, u""_s},  {u"ribbon2Sku"_s, u""_s},
-    {u"status"_s, 0},        {u"statusText"_s, u""_s},
+    {QStringLiteral("queuePosition"), 0},
+    {QStringLiteral("guid"), QStringLiteral("")},
+    {QStringLiteral("jobName"), QStringLiteral("")},
+    {QStringLiteral("appName"), QStringLiteral("")},
+    {QStringLiteral("copies"), 0},
+    {QStringLiteral("mergeIndex"), 0},
+    {QStringLiteral("userName"), QStringLiteral("")},
+    {QStringLiteral("printerName"), QStringLiteral("")},
+    {QStringLiteral("labelCount"), 0},
+    {QStringLiteral("labelsPrinted"), 0},
+    {QStringLiteral("supplySku"), QStringLiteral("")},
+    {QStringLiteral("supplyName"), QStringLiteral("")},
+    {QStringLiteral("isCutting"), false},
+    {QStringLiteral("ribbon1Sku"), QStringLiteral("")},
+    {QStringLiteral("ribbon2Sku"), QStringLiteral("")},
+    {QStringLiteral("status"), 0},
+    {QStringLiteral("statusText"), QStringLiteral("")},
 };
 
 QList<FixedAnswer> fixedAnswers()
 {
     const QJsonValue nothing = QJsonValue::Null;
-    const QJsonArray text{u"text"_s};
-    const QJsonArray unknown{u"NO-SUCH-SKU"_s};
-    const QJsonArray unknownOfIdle{u"NO-SUCH-SKU"_s, Idle};
-    const QJsonArray unknownPair{u"NO-SUCH-SKU"_s, 1, u"NO-SUCH-SKU"_s};
+    const QJsonArray text{QStringLiteral("text")};
+    const QJsonArray unknown{QStringLiteral("NO-SUCH-SKU")};
+    const QJsonArray unknownOfIdle{QStringLiteral("NO-SUCH-SKU"), Idle};
+    const QJsonArray unknownPair{QStringLiteral("NO-SUCH-SKU"), 1, QStringLiteral("NO-SUCH-SKU")};
     // clang-format off
     return {
-        {Supplies, "supplyId", {}, u"-1"_s},
-        {Supplies, "supplySKUCached", {u""_s}, u"-1"_s},
-        {Supplies, "supplySKUCached", {Idle}, u"-1"_s},
+        {Supplies, "supplyId", {}, QStringLiteral("-1")},
+        {Supplies, "supplySKUCached", {QStringLiteral("")}, QStringLiteral("-1")},
+        {Supplies, "supplySKUCached", {Idle}, QStringLiteral("-1")},
         {Supplies, "supplyRibbonSKUsCached", {Idle}, QJsonArray()},
         {Supplies, "supplySupplyPercent", {}, 0},
         {Supplies, "supplyRibbon1Percent", {}, 0},
         {Supplies, "supplyRibbon2Percent", {}, 0},
-        {Supplies, "supplySupplyRGB", {Idle}, u""_s},
+        {Supplies, "supplySupplyRGB", {Idle}, QStringLiteral("")},
         {Supplies, "supplyRibbon1RGBs", {Idle}, QJsonArray()},
         {Supplies, "supplyRibbon2RGBs", {Idle}, QJsonArray()},
-        {Supplies, "supplySupplyUID", {}, u"-1"_s},
-        {Supplies, "supplyRibbon1UID", {}, u"-1"_s},
-        {Supplies, "supplyRibbon2UID", {}, u"-1"_s},
+        {Supplies, "supplySupplyUID", {}, QStringLiteral("-1")},
+        {Supplies, "supplyRibbon1UID", {}, QStringLiteral("-1")},
+        {Supplies, "supplyRibbon2UID", {}, QStringLiteral("-1")},
         {Supplies, "supplyInformation", {Idle}, IdleRecord},
-        {Supplies, "supplyInformationBySKUs", {u"-1"_s, QJsonArray(), Idle}, IdleRecord},
-        {Supplies, "supplyMaterialName", unknownOfIdle, u""_s},
-        {Supplies, "supplyFormatName", unknownOfIdle, u""_s},
+        {Supplies, "supplyInformationBySKUs", {QStringLiteral("-1"), QJsonArray(), Idle}, IdleRecord},
+        {Supplies, "supplyMaterialName", unknownOfIdle, QStringLiteral("")},
+        {Supplies, "supplyFormatName", unknownOfIdle, QStringLiteral("")},
         {Supplies, "supplyColorRGB", unknownOfIdle, -1},
-        {Supplies, "supplyColorName", unknownOfIdle, u""_s},
+        {Supplies, "supplyColorName", unknownOfIdle, QStringLiteral("")},
         {Supplies, "supplyWidth", unknownOfIdle, -1},
         {Supplies, "supplyIsLandscape", unknown, 1},
-        {Supplies, "supplyBackgroundImage", unknown, u""_s},
+        {Supplies, "supplyBackgroundImage", unknown, QStringLiteral("")},
         {Supplies, "supplyNonContinuousLength", unknownOfIdle, -1},
         {Supplies, "supplyTypeIndex", unknownOfIdle, -1},
         {Supplies, "supplyRibbonPanels", unknown, -1},
         {Supplies, "supplyRibbonWidth", unknown, -1},
         {Supplies, "supplyRibbonLength", unknown, -1},
-        {Supplies, "supplyRibbonColorName", unknown, u""_s},
+        {Supplies, "supplyRibbonColorName", unknown, QStringLiteral("")},
         {Supplies, "supplyRibbonColorRGB", unknown, -1},
         {Supplies, "supplyRibbonHeat", unknownPair, -1},
         {Supplies, "supplyRibbonHeatOffset", unknownPair, -1},
         {Supplies, "supplyRibbonMaxSpeed", unknownPair, -1},
         {Supplies, "supplyRibbonTension", unknownPair, -1},
-        {Supplies, "supplyRibbonType", unknown, u""_s},
-        {Supplies, "supplyModuleReady", {1, 2, u"text"_s}, nothing},
+        {Supplies, "supplyRibbonType", unknown, QStringLiteral("")},
+        {Supplies, "supplyModuleReady", {1, 2, QStringLiteral("text")}, nothing},
         {Supplies, "applicationWasClicked", {}, nothing},
         {Supplies, "setModulePrinterName", text, nothing},
         {Supplies, "openLabelFile", text, nothing},
-        {Supplies, "setSupplyId", {u"000001F41000420000A7"_s, u""_s}, nothing},
-        {Supplies, "setRibbonIds", {QJsonArray{u"2001"_s}, u""_s}, nothing},
+        {Supplies, "setSupplyId", {QStringLiteral("000001F41000420000A7"), QStringLiteral("")}, nothing},
+        {Supplies, "setRibbonIds", {QJsonArray{QStringLiteral("2001")}, QStringLiteral("")}, nothing},
 
         {Printers, "getError", {}, 1},
         {Printers, "getAlert", {}, 1},
@@ -315,7 +327,7 @@ QList<FixedAnswer> fixedAnswers()
         {Printers, "emitError", {7}, true},
         {Printers, "emitAlert", {-7}, true},
         {Printers, "getPrinterStatus", {Idle}, 255},
-        {Printers, "onStatusChanged", {3, u"printer of the table"_s}, nothing},
+        {Printers, "onStatusChanged", {3, QStringLiteral("printer of the table")}, nothing},
         {Printers, "resetCutter", {}, true},
         {Printers, "resetPrinter", {}, true},
         {Printers, "cycleCutter", {}, true},
@@ -329,8 +341,8 @@ QList<FixedAnswer> fixedAnswers()
         {Printers, "setRibbon1Tension", {1.5, 2}, true},
         {Printers, "setRibbon2Tension", {-1.5, 0}, true},
         {Printers, "cancelPrintJob", {}, true},
-        {Printers, "m4Version", {}, u"test"_s},
-        {Printers, "getSupplySKU", {}, u"booga-booga"_s},
+        {Printers, "m4Version", {}, QStringLiteral("test")},
+        {Printers, "getSupplySKU", {}, QStringLiteral("booga-booga")},
         {Printers, "getBatteryStatus", {}, 0},
         {Printers, "bMark", {}, 1},
         {Printers, "gap", {}, 1},
@@ -351,8 +363,8 @@ QList<FixedAnswer> fixedAnswers()
         {Printers, "printerMileage", {}, 1},
         {Printers, "sendMCCMessage", {1, 2}, true},
         {Printers, "sendMCCMessage", {1, 2, 0}, true},
-        {Printers, "sendMCCMessage", {1, 2, u"18446744073709551615"_s}, true},
-        {Printers, "sendMCCMessage", {1, 2, u"text"_s}, true},
+        {Printers, "sendMCCMessage", {1, 2, QStringLiteral("18446744073709551615")}, true},
+        {Printers, "sendMCCMessage", {1, 2, QStringLiteral("text")}, true},
         {Printers, "forwardFeed", {Q_INT64_C(4294967295)}, true},
         {Printers, "backwardFeed", {0}, true},
         {Printers, "solenoid1", {}, true},
@@ -395,10 +407,10 @@ QList<FixedAnswer> fixedAnswers()
 
         {PrintQueue, "printQueueFull", {0}, true},
         {PrintQueue, "printQueueComplete", {1}, true},
-        {PrintQueue, "addJob", {u"guid"_s, u"job"_s, u"application"_s, 2}, nothing},
-        {PrintQueue, "addJob", {u"guid"_s, u"job"_s, u"application"_s, 2, 5}, nothing},
+        {PrintQueue, "addJob", {QStringLiteral("guid"), QStringLiteral("job"), QStringLiteral("application"), 2}, nothing},
+        {PrintQueue, "addJob", {QStringLiteral("guid"), QStringLiteral("job"), QStringLiteral("application"), 2, 5}, nothing},
         {PrintQueue, "getJobList", {}, QJsonArray()},
-        {PrintQueue, "getJobInfo", {u"guid"_s}, UnknownJob},
+        {PrintQueue, "getJobInfo", {QStringLiteral("guid")}, UnknownJob},
         {PrintQueue, "reprintPrintJob", {}, true},
         {PrintQueue, "retryPrintJob", {}, true},
         {PrintQueue, "clearPrintJob", {}, true},
@@ -410,72 +422,88 @@ QList<FixedAnswer> fixedAnswers()
 /// An SQL expression for the name of what `alias` stands for, in the host's language.
 QString named(const QString& alias)
 {
-    return u"coalesce((SELECT text FROM translation WHERE name_id = %1.name_id AND language_id = "
-           u"%2),"
-           " (SELECT english FROM name WHERE id = %1.name_id))"_s.arg(alias)
-               .arg(VXLocaleLanguages().getCurrentLanguageId());
+    return QStringLiteral("coalesce((SELECT text FROM translation WHERE name_id = %1.name_id AND "
+                          "language_id = "
+                          u"%2),"
+                          " (SELECT english FROM name WHERE id = %1.name_id))")
+        .arg(alias)
+        .arg(VXLocaleLanguages().getCurrentLanguageId());
 }
 
 /// An SQL expression for the place of the supply `s` in the list of the printer `printer`.
 QString typeIndex(const QString& printer)
 {
-    return u"coalesce((SELECT position FROM printer_format f WHERE f.format_id = s.format_id"
-           " AND f.model = (SELECT model FROM printer_format WHERE instr(lower(%1), lower(model))"
-           " ORDER BY length(model) DESC LIMIT 1)), -1)"_s.arg(printer);
+    return QStringLiteral(
+               "coalesce((SELECT position FROM printer_format f WHERE f.format_id = s.format_id"
+               " AND f.model = (SELECT model FROM printer_format WHERE instr(lower(%1), "
+               "lower(model))"
+               " ORDER BY length(model) DESC LIMIT 1)), -1)")
+        .arg(printer);
 }
 
 QList<DatabaseAnswer> databaseAnswers()
 {
     // Each supply, asked for by every kind of printer name.
     const QString supplies =
-        u" FROM supply s, (SELECT '' AS printer UNION SELECT '-' UNION SELECT '%1' UNION SELECT "
-        u"'%2'"
-        " UNION SELECT '%3') JOIN material m ON m.id = s.material_id"
-        " JOIN format f ON f.id = s.format_id JOIN colour c ON c.id = s.colour_id"_s.arg(
-            Idle, Loaded, NeverAdded);
-    const QString panels = u" FROM ribbon_panel p JOIN colour c ON c.id = p.colour_id"_s;
-    const QString setting = u"SELECT ribbon_sku, panel, supply_sku, %1 FROM print_setting"_s;
+        QStringLiteral(
+            " FROM supply s, (SELECT '' AS printer UNION SELECT '-' UNION SELECT '%1' UNION SELECT "
+            u"'%2'"
+            " UNION SELECT '%3') JOIN material m ON m.id = s.material_id"
+            " JOIN format f ON f.id = s.format_id JOIN colour c ON c.id = s.colour_id")
+            .arg(Idle, Loaded, NeverAdded);
+    const QString panels =
+        QStringLiteral(" FROM ribbon_panel p JOIN colour c ON c.id = p.colour_id");
+    const QString setting =
+        QStringLiteral("SELECT ribbon_sku, panel, supply_sku, %1 FROM print_setting");
     return {
-        {"supplyMaterialName", u"SELECT s.sku, printer, "_s + named(u"m"_s) + supplies},
-        {"supplyFormatName", u"SELECT s.sku, printer, "_s + named(u"f"_s) + supplies},
-        {"supplyColorRGB", u"SELECT s.sku, printer, c.rgb"_s + supplies},
-        {"supplyColorName", u"SELECT s.sku, printer, "_s + named(u"c"_s) + supplies},
-        {"supplyWidth", u"SELECT s.sku, printer, s.width"_s + supplies},
+        {"supplyMaterialName",
+         QStringLiteral("SELECT s.sku, printer, ") + named(QStringLiteral("m")) + supplies},
+        {"supplyFormatName",
+         QStringLiteral("SELECT s.sku, printer, ") + named(QStringLiteral("f")) + supplies},
+        {"supplyColorRGB", QStringLiteral("SELECT s.sku, printer, c.rgb") + supplies},
+        {"supplyColorName",
+         QStringLiteral("SELECT s.sku, printer, ") + named(QStringLiteral("c")) + supplies},
+        {"supplyWidth", QStringLiteral("SELECT s.sku, printer, s.width") + supplies},
         {"supplyNonContinuousLength",
-         u"SELECT s.sku, printer, coalesce(s.label_length, -1.0)"_s + supplies},
-        {"supplyTypeIndex", u"SELECT s.sku, printer, "_s + typeIndex(u"printer"_s) + supplies},
-        {"supplyIsLandscape", u"SELECT sku, is_landscape FROM supply"_s},
-        {"supplyBackgroundImage", u"SELECT sku, coalesce((SELECT image FROM background"
-                                  " WHERE id = background_id), '') FROM supply"_s},
-        {"supplyRibbonPanels", u"SELECT ribbon_sku, count(*) FROM ribbon_panel GROUP BY 1"_s},
-        {"supplyRibbonWidth", u"SELECT sku, width FROM ribbon"_s},
-        {"supplyRibbonLength", u"SELECT sku, length FROM ribbon"_s},
-        {"supplyRibbonType", u"SELECT sku, type FROM ribbon"_s},
-        {"supplyRibbonColorName", u"SELECT p.ribbon_sku, p.panel, "_s + named(u"c"_s) + panels},
+         QStringLiteral("SELECT s.sku, printer, coalesce(s.label_length, -1.0)") + supplies},
+        {"supplyTypeIndex", QStringLiteral("SELECT s.sku, printer, ") +
+                                typeIndex(QStringLiteral("printer")) + supplies},
+        {"supplyIsLandscape", QStringLiteral("SELECT sku, is_landscape FROM supply")},
+        {"supplyBackgroundImage",
+         QStringLiteral("SELECT sku, coalesce((SELECT image FROM background"
+                        " WHERE id = background_id), '') FROM supply")},
+        {"supplyRibbonPanels",
+         QStringLiteral("SELECT ribbon_sku, count(*) FROM ribbon_panel GROUP BY 1")},
+        {"supplyRibbonWidth", QStringLiteral("SELECT sku, width FROM ribbon")},
+        {"supplyRibbonLength", QStringLiteral("SELECT sku, length FROM ribbon")},
+        {"supplyRibbonType", QStringLiteral("SELECT sku, type FROM ribbon")},
         {"supplyRibbonColorName",
-         u"SELECT p.ribbon_sku, "_s + named(u"c"_s) + panels + u" WHERE p.panel = 1"_s},
-        {"supplyRibbonColorRGB", u"SELECT p.ribbon_sku, p.panel, c.rgb"_s + panels},
-        {"supplyRibbonColorRGB",
-         u"SELECT p.ribbon_sku, c.rgb"_s + panels + u" WHERE p.panel = 1"_s},
-        {"supplyRibbonHeat", setting.arg(u"heat"_s)},
-        {"supplyRibbonHeatOffset", setting.arg(u"heat_offset"_s)},
-        {"supplyRibbonMaxSpeed", setting.arg(u"max_speed"_s)},
-        {"supplyRibbonTension", setting.arg(u"tension"_s)},
+         QStringLiteral("SELECT p.ribbon_sku, p.panel, ") + named(QStringLiteral("c")) + panels},
+        {"supplyRibbonColorName", QStringLiteral("SELECT p.ribbon_sku, ") +
+                                      named(QStringLiteral("c")) + panels +
+                                      QStringLiteral(" WHERE p.panel = 1")},
+        {"supplyRibbonColorRGB", QStringLiteral("SELECT p.ribbon_sku, p.panel, c.rgb") + panels},
+        {"supplyRibbonColorRGB", QStringLiteral("SELECT p.ribbon_sku, c.rgb") + panels +
+                                     QStringLiteral(" WHERE p.panel = 1")},
+        {"supplyRibbonHeat", setting.arg(QStringLiteral("heat"))},
+        {"supplyRibbonHeatOffset", setting.arg(QStringLiteral("heat_offset"))},
+        {"supplyRibbonMaxSpeed", setting.arg(QStringLiteral("max_speed"))},
+        {"supplyRibbonTension", setting.arg(QStringLiteral("tension"))},
         {"supplySKUList",
-         u"SELECT json_group_array(sku) FROM (SELECT sku FROM supply ORDER BY 1)"_s},
+         QStringLiteral("SELECT json_group_array(sku) FROM (SELECT sku FROM supply ORDER BY 1)")},
         {"supplyRibbonSKUList",
-         u"SELECT json_group_array(sku) FROM (SELECT sku FROM ribbon ORDER BY 1)"_s},
-        {"supplyColorHash", u"SELECT json_group_object(s.sku, c.rgb) FROM supply s"
-                            " JOIN colour c ON c.id = s.colour_id"_s},
-        {"supplyRibbonColorHash",
-         u"SELECT json_group_object(p.ribbon_sku, c.rgb)"_s + panels + u" WHERE p.panel = 1"_s},
+         QStringLiteral("SELECT json_group_array(sku) FROM (SELECT sku FROM ribbon ORDER BY 1)")},
+        {"supplyColorHash", QStringLiteral("SELECT json_group_object(s.sku, c.rgb) FROM supply s"
+                                           " JOIN colour c ON c.id = s.colour_id")},
+        {"supplyRibbonColorHash", QStringLiteral("SELECT json_group_object(p.ribbon_sku, c.rgb)") +
+                                      panels + QStringLiteral(" WHERE p.panel = 1")},
     };
 }
 
 /// The methods whose rows have their answer as the text of a JSON list or object.
 bool answersJson(const QString& method)
 {
-    return method.endsWith(u"List"_s) || method.endsWith(u"Hash"_s);
+    return method.endsWith(QStringLiteral("List")) || method.endsWith(QStringLiteral("Hash"));
 }
 
 QJsonValue toJson(const QVariant& value)
@@ -502,7 +530,7 @@ QStringList argumentNames(const QString& signature)
     QStringList names;
     const qsizetype begin = signature.indexOf(u'(') + 1;
     const QString arguments = signature.sliced(begin, signature.indexOf(u')') - begin);
-    for (const QString& argument : arguments.split(u", "_s, Qt::SkipEmptyParts))
+    for (const QString& argument : arguments.split(QStringLiteral(", "), Qt::SkipEmptyParts))
         names.append(argument.section(u' ', 1).remove(u'?'));
     return names;
 }
@@ -532,18 +560,21 @@ QJsonObject byName(Service service, const QString& method, const QJsonArray& arg
 QStringList described(const QJsonObject& document)
 {
     QStringList signatures;
-    for (const QJsonArray methods = document[u"methods"_s].toArray();
+    for (const QJsonArray methods = document[QStringLiteral("methods")].toArray();
          const QJsonValue& method : methods) {
         QStringList arguments;
-        for (const QJsonArray parameters = method[u"params"_s].toArray();
+        for (const QJsonArray parameters = method[QStringLiteral("params")].toArray();
              const QJsonValue& parameter : parameters) {
-            arguments.append(
-                u"%1 %2%3"_s.arg(parameter[u"x-type"_s].toString(), parameter[u"name"_s].toString(),
-                                 parameter[u"required"_s].toBool() ? QString() : u"?"_s));
+            arguments.append(QStringLiteral("%1 %2%3").arg(
+                parameter[QStringLiteral("x-type")].toString(),
+                parameter[QStringLiteral("name")].toString(),
+                parameter[QStringLiteral("required")].toBool() ? QString() : QStringLiteral("?")));
         }
-        signatures.append(u"%1 %2(%3)"_s.arg(method[u"result"_s][u"x-type"_s].toString(),
-                                             method[u"name"_s].toString(),
-                                             arguments.join(u", "_s)));
+        signatures.append(
+            QStringLiteral("%1 %2(%3)")
+                .arg(method[QStringLiteral("result")][QStringLiteral("x-type")].toString(),
+                     method[QStringLiteral("name")].toString(),
+                     arguments.join(QStringLiteral(", "))));
     }
     return signatures;
 }
@@ -595,17 +626,17 @@ private:
 void EndpointsOverIpcTest::initTestCase()
 {
     writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), databasePath());
-    m_database = QSqlDatabase::addDatabase(u"QSQLITE"_s, ConnectionName);
-    m_database.setConnectOptions(u"QSQLITE_OPEN_READONLY"_s);
+    m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), ConnectionName);
+    m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
     m_database.setDatabaseName(databasePath());
     QVERIFY(m_database.open());
 
-    m_host = std::make_unique<HostProcess>(u"endpoint_host"_s, QStringList{Idle, Loaded},
-                                           int(ServiceCount));
+    m_host = std::make_unique<HostProcess>(QStringLiteral("endpoint_host"),
+                                           QStringList{Idle, Loaded}, int(ServiceCount));
     QVERIFY(m_host->processId() != QCoreApplication::applicationPid());
     for (int service = 0; service < ServiceCount; ++service) {
         const QString name = m_host->serverName(service);
-        QVERIFY(name.startsWith(u"vxipc-%1"_s.arg(service)));
+        QVERIFY(name.startsWith(QStringLiteral("vxipc-%1").arg(service)));
         m_clients.at(static_cast<size_t>(service)) = std::make_unique<VXIPCClient>(name);
     }
 }
@@ -626,14 +657,15 @@ QJsonValue EndpointsOverIpcTest::call(Service service, const QString& method,
     const VXIPCReply reply = m_clients.at(service)->callAndWait(method, arguments);
     if (reply.isOk())
         return reply.result;
-    return u"%1: %2 %3"_s.arg(method).arg(reply.error->code).arg(reply.error->message);
+    return QStringLiteral("%1: %2 %3").arg(method).arg(reply.error->code).arg(reply.error->message);
 }
 
 QList<QSqlRecord> EndpointsOverIpcTest::rows(const QString& sql)
 {
     QSqlQuery query(m_database);
     if (!query.exec(sql)) {
-        QTest::qFail(qPrintable(sql + u": "_s + query.lastError().text()), __FILE__, __LINE__);
+        QTest::qFail(qPrintable(sql + QStringLiteral(": ") + query.lastError().text()), __FILE__,
+                     __LINE__);
         return {};
     }
     QList<QSqlRecord> records;
@@ -662,16 +694,19 @@ void EndpointsOverIpcTest::describesItsMethods()
 {
     QFETCH(int, service);
     const QJsonObject document =
-        call(static_cast<Service>(service), u"rpc.discover"_s, QJsonArray()).toObject();
+        call(static_cast<Service>(service), QStringLiteral("rpc.discover"), QJsonArray())
+            .toObject();
     QCOMPARE(described(document), MethodTables.at(static_cast<size_t>(service)));
-    QCOMPARE(document[u"info"_s][u"x-process"_s].toInteger(), m_host->processId());
-    QCOMPARE(document[u"info"_s][u"x-application"_s].toString(), u"endpoint_host"_s);
+    QCOMPARE(document[QStringLiteral("info")][QStringLiteral("x-process")].toInteger(),
+             m_host->processId());
+    QCOMPARE(document[QStringLiteral("info")][QStringLiteral("x-application")].toString(),
+             QStringLiteral("endpoint_host"));
 }
 
 void EndpointsOverIpcTest::everyFormOfEveryMethodIsInATable()
 {
     const auto form = [](int service, const QString& method, qsizetype arguments) {
-        return u"%1 %2/%3"_s.arg(service).arg(method).arg(arguments);
+        return QStringLiteral("%1 %2/%3").arg(service).arg(method).arg(arguments);
     };
     QSet<QString> called;
     for (const FixedAnswer& each : fixedAnswers())
@@ -753,75 +788,83 @@ void EndpointsOverIpcTest::answersWhatTheDatabaseHas()
 
 void EndpointsOverIpcTest::readsBackTheLoadedSupply()
 {
-    const QList<QSqlRecord> kinds =
-        rows(u"SELECT printf('%08X%06d%06X', 500, k.kind, 167), k.supply_sku, c.rgb || ''"
-             " FROM supply_kind k JOIN supply s ON s.sku = k.supply_sku"
-             " JOIN colour c ON c.id = s.colour_id"_s);
+    const QList<QSqlRecord> kinds = rows(
+        QStringLiteral("SELECT printf('%08X%06d%06X', 500, k.kind, 167), k.supply_sku, c.rgb || ''"
+                       " FROM supply_kind k JOIN supply s ON s.sku = k.supply_sku"
+                       " JOIN colour c ON c.id = s.colour_id"));
     QVERIFY(kinds.size() >= 40);
     for (const QSqlRecord& kind : kinds) {
-        QVERIFY(ask(u"setSupplyId"_s, {kind.value(0).toString(), Loaded}).isNull());
-        QCOMPARE(ask(u"supplySKUCached"_s, {Loaded}), toJson(kind.value(1)));
-        QCOMPARE(ask(u"supplySupplyRGB"_s, {Loaded}), toJson(kind.value(2)));
+        QVERIFY(ask(QStringLiteral("setSupplyId"), {kind.value(0).toString(), Loaded}).isNull());
+        QCOMPARE(ask(QStringLiteral("supplySKUCached"), {Loaded}), toJson(kind.value(1)));
+        QCOMPARE(ask(QStringLiteral("supplySupplyRGB"), {Loaded}), toJson(kind.value(2)));
     }
-    for (const auto& [id, sku] :
-         {std::pair(u"-1"_s, u"-1"_s), std::pair(u""_s, u"-1"_s), std::pair(u"odd"_s, u""_s)}) {
-        QVERIFY(ask(u"setSupplyId"_s, {id, Loaded}).isNull());
-        QCOMPARE(ask(u"supplySKUCached"_s, {Loaded}).toString(), sku);
-        QCOMPARE(ask(u"supplySupplyRGB"_s, {Loaded}).toString(), QString());
+    for (const auto& [id, sku] : {std::pair(QStringLiteral("-1"), QStringLiteral("-1")),
+                                  std::pair(QStringLiteral(""), QStringLiteral("-1")),
+                                  std::pair(QStringLiteral("odd"), QStringLiteral(""))}) {
+        QVERIFY(ask(QStringLiteral("setSupplyId"), {id, Loaded}).isNull());
+        QCOMPARE(ask(QStringLiteral("supplySKUCached"), {Loaded}).toString(), sku);
+        QCOMPARE(ask(QStringLiteral("supplySupplyRGB"), {Loaded}).toString(), QString());
     }
-    QCOMPARE(ask(u"supplySKUCached"_s, {Idle}).toString(), u"-1"_s);
+    QCOMPARE(ask(QStringLiteral("supplySKUCached"), {Idle}).toString(), QStringLiteral("-1"));
 }
 
 void EndpointsOverIpcTest::readsBackTheLoadedRibbons()
 {
     const QList<QSqlRecord> numbers =
-        rows(u"SELECT number || '', ribbon_sku FROM ribbon_number ORDER BY number"_s);
+        rows(QStringLiteral("SELECT number || '', ribbon_sku FROM ribbon_number ORDER BY number"));
     QVERIFY(numbers.size() >= 20);
     const QString rgbs =
-        u"SELECT c.rgb || '' FROM ribbon_panel p JOIN colour c ON c.id = p.colour_id"
-        " WHERE p.ribbon_sku = '%1' ORDER BY p.panel"_s;
+        QStringLiteral("SELECT c.rgb || '' FROM ribbon_panel p JOIN colour c ON c.id = p.colour_id"
+                       " WHERE p.ribbon_sku = '%1' ORDER BY p.panel");
     for (qsizetype i = 1; i < numbers.size(); ++i) {
         const QSqlRecord& first = numbers.at(i);
         const QSqlRecord& second = numbers.at(i - 1);
         const QJsonArray ids{toJson(first.value(0)), toJson(second.value(0))};
-        QVERIFY(ask(u"setRibbonIds"_s, {ids, Loaded}).isNull());
-        QCOMPARE(ask(u"supplyRibbonSKUsCached"_s, {Loaded}).toArray(),
+        QVERIFY(ask(QStringLiteral("setRibbonIds"), {ids, Loaded}).isNull());
+        QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {Loaded}).toArray(),
                  (QJsonArray{toJson(first.value(1)), toJson(second.value(1))}));
-        QCOMPARE(ask(u"supplyRibbon1RGBs"_s, {Loaded}).toArray(),
+        QCOMPARE(ask(QStringLiteral("supplyRibbon1RGBs"), {Loaded}).toArray(),
                  column(rgbs.arg(first.value(1).toString())));
-        QCOMPARE(ask(u"supplyRibbon2RGBs"_s, {Loaded}).toArray(),
+        QCOMPARE(ask(QStringLiteral("supplyRibbon2RGBs"), {Loaded}).toArray(),
                  column(rgbs.arg(second.value(1).toString())));
     }
-    const QJsonArray odd{u"-1"_s, u"4294967295"_s, u"0"_s, u""_s, u"odd"_s};
-    QVERIFY(ask(u"setRibbonIds"_s, {odd, Loaded}).isNull());
-    QCOMPARE(ask(u"supplyRibbonSKUsCached"_s, {Loaded}).toArray(),
-             (QJsonArray{u"-1"_s, u"-1"_s, u"-1"_s, u"-1"_s, u""_s}));
-    QCOMPARE(ask(u"supplyRibbonSKUsCached"_s, {Idle}).toArray(), QJsonArray());
+    const QJsonArray odd{QStringLiteral("-1"), QStringLiteral("4294967295"), QStringLiteral("0"),
+                         QStringLiteral(""), QStringLiteral("odd")};
+    QVERIFY(ask(QStringLiteral("setRibbonIds"), {odd, Loaded}).isNull());
+    QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {Loaded}).toArray(),
+             (QJsonArray{QStringLiteral("-1"), QStringLiteral("-1"), QStringLiteral("-1"),
+                         QStringLiteral("-1"), QStringLiteral("")}));
+    QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {Idle}).toArray(), QJsonArray());
 }
 
 QJsonObject EndpointsOverIpcTest::expectedRecord(const QString& supplySku,
                                                  const QStringList& ribbonSkus,
                                                  const QString& printer, const QString& supplyId)
 {
-    const QString english = u"(SELECT english FROM name WHERE id = %1.name_id)"_s;
-    const QList<QSqlRecord> supply =
-        rows(u"SELECT coalesce(second_colour_width, -1.0) AS secColorWidth,"
-             " coalesce(d.rgb, -1) AS secColorRGB, coalesce("_s +
-             named(u"d"_s) + u", '') AS secColorName, coalesce("_s + english.arg(u"d"_s) +
-             u", '') AS secColorNameEn, s.length AS supplyLength, m.id AS material, "_s +
-             named(u"m"_s) + u" AS materialName, f.id AS format, "_s + named(u"f"_s) +
-             u" AS formatName, f.type AS formatType, c.rgb AS colorRGB, "_s + named(u"c"_s) +
-             u" AS colorName, "_s + english.arg(u"c"_s) +
-             u" AS colorNameEn, s.width AS supplyWidth, s.is_landscape AS isLandscape,"
-             " coalesce((SELECT image FROM background WHERE id = s.background_id), '')"
-             " AS backgroundImage, coalesce(s.separator_width, -1.0) AS separatorWidth,"
-             " coalesce(s.label_length, -1.0) AS nonContinuousLength, "_s +
-             typeIndex(u"'%1'"_s.arg(printer)) +
-             u" AS typeIndex, s.multi_up_count AS multiUpCount,"
-             " coalesce(s.multi_up_gap, -1.0) AS multiUpGapSize FROM supply s"
-             " JOIN material m ON m.id = s.material_id JOIN format f ON f.id = s.format_id"
-             " JOIN colour c ON c.id = s.colour_id LEFT JOIN colour d ON d.id = s.second_colour_id"
-             " WHERE s.sku = '%1'"_s.arg(supplySku));
+    const QString english = QStringLiteral("(SELECT english FROM name WHERE id = %1.name_id)");
+    const QList<QSqlRecord> supply = rows(
+        QStringLiteral("SELECT coalesce(second_colour_width, -1.0) AS secColorWidth,"
+                       " coalesce(d.rgb, -1) AS secColorRGB, coalesce(") +
+        named(QStringLiteral("d")) + QStringLiteral(", '') AS secColorName, coalesce(") +
+        english.arg(QStringLiteral("d")) +
+        QStringLiteral(", '') AS secColorNameEn, s.length AS supplyLength, m.id AS material, ") +
+        named(QStringLiteral("m")) + QStringLiteral(" AS materialName, f.id AS format, ") +
+        named(QStringLiteral("f")) +
+        QStringLiteral(" AS formatName, f.type AS formatType, c.rgb AS colorRGB, ") +
+        named(QStringLiteral("c")) + QStringLiteral(" AS colorName, ") +
+        english.arg(QStringLiteral("c")) +
+        QStringLiteral(" AS colorNameEn, s.width AS supplyWidth, s.is_landscape AS isLandscape,"
+                       " coalesce((SELECT image FROM background WHERE id = s.background_id), '')"
+                       " AS backgroundImage, coalesce(s.separator_width, -1.0) AS separatorWidth,"
+                       " coalesce(s.label_length, -1.0) AS nonContinuousLength, ") +
+        typeIndex(QStringLiteral("'%1'").arg(printer)) +
+        QStringLiteral(
+            " AS typeIndex, s.multi_up_count AS multiUpCount,"
+            " coalesce(s.multi_up_gap, -1.0) AS multiUpGapSize FROM supply s"
+            " JOIN material m ON m.id = s.material_id JOIN format f ON f.id = s.format_id"
+            " JOIN colour c ON c.id = s.colour_id LEFT JOIN colour d ON d.id = s.second_colour_id"
+            " WHERE s.sku = '%1'")
+            .arg(supplySku));
 
     QJsonObject record = IdleRecord;
     const auto set = [&record](const QString& member, const QVariant& value) {
@@ -830,41 +873,43 @@ QJsonObject EndpointsOverIpcTest::expectedRecord(const QString& supplySku,
                                   ? QJsonValue(static_cast<double>(value.toFloat()))
                                   : toJson(value));
     };
-    record.insert(u"supplyId"_s, supplyId);
-    record.insert(u"supplySku"_s, supplySku);
-    record.insert(u"ribbonSkus"_s, QJsonArray::fromStringList(ribbonSkus));
+    record.insert(QStringLiteral("supplyId"), supplyId);
+    record.insert(QStringLiteral("supplySku"), supplySku);
+    record.insert(QStringLiteral("ribbonSkus"), QJsonArray::fromStringList(ribbonSkus));
     for (int i = 0; i < supply.at(0).count(); ++i)
         set(supply.at(0).fieldName(i), supply.at(0).value(i));
 
     QMap<QString, QJsonArray> lists;
-    QStringList types(2, u""_s);
+    QStringList types(2, QStringLiteral(""));
     for (qsizetype i = 0; i < ribbonSkus.size(); ++i) {
         const QSqlRecord ribbon =
-            rows(u"SELECT r.type, r.width, r.length,"
-                 " (SELECT count(*) FROM ribbon_panel WHERE ribbon_sku = r.sku) AS panels, "_s +
-                 named(u"c"_s) +
-                 u" AS ribbonColorNames, c.rgb AS ribbonColorRGBs,"
-                 " coalesce(t.heat, -1) AS ribbonHeats,"
-                 " coalesce(t.heat_offset, -1) AS ribbonHeatOffsets,"
-                 " coalesce(t.max_speed, -1) AS ribbonMaxSpeeds,"
-                 " coalesce(t.tension, -1) AS ribbonTensions FROM ribbon r"
-                 " JOIN ribbon_panel p ON p.ribbon_sku = r.sku AND p.panel = 1"
-                 " JOIN colour c ON c.id = p.colour_id LEFT JOIN print_setting t"
-                 " ON t.ribbon_sku = r.sku AND t.panel = 1 AND t.supply_sku = '%2'"
-                 " WHERE r.sku = '%1'"_s.arg(ribbonSkus.at(i), supplySku))
+            rows(QStringLiteral(
+                     "SELECT r.type, r.width, r.length,"
+                     " (SELECT count(*) FROM ribbon_panel WHERE ribbon_sku = r.sku) AS panels, ") +
+                 named(QStringLiteral("c")) +
+                 QStringLiteral(" AS ribbonColorNames, c.rgb AS ribbonColorRGBs,"
+                                " coalesce(t.heat, -1) AS ribbonHeats,"
+                                " coalesce(t.heat_offset, -1) AS ribbonHeatOffsets,"
+                                " coalesce(t.max_speed, -1) AS ribbonMaxSpeeds,"
+                                " coalesce(t.tension, -1) AS ribbonTensions FROM ribbon r"
+                                " JOIN ribbon_panel p ON p.ribbon_sku = r.sku AND p.panel = 1"
+                                " JOIN colour c ON c.id = p.colour_id LEFT JOIN print_setting t"
+                                " ON t.ribbon_sku = r.sku AND t.panel = 1 AND t.supply_sku = '%2'"
+                                " WHERE r.sku = '%1'")
+                     .arg(ribbonSkus.at(i), supplySku))
                 .value(0);
         for (int field = 4; field < ribbon.count(); ++field)
             lists[ribbon.fieldName(field)].append(toJson(ribbon.value(field)));
         if (i >= types.size())
             continue;
         types[i] = ribbon.value(0).toString();
-        set(u"ribbon%1Width"_s.arg(i + 1), ribbon.value(1));
-        set(u"ribbon%1Length"_s.arg(i + 1), ribbon.value(2));
-        set(u"ribbon%1Panels"_s.arg(i + 1), ribbon.value(3));
+        set(QStringLiteral("ribbon%1Width").arg(i + 1), ribbon.value(1));
+        set(QStringLiteral("ribbon%1Length").arg(i + 1), ribbon.value(2));
+        set(QStringLiteral("ribbon%1Panels").arg(i + 1), ribbon.value(3));
     }
     for (auto list = lists.cbegin(); list != lists.cend(); ++list)
         record.insert(list.key(), list.value());
-    record.insert(u"ribbonTypes"_s, QJsonArray::fromStringList(types));
+    record.insert(QStringLiteral("ribbonTypes"), QJsonArray::fromStringList(types));
     return crossed(record).toObject();
 }
 
@@ -872,27 +917,27 @@ void EndpointsOverIpcTest::gathersWhatIsLoaded()
 {
     // Each supply with two ribbons that have a setting for it.
     const QList<QSqlRecord> loads =
-        rows(u"WITH load AS (SELECT k.kind, k.supply_sku, min(n.number) AS least,"
-             " max(n.number) AS most FROM supply_kind k"
-             " JOIN print_setting t ON t.supply_sku = k.supply_sku"
-             " JOIN ribbon_number n ON n.ribbon_sku = t.ribbon_sku GROUP BY k.kind)"
-             " SELECT printf('%08X%06d%06X', 500, kind, 167), supply_sku,"
-             " least || '', r.ribbon_sku, most || '', q.ribbon_sku FROM load"
-             " JOIN ribbon_number r ON r.number = least"
-             " JOIN ribbon_number q ON q.number = most"_s);
+        rows(QStringLiteral("WITH load AS (SELECT k.kind, k.supply_sku, min(n.number) AS least,"
+                            " max(n.number) AS most FROM supply_kind k"
+                            " JOIN print_setting t ON t.supply_sku = k.supply_sku"
+                            " JOIN ribbon_number n ON n.ribbon_sku = t.ribbon_sku GROUP BY k.kind)"
+                            " SELECT printf('%08X%06d%06X', 500, kind, 167), supply_sku,"
+                            " least || '', r.ribbon_sku, most || '', q.ribbon_sku FROM load"
+                            " JOIN ribbon_number r ON r.number = least"
+                            " JOIN ribbon_number q ON q.number = most"));
     QVERIFY(loads.size() >= 20);
     for (const QSqlRecord& load : loads) {
         const QString id = load.value(0).toString();
-        QVERIFY(ask(u"setSupplyId"_s, {id, Loaded}).isNull());
-        QVERIFY(ask(u"setRibbonIds"_s,
+        QVERIFY(ask(QStringLiteral("setSupplyId"), {id, Loaded}).isNull());
+        QVERIFY(ask(QStringLiteral("setRibbonIds"),
                     {QJsonArray{toJson(load.value(2)), toJson(load.value(4))}, Loaded})
                     .isNull());
         const QJsonObject expected =
             expectedRecord(load.value(1).toString(),
                            {load.value(3).toString(), load.value(5).toString()}, Loaded, id);
-        QVERIFY(expected[u"ribbonHeats"_s][0].toInt() >= 0);
+        QVERIFY(expected[QStringLiteral("ribbonHeats")][0].toInt() >= 0);
         QCOMPARE(expected.size(), 37);
-        QCOMPARE(ask(u"supplyInformation"_s, {Loaded}).toObject(), expected);
+        QCOMPARE(ask(QStringLiteral("supplyInformation"), {Loaded}).toObject(), expected);
     }
 }
 
@@ -910,63 +955,69 @@ void EndpointsOverIpcTest::gathersWhatIsAskedFor()
     QFETCH(int, ribbons);
     QStringList ribbonSkus;
     for (const QSqlRecord& ribbon :
-         rows(u"SELECT sku FROM ribbon ORDER BY sku DESC LIMIT %1"_s.arg(ribbons)))
+         rows(QStringLiteral("SELECT sku FROM ribbon ORDER BY sku DESC LIMIT %1").arg(ribbons)))
         ribbonSkus.append(ribbon.value(0).toString());
     QCOMPARE(ribbonSkus.size(), ribbons);
-    for (const QSqlRecord& supply : rows(u"SELECT sku FROM supply"_s)) {
+    for (const QSqlRecord& supply : rows(QStringLiteral("SELECT sku FROM supply"))) {
         const QString sku = supply.value(0).toString();
         const QJsonArray arguments{sku, QJsonArray::fromStringList(ribbonSkus), Idle};
         const QJsonObject expected = expectedRecord(sku, ribbonSkus, Idle, {});
-        QCOMPARE(ask(u"supplyInformationBySKUs"_s, arguments).toObject(), expected);
+        QCOMPARE(ask(QStringLiteral("supplyInformationBySKUs"), arguments).toObject(), expected);
     }
 }
 
 void EndpointsOverIpcTest::sharesOneDatabaseAmongPrintersNeverAdded()
 {
-    const QSqlRecord kind =
-        rows(
-            u"SELECT printf('%08X%06d%06X', 500, kind, 167), supply_sku FROM supply_kind LIMIT 1"_s)
-            .at(0);
+    const QSqlRecord kind = rows(QStringLiteral("SELECT printf('%08X%06d%06X', 500, kind, 167), "
+                                                "supply_sku FROM supply_kind LIMIT 1"))
+                                .at(0);
     const QString id = kind.value(0).toString();
     const QString sku = kind.value(1).toString();
-    QVERIFY(ask(u"setSupplyId"_s, {id, NeverAdded}).isNull());
-    QCOMPARE(ask(u"supplySKUCached"_s, {u"Another never added"_s}).toString(), sku);
-    QCOMPARE(ask(u"supplySKUCached"_s, {u"-"_s}).toString(), sku);
-    QCOMPARE(ask(u"supplySKUCached"_s, {u""_s}).toString(), u"-1"_s);
-    QCOMPARE(ask(u"supplySKUCached"_s, {Idle}).toString(), u"-1"_s);
-    QCOMPARE(ask(u"supplyInformation"_s, {u""_s}), ask(u"supplyInformation"_s, {u"-"_s}));
-    QCOMPARE(ask(u"supplyInformation"_s, {NeverAdded}).toObject(),
+    QVERIFY(ask(QStringLiteral("setSupplyId"), {id, NeverAdded}).isNull());
+    QCOMPARE(
+        ask(QStringLiteral("supplySKUCached"), {QStringLiteral("Another never added")}).toString(),
+        sku);
+    QCOMPARE(ask(QStringLiteral("supplySKUCached"), {QStringLiteral("-")}).toString(), sku);
+    QCOMPARE(ask(QStringLiteral("supplySKUCached"), {QStringLiteral("")}).toString(),
+             QStringLiteral("-1"));
+    QCOMPARE(ask(QStringLiteral("supplySKUCached"), {Idle}).toString(), QStringLiteral("-1"));
+    QCOMPARE(ask(QStringLiteral("supplyInformation"), {QStringLiteral("")}),
+             ask(QStringLiteral("supplyInformation"), {QStringLiteral("-")}));
+    QCOMPARE(ask(QStringLiteral("supplyInformation"), {NeverAdded}).toObject(),
              expectedRecord(sku, {}, NeverAdded, id));
 }
 
 void EndpointsOverIpcTest::keepsTheStatusOfPrinters()
 {
     const auto status = [this](const QString& printer) {
-        return call(Printers, u"getPrinterStatus"_s, QJsonArray{printer}).toInt();
+        return call(Printers, QStringLiteral("getPrinterStatus"), QJsonArray{printer}).toInt();
     };
     QCOMPARE(status(Loaded), 255);
-    QVERIFY(call(Printers, u"onStatusChanged"_s, QJsonArray{7, Loaded}).isNull());
+    QVERIFY(call(Printers, QStringLiteral("onStatusChanged"), QJsonArray{7, Loaded}).isNull());
     QCOMPARE(status(Loaded), 7);
     QCOMPARE(status(Loaded.toUpper()), 255);
-    QVERIFY(call(Printers, u"onStatusChanged"_s, QJsonArray{-1, Loaded}).isNull());
+    QVERIFY(call(Printers, QStringLiteral("onStatusChanged"), QJsonArray{-1, Loaded}).isNull());
     QCOMPARE(status(Loaded), -1);
-    QVERIFY(call(Printers, u"onStatusChanged"_s, QJsonArray{3, u""_s}).isNull());
+    QVERIFY(call(Printers, QStringLiteral("onStatusChanged"), QJsonArray{3, QStringLiteral("")})
+                .isNull());
     QCOMPARE(status({}), 3);
 }
 
 void EndpointsOverIpcTest::keepsAsManyStatusesForOthersAsThereMayBe()
 {
     // A host of its own, as the names stay.
-    HostProcess host(u"endpoint_host"_s, {}, int(ServiceCount));
+    HostProcess host(QStringLiteral("endpoint_host"), {}, int(ServiceCount));
     VXIPCClient client(host.serverName(Printers));
     const auto report = [&](int status, const QString& printer) {
         const VXIPCReply reply =
-            client.callAndWait(u"onStatusChanged"_s, QJsonArray{status, printer});
-        return reply.isOk() ? QString()
-                            : u"%1 %2"_s.arg(reply.error->code).arg(reply.error->message);
+            client.callAndWait(QStringLiteral("onStatusChanged"), QJsonArray{status, printer});
+        return reply.isOk()
+                   ? QString()
+                   : QStringLiteral("%1 %2").arg(reply.error->code).arg(reply.error->message);
     };
     const auto status = [&](const QString& printer) {
-        return client.callAndWait(u"getPrinterStatus"_s, QJsonArray{printer}).result.toInt();
+        return client.callAndWait(QStringLiteral("getPrinterStatus"), QJsonArray{printer})
+            .result.toInt();
     };
 
     // "\\\\SERVER\\PRINTER" with names of 255 and 220 characters: Microsoft's page "Computer Names"
@@ -974,32 +1025,37 @@ void EndpointsOverIpcTest::keepsAsManyStatusesForOthersAsThereMayBe()
     // win32ss/printing/providers/localspl/precomp.h, MAX_PRINTER_NAME.
     const QString longestName(478, u'n');
     QCOMPARE(report(1, longestName), QString());
-    QCOMPARE(report(1, longestName + u'n'),
-             u"-32003 Refused: a printer's name has at most 478 characters, got 479"_s);
+    QCOMPARE(
+        report(1, longestName + u'n'),
+        QStringLiteral("-32003 Refused: a printer's name has at most 478 characters, got 479"));
     QCOMPARE(status(longestName + u'n'), 255);
 
     int refused = 0;
     for (int i = 1; i < 4096; ++i)
-        refused += report(i, u"printer %1"_s.arg(i)).isEmpty() ? 0 : 1;
+        refused += report(i, QStringLiteral("printer %1").arg(i)).isEmpty() ? 0 : 1;
     QCOMPARE(refused, 0);
-    QCOMPARE(
-        report(1, u"one more"_s),
-        u"-32003 Refused: 4096 printers were reported by other processes, and no more are kept"_s);
-    QCOMPARE(status(u"one more"_s), 255);
+    QCOMPARE(report(1, QStringLiteral("one more")),
+             QStringLiteral("-32003 Refused: 4096 printers were reported by other processes, and "
+                            "no more are kept"));
+    QCOMPARE(status(QStringLiteral("one more")), 255);
     // Those that are kept still change.
-    QCOMPARE(status(u"printer 4095"_s), 4095);
-    QCOMPARE(report(7, u"printer 4095"_s), QString());
-    QCOMPARE(status(u"printer 4095"_s), 7);
+    QCOMPARE(status(QStringLiteral("printer 4095")), 4095);
+    QCOMPARE(report(7, QStringLiteral("printer 4095")), QString());
+    QCOMPARE(status(QStringLiteral("printer 4095")), 7);
     QCOMPARE(report(8, longestName), QString());
     QCOMPARE(status(longestName), 8);
 }
 
 void EndpointsOverIpcTest::keepsNoJob()
 {
-    QVERIFY(call(PrintQueue, u"addJob"_s, QJsonArray{u"{1}"_s, u"labels"_s, u"Quillmark"_s, 1})
+    QVERIFY(call(PrintQueue, QStringLiteral("addJob"),
+                 QJsonArray{QStringLiteral("{1}"), QStringLiteral("labels"),
+                            QStringLiteral("Quillmark"), 1})
                 .isNull());
-    QCOMPARE(call(PrintQueue, u"getJobList"_s, QJsonArray()).toArray(), QJsonArray());
-    QCOMPARE(call(PrintQueue, u"getJobInfo"_s, QJsonArray{u"{1}"_s}).toObject(), UnknownJob);
+    QCOMPARE(call(PrintQueue, QStringLiteral("getJobList"), QJsonArray()).toArray(), QJsonArray());
+    QCOMPARE(call(PrintQueue, QStringLiteral("getJobInfo"), QJsonArray{QStringLiteral("{1}")})
+                 .toObject(),
+             UnknownJob);
 }
 
 int main(int argc, char* argv[])

@@ -61,10 +61,10 @@ void PlaceholderEndpointsTest::keepsWhateverItsOwnProcessReports()
 {
     // More names, and longer ones, than other processes may leave.
     VXIPCM4Controller printers;
-    constexpr int Names = 5000;
-    for (int i = 0; i < Names; ++i)
+    constexpr int nameCount = 5000;
+    for (int i = 0; i < nameCount; ++i)
         printers.onStatusChanged(i, QStringLiteral("printer %1").arg(i));
-    for (int i = 0; i < Names; ++i)
+    for (int i = 0; i < nameCount; ++i)
         QCOMPARE(printers.getPrinterStatus(QStringLiteral("printer %1").arg(i)), i);
     const QString longName(100000, QLatin1Char('n'));
     printers.onStatusChanged(7, longName);

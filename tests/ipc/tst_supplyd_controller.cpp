@@ -21,32 +21,30 @@
 #include <functional>
 #include <memory>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-const QString Tape = u"TAPE-1"_s;
-const QString Label = u"LABEL-1"_s;
-const QString RibbonK = u"RIBBON-K"_s;
-const QString RibbonRK = u"RIBBON-RK"_s;
-const QString TapeId = u"000001F41000420000A7"_s;
-const QString LabelId = u"00000064100050000001"_s;
-const QStringList RibbonIds{u"2001"_s, u"2003"_s};
+const QString Tape = QStringLiteral("TAPE-1");
+const QString Label = QStringLiteral("LABEL-1");
+const QString RibbonK = QStringLiteral("RIBBON-K");
+const QString RibbonRK = QStringLiteral("RIBBON-RK");
+const QString TapeId = QStringLiteral("000001F41000420000A7");
+const QString LabelId = QStringLiteral("00000064100050000001");
+const QStringList RibbonIds{QStringLiteral("2001"), QStringLiteral("2003")};
 
-const QString Added = u"Added printer"_s;
-const QString NeverAdded = u"Never added printer"_s;
+const QString Added = QStringLiteral("Added printer");
+const QString NeverAdded = QStringLiteral("Never added printer");
 
 QString databasePath()
 {
-    return QCoreApplication::applicationDirPath() + u"/roll.db"_s;
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/roll.db");
 }
 
 bool change(const char* statement)
 {
-    const QString name = u"change"_s;
+    const QString name = QStringLiteral("change");
     bool isDone = false;
     {
-        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, name);
+        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
         database.setDatabaseName(databasePath());
         database.open();
         QSqlQuery query(database);
@@ -144,52 +142,54 @@ private Q_SLOTS:
             QStringList arguments;
             for (const QByteArray& name : method.parameterNames())
                 arguments.append(QString::fromLatin1(name));
-            methods.append(u"%1 %2(%3)"_s.arg(QString::fromLatin1(method.typeName()),
-                                              QString::fromLatin1(method.name()),
-                                              arguments.join(u", "_s)));
+            methods.append(QStringLiteral("%1 %2(%3)")
+                               .arg(QString::fromLatin1(method.typeName()),
+                                    QString::fromLatin1(method.name()),
+                                    arguments.join(QStringLiteral(", "))));
         }
         const QStringList expected{
-            u"QStringList supplySKUList()"_s,
-            u"QStringList supplyRibbonSKUList()"_s,
-            u"QVariantHash supplyColorHash()"_s,
-            u"QVariantHash supplyRibbonColorHash()"_s,
-            u"QString supplyId()"_s,
-            u"QString supplySKUCached(printerName)"_s,
-            u"QStringList supplyRibbonSKUsCached(printerName)"_s,
-            u"double supplySupplyPercent()"_s,
-            u"double supplyRibbon1Percent()"_s,
-            u"double supplyRibbon2Percent()"_s,
-            u"QString supplySupplyRGB(printerName)"_s,
-            u"QStringList supplyRibbon1RGBs(printerName)"_s,
-            u"QStringList supplyRibbon2RGBs(printerName)"_s,
-            u"QString supplySupplyUID()"_s,
-            u"QString supplyRibbon1UID()"_s,
-            u"QString supplyRibbon2UID()"_s,
-            u"SupplyInformation supplyInformation(printerName)"_s,
-            u"SupplyInformation supplyInformationBySKUs(supplySku, ribbonSkus, printerName)"_s,
-            u"QString supplyMaterialName(sku, printerName)"_s,
-            u"QString supplyFormatName(sku, printerName)"_s,
-            u"int supplyColorRGB(sku, printerName)"_s,
-            u"QString supplyColorName(sku, printerName)"_s,
-            u"double supplyWidth(sku, printerName)"_s,
-            u"int supplyIsLandscape(sku)"_s,
-            u"QByteArray supplyBackgroundImage(sku)"_s,
-            u"double supplyNonContinuousLength(sku, printerName)"_s,
-            u"int supplyTypeIndex(sku, printerName)"_s,
-            u"int supplyRibbonPanels(ribbonSku)"_s,
-            u"double supplyRibbonWidth(ribbonSku)"_s,
-            u"double supplyRibbonLength(ribbonSku)"_s,
-            u"QString supplyRibbonColorName(ribbonSku, panel)"_s,
-            u"int supplyRibbonColorRGB(ribbonSku, panel)"_s,
-            u"int supplyRibbonHeat(ribbonSku, panel, supplySku)"_s,
-            u"int supplyRibbonHeatOffset(ribbonSku, panel, supplySku)"_s,
-            u"int supplyRibbonMaxSpeed(ribbonSku, panel, supplySku)"_s,
-            u"int supplyRibbonTension(ribbonSku, panel, supplySku)"_s,
-            u"QString supplyRibbonType(ribbonSku)"_s,
-            u"void supplyModuleReady(windowId, processId, applicationName)"_s,
-            u"void applicationWasClicked()"_s,
-            u"void setModulePrinterName(printerName)"_s,
-            u"void openLabelFile(filePath)"_s,
+            QStringLiteral("QStringList supplySKUList()"),
+            QStringLiteral("QStringList supplyRibbonSKUList()"),
+            QStringLiteral("QVariantHash supplyColorHash()"),
+            QStringLiteral("QVariantHash supplyRibbonColorHash()"),
+            QStringLiteral("QString supplyId()"),
+            QStringLiteral("QString supplySKUCached(printerName)"),
+            QStringLiteral("QStringList supplyRibbonSKUsCached(printerName)"),
+            QStringLiteral("double supplySupplyPercent()"),
+            QStringLiteral("double supplyRibbon1Percent()"),
+            QStringLiteral("double supplyRibbon2Percent()"),
+            QStringLiteral("QString supplySupplyRGB(printerName)"),
+            QStringLiteral("QStringList supplyRibbon1RGBs(printerName)"),
+            QStringLiteral("QStringList supplyRibbon2RGBs(printerName)"),
+            QStringLiteral("QString supplySupplyUID()"),
+            QStringLiteral("QString supplyRibbon1UID()"),
+            QStringLiteral("QString supplyRibbon2UID()"),
+            QStringLiteral("SupplyInformation supplyInformation(printerName)"),
+            QStringLiteral(
+                "SupplyInformation supplyInformationBySKUs(supplySku, ribbonSkus, printerName)"),
+            QStringLiteral("QString supplyMaterialName(sku, printerName)"),
+            QStringLiteral("QString supplyFormatName(sku, printerName)"),
+            QStringLiteral("int supplyColorRGB(sku, printerName)"),
+            QStringLiteral("QString supplyColorName(sku, printerName)"),
+            QStringLiteral("double supplyWidth(sku, printerName)"),
+            QStringLiteral("int supplyIsLandscape(sku)"),
+            QStringLiteral("QByteArray supplyBackgroundImage(sku)"),
+            QStringLiteral("double supplyNonContinuousLength(sku, printerName)"),
+            QStringLiteral("int supplyTypeIndex(sku, printerName)"),
+            QStringLiteral("int supplyRibbonPanels(ribbonSku)"),
+            QStringLiteral("double supplyRibbonWidth(ribbonSku)"),
+            QStringLiteral("double supplyRibbonLength(ribbonSku)"),
+            QStringLiteral("QString supplyRibbonColorName(ribbonSku, panel)"),
+            QStringLiteral("int supplyRibbonColorRGB(ribbonSku, panel)"),
+            QStringLiteral("int supplyRibbonHeat(ribbonSku, panel, supplySku)"),
+            QStringLiteral("int supplyRibbonHeatOffset(ribbonSku, panel, supplySku)"),
+            QStringLiteral("int supplyRibbonMaxSpeed(ribbonSku, panel, supplySku)"),
+            QStringLiteral("int supplyRibbonTension(ribbonSku, panel, supplySku)"),
+            QStringLiteral("QString supplyRibbonType(ribbonSku)"),
+            QStringLiteral("void supplyModuleReady(windowId, processId, applicationName)"),
+            QStringLiteral("void applicationWasClicked()"),
+            QStringLiteral("void setModulePrinterName(printerName)"),
+            QStringLiteral("void openLabelFile(filePath)"),
         };
         QCOMPARE(methods, expected);
     }
@@ -208,7 +208,7 @@ private Q_SLOTS:
         QVERIFY(QMetaObject::invokeMethod(m_endpoint.get(), "supplyColorName",
                                           Q_RETURN_ARG(QString, name), Q_ARG(QString, Tape),
                                           Q_ARG(QString, Added)));
-        QCOMPARE(name, u"White"_s);
+        QCOMPARE(name, QStringLiteral("White"));
     }
 
     void asksTheDatabaseThatTheRuleChooses_data()
@@ -235,7 +235,7 @@ private Q_SLOTS:
         m_endpoint->setRibbonIds(RibbonIds, Added);
         QCOMPARE(query->ask(*m_endpoint, Added), query->isByPrinter ? query->after : query->before);
         QCOMPARE(query->ask(*m_endpoint, {}), query->before);
-        QCOMPARE(query->ask(*m_endpoint, u"-"_s), query->before);
+        QCOMPARE(query->ask(*m_endpoint, QStringLiteral("-")), query->before);
         QCOMPARE(query->ask(*m_endpoint, NeverAdded), query->before);
     }
 
@@ -243,17 +243,17 @@ private Q_SLOTS:
     {
         // "-" and an empty name have the list of no model, a printer the one of the model it names.
         QCOMPARE(m_endpoint->supplyTypeIndex(Label, {}), 1);
-        QCOMPARE(m_endpoint->supplyTypeIndex(Label, u"-"_s), 1);
-        QCOMPARE(m_endpoint->supplyTypeIndex(Label, u"Stratamark AlderMax"_s), 0);
-        QCOMPARE(m_endpoint->supplyTypeIndex(Tape, u"Stratamark Alder"_s), -1);
+        QCOMPARE(m_endpoint->supplyTypeIndex(Label, QStringLiteral("-")), 1);
+        QCOMPARE(m_endpoint->supplyTypeIndex(Label, QStringLiteral("Stratamark AlderMax")), 0);
+        QCOMPARE(m_endpoint->supplyTypeIndex(Tape, QStringLiteral("Stratamark Alder")), -1);
     }
 
     void anEmptyNameHasNoSupplyButTheSharedRibbons()
     {
         m_endpoint->setSupplyId(TapeId, NeverAdded);
         m_endpoint->setRibbonIds(RibbonIds, NeverAdded);
-        QCOMPARE(m_endpoint->supplySKUCached({}), u"-1"_s);
-        QCOMPARE(m_endpoint->supplySKUCached(u"-"_s), Tape);
+        QCOMPARE(m_endpoint->supplySKUCached({}), QStringLiteral("-1"));
+        QCOMPARE(m_endpoint->supplySKUCached(QStringLiteral("-")), Tape);
         QCOMPARE(m_endpoint->supplyRibbonSKUsCached({}), (QStringList{RibbonK, RibbonRK}));
     }
 
@@ -261,8 +261,8 @@ private Q_SLOTS:
     {
         m_endpoint->setSupplyId(TapeId, {});
         m_endpoint->setRibbonIds(RibbonIds, {});
-        QCOMPARE(m_endpoint->supplySKUCached(u"-"_s), u"-1"_s);
-        QCOMPARE(m_endpoint->supplySKUCached(NeverAdded), u"-1"_s);
+        QCOMPARE(m_endpoint->supplySKUCached(QStringLiteral("-")), QStringLiteral("-1"));
+        QCOMPARE(m_endpoint->supplySKUCached(NeverAdded), QStringLiteral("-1"));
         QCOMPARE(m_endpoint->supplyRibbonSKUsCached({}), QStringList());
 
         m_endpoint->setSupplyId(TapeId, NeverAdded);
@@ -277,20 +277,20 @@ private Q_SLOTS:
     {
         m_endpoint->setSupplyId(TapeId, NeverAdded);
         QCOMPARE(m_endpoint->supplySKUCached(NeverAdded), Tape);
-        QCOMPARE(m_endpoint->supplySKUCached(u"another one"_s), Tape);
-        QCOMPARE(m_endpoint->supplySKUCached({}), u"-1"_s);
+        QCOMPARE(m_endpoint->supplySKUCached(QStringLiteral("another one")), Tape);
+        QCOMPARE(m_endpoint->supplySKUCached({}), QStringLiteral("-1"));
     }
 
     void eachAddedPrinterHasItsOwn()
     {
         m_endpoint->addNewPrinter(Added);
-        m_endpoint->addNewPrinter(u"Second"_s);
+        m_endpoint->addNewPrinter(QStringLiteral("Second"));
         m_endpoint->setSupplyId(TapeId, Added);
-        m_endpoint->setSupplyId(LabelId, u"Second"_s);
+        m_endpoint->setSupplyId(LabelId, QStringLiteral("Second"));
         QCOMPARE(m_endpoint->supplySKUCached(Added), Tape);
-        QCOMPARE(m_endpoint->supplySKUCached(u"Second"_s), Label);
-        QCOMPARE(m_endpoint->supplySKUCached(u"second"_s), u"-1"_s);
-        QCOMPARE(m_endpoint->supplySKUCached(NeverAdded), u"-1"_s);
+        QCOMPARE(m_endpoint->supplySKUCached(QStringLiteral("Second")), Label);
+        QCOMPARE(m_endpoint->supplySKUCached(QStringLiteral("second")), QStringLiteral("-1"));
+        QCOMPARE(m_endpoint->supplySKUCached(NeverAdded), QStringLiteral("-1"));
     }
 
     void addingAPrinterAgainKeepsWhatIsLoaded()
@@ -316,18 +316,18 @@ private Q_SLOTS:
         m_endpoint->supplyColorName(Tape, {});
         QStringList names = QSqlDatabase::connectionNames();
         names.sort();
-        QCOMPARE(names, (QStringList{u"Added printer_CONNECTION_NAME"_s,
-                                     u"SUPPLY_INFO_QT_SQL_CONNECTION_NAME"_s}));
-        m_endpoint->setSupplyId(TapeId, u"-"_s);
+        QCOMPARE(names, (QStringList{QStringLiteral("Added printer_CONNECTION_NAME"),
+                                     QStringLiteral("SUPPLY_INFO_QT_SQL_CONNECTION_NAME")}));
+        m_endpoint->setSupplyId(TapeId, QStringLiteral("-"));
         QCOMPARE(m_endpoint->supplyInformation({}).supplySku, Tape);
     }
 
     void thePanelIsTheFirstUnlessItIsSaid()
     {
-        QCOMPARE(m_endpoint->supplyRibbonColorName(RibbonRK), u"Red"_s);
+        QCOMPARE(m_endpoint->supplyRibbonColorName(RibbonRK), QStringLiteral("Red"));
         QCOMPARE(m_endpoint->supplyRibbonColorName(RibbonRK),
                  m_endpoint->supplyRibbonColorName(RibbonRK, 1));
-        QCOMPARE(m_endpoint->supplyRibbonColorName(RibbonRK, 2), u"Black"_s);
+        QCOMPARE(m_endpoint->supplyRibbonColorName(RibbonRK, 2), QStringLiteral("Black"));
         QCOMPARE(m_endpoint->supplyRibbonColorRGB(RibbonRK), 0xC8102E);
         QCOMPARE(m_endpoint->supplyRibbonColorRGB(RibbonRK),
                  m_endpoint->supplyRibbonColorRGB(RibbonRK, 1));
@@ -338,11 +338,11 @@ private Q_SLOTS:
     {
         m_endpoint->addNewPrinter(Added);
         m_endpoint->setSupplyId(TapeId, Added);
-        m_endpoint->setSupplyId(TapeId, u"-"_s);
-        QCOMPARE(m_endpoint->supplyId(), u"-1"_s);
-        QCOMPARE(m_endpoint->supplySupplyUID(), u"-1"_s);
-        QCOMPARE(m_endpoint->supplyRibbon1UID(), u"-1"_s);
-        QCOMPARE(m_endpoint->supplyRibbon2UID(), u"-1"_s);
+        m_endpoint->setSupplyId(TapeId, QStringLiteral("-"));
+        QCOMPARE(m_endpoint->supplyId(), QStringLiteral("-1"));
+        QCOMPARE(m_endpoint->supplySupplyUID(), QStringLiteral("-1"));
+        QCOMPARE(m_endpoint->supplyRibbon1UID(), QStringLiteral("-1"));
+        QCOMPARE(m_endpoint->supplyRibbon2UID(), QStringLiteral("-1"));
         QCOMPARE(m_endpoint->supplySupplyPercent(), 0.0);
         QCOMPARE(m_endpoint->supplyRibbon1Percent(), 0.0);
         QCOMPARE(m_endpoint->supplyRibbon2Percent(), 0.0);
@@ -350,9 +350,9 @@ private Q_SLOTS:
 
     void someCallsHaveNoEffect()
     {
-        m_endpoint->setSupplyId(TapeId, u"-"_s);
+        m_endpoint->setSupplyId(TapeId, QStringLiteral("-"));
         const QVariantMap before = information(*m_endpoint, {});
-        m_endpoint->supplyModuleReady(1, 2, u"application"_s);
+        m_endpoint->supplyModuleReady(1, 2, QStringLiteral("application"));
         m_endpoint->applicationWasClicked();
         m_endpoint->setModulePrinterName(Added);
         m_endpoint->openLabelFile(databasePath());
@@ -379,10 +379,10 @@ private Q_SLOTS:
     void twoEndpointsWorkBesideEachOther()
     {
         VXIPCSUPPLYDController second;
-        second.setSupplyId(LabelId, u"-"_s);
-        m_endpoint->setSupplyId(TapeId, u"-"_s);
-        QCOMPARE(second.supplySKUCached(u"-"_s), Label);
-        QCOMPARE(m_endpoint->supplySKUCached(u"-"_s), Tape);
+        second.setSupplyId(LabelId, QStringLiteral("-"));
+        m_endpoint->setSupplyId(TapeId, QStringLiteral("-"));
+        QCOMPARE(second.supplySKUCached(QStringLiteral("-")), Label);
+        QCOMPARE(m_endpoint->supplySKUCached(QStringLiteral("-")), Tape);
     }
 
     void fillsARecord()
@@ -392,43 +392,46 @@ private Q_SLOTS:
         const SupplyInformation record =
             m_endpoint->supplyInformationBySKUs(Tape, {RibbonRK, RibbonK}, Added);
         const QVariantMap expected{
-            {u"supplyId"_s, LabelId},
-            {u"supplySku"_s, Tape},
-            {u"ribbonSkus"_s, QStringList{RibbonRK, RibbonK}},
-            {u"secColorWidth"_s, 1.25F},
-            {u"secColorRGB"_s, 0xC8102E},
-            {u"secColorName"_s, u"Red"_s},
-            {u"secColorNameEn"_s, u"Red"_s},
-            {u"supplyLength"_s, 6000.0F},
-            {u"material"_s, 7},
-            {u"materialName"_s, u"Vinyl"_s},
-            {u"format"_s, 1},
-            {u"formatName"_s, u"Tape"_s},
-            {u"formatType"_s, u"continuous"_s},
-            {u"colorRGB"_s, 0xFFFFFF},
-            {u"colorName"_s, u"White"_s},
-            {u"colorNameEn"_s, u"White"_s},
-            {u"supplyWidth"_s, 4.0F},
-            {u"isLandscape"_s, 1},
-            {u"backgroundImage"_s, SmallCatalogue().files.value(u"backgrounds/dot.png"_s)},
-            {u"separatorWidth"_s, -1.0F},
-            {u"nonContinuousLength"_s, -1.0F},
-            {u"typeIndex"_s, 0},
-            {u"ribbon1Panels"_s, 2},
-            {u"ribbon2Panels"_s, 1},
-            {u"ribbon1Width"_s, 4.33F},
-            {u"ribbon2Width"_s, 4.33F},
-            {u"ribbon1Length"_s, 2360.0F},
-            {u"ribbon2Length"_s, 4725.0F},
-            {u"ribbonColorNames"_s, QStringList{u"Red"_s, u"Black"_s}},
-            {u"ribbonColorRGBs"_s, QVariantList{0xC8102E, 0}},
-            {u"ribbonHeats"_s, QVariantList{58, 52}},
-            {u"ribbonHeatOffsets"_s, QVariantList{2, 0}},
-            {u"ribbonMaxSpeeds"_s, QVariantList{3, 4}},
-            {u"ribbonTensions"_s, QVariantList{32, 30}},
-            {u"ribbonTypes"_s, QStringList{u"resin"_s, u"wax"_s}},
-            {u"multiUpCount"_s, 1},
-            {u"multiUpGapSize"_s, -1.0F},
+            {QStringLiteral("supplyId"), LabelId},
+            {QStringLiteral("supplySku"), Tape},
+            {QStringLiteral("ribbonSkus"), QStringList{RibbonRK, RibbonK}},
+            {QStringLiteral("secColorWidth"), 1.25F},
+            {QStringLiteral("secColorRGB"), 0xC8102E},
+            {QStringLiteral("secColorName"), QStringLiteral("Red")},
+            {QStringLiteral("secColorNameEn"), QStringLiteral("Red")},
+            {QStringLiteral("supplyLength"), 6000.0F},
+            {QStringLiteral("material"), 7},
+            {QStringLiteral("materialName"), QStringLiteral("Vinyl")},
+            {QStringLiteral("format"), 1},
+            {QStringLiteral("formatName"), QStringLiteral("Tape")},
+            {QStringLiteral("formatType"), QStringLiteral("continuous")},
+            {QStringLiteral("colorRGB"), 0xFFFFFF},
+            {QStringLiteral("colorName"), QStringLiteral("White")},
+            {QStringLiteral("colorNameEn"), QStringLiteral("White")},
+            {QStringLiteral("supplyWidth"), 4.0F},
+            {QStringLiteral("isLandscape"), 1},
+            {QStringLiteral("backgroundImage"),
+             SmallCatalogue().files.value(QStringLiteral("backgrounds/dot.png"))},
+            {QStringLiteral("separatorWidth"), -1.0F},
+            {QStringLiteral("nonContinuousLength"), -1.0F},
+            {QStringLiteral("typeIndex"), 0},
+            {QStringLiteral("ribbon1Panels"), 2},
+            {QStringLiteral("ribbon2Panels"), 1},
+            {QStringLiteral("ribbon1Width"), 4.33F},
+            {QStringLiteral("ribbon2Width"), 4.33F},
+            {QStringLiteral("ribbon1Length"), 2360.0F},
+            {QStringLiteral("ribbon2Length"), 4725.0F},
+            {QStringLiteral("ribbonColorNames"),
+             QStringList{QStringLiteral("Red"), QStringLiteral("Black")}},
+            {QStringLiteral("ribbonColorRGBs"), QVariantList{0xC8102E, 0}},
+            {QStringLiteral("ribbonHeats"), QVariantList{58, 52}},
+            {QStringLiteral("ribbonHeatOffsets"), QVariantList{2, 0}},
+            {QStringLiteral("ribbonMaxSpeeds"), QVariantList{3, 4}},
+            {QStringLiteral("ribbonTensions"), QVariantList{32, 30}},
+            {QStringLiteral("ribbonTypes"),
+             QStringList{QStringLiteral("resin"), QStringLiteral("wax")}},
+            {QStringLiteral("multiUpCount"), 1},
+            {QStringLiteral("multiUpGapSize"), -1.0F},
         };
         QCOMPARE(expected.size(), 37);
         QCOMPARE(properties(record), expected);
@@ -459,16 +462,19 @@ private Q_SLOTS:
                               << QStringList{QString(), QString()} << QVariantList{}
                               << QStringList{};
         QTest::newRow("one") << QStringList{RibbonRK} << QList<int>{2, -1}
-                             << QList<float>{2360.0F, -1.0F} << QStringList{u"resin"_s, QString()}
-                             << QVariantList{58} << QStringList{u"Red"_s};
-        QTest::newRow("three") << QStringList{RibbonK, RibbonRK, u"RIBBON-T"_s} << QList<int>{1, 2}
-                               << QList<float>{4725.0F, 2360.0F}
-                               << QStringList{u"wax"_s, u"resin"_s} << QVariantList{52, 58, -1}
-                               << QStringList{u"Black"_s, u"Red"_s, u"Teal"_s};
+                             << QList<float>{2360.0F, -1.0F}
+                             << QStringList{QStringLiteral("resin"), QString()} << QVariantList{58}
+                             << QStringList{QStringLiteral("Red")};
+        QTest::newRow("three") << QStringList{RibbonK, RibbonRK, QStringLiteral("RIBBON-T")}
+                               << QList<int>{1, 2} << QList<float>{4725.0F, 2360.0F}
+                               << QStringList{QStringLiteral("wax"), QStringLiteral("resin")}
+                               << QVariantList{52, 58, -1}
+                               << QStringList{QStringLiteral("Black"), QStringLiteral("Red"),
+                                              QStringLiteral("Teal")};
         QTest::newRow("nothing in the first place")
-            << QStringList{u"-1"_s, RibbonK} << QList<int>{-1, 1} << QList<float>{-1.0F, 4725.0F}
-            << QStringList{QString(), u"wax"_s} << QVariantList{-1, 52}
-            << QStringList{QString(), u"Black"_s};
+            << QStringList{QStringLiteral("-1"), RibbonK} << QList<int>{-1, 1}
+            << QList<float>{-1.0F, 4725.0F} << QStringList{QString(), QStringLiteral("wax")}
+            << QVariantList{-1, 52} << QStringList{QString(), QStringLiteral("Black")};
     }
     void aRecordTakesRibbonsByTheirPlace()
     {
@@ -488,25 +494,25 @@ private Q_SLOTS:
     void aRecordOfNothingIsARecordOfDefaults()
     {
         QVariantMap expected = properties(SupplyInformation());
-        expected.insert(u"ribbonTypes"_s, QStringList{QString(), QString()});
+        expected.insert(QStringLiteral("ribbonTypes"), QStringList{QString(), QString()});
         QCOMPARE(properties(m_endpoint->supplyInformationBySKUs({}, {}, {})), expected);
-        expected.insert(u"supplySku"_s, u"-1"_s);
+        expected.insert(QStringLiteral("supplySku"), QStringLiteral("-1"));
         QCOMPARE(information(*m_endpoint, {}), expected); // nothing was reported yet
     }
 
     void aRecordIsTheSameForAnEmptyNameAndTheSharedOne()
     {
-        m_endpoint->setSupplyId(TapeId, u"-"_s);
-        m_endpoint->setRibbonIds(RibbonIds, u"-"_s);
-        const QVariantMap shared = information(*m_endpoint, u"-"_s);
-        QCOMPARE(shared.value(u"supplySku"_s), Tape);
+        m_endpoint->setSupplyId(TapeId, QStringLiteral("-"));
+        m_endpoint->setRibbonIds(RibbonIds, QStringLiteral("-"));
+        const QVariantMap shared = information(*m_endpoint, QStringLiteral("-"));
+        QCOMPARE(shared.value(QStringLiteral("supplySku")), Tape);
         QCOMPARE(information(*m_endpoint, {}), shared);
 
         // A printer never added has the shared record, but for the type index of its own name.
-        QVariantMap unknown = information(*m_endpoint, u"Stratamark AlderMax"_s);
-        QCOMPARE(unknown.value(u"typeIndex"_s), 1);
-        QCOMPARE(shared.value(u"typeIndex"_s), 0);
-        unknown.insert(u"typeIndex"_s, 0);
+        QVariantMap unknown = information(*m_endpoint, QStringLiteral("Stratamark AlderMax"));
+        QCOMPARE(unknown.value(QStringLiteral("typeIndex")), 1);
+        QCOMPARE(shared.value(QStringLiteral("typeIndex")), 0);
+        unknown.insert(QStringLiteral("typeIndex"), 0);
         QCOMPARE(unknown, shared);
     }
 
@@ -524,12 +530,12 @@ private Q_SLOTS:
     void theRecordOfAPrinterComesThroughTheVirtualSlot()
     {
         DerivedEndpoint derived;
-        derived.setSupplyId(TapeId, u"-"_s);
-        derived.setRibbonIds(RibbonIds, u"-"_s);
+        derived.setSupplyId(TapeId, QStringLiteral("-"));
+        derived.setRibbonIds(RibbonIds, QStringLiteral("-"));
         const SupplyInformation record = derived.supplyInformation({});
         QCOMPARE(record.supplySku, Tape);
         QCOMPARE(record.ribbonSkus, (QStringList{RibbonK, RibbonRK}));
-        QCOMPARE(record.materialName, u"-"_s);
+        QCOMPARE(record.materialName, QStringLiteral("-"));
     }
 
     void registersTheRecord()
@@ -544,7 +550,8 @@ private:
     static QList<Query> queries()
     {
         using Endpoint = VXIPCSUPPLYDController;
-        const QByteArray picture = SmallCatalogue().files.value(u"backgrounds/dot.png"_s);
+        const QByteArray picture =
+            SmallCatalogue().files.value(QStringLiteral("backgrounds/dot.png"));
         const auto inverse = [](int rgb) {
             return 0xFFFFFF - rgb;
         };
@@ -563,10 +570,10 @@ private:
             {"supplyInformation", true, [](Endpoint& e, const QString& p) { return e.supplyInformation(p).colorRGB; }, teal, inverse(teal)},
             {"supplyInformation of ribbons", true, [](Endpoint& e, const QString& p) { return e.supplyInformation(p).ribbonHeats; }, QVariantList{44, -1}, QVariantList{544, -1}},
             {"supplyInformationBySKUs", true, [](Endpoint& e, const QString& p) { return e.supplyInformationBySKUs(Tape, {RibbonK}, p).ribbonHeats; }, QVariantList{52}, QVariantList{552}},
-            {"supplyMaterialName", true, [](Endpoint& e, const QString& p) { return e.supplyMaterialName(Tape, p); }, u"Vinyl"_s, u"new Vinyl"_s},
-            {"supplyFormatName", true, [](Endpoint& e, const QString& p) { return e.supplyFormatName(Tape, p); }, u"Tape"_s, u"new Tape"_s},
+            {"supplyMaterialName", true, [](Endpoint& e, const QString& p) { return e.supplyMaterialName(Tape, p); }, QStringLiteral("Vinyl"), QStringLiteral("new Vinyl")},
+            {"supplyFormatName", true, [](Endpoint& e, const QString& p) { return e.supplyFormatName(Tape, p); }, QStringLiteral("Tape"), QStringLiteral("new Tape")},
             {"supplyColorRGB", true, [](Endpoint& e, const QString& p) { return e.supplyColorRGB(Tape, p); }, 0xFFFFFF, 0},
-            {"supplyColorName", true, [](Endpoint& e, const QString& p) { return e.supplyColorName(Tape, p); }, u"White"_s, u"new White"_s},
+            {"supplyColorName", true, [](Endpoint& e, const QString& p) { return e.supplyColorName(Tape, p); }, QStringLiteral("White"), QStringLiteral("new White")},
             {"supplyWidth", true, [](Endpoint& e, const QString& p) { return e.supplyWidth(Tape, p); }, 4.0, 14.0},
             {"supplyNonContinuousLength", true, [](Endpoint& e, const QString& p) { return e.supplyNonContinuousLength(Label, p); }, 1.5, 2.5},
             {"supplyTypeIndex", true, [](Endpoint& e, const QString& p) { return e.supplyTypeIndex(Label, p); }, 1, 11},
@@ -575,13 +582,13 @@ private:
             {"supplyRibbonPanels", false, [](Endpoint& e, const QString&) { return e.supplyRibbonPanels(RibbonRK); }, 2, -1},
             {"supplyRibbonWidth", false, [](Endpoint& e, const QString&) { return e.supplyRibbonWidth(RibbonK); }, 4.33, 14.33},
             {"supplyRibbonLength", false, [](Endpoint& e, const QString&) { return e.supplyRibbonLength(RibbonK); }, 4725.0, 4735.0},
-            {"supplyRibbonColorName", false, [](Endpoint& e, const QString&) { return e.supplyRibbonColorName(RibbonK); }, u"Black"_s, u"new Black"_s},
+            {"supplyRibbonColorName", false, [](Endpoint& e, const QString&) { return e.supplyRibbonColorName(RibbonK); }, QStringLiteral("Black"), QStringLiteral("new Black")},
             {"supplyRibbonColorRGB", false, [](Endpoint& e, const QString&) { return e.supplyRibbonColorRGB(RibbonRK, 2); }, 0, 0xFFFFFF},
             {"supplyRibbonHeat", false, [](Endpoint& e, const QString&) { return e.supplyRibbonHeat(RibbonK, 1, Label); }, 44, 544},
             {"supplyRibbonHeatOffset", false, [](Endpoint& e, const QString&) { return e.supplyRibbonHeatOffset(RibbonRK, 1, Tape); }, 2, 502},
             {"supplyRibbonMaxSpeed", false, [](Endpoint& e, const QString&) { return e.supplyRibbonMaxSpeed(RibbonK, 1, Label); }, 8, 508},
             {"supplyRibbonTension", false, [](Endpoint& e, const QString&) { return e.supplyRibbonTension(RibbonK, 1, Label); }, 26, 526},
-            {"supplyRibbonType", false, [](Endpoint& e, const QString&) { return e.supplyRibbonType(RibbonK); }, u"wax"_s, u"new"_s},
+            {"supplyRibbonType", false, [](Endpoint& e, const QString&) { return e.supplyRibbonType(RibbonK); }, QStringLiteral("wax"), QStringLiteral("new")},
         };
         // clang-format on
     }

@@ -31,8 +31,6 @@
 #include <csignal>
 #endif
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // With a drive where there are drives: the tool may run on another one.
@@ -52,10 +50,10 @@ QString faultOf(Job job)
 
 bool runOn(const QString& path, const QByteArray& statement)
 {
-    const QString name = u"change"_s;
+    const QString name = QStringLiteral("change");
     bool isDone = false;
     {
-        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, name);
+        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
         database.setDatabaseName(path);
         database.open();
         QSqlQuery query(database);
@@ -71,11 +69,11 @@ bool runOn(const QString& path, const QByteArray& statement)
 QByteArray bitmapHeader(qint32 width, qint32 height)
 {
     constexpr quint32 HeaderSize = 54;
-    constexpr quint32 InfoSize = 40;
+    constexpr quint32 infoSize = 40;
     QByteArray header;
     QDataStream stream(&header, QIODevice::WriteOnly);
     stream.setByteOrder(QDataStream::LittleEndian);
-    stream << quint8{'B'} << quint8{'M'} << HeaderSize << quint32{0} << HeaderSize << InfoSize
+    stream << quint8{'B'} << quint8{'M'} << HeaderSize << quint32{0} << HeaderSize << infoSize
            << width << height << quint16{1} << quint16{24};
     for (int i = 0; i < 6; ++i)
         stream << quint32{0};
@@ -322,7 +320,7 @@ private Q_SLOTS:
         QVERIFY(table.contains(text));
         table.insert(table.indexOf(text) + 1, "\u202e");
         QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 place + u": the character U+202E cannot be seen; take it out"_s);
+                 place + QStringLiteral(": the character U+202E cannot be seen; take it out"));
     }
 
     void knowsWhichCharactersCannotBeSeen()
@@ -334,16 +332,18 @@ private Q_SLOTS:
               U'\u2029',       U'\u202e', U'\u2066',     U'\ufeff',     U'\ufffe',
               U'\uffff',       U'\ufdd0', U'\U000e0041', U'\U0010ffff', char32_t{0xd800},
               char32_t{0xdfff}}) {
-            QString text = u"a"_s;
+            QString text = QStringLiteral("a");
             if (QChar::requiresSurrogates(character))
                 text += QChar(QChar::highSurrogate(character));
             text += QChar::requiresSurrogates(character) ? QChar(QChar::lowSurrogate(character))
                                                          : QChar(static_cast<char16_t>(character));
-            QCOMPARE(invisibleCharacter(text + u"b"_s), character);
+            QCOMPARE(invisibleCharacter(text + QStringLiteral("b")), character);
         }
         for (const QString& text :
-             {QString(), u"Weiß, matt"_s, u"白 / 赤"_s, u"no-break\u00a0space"_s,
-              u"é by a combining e\u0301"_s, u"葛\U000e0100"_s, u"😀"_s, u"\ue000 of private use"_s})
+             {QString(), QStringLiteral("Weiß, matt"), QStringLiteral("白 / 赤"),
+              QStringLiteral("no-break\u00a0space"), QStringLiteral("é by a combining e\u0301"),
+              QStringLiteral("葛\U000e0100"), QStringLiteral("😀"),
+              QStringLiteral("\ue000 of private use")})
             QVERIFY2(!invisibleCharacter(text), qPrintable(text));
     }
 
@@ -352,35 +352,38 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("image");
         QTest::addColumn<QString>("fault");
 
-        const QString place = u"supplies.csv:2, column 13 (background): backgrounds/dot.png has "_s;
+        const QString place =
+            QStringLiteral("supplies.csv:2, column 13 (background): backgrounds/dot.png has ");
         QTest::newRow("as many as can be") << bitmapHeader(4096, 4096) << QString();
         QTest::newRow("wide") << bitmapHeader(4097, 1)
-                              << place + u"4097 by 1 pixels, where 4096 by 4096 can be"_s;
+                              << place +
+                                     QStringLiteral("4097 by 1 pixels, where 4096 by 4096 can be");
         QTest::newRow("high") << bitmapHeader(1, 4097)
-                              << place + u"1 by 4097 pixels, where 4096 by 4096 can be"_s;
+                              << place +
+                                     QStringLiteral("1 by 4097 pixels, where 4096 by 4096 can be");
         QTest::newRow("a few bytes of 60,000 by 60,000")
             << QByteArray::fromBase64("iVBORw0KGgoAAAANSUhEUgAA6mAAAOpgCAIAAAAPsOIVAAAA"
                                       "CElEQVR4nAMAAAAAAUgGidIAAAAASUVORK5CYII=")
-            << place + u"60000 by 60000 pixels, where 4096 by 4096 can be"_s;
+            << place + QStringLiteral("60000 by 60000 pixels, where 4096 by 4096 can be");
     }
     void refusesAPictureOfTooManyPixels()
     {
         QFETCH(QByteArray, image);
         SmallCatalogue catalogue;
-        catalogue.files[u"backgrounds/dot.png"_s] = image;
+        catalogue.files[QStringLiteral("backgrounds/dot.png")] = image;
         QTEST(faultOf([&catalogue] { catalogue.read(); }), "fault");
     }
 
     void refusesMoreRowsThanAReaderTakes()
     {
         SmallCatalogue catalogue;
-        QByteArray& supplies = catalogue.files[u"supplies.csv"_s];
+        QByteArray& supplies = catalogue.files[QStringLiteral("supplies.csv")];
         for (int i = 3; i < 16384; ++i)
             supplies += "S" + QByteArray::number(i) + ",,0,2,black,,,2,300,1,0,yes,,1,\n";
         QCOMPARE(catalogue.read().supplies.size(), 16384);
         supplies += "S16384,,0,2,black,,,2,300,1,0,yes,,1,\n";
         QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 u"supplies.csv: more than 16384 rows"_s);
+                 QStringLiteral("supplies.csv: more than 16384 rows"));
     }
 
     void refusesAMissingTable_data()
@@ -396,10 +399,10 @@ private Q_SLOTS:
         SmallCatalogue catalogue;
         catalogue.files.remove(file);
         QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 file + u": no such file, or it cannot be read"_s);
+                 file + QStringLiteral(": no such file, or it cannot be read"));
         catalogue.files.insert(file, "\n \n");
         QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 file + u": empty, where a line of column names was expected"_s);
+                 file + QStringLiteral(": empty, where a line of column names was expected"));
     }
 
     void refusesWhatIsTooLarge()
@@ -407,27 +410,30 @@ private Q_SLOTS:
         SmallCatalogue catalogue;
         catalogue.replace("colours.csv", "Teal", QByteArray(201, 'x'));
         QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 u"colours.csv:5, column 3 (en): longer than 200 characters"_s);
+                 QStringLiteral("colours.csv:5, column 3 (en): longer than 200 characters"));
 
         catalogue = {};
         catalogue.replace("colours.csv", "Teal", QByteArray(5000, 'x'));
         QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 u"colours.csv:5: a field of more than 4096 characters"_s);
+                 QStringLiteral("colours.csv:5: a field of more than 4096 characters"));
 
         catalogue = {};
-        catalogue.files[u"backgrounds/dot.png"_s].append(QByteArray(256 * 1024, '\0'));
+        catalogue.files[QStringLiteral("backgrounds/dot.png")].append(QByteArray(256 * 1024, '\0'));
+        QCOMPARE(
+            faultOf([&catalogue] { catalogue.read(); }),
+            QStringLiteral(
+                "supplies.csv:2, column 13 (background): backgrounds/dot.png is larger than 256 "
+                "KiB"));
+
+        catalogue = {};
+        catalogue.files[QStringLiteral("colours.csv")] = QByteArray(16 * 1024 * 1024 + 1, '\n');
         QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 u"supplies.csv:2, column 13 (background): backgrounds/dot.png is larger than 256 "
-                 "KiB"_s);
+                 QStringLiteral("colours.csv: larger than 16 MiB"));
 
         catalogue = {};
-        catalogue.files[u"colours.csv"_s] = QByteArray(16 * 1024 * 1024 + 1, '\n');
-        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }), u"colours.csv: larger than 16 MiB"_s);
-
-        catalogue = {};
-        catalogue.files[u"colours.csv"_s] = QByteArray("a,").repeated(100);
+        catalogue.files[QStringLiteral("colours.csv")] = QByteArray("a,").repeated(100);
         QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 u"colours.csv:1: more than 64 columns"_s);
+                 QStringLiteral("colours.csv:1: more than 64 columns"));
     }
 
     void readsATableHoweverASpreadsheetWritesIt_data()
@@ -447,29 +453,31 @@ private Q_SLOTS:
     void readsATableHoweverASpreadsheetWritesIt()
     {
         QFETCH(QByteArray, text);
-        const CsvTable table = CsvTable::parse(u"t.csv"_s, text);
-        QCOMPARE(table.columns(), (QStringList{u"key"_s, u"size"_s}));
+        const CsvTable table = CsvTable::parse(QStringLiteral("t.csv"), text);
+        QCOMPARE(table.columns(), (QStringList{QStringLiteral("key"), QStringLiteral("size")}));
         QCOMPARE(table.rowCount(), 2);
-        QCOMPARE(table.field(0, u"key"_s).text, u"a"_s);
-        QCOMPARE(table.field(0, u"size"_s).text, u"1.5"_s);
-        QCOMPARE(table.field(1, u"key"_s).text, u"b"_s);
-        QCOMPARE(table.field(1, u"size"_s).text, u"2"_s);
+        QCOMPARE(table.field(0, QStringLiteral("key")).text, QStringLiteral("a"));
+        QCOMPARE(table.field(0, QStringLiteral("size")).text, QStringLiteral("1.5"));
+        QCOMPARE(table.field(1, QStringLiteral("key")).text, QStringLiteral("b"));
+        QCOMPARE(table.field(1, QStringLiteral("size")).text, QStringLiteral("2"));
     }
 
     void readsQuotedFields()
     {
-        const CsvTable table =
-            CsvTable::parse(u"t.csv"_s, "key,name\na,\"one, \"\"two\"\"\nthree\"\nb,\"\"\nc,x\n");
+        const CsvTable table = CsvTable::parse(
+            QStringLiteral("t.csv"), "key,name\na,\"one, \"\"two\"\"\nthree\"\nb,\"\"\nc,x\n");
         QCOMPARE(table.rowCount(), 3);
-        QCOMPARE(table.field(0, u"name"_s).text, u"one, \"two\"\nthree"_s);
-        QCOMPARE(table.field(1, u"name"_s).text, QString());
-        QCOMPARE(table.field(2, u"name"_s).place(), u"t.csv:5, column 2 (name)"_s);
+        QCOMPARE(table.field(0, QStringLiteral("name")).text,
+                 QStringLiteral("one, \"two\"\nthree"));
+        QCOMPARE(table.field(1, QStringLiteral("name")).text, QString());
+        QCOMPARE(table.field(2, QStringLiteral("name")).place(),
+                 QStringLiteral("t.csv:5, column 2 (name)"));
     }
 
     void takesSemicolonsAndDecimalCommas()
     {
         SmallCatalogue catalogue;
-        QByteArray& supplies = catalogue.files[u"supplies.csv"_s];
+        QByteArray& supplies = catalogue.files[QStringLiteral("supplies.csv")];
         supplies.replace(',', ';').replace('.', ',').replace("dot,png", "dot.png");
         QCOMPARE(catalogue.read().supplies.at(0).secondColourWidth, std::optional(1.25));
         supplies.replace("1,25", "1.25");
@@ -490,7 +498,8 @@ private Q_SLOTS:
     {
         const Catalogue catalogue = readCatalogueDirectory(SampleCatalogue);
         QCOMPARE(catalogue.languages.values(),
-                 (QStringList{u"en"_s, u"de"_s, u"fr"_s, u"es"_s, u"ja"_s}));
+                 (QStringList{QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("fr"),
+                              QStringLiteral("es"), QStringLiteral("ja")}));
         const QList<int> others{1, 2, 3, 4};
         for (const Catalogue::Colour& colour : catalogue.colours)
             QCOMPARE(colour.name.translations.keys(), others);
@@ -514,7 +523,7 @@ private Q_SLOTS:
 
     void theSameTablesGiveTheSameFile()
     {
-        const QString second = m_folder->filePath(u"second.db"_s);
+        const QString second = m_folder->filePath(QStringLiteral("second.db"));
         SmallCatalogue().write(path());
         SmallCatalogue().write(second);
         QVERIFY(!readFile(path()).isEmpty());
@@ -526,7 +535,8 @@ private Q_SLOTS:
         writeFile(path(), "old");
         SmallCatalogue().write(path());
         QCOMPARE(checkDatabase(path()).supplies, 3);
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files),
+                 QStringList{QStringLiteral("roll.db")});
     }
 
     void leavesTheOldFileWholeWhenARowIsBad()
@@ -537,7 +547,8 @@ private Q_SLOTS:
         bad.replace("ribbons.csv", "2003", "x");
         QVERIFY(!faultOf([&] { bad.write(path()); }).isNull());
         QCOMPARE(readFile(path()), before);
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files),
+                 QStringList{QStringLiteral("roll.db")});
     }
 
     // The schema has the last word: what slips through the tables' reader must not get into a file.
@@ -547,20 +558,25 @@ private Q_SLOTS:
         const QByteArray before = readFile(path());
         Catalogue catalogue = SmallCatalogue().read();
         catalogue.settings[0].heatOffset = -1;
-        QVERIFY(faultOf([&] { writeDatabase(catalogue, path()); }).contains(u"heat_offset"_s));
+        QVERIFY(faultOf([&] {
+                    writeDatabase(catalogue, path());
+                }).contains(QStringLiteral("heat_offset")));
         catalogue = SmallCatalogue().read();
         catalogue.supplies[0].material = 99;
-        QVERIFY(faultOf([&] { writeDatabase(catalogue, path()); }).contains(u"FOREIGN KEY"_s));
+        QVERIFY(faultOf([&] {
+                    writeDatabase(catalogue, path());
+                }).contains(QStringLiteral("FOREIGN KEY")));
         QCOMPARE(readFile(path()), before);
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files),
+                 QStringList{QStringLiteral("roll.db")});
     }
 
     void saysWhereItCannotWrite()
     {
-        const QString nowhere = m_folder->filePath(u"missing/roll.db"_s);
+        const QString nowhere = m_folder->filePath(QStringLiteral("missing/roll.db"));
         const QString fault = faultOf([&] { SmallCatalogue().write(nowhere); });
-        QVERIFY2(fault.startsWith(nowhere + u": "_s), qPrintable(fault));
-        QVERIFY(!QDir(m_folder->filePath(u"missing"_s)).exists());
+        QVERIFY2(fault.startsWith(nowhere + QStringLiteral(": ")), qPrintable(fault));
+        QVERIFY(!QDir(m_folder->filePath(QStringLiteral("missing"))).exists());
     }
 
 #ifdef Q_OS_UNIX
@@ -568,19 +584,19 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("target");
 
-        QTest::newRow("the pipe itself") << u"pipe"_s;
-        QTest::newRow("a link to it") << u"link"_s;
+        QTest::newRow("the pipe itself") << QStringLiteral("pipe");
+        QTest::newRow("a link to it") << QStringLiteral("link");
     }
     // A device is left alone for the same reason; only the super-user could make one here.
     void leavesAPipeInItsPlace()
     {
         QFETCH(QString, target);
-        const QString pipe = m_folder->filePath(u"pipe"_s);
+        const QString pipe = m_folder->filePath(QStringLiteral("pipe"));
         QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-        QVERIFY(QFile::link(pipe, m_folder->filePath(u"link"_s)));
+        QVERIFY(QFile::link(pipe, m_folder->filePath(QStringLiteral("link"))));
         target = m_folder->filePath(target);
         QCOMPARE(faultOf([&target] { SmallCatalogue().write(target); }),
-                 target + u": not a file, so nothing is put in its place"_s);
+                 target + QStringLiteral(": not a file, so nothing is put in its place"));
         struct stat status = {};
         QCOMPARE(stat(QFile::encodeName(pipe).constData(), &status), 0);
         QVERIFY(S_ISFIFO(status.st_mode));
@@ -591,16 +607,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("fault");
 
-        QTest::newRow("a table") << u"ribbons.csv"_s << u"ribbons.csv is not a file"_s;
+        QTest::newRow("a table") << QStringLiteral("ribbons.csv")
+                                 << QStringLiteral("ribbons.csv is not a file");
         QTest::newRow("a picture")
-            << u"backgrounds/dot.png"_s
-            << u"supplies.csv:2, column 13 (background): backgrounds/dot.png is not a file"_s;
+            << QStringLiteral("backgrounds/dot.png")
+            << QStringLiteral(
+                   "supplies.csv:2, column 13 (background): backgrounds/dot.png is not a file");
     }
     void doesNotWaitForAPipe()
     {
         QFETCH(QString, file);
         QFETCH(QString, fault);
-        QVERIFY(QDir(m_folder->path()).mkdir(u"backgrounds"_s));
+        QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("backgrounds")));
         const SmallCatalogue catalogue;
         for (auto entry = catalogue.files.begin(); entry != catalogue.files.end(); ++entry)
             writeFile(m_folder->filePath(entry.key()), entry.value());
@@ -608,10 +626,11 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(m_folder->filePath(file)));
         QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
         QProcess tool;
-        tool.start(QStringLiteral(VX_ROLLDB), {u"build"_s, m_folder->path(), path()});
+        tool.start(QStringLiteral(VX_ROLLDB), {QStringLiteral("build"), m_folder->path(), path()});
         QVERIFY2(tool.waitForFinished(), qPrintable(tool.errorString()));
         QCOMPARE(tool.exitCode(), 1);
-        QCOMPARE(QString::fromUtf8(tool.readAllStandardError()), u"rolldb: "_s + fault + u'\n');
+        QCOMPARE(QString::fromUtf8(tool.readAllStandardError()),
+                 QStringLiteral("rolldb: ") + fault + u'\n');
         QVERIFY(!QFile::exists(path()));
     }
 
@@ -627,9 +646,10 @@ private Q_SLOTS:
         const QString fault = faultOf([this] { replaceFile(path(), QByteArray(100000, 'x')); });
         QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
         std::signal(SIGXFSZ, handler);
-        QCOMPARE(fault, path() + u": "_s + qt_error_string(EFBIG));
+        QCOMPARE(fault, path() + QStringLiteral(": ") + qt_error_string(EFBIG));
         QCOMPARE(readFile(path()), QByteArray("old"));
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files),
+                 QStringList{QStringLiteral("roll.db")});
     }
 #endif
 
@@ -640,40 +660,46 @@ private Q_SLOTS:
 
         QTest::newRow("nothing") << QByteArray("VACUUM") << QString();
         QTest::newRow("statistics")
-            << QByteArray("ANALYZE name") << u"its tables are not those of schema version 1"_s;
+            << QByteArray("ANALYZE name")
+            << QStringLiteral("its tables are not those of schema version 1");
         QTest::newRow("another schema version")
             << QByteArray("PRAGMA user_version = 9")
-            << u"of schema version 9, where version 1 can be read"_s;
-        QTest::newRow("another application") << QByteArray("PRAGMA application_id = 1")
-                                             << u"an SQLite database, but not a supply database"_s;
-        QTest::newRow("another table") << QByteArray("CREATE TABLE note (text TEXT)")
-                                       << u"its tables are not those of schema version 1"_s;
+            << QStringLiteral("of schema version 9, where version 1 can be read");
+        QTest::newRow("another application")
+            << QByteArray("PRAGMA application_id = 1")
+            << QStringLiteral("an SQLite database, but not a supply database");
+        QTest::newRow("another table")
+            << QByteArray("CREATE TABLE note (text TEXT)")
+            << QStringLiteral("its tables are not those of schema version 1");
         QTest::newRow("a trigger")
             << QByteArray("CREATE TRIGGER gone AFTER DELETE ON supply BEGIN SELECT 1; END")
-            << u"its tables are not those of schema version 1"_s;
-        QTest::newRow("a missing table") << QByteArray("DROP TABLE print_setting")
-                                         << u"its tables are not those of schema version 1"_s;
+            << QStringLiteral("its tables are not those of schema version 1");
+        QTest::newRow("a missing table")
+            << QByteArray("DROP TABLE print_setting")
+            << QStringLiteral("its tables are not those of schema version 1");
         QTest::newRow("a row that refers to nothing")
             << QByteArray("DELETE FROM material WHERE id = 7")
-            << u"a row of supply refers to nothing"_s;
+            << QStringLiteral("a row of supply refers to nothing");
         QTest::newRow("a missing panel")
             << QByteArray("DELETE FROM ribbon_panel WHERE ribbon_sku = 'RIBBON-T'")
-            << u"the panels of ribbon RIBBON-T are not numbered from 1 on"_s;
+            << QStringLiteral("the panels of ribbon RIBBON-T are not numbered from 1 on");
         QTest::newRow("a ribbon that is a supply")
             << QByteArray(
                    "UPDATE ribbon_panel SET ribbon_sku = 'TAPE-1' WHERE ribbon_sku = 'RIBBON-T'")
-            << u"a row of ribbon_panel refers to nothing"_s;
+            << QStringLiteral("a row of ribbon_panel refers to nothing");
         QTest::newRow("a continuous label")
             << QByteArray("UPDATE supply SET label_length = 1")
-            << u"supply TAPE-1 has a label length and a continuous format, or neither"_s;
+            << QStringLiteral(
+                   "supply TAPE-1 has a label length and a continuous format, or neither");
         QTest::newRow("a gap in a printer's list")
             << QByteArray("DELETE FROM printer_format WHERE model = 'AlderMax' AND position = 0")
-            << u"the formats of the printer model \"AlderMax\" are not numbered from 0 on"_s;
+            << QStringLiteral(
+                   "the formats of the printer model \"AlderMax\" are not numbered from 0 on");
         QTest::newRow("another first language")
             << QByteArray("UPDATE language SET tag = 'eo' WHERE id = 0")
-            << u"the language 0 is \"eo\", not English"_s;
-        QTest::newRow("no English")
-            << QByteArray("DELETE FROM language WHERE id = 0") << u"English is missing"_s;
+            << QStringLiteral("the language 0 is \"eo\", not English");
+        QTest::newRow("no English") << QByteArray("DELETE FROM language WHERE id = 0")
+                                    << QStringLiteral("English is missing");
     }
     void findsWhatIsWrong()
     {
@@ -682,7 +708,7 @@ private Q_SLOTS:
         SmallCatalogue().write(path());
         QVERIFY(runOn(path(), change));
         const QString found = faultOf([this] { checkDatabase(path()); });
-        QCOMPARE(found, fault.isEmpty() ? QString() : path() + u": "_s + fault);
+        QCOMPARE(found, fault.isEmpty() ? QString() : path() + QStringLiteral(": ") + fault);
     }
 
     void findsDamage()
@@ -692,47 +718,50 @@ private Q_SLOTS:
         bytes.replace(4096, 4096, QByteArray(4096, '\xff'));
         writeFile(path(), bytes);
         const QString found = faultOf([this] { checkDatabase(path()); });
-        QVERIFY2(found.startsWith(path() + u": damaged: "_s), qPrintable(found));
+        QVERIFY2(found.startsWith(path() + QStringLiteral(": damaged: ")), qPrintable(found));
         QVERIFY(!found.contains(u'\n'));
     }
 
     void reportsASupply()
     {
         SmallCatalogue().write(path());
-        QCOMPARE(skuReport(path(), u"TAPE-1"_s, 1),
-                 u"supply:          TAPE-1\n"
-                 "material:        7 Vinylfolie\n"
-                 "format:          1 Band\n"
-                 "type:            continuous\n"
-                 "colour:          #ffffff Weiß\n"
-                 "second colour:   #c8102e Rot\n"
-                 "stripe:          1.25 in\n"
-                 "width:           4 in\n"
-                 "length:          6000 in\n"
-                 "landscape:       yes\n"
-                 "side by side:    1\n"
-                 "background:      69 bytes\n"
-                 "printed with:    RIBBON-K panel 1: heat 52, offset 0, speed 4, tension 30\n"
-                 "printed with:    RIBBON-RK panel 1: heat 58, offset 2, speed 3, tension 32\n"
-                 "printed with:    RIBBON-RK panel 2: heat 55, offset 1, speed 4, tension 33\n"_s);
+        QCOMPARE(
+            skuReport(path(), QStringLiteral("TAPE-1"), 1),
+            QStringLiteral(
+                "supply:          TAPE-1\n"
+                "material:        7 Vinylfolie\n"
+                "format:          1 Band\n"
+                "type:            continuous\n"
+                "colour:          #ffffff Weiß\n"
+                "second colour:   #c8102e Rot\n"
+                "stripe:          1.25 in\n"
+                "width:           4 in\n"
+                "length:          6000 in\n"
+                "landscape:       yes\n"
+                "side by side:    1\n"
+                "background:      69 bytes\n"
+                "printed with:    RIBBON-K panel 1: heat 52, offset 0, speed 4, tension 30\n"
+                "printed with:    RIBBON-RK panel 1: heat 58, offset 2, speed 3, tension 32\n"
+                "printed with:    RIBBON-RK panel 2: heat 55, offset 1, speed 4, tension 33\n"));
     }
 
     void reportsARibbon()
     {
         SmallCatalogue().write(path());
-        QCOMPARE(skuReport(path(), u"RIBBON-RK"_s, 0), u"ribbon:          RIBBON-RK\n"
-                                                       "type:            resin\n"
-                                                       "width:           4.33 in\n"
-                                                       "length:          2360 in\n"
-                                                       "panel:           #c8102e Red\n"
-                                                       "panel:           #000000 Black\n"_s);
+        QCOMPARE(skuReport(path(), QStringLiteral("RIBBON-RK"), 0),
+                 QStringLiteral("ribbon:          RIBBON-RK\n"
+                                "type:            resin\n"
+                                "width:           4.33 in\n"
+                                "length:          2360 in\n"
+                                "panel:           #c8102e Red\n"
+                                "panel:           #000000 Black\n"));
     }
 
     void reportsNoUnknownSku()
     {
         SmallCatalogue().write(path());
-        QCOMPARE(faultOf([this] { skuReport(path(), u"NO-SUCH"_s, 0); }),
-                 path() + u": knows no supply or ribbon \"NO-SUCH\""_s);
+        QCOMPARE(faultOf([this] { skuReport(path(), QStringLiteral("NO-SUCH"), 0); }),
+                 path() + QStringLiteral(": knows no supply or ribbon \"NO-SUCH\""));
     }
 
     void theToolEndsAsItShould_data()
@@ -743,42 +772,58 @@ private Q_SLOTS:
         QTest::addColumn<QString>("output");
         QTest::addColumn<QString>("error");
 
-        const QString usage = u" (see rolldb --help)\n"_s;
+        const QString usage = QStringLiteral(" (see rolldb --help)\n");
         QTest::newRow("build")
-            << QStringList{u"build"_s, SampleCatalogue, u"@new.db"_s} << 0
-            << u"@new.db: 46 supplies, 22 ribbons, 894 print settings, 5 languages\n"_s
+            << QStringList{QStringLiteral("build"), SampleCatalogue, QStringLiteral("@new.db")} << 0
+            << QStringLiteral("@new.db: 46 supplies, 22 ribbons, 894 print settings, 5 languages\n")
             << QString();
         QTest::newRow("check")
-            << QStringList{u"check"_s, u"@roll.db"_s} << 0
-            << u"@roll.db: in order, 3 supplies, 3 ribbons, 4 print settings, 3 languages\n"_s
+            << QStringList{QStringLiteral("check"), QStringLiteral("@roll.db")} << 0
+            << QStringLiteral(
+                   "@roll.db: in order, 3 supplies, 3 ribbons, 4 print settings, 3 languages\n")
             << QString();
         QTest::newRow("show")
-            << QStringList{u"show"_s, u"--language"_s, u"de"_s, u"@roll.db"_s, u"RIBBON-T"_s} << 0
-            << u"ribbon:          RIBBON-T\ntype:            resin\nwidth:           2.4 in\n"
-               "length:          4725 in\npanel:           #008080 Teal\n"_s
+            << QStringList{QStringLiteral("show"), QStringLiteral("--language"),
+                           QStringLiteral("de"), QStringLiteral("@roll.db"),
+                           QStringLiteral("RIBBON-T")}
+            << 0
+            << QStringLiteral(
+                   "ribbon:          RIBBON-T\ntype:            resin\nwidth:           2.4 in\n"
+                   "length:          4725 in\npanel:           #008080 Teal\n")
             << QString();
         QTest::newRow("no verb") << QStringList{} << 2 << QString()
-                                 << u"rolldb: expected build, check or show"_s + usage;
+                                 << QStringLiteral("rolldb: expected build, check or show") + usage;
         QTest::newRow("another verb")
-            << QStringList{u"fix"_s} << 2 << QString()
-            << u"rolldb: \"fix\" is none of build, check and show"_s + usage;
-        QTest::newRow("too few arguments") << QStringList{u"build"_s, u"x"_s} << 2 << QString()
-                                           << u"rolldb: build takes 2 arguments, not 1"_s + usage;
-        QTest::newRow("another option") << QStringList{u"check"_s, u"--fix"_s, u"@roll.db"_s} << 2
-                                        << QString() << u"rolldb: Unknown option 'fix'."_s + usage;
+            << QStringList{QStringLiteral("fix")} << 2 << QString()
+            << QStringLiteral("rolldb: \"fix\" is none of build, check and show") + usage;
+        QTest::newRow("too few arguments")
+            << QStringList{QStringLiteral("build"), QStringLiteral("x")} << 2 << QString()
+            << QStringLiteral("rolldb: build takes 2 arguments, not 1") + usage;
+        QTest::newRow("another option")
+            << QStringList{QStringLiteral("check"), QStringLiteral("--fix"),
+                           QStringLiteral("@roll.db")}
+            << 2 << QString() << QStringLiteral("rolldb: Unknown option 'fix'.") + usage;
         QTest::newRow("another language")
-            << QStringList{u"show"_s, u"--language"_s, u"xx"_s, u"@roll.db"_s, u"TAPE-1"_s} << 2
-            << QString() << u"rolldb: \"xx\" is no language that names are had in"_s + usage;
-        QTest::newRow("no directory") << QStringList{u"build"_s, u"@nowhere"_s, u"@new.db"_s} << 1
-                                      << QString() << u"rolldb: @nowhere: no such directory\n"_s;
+            << QStringList{QStringLiteral("show"), QStringLiteral("--language"),
+                           QStringLiteral("xx"), QStringLiteral("@roll.db"),
+                           QStringLiteral("TAPE-1")}
+            << 2 << QString()
+            << QStringLiteral("rolldb: \"xx\" is no language that names are had in") + usage;
+        QTest::newRow("no directory")
+            << QStringList{QStringLiteral("build"), QStringLiteral("@nowhere"),
+                           QStringLiteral("@new.db")}
+            << 1 << QString() << QStringLiteral("rolldb: @nowhere: no such directory\n");
         QTest::newRow("no tables")
-            << QStringList{u"build"_s, u"@"_s, u"@new.db"_s} << 1 << QString()
-            << u"rolldb: colours.csv: no such file, or it cannot be read\n"_s;
-        QTest::newRow("no file") << QStringList{u"check"_s, u"@none.db"_s} << 1 << QString()
-                                 << u"rolldb: @none.db: no such file\n"_s;
+            << QStringList{QStringLiteral("build"), QStringLiteral("@"), QStringLiteral("@new.db")}
+            << 1 << QString()
+            << QStringLiteral("rolldb: colours.csv: no such file, or it cannot be read\n");
+        QTest::newRow("no file") << QStringList{QStringLiteral("check"), QStringLiteral("@none.db")}
+                                 << 1 << QString()
+                                 << QStringLiteral("rolldb: @none.db: no such file\n");
         QTest::newRow("no database")
-            << QStringList{u"show"_s, u"@text.db"_s, u"TAPE-1"_s} << 1 << QString()
-            << u"rolldb: @text.db: not an SQLite database\n"_s;
+            << QStringList{QStringLiteral("show"), QStringLiteral("@text.db"),
+                           QStringLiteral("TAPE-1")}
+            << 1 << QString() << QStringLiteral("rolldb: @text.db: not an SQLite database\n");
     }
     void theToolEndsAsItShould()
     {
@@ -787,33 +832,35 @@ private Q_SLOTS:
         QFETCH(QString, error);
         const QString folder = m_folder->path() + u'/';
         SmallCatalogue().write(path());
-        writeFile(m_folder->filePath(u"text.db"_s), "not a database");
+        writeFile(m_folder->filePath(QStringLiteral("text.db")), "not a database");
         QProcess tool;
-        startProcess(tool, QStringLiteral(VX_ROLLDB), arguments.replaceInStrings(u"@"_s, folder));
+        startProcess(tool, QStringLiteral(VX_ROLLDB),
+                     arguments.replaceInStrings(QStringLiteral("@"), folder));
         QVERIFY2(tool.waitForFinished(patience), qPrintable(tool.errorString()));
         QCOMPARE(tool.exitStatus(), QProcess::NormalExit);
         QCOMPARE(QString::fromUtf8(tool.readAllStandardError()).remove(u'\r'),
-                 error.replace(u"@"_s, folder));
+                 error.replace(QStringLiteral("@"), folder));
         QCOMPARE(QString::fromUtf8(tool.readAllStandardOutput()).remove(u'\r'),
-                 output.replace(u"@"_s, folder));
+                 output.replace(QStringLiteral("@"), folder));
         QTEST(tool.exitCode(), "status");
     }
 
     void theToolExplainsItself()
     {
         QProcess tool;
-        startProcess(tool, QStringLiteral(VX_ROLLDB), {u"--help"_s});
+        startProcess(tool, QStringLiteral(VX_ROLLDB), {QStringLiteral("--help")});
         QVERIFY2(tool.waitForFinished(patience), qPrintable(tool.errorString()));
         QCOMPARE(tool.exitCode(), 0);
         const QString help = QString::fromUtf8(tool.readAllStandardOutput());
-        for (const auto& verb : {u"rolldb build"_s, u"rolldb check"_s, u"rolldb show"_s})
+        for (const auto& verb : {QStringLiteral("rolldb build"), QStringLiteral("rolldb check"),
+                                 QStringLiteral("rolldb show")})
             QVERIFY2(help.contains(verb), qPrintable(verb));
     }
 
 private:
     QString path() const
     {
-        return m_folder->filePath(u"roll.db"_s);
+        return m_folder->filePath(QStringLiteral("roll.db"));
     }
 
     static QByteArray readFile(const QString& name)

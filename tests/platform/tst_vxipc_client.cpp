@@ -254,7 +254,7 @@ void tst_VXIPCClient::refusesToSendALineThatIsTooLong()
     // A line of the greatest length that an endpoint reads, its end not counted, and one byte more.
     // The calls have numbers of one digit.
     const QByteArray bare = JsonRpc::request(QString(), QJsonArray(), 1);
-    const QString longest(JsonRpc::MaximumLine + 1 - bare.size(), QLatin1Char('x'));
+    const QString longest(JsonRpc::maximumLine + 1 - bare.size(), QLatin1Char('x'));
     QCOMPARE(client.callAndWait(longest, QJsonArray()).error->code, -32601);
     QCOMPARE(client.callAndWait(longest + QLatin1Char('x'), QJsonArray()).error->code, -32000);
     // It was not sent: the endpoint would have ended the connection.
@@ -291,15 +291,15 @@ void tst_VXIPCClient::answersLaterThanTheCall()
 
 void tst_VXIPCClient::keepsManyCallsInFlight()
 {
-    constexpr int Calls = 2000;
+    constexpr int callCount = 2000;
     VXIPCClient client(m_name);
     QList<int> results;
-    for (int i = 0; i < Calls; ++i) {
+    for (int i = 0; i < callCount; ++i) {
         client.call(QStringLiteral("scale"), QJsonArray{i, 1},
                     [&](const VXIPCReply& outcome) { results.append(outcome.result.toInt(-1)); });
     }
-    QTRY_COMPARE_WITH_TIMEOUT(results.size(), Calls, patience);
-    for (int i = 0; i < Calls; ++i)
+    QTRY_COMPARE_WITH_TIMEOUT(results.size(), callCount, patience);
+    for (int i = 0; i < callCount; ++i)
         QCOMPARE(results.at(i), i);
 }
 

@@ -20,13 +20,13 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto FloodTime = 10s;
+constexpr auto floodTime = 10s;
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 /// What the sanitizers put into the endpoint's code makes it five to ten times as slow, and as
 /// many times as much is what another client's megabyte takes then.
-constexpr auto SlowestOfAHundred = 500ms;
+constexpr auto slowestOfAHundred = 500ms;
 #else
-constexpr auto SlowestOfAHundred = 50ms;
+constexpr auto slowestOfAHundred = 50ms;
 #endif
 
 /// One kind of bad client: what it sends, and whether it takes what is answered.
@@ -211,7 +211,7 @@ void tst_VXIPCFlood::leavesAGoodClientServed()
     std::vector<std::chrono::nanoseconds> times;
     std::vector<std::chrono::nanoseconds> timesOfTheirOwn;
     bool isServed = true;
-    const QDeadlineTimer end(FloodTime);
+    const QDeadlineTimer end(floodTime);
     while (isServed && !end.hasExpired()) {
         const std::chrono::nanoseconds waitedBefore = waits.all();
         QElapsedTimer timer;
@@ -234,7 +234,7 @@ void tst_VXIPCFlood::leavesAGoodClientServed()
           milliseconds(p99));
     if (!waits.isKnown())
         QSKIP("The system does not tell how long threads wait for a processor");
-    QVERIFY(p99 < SlowestOfAHundred);
+    QVERIFY(p99 < slowestOfAHundred);
     // It is still there for the next one.
     VXIPCClient next(host.serverName());
     QTRY_VERIFY(next.callAndWait(QStringLiteral("notes")).isOk());

@@ -191,10 +191,10 @@ void tst_VXIPCPipes::takesNoNameThatSomebodyHas()
 
 void tst_VXIPCPipes::takesNoNameThatIsBusy()
 {
-    constexpr int Services = 6;
+    constexpr int services = 6;
     QElapsedTimer timer;
     timer.start();
-    for (int i = 0; i < Services; ++i) {
+    for (int i = 0; i < services; ++i) {
         const int serverType = newServerType();
         const QString path = pathOf(nameOf(serverType));
         const OwnedHandle pipe = makePipe(path, usersOwn());
@@ -206,7 +206,7 @@ void tst_VXIPCPipes::takesNoNameThatIsBusy()
     }
     // Five seconds for each, for which a client may wait for an end that is free, would be more
     // than twice that.
-    QVERIFY2(timer.elapsed() < Services * 2000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < services * 2000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void tst_VXIPCPipes::isPublishedOnceAnyNameIsFree()
@@ -325,7 +325,7 @@ void tst_VXIPCPipes::letsItselfBeIdentifiedAndNoMore()
 
 void tst_VXIPCPipes::waitsForAConnectionNoLongerThanForTheAnswer()
 {
-    constexpr int Calls = 6;
+    constexpr int callCount = 6;
     const int serverType = newServerType();
     const QString path = pathOf(nameOf(serverType));
     const OwnedHandle pipe = makePipe(path, usersOwn());
@@ -336,12 +336,12 @@ void tst_VXIPCPipes::waitsForAConnectionNoLongerThanForTheAnswer()
     VXIPCClient client(serverType);
     QElapsedTimer timer;
     timer.start();
-    for (int i = 0; i < Calls; ++i) {
+    for (int i = 0; i < callCount; ++i) {
         const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"), {}, 1ms);
         QCOMPARE(reply.error->code, int(VXIPCError::NotReachable));
     }
     // Five seconds for each would be more than twice that.
-    QVERIFY2(timer.elapsed() < Calls * 2000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < callCount * 2000, qPrintable(QString::number(timer.elapsed())));
 }
 
 QTEST_GUILESS_MAIN(tst_VXIPCPipes)

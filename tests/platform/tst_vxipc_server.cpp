@@ -43,7 +43,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr qsizetype Mebibyte = qsizetype{1} << 20;
+constexpr qsizetype mebibyte = qsizetype{1} << 20;
 
 QJsonValue parsed(const QByteArray& json)
 {
@@ -545,32 +545,32 @@ void tst_VXIPCServer::refusesBadRequests_data()
     const auto row = [](const char* name, const QByteArray& line, int code, const char* id) {
         QTest::newRow(name) << line << code << QByteArray(id);
     };
-    constexpr int ParseError = -32700;
-    constexpr int InvalidRequest = -32600;
-    row("no JSON", "hello", ParseError, "null");
-    row("half an object", R"({"jsonrpc":"2.0","id":1)", ParseError, "null");
-    row("two objects", R"({"jsonrpc":"2.0"}{})", ParseError, "null");
-    row("no UTF-8", "{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"\xff\xfe\"}", ParseError, "null");
-    row("a zero byte", QByteArray("{\0}", 3), ParseError, "null");
-    row("a number", "1", ParseError, "null");
-    row("nested without end", QByteArray(5000, '['), ParseError, "null");
-    row("nested deeply", QByteArray(5000, '[') + QByteArray(5000, ']'), ParseError, "null");
-    row("nested one level too deep", QByteArray(1025, '[') + QByteArray(1025, ']'), ParseError,
+    constexpr int parseError = -32700;
+    constexpr int invalidRequest = -32600;
+    row("no JSON", "hello", parseError, "null");
+    row("half an object", R"({"jsonrpc":"2.0","id":1)", parseError, "null");
+    row("two objects", R"({"jsonrpc":"2.0"}{})", parseError, "null");
+    row("no UTF-8", "{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"\xff\xfe\"}", parseError, "null");
+    row("a zero byte", QByteArray("{\0}", 3), parseError, "null");
+    row("a number", "1", parseError, "null");
+    row("nested without end", QByteArray(5000, '['), parseError, "null");
+    row("nested deeply", QByteArray(5000, '[') + QByteArray(5000, ']'), parseError, "null");
+    row("nested one level too deep", QByteArray(1025, '[') + QByteArray(1025, ']'), parseError,
         "null");
-    row("empty object", "{}", InvalidRequest, "null");
-    row("no version", R"({"id":4,"method":"echo"})", InvalidRequest, "4");
-    row("other version", R"({"jsonrpc":"1.0","id":4,"method":"echo"})", InvalidRequest, "4");
-    row("version as number", R"({"jsonrpc":2.0,"id":4,"method":"echo"})", InvalidRequest, "4");
-    row("no method", R"({"jsonrpc":"2.0","id":"a"})", InvalidRequest, R"("a")");
-    row("method is a number", R"({"jsonrpc":"2.0","id":4,"method":1})", InvalidRequest, "4");
+    row("empty object", "{}", invalidRequest, "null");
+    row("no version", R"({"id":4,"method":"echo"})", invalidRequest, "4");
+    row("other version", R"({"jsonrpc":"1.0","id":4,"method":"echo"})", invalidRequest, "4");
+    row("version as number", R"({"jsonrpc":2.0,"id":4,"method":"echo"})", invalidRequest, "4");
+    row("no method", R"({"jsonrpc":"2.0","id":"a"})", invalidRequest, R"("a")");
+    row("method is a number", R"({"jsonrpc":"2.0","id":4,"method":1})", invalidRequest, "4");
     row("parameters are a text", R"({"jsonrpc":"2.0","id":4,"method":"echo","params":"a"})",
-        InvalidRequest, "4");
+        invalidRequest, "4");
     row("parameters are null", R"({"jsonrpc":"2.0","id":4,"method":"echo","params":null})",
-        InvalidRequest, "4");
-    row("id is an object", R"({"jsonrpc":"2.0","id":{},"method":"notes"})", InvalidRequest, "null");
-    row("id is true", R"({"jsonrpc":"2.0","id":true,"method":"notes"})", InvalidRequest, "null");
+        invalidRequest, "4");
+    row("id is an object", R"({"jsonrpc":"2.0","id":{},"method":"notes"})", invalidRequest, "null");
+    row("id is true", R"({"jsonrpc":"2.0","id":true,"method":"notes"})", invalidRequest, "null");
     row("id is too long", R"({"jsonrpc":"2.0","method":"notes","id":)" + textOfSize(4097) + '}',
-        InvalidRequest, "null");
+        invalidRequest, "null");
     row("unknown method", R"({"jsonrpc":"2.0","id":4,"method":"nothing"})", -32601, "4");
     row("other letter case", R"({"jsonrpc":"2.0","id":4,"method":"Echo"})", -32601, "4");
     row("empty method", R"({"jsonrpc":"2.0","id":4,"method":""})", -32601, "4");
@@ -907,10 +907,10 @@ void tst_VXIPCServer::letsOnlyTheUserIn()
 {
 #ifdef Q_OS_UNIX
     const QFileInfo socket(VXIPCClient::address(serverName()));
-    constexpr auto Others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
-                            QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    constexpr auto groupAndOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                                    QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
     QVERIFY(socket.exists());
-    QCOMPARE(socket.permissions() & Others, QFile::Permissions());
+    QCOMPARE(socket.permissions() & groupAndOthers, QFile::Permissions());
     const QFileInfo folder(socket.path());
     QCOMPARE(folder.ownerId(), socket.ownerId());
     QCOMPARE(folder.permissions() & (QFile::WriteGroup | QFile::WriteOther), QFile::Permissions());
@@ -952,8 +952,8 @@ void tst_VXIPCServer::keepsOtherUsersOut()
     QTRY_VERIFY(!service.serverName().isEmpty());
     const QByteArray address = QFile::encodeName(VXIPCClient::address(service.serverName()));
     QCOMPARE(connectionFault(address, geteuid()), 0);
-    constexpr uid_t Nobody = 65534;
-    QCOMPARE(connectionFault(address, Nobody), EACCES);
+    constexpr uid_t nobody = 65534;
+    QCOMPARE(connectionFault(address, nobody), EACCES);
 #else
     QSKIP("A test cannot log another user in");
 #endif
@@ -1011,7 +1011,7 @@ void tst_VXIPCServer::isNotPublishedWhereOthersMayWrite()
 void tst_VXIPCServer::readsALineOfTheGreatestLength()
 {
     RawClient client(serverName());
-    const QJsonObject answer = object(client.exchange(requestOfSize(Mebibyte)));
+    const QJsonObject answer = object(client.exchange(requestOfSize(mebibyte)));
     QCOMPARE(answer[QStringLiteral("id")].toInt(), 1);
     QVERIFY(!answer.contains(QStringLiteral("error")));
     QCOMPARE(m_service->log.size(), 1);
@@ -1039,9 +1039,9 @@ void tst_VXIPCServer::refusesALineThatIsTooLong_data()
 {
     QTest::addColumn<QByteArray>("bytes");
 
-    QTest::newRow("by a byte") << requestOfSize(Mebibyte + 1) + '\n';
-    QTest::newRow("without an end") << QByteArray(2 * Mebibyte, '[');
-    QTest::newRow("zeroes") << QByteArray(2 * Mebibyte, '\0');
+    QTest::newRow("by a byte") << requestOfSize(mebibyte + 1) + '\n';
+    QTest::newRow("without an end") << QByteArray(2 * mebibyte, '[');
+    QTest::newRow("zeroes") << QByteArray(2 * mebibyte, '\0');
 }
 
 void tst_VXIPCServer::refusesALineThatIsTooLong()
@@ -1066,15 +1066,15 @@ void tst_VXIPCServer::countsTheValuesOfALine_data()
     const auto request = [](const QByteArray& parameters) {
         return R"({"jsonrpc":"2.0","method":"scale","id":1,"params":)" + parameters + '}';
     };
-    constexpr qsizetype Most = 65536;
-    constexpr qsizetype Others = 5;
-    QTest::newRow("most") << request(list(Most - Others, "1")) << -32602;
-    QTest::newRow("one more") << request(list(Most - Others + 1, "1")) << -32600;
-    QTest::newRow("lists") << request(list(Most / 2, "[]")) << -32600;
-    QTest::newRow("objects") << request(list(Most / 2, "{}")) << -32600;
-    QTest::newRow("members") << request('{' + entries(Most, R"("a":1)") + '}') << -32600;
+    constexpr qsizetype mostValues = 65536;
+    constexpr qsizetype otherValues = 5;
+    QTest::newRow("most") << request(list(mostValues - otherValues, "1")) << -32602;
+    QTest::newRow("one more") << request(list(mostValues - otherValues + 1, "1")) << -32600;
+    QTest::newRow("lists") << request(list(mostValues / 2, "[]")) << -32600;
+    QTest::newRow("objects") << request(list(mostValues / 2, "{}")) << -32600;
+    QTest::newRow("members") << request('{' + entries(mostValues, R"("a":1)") + '}') << -32600;
     // Signs in a text are none of JSON's.
-    const QByteArray text(Most, ',');
+    const QByteArray text(mostValues, ',');
     QTest::newRow("signs in a text") << request("[\"" + text + "\"]") << -32602;
     QTest::newRow("signs behind a quotation mark in a text")
         << request(R"(["\")" + text + "\"]") << -32602;
@@ -1250,14 +1250,14 @@ void tst_VXIPCServer::readsNoMoreThanItWorksOn()
     QTRY_VERIFY(other.call("isWaiting")[QStringLiteral("result")].toBool());
     // Stays with the client but for what the system takes and one piece that the endpoint reads.
     // After each round of calls the endpoint has had a hundred chances to read more.
-    busy.send(QByteArray(8 * Mebibyte, '\n'));
+    busy.send(QByteArray(8 * mebibyte, '\n'));
     qint64 before = 0;
     do {
         before = busy.socket().bytesToWrite();
         for (int i = 0; i < 100; ++i)
             QCOMPARE(other.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
     } while (busy.socket().bytesToWrite() < before);
-    QVERIFY2(before > 4 * Mebibyte, qPrintable(QString::number(before)));
+    QVERIFY2(before > 4 * mebibyte, qPrintable(QString::number(before)));
 
     QVERIFY(other.call("release").contains(QStringLiteral("result")));
     QCOMPARE(object(busy.receive())[QStringLiteral("result")].toString(), QStringLiteral("waited"));

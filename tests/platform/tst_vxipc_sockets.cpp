@@ -39,8 +39,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto RuntimeFolder = "XDG_RUNTIME_DIR";
-constexpr uid_t Nobody = 65534;
+constexpr auto runtimeFolder = "XDG_RUNTIME_DIR";
+constexpr uid_t nobody = 65534;
 
 QString nameOf(int serverType)
 {
@@ -267,7 +267,7 @@ void tst_VXIPCSockets::isPublishedOnceThereAreDescriptors()
 void tst_VXIPCSockets::isPublishedOnceAnyNameIsAllowed()
 {
     const QTemporaryDir folder;
-    const ScopedVariable runtime(RuntimeFolder, folder.path());
+    const ScopedVariable runtime(runtimeFolder, folder.path());
     const int serverType = newServerType();
     TestService service(serverType);
     const Complaints complaints;
@@ -290,7 +290,7 @@ void tst_VXIPCSockets::isPublishedOnceAnyNameIsAllowed()
 void tst_VXIPCSockets::isPublishedOnceAnyNameIsFree()
 {
     const QTemporaryDir folder;
-    const ScopedVariable runtime(RuntimeFolder, folder.path());
+    const ScopedVariable runtime(runtimeFolder, folder.path());
     const int serverType = newServerType();
     const QDir names(folder.path());
     QVERIFY(names.mkdir(nameOf(serverType)));
@@ -313,7 +313,7 @@ void tst_VXIPCSockets::isPublishedOnceAnyNameIsFree()
 void tst_VXIPCSockets::isPublishedOnceItsFolderIsTheUsersAlone()
 {
     const QTemporaryDir folder;
-    const ScopedVariable runtime(RuntimeFolder, folder.path());
+    const ScopedVariable runtime(runtimeFolder, folder.path());
     const QFile::Permissions before = QFile::permissions(folder.path());
     QVERIFY(QFile::setPermissions(folder.path(), before | QFile::WriteOther));
     TestService service(newServerType());
@@ -449,7 +449,7 @@ void tst_VXIPCSockets::ignoresARelativeFolder()
     const QString before = QDir::currentPath();
     QVERIFY(QDir::setCurrent(folder.path()));
     const auto goBack = qScopeGuard([&] { QDir::setCurrent(before); });
-    const ScopedVariable runtime(RuntimeFolder, QStringLiteral("relative"));
+    const ScopedVariable runtime(runtimeFolder, QStringLiteral("relative"));
     const ScopedVariable temporary("TMPDIR", folder.path());
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
@@ -489,7 +489,7 @@ void tst_VXIPCSockets::believesOnlyTheUsersOwn()
         QSKIP("Only root can give a file to another user");
 
     const QTemporaryDir folder;
-    const ScopedVariable runtime(RuntimeFolder, folder.path());
+    const ScopedVariable runtime(runtimeFolder, folder.path());
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
     const QString name = service.serverName();
@@ -501,7 +501,7 @@ void tst_VXIPCSockets::believesOnlyTheUsersOwn()
     const QByteArray path =
         QFile::encodeName(isFolder ? folder.path() : VXIPCClient::address(name));
     QCOMPARE(chmod(path.constData(), mode), 0);
-    QCOMPARE(isOthers ? chown(path.constData(), Nobody, Nobody) : 0, 0);
+    QCOMPARE(isOthers ? chown(path.constData(), nobody, nobody) : 0, 0);
     QVERIFY(!client.connectToServer());
     const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"), {}, 100ms);
     QCOMPARE(reply.error->code, int(VXIPCError::NotReachable));
@@ -518,7 +518,7 @@ void tst_VXIPCSockets::believesOnlyTheUsersOwn()
 void tst_VXIPCSockets::findsNobodyInAFolderThatIsNotThere()
 {
     const QTemporaryDir folder;
-    const ScopedVariable runtime(RuntimeFolder, folder.filePath(QStringLiteral("missing")));
+    const ScopedVariable runtime(runtimeFolder, folder.filePath(QStringLiteral("missing")));
     VXIPCClient client(newServerType());
     const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"));
     QCOMPARE(reply.error->code, int(VXIPCError::NotReachable));

@@ -19,7 +19,7 @@ struct Description
 };
 
 /// The codes that have a text of their own: those of the library, and those of drivers.
-constexpr std::array Descriptions{
+constexpr std::array descriptions{
     Description{0, "The printer is disconnected"},
     Description{1, "The printer is ready"},
     Description{2, "The printer is out of labels"},
@@ -84,7 +84,7 @@ private Q_SLOTS:
 
 void tst_VXMessages::describesKnownCodes()
 {
-    for (const Description& known : Descriptions)
+    for (const Description& known : descriptions)
         QCOMPARE(getErrorDescription(VXError(known.code)), QString::fromLatin1(known.text));
 }
 
@@ -106,7 +106,7 @@ void tst_VXMessages::canBeTranslated()
 {
     MarkingTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
-    for (const Description& known : Descriptions)
+    for (const Description& known : descriptions)
         QCOMPARE(getErrorDescription(VXError(known.code)),
                  QStringLiteral("<%1>").arg(QLatin1String(known.text)));
     QCOMPARE(getErrorDescription(VXError(24)), QStringLiteral("<Printer error 24>"));

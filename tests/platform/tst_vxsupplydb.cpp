@@ -25,13 +25,11 @@
 #include <memory>
 #include <thread>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-constexpr int German = 1;
-constexpr int Japanese = 4;
-constexpr int Polish = 9;
+constexpr int germanId = 1;
+constexpr int japanese = 4;
+constexpr int polish = 9;
 
 const QString Connection = QStringLiteral("the connection");
 const QString Tape = QStringLiteral("TAPE-1");
@@ -260,15 +258,15 @@ private Q_SLOTS:
                                  << "Teal"
                                  << "Vinyl"
                                  << "Tape";
-        QTest::newRow("German") << German << QStringLiteral("Weiß") << "Schwarz"
+        QTest::newRow("German") << germanId << QStringLiteral("Weiß") << "Schwarz"
                                 << "Teal"
                                 << "Vinylfolie"
                                 << "Band";
-        QTest::newRow("Japanese") << Japanese << QStringLiteral("白") << "Black"
+        QTest::newRow("Japanese") << japanese << QStringLiteral("白") << "Black"
                                   << "Teal"
                                   << "Vinyl"
                                   << "Tape";
-        QTest::newRow("a language without any name") << Polish << "White"
+        QTest::newRow("a language without any name") << polish << "White"
                                                      << "Black"
                                                      << "Teal"
                                                      << "Vinyl"
@@ -304,19 +302,21 @@ private Q_SLOTS:
                                m_database->supplyRibbonColorName(RibbonK, 1),
                                m_database->supplyRibbonsColorNames({RibbonRK}).value(0)};
         };
-        const QStringList english{u"White"_s, u"Red"_s,   u"Vinyl"_s,
-                                  u"Tape"_s,  u"Black"_s, u"Red"_s};
+        const QStringList english{QStringLiteral("White"), QStringLiteral("Red"),
+                                  QStringLiteral("Vinyl"), QStringLiteral("Tape"),
+                                  QStringLiteral("Black"), QStringLiteral("Red")};
         QCOMPARE(names(), english);
-        m_database->setLanguageId(German);
-        QCOMPARE(names(), (QStringList{u"Weiß"_s, u"Rot"_s, u"Vinylfolie"_s, u"Band"_s,
-                                       u"Schwarz"_s, u"Rot"_s}));
+        m_database->setLanguageId(germanId);
+        QCOMPARE(names(), (QStringList{QStringLiteral("Weiß"), QStringLiteral("Rot"),
+                                       QStringLiteral("Vinylfolie"), QStringLiteral("Band"),
+                                       QStringLiteral("Schwarz"), QStringLiteral("Rot")}));
         m_database->setLanguageId(0);
         QCOMPARE(names(), english);
     }
 
     void keepsTheLanguageOverASetup()
     {
-        m_database->setLanguageId(German);
+        m_database->setLanguageId(germanId);
         m_database->setup(path(), Connection);
         QCOMPARE(m_database->supplySecColorName(Tape), QStringLiteral("Rot"));
     }
@@ -488,23 +488,25 @@ private Q_SLOTS:
         const QStringList black{QStringLiteral("0")};
         const QStringList redBlack{QStringLiteral("13111342"), QStringLiteral("0")};
         QTest::newRow("none") << none << none << none << none;
-        QTest::newRow("two") << QStringList{u"2001"_s, u"2003"_s} << QStringList{RibbonK, RibbonRK}
-                             << black << redBlack;
+        QTest::newRow("two") << QStringList{QStringLiteral("2001"), QStringLiteral("2003")}
+                             << QStringList{RibbonK, RibbonRK} << black << redBlack;
         QTest::newRow("another number of the SKU")
-            << QStringList{u"2002"_s} << QStringList{RibbonK} << black << none;
+            << QStringList{QStringLiteral("2002")} << QStringList{RibbonK} << black << none;
         QTest::newRow("nothing in the first place")
-            << QStringList{u"-1"_s, u"2003"_s} << QStringList{u"-1"_s, RibbonRK} << none
-            << redBlack;
-        QTest::newRow("all bits set")
-            << QStringList{u"4294967295"_s} << QStringList{u"-1"_s} << none << none;
-        QTest::newRow("zero") << QStringList{u"0"_s} << QStringList{u"-1"_s} << none << none;
-        QTest::newRow("empty") << QStringList{u""_s, u"2001"_s} << QStringList{u"-1"_s, RibbonK}
-                               << none << black;
-        QTest::newRow("not in the file")
-            << QStringList{u"2099"_s} << QStringList{u""_s} << none << none;
-        QTest::newRow("no number")
-            << QStringList{u"ribbon"_s} << QStringList{u""_s} << none << none;
-        QTest::newRow("three") << QStringList{u"2001"_s, u"2003"_s, u"2002"_s}
+            << QStringList{QStringLiteral("-1"), QStringLiteral("2003")}
+            << QStringList{QStringLiteral("-1"), RibbonRK} << none << redBlack;
+        QTest::newRow("all bits set") << QStringList{QStringLiteral("4294967295")}
+                                      << QStringList{QStringLiteral("-1")} << none << none;
+        QTest::newRow("zero") << QStringList{QStringLiteral("0")}
+                              << QStringList{QStringLiteral("-1")} << none << none;
+        QTest::newRow("empty") << QStringList{QStringLiteral(""), QStringLiteral("2001")}
+                               << QStringList{QStringLiteral("-1"), RibbonK} << none << black;
+        QTest::newRow("not in the file") << QStringList{QStringLiteral("2099")}
+                                         << QStringList{QStringLiteral("")} << none << none;
+        QTest::newRow("no number") << QStringList{QStringLiteral("ribbon")}
+                                   << QStringList{QStringLiteral("")} << none << none;
+        QTest::newRow("three") << QStringList{QStringLiteral("2001"), QStringLiteral("2003"),
+                                              QStringLiteral("2002")}
                                << QStringList{RibbonK, RibbonRK, RibbonK} << black << redBlack;
     }
     void theRibbonIdentifiersDecideTheSkus()
@@ -532,7 +534,7 @@ private Q_SLOTS:
     void whatIsLoadedIsLookedUpAgainAfterASetup()
     {
         m_database->setSupplyId(TapeId);
-        m_database->setRibbonIds({u"2001"_s, u"2003"_s});
+        m_database->setRibbonIds({QStringLiteral("2001"), QStringLiteral("2003")});
         QCOMPARE(m_database->supplySKU(), Tape);
         QCOMPARE(m_database->supplyRibbonSKUs(), (QStringList{RibbonK, RibbonRK}));
         {
@@ -630,7 +632,8 @@ private Q_SLOTS:
         m_database = std::make_unique<VXSupplyDatabase>();
         m_database->setup(path(), Connection);
         QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files),
+                 QStringList{QStringLiteral("roll.db")});
     }
 
     void aFileOfOtherTablesIsRefused_data()
@@ -666,7 +669,7 @@ private Q_SLOTS:
             for (const QByteArray& change : changes)
                 QVERIFY(other.run(change.constData()));
         }
-        QCOMPARE(faultOf(path()), u"its tables are not those of schema version 1"_s);
+        QCOMPARE(faultOf(path()), QStringLiteral("its tables are not those of schema version 1"));
         m_database->setup(path(), Connection);
         QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
         QVERIFY(holdsNothing(*m_database));
@@ -674,8 +677,8 @@ private Q_SLOTS:
 
     void aFileThatIsTooLargeIsRefused()
     {
-        QVERIFY(QFile::resize(path(), SupplyDbSchema::MaxFileBytes + 1));
-        QCOMPARE(faultOf(path()), u"larger than 64 MiB"_s);
+        QVERIFY(QFile::resize(path(), SupplyDbSchema::maxFileBytes + 1));
+        QCOMPARE(faultOf(path()), QStringLiteral("larger than 64 MiB"));
         m_database->setup(path(), Connection);
         QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
     }
@@ -689,23 +692,23 @@ private Q_SLOTS:
                                    "n WHERE i <= 16384) ";
         QTest::newRow("a long name")
             << QByteArray("UPDATE name SET english = printf('%.*c', 10000000, 'x') WHERE id = 1")
-            << u"a row of more than 2048 bytes in name"_s;
+            << QStringLiteral("a row of more than 2048 bytes in name");
         QTest::newRow("a long key")
             << QByteArray("UPDATE colour SET key = printf('%.*c', 3000, 'x') WHERE id = 1")
-            << u"a row of more than 2048 bytes in colour"_s;
+            << QStringLiteral("a row of more than 2048 bytes in colour");
         QTest::newRow("a large picture")
             << QByteArray("UPDATE background SET image = zeroblob(300000)")
-            << u"a row of more than 264192 bytes in background"_s;
+            << QStringLiteral("a row of more than 264192 bytes in background");
         QTest::newRow("many supplies")
             << numbers + "INSERT INTO supply SELECT 'S' || i, 7, 1, 1, NULL, NULL, 1, 1, NULL, "
                          "NULL, 1, NULL, 1, NULL FROM n"
-            << u"more than 16384 rows in supply"_s;
+            << QStringLiteral("more than 16384 rows in supply");
         QTest::newRow("many ribbons")
             << numbers + "INSERT INTO ribbon SELECT 'R' || i, 'wax', 1, 1 FROM n"
-            << u"more than 16384 rows in ribbon"_s;
+            << QStringLiteral("more than 16384 rows in ribbon");
         QTest::newRow("many models")
             << numbers + "INSERT INTO printer_format SELECT 'P' || i, 0, 1 FROM n"
-            << u"more than 16384 rows in printer_format"_s;
+            << QStringLiteral("more than 16384 rows in printer_format");
     }
     void rowsWithoutMeasureAreRefused()
     {
@@ -750,14 +753,15 @@ private Q_SLOTS:
         };
         const QByteArray update = "UPDATE sqlite_schema SET rootpage = ";
         QTest::newRow("two tables on one page")
-            << update + root("name") + " WHERE name = 'material'" << u"page 4 is used twice"_s;
-        QTest::newRow("a table on no page")
-            << QByteArray(update + "0 WHERE name = 'name'") << u"page 0 is not in the file"_s;
-        QTest::newRow("a table behind the end")
-            << QByteArray(update + "999 WHERE name = 'name'") << u"page 999 is not in the file"_s;
+            << update + root("name") + " WHERE name = 'material'"
+            << QStringLiteral("page 4 is used twice");
+        QTest::newRow("a table on no page") << QByteArray(update + "0 WHERE name = 'name'")
+                                            << QStringLiteral("page 0 is not in the file");
+        QTest::newRow("a table behind the end") << QByteArray(update + "999 WHERE name = 'name'")
+                                                << QStringLiteral("page 999 is not in the file");
         QTest::newRow("a table kept as an index is")
             << update + root("translation") + " WHERE name = 'name'"
-            << u"page 5 is of a kind that does not belong there"_s;
+            << QStringLiteral("page 5 is of a kind that does not belong there");
     }
     void pagesInDisorderAreRefused()
     {
@@ -768,7 +772,7 @@ private Q_SLOTS:
             QVERIFY(other.run("PRAGMA writable_schema = ON"));
             QVERIFY(other.run(change.constData()));
         }
-        QCOMPARE(faultOf(path()), u"damaged: "_s + fault);
+        QCOMPARE(faultOf(path()), QStringLiteral("damaged: ") + fault);
         m_database->setup(path(), Connection);
         QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
     }
@@ -778,34 +782,35 @@ private Q_SLOTS:
         const QString sample = m_folder->filePath(QStringLiteral("sample.db"));
         writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), sample);
         QCOMPARE(faultOf(sample), QString());
-        constexpr qsizetype PageSize = 4096;
+        constexpr qsizetype pageSize = 4096;
         qsizetype root = 0;
         {
             const Other other(sample);
             QSqlQuery query(other.database());
-            QVERIFY(
-                query.exec(u"SELECT rootpage FROM sqlite_schema WHERE name = 'print_setting'"_s));
+            QVERIFY(query.exec(
+                QStringLiteral("SELECT rootpage FROM sqlite_schema WHERE name = 'print_setting'")));
             QVERIFY(query.next());
             root = query.value(0).toInt();
         }
         QByteArray bytes = readFile(sample);
         // The page behind the last row becomes that in front of the first.
-        const qsizetype page = (root - 1) * PageSize;
+        const qsizetype page = (root - 1) * pageSize;
         QCOMPARE(bytes.at(page), '\x02');
         const qsizetype firstCell = static_cast<quint8>(bytes.at(page + 12)) * 256 +
                                     static_cast<quint8>(bytes.at(page + 13));
         bytes.replace(page + 8, 4, bytes.sliced(page + firstCell, 4));
         writeFile(sample, bytes);
-        QVERIFY2(faultOf(sample).endsWith(u" is used twice"_s), qPrintable(faultOf(sample)));
+        QVERIFY2(faultOf(sample).endsWith(QStringLiteral(" is used twice")),
+                 qPrintable(faultOf(sample)));
     }
 
     void aFileOfAnotherEncodingIsRefused()
     {
         QByteArray bytes = readFile(path());
-        constexpr qsizetype LastByteOfTheEncoding = 59;
-        bytes[LastByteOfTheEncoding] = 2;
+        constexpr qsizetype lastByteOfTheEncoding = 59;
+        bytes[lastByteOfTheEncoding] = 2;
         writeFile(path(), bytes);
-        QCOMPARE(faultOf(path()), u"its texts are not UTF-8"_s);
+        QCOMPARE(faultOf(path()), QStringLiteral("its texts are not UTF-8"));
     }
 
     // Whatever it answers, it answers. Some of the damage is noticed before the file is opened, and
@@ -814,8 +819,8 @@ private Q_SLOTS:
     {
         const QByteArray whole = readFile(path());
         int opened = 0;
-        constexpr quint32 Seeds = 200;
-        for (quint32 seed = 1; seed <= Seeds; ++seed) {
+        constexpr quint32 seeds = 200;
+        for (quint32 seed = 1; seed <= seeds; ++seed) {
             QRandomGenerator random(seed);
             QByteArray bytes = whole;
             // The header is left in order so that the rest is looked at.
@@ -839,7 +844,7 @@ private Q_SLOTS:
             opened += QSqlDatabase::contains(Connection) ? 1 : 0;
         }
         QVERIFY(opened > 0);
-        QVERIFY(opened < static_cast<int>(Seeds));
+        QVERIFY(opened < static_cast<int>(seeds));
 
         m_database->setup(path(), Connection);
         QCOMPARE(m_database->supplySKU(), Tape);
@@ -850,10 +855,12 @@ private Q_SLOTS:
     {
         const QByteArray before = readFile(path());
         QVERIFY(!knowsNothing(*m_database, Tape, RibbonK));
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files),
+                 QStringList{QStringLiteral("roll.db")});
         m_database.reset();
         QCOMPARE(readFile(path()), before);
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"roll.db"_s});
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files),
+                 QStringList{QStringLiteral("roll.db")});
     }
 
     void readsAFileThatMayNotBeWritten()
@@ -913,7 +920,7 @@ private Q_SLOTS:
     void aPassingLockLosesNoSku()
     {
         m_database->setSupplyId(TapeId);
-        m_database->setRibbonIds({u"2001"_s});
+        m_database->setRibbonIds({QStringLiteral("2001")});
         {
             const Other other(path());
             QVERIFY(other.run("BEGIN EXCLUSIVE"));
@@ -948,7 +955,7 @@ private Q_SLOTS:
         QCOMPARE(SleptTime::now, 100ms);
         SleptTime::now += 999ms;
         VXSupplyDatabase second; // for whose sake its thread does not wait either
-        second.setup(path(), u"second"_s);
+        second.setup(path(), QStringLiteral("second"));
         QVERIFY(knowsNothing(second, Tape, RibbonK));
         QCOMPARE(SleptTime::now, 1099ms);
         SleptTime::now += 1ms;
@@ -960,21 +967,21 @@ private Q_SLOTS:
     // has an answer.
     void aLockedFileIsGivenUp()
     {
-        constexpr int LockedFor = 3000;
-        const Locker locker(path(), LockedFor);
+        constexpr int lockedFor = 3000;
+        const Locker locker(path(), lockedFor);
         QVERIFY(locker.hasLocked());
         QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
     }
 
     void aFileThatComesLaterIsNoticed()
     {
-        const QString late = m_folder->filePath(u"late.db"_s);
+        const QString late = m_folder->filePath(QStringLiteral("late.db"));
         m_database->setup(late, Connection);
         m_database->setSupplyId(TapeId);
         QCOMPARE(m_database->supplySKU(), QString());
         QVERIFY(QFile::copy(path(), late));
         QTRY_COMPARE(m_database->supplySKU(), Tape);
-        QCOMPARE(m_database->supplyColorName(Tape), u"White"_s);
+        QCOMPARE(m_database->supplyColorName(Tape), QStringLiteral("White"));
     }
 
     void aFileThatIsMendedIsNoticed()
@@ -984,19 +991,19 @@ private Q_SLOTS:
         m_database->setup(path(), Connection);
         QCOMPARE(m_database->supplyColorName(Tape), QString());
         writeFile(path(), whole);
-        QTRY_COMPARE(m_database->supplyColorName(Tape), u"White"_s);
+        QTRY_COMPARE(m_database->supplyColorName(Tape), QStringLiteral("White"));
     }
 
     void aFileThatCannotBeUsedIsNotLookedAtForEachQuestion()
     {
-        const QString late = m_folder->filePath(u"late.db"_s);
+        const QString late = m_folder->filePath(QStringLiteral("late.db"));
         QElapsedTimer timer;
         timer.start();
         m_database->setup(late, Connection);
         QCOMPARE(m_database->supplyColorRGB(Tape), -1);
         QVERIFY(QFile::copy(path(), late));
         const int rgb = m_database->supplyColorRGB(Tape);
-        if (timer.hasExpired(SupplyDbConnection::RetryInterval.count()))
+        if (timer.hasExpired(SupplyDbConnection::retryInterval.count()))
             QSKIP("the two questions were not within the time in which the file is left alone");
         QCOMPARE(rgb, -1);
     }
@@ -1005,7 +1012,7 @@ private Q_SLOTS:
     {
         VXSupplyDatabase german;
         german.setup(path(), QStringLiteral("second"));
-        german.setLanguageId(German);
+        german.setLanguageId(germanId);
         german.setRibbonIds({QStringLiteral("2003")});
         m_database->setSupplyId(TapeId);
         {
@@ -1041,7 +1048,7 @@ private Q_SLOTS:
         const QString sample = m_folder->filePath(QStringLiteral("sample.db"));
         writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), sample);
         m_database->setup(sample, Connection);
-        m_database->setLanguageId(Japanese);
+        m_database->setLanguageId(japanese);
         const Other other(sample);
 
         QSqlQuery supplies(other.database());
@@ -1154,7 +1161,7 @@ private Q_SLOTS:
         };
         QCOMPARE(answer(), QStringList());
         QVERIFY(other.run("UPDATE remark SET number = -7 WHERE id = 2"));
-        QCOMPARE(answer(), (QStringList{u"5"_s, u"7"_s}));
+        QCOMPARE(answer(), (QStringList{QStringLiteral("5"), QStringLiteral("7")}));
     }
 
     void doesNotKeepAFailure()
@@ -1177,7 +1184,7 @@ private:
     static QString faultOf(const QString& name)
     {
         SupplyDbConnection connection;
-        connection.setUp(name, u"looked at"_s);
+        connection.setUp(name, QStringLiteral("looked at"));
         return connection.open() ? QString() : connection.fault();
     }
 

@@ -41,33 +41,40 @@ struct Method
     const char* arguments;
 };
 
-constexpr auto Signal = QMetaMethod::Signal;
-constexpr auto Slot = QMetaMethod::Slot;
-constexpr auto Public = QMetaMethod::Public;
-constexpr auto Private = QMetaMethod::Private;
+constexpr auto signalKind = QMetaMethod::Signal;
+constexpr auto slotKind = QMetaMethod::Slot;
+constexpr auto publicAccess = QMetaMethod::Public;
+constexpr auto privateAccess = QMetaMethod::Private;
 
 constexpr Method methods[] = {
-    {Signal, Public, "void", "availablePrintersUpdated()", ""},
-    {Signal, Public, "void", "printerErrorChangedSignal(bool)", "printerInErrorState"},
-    {Signal, Public, "void", "statusChangedSignal(int,QString)", "status printerName"},
-    {Signal, Public, "void", "supplyIdChangedSignal(QString)", "printerName"},
-    {Signal, Public, "void", "ribbonIdsChangedSignal(QString)", "printerName"},
-    {Signal, Public, "void", "activeDefaultPrinterSetSignal(QString,bool)",
+    {signalKind, publicAccess, "void", "availablePrintersUpdated()", ""},
+    {signalKind, publicAccess, "void", "printerErrorChangedSignal(bool)", "printerInErrorState"},
+    {signalKind, publicAccess, "void", "statusChangedSignal(int,QString)", "status printerName"},
+    {signalKind, publicAccess, "void", "supplyIdChangedSignal(QString)", "printerName"},
+    {signalKind, publicAccess, "void", "ribbonIdsChangedSignal(QString)", "printerName"},
+    {signalKind, publicAccess, "void", "activeDefaultPrinterSetSignal(QString,bool)",
      "activePrinterName isVX"},
-    {Signal, Public, "void", "softwareVersionUpdated(QString)", "printerName"},
-    {Slot, Public, "void", "checkForPrinters()", ""},
-    {Slot, Public, "VXPrinting::PrinterType", "getPrinterTypeEnum(QString)", "printerName"},
-    {Slot, Public, "QString", "getStatusTitle(int)", "statusEnum"},
-    {Slot, Public, "void", "sendToLogger(QString)", "message"},
-    {Slot, Public, "void", "sendCommandToPrinter(QString,QString)", "command printerName"},
-    {Slot, Public, "QString", "getPrinterSoftwareVersion(QString)", "printerName"},
-    {Slot, Private, "void", "onPrinterStatusChanged(QString,QString)", "printerName status"},
-    {Slot, Private, "void", "onSupplyIdChanged(QString,QString)", "printerName id"},
-    {Slot, Private, "void", "onRibbonIdsChanged(QString,QStringList)", "printerName ids"},
-    {Slot, Private, "void", "onSupplyIntMileageChanged(QString,QString)", "printerName mileage"},
-    {Slot, Private, "void", "onRibbon1IntMileageChanged(QString,QString)", "printerName mileage"},
-    {Slot, Private, "void", "onRibbon2IntMileageChanged(QString,QString)", "printerName mileage"},
-    {Slot, Private, "void", "onSoftwareVersionChanged(QString,QString)", "printerName version"},
+    {signalKind, publicAccess, "void", "softwareVersionUpdated(QString)", "printerName"},
+    {slotKind, publicAccess, "void", "checkForPrinters()", ""},
+    {slotKind, publicAccess, "VXPrinting::PrinterType", "getPrinterTypeEnum(QString)",
+     "printerName"},
+    {slotKind, publicAccess, "QString", "getStatusTitle(int)", "statusEnum"},
+    {slotKind, publicAccess, "void", "sendToLogger(QString)", "message"},
+    {slotKind, publicAccess, "void", "sendCommandToPrinter(QString,QString)",
+     "command printerName"},
+    {slotKind, publicAccess, "QString", "getPrinterSoftwareVersion(QString)", "printerName"},
+    {slotKind, privateAccess, "void", "onPrinterStatusChanged(QString,QString)",
+     "printerName status"},
+    {slotKind, privateAccess, "void", "onSupplyIdChanged(QString,QString)", "printerName id"},
+    {slotKind, privateAccess, "void", "onRibbonIdsChanged(QString,QStringList)", "printerName ids"},
+    {slotKind, privateAccess, "void", "onSupplyIntMileageChanged(QString,QString)",
+     "printerName mileage"},
+    {slotKind, privateAccess, "void", "onRibbon1IntMileageChanged(QString,QString)",
+     "printerName mileage"},
+    {slotKind, privateAccess, "void", "onRibbon2IntMileageChanged(QString,QString)",
+     "printerName mileage"},
+    {slotKind, privateAccess, "void", "onSoftwareVersionChanged(QString,QString)",
+     "printerName version"},
 };
 
 QMetaMethod methodAt(int index)

@@ -96,12 +96,12 @@ void ShownTextTest::everyCharacterOfTheseKindsBecomesAMark()
 
 void ShownTextTest::messageIsBounded()
 {
-    const QString fits(MessageLength, QLatin1Char('x'));
+    const QString fits(messageLength, QLatin1Char('x'));
     QCOMPARE(shownAsMessage(fits), fits);
     const QString begin = QStringLiteral("found \n\"");
     const QString end = QStringLiteral("\", expected less");
     const QString message = shownAsMessage(begin + QString(1000000, QLatin1Char('x')) + end);
-    QVERIFY(message.size() <= MessageLength + 20);
+    QVERIFY(message.size() <= messageLength + 20);
     QVERIFY(message.startsWith(QStringLiteral("found \\u000a\"xxx")));
     QVERIFY(message.contains(QStringLiteral("x ... x")));
     QVERIFY(message.endsWith(end));

@@ -59,8 +59,8 @@ QString shown(const QString& text)
 
 QString shownAsMessage(const QString& text)
 {
-    constexpr qsizetype kept = MessageLength / 2;
-    if (text.size() <= MessageLength)
+    constexpr qsizetype kept = messageLength / 2;
+    if (text.size() <= messageLength)
         return shown(text);
     return shown(text.first(kept)) + QStringLiteral(" ... ") + shown(text.last(kept));
 }

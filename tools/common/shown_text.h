@@ -13,7 +13,7 @@
 /// still the same JSON. A mark stays as it is when it is shown again.
 QString shown(const QString& text);
 
-/// The same for a message, which quotes what may be of any length: of more than `MessageLength`
+/// The same for a message, which quotes what may be of any length: of more than `messageLength`
 /// characters the middle is left out.
 QString shownAsMessage(const QString& text);
-inline constexpr qsizetype MessageLength = 1000;
+inline constexpr qsizetype messageLength = 1000;

@@ -22,17 +22,17 @@
 
 namespace {
 
-constexpr int MaxPanels = 16;
-constexpr int MaxSetting = 1000;
-constexpr double MaxWidth = 100.0;
-constexpr double MaxLength = 100000.0;
-constexpr qsizetype MaxWordLength = 40;
-constexpr qsizetype MaxTagLength = 20;
+constexpr int maxPanels = 16;
+constexpr int maxSetting = 1000;
+constexpr double maxWidth = 100.0;
+constexpr double longestRoll = 100000.0;
+constexpr qsizetype maxWordLength = 40;
+constexpr qsizetype maxTagLength = 20;
 // Of a picture: more than any label is printed with. A small file can hold far more, and whoever
 // shows it needs memory for each pixel.
-constexpr int MaxImageSide = 4096;
+constexpr int maxImageSide = 4096;
 // Enough for any file that is let through, whose own limits are lower.
-constexpr qint64 MaxBytesRead = qint64{32} << 20;
+constexpr qint64 maxBytesRead = qint64{32} << 20;
 
 const QString EnglishTag = QStringLiteral("en");
 const QString BackgroundFolder = QStringLiteral("backgrounds/");
@@ -123,7 +123,7 @@ QString skuOf(const CsvField& field)
             QStringLiteral("\"%1\" is no SKU: at most %2 letters from A to Z, digits, dots, "
                            "underscores and hyphens, a letter or digit first")
                 .arg(field.text)
-                .arg(SupplyDbSchema::MaxSkuLength));
+                .arg(SupplyDbSchema::maxSkuLength));
     return field.text;
 }
 
@@ -162,7 +162,7 @@ public:
 
     Catalogue read()
     {
-        m_catalogue.languages.insert(SupplyDbSchema::FallbackLanguage, EnglishTag);
+        m_catalogue.languages.insert(SupplyDbSchema::fallbackLanguage, EnglishTag);
         readColours();
         readMaterials();
         readFormats();
@@ -208,16 +208,16 @@ private:
     Name nameOf(const CsvTable& table, qsizetype row) const
     {
         Name name;
-        name.english = textOf(table.field(row, EnglishTag), SupplyDbSchema::MaxNameLength);
+        name.english = textOf(table.field(row, EnglishTag), SupplyDbSchema::maxNameLength);
         for (auto language = m_catalogue.languages.begin(); language != m_catalogue.languages.end();
              ++language) {
-            if (language.key() == SupplyDbSchema::FallbackLanguage ||
+            if (language.key() == SupplyDbSchema::fallbackLanguage ||
                 !table.hasColumn(language.value()))
                 continue;
             const CsvField field = table.field(row, language.value());
             if (!field.text.isEmpty())
                 name.translations.insert(language.key(),
-                                         textOf(field, SupplyDbSchema::MaxNameLength));
+                                         textOf(field, SupplyDbSchema::maxNameLength));
         }
         return name;
     }
@@ -260,7 +260,7 @@ private:
             const CsvField key = source.field(row, column("colour"));
             if (key.text.contains(u' '))
                 throw key.fault(QStringLiteral("a space in a colour's key"));
-            if (m_colours.contains(textOf(key, MaxWordLength)))
+            if (m_colours.contains(textOf(key, maxWordLength)))
                 throw key.fault(QStringLiteral("\"%1\" is there twice").arg(key.text));
             m_colours.insert(key.text, m_catalogue.colours.size());
             m_catalogue.colours.append(
@@ -273,7 +273,7 @@ private:
         const CsvTable source = table(MaterialLayout);
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
             const CsvField field = source.field(row, column("material"));
-            const int number = integerOf(field, 0, SupplyDbSchema::MaxKind);
+            const int number = integerOf(field, 0, SupplyDbSchema::maxKind);
             if (m_materials.contains(number))
                 throw field.fault(QStringLiteral("material %1 is there twice").arg(number));
             m_materials.insert(number);
@@ -286,7 +286,7 @@ private:
         const CsvTable source = table(FormatLayout);
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
             const CsvField field = source.field(row, column("format"));
-            const int number = integerOf(field, 0, SupplyDbSchema::MaxKind);
+            const int number = integerOf(field, 0, SupplyDbSchema::maxKind);
             if (m_formats.contains(number))
                 throw field.fault(QStringLiteral("format %1 is there twice").arg(number));
             const CsvField type = source.field(row, column("type"));
@@ -300,7 +300,7 @@ private:
 
     int formatOf(const CsvField& field) const
     {
-        const int format = integerOf(field, 0, SupplyDbSchema::MaxKind);
+        const int format = integerOf(field, 0, SupplyDbSchema::maxKind);
         if (!m_formats.contains(format))
             throw field.fault(QStringLiteral("format %1 is not in formats.csv").arg(format));
         return format;
@@ -329,7 +329,7 @@ private:
         requireVisible(field);
         // A plain name: a catalogue takes no file from outside its folder.
         if (field.text.contains(u'/') || field.text.contains(u'\\') || field.text.contains(u':') ||
-            field.text.startsWith(u'.') || field.text.size() > SupplyDbSchema::MaxNameLength)
+            field.text.startsWith(u'.') || field.text.size() > SupplyDbSchema::maxNameLength)
             throw field.fault(QStringLiteral("\"%1\" is no plain file name").arg(field.text));
         std::optional<QByteArray> image;
         try {
@@ -340,10 +340,10 @@ private:
         if (!image)
             throw field.fault(
                 QStringLiteral("%1%2 cannot be read").arg(BackgroundFolder, field.text));
-        if (image->size() > SupplyDbSchema::MaxImageBytes)
+        if (image->size() > SupplyDbSchema::maxImageBytes)
             throw field.fault(QStringLiteral("%1%2 is larger than %3 KiB")
                                   .arg(BackgroundFolder, field.text)
-                                  .arg(SupplyDbSchema::MaxImageBytes / 1024));
+                                  .arg(SupplyDbSchema::maxImageBytes / 1024));
         QBuffer buffer;
         buffer.setData(*image);
         buffer.open(QIODevice::ReadOnly);
@@ -352,12 +352,12 @@ private:
         if (!reader.canRead() || size.isEmpty())
             throw field.fault(QStringLiteral("%1%2 is no image that can be read")
                                   .arg(BackgroundFolder, field.text));
-        if (size.width() > MaxImageSide || size.height() > MaxImageSide)
+        if (size.width() > maxImageSide || size.height() > maxImageSide)
             throw field.fault(QStringLiteral("%1%2 has %3 by %4 pixels, where %5 by %5 can be")
                                   .arg(BackgroundFolder, field.text)
                                   .arg(size.width())
                                   .arg(size.height())
-                                  .arg(MaxImageSide));
+                                  .arg(maxImageSide));
         const qsizetype place = m_catalogue.backgrounds.size();
         m_backgrounds.insert(field.text, place);
         m_catalogue.backgrounds.append({field.text, *image});
@@ -368,9 +368,9 @@ private:
     CsvTable listedTable(const TableLayout& layout)
     {
         CsvTable source = table(layout);
-        if (source.rowCount() > SupplyDbSchema::MaxListedRows)
+        if (source.rowCount() > SupplyDbSchema::maxListedRows)
             throw source.faultInFile(
-                QStringLiteral("more than %1 rows").arg(SupplyDbSchema::MaxListedRows));
+                QStringLiteral("more than %1 rows").arg(SupplyDbSchema::maxListedRows));
         return source;
     }
 
@@ -386,20 +386,20 @@ private:
             if (m_supplies.contains(supply.sku))
                 throw field("sku").fault(QStringLiteral("%1 is there twice").arg(supply.sku));
             m_supplies.insert(supply.sku);
-            supply.kinds = freeNumbers(field("kinds"), SupplyDbSchema::MaxKind, m_kinds);
-            supply.material = integerOf(field("material"), 0, SupplyDbSchema::MaxKind);
+            supply.kinds = freeNumbers(field("kinds"), SupplyDbSchema::maxKind, m_kinds);
+            supply.material = integerOf(field("material"), 0, SupplyDbSchema::maxKind);
             if (!m_materials.contains(supply.material))
                 throw field("material")
                     .fault(
                         QStringLiteral("material %1 is not in materials.csv").arg(supply.material));
             supply.format = formatOf(field("format"));
             supply.colour = colourOf(field("colour"), field("colour").text);
-            supply.width = sizeOf(source, field("width"), MaxWidth);
-            supply.length = sizeOf(source, field("length"), MaxLength);
+            supply.width = sizeOf(source, field("width"), maxWidth);
+            supply.length = sizeOf(source, field("length"), longestRoll);
             readSecondColour(source, row, supply);
             readLabelLength(source, row, supply);
             if (const CsvField separator = field("separator_width"); !separator.text.isEmpty())
-                supply.separatorWidth = realOf(source, separator, 0.0, MaxWidth);
+                supply.separatorWidth = realOf(source, separator, 0.0, maxWidth);
             supply.isLandscape = yesOrNoOf(field("landscape"));
             supply.background = backgroundOf(field("background"));
             readMultiUp(source, row, supply);
@@ -441,7 +441,7 @@ private:
                                 ? QStringLiteral("a gap, where one label lies alone")
                                 : QStringLiteral("empty, where labels lie side by side"));
         if (!gap.text.isEmpty())
-            supply.multiUpGap = realOf(source, gap, 0.0, MaxWidth);
+            supply.multiUpGap = realOf(source, gap, 0.0, maxWidth);
     }
 
     void readRibbons()
@@ -458,17 +458,17 @@ private:
             if (m_supplies.contains(ribbon.sku))
                 throw field("sku").fault(QStringLiteral("%1 is a supply's SKU").arg(ribbon.sku));
             ribbon.numbers =
-                freeNumbers(field("numbers"), SupplyDbSchema::MaxRibbonNumber, m_ribbonNumbers);
-            ribbon.type = textOf(field("type"), MaxWordLength);
-            ribbon.width = sizeOf(source, field("width"), MaxWidth);
-            ribbon.length = sizeOf(source, field("length"), MaxLength);
+                freeNumbers(field("numbers"), SupplyDbSchema::maxRibbonNumber, m_ribbonNumbers);
+            ribbon.type = textOf(field("type"), maxWordLength);
+            ribbon.width = sizeOf(source, field("width"), maxWidth);
+            ribbon.length = sizeOf(source, field("length"), longestRoll);
             const CsvField panels = field("panels");
             for (const QString& key : wordsOf(panels))
                 ribbon.panelColours.append(colourOf(panels, key));
-            if (ribbon.panelColours.isEmpty() || ribbon.panelColours.size() > MaxPanels)
+            if (ribbon.panelColours.isEmpty() || ribbon.panelColours.size() > maxPanels)
                 throw panels.fault(QStringLiteral("%1 panels, where 1 to %2 can be")
                                        .arg(ribbon.panelColours.size())
-                                       .arg(MaxPanels));
+                                       .arg(maxPanels));
             m_panels.insert(ribbon.sku, static_cast<int>(ribbon.panelColours.size()));
             m_catalogue.ribbons.append(ribbon);
         }
@@ -483,7 +483,7 @@ private:
                 return source.field(row, column(name));
             };
             const auto setting = [&field](const char* name, int least) {
-                return integerOf(field(name), least, MaxSetting);
+                return integerOf(field(name), least, maxSetting);
             };
             const CsvField ribbon = field("ribbon");
             if (!m_panels.contains(ribbon.text))
@@ -513,7 +513,7 @@ private:
         QHash<QString, QString> spellings; // models are looked for in any case
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
             const CsvField modelField = source.field(row, column("model"));
-            const QString text = textOf(modelField, MaxWordLength);
+            const QString text = textOf(modelField, maxWordLength);
             const QString model = text == AnyModel ? QString() : text;
             const QString spelling = spellings.value(text.toLower(), text);
             if (spelling != text)
@@ -563,17 +563,17 @@ Catalogue readCatalogueDirectory(const QString& directory)
         QFile file(info.filePath());
         if (!file.open(QIODevice::ReadOnly))
             return std::nullopt;
-        return file.read(MaxBytesRead);
+        return file.read(maxBytesRead);
     });
 }
 
 std::optional<int> languageNumber(const QString& tag)
 {
-    if (tag.size() > MaxTagLength)
+    if (tag.size() > maxTagLength)
         return std::nullopt;
     const int number = VXLocaleLanguages::languageId({tag});
     // English stands for every language without a number, too.
-    if (number == SupplyDbSchema::FallbackLanguage && tag != EnglishTag)
+    if (number == SupplyDbSchema::fallbackLanguage && tag != EnglishTag)
         return std::nullopt;
     return number;
 }

@@ -9,9 +9,9 @@
 
 namespace {
 
-constexpr qsizetype MaxFileBytes = qsizetype{16} << 20;
-constexpr qsizetype MaxFieldLength = 4096;
-constexpr qsizetype MaxColumns = 64;
+constexpr qsizetype maxFileBytes = qsizetype{16} << 20;
+constexpr qsizetype maxFieldLength = 4096;
+constexpr qsizetype maxColumns = 64;
 
 QString lineFault(const QString& fileName, int line, const QString& reason)
 {
@@ -20,7 +20,7 @@ QString lineFault(const QString& fileName, int line, const QString& reason)
 
 QString decoded(const QString& fileName, const QByteArray& bytes)
 {
-    if (bytes.size() > MaxFileBytes)
+    if (bytes.size() > maxFileBytes)
         throw Fault(QStringLiteral("%1: larger than 16 MiB").arg(fileName));
     // Takes a byte order mark away; stateless, so that half a character at the end is an error.
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
@@ -93,8 +93,8 @@ private:
     {
         Row row{.line = m_line, .fields = {}};
         for (;;) {
-            if (row.fields.size() == MaxColumns)
-                throw fault(QStringLiteral("more than %1 columns").arg(MaxColumns));
+            if (row.fields.size() == maxColumns)
+                throw fault(QStringLiteral("more than %1 columns").arg(maxColumns));
             row.fields.append(readField());
             if (!skip(m_separator))
                 break;
@@ -112,8 +112,8 @@ private:
         while (m_position < m_text.size() && isBlank(m_text.at(m_position)))
             ++m_position;
         QString field = skip(u'"') ? readQuoted() : readPlain();
-        if (field.size() > MaxFieldLength)
-            throw fault(QStringLiteral("a field of more than %1 characters").arg(MaxFieldLength));
+        if (field.size() > maxFieldLength)
+            throw fault(QStringLiteral("a field of more than %1 characters").arg(maxFieldLength));
         if (field.contains(QChar::Null))
             throw fault(QStringLiteral("a NUL character"));
         return field.trimmed();

@@ -18,7 +18,7 @@ struct Rule
     const char* statement;
 };
 // clang-format off
-constexpr std::array Rules{
+constexpr std::array rules{
     Rule{"the panels of ribbon %1 are not numbered from 1 on",
          R"(SELECT r.sku FROM ribbon r LEFT JOIN ribbon_panel p ON p.ribbon_sku = r.sku
             GROUP BY r.sku HAVING count(p.panel) = 0 OR max(p.panel) <> count(p.panel))"},
@@ -69,7 +69,7 @@ DatabaseCounts DatabaseChecker::checkContent()
     checkSchema();
     if (const QString table = first(QStringLiteral("PRAGMA foreign_key_check")); !table.isNull())
         throw fault(QStringLiteral("a row of %1 refers to nothing").arg(table));
-    for (const Rule& rule : Rules) {
+    for (const Rule& rule : rules) {
         const QString subject = first(QString::fromLatin1(rule.statement));
         if (!subject.isNull())
             throw fault(QString::fromLatin1(rule.found).arg(subject));
@@ -102,7 +102,7 @@ void DatabaseChecker::checkSchema()
     found.sort();
     if (found != wanted)
         throw fault(QStringLiteral("its tables are not those of schema version %1")
-                        .arg(SupplyDbSchema::Version));
+                        .arg(SupplyDbSchema::schemaVersion));
 }
 
 QSqlQuery& DatabaseChecker::run(const QString& statement)

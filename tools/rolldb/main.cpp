@@ -16,8 +16,8 @@
 
 namespace {
 
-constexpr int Failed = 1;
-constexpr int WrongUsage = 2;
+constexpr int exitFailed = 1;
+constexpr int exitWrongUsage = 2;
 
 constexpr const char* Usage = R"(Usage: rolldb build DIRECTORY FILE
        rolldb check FILE
@@ -70,7 +70,7 @@ int run(StandardOutput& output)
 {
     const auto wrongUsage = [&output](const QString& what) {
         output.complain(QStringLiteral("%1 (see rolldb --help)").arg(what));
-        return WrongUsage;
+        return exitWrongUsage;
     };
     const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
     const QCommandLineOption languageOption(QStringLiteral("language"), {}, QStringLiteral("TAG"));
@@ -106,7 +106,7 @@ int run(StandardOutput& output)
         output.write(verb->run(arguments, *language));
     } catch (const Fault& fault) {
         output.complain(fault.message());
-        return Failed;
+        return exitFailed;
     }
     return 0;
 }

@@ -25,7 +25,7 @@ struct Service
     int serverType;
 };
 
-constexpr std::array Services = {Service{"supplyd", 0}, Service{"m4", 1}, Service{"printqd", 2}};
+constexpr std::array services = {Service{"supplyd", 0}, Service{"m4", 1}, Service{"printqd", 2}};
 
 void print(const QString& line)
 {
@@ -66,7 +66,7 @@ std::optional<QString> serverName(const QString& service)
         return std::nullopt;
     const QString wanted = match.captured(QStringLiteral("service"));
     const QString process = match.captured(QStringLiteral("process"));
-    for (const Service& each : Services) {
+    for (const Service& each : services) {
         if (wanted == QLatin1String(each.name))
             return Prefix + QString::number(each.serverType) + process;
     }
@@ -79,7 +79,7 @@ std::optional<QString> serverName(const QString& service)
 QString serviceOf(const QString& server)
 {
     const QString number = server.mid(Prefix.size()).section(QLatin1Char('-'), 0, 0);
-    for (const Service& each : Services) {
+    for (const Service& each : services) {
         if (number == QString::number(each.serverType))
             return QString::fromLatin1(each.name);
     }
