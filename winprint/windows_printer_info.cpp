@@ -3,8 +3,8 @@
 #include "windows_printer_info.h"
 
 #include "device_serial_numbers.h"
-#include "log_lines.h"
 #include "printer_enumeration.h"
+#include "printer_info_log_lines.h"
 #include "printer_serial_file.h"
 #include "spooler_block.h"
 #include "wide_text.h"
