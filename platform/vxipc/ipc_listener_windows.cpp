@@ -137,6 +137,9 @@ protected:
 
 private:
     OwnedHandle newPipe(DWORD flags = 0) const;
+    /// To be called after an end began to wait. Windows resets the event then, also when the client
+    /// of another end had just set it.
+    void lookAgain() { SetEvent(m_event.get()); }
     bool isUsers(HANDLE pipe) const;
 
     QString m_path;
@@ -176,6 +179,7 @@ IpcListener::Outcome PipeListener::listen(const QString& name, QDeadlineTimer /*
         m_ends.back()->wait(std::move(pipe), m_event.get());
         pipe = newPipe();
     }
+    lookAgain();
     m_notifier = std::make_unique<QWinEventNotifier>(m_event.get(), this);
     connect(m_notifier.get(), &QWinEventNotifier::activated, this, [this] { letIn(); });
     return Outcome::Listening;
@@ -196,25 +200,32 @@ void PipeListener::letIn()
 {
     // Before the ends are looked at: one that is looked at too early sets it again.
     ResetEvent(m_event.get());
+    bool didBeginToWait = false;
     for (const std::unique_ptr<PipeEnd>& end : m_ends) {
         const PipeEnd::State state = end->state();
         if (state == PipeEnd::State::Waiting)
             continue;
         if (state == PipeEnd::State::Idle || !isUsers(end->handle())) {
             end->sendAway(m_event.get());
+            didBeginToWait = true;
             continue;
         }
         // First, as the name is lost with the last end. Until one can be made, the client waits.
         OwnedHandle next = newPipe();
         if (!next) {
+            // All ends are looked at again after the pause.
             pause(m_path, errorText(GetLastError()));
+            didBeginToWait = false;
             break;
         }
         OwnedHandle client = end->release();
         end->wait(std::move(next), m_event.get());
+        didBeginToWait = true;
         if (accept(reinterpret_cast<qintptr>(client.get())))
             client.release();
     }
+    if (didBeginToWait)
+        lookAgain();
     Q_EMIT newClient();
 }
 

@@ -199,6 +199,7 @@ private Q_SLOTS:
 
     void isPublishedWhenTheEventLoopRuns();
     void isPublishedOnItsThread();
+    void servesWhoComesAsItIsPublished();
     void addsTheProcessIdToATakenName();
     void addsTheProcessIdWhenAnotherProcessHoldsTheName();
     void leavesTheNameToAProcessThatIsStopped();
@@ -819,6 +820,28 @@ void tst_VXIPCServer::isPublishedOnItsThread()
     QTRY_VERIFY(RawClient(name).isConnected());
     RawClient client(name);
     QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+}
+
+void tst_VXIPCServer::servesWhoComesAsItIsPublished()
+{
+    for (int round = 0; round < 60; ++round) {
+        QThread thread;
+        const int serverType = newServerType();
+        auto* service = new TestService(serverType);
+        service->moveToThread(&thread);
+        connect(&thread, &QThread::finished, service, &QObject::deleteLater);
+        thread.start();
+        const auto end = qScopeGuard([&] {
+            thread.quit();
+            thread.wait();
+        });
+        // The first client that gets in at all comes while the endpoint prepares for the next ones.
+        const QString name = QStringLiteral("vxipc-%1").arg(serverType);
+        while (!RawClient(name).isConnected())
+            QThread::yieldCurrentThread();
+        RawClient client(name);
+        QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    }
 }
 
 void tst_VXIPCServer::addsTheProcessIdToATakenName()
