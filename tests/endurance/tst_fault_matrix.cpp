@@ -14,6 +14,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QMutex>
+#include <QtCore/QWaitCondition>
 
 #include <algorithm>
 #include <array>
@@ -172,6 +173,14 @@ public:
         const QMutexLocker guard(&m_mutex);
         return m_failure;
     }
+    bool waitUntilFailed()
+    {
+        const QMutexLocker guard(&m_mutex);
+        const QDeadlineTimer limit(patience);
+        while (!m_failure && !limit.hasExpired())
+            m_failed.wait(&m_mutex, limit);
+        return m_failure.has_value();
+    }
 
 private:
     void see(const Call& call)
@@ -195,11 +204,13 @@ private:
             failure.printer = m_printers.value(call.thread);
         }
         m_failure = failure;
+        m_failed.wakeAll();
     }
 
     virtualwindows::Machine& m_machine;
     const Qt::HANDLE m_host;
     mutable QMutex m_mutex;
+    QWaitCondition m_failed;
     Phase m_phase = Phase::Start;
     QHash<Qt::HANDLE, QString> m_printers;
     std::optional<Failure> m_failure;
@@ -326,8 +337,13 @@ FaultMatrixTest::Run FaultMatrixTest::begin(const QString& function, int nth)
     if (nth > 0)
         machine().failCall(function, nth, plausibleError(function));
     run.controller = std::make_unique<PrinterStatusController>();
-    if (nth > 0 && function == QLatin1String("CreateEventW"))
+    if (nth > 0 && function == QLatin1String("CreateEventW")) {
         run.deadThreads = 1;
+        // It is not among those that are waited for below: they may all wait before it has read its
+        // printer.
+        run.check(run.observer->waitUntilFailed(),
+                  QStringLiteral("no thread asked for its stop event"));
+    }
     settle(run, "the start");
     return run;
 }

@@ -6,6 +6,8 @@ import select
 import signal
 import subprocess
 import sys
+import tempfile
+import time
 import unittest
 
 RUNNER = sys.argv.pop(1)
@@ -19,14 +21,14 @@ def run(program, *, idle=FAR, work=FAR):
         stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
 
 
-def runs(process_id):
+def wait_for_end(process_id):
+    """Waits for ever if the process goes on, which ends this one."""
     try:
-        os.kill(process_id, 0)
+        process = os.pidfd_open(process_id)
     except ProcessLookupError:
-        return False
-    # One that has ended and that nobody has asked about is there by name only.
-    with open(f"/proc/{process_id}/stat", encoding="utf-8") as file:
-        return file.read().rpartition(")")[2].split()[0] != "Z"
+        return
+    select.select([process], [], [])
+    os.close(process)
 
 
 class RunUntilSilent(unittest.TestCase):
@@ -65,19 +67,45 @@ class RunUntilSilent(unittest.TestCase):
                    "print('done')", idle="2")
         self.assertEqual((done.stdout, done.returncode), ("done\n", 0))
 
+    def test_leaves_what_the_system_holds_up_alone(self):
+        # Whoever starts a program is held up until it runs, and this one first waits for a writer.
+        with tempfile.TemporaryDirectory() as folder:
+            pipe = os.path.join(folder, "pipe")
+            os.mkfifo(pipe)
+            program = ("import os\n"
+                       f"opening = (os.POSIX_SPAWN_OPEN, 3, {pipe!r}, os.O_RDONLY, 0)\n"
+                       "os.waitpid(os.posix_spawn('/bin/true', ['true'], {}, file_actions=[opening]), 0)\n"
+                       "print('done')")
+            with subprocess.Popen([RUNNER, "--idle", "1", sys.executable, "-c", program],
+                                  stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True) as runner:
+                time.sleep(3)
+                while runner.poll() is None:
+                    try:
+                        os.close(os.open(pipe, os.O_WRONLY | os.O_NONBLOCK))
+                    except OSError:
+                        time.sleep(0.1)  # nobody has opened it yet
+                self.assertEqual((runner.stdout.read(), runner.returncode), ("done\n", 0))
+
     def test_counts_the_work_since_the_last_word_only(self):
-        done = run("import time\nfor i in range(8):\n"
-                   "    end = time.process_time() + 0.5\n"
-                   "    while time.process_time() < end: pass\n"
-                   "    print(i, flush=True)", work="3")
-        self.assertEqual((done.returncode, len(done.stdout.split())), (0, 8))
+        # The runner stands still for a while, as on a busy machine, and finds words and work at once.
+        done = run("import os, signal, time\n"
+                   "def work():\n"
+                   "    for i in range(8):\n"
+                   "        end = time.process_time() + 0.2\n"
+                   "        while time.process_time() < end: pass\n"
+                   "        print(i, flush=True)\n"
+                   "os.kill(os.getppid(), signal.SIGSTOP)\n"
+                   "work()\n"
+                   "os.kill(os.getppid(), signal.SIGCONT)\n"
+                   "work()", work="1")
+        self.assertEqual((done.returncode, len(done.stdout.split())), (0, 16))
 
     def test_does_not_wait_for_what_the_test_left_running(self):
         sleeper = "import time; time.sleep(3600)"
         done = run("import subprocess, sys\n"
                    f"print(subprocess.Popen([sys.executable, '-c', {sleeper!r}]).pid)")
         self.assertEqual(done.returncode, 0)
-        self.assertFalse(runs(int(done.stdout)))
+        wait_for_end(int(done.stdout))
 
     def test_takes_the_test_with_it(self):
         for number in (signal.SIGTERM, signal.SIGKILL):
@@ -85,11 +113,9 @@ class RunUntilSilent(unittest.TestCase):
                     [RUNNER, sys.executable, "-c",
                      "import os, time; print(os.getpid(), flush=True); time.sleep(3600)"],
                     stdout=subprocess.PIPE, text=True) as runner:
-                test = os.pidfd_open(int(runner.stdout.readline()))
+                test = int(runner.stdout.readline())
                 runner.send_signal(number)
-                # Waits for ever if the test goes on, which ends this one.
-                select.select([test], [], [])
-                os.close(test)
+                wait_for_end(test)
 
     def test_says_what_cannot_be_started(self):
         done = subprocess.run([RUNNER, "no/such/program"], stdout=subprocess.PIPE,
