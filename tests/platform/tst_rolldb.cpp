@@ -68,12 +68,12 @@ bool runOn(const QString& path, const QByteArray& statement)
 /// All that a bitmap's file says of its size, and no pixels.
 QByteArray bitmapHeader(qint32 width, qint32 height)
 {
-    constexpr quint32 HeaderSize = 54;
+    constexpr quint32 headerSize = 54;
     constexpr quint32 infoSize = 40;
     QByteArray header;
     QDataStream stream(&header, QIODevice::WriteOnly);
     stream.setByteOrder(QDataStream::LittleEndian);
-    stream << quint8{'B'} << quint8{'M'} << HeaderSize << quint32{0} << HeaderSize << infoSize
+    stream << quint8{'B'} << quint8{'M'} << headerSize << quint32{0} << headerSize << infoSize
            << width << height << quint16{1} << quint16{24};
     for (int i = 0; i < 6; ++i)
         stream << quint32{0};

@@ -531,7 +531,7 @@ void tst_VXIPCSockets::findsNobodyInAFolderThatIsNotThere()
 
 void tst_VXIPCSockets::waitsForAConnectionNoLongerThanForTheAnswer()
 {
-    constexpr int Calls = 30;
+    constexpr int calls = 30;
     const int serverType = newServerType();
     const QString path = VXIPCClient::address(nameOf(serverType));
     const PlainSocket busy;
@@ -545,12 +545,12 @@ void tst_VXIPCSockets::waitsForAConnectionNoLongerThanForTheAnswer()
     VXIPCClient client(serverType);
     QElapsedTimer timer;
     timer.start();
-    for (int i = 0; i < Calls; ++i) {
+    for (int i = 0; i < calls; ++i) {
         const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"), {}, 1ms);
         QCOMPARE(reply.error->code, int(VXIPCError::NotReachable));
     }
     // A second for each, which a connection may take otherwise, would be three times that.
-    QVERIFY2(timer.elapsed() < Calls * 1000 / 3, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < calls * 1000 / 3, qPrintable(QString::number(timer.elapsed())));
 }
 
 QTEST_GUILESS_MAIN(tst_VXIPCSockets)
