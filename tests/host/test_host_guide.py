@@ -48,7 +48,8 @@ class HostGuide(unittest.TestCase):
 
     def test_names_every_log_line(self):
         guide = GUIDE.read_text()
-        header = (ROOT / "status/log_lines.h").read_text()
+        headers = ("status/log_lines.h", "winprint/printer_info_log_lines.h")
+        header = "".join((ROOT / name).read_text() for name in headers)
         files = dict(re.findall(r'constexpr char (\w+)\[\] = "(\w+)";', header))
         places = re.findall(r"constexpr LogLine \w+\{\s*(\w+),\s*(\d+),([^}]*)\}", header)
         self.assertGreater(len(places), 14)
