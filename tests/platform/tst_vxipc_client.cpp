@@ -101,6 +101,7 @@ private Q_SLOTS:
     void answersLaterThanTheCall();
     void keepsManyCallsInFlight();
     void tellsLateCallsInTheirOrder();
+    void givesUpEachCallInItsTime();
     void keepsOthersOutcomesWhileItWaits();
     void waitsWithinACallback();
     void mayBeDestroyedInACallback();
@@ -321,6 +322,21 @@ void tst_VXIPCClient::tellsLateCallsInTheirOrder()
     QTRY_COMPARE(order.size(), 3);
     QCOMPARE(order, (QStringList{QStringLiteral("first 3"), QStringLiteral("second 3"),
                                  QStringLiteral("third answered")}));
+}
+
+void tst_VXIPCClient::givesUpEachCallInItsTime()
+{
+    const QString name = QStringLiteral("vxipc-%1").arg(newServerType());
+    const OddServer silent(name, {});
+    VXIPCClient client(name);
+    client.setTimeout(20ms);
+    for (int call = 1; call <= 3; ++call) {
+        int error = 0;
+        client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& outcome) {
+            error = outcome.isOk() ? 0 : outcome.error->code;
+        });
+        QTRY_COMPARE(error, int(VXIPCError::TimedOut));
+    }
 }
 
 void tst_VXIPCClient::keepsOthersOutcomesWhileItWaits()

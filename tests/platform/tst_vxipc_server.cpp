@@ -216,6 +216,7 @@ private Q_SLOTS:
     void countsTheValuesOfALine_data();
     void countsTheValuesOfALine();
     void refusesTheClientThatIsOneTooMany();
+    void takesAClientInThePlaceOfOneThatLeft();
     void refusesAnAnswerThatIsTooLong();
     void closesAClientThatTakesNoAnswers();
     void closesAClientWhoseBatchAsksForTooMuch();
@@ -225,8 +226,10 @@ private Q_SLOTS:
     void doesWhatAClientSentBeforeItLeft();
     void servesOthersDuringALongBatch();
     void takesCallsDuringACall();
+    void goesOnWithOthersDuringACall();
     void readsNoMoreThanItWorksOn();
     void letsTheClientGoThatWasSilentLongest();
+    void letsAnotherClientGoForEachThatComes();
     void letsNoClientGoThatWaitsForAnAnswer();
     void mayBeDestroyedByACall();
     void mayBeDestroyedWithLongLinesInWork();
@@ -479,6 +482,8 @@ void tst_VXIPCServer::refusesArgumentsBeyondTheirBounds_data()
         "expected a list of at most 64 entries, got 65");
     row("text in an object in a list", "listEcho", R"([{"k":)" + text + "}]", longText);
     row("lists of lists", "listEcho", list(64, list(64, "1")),
+        "expected at most 1024 values, nested ones included, got 1025");
+    row("one value too many", "listEcho", '[' + entries(31, list(32, "1")) + ",1]",
         "expected at most 1024 values, nested ones included, got 1025");
     row("object", "hashEcho", objectOfSize(65), "expected an object of at most 64 members, got 65");
     row("long name in an object", "mapEcho", '{' + text + ":1}", longText);
@@ -1113,6 +1118,22 @@ void tst_VXIPCServer::refusesTheClientThatIsOneTooMany()
     }));
 }
 
+void tst_VXIPCServer::takesAClientInThePlaceOfOneThatLeft()
+{
+    std::vector<std::unique_ptr<RawClient>> clients;
+    for (int i = 0; i < 64; ++i) {
+        clients.push_back(std::make_unique<RawClient>(serverName()));
+        QCOMPARE(clients.back()->call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    }
+    // It is connected for a while yet, but takes nobody's place.
+    RawClient refused(serverName());
+    QCOMPARE(errorCode(refused.call("scale", "[1]")), -32001);
+    clients.pop_back();
+    QTRY_VERIFY(m_service->findChildren<IpcConnection*>().size() <= 64);
+    RawClient next(serverName());
+    QCOMPARE(next.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+}
+
 void tst_VXIPCServer::refusesAnAnswerThatIsTooLong()
 {
     RawClient client(serverName());
@@ -1240,6 +1261,28 @@ void tst_VXIPCServer::takesCallsDuringACall()
     QCOMPARE(object(waiting.receive())[QStringLiteral("id")].toString(), QStringLiteral("n"));
 }
 
+void tst_VXIPCServer::goesOnWithOthersDuringACall()
+{
+    HostProcess host(newServerType());
+    RawClient other(host.serverName());
+    RawClient waiting(host.serverName());
+    RawClient watching(host.serverName());
+    // Each of these calls takes more than a client's turn, so that both batches wait for the next
+    // one again and again, and the other's does when the call begins.
+    const QByteArray slow = R"({"jsonrpc":"2.0","method":"block","params":[1]},)";
+    other.send(R"([{"jsonrpc":"2.0","method":"note","params":["begun"]},)" + slow.repeated(500) +
+               R"({"jsonrpc":"2.0","id":"r","method":"release"}])"
+               "\n");
+    other.socket().flush();
+    QTRY_VERIFY(!watching.call("notes")[QStringLiteral("result")].toArray().isEmpty());
+    waiting.send('[' + slow.repeated(20) +
+                 R"({"jsonrpc":"2.0","id":"w","method":"wait"}])"
+                 "\n");
+    QCOMPARE(parsed(waiting.receive())[0][QStringLiteral("result")].toString(),
+             QStringLiteral("waited"));
+    QCOMPARE(parsed(other.receive())[0][QStringLiteral("id")].toString(), QStringLiteral("r"));
+}
+
 void tst_VXIPCServer::readsNoMoreThanItWorksOn()
 {
     HostProcess host(newServerType());
@@ -1284,6 +1327,22 @@ void tst_VXIPCServer::letsTheClientGoThatWasSilentLongest()
     clients.erase(clients.begin() + 1);
     for (const auto& client : clients)
         QVERIFY(asks(*client));
+}
+
+void tst_VXIPCServer::letsAnotherClientGoForEachThatComes()
+{
+    m_service->findChild<IpcPublisher*>()->setPatience(0ms);
+    std::vector<std::unique_ptr<RawClient>> clients;
+    for (int i = 0; i < 64; ++i) {
+        clients.push_back(std::make_unique<RawClient>(serverName()));
+        QCOMPARE(clients.back()->call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    }
+    RawClient first(serverName());
+    QCOMPARE(first.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    RawClient second(serverName());
+    QCOMPARE(second.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    QCOMPARE(errorCode(object(clients[0]->receive())), -32001);
+    QCOMPARE(errorCode(object(clients[1]->receive())), -32001);
 }
 
 void tst_VXIPCServer::letsNoClientGoThatWaitsForAnAnswer()
