@@ -84,6 +84,13 @@ constexpr Scenario scenarios[]{
          record(Logger::Debug, "network", QStringLiteral("first"));
          record(Logger::Debug, "network", QStringLiteral("second"));
      }},
+    {"a linked category with an appender of its own",
+     [] {
+         Logger::globalInstance()->registerCategoryAppender(QStringLiteral("network"),
+                                                            new Recorder);
+         Logger::globalInstance()->logToGlobalInstance(QStringLiteral("network"), true);
+         record(Logger::Debug, "network", QStringLiteral("the record"));
+     }},
     {"Qt's messages",
      [] {
          auto* recorder = new Recorder;
@@ -152,6 +159,7 @@ private Q_SLOTS:
     void recordsWithoutAnAppenderGoToStandardError();
     void recordsBelowTheLevelGoNowhere();
     void categoriesWithoutAnAppenderGoToStandardError();
+    void linkedCategoriesWithAnAppenderDoNot();
     void messagesOfQtAreRecords();
     void fatalRecordsEndTheProcess();
     void appendersEndWithTheApplication();
@@ -400,6 +408,13 @@ void CuteLoggerTest::categoriesWithoutAnAppenderGoToStandardError()
     QVERIFY2(lines.at(0).contains("network"), ending.errors.constData());
     QVERIFY2(lines.at(1).contains("first"), ending.errors.constData());
     QVERIFY2(lines.at(2).contains("second"), ending.errors.constData());
+}
+
+void CuteLoggerTest::linkedCategoriesWithAnAppenderDoNot()
+{
+    const Ending ending = endingOf("a linked category with an appender of its own");
+    QVERIFY(ending.isNormal);
+    QVERIFY2(!ending.errors.contains("the record"), ending.errors.constData());
 }
 
 void CuteLoggerTest::messagesOfQtAreRecords()
