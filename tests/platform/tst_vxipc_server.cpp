@@ -217,6 +217,8 @@ private Q_SLOTS:
     void countsTheValuesOfALine();
     void refusesTheClientThatIsOneTooMany();
     void takesAClientInThePlaceOfOneThatLeft();
+    void carriesOutNothingForARefusedClient();
+    void sendsAnAnswerOfTheGreatestLength();
     void refusesAnAnswerThatIsTooLong();
     void closesAClientThatTakesNoAnswers();
     void closesAClientWhoseBatchAsksForTooMuch();
@@ -281,6 +283,7 @@ void tst_VXIPCServer::carriesValues_data()
     row("int written as a fraction", "scale", "[3.0,1e1]", "30");
     row("greatest uint", "unsignedEcho", "[4294967295]", "4294967295");
     row("wide", "wideEcho", "[-9007199254740991]", "-9007199254740991");
+    row("one beyond a double's reach", "wideEcho", "[9007199254740992]", R"("9007199254740992")");
     row("wide as text", "wideEcho", R"(["-5"])", "-5");
     row("greatest wide", "wideEcho", "[9223372036854775807]", R"("9223372036854775807")");
     row("least wide as text", "wideEcho", R"(["-9223372036854775808"])",
@@ -539,6 +542,10 @@ void tst_VXIPCServer::repeatsNoLongNameInAnError()
              QStringLiteral("Invalid params: there is no argument \"%1…\"").arg(start));
     QCOMPARE(noArgument[QStringLiteral("error")][QStringLiteral("data")],
              QJsonValue(QJsonObject{{QStringLiteral("argument"), start + QStringLiteral("…")}}));
+    // The hundredth character takes two code units, of which there is room for one.
+    const QJsonObject pair = client.call(QByteArray(99, 'n') + "😀😀");
+    QCOMPARE(errorMessage(pair),
+             QStringLiteral("Method not found: %1…").arg(QString(99, QLatin1Char('n'))));
 }
 
 void tst_VXIPCServer::refusesBadRequests_data()
@@ -1132,6 +1139,31 @@ void tst_VXIPCServer::takesAClientInThePlaceOfOneThatLeft()
     QTRY_VERIFY(m_service->findChildren<IpcConnection*>().size() <= 64);
     RawClient next(serverName());
     QCOMPARE(next.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+}
+
+void tst_VXIPCServer::carriesOutNothingForARefusedClient()
+{
+    std::vector<std::unique_ptr<RawClient>> clients;
+    for (int i = 0; i < 64; ++i) {
+        clients.push_back(std::make_unique<RawClient>(serverName()));
+        QCOMPARE(clients.back()->call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    }
+    RawClient refused(serverName());
+    QCOMPARE(errorCode(object(refused.receive())), -32001);
+    refused.send(R"({"jsonrpc":"2.0","method":"note","params":["never reached"]})"
+                 "\n");
+    QVERIFY(refused.waitForClose());
+    QCOMPARE(m_service->log, QStringList());
+}
+
+void tst_VXIPCServer::sendsAnAnswerOfTheGreatestLength()
+{
+    RawClient client(serverName());
+    // Base64 makes four of three bytes, and the identifier's digits fill up what is around it.
+    const QByteArray line =
+        client.exchange(R"({"jsonrpc":"2.0","id":1000,"method":"zeroes","params":[3145698]})");
+    QCOMPARE(line.size() + 1, 4 * mebibyte);
+    QVERIFY(object(line).contains(QStringLiteral("result")));
 }
 
 void tst_VXIPCServer::refusesAnAnswerThatIsTooLong()

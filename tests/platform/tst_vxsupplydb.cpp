@@ -8,12 +8,14 @@
 #include <supplydb_schema.h>
 #include <vxsupplydatabase.h>
 
+#include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QRandomGenerator>
 #include <QtCore/QSemaphore>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QtEndian>
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlError>
 #include <QtSql/QSqlQuery>
@@ -855,6 +857,7 @@ private Q_SLOTS:
 
         QTest::newRow("small pages") << 512 << 1 << 1200;
         QTest::newRow("usual pages") << 4096 << 3900 << 4200;
+        QTest::newRow("the largest pages") << 65536 << 65480 << 65520;
     }
     void readsRowsOfEachLength()
     {
@@ -1237,6 +1240,17 @@ private Q_SLOTS:
         QVERIFY(other.run("UPDATE name SET english = 'new'"));
         QCOMPARE(answer(2), QStringLiteral("Red"));
         QCOMPARE(answer(1), QStringLiteral("new"));
+    }
+
+    void answersAFailureWithNoOtherKeysAnswer()
+    {
+        const Other other(path());
+        KeptQuery<int, QString> query(QStringLiteral("SELECT english FROM name WHERE id = ?"),
+                                      readText, 4, [](const QString& text) { return text.size(); });
+        // Too large to be kept.
+        QCOMPARE(query.answer(other.database(), 1, 1), QStringLiteral("White"));
+        QVERIFY(other.run("ALTER TABLE name RENAME TO former_name"));
+        QCOMPARE(query.answer(other.database(), 2, 2), QString());
     }
 
     void doesNotKeepHalfAnAnswer()

@@ -91,6 +91,29 @@ constexpr Scenario scenarios[]{
          Logger::globalInstance()->logToGlobalInstance(QStringLiteral("network"), true);
          record(Logger::Debug, "network", QStringLiteral("the record"));
      }},
+    {"two applications",
+     [] {
+         for (const bool isLinked : {true, false}) {
+             int argc = 1;
+             char name[] = "tst_cutelogger";
+             char* argv[] = {name, nullptr};
+             const QCoreApplication application(argc, argv);
+             auto* recorder = new Recorder;
+             Logger::globalInstance()->registerAppender(recorder);
+             if (isLinked)
+                 Logger::globalInstance()->logToGlobalInstance(QStringLiteral("network"), true);
+             record(Logger::Debug, "network", QStringLiteral("message"));
+             std::fprintf(stderr, "%d records\n", int(recorder->records.size()));
+         }
+     }},
+    {"two files that cannot be written",
+     [] {
+         auto* appender = new FileAppender(QStringLiteral("/no/such/first.log"));
+         Logger::globalInstance()->registerAppender(appender);
+         record(Logger::Debug, nullptr, QStringLiteral("message"));
+         appender->setFileName(QStringLiteral("/no/such/second.log"));
+         record(Logger::Debug, nullptr, QStringLiteral("message"));
+     }},
     {"Qt's messages",
      [] {
          auto* recorder = new Recorder;
@@ -163,6 +186,8 @@ private Q_SLOTS:
     void messagesOfQtAreRecords();
     void fatalRecordsEndTheProcess();
     void appendersEndWithTheApplication();
+    void linksEndWithTheApplication();
+    void eachFileThatCannotBeWrittenIsNamed();
 
 private:
     static CuteMessageLogger at(Logger& logger, Logger::LogLevel level = Logger::Debug)
@@ -438,6 +463,25 @@ void CuteLoggerTest::appendersEndWithTheApplication()
     QVERIFY(ending.isNormal);
     QVERIFY2(!ending.errors.contains("in time"), ending.errors.constData());
     QVERIFY2(ending.errors.contains("too late"), ending.errors.constData());
+}
+
+void CuteLoggerTest::linksEndWithTheApplication()
+{
+#ifndef VX_STAND_IN
+    QSKIP("Nothing is promised of the original's links");
+#endif
+    const Ending ending = endingOf("two applications");
+    QVERIFY(ending.isNormal);
+    QVERIFY2(ending.errors.startsWith("1 records\n"), ending.errors.constData());
+    QVERIFY2(ending.errors.endsWith("0 records\n"), ending.errors.constData());
+}
+
+void CuteLoggerTest::eachFileThatCannotBeWrittenIsNamed()
+{
+    const Ending ending = endingOf("two files that cannot be written");
+    QVERIFY(ending.isNormal);
+    QVERIFY2(ending.errors.contains("first.log"), ending.errors.constData());
+    QVERIFY2(ending.errors.contains("second.log"), ending.errors.constData());
 }
 
 int main(int argc, char* argv[])
