@@ -400,9 +400,9 @@ void FleetTest::messageIsOneShortLine_data()
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("message"); // its beginning
 
-    const QByteArray hostile = R"(a\n\r\t\u0000\u001b]\u0085\u2028\u202e\udb40\udc01)";
+    const QByteArray hostile = R"(a\n\r\t\u0000\u001b]\u0085\u2028\u2029\u202e\udb40\udc01)";
     const QString shown =
-        QStringLiteral(R"(a\u000a\u000d\u0009\u0000\u001b]\u0085\u2028\u202e\udb40\udc01)");
+        QStringLiteral(R"(a\u000a\u000d\u0009\u0000\u001b]\u0085\u2028\u2029\u202e\udb40\udc01)");
     const QByteArray longOne(100'000, 'x');
     const QString shortOne = QString(80, QLatin1Char('x')) + QStringLiteral("…");
     const auto row = [](const char* title, const QByteArray& text, const QString& message) {

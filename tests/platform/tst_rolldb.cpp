@@ -374,6 +374,15 @@ private Q_SLOTS:
         QTEST(faultOf([&catalogue] { catalogue.read(); }), "fault");
     }
 
+    void takesAsManyPanelsAsThereMayBe()
+    {
+        SmallCatalogue catalogue;
+        catalogue.replace("ribbons.csv", ",red black", ',' + QByteArray("red ").repeated(16));
+        catalogue.write(path());
+        const QString report = skuReport(path(), QStringLiteral("RIBBON-RK"), 0);
+        QCOMPARE(report.count(QStringLiteral("panel: ")), 16);
+    }
+
     void refusesMoreRowsThanAReaderTakes()
     {
         SmallCatalogue catalogue;

@@ -217,6 +217,9 @@ private Q_SLOTS:
     void countsTheValuesOfALine_data();
     void countsTheValuesOfALine();
     void refusesTheClientThatIsOneTooMany();
+    void takesAClientInThePlaceOfOneThatLeft();
+    void carriesOutNothingForARefusedClient();
+    void sendsAnAnswerOfTheGreatestLength();
     void refusesAnAnswerThatIsTooLong();
     void closesAClientThatTakesNoAnswers();
     void closesAClientWhoseBatchAsksForTooMuch();
@@ -226,8 +229,10 @@ private Q_SLOTS:
     void doesWhatAClientSentBeforeItLeft();
     void servesOthersDuringALongBatch();
     void takesCallsDuringACall();
+    void goesOnWithOthersDuringACall();
     void readsNoMoreThanItWorksOn();
     void letsTheClientGoThatWasSilentLongest();
+    void letsAnotherClientGoForEachThatComes();
     void letsNoClientGoThatWaitsForAnAnswer();
     void mayBeDestroyedByACall();
     void mayBeDestroyedWithLongLinesInWork();
@@ -279,6 +284,7 @@ void tst_VXIPCServer::carriesValues_data()
     row("int written as a fraction", "scale", "[3.0,1e1]", "30");
     row("greatest uint", "unsignedEcho", "[4294967295]", "4294967295");
     row("wide", "wideEcho", "[-9007199254740991]", "-9007199254740991");
+    row("one beyond a double's reach", "wideEcho", "[9007199254740992]", R"("9007199254740992")");
     row("wide as text", "wideEcho", R"(["-5"])", "-5");
     row("greatest wide", "wideEcho", "[9223372036854775807]", R"("9223372036854775807")");
     row("least wide as text", "wideEcho", R"(["-9223372036854775808"])",
@@ -481,6 +487,8 @@ void tst_VXIPCServer::refusesArgumentsBeyondTheirBounds_data()
     row("text in an object in a list", "listEcho", R"([{"k":)" + text + "}]", longText);
     row("lists of lists", "listEcho", list(64, list(64, "1")),
         "expected at most 1024 values, nested ones included, got 1025");
+    row("one value too many", "listEcho", '[' + entries(31, list(32, "1")) + ",1]",
+        "expected at most 1024 values, nested ones included, got 1025");
     row("object", "hashEcho", objectOfSize(65), "expected an object of at most 64 members, got 65");
     row("long name in an object", "mapEcho", '{' + text + ":1}", longText);
     row("record", "recordEcho", R"({"panels":)" + list(65, R"("x")") + '}',
@@ -535,6 +543,10 @@ void tst_VXIPCServer::repeatsNoLongNameInAnError()
              QStringLiteral("Invalid params: there is no argument \"%1…\"").arg(start));
     QCOMPARE(noArgument[QStringLiteral("error")][QStringLiteral("data")],
              QJsonValue(QJsonObject{{QStringLiteral("argument"), start + QStringLiteral("…")}}));
+    // The hundredth character takes two code units, of which there is room for one.
+    const QJsonObject pair = client.call(QByteArray(99, 'n') + "😀😀");
+    QCOMPARE(errorMessage(pair),
+             QStringLiteral("Method not found: %1…").arg(QString(99, QLatin1Char('n'))));
 }
 
 void tst_VXIPCServer::refusesBadRequests_data()
@@ -1136,6 +1148,47 @@ void tst_VXIPCServer::refusesTheClientThatIsOneTooMany()
     }));
 }
 
+void tst_VXIPCServer::takesAClientInThePlaceOfOneThatLeft()
+{
+    std::vector<std::unique_ptr<RawClient>> clients;
+    for (int i = 0; i < 64; ++i) {
+        clients.push_back(std::make_unique<RawClient>(serverName()));
+        QCOMPARE(clients.back()->call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    }
+    // It is connected for a while yet, but takes nobody's place.
+    RawClient refused(serverName());
+    QCOMPARE(errorCode(refused.call("scale", "[1]")), -32001);
+    clients.pop_back();
+    QTRY_VERIFY(m_service->findChildren<IpcConnection*>().size() <= 64);
+    RawClient next(serverName());
+    QCOMPARE(next.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+}
+
+void tst_VXIPCServer::carriesOutNothingForARefusedClient()
+{
+    std::vector<std::unique_ptr<RawClient>> clients;
+    for (int i = 0; i < 64; ++i) {
+        clients.push_back(std::make_unique<RawClient>(serverName()));
+        QCOMPARE(clients.back()->call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    }
+    RawClient refused(serverName());
+    QCOMPARE(errorCode(object(refused.receive())), -32001);
+    refused.send(R"({"jsonrpc":"2.0","method":"note","params":["never reached"]})"
+                 "\n");
+    QVERIFY(refused.waitForClose());
+    QCOMPARE(m_service->log, QStringList());
+}
+
+void tst_VXIPCServer::sendsAnAnswerOfTheGreatestLength()
+{
+    RawClient client(serverName());
+    // Base64 makes four of three bytes, and the identifier's digits fill up what is around it.
+    const QByteArray line =
+        client.exchange(R"({"jsonrpc":"2.0","id":1000,"method":"zeroes","params":[3145698]})");
+    QCOMPARE(line.size() + 1, 4 * mebibyte);
+    QVERIFY(object(line).contains(QStringLiteral("result")));
+}
+
 void tst_VXIPCServer::refusesAnAnswerThatIsTooLong()
 {
     RawClient client(serverName());
@@ -1263,6 +1316,28 @@ void tst_VXIPCServer::takesCallsDuringACall()
     QCOMPARE(object(waiting.receive())[QStringLiteral("id")].toString(), QStringLiteral("n"));
 }
 
+void tst_VXIPCServer::goesOnWithOthersDuringACall()
+{
+    HostProcess host(newServerType());
+    RawClient other(host.serverName());
+    RawClient waiting(host.serverName());
+    RawClient watching(host.serverName());
+    // Each of these calls takes more than a client's turn, so that both batches wait for the next
+    // one again and again, and the other's does when the call begins.
+    const QByteArray slow = R"({"jsonrpc":"2.0","method":"block","params":[1]},)";
+    other.send(R"([{"jsonrpc":"2.0","method":"note","params":["begun"]},)" + slow.repeated(500) +
+               R"({"jsonrpc":"2.0","id":"r","method":"release"}])"
+               "\n");
+    other.socket().flush();
+    QTRY_VERIFY(!watching.call("notes")[QStringLiteral("result")].toArray().isEmpty());
+    waiting.send('[' + slow.repeated(20) +
+                 R"({"jsonrpc":"2.0","id":"w","method":"wait"}])"
+                 "\n");
+    QCOMPARE(parsed(waiting.receive())[0][QStringLiteral("result")].toString(),
+             QStringLiteral("waited"));
+    QCOMPARE(parsed(other.receive())[0][QStringLiteral("id")].toString(), QStringLiteral("r"));
+}
+
 void tst_VXIPCServer::readsNoMoreThanItWorksOn()
 {
     HostProcess host(newServerType());
@@ -1307,6 +1382,22 @@ void tst_VXIPCServer::letsTheClientGoThatWasSilentLongest()
     clients.erase(clients.begin() + 1);
     for (const auto& client : clients)
         QVERIFY(asks(*client));
+}
+
+void tst_VXIPCServer::letsAnotherClientGoForEachThatComes()
+{
+    m_service->findChild<IpcPublisher*>()->setPatience(0ms);
+    std::vector<std::unique_ptr<RawClient>> clients;
+    for (int i = 0; i < 64; ++i) {
+        clients.push_back(std::make_unique<RawClient>(serverName()));
+        QCOMPARE(clients.back()->call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    }
+    RawClient first(serverName());
+    QCOMPARE(first.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    RawClient second(serverName());
+    QCOMPARE(second.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
+    QCOMPARE(errorCode(object(clients[0]->receive())), -32001);
+    QCOMPARE(errorCode(object(clients[1]->receive())), -32001);
 }
 
 void tst_VXIPCServer::letsNoClientGoThatWaitsForAnAnswer()

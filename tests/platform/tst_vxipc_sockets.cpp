@@ -2,11 +2,13 @@
 // Copyright The VxPrinterStatus authors
 //
 // How endpoints get their sockets and keep them, and which sockets clients believe.
+#include "ipc_name_lock.h"
 #include "ipc_raw_client.h"
 #include "ipc_test_service.h"
 #include "scoped_variable.h"
 #include "vxipcclient.h"
 
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFileInfo>
@@ -227,11 +229,14 @@ private Q_SLOTS:
     void isPublishedOnceThereAreDescriptors();
     void isPublishedOnceAnyNameIsAllowed();
     void isPublishedOnceAnyNameIsFree();
+    void isPublishedUnderTheLastOfItsNames();
     void isPublishedOnceItsFolderIsTheUsersAlone();
     void letsClientsInOnceThereAreDescriptors();
+    void tellsEachTimeThatItLetsNobodyIn();
     void takesNoNameWithoutItsLock();
     void takesNoNameWhoseLockIsNoFile_data();
     void takesNoNameWhoseLockIsNoFile();
+    void waitsForNoLockThatIsNoFile();
     void takesTheNameWhoseLockADeadProcessLeft();
     void leavesWhatIsNoSocket();
     void leavesTheSocketThatTookItsPlace();
@@ -322,6 +327,29 @@ void tst_VXIPCSockets::isPublishedOnceAnyNameIsFree()
     QTRY_COMPARE(service.serverName(), nameOf(serverType));
 }
 
+void tst_VXIPCSockets::isPublishedUnderTheLastOfItsNames()
+{
+    const QTemporaryDir folder;
+    const ScopedVariable runtime(runtimeFolder, folder.path());
+    const int serverType = newServerType();
+    const QDir names(folder.path());
+    QVERIFY(names.mkdir(nameOf(serverType)));
+    QVERIFY(names.mkdir(ownNameOf(serverType)));
+    for (int i = 2; i <= 15; ++i)
+        QVERIFY(names.mkdir(ownNameOf(serverType) + QLatin1Char('-') + QString::number(i)));
+
+    const Complaints complaints;
+    TestService service(serverType);
+    QCoreApplication::sendPostedEvents(&service);
+    QCOMPARE(service.serverName(), ownNameOf(serverType) + QStringLiteral("-16"));
+    QCOMPARE(complaints.size(), 0);
+    TestService next(serverType);
+    QCoreApplication::sendPostedEvents(&next);
+    QCOMPARE(next.serverName(), QString());
+    QVERIFY2(complaints.last().contains(QStringLiteral("the name and 16 more like it are taken")),
+             qPrintable(complaints.last()));
+}
+
 void tst_VXIPCSockets::isPublishedOnceItsFolderIsTheUsersAlone()
 {
     const QTemporaryDir folder;
@@ -363,6 +391,28 @@ void tst_VXIPCSockets::letsClientsInOnceThereAreDescriptors()
     QCOMPARE(answer, QByteArray("{\"id\":1,\"jsonrpc\":\"2.0\",\"result\":10}\n"));
     RawClient other(service.serverName());
     QCOMPARE(other.call("scale", "[2]")[QStringLiteral("result")].toInt(), 20);
+}
+
+void tst_VXIPCSockets::tellsEachTimeThatItLetsNobodyIn()
+{
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QString address = VXIPCClient::address(service.serverName());
+    for (int time = 1; time <= 2; ++time) {
+        const PlainSocket client;
+        const Complaints complaints;
+        {
+            const NoDescriptors noDescriptors;
+            QVERIFY(noDescriptors.areNone());
+            const Retries retries(service);
+            QVERIFY(client.connectTo(address));
+            QTRY_VERIFY(retries.count() >= 1);
+        }
+        QCOMPARE(complaints.size(), 1);
+        client.send("{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"scale\",\"params\":[1]}\n");
+        QByteArray answer;
+        QTRY_VERIFY(!(answer += client.received()).isEmpty());
+    }
 }
 
 void tst_VXIPCSockets::takesNoNameWithoutItsLock()
@@ -412,6 +462,16 @@ void tst_VXIPCSockets::takesNoNameWhoseLockIsNoFile()
     QTRY_COMPARE(service.serverName(), ownNameOf(serverType));
     struct stat entry = {};
     QCOMPARE(lstat(path.constData(), &entry), 0);
+}
+
+// It does not become one, so the time that a host may wait for another process is not spent.
+void tst_VXIPCSockets::waitsForNoLockThatIsNoFile()
+{
+    const QTemporaryDir folder;
+    const QByteArray path = QFile::encodeName(folder.filePath(QStringLiteral("name.lock")));
+    QCOMPARE(mkfifo(path.constData(), 0600), 0);
+    IpcNameLock lock(path);
+    QCOMPARE(lock.lock(QDeadlineTimer(QDeadlineTimer::Forever)), IpcNameLock::Outcome::Denied);
 }
 
 void tst_VXIPCSockets::takesTheNameWhoseLockADeadProcessLeft()

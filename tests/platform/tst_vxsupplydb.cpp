@@ -8,12 +8,14 @@
 #include <supplydb_schema.h>
 #include <vxsupplydatabase.h>
 
+#include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QRandomGenerator>
 #include <QtCore/QSemaphore>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QtEndian>
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlError>
 #include <QtSql/QSqlQuery>
@@ -683,6 +685,32 @@ private Q_SLOTS:
         QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
     }
 
+    void readsAFileOfTheGreatestSize()
+    {
+        QVERIFY(QFile::resize(path(), SupplyDbSchema::maxFileBytes));
+        QCOMPARE(faultOf(path()), QString());
+        m_database->setup(path(), Connection);
+        QCOMPARE(m_database->supplyColorName(Tape), QStringLiteral("White"));
+    }
+
+    // Files that one program makes of other tables may have the same header and the same size.
+    void aFileWithTheSameHeaderIsLookedAtAgain()
+    {
+        const QByteArray whole = readFile(path());
+        QByteArray damaged = whole;
+        constexpr qsizetype kindOfPage2 = 4096;
+        damaged[kindOfPage2] = 0;
+        // Long enough ago for what was found to be kept.
+        const QDateTime hourAgo = QDateTime::currentDateTime().addSecs(-3600);
+        QVERIFY(writeFileAt(path(), whole, hourAgo));
+        QCOMPARE(faultOf(path()), QString());
+        QVERIFY(writeFileAt(path(), damaged, hourAgo.addSecs(60)));
+        QCOMPARE(faultOf(path()),
+                 QStringLiteral("damaged: page 2 is of a kind that does not belong there"));
+        QVERIFY(writeFileAt(path(), whole, hourAgo.addSecs(120)));
+        QCOMPARE(faultOf(path()), QString());
+    }
+
     void rowsWithoutMeasureAreRefused_data()
     {
         QTest::addColumn<QByteArray>("change");
@@ -802,6 +830,54 @@ private Q_SLOTS:
         writeFile(sample, bytes);
         QVERIFY2(faultOf(sample).endsWith(QStringLiteral(" is used twice")),
                  qPrintable(faultOf(sample)));
+    }
+
+    // Pictures are not read when a file is opened, but their pages are counted.
+    void aPictureThatComesBackToItsPageIsRefused()
+    {
+        QVERIFY(Other(path()).run("UPDATE background SET image = zeroblob(262144)"));
+        QCOMPARE(faultOf(path()), QString());
+        QByteArray bytes = readFile(path());
+        constexpr qsizetype pageSize = 4096;
+        // The file ends with the picture's pages, each of which begins with the number of the next.
+        const qsizetype page = bytes.size() / pageSize - 2;
+        QByteArray number(4, '\0');
+        qToBigEndian(static_cast<quint32>(page), number.data());
+        bytes.replace((page - 1) * pageSize, number.size(), number);
+        writeFile(path(), bytes);
+        QCOMPARE(faultOf(path()), QStringLiteral("damaged: page %1 is used twice").arg(page));
+    }
+
+    // How much of a row is on its page, and how much behind it, is a matter of a byte.
+    void readsRowsOfEachLength_data()
+    {
+        QTest::addColumn<int>("pageSize");
+        QTest::addColumn<int>("least");
+        QTest::addColumn<int>("greatest");
+
+        QTest::newRow("small pages") << 512 << 1 << 1200;
+        QTest::newRow("usual pages") << 4096 << 3900 << 4200;
+        QTest::newRow("the largest pages") << 65536 << 65480 << 65520;
+    }
+    void readsRowsOfEachLength()
+    {
+        QFETCH(const int, pageSize);
+        QFETCH(const int, least);
+        QFETCH(const int, greatest);
+        {
+            const Other other(path());
+            const QByteArray size = "PRAGMA page_size = " + QByteArray::number(pageSize);
+            QVERIFY(other.run(size.constData()));
+            QVERIFY(other.run("VACUUM"));
+            // The names are an index of their own.
+            const QByteArray rows =
+                "WITH RECURSIVE n (i) AS (SELECT " + QByteArray::number(least) +
+                " UNION ALL SELECT i + 1 FROM n WHERE i < " + QByteArray::number(greatest) +
+                ") INSERT INTO background SELECT 1000 + i, printf('%0*d', 4 + i % 197, i), "
+                "zeroblob(i) FROM n";
+            QVERIFY(other.run(rows.constData()));
+        }
+        QCOMPARE(faultOf(path()), QString());
     }
 
     void aFileOfAnotherEncodingIsRefused()
@@ -961,6 +1037,28 @@ private Q_SLOTS:
         SleptTime::now += 1ms;
         QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
         QCOMPARE(SleptTime::now, 1200ms);
+    }
+
+    // Result codes of SQLite's, https://www.sqlite.org/rescode.html.
+    void knowsEachCodeOfALock_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<bool>("isLock");
+
+        QTest::newRow("SQLITE_BUSY") << 5 << true;
+        QTest::newRow("SQLITE_LOCKED") << 6 << true;
+        QTest::newRow("SQLITE_BUSY_RECOVERY") << 261 << true;
+        QTest::newRow("SQLITE_LOCKED_SHAREDCACHE") << 262 << true;
+        QTest::newRow("SQLITE_BUSY_TIMEOUT") << 773 << true;
+        QTest::newRow("SQLITE_ERROR") << 1 << false;
+        QTest::newRow("SQLITE_NOMEM") << 7 << false;
+        QTest::newRow("SQLITE_IOERR_READ") << 266 << false;
+    }
+    void knowsEachCodeOfALock()
+    {
+        QFETCH(const int, code);
+        const QSqlError error({}, {}, QSqlError::StatementError, QString::number(code));
+        QTEST(LockPatience::isLocked(error), "isLock");
     }
 
     // The file is free again long after all questions are answered: whoever waits for it to the end
@@ -1144,6 +1242,17 @@ private Q_SLOTS:
         QCOMPARE(answer(1), QStringLiteral("new"));
     }
 
+    void answersAFailureWithNoOtherKeysAnswer()
+    {
+        const Other other(path());
+        KeptQuery<int, QString> query(QStringLiteral("SELECT english FROM name WHERE id = ?"),
+                                      readText, 4, [](const QString& text) { return text.size(); });
+        // Too large to be kept.
+        QCOMPARE(query.answer(other.database(), 1, 1), QStringLiteral("White"));
+        QVERIFY(other.run("ALTER TABLE name RENAME TO former_name"));
+        QCOMPARE(query.answer(other.database(), 2, 2), QString());
+    }
+
     void doesNotKeepHalfAnAnswer()
     {
         const Other other(path());
@@ -1192,6 +1301,13 @@ private:
     {
         QFile file(name);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    static bool writeFileAt(const QString& name, const QByteArray& content, const QDateTime& time)
+    {
+        writeFile(name, content);
+        QFile file(name);
+        return file.open(QIODevice::ReadWrite) &&
+               file.setFileTime(time, QFileDevice::FileModificationTime);
     }
     static void writeFile(const QString& name, const QByteArray& content)
     {

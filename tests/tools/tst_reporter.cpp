@@ -36,7 +36,9 @@ class ReporterTest : public MachineTest
 private Q_SLOTS:
     void recordsAreLookedAtOnceForAllThatIsQueued();
     void everyChangeIsTold();
+    void laterChangesAreToldAsTheyCome();
     void whatIsNotYetToldIsToldAtTheEnd();
+    void whatHappenedBeforeAStoryIsToldBeforeIt();
     void jsonOfWhatDidNotChangeIsKept();
     void recordsThatDifferInAnyPropertyAreNotTheSame();
     void noReportIsDeliveredAfterTheEnd();
@@ -114,6 +116,24 @@ void ReporterTest::everyChangeIsTold()
     }
 }
 
+void ReporterTest::laterChangesAreToldAsTheyCome()
+{
+    StandardOutput stream("test", m_file.get());
+    Output output(stream);
+    PrinterStatusController controller;
+    Reporter reporter({}, output, controller);
+    reporter.tellBeginning();
+    QVERIFY(waitForReports());
+    takeTwoTurns();
+    for (const char* version : {"2.0", "3.0"}) {
+        machine().publish(nameOf(0), PrinterValue::text("SoftwareVersion", version));
+        QVERIFY(waitForReports());
+        takeTwoTurns();
+        QVERIFY2(written().contains(QStringLiteral("\u2192 ") + QString::fromLatin1(version)),
+                 version);
+    }
+}
+
 void ReporterTest::whatIsNotYetToldIsToldAtTheEnd()
 {
     StandardOutput stream("test", m_file.get());
@@ -128,6 +148,25 @@ void ReporterTest::whatIsNotYetToldIsToldAtTheEnd()
     QVERIFY(!written().contains(line));
     reporter.tellEnd();
     QVERIFY(written().contains(line));
+}
+
+void ReporterTest::whatHappenedBeforeAStoryIsToldBeforeIt()
+{
+    StandardOutput stream("test", m_file.get());
+    Output output(stream);
+    PrinterStatusController controller;
+    Reporter reporter({}, output, controller);
+    reporter.tellBeginning();
+    QVERIFY(waitForReports());
+    // The reports alone, not what they are followed by.
+    QCoreApplication::sendPostedEvents(&controller);
+    const QString story = QStringLiteral("the labels run out");
+    reporter.tellStory(story);
+    const QString text = written();
+    const qsizetype change =
+        text.indexOf(QStringLiteral("P199  records  status not known \u2192 Ready"));
+    QVERIFY(change >= 0);
+    QVERIFY(change < text.indexOf(story));
 }
 
 void ReporterTest::jsonOfWhatDidNotChangeIsKept()

@@ -84,6 +84,36 @@ constexpr Scenario scenarios[]{
          record(Logger::Debug, "network", QStringLiteral("first"));
          record(Logger::Debug, "network", QStringLiteral("second"));
      }},
+    {"a linked category with an appender of its own",
+     [] {
+         Logger::globalInstance()->registerCategoryAppender(QStringLiteral("network"),
+                                                            new Recorder);
+         Logger::globalInstance()->logToGlobalInstance(QStringLiteral("network"), true);
+         record(Logger::Debug, "network", QStringLiteral("the record"));
+     }},
+    {"two applications",
+     [] {
+         for (const bool isLinked : {true, false}) {
+             int argc = 1;
+             char name[] = "tst_cutelogger";
+             char* argv[] = {name, nullptr};
+             const QCoreApplication application(argc, argv);
+             auto* recorder = new Recorder;
+             Logger::globalInstance()->registerAppender(recorder);
+             if (isLinked)
+                 Logger::globalInstance()->logToGlobalInstance(QStringLiteral("network"), true);
+             record(Logger::Debug, "network", QStringLiteral("message"));
+             std::fprintf(stderr, "%d records\n", int(recorder->records.size()));
+         }
+     }},
+    {"two files that cannot be written",
+     [] {
+         auto* appender = new FileAppender(QStringLiteral("/no/such/first.log"));
+         Logger::globalInstance()->registerAppender(appender);
+         record(Logger::Debug, nullptr, QStringLiteral("message"));
+         appender->setFileName(QStringLiteral("/no/such/second.log"));
+         record(Logger::Debug, nullptr, QStringLiteral("message"));
+     }},
     {"Qt's messages",
      [] {
          auto* recorder = new Recorder;
@@ -152,9 +182,12 @@ private Q_SLOTS:
     void recordsWithoutAnAppenderGoToStandardError();
     void recordsBelowTheLevelGoNowhere();
     void categoriesWithoutAnAppenderGoToStandardError();
+    void linkedCategoriesWithAnAppenderDoNot();
     void messagesOfQtAreRecords();
     void fatalRecordsEndTheProcess();
     void appendersEndWithTheApplication();
+    void linksEndWithTheApplication();
+    void eachFileThatCannotBeWrittenIsNamed();
 
 private:
     static CuteMessageLogger at(Logger& logger, Logger::LogLevel level = Logger::Debug)
@@ -402,6 +435,13 @@ void CuteLoggerTest::categoriesWithoutAnAppenderGoToStandardError()
     QVERIFY2(lines.at(2).contains("second"), ending.errors.constData());
 }
 
+void CuteLoggerTest::linkedCategoriesWithAnAppenderDoNot()
+{
+    const Ending ending = endingOf("a linked category with an appender of its own");
+    QVERIFY(ending.isNormal);
+    QVERIFY2(!ending.errors.contains("the record"), ending.errors.constData());
+}
+
 void CuteLoggerTest::messagesOfQtAreRecords()
 {
     const Ending ending = endingOf("Qt's messages");
@@ -423,6 +463,25 @@ void CuteLoggerTest::appendersEndWithTheApplication()
     QVERIFY(ending.isNormal);
     QVERIFY2(!ending.errors.contains("in time"), ending.errors.constData());
     QVERIFY2(ending.errors.contains("too late"), ending.errors.constData());
+}
+
+void CuteLoggerTest::linksEndWithTheApplication()
+{
+#ifndef VX_STAND_IN
+    QSKIP("Nothing is promised of the original's links");
+#endif
+    const Ending ending = endingOf("two applications");
+    QVERIFY(ending.isNormal);
+    QVERIFY2(ending.errors.startsWith("1 records\n"), ending.errors.constData());
+    QVERIFY2(ending.errors.endsWith("0 records\n"), ending.errors.constData());
+}
+
+void CuteLoggerTest::eachFileThatCannotBeWrittenIsNamed()
+{
+    const Ending ending = endingOf("two files that cannot be written");
+    QVERIFY(ending.isNormal);
+    QVERIFY2(ending.errors.contains("first.log"), ending.errors.constData());
+    QVERIFY2(ending.errors.contains("second.log"), ending.errors.constData());
 }
 
 int main(int argc, char* argv[])
