@@ -5,6 +5,7 @@
 #include <QtCore/QThread>
 
 #include <algorithm>
+#include <iterator>
 
 namespace virtualwindows {
 
@@ -108,14 +109,17 @@ void Machine::recordCalls(bool record)
 QList<Call> Machine::calls() const
 {
     const std::lock_guard guard(d->lock);
-    return d->calls;
+    // A list of its own: sharing one with threads that go on appending to it is a data race.
+    return {d->calls.cbegin(), d->calls.cend()};
 }
 
 QList<Call> Machine::calls(const QString& function) const
 {
     indexOf(function);
-    QList<Call> found = calls();
-    found.removeIf([&](const Call& call) { return call.function != function; });
+    const std::lock_guard guard(d->lock);
+    QList<Call> found;
+    std::copy_if(d->calls.cbegin(), d->calls.cend(), std::back_inserter(found),
+                 [&](const Call& call) { return call.function == function; });
     return found;
 }
 
