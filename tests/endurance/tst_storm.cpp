@@ -27,6 +27,8 @@ constexpr int printerCount = 200;
 constexpr int changesASecond = 10;
 /// Reports to the controller that a change of everything makes, one for each connected signal.
 constexpr int reportsAChange = 7;
+/// A slow machine needs minutes for a storm, and what says nothing for so long is taken for hung.
+constexpr qint64 reportsAWord = 5000;
 
 /// Time that the calling thread has spent computing: what other programs take from it meanwhile is
 /// not in it.
@@ -119,7 +121,8 @@ public:
             others.add(taken);
             return result;
         }
-        ++delivered;
+        if (++delivered % reportsAWord == 0)
+            qInfo("%lld reports so far", static_cast<long long>(delivered));
         handledTwo = handledTwo || m_updates > 1;
         const Kind kind = callsOfListing() != listings ? Kind::Mileage : m_kind;
         reports[static_cast<std::size_t>(kind)].add(taken);
