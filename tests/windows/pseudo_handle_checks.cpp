@@ -5,8 +5,11 @@
 #include "import_table.h"
 
 #include <algorithm>
+#include <atomic>
 
 namespace {
+
+std::atomic<int> begun = 0;
 
 bool isPseudoHandle(HANDLE handle)
 {
@@ -16,6 +19,7 @@ bool isPseudoHandle(HANDLE handle)
 DWORD WINAPI waitForMultipleObjects(DWORD count, const HANDLE* handles, BOOL all,
                                     DWORD milliseconds)
 {
+    ++begun;
     if (std::any_of(handles, handles + count, isPseudoHandle)) {
         SetLastError(ERROR_INVALID_HANDLE);
         return WAIT_FAILED;
@@ -30,4 +34,9 @@ bool refusePseudoHandles(const wchar_t* library)
     return replaceImports(
         library, "kernel32.dll",
         {{"WaitForMultipleObjects", reinterpret_cast<ULONG_PTR>(&waitForMultipleObjects)}});
+}
+
+int waitsBegun()
+{
+    return begun;
 }
