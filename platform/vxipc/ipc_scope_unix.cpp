@@ -14,8 +14,8 @@ namespace IpcScope {
 namespace {
 
 /// The folder that the session gave the user, or one of our own where there is no session. A
-/// relative path would mean another folder in each working directory; the XDG Base Directory
-/// Specification has it ignored.
+/// relative path would mean another folder in each working directory, so it is ignored, as the XDG
+/// rules for base directories demand.
 QString directory()
 {
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");

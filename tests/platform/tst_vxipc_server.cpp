@@ -158,6 +158,28 @@ bool isThisUser(PSID user)
 
 #endif
 
+/// An endpoint that lives on a thread of its own, with which it ends.
+class ServiceOnThread
+{
+public:
+    explicit ServiceOnThread(int serverType)
+    {
+        auto* service = new TestService(serverType);
+        service->moveToThread(&m_thread);
+        QObject::connect(&m_thread, &QThread::finished, service, &QObject::deleteLater);
+        m_thread.start();
+    }
+    ~ServiceOnThread()
+    {
+        m_thread.quit();
+        m_thread.wait();
+    }
+    Q_DISABLE_COPY_MOVE(ServiceOnThread)
+
+private:
+    QThread m_thread;
+};
+
 } // namespace
 
 class tst_VXIPCServer : public QObject
@@ -818,16 +840,8 @@ void tst_VXIPCServer::isPublishedWhenTheEventLoopRuns()
 
 void tst_VXIPCServer::isPublishedOnItsThread()
 {
-    QThread thread;
     const int serverType = newServerType();
-    auto* service = new TestService(serverType);
-    service->moveToThread(&thread);
-    connect(&thread, &QThread::finished, service, &QObject::deleteLater);
-    thread.start();
-    const auto end = qScopeGuard([&] {
-        thread.quit();
-        thread.wait();
-    });
+    const ServiceOnThread service(serverType);
     const QString name = QStringLiteral("vxipc-%1").arg(serverType);
     QTRY_VERIFY(RawClient(name).isConnected());
     RawClient client(name);
@@ -837,16 +851,8 @@ void tst_VXIPCServer::isPublishedOnItsThread()
 void tst_VXIPCServer::servesWhoComesAsItIsPublished()
 {
     for (int round = 0; round < 60; ++round) {
-        QThread thread;
         const int serverType = newServerType();
-        auto* service = new TestService(serverType);
-        service->moveToThread(&thread);
-        connect(&thread, &QThread::finished, service, &QObject::deleteLater);
-        thread.start();
-        const auto end = qScopeGuard([&] {
-            thread.quit();
-            thread.wait();
-        });
+        const ServiceOnThread service(serverType);
         // The first client that gets in at all comes while the endpoint prepares for the next ones.
         const QString name = QStringLiteral("vxipc-%1").arg(serverType);
         while (!RawClient(name).isConnected())
