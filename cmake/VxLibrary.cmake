@@ -8,7 +8,8 @@ include(GNUInstallDirs)
 set(VX_PUBLIC_HEADERS
     printer_status_controller.h printer_status_thread.h printer_status_information.h printer_types.h
     windows_printer_info.h vx_ipc_supplyd_controller.h vx_ipc_m4_controller.h
-    vx_ipc_printqd_controller.h supply_information.h print_job_meta_data.h vxprinterstatus_export.h)
+    vx_ipc_printqd_controller.h status_codes.h supply_information.h print_job_meta_data.h
+    vxprinterstatus_export.h)
 
 # The objects are a target of their own so that a test can link them and replace what they call.
 add_library(vxprinterstatus SHARED)

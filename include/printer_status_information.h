@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "status_codes.h"
 #include "vxprinterstatus_export.h"
 
 #include <QtCore/QMetaType>
@@ -46,10 +47,9 @@ class VX_PRINTERSTATUS_EXPORT PrinterStatusInformation
 public:
     /// The printer's name in the Windows print spooler.
     QString printerName;
-    /// Status code: 0 disconnected, 1 ready, 254 print spooler not running, 255 not known (yet),
-    /// 256 network printer, 257 offline, 258 not managed, anything else the driver's error code.
+    /// Status code: one of `VXPrinting::StatusCodes`, anything else is the driver's error code.
     /// `PrinterStatusController::getStatusTitle` gives its title.
-    int statusEnum = 255;
+    int statusEnum = VXPrinting::StatusCodes::unknown;
     /// False once the printer was found offline, true again at its next readable report.
     bool printerOnline = true;
     /// A network printer; it is listed but never watched.

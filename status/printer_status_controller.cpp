@@ -6,6 +6,7 @@
 #include "percent_left.h"
 #include "printer_status_thread.h"
 #include "raw_print_job.h"
+#include "status_codes.h"
 #include "status_titles.h"
 #include "vx_ipc_m4_controller.h"
 #include "vx_ipc_supplyd_controller.h"
@@ -21,6 +22,8 @@
 using VXPrinting::PrinterType;
 
 namespace {
+
+namespace StatusCodes = VXPrinting::StatusCodes;
 
 const QString nothingLoaded = QStringLiteral("-1");
 /// What the driver publishes when no supply is loaded.
@@ -146,7 +149,7 @@ void PrinterStatusController::checkForNewPrinter(AvailablePrinters printer)
     const PrinterType type = WindowsPrinterInfo::printerType(printer.driverName);
     if (static_cast<int>(type) <= lastUnsupportedType) {
         ignoredPrinters.insert(name);
-        Q_EMIT statusChangedSignal(status_codes::disconnected, name);
+        Q_EMIT statusChangedSignal(StatusCodes::disconnected, name);
         return;
     }
     if (printer.isOffline) {
@@ -159,12 +162,12 @@ void PrinterStatusController::checkForNewPrinter(AvailablePrinters printer)
     record.ribbon2Visible = hasSecondRibbon(type);
     if (printer.isNetworkPrinter) {
         record.printerRemote = true;
-        record.statusEnum = status_codes::networkPrinter;
+        record.statusEnum = StatusCodes::networkPrinter;
     } else if (WindowsPrinterInfo::isPrinterAdmin(name)) {
         createNewStatusThread(name);
     } else {
         record.printerNonAdmin = true;
-        record.statusEnum = status_codes::notManaged;
+        record.statusEnum = StatusCodes::notManaged;
     }
     printerStatusMap.insert(name, record);
     supplyIdController->addNewPrinter(name);
@@ -284,18 +287,18 @@ void PrinterStatusController::onPrinterStatusChanged(QString printerName, QStrin
             if (controller)
                 Q_EMIT availablePrintersUpdated();
             if (controller)
-                Q_EMIT statusChangedSignal(status_codes::offline, printerName);
+                Q_EMIT statusChangedSignal(StatusCodes::offline, printerName);
             if (controller && printerName == m_activeDefaultPrinter)
                 updateDefaultPrinter();
             return;
         }
-        record().statusEnum = status_codes::unknown;
+        record().statusEnum = StatusCodes::unknown;
     }
     record().printerOnline = true;
 
     const int code = record().statusEnum;
-    const bool mayBeOffline = code == status_codes::disconnected || code == status_codes::unknown;
-    if (code == status_codes::ready) {
+    const bool mayBeOffline = code == StatusCodes::disconnected || code == StatusCodes::unknown;
+    if (code == StatusCodes::ready) {
         reevaluateErrorState();
     } else if (mayBeOffline && WindowsPrinterInfo::isPrinterOffline(printerName)) {
         recordOffline(printerName);
@@ -332,7 +335,7 @@ void PrinterStatusController::recordOffline(const QString& printerName)
     offlinePrinters.insert(printerName);
     PrinterStatusInformation& record = printerStatusMap[printerName];
     record.printerOnline = false;
-    record.statusEnum = status_codes::offline;
+    record.statusEnum = StatusCodes::offline;
     reevaluateErrorState();
 }
 
@@ -355,7 +358,7 @@ void PrinterStatusController::reevaluateErrorState()
     // it is a code above ready of a printer that is there, one that has not reported yet and one
     // that is not managed among them.
     const auto isInError = [](const PrinterStatusInformation& record) {
-        return record.statusEnum > status_codes::ready && record.printerOnline &&
+        return record.statusEnum > StatusCodes::ready && record.printerOnline &&
                !record.printerRemote;
     };
     if (std::ranges::any_of(std::as_const(printerStatusMap), isInError))

@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #include "status_titles.h"
 
+#include "status_codes.h"
+
 #include <vxerror.h>
 
 #include <QtCore/QCoreApplication>
@@ -10,6 +12,8 @@
 #include <array>
 
 namespace {
+
+namespace StatusCodes = VXPrinting::StatusCodes;
 
 /// Translators find a text by its context and by the remark that goes with it.
 struct Text
@@ -28,20 +32,20 @@ constexpr char context[] = "QObject";
 
 // clang-format off
 constexpr std::array titles{
-    Title{status_codes::disconnected,
+    Title{StatusCodes::disconnected,
           QT_TRANSLATE_NOOP3("QObject", "Disconnected", "Printer status message")},
-    Title{status_codes::ready,
+    Title{StatusCodes::ready,
           QT_TRANSLATE_NOOP3("QObject", "Ready", "Printer status message")},
-    Title{status_codes::unknown,
+    Title{StatusCodes::unknown,
           QT_TRANSLATE_NOOP3("QObject", "Unable To Retrieve Printer Info. (Code 255)",
                              "Printer status message")},
-    Title{status_codes::networkPrinter,
+    Title{StatusCodes::networkPrinter,
           QT_TRANSLATE_NOOP3("QObject",
                              "Printer Is Remotely Connected.\nUnable to retrieve printer info.",
                              "Printer status message")},
-    Title{status_codes::offline,
+    Title{StatusCodes::offline,
           QT_TRANSLATE_NOOP3("QObject", "Disconnected", "Printer status message")},
-    Title{status_codes::notManaged,
+    Title{StatusCodes::notManaged,
           QT_TRANSLATE_NOOP3("QObject",
                              "Printer Is Not Managed.\nUnable to retrieve printer info.",
                              "Printer status message")},
