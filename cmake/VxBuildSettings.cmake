@@ -11,6 +11,8 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_AUTOMOC ON)
+# moc would start the compiler for every target, to learn macros that no class here depends on.
+set(CMAKE_AUTOMOC_COMPILER_PREDEFINES OFF)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
@@ -26,7 +28,10 @@ endif()
 find_program(VX_CCACHE ccache)
 mark_as_advanced(VX_CCACHE)
 if(VX_CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${VX_CCACHE}")
+    # Without these two it gives up on what is compiled with precompiled headers: it cannot see which
+    # macros these depend on. The compiler can, and refuses headers that do not fit.
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros "${VX_CCACHE}")
 endif()
 
 set(VX_SANITIZE "" CACHE STRING "Sanitizers to build with: empty, address or thread")

@@ -4,8 +4,9 @@
 
 Usage: tidy.py [--all] BUILD CACHE
 
-BUILD has been built with Ninja: it knows the headers that each source includes. CACHE keeps one empty file
-for each source that was found clean, named after a hash of everything that the result depends on: the
+BUILD has been built with Ninja: it knows the headers that each source includes. Each source is
+checked without precompiled headers: clang cannot read another compiler's, and a source that includes too
+little is found that way. CACHE keeps one empty file for each source that was found clean, named after a hash of everything that the result depends on: the
 source, our headers that it includes, how it is compiled, the configuration and clang-tidy itself. --all
 checks every source again. Findings are printed; the exit status is 1 when there are any.
 """
