@@ -29,9 +29,10 @@ find_program(VX_CCACHE ccache)
 mark_as_advanced(VX_CCACHE)
 if(VX_CCACHE)
     # Without these two it gives up on what is compiled with precompiled headers: it cannot see which
-    # macros these depend on. The compiler can, and refuses headers that do not fit.
-    set(CMAKE_CXX_COMPILER_LAUNCHER
-        "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros "${VX_CCACHE}")
+    # macros they depend on. The compiler can, and refuses headers that do not fit. They are hundreds
+    # of megabytes, so ccache hashes them once and not for every source.
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env
+        CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_INODECACHE=true "${VX_CCACHE}")
 endif()
 
 set(VX_SANITIZE "" CACHE STRING "Sanitizers to build with: empty, address or thread")

@@ -16,8 +16,10 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import subprocess
 import sys
+import tempfile
 import time
 
 PATIENCE = 600  # seconds that one source may take
@@ -58,6 +60,13 @@ def key_of(entry, inputs, root, common, hashes):
     return key.hexdigest()
 
 
+def without_precompiled_headers(entries, folder):
+    """Writes the compile commands without precompiled headers."""
+    plain = [{**entry, "command": re.sub(r"-Winvalid-pch|-fpch-preprocess|-include \S*/cmake_pch\.hxx", "",
+                                         entry["command"])} for entry in entries]
+    (folder / "compile_commands.json").write_text(json.dumps(plain), encoding="utf-8")
+
+
 def check(source, build):
     run = subprocess.run(["clang-tidy", "-p", str(build), "--quiet", str(source)],
                          capture_output=True, text=True, timeout=PATIENCE, check=False)
@@ -78,7 +87,8 @@ def main():
     common = version + (root / ".clang-tidy").read_bytes()
     recorded, hashes = dependencies(build), Hashes()
     todo = []
-    for entry in json.loads((build / "compile_commands.json").read_text(encoding="utf-8")):
+    entries = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
+    for entry in entries:
         source = pathlib.Path(entry["directory"], entry["file"]).resolve()
         if not source.is_relative_to(root) or source.is_relative_to(build):
             continue
@@ -92,8 +102,10 @@ def main():
     print(f"tidy: {len(todo)} sources to check", file=sys.stderr)
 
     began, told, clean = time.monotonic(), time.monotonic(), True
-    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        runs = {pool.submit(check, source, build): stamp for source, stamp in todo}
+    with (tempfile.TemporaryDirectory() as commands,
+          concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool):
+        without_precompiled_headers(entries, pathlib.Path(commands))
+        runs = {pool.submit(check, source, commands): stamp for source, stamp in todo}
         for count, run in enumerate(concurrent.futures.as_completed(runs), 1):
             passed, output = run.result()
             if passed:
