@@ -4,11 +4,12 @@
 
 Usage: tidy.py [--all] BUILD CACHE
 
-BUILD has been built with Ninja: it knows the headers that each source includes. Each source is
-checked without precompiled headers: clang cannot read another compiler's, and a source that includes too
-little is found that way. CACHE keeps one empty file for each source that was found clean, named after a hash of everything that the result depends on: the
-source, our headers that it includes, how it is compiled, the configuration and clang-tidy itself. --all
-checks every source again. Findings are printed; the exit status is 1 when there are any.
+BUILD has been built with Ninja: it knows the headers that each source includes. Each source is checked
+without precompiled headers: clang cannot read another compiler's, and a source that includes too little
+is found that way. CACHE keeps one empty file for each source that was found clean, named after a hash of
+everything that the result depends on: the source, our headers that it includes, how it is compiled, the
+configuration and clang-tidy itself. --all checks every source again. Findings are printed; the exit
+status is 1 when there are any.
 """
 import argparse
 import concurrent.futures
@@ -55,7 +56,7 @@ def key_of(entry, inputs, root, common, hashes):
     key = hashlib.sha256(common)
     key.update(entry["command"].replace(str(root), "").encode())
     for path in sorted(set(inputs)):
-        if path.is_relative_to(root) and path.exists():
+        if path.is_relative_to(root) and not path.name.startswith("cmake_pch") and path.exists():
             key.update(f"{path.relative_to(root)}={hashes.of(path)}\n".encode())
     return key.hexdigest()
 
