@@ -36,7 +36,7 @@ enum Service : int
     ServiceCount,
 };
 
-const QString idlePrinter = QStringLiteral("Idle printer"); // nothing is ever reported of it
+const QString idlePrinter = QStringLiteral("Idle printer"); // no value of it is ever reported
 const QString loadedPrinter = QStringLiteral("Loaded CedarMax 4");
 const QString neverAddedPrinter = QStringLiteral("AlderMax that was never added");
 
@@ -47,7 +47,7 @@ QString databasePath()
     return QCoreApplication::applicationDirPath() + QStringLiteral("/roll.db");
 }
 
-/// The method tables. A question mark is behind an argument that may be left out.
+/// The method tables. A question mark follows an optional argument.
 const std::array<QStringList, ServiceCount> MethodTables{
     QStringList{
         QStringLiteral("QStringList supplySKUList()"),
@@ -195,7 +195,7 @@ const std::array<QStringList, ServiceCount> MethodTables{
     },
 };
 
-/// What a method answers to the same arguments at any time.
+/// A method whose answer to the same arguments is always the same.
 struct FixedAnswer
 {
     Service service;
@@ -204,7 +204,8 @@ struct FixedAnswer
     QJsonValue answer;
 };
 
-/// What rows of the database say: the columns are the arguments of a call, and last its answer.
+/// Calls whose answers are in the database. The columns of a row are the arguments and, last, the
+/// answer.
 struct DatabaseAnswer
 {
     const char* method;
@@ -419,7 +420,7 @@ QList<FixedAnswer> fixedAnswers()
     // clang-format on
 }
 
-/// An SQL expression for the name of what `alias` stands for, in the host's language.
+/// An SQL expression for the name of the entity `alias`, in the host's language.
 QString named(const QString& alias)
 {
     return QStringLiteral("coalesce((SELECT text FROM translation WHERE name_id = %1.name_id AND "
@@ -443,7 +444,7 @@ QString typeIndex(const QString& printer)
 
 QList<DatabaseAnswer> databaseAnswers()
 {
-    // Each supply, asked for by every kind of printer name.
+    // Each supply, with every kind of printer name.
     const QString supplies =
         QStringLiteral(
             " FROM supply s, (SELECT '' AS printer UNION SELECT '-' UNION SELECT '%1' UNION SELECT "
@@ -500,7 +501,7 @@ QList<DatabaseAnswer> databaseAnswers()
     };
 }
 
-/// The methods whose rows have their answer as the text of a JSON list or object.
+/// The methods whose answer is in the row as the text of a JSON list or object.
 bool answersJson(const QString& method)
 {
     return method.endsWith(QStringLiteral("List")) || method.endsWith(QStringLiteral("Hash"));
@@ -513,7 +514,7 @@ QJsonValue toJson(const QVariant& value)
     return QJsonValue::fromVariant(value);
 }
 
-/// As it is after it has crossed: a number has one form.
+/// A value as the client receives it: all numbers have one form.
 QJsonValue crossed(const QJsonValue& value)
 {
     return QJsonDocument::fromJson(QJsonDocument(QJsonArray{value}).toJson()).array().first();
@@ -524,7 +525,7 @@ QByteArray shown(const QJsonValue& value)
     return QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
 }
 
-/// `int sum(int left, int right?)` has the names `left` and `right`.
+/// The names of the arguments: `left` and `right` for `int sum(int left, int right?)`.
 QStringList argumentNames(const QString& signature)
 {
     QStringList names;
@@ -591,20 +592,20 @@ private Q_SLOTS:
 
     void describesItsMethods_data();
     void describesItsMethods();
-    void everyFormOfEveryMethodIsInATable();
-    void givesItsFixedAnswers_data();
-    void givesItsFixedAnswers();
-    void answersWhatTheDatabaseHas_data();
-    void answersWhatTheDatabaseHas();
-    void readsBackTheLoadedSupply();
-    void readsBackTheLoadedRibbons();
-    void gathersWhatIsLoaded();
-    void gathersWhatIsAskedFor_data();
-    void gathersWhatIsAskedFor();
-    void sharesOneDatabaseAmongPrintersNeverAdded();
-    void keepsTheStatusOfPrinters();
-    void keepsAsManyStatusesForOthersAsThereMayBe();
-    void keepsNoJob();
+    void tablesCoverEveryFormOfEveryMethod();
+    void fixedAnswersAreGiven_data();
+    void fixedAnswersAreGiven();
+    void answersMatchTheDatabase_data();
+    void answersMatchTheDatabase();
+    void loadedSupplyIsReadBack();
+    void loadedRibbonsAreReadBack();
+    void recordOfTheLoadedSupplyMatchesTheDatabase();
+    void recordOfAnySupplyMatchesTheDatabase_data();
+    void recordOfAnySupplyMatchesTheDatabase();
+    void printersNeverAddedShareOneDatabase();
+    void statusesOfPrintersAreStored();
+    void statusesStoredForOtherProcessesAreLimited();
+    void storesNoJob();
 
 private:
     QJsonValue call(Service service, const QString& method, const QJsonValue& arguments);
@@ -612,7 +613,7 @@ private:
     {
         return call(Supplies, method, arguments);
     }
-    /// The rows that SQL gives; a failed test and no rows when it cannot be run.
+    /// The rows that an SQL query returns; ends the test program when the query fails.
     QList<QSqlRecord> rows(const QString& sql);
     QJsonArray column(const QString& sql);
     QJsonObject expectedRecord(const QString& supplySku, const QStringList& ribbonSkus,
@@ -664,11 +665,8 @@ QJsonValue EndpointsOverIpcTest::call(Service service, const QString& method,
 QList<QSqlRecord> EndpointsOverIpcTest::rows(const QString& sql)
 {
     QSqlQuery query(m_database);
-    if (!query.exec(sql)) {
-        QTest::qFail(qPrintable(sql + QStringLiteral(": ") + query.lastError().text()), __FILE__,
-                     __LINE__);
-        return {};
-    }
+    if (!query.exec(sql))
+        qFatal("%s: %s", qPrintable(sql), qPrintable(query.lastError().text()));
     QList<QSqlRecord> records;
     while (query.next())
         records.append(query.record());
@@ -704,7 +702,7 @@ void EndpointsOverIpcTest::describesItsMethods()
              QStringLiteral("endpoint_host"));
 }
 
-void EndpointsOverIpcTest::everyFormOfEveryMethodIsInATable()
+void EndpointsOverIpcTest::tablesCoverEveryFormOfEveryMethod()
 {
     const auto form = [](int service, const QString& method, qsizetype arguments) {
         return QStringLiteral("%1 %2/%3").arg(service).arg(method).arg(arguments);
@@ -729,7 +727,7 @@ void EndpointsOverIpcTest::everyFormOfEveryMethodIsInATable()
     QCOMPARE(called, all);
 }
 
-void EndpointsOverIpcTest::givesItsFixedAnswers_data()
+void EndpointsOverIpcTest::fixedAnswersAreGiven_data()
 {
     QTest::addColumn<int>("service");
     QTest::addColumn<QString>("method");
@@ -742,7 +740,7 @@ void EndpointsOverIpcTest::givesItsFixedAnswers_data()
     }
 }
 
-void EndpointsOverIpcTest::givesItsFixedAnswers()
+void EndpointsOverIpcTest::fixedAnswersAreGiven()
 {
     QFETCH(int, service);
     QFETCH(QString, method);
@@ -753,7 +751,7 @@ void EndpointsOverIpcTest::givesItsFixedAnswers()
     QCOMPARE(call(of, method, byName(of, method, arguments)), crossed(answer));
 }
 
-void EndpointsOverIpcTest::answersWhatTheDatabaseHas_data()
+void EndpointsOverIpcTest::answersMatchTheDatabase_data()
 {
     QTest::addColumn<QString>("method");
     QTest::addColumn<QString>("sql");
@@ -763,7 +761,7 @@ void EndpointsOverIpcTest::answersWhatTheDatabaseHas_data()
     }
 }
 
-void EndpointsOverIpcTest::answersWhatTheDatabaseHas()
+void EndpointsOverIpcTest::answersMatchTheDatabase()
 {
     QFETCH(QString, method);
     QFETCH(QString, sql);
@@ -787,7 +785,7 @@ void EndpointsOverIpcTest::answersWhatTheDatabaseHas()
     QCOMPARE(call(Supplies, method, byName(Supplies, method, arguments)), crossed(expected));
 }
 
-void EndpointsOverIpcTest::readsBackTheLoadedSupply()
+void EndpointsOverIpcTest::loadedSupplyIsReadBack()
 {
     const QList<QSqlRecord> kinds = rows(
         QStringLiteral("SELECT printf('%08X%06d%06X', 500, k.kind, 167), k.supply_sku, c.rgb || ''"
@@ -811,7 +809,7 @@ void EndpointsOverIpcTest::readsBackTheLoadedSupply()
              QStringLiteral("-1"));
 }
 
-void EndpointsOverIpcTest::readsBackTheLoadedRibbons()
+void EndpointsOverIpcTest::loadedRibbonsAreReadBack()
 {
     const QList<QSqlRecord> numbers =
         rows(QStringLiteral("SELECT number || '', ribbon_sku FROM ribbon_number ORDER BY number"));
@@ -916,9 +914,9 @@ QJsonObject EndpointsOverIpcTest::expectedRecord(const QString& supplySku,
     return crossed(record).toObject();
 }
 
-void EndpointsOverIpcTest::gathersWhatIsLoaded()
+void EndpointsOverIpcTest::recordOfTheLoadedSupplyMatchesTheDatabase()
 {
-    // Each supply with two ribbons that have a setting for it.
+    // Each supply, with two ribbons that have a print setting for it.
     const QList<QSqlRecord> loads =
         rows(QStringLiteral("WITH load AS (SELECT k.kind, k.supply_sku, min(n.number) AS least,"
                             " max(n.number) AS most FROM supply_kind k"
@@ -944,7 +942,7 @@ void EndpointsOverIpcTest::gathersWhatIsLoaded()
     }
 }
 
-void EndpointsOverIpcTest::gathersWhatIsAskedFor_data()
+void EndpointsOverIpcTest::recordOfAnySupplyMatchesTheDatabase_data()
 {
     QTest::addColumn<int>("ribbons");
     QTest::newRow("no ribbon") << 0;
@@ -953,7 +951,7 @@ void EndpointsOverIpcTest::gathersWhatIsAskedFor_data()
     QTest::newRow("three ribbons") << 3;
 }
 
-void EndpointsOverIpcTest::gathersWhatIsAskedFor()
+void EndpointsOverIpcTest::recordOfAnySupplyMatchesTheDatabase()
 {
     QFETCH(int, ribbons);
     QStringList ribbonSkus;
@@ -969,7 +967,7 @@ void EndpointsOverIpcTest::gathersWhatIsAskedFor()
     }
 }
 
-void EndpointsOverIpcTest::sharesOneDatabaseAmongPrintersNeverAdded()
+void EndpointsOverIpcTest::printersNeverAddedShareOneDatabase()
 {
     const QSqlRecord kind = rows(QStringLiteral("SELECT printf('%08X%06d%06X', 500, kind, 167), "
                                                 "supply_sku FROM supply_kind LIMIT 1"))
@@ -991,7 +989,7 @@ void EndpointsOverIpcTest::sharesOneDatabaseAmongPrintersNeverAdded()
              expectedRecord(sku, {}, neverAddedPrinter, id));
 }
 
-void EndpointsOverIpcTest::keepsTheStatusOfPrinters()
+void EndpointsOverIpcTest::statusesOfPrintersAreStored()
 {
     const auto status = [this](const QString& printer) {
         return call(Printers, QStringLiteral("getPrinterStatus"), QJsonArray{printer}).toInt();
@@ -1009,9 +1007,9 @@ void EndpointsOverIpcTest::keepsTheStatusOfPrinters()
     QCOMPARE(status({}), 3);
 }
 
-void EndpointsOverIpcTest::keepsAsManyStatusesForOthersAsThereMayBe()
+void EndpointsOverIpcTest::statusesStoredForOtherProcessesAreLimited()
 {
-    // A host of its own, as the names stay.
+    // This test has its own host, because the names are stored until the host ends.
     HostProcess host(QStringLiteral("endpoint_host"), {}, int(ServiceCount));
     VXIPCClient client(host.serverName(Printers));
     const auto report = [&](int status, const QString& printer) {
@@ -1044,7 +1042,7 @@ void EndpointsOverIpcTest::keepsAsManyStatusesForOthersAsThereMayBe()
              QStringLiteral("-32003 Refused: 4096 printers were reported by other processes, and "
                             "no more are kept"));
     QCOMPARE(status(QStringLiteral("one more")), 255);
-    // Those that are kept still change.
+    // Statuses that are stored already can still change.
     QCOMPARE(status(QStringLiteral("printer 4095")), 4095);
     QCOMPARE(report(7, QStringLiteral("printer 4095")), QString());
     QCOMPARE(status(QStringLiteral("printer 4095")), 7);
@@ -1052,7 +1050,7 @@ void EndpointsOverIpcTest::keepsAsManyStatusesForOthersAsThereMayBe()
     QCOMPARE(status(longestName), 8);
 }
 
-void EndpointsOverIpcTest::keepsNoJob()
+void EndpointsOverIpcTest::storesNoJob()
 {
     QVERIFY(call(PrintQueue, QStringLiteral("addJob"),
                  QJsonArray{QStringLiteral("{1}"), QStringLiteral("labels"),
@@ -1066,7 +1064,7 @@ void EndpointsOverIpcTest::keepsNoJob()
 
 int main(int argc, char* argv[])
 {
-    // Names in another language than the one they fall back to, where the system can be told so.
+    // Names in another language than English, which is the fallback, where the system has it.
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("LANGUAGE", "de");
     QCoreApplication application(argc, argv);

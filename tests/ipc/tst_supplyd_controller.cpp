@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// Which database the supply-database service asks, and what it makes of printer names.
+// Which database object the supply-database service queries for which printer name.
 //
-// The service opens the file beside this executable, so the executable lies in a folder of its own.
+// The service opens the file beside this executable, so the executable has its own folder.
 #include "run_statement.h"
 #include "small_catalogue.h"
 
@@ -43,7 +43,7 @@ bool change(const char* statement)
     return runStatement(databasePath(), statement);
 }
 
-/// Turns every answer that the small catalogue gives into another one.
+/// Changes every answer that the small catalogue gives.
 bool changeEveryAnswer()
 {
     return change("UPDATE colour SET rgb = 16777215 - rgb") &&
@@ -65,8 +65,8 @@ struct Query
     const char* name;
     bool isByPrinter;
     Ask ask;
-    QVariant before; ///< What the catalogue has.
-    QVariant after;  ///< What it has after changeEveryAnswer().
+    QVariant before; ///< The answer from the catalogue.
+    QVariant after;  ///< The answer after changeEveryAnswer().
 };
 
 QVariantMap properties(const SupplyInformation& record)
@@ -84,7 +84,7 @@ QVariantMap information(VXIPCSUPPLYDController& endpoint, const QString& printer
     return properties(endpoint.supplyInformation(printerName));
 }
 
-/// Answers records of its own, which tell who was asked.
+/// Returns records that contain the arguments of the call.
 class DerivedEndpoint : public VXIPCSUPPLYDController
 {
 public:
@@ -111,28 +111,28 @@ private Q_SLOTS:
 
     void publishesItsMethodsInTheirOrder();
     void canBeCalledByName();
-    void asksTheDatabaseThatTheRuleChooses_data();
-    void asksTheDatabaseThatTheRuleChooses();
-    void asksForTheTypeIndexWithTheName();
-    void anEmptyNameHasNoSupplyButTheSharedRibbons();
-    void anEmptyNameIsToldNothing();
-    void aPrinterNeverAddedSharesTheSharedDatabase();
-    void eachAddedPrinterHasItsOwn();
-    void addingAPrinterAgainKeepsWhatIsLoaded();
+    void queriesTheRightDatabase_data();
+    void queriesTheRightDatabase();
+    void typeIndexDependsOnThePrintersName();
+    void emptyNameHasNoSupplyButTheSharedRibbons();
+    void emptyNameSetsNothing();
+    void printerNeverAddedUsesTheSharedDatabase();
+    void eachAddedPrinterHasItsOwnDatabase();
+    void addingAPrinterAgainKeepsItsDatabase();
     void namesItsConnections();
-    void thePanelIsTheFirstUnlessItIsSaid();
-    void someAnswersAreFixed();
-    void someCallsHaveNoEffect();
+    void panelDefaultsToTheFirst();
+    void placeholderQueriesHaveFixedAnswers();
+    void placeholderCommandsHaveNoEffect();
     void worksWithoutAFile();
-    void twoEndpointsWorkBesideEachOther();
-    void fillsARecord();
-    void fillsARecordOfLabelsSideBySide();
-    void aRecordTakesRibbonsByTheirPlace_data();
-    void aRecordTakesRibbonsByTheirPlace();
-    void aRecordOfNothingIsARecordOfDefaults();
-    void aRecordIsTheSameForAnEmptyNameAndTheSharedOne();
-    void theRecordOfAPrinterIsThatOfItsSkus();
-    void theRecordOfAPrinterComesThroughTheVirtualSlot();
+    void twoEndpointsAreIndependent();
+    void fillsEveryFieldOfARecord();
+    void fillsARecordOfLabelsInSeveralColumns();
+    void recordUsesRibbonsByTheirPlace_data();
+    void recordUsesRibbonsByTheirPlace();
+    void recordOfNoSupplyHasDefaults();
+    void emptyNameHasTheSharedRecord();
+    void recordOfAPrinterIsThatOfItsSkus();
+    void recordOfAPrinterComesFromTheVirtualSlot();
     void registersTheRecord();
 
 private:
@@ -205,7 +205,7 @@ void SupplydControllerTest::publishesItsMethodsInTheirOrder()
     for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
         const QMetaMethod method = type.method(i);
         if (method.attributes() & QMetaMethod::Cloned)
-            continue; // the form without the argument that has a default
+            continue; // the form without the default argument
         QStringList arguments;
         for (const QByteArray& name : method.parameterNames())
             arguments.append(QString::fromLatin1(name));
@@ -278,15 +278,15 @@ void SupplydControllerTest::canBeCalledByName()
     QCOMPARE(name, QStringLiteral("White"));
 }
 
-void SupplydControllerTest::asksTheDatabaseThatTheRuleChooses_data()
+void SupplydControllerTest::queriesTheRightDatabase_data()
 {
     QTest::addColumn<QString>("name");
     for (const Query& query : queries())
         QTest::newRow(query.name) << QString::fromLatin1(query.name);
 }
 
-// The added printer's database object is the only one that has not kept the old answers.
-void SupplydControllerTest::asksTheDatabaseThatTheRuleChooses()
+// The added printer's database object is the only one that has not cached the old answers.
+void SupplydControllerTest::queriesTheRightDatabase()
 {
     QFETCH(QString, name);
     const QList<Query> all = queries();
@@ -308,16 +308,17 @@ void SupplydControllerTest::asksTheDatabaseThatTheRuleChooses()
     QCOMPARE(query->ask(*m_endpoint, neverAddedPrinter), query->before);
 }
 
-void SupplydControllerTest::asksForTheTypeIndexWithTheName()
+void SupplydControllerTest::typeIndexDependsOnThePrintersName()
 {
-    // "-" and an empty name have the list of no model, a printer the one of the model it names.
+    // "-" and an empty name use the list for any model, a printer the list of the model in its
+    // name.
     QCOMPARE(m_endpoint->supplyTypeIndex(label, {}), 1);
     QCOMPARE(m_endpoint->supplyTypeIndex(label, QStringLiteral("-")), 1);
     QCOMPARE(m_endpoint->supplyTypeIndex(label, QStringLiteral("Stratamark AlderMax")), 0);
     QCOMPARE(m_endpoint->supplyTypeIndex(tape, QStringLiteral("Stratamark Alder")), -1);
 }
 
-void SupplydControllerTest::anEmptyNameHasNoSupplyButTheSharedRibbons()
+void SupplydControllerTest::emptyNameHasNoSupplyButTheSharedRibbons()
 {
     m_endpoint->setSupplyId(tapeId, neverAddedPrinter);
     m_endpoint->setRibbonIds(ribbonIds, neverAddedPrinter);
@@ -326,7 +327,7 @@ void SupplydControllerTest::anEmptyNameHasNoSupplyButTheSharedRibbons()
     QCOMPARE(m_endpoint->supplyRibbonSKUsCached({}), (QStringList{ribbonK, ribbonRK}));
 }
 
-void SupplydControllerTest::anEmptyNameIsToldNothing()
+void SupplydControllerTest::emptyNameSetsNothing()
 {
     m_endpoint->setSupplyId(tapeId, {});
     m_endpoint->setRibbonIds(ribbonIds, {});
@@ -343,7 +344,7 @@ void SupplydControllerTest::anEmptyNameIsToldNothing()
              (QStringList{ribbonK, ribbonRK}));
 }
 
-void SupplydControllerTest::aPrinterNeverAddedSharesTheSharedDatabase()
+void SupplydControllerTest::printerNeverAddedUsesTheSharedDatabase()
 {
     m_endpoint->setSupplyId(tapeId, neverAddedPrinter);
     QCOMPARE(m_endpoint->supplySKUCached(neverAddedPrinter), tape);
@@ -351,7 +352,7 @@ void SupplydControllerTest::aPrinterNeverAddedSharesTheSharedDatabase()
     QCOMPARE(m_endpoint->supplySKUCached({}), QStringLiteral("-1"));
 }
 
-void SupplydControllerTest::eachAddedPrinterHasItsOwn()
+void SupplydControllerTest::eachAddedPrinterHasItsOwnDatabase()
 {
     m_endpoint->addNewPrinter(addedPrinter);
     m_endpoint->addNewPrinter(QStringLiteral("Second"));
@@ -363,7 +364,7 @@ void SupplydControllerTest::eachAddedPrinterHasItsOwn()
     QCOMPARE(m_endpoint->supplySKUCached(neverAddedPrinter), QStringLiteral("-1"));
 }
 
-void SupplydControllerTest::addingAPrinterAgainKeepsWhatIsLoaded()
+void SupplydControllerTest::addingAPrinterAgainKeepsItsDatabase()
 {
     m_endpoint->addNewPrinter(addedPrinter);
     m_endpoint->setSupplyId(tapeId, addedPrinter);
@@ -380,7 +381,7 @@ void SupplydControllerTest::addingAPrinterAgainKeepsWhatIsLoaded()
 void SupplydControllerTest::namesItsConnections()
 {
     m_endpoint->addNewPrinter(addedPrinter);
-    m_endpoint->addNewPrinter({}); // no query reaches this one, so that it is never connected
+    m_endpoint->addNewPrinter({}); // no query reaches this one, so it is never connected
     QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
     m_endpoint->supplyColorName(tape, addedPrinter);
     m_endpoint->supplyColorName(tape, {});
@@ -392,7 +393,7 @@ void SupplydControllerTest::namesItsConnections()
     QCOMPARE(m_endpoint->supplyInformation({}).supplySku, tape);
 }
 
-void SupplydControllerTest::thePanelIsTheFirstUnlessItIsSaid()
+void SupplydControllerTest::panelDefaultsToTheFirst()
 {
     QCOMPARE(m_endpoint->supplyRibbonColorName(ribbonRK), QStringLiteral("Red"));
     QCOMPARE(m_endpoint->supplyRibbonColorName(ribbonRK),
@@ -404,7 +405,7 @@ void SupplydControllerTest::thePanelIsTheFirstUnlessItIsSaid()
     QCOMPARE(m_endpoint->supplyRibbonColorRGB(ribbonRK, 2), 0);
 }
 
-void SupplydControllerTest::someAnswersAreFixed()
+void SupplydControllerTest::placeholderQueriesHaveFixedAnswers()
 {
     m_endpoint->addNewPrinter(addedPrinter);
     m_endpoint->setSupplyId(tapeId, addedPrinter);
@@ -418,7 +419,7 @@ void SupplydControllerTest::someAnswersAreFixed()
     QCOMPARE(m_endpoint->supplyRibbon2Percent(), 0.0);
 }
 
-void SupplydControllerTest::someCallsHaveNoEffect()
+void SupplydControllerTest::placeholderCommandsHaveNoEffect()
 {
     m_endpoint->setSupplyId(tapeId, QStringLiteral("-"));
     const QVariantMap before = information(*m_endpoint, {});
@@ -446,7 +447,7 @@ void SupplydControllerTest::worksWithoutAFile()
     QVERIFY(!QFile::exists(databasePath()));
 }
 
-void SupplydControllerTest::twoEndpointsWorkBesideEachOther()
+void SupplydControllerTest::twoEndpointsAreIndependent()
 {
     VXIPCSUPPLYDController second;
     second.setSupplyId(labelId, QStringLiteral("-"));
@@ -455,11 +456,11 @@ void SupplydControllerTest::twoEndpointsWorkBesideEachOther()
     QCOMPARE(m_endpoint->supplySKUCached(QStringLiteral("-")), tape);
 }
 
-void SupplydControllerTest::fillsARecord()
+void SupplydControllerTest::fillsEveryFieldOfARecord()
 {
     m_endpoint->addNewPrinter(addedPrinter);
     m_endpoint->setSupplyId(labelId,
-                            addedPrinter); // what is loaded need not be what is asked about
+                            addedPrinter); // not the one that is queried
     const SupplyInformation record =
         m_endpoint->supplyInformationBySKUs(tape, {ribbonRK, ribbonK}, addedPrinter);
     const QVariantMap expected{
@@ -508,7 +509,7 @@ void SupplydControllerTest::fillsARecord()
     QCOMPARE(properties(record), expected);
 }
 
-void SupplydControllerTest::fillsARecordOfLabelsSideBySide()
+void SupplydControllerTest::fillsARecordOfLabelsInSeveralColumns()
 {
     const SupplyInformation record = m_endpoint->supplyInformationBySKUs(label, {}, {});
     QCOMPARE(record.nonContinuousLength, 1.5F);
@@ -520,7 +521,7 @@ void SupplydControllerTest::fillsARecordOfLabelsSideBySide()
     QCOMPARE(record.material, 0);
 }
 
-void SupplydControllerTest::aRecordTakesRibbonsByTheirPlace_data()
+void SupplydControllerTest::recordUsesRibbonsByTheirPlace_data()
 {
     QTest::addColumn<QStringList>("skus");
     QTest::addColumn<QList<int>>("panels");
@@ -547,7 +548,7 @@ void SupplydControllerTest::aRecordTakesRibbonsByTheirPlace_data()
         << QVariantList{-1, 52} << QStringList{QString(), QStringLiteral("Black")};
 }
 
-void SupplydControllerTest::aRecordTakesRibbonsByTheirPlace()
+void SupplydControllerTest::recordUsesRibbonsByTheirPlace()
 {
     QFETCH(QStringList, skus);
     const SupplyInformation record = m_endpoint->supplyInformationBySKUs(tape, skus, {});
@@ -562,16 +563,16 @@ void SupplydControllerTest::aRecordTakesRibbonsByTheirPlace()
         QCOMPARE(list.size(), skus.size());
 }
 
-void SupplydControllerTest::aRecordOfNothingIsARecordOfDefaults()
+void SupplydControllerTest::recordOfNoSupplyHasDefaults()
 {
     QVariantMap expected = properties(SupplyInformation());
     expected.insert(QStringLiteral("ribbonTypes"), QStringList{QString(), QString()});
     QCOMPARE(properties(m_endpoint->supplyInformationBySKUs({}, {}, {})), expected);
     expected.insert(QStringLiteral("supplySku"), QStringLiteral("-1"));
-    QCOMPARE(information(*m_endpoint, {}), expected); // nothing was reported yet
+    QCOMPARE(information(*m_endpoint, {}), expected); // nothing has been reported yet
 }
 
-void SupplydControllerTest::aRecordIsTheSameForAnEmptyNameAndTheSharedOne()
+void SupplydControllerTest::emptyNameHasTheSharedRecord()
 {
     m_endpoint->setSupplyId(tapeId, QStringLiteral("-"));
     m_endpoint->setRibbonIds(ribbonIds, QStringLiteral("-"));
@@ -579,7 +580,8 @@ void SupplydControllerTest::aRecordIsTheSameForAnEmptyNameAndTheSharedOne()
     QCOMPARE(shared.value(QStringLiteral("supplySku")), tape);
     QCOMPARE(information(*m_endpoint, {}), shared);
 
-    // A printer never added has the shared record, but for the type index of its own name.
+    // A printer that was never added has the shared record, except for the type index of its own
+    // name.
     QVariantMap unknown = information(*m_endpoint, QStringLiteral("Stratamark AlderMax"));
     QCOMPARE(unknown.value(QStringLiteral("typeIndex")), 1);
     QCOMPARE(shared.value(QStringLiteral("typeIndex")), 0);
@@ -587,7 +589,7 @@ void SupplydControllerTest::aRecordIsTheSameForAnEmptyNameAndTheSharedOne()
     QCOMPARE(unknown, shared);
 }
 
-void SupplydControllerTest::theRecordOfAPrinterIsThatOfItsSkus()
+void SupplydControllerTest::recordOfAPrinterIsThatOfItsSkus()
 {
     m_endpoint->addNewPrinter(addedPrinter);
     m_endpoint->setSupplyId(tapeId, addedPrinter);
@@ -598,7 +600,7 @@ void SupplydControllerTest::theRecordOfAPrinterIsThatOfItsSkus()
                  m_endpoint->supplyRibbonSKUsCached(addedPrinter), addedPrinter)));
 }
 
-void SupplydControllerTest::theRecordOfAPrinterComesThroughTheVirtualSlot()
+void SupplydControllerTest::recordOfAPrinterComesFromTheVirtualSlot()
 {
     DerivedEndpoint derived;
     derived.setSupplyId(tapeId, QStringLiteral("-"));
@@ -619,7 +621,7 @@ void SupplydControllerTest::registersTheRecord()
 
 int main(int argc, char* argv[])
 {
-    // Names come in the language of the system, which a test must not depend on.
+    // Names are in the language of the system, on which a test must not depend.
     qputenv("LC_ALL", "C");
     qputenv("LANGUAGE", "en");
     QCoreApplication application(argc, argv);

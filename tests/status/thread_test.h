@@ -14,7 +14,8 @@ using virtualwindows::PrinterValue;
 
 inline const QString labelPrinter = QStringLiteral("Label Printer");
 
-/// Base of the tests that watch one printer with one thread, in time that only they let pass.
+/// Base of the tests that watch one printer with one thread. Time passes only when a test lets it
+/// pass.
 class ThreadTest : public MachineTest
 {
     Q_OBJECT
@@ -22,7 +23,7 @@ class ThreadTest : public MachineTest
 protected:
     static QByteArray supplyIdentifier(char digit) { return QByteArray(20, digit); }
 
-    /// A value of each name, all different.
+    /// One value for each name, all different.
     static QList<PrinterValue> everyValue(char digit = '1')
     {
         const auto number = static_cast<quint32>(digit - '0') * 100;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What a monitoring thread reads, in what order, and what it reports of it.
+// What a monitoring thread reads and reports, and in which order.
 #include "thread_test.h"
 
 #include <QtCore/QMetaMethod>
@@ -25,7 +25,7 @@ QStringList oneRead()
     return calls << QStringLiteral("GetPrinterW 1") << QStringLiteral("GetPrinterW 1");
 }
 
-/// Calls as "function argument": the value's name of a reading, the level of a record.
+/// Calls as "function argument"; the argument is the value's name or the record's level.
 QStringList outline(const QList<Call>& calls)
 {
     QStringList lines;
@@ -46,28 +46,28 @@ class PrinterStatusThreadTest : public ThreadTest
 private Q_SLOTS:
     void signalsOfTheMetaObject();
     void firstReadReportsEverythingInOrder();
-    void firstReadOfASilentPrinterReportsItsName();
-    void startAndFirstReadCallInOrder();
-    void startAndFirstReadCallWithTheseArguments();
-    void notificationReadsThroughTheOpenHandle();
-    void notificationThatChangesNothing();
-    void valueThatChangesAlone_data();
-    void valueThatChangesAlone();
-    void valueThatDisappears();
-    void everyValueChangesAtOnce();
-    void onlyRibbon2Changes();
-    void onlyRibbon1Changes();
-    void bothRibbonsChange();
+    void firstReadOfAPrinterWithoutValuesReportsItsName();
+    void startAndFirstReadMakeTheirCallsInOrder();
+    void startAndFirstReadPassTheseArguments();
+    void notificationIsReadThroughTheOpenHandle();
+    void notificationWithoutAChangeReportsNothing();
+    void valueThatChangesIsReportedAlone_data();
+    void valueThatChangesIsReportedAlone();
+    void valueThatDisappearsIsReportedAsEmpty();
+    void valuesThatChangeTogetherAreReportedInOrder();
+    void ribbon2AloneIsReportedWithBoth();
+    void ribbon1AloneIsReportedWithBoth();
+    void bothRibbonsAreReportedOnce();
     void changeOfLetterCaseIsAChange();
-    void renamedPrinterKeepsItsDashboardName();
+    void renamedPrinterIsReportedUnderItsMonitoredName();
     void changeBetweenWakeUpAndReArmingIsNotLost();
-    void unreadablePrinterIsReadThroughAFreshHandle();
-    void statusLike255IsNotUnreadable_data();
-    void statusLike255IsNotUnreadable();
-    void unreadablePrinterWithoutFullAccess();
-    void printerNameOutsideOfLatin1();
-    void nameIsTakenAtTheMomentOfEachReport();
-    void oneThreadReportsOnItsOwnThread();
+    void status255IsReadThroughANewHandle();
+    void statusLike255IsReadThroughTheOpenHandle_data();
+    void statusLike255IsReadThroughTheOpenHandle();
+    void status255WithoutFullAccessIsReadThroughTheOpenHandle();
+    void printerNameOutsideLatin1();
+    void eachReportCarriesTheNameAtThatMoment();
+    void signalsAreEmittedOnTheMonitoringThread();
 };
 
 void PrinterStatusThreadTest::signalsOfTheMetaObject()
@@ -126,13 +126,13 @@ void PrinterStatusThreadTest::firstReadReportsEverythingInOrder()
     QVERIFY(logged().isEmpty());
 }
 
-void PrinterStatusThreadTest::firstReadOfASilentPrinterReportsItsName()
+void PrinterStatusThreadTest::firstReadOfAPrinterWithoutValuesReportsItsName()
 {
     QVERIFY(watch());
     QCOMPARE(takeReports(), QList<Report>{report("printerNameChangedSignal", labelPrinter)});
 }
 
-void PrinterStatusThreadTest::startAndFirstReadCallInOrder()
+void PrinterStatusThreadTest::startAndFirstReadMakeTheirCallsInOrder()
 {
     machine().recordCalls();
     QVERIFY(watch());
@@ -149,7 +149,7 @@ void PrinterStatusThreadTest::startAndFirstReadCallInOrder()
     QCOMPARE(outline(machine().calls()), expected);
 }
 
-void PrinterStatusThreadTest::startAndFirstReadCallWithTheseArguments()
+void PrinterStatusThreadTest::startAndFirstReadPassTheseArguments()
 {
     machine().recordCalls();
     QVERIFY(watch());
@@ -163,7 +163,7 @@ void PrinterStatusThreadTest::startAndFirstReadCallWithTheseArguments()
                                         QStringLiteral("0x0")}));
     const QString printer = asked.first();
 
-    // The first read goes through the handle with full access, which is closed after it.
+    // The first read uses the handle with full access, which is closed after it.
     const QString fullAccess =
         machine().calls(QStringLiteral("GetPrinterDataA")).first().arguments.first();
     QVERIFY(fullAccess != printer);
@@ -182,7 +182,7 @@ void PrinterStatusThreadTest::startAndFirstReadCallWithTheseArguments()
     QCOMPARE(waited.mid(3), (QStringList{QStringLiteral("0"), QStringLiteral("5000")}));
 }
 
-void PrinterStatusThreadTest::notificationReadsThroughTheOpenHandle()
+void PrinterStatusThreadTest::notificationIsReadThroughTheOpenHandle()
 {
     machine().recordCalls();
     QVERIFY(watch());
@@ -205,7 +205,7 @@ void PrinterStatusThreadTest::notificationReadsThroughTheOpenHandle()
     QCOMPARE(takeReports().last(), status("1"));
 }
 
-void PrinterStatusThreadTest::notificationThatChangesNothing()
+void PrinterStatusThreadTest::notificationWithoutAChangeReportsNothing()
 {
     machine().publish(labelPrinter, everyValue());
     QVERIFY(watch());
@@ -219,7 +219,7 @@ void PrinterStatusThreadTest::notificationThatChangesNothing()
     QCOMPARE(machine().callCount(QStringLiteral("FindNextPrinterChangeNotification")), 2);
 }
 
-void PrinterStatusThreadTest::valueThatChangesAlone_data()
+void PrinterStatusThreadTest::valueThatChangesIsReportedAlone_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("signal");
@@ -239,7 +239,7 @@ void PrinterStatusThreadTest::valueThatChangesAlone_data()
     row(10, "updateErrorChanged", {QStringLiteral("207")});
 }
 
-void PrinterStatusThreadTest::valueThatChangesAlone()
+void PrinterStatusThreadTest::valueThatChangesIsReportedAlone()
 {
     QFETCH(const int, index);
     QFETCH(const QString, signal);
@@ -255,7 +255,7 @@ void PrinterStatusThreadTest::valueThatChangesAlone()
     QCOMPARE(takeReports(), QList<Report>());
 }
 
-void PrinterStatusThreadTest::valueThatDisappears()
+void PrinterStatusThreadTest::valueThatDisappearsIsReportedAsEmpty()
 {
     machine().publish(labelPrinter, everyValue());
     QVERIFY(watch());
@@ -265,14 +265,14 @@ void PrinterStatusThreadTest::valueThatDisappears()
     QVERIFY(settle());
     QCOMPARE(takeReports(), QList<Report>{report("supplyIntMileageChanged", {})});
 
-    // Neither is a number that is not plausible.
+    // A number that is not plausible is not reported either.
     QVERIFY(publish(PrinterValue::number("Ribbon1Identifier", 100001)));
     QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("ribbonIdsChanged"),
                                             labelPrinter,
                                             {QString(), QStringLiteral("102")}}}));
 }
 
-void PrinterStatusThreadTest::everyValueChangesAtOnce()
+void PrinterStatusThreadTest::valuesThatChangeTogetherAreReportedInOrder()
 {
     machine().publish(labelPrinter, everyValue());
     QVERIFY(watch());
@@ -298,7 +298,7 @@ void PrinterStatusThreadTest::everyValueChangesAtOnce()
                     }));
 }
 
-void PrinterStatusThreadTest::onlyRibbon2Changes()
+void PrinterStatusThreadTest::ribbon2AloneIsReportedWithBoth()
 {
     machine().publish(labelPrinter, everyValue());
     QVERIFY(watch());
@@ -312,7 +312,7 @@ void PrinterStatusThreadTest::onlyRibbon2Changes()
     QCOMPARE(takeReports(), QList<Report>());
 }
 
-void PrinterStatusThreadTest::onlyRibbon1Changes()
+void PrinterStatusThreadTest::ribbon1AloneIsReportedWithBoth()
 {
     machine().publish(labelPrinter, everyValue());
     QVERIFY(watch());
@@ -326,7 +326,7 @@ void PrinterStatusThreadTest::onlyRibbon1Changes()
     QCOMPARE(takeReports(), QList<Report>());
 }
 
-void PrinterStatusThreadTest::bothRibbonsChange()
+void PrinterStatusThreadTest::bothRibbonsAreReportedOnce()
 {
     machine().publish(labelPrinter, everyValue());
     QVERIFY(watch());
@@ -350,7 +350,7 @@ void PrinterStatusThreadTest::changeOfLetterCaseIsAChange()
              QList<Report>{report("softwareVersionChanged", QStringLiteral("BOOT"))});
 }
 
-void PrinterStatusThreadTest::renamedPrinterKeepsItsDashboardName()
+void PrinterStatusThreadTest::renamedPrinterIsReportedUnderItsMonitoredName()
 {
     QVERIFY(watch());
     takeReports();
@@ -368,7 +368,8 @@ void PrinterStatusThreadTest::changeBetweenWakeUpAndReArmingIsNotLost()
 {
     QVERIFY(watch());
     takeReports();
-    // As the thread, woken by the first value, goes to re-arm, the second one is published.
+    // The second value is published when the thread, woken by the first one, re-arms the
+    // notification.
     bool isSecondPublished = false;
     machine().setCallHook([&](const Call& call) {
         if (isSecondPublished ||
@@ -380,7 +381,7 @@ void PrinterStatusThreadTest::changeBetweenWakeUpAndReArmingIsNotLost()
     QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("2")});
 
-    // And one after the re-arming, while the values are being read.
+    // The third one is published after the re-arming, while the values are being read.
     bool isThirdPublished = false;
     machine().setCallHook([&](const Call& call) {
         if (isThirdPublished || call.function != QLatin1String("GetPrinterW"))
@@ -392,7 +393,7 @@ void PrinterStatusThreadTest::changeBetweenWakeUpAndReArmingIsNotLost()
     QCOMPARE(takeReports(), (QList<Report>{status("3"), status("4")}));
 }
 
-void PrinterStatusThreadTest::unreadablePrinterIsReadThroughAFreshHandle()
+void PrinterStatusThreadTest::status255IsReadThroughANewHandle()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "255"));
     QVERIFY(watch());
@@ -412,20 +413,20 @@ void PrinterStatusThreadTest::unreadablePrinterIsReadThroughAFreshHandle()
     QCOMPARE(lastCall("ClosePrinter").arguments.first(),
              lastCall("GetPrinterDataA").arguments.first());
 
-    // Readable again: the next one goes through the handle that stays open.
+    // The status is known again: the next read uses the handle that stays open.
     machine().clearCalls();
     QVERIFY(publish(PrinterValue::text("StatusCode", "2")));
     QVERIFY(!functionsCalled().contains(QStringLiteral("OpenPrinterA")));
 }
 
-void PrinterStatusThreadTest::statusLike255IsNotUnreadable_data()
+void PrinterStatusThreadTest::statusLike255IsReadThroughTheOpenHandle_data()
 {
     QTest::addColumn<QByteArray>("code");
     for (const char* code : {"0255", "255 ", "25", "254", "2550"})
         QTest::newRow(code) << QByteArray(code);
 }
 
-void PrinterStatusThreadTest::statusLike255IsNotUnreadable()
+void PrinterStatusThreadTest::statusLike255IsReadThroughTheOpenHandle()
 {
     QFETCH(const QByteArray, code);
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", code));
@@ -435,7 +436,7 @@ void PrinterStatusThreadTest::statusLike255IsNotUnreadable()
     QVERIFY(!functionsCalled().contains(QStringLiteral("OpenPrinterA")));
 }
 
-void PrinterStatusThreadTest::unreadablePrinterWithoutFullAccess()
+void PrinterStatusThreadTest::status255WithoutFullAccessIsReadThroughTheOpenHandle()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "255"));
     QVERIFY(watch());
@@ -444,13 +445,13 @@ void PrinterStatusThreadTest::unreadablePrinterWithoutFullAccess()
     machine().setAdministrable(labelPrinter, false);
     QVERIFY(settle());
 
-    // It is read through the handle at hand, which is not closed for that.
+    // It is read through the open handle, which is not closed.
     QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
     QVERIFY(!functionsCalled().contains(QStringLiteral("ClosePrinter")));
 }
 
-void PrinterStatusThreadTest::printerNameOutsideOfLatin1()
+void PrinterStatusThreadTest::printerNameOutsideLatin1()
 {
     const QString name = QStringLiteral("Étiquettes 日本 №1");
     machine().addPrinter({.name = name, .driver = QStringLiteral("Stratamark Alder")});
@@ -460,12 +461,11 @@ void PrinterStatusThreadTest::printerNameOutsideOfLatin1()
              (QList<Report>{{QStringLiteral("printerNameChangedSignal"), name, {name}}}));
 }
 
-void PrinterStatusThreadTest::nameIsTakenAtTheMomentOfEachReport()
+void PrinterStatusThreadTest::eachReportCarriesTheNameAtThatMoment()
 {
     QVERIFY(watch());
     takeReports();
-    // Set while the thread is held at the reading, so that no lock is needed to be sure of the
-    // order.
+    // The name is set while the thread is inside the call, so no lock is needed.
     machine().setCallHook([&](const Call& call) {
         if (call.function == QLatin1String("GetPrinterW"))
             thread().setMonitoredPrinterName(QStringLiteral("Another Name"));
@@ -476,7 +476,7 @@ void PrinterStatusThreadTest::nameIsTakenAtTheMomentOfEachReport()
                                             {QStringLiteral("6")}}}));
 }
 
-void PrinterStatusThreadTest::oneThreadReportsOnItsOwnThread()
+void PrinterStatusThreadTest::signalsAreEmittedOnTheMonitoringThread()
 {
     machine().recordCalls();
     Qt::HANDLE reportingThread = nullptr;

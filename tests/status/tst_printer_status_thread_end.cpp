@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// How a monitoring thread is brought to its end, whenever that comes.
+// How a monitoring thread ends, at any moment at which it is stopped.
 #include "patience.h"
 #include "thread_test.h"
 
@@ -15,7 +15,7 @@ QString name(const char* function)
     return QString::fromLatin1(function);
 }
 
-/// Holds whoever calls a function until it is let go.
+/// Blocks every caller of a function until `letGo` is called.
 class HeldCall
 {
 public:
@@ -44,16 +44,16 @@ class PrinterStatusThreadEndTest : public ThreadTest
 
 private Q_SLOTS:
     void stopEndsAWaitAndClosesInOrder();
-    void stopOnlySignals();
+    void stopDoesNotWait();
     void stopBeforeTheStartDoesNothing();
     void stopBeforeTheEventExistsDoesNothing();
-    void stopTwice();
-    void stopWhileTheEventIsBeingClosed();
-    void stopAfterTheEnd();
+    void secondStopSignalsNothing();
+    void stopDoesNotSignalAClosedEvent();
+    void stopAfterTheEndDoesNothing();
     void stopThatFailsCanBeRepeated();
-    void stopWhileTheSpoolerIsDown();
-    void stopWinsOverAPendingNotification();
-    void endsWhenTheEventCannotBeMade();
+    void stopEndsAThreadWhileTheSpoolerIsDown();
+    void stopComesBeforeAPendingNotification();
+    void endsWhenTheEventCannotBeCreated();
     void endsWithoutClosingAClosedPrinterAgain();
     void canBeStartedAgain();
     void stopsAndStartsAtRandomMoments();
@@ -80,7 +80,7 @@ void PrinterStatusThreadEndTest::stopEndsAWaitAndClosesInOrder()
     QCOMPARE(machine().openHandles(), 0);
 }
 
-void PrinterStatusThreadEndTest::stopOnlySignals()
+void PrinterStatusThreadEndTest::stopDoesNotWait()
 {
     QVERIFY(watch());
     HeldCall closing(machine(), "CloseHandle");
@@ -111,7 +111,7 @@ void PrinterStatusThreadEndTest::stopBeforeTheEventExistsDoesNothing()
     QVERIFY(thread().isRunning());
 }
 
-void PrinterStatusThreadEndTest::stopTwice()
+void PrinterStatusThreadEndTest::secondStopSignalsNothing()
 {
     QVERIFY(watch());
     thread().stop();
@@ -120,20 +120,20 @@ void PrinterStatusThreadEndTest::stopTwice()
     QCOMPARE(machine().callCount(name("SetEvent")), 1);
 }
 
-void PrinterStatusThreadEndTest::stopWhileTheEventIsBeingClosed()
+void PrinterStatusThreadEndTest::stopDoesNotSignalAClosedEvent()
 {
     QVERIFY(watch());
     HeldCall closing(machine(), "FindClosePrinterChangeNotification");
     thread().stop();
     QVERIFY(closing.waitUntilReached());
-    // The event is closed by now: signalling it would be signalling whatever has its handle next.
+    // The event is closed already, and its handle may belong to another object.
     thread().stop();
     QCOMPARE(machine().callCount(name("SetEvent")), 1);
     closing.letGo();
     QVERIFY(thread().wait(patience));
 }
 
-void PrinterStatusThreadEndTest::stopAfterTheEnd()
+void PrinterStatusThreadEndTest::stopAfterTheEndDoesNothing()
 {
     QVERIFY(watch());
     endThread();
@@ -152,7 +152,7 @@ void PrinterStatusThreadEndTest::stopThatFailsCanBeRepeated()
     QVERIFY(thread().wait(patience));
 }
 
-void PrinterStatusThreadEndTest::stopWhileTheSpoolerIsDown()
+void PrinterStatusThreadEndTest::stopEndsAThreadWhileTheSpoolerIsDown()
 {
     QVERIFY(watch());
     machine().stopSpooler();
@@ -161,11 +161,11 @@ void PrinterStatusThreadEndTest::stopWhileTheSpoolerIsDown()
     QVERIFY(thread().wait(patience));
 }
 
-void PrinterStatusThreadEndTest::stopWinsOverAPendingNotification()
+void PrinterStatusThreadEndTest::stopComesBeforeAPendingNotification()
 {
     QVERIFY(watch());
     takeReports();
-    // Both are signalled when the thread comes back to its wait.
+    // Both objects are signalled when the thread returns to its wait.
     HeldCall reading(machine(), "GetPrinterW");
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
     QVERIFY(reading.waitUntilReached());
@@ -176,7 +176,7 @@ void PrinterStatusThreadEndTest::stopWinsOverAPendingNotification()
     QCOMPARE(takeReports(), QList<Report>{status("1")});
 }
 
-void PrinterStatusThreadEndTest::endsWhenTheEventCannotBeMade()
+void PrinterStatusThreadEndTest::endsWhenTheEventCannotBeCreated()
 {
     machine().failCall(name("CreateEventW"), 1, ERROR_NOT_ENOUGH_MEMORY);
     thread().start();
@@ -189,7 +189,7 @@ void PrinterStatusThreadEndTest::endsWhenTheEventCannotBeMade()
 
 void PrinterStatusThreadEndTest::endsWithoutClosingAClosedPrinterAgain()
 {
-    // The printer is closed when its notification fails, and the event's failure ends the thread.
+    // The failed notification closes the printer, and the failed event ends the thread.
     machine().failCall(name("FindFirstPrinterChangeNotification"), 1, ERROR_NOT_ENOUGH_MEMORY);
     machine().failCall(name("CreateEventW"), 1, ERROR_NOT_ENOUGH_MEMORY);
     thread().start();
@@ -204,7 +204,7 @@ void PrinterStatusThreadEndTest::canBeStartedAgain()
     QVERIFY(watch());
     endThread();
     takeReports();
-    // What was seen before is forgotten.
+    // The values that the first run has seen are not remembered.
     QVERIFY(watch());
     QCOMPARE(takeReports(), QList<Report>{report("printerNameChangedSignal", labelPrinter)});
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What a monitoring thread does when the spooler stops, starts or refuses something.
+// What a monitoring thread does when the spooler stops, starts or refuses a call.
 #include "log_lines.h"
 #include "thread_test.h"
 
@@ -47,28 +47,28 @@ private Q_SLOTS:
     void pollsAfterFiveSecondsWithoutNotification();
     void notificationDelaysThePoll();
     void stoppingSpoolerIsReported();
-    void eachStateShortOfRunningIsReportedAgain();
-    void stoppingIsReportedEvenWhenTheLastStatusSaysSo();
-    void spoolerThatComesBack();
-    void comesBackWithTheStatusUnchanged();
-    void comesBackWithoutThePrinter();
-    void comesBackWithoutTheNotification();
+    void eachStateOtherThanRunningIsReported();
+    void stoppingIsReportedAlsoWhenTheLastStatusWas254();
+    void printerIsOpenedAgainWhenTheSpoolerRunsAgain();
+    void unchangedStatusIsReportedWhenTheSpoolerRunsAgain();
+    void printerThatCannotBeOpenedAgainIsReportedAs254();
+    void failedNotificationAfterARestartIsReportedAs254();
     void failedQueryCountsAsAStateOfItsOwn();
     void firstQueryThatFailedLeaksNothing();
-    void serviceThatCannotBeAskedIsNotTakenForStopped_data();
-    void serviceThatCannotBeAskedIsNotTakenForStopped();
-    void printerThatCannotBeOpened();
-    void printerThatCannotBeOpenedIsNotTriedAgain();
-    void spoolerDownAtTheStart();
-    void notificationThatCannotBeHad();
-    void fullAccessThatIsRefused();
-    void failedWaitIsTriedAgain();
-    void failedReArmingStillReads();
-    void printerThatIsRemoved();
+    void serviceThatCannotBeQueriedDoesNotCountAsStopped_data();
+    void serviceThatCannotBeQueriedDoesNotCountAsStopped();
+    void printerThatCannotBeOpenedIsLogged();
+    void printerThatCannotBeOpenedIsNotRetried();
+    void printerIsOpenedWhenTheSpoolerStartsLater();
+    void failedNotificationIsLogged();
+    void refusedFullAccessIsLogged();
+    void failedWaitIsRetried();
+    void failedReArmingDoesNotPreventTheRead();
+    void valuesOfARemovedPrinterBecomeEmpty();
 
 private:
-    /// Whether the last wait was for one object, with the time-out of the poll.
-    bool waitsForItsEndAlone()
+    /// Whether the last wait was for one object, with the poll's timeout.
+    bool waitsForTheStopEventOnly()
     {
         const QStringList arguments = lastCall("WaitForMultipleObjects").arguments;
         return arguments.size() == 4 && arguments.first() == QLatin1String("1") &&
@@ -86,7 +86,7 @@ void PrinterStatusThreadSpoolerTest::pollsAfterFiveSecondsWithoutNotification()
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 2);
     QVERIFY(pass(5000ms));
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 3);
-    // The poll reads no printer.
+    // The poll does not read the printer.
     QCOMPARE(machine().callCount(name("GetPrinterDataA")), 11);
 }
 
@@ -123,12 +123,12 @@ void PrinterStatusThreadSpoolerTest::stoppingSpoolerIsReported()
                  .mid(1));
     QCOMPARE(lastCall("FindClosePrinterChangeNotification").arguments, QStringList{waited.at(2)});
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
-    QVERIFY(waitsForItsEndAlone());
+    QVERIFY(waitsForTheStopEventOnly());
     QCOMPARE(lastCall("WaitForMultipleObjects").arguments.at(1), waited.at(1));
     QVERIFY(logged().isEmpty());
 }
 
-void PrinterStatusThreadSpoolerTest::eachStateShortOfRunningIsReportedAgain()
+void PrinterStatusThreadSpoolerTest::eachStateOtherThanRunningIsReported()
 {
     QVERIFY(watch());
     takeReports();
@@ -140,7 +140,7 @@ void PrinterStatusThreadSpoolerTest::eachStateShortOfRunningIsReportedAgain()
         QCOMPARE(takeReports(), QList<Report>{status("254")});
         QVERIFY(pass(5000ms));
         QCOMPARE(takeReports(), QList<Report>());
-        // Closing is done at each of them, though after the first nothing is open.
+        // The handles are closed at each state, although nothing is open after the first.
         QCOMPARE(machine().calls(name("FindClosePrinterChangeNotification")).size(), 1);
         QCOMPARE(machine().calls(name("ClosePrinter")).size(), 1);
     }
@@ -148,7 +148,7 @@ void PrinterStatusThreadSpoolerTest::eachStateShortOfRunningIsReportedAgain()
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{noHandle});
 }
 
-void PrinterStatusThreadSpoolerTest::stoppingIsReportedEvenWhenTheLastStatusSaysSo()
+void PrinterStatusThreadSpoolerTest::stoppingIsReportedAlsoWhenTheLastStatusWas254()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "254"));
     QVERIFY(watch());
@@ -158,7 +158,7 @@ void PrinterStatusThreadSpoolerTest::stoppingIsReportedEvenWhenTheLastStatusSays
     QCOMPARE(takeReports(), QList<Report>{status("254")});
 }
 
-void PrinterStatusThreadSpoolerTest::spoolerThatComesBack()
+void PrinterStatusThreadSpoolerTest::printerIsOpenedAgainWhenTheSpoolerRunsAgain()
 {
     machine().publish(labelPrinter, everyValue());
     QVERIFY(watch());
@@ -173,7 +173,7 @@ void PrinterStatusThreadSpoolerTest::spoolerThatComesBack()
     QCOMPARE(takeReports(), (QList<Report>{status("1"), report("supplyIntMileageChanged",
                                                                QStringLiteral("4711"))}));
 
-    // Opened for watching, and read through a handle with full access of its own.
+    // One handle is opened for watching, and another with full access for reading.
     const QList<Call> opened = machine().calls(name("OpenPrinterA"));
     QCOMPARE(opened.size(), 2);
     QCOMPARE(opened.at(0).arguments, (QStringList{labelPrinter, QStringLiteral("0")}));
@@ -186,7 +186,7 @@ void PrinterStatusThreadSpoolerTest::spoolerThatComesBack()
     QCOMPARE(waits.first(), QStringLiteral("2"));
     QVERIFY(waits.at(2) != noHandle);
 
-    // And watched as before.
+    // The printer is watched as before.
     QVERIFY(publish(PrinterValue::text("StatusCode", "3")));
     QCOMPARE(takeReports(), QList<Report>{status("3")});
     machine().stopSpooler();
@@ -194,7 +194,7 @@ void PrinterStatusThreadSpoolerTest::spoolerThatComesBack()
     QCOMPARE(takeReports(), QList<Report>{status("254")});
 }
 
-void PrinterStatusThreadSpoolerTest::comesBackWithTheStatusUnchanged()
+void PrinterStatusThreadSpoolerTest::unchangedStatusIsReportedWhenTheSpoolerRunsAgain()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
     QVERIFY(watch());
@@ -203,11 +203,11 @@ void PrinterStatusThreadSpoolerTest::comesBackWithTheStatusUnchanged()
     QVERIFY(pass(5000ms));
     machine().startSpooler();
     QVERIFY(pass(5000ms));
-    // "1" is news again after "254"; the name is not.
+    // After "254" the status "1" is a change again; the name is not.
     QCOMPARE(takeReports(), (QList<Report>{status("254"), status("1")}));
 }
 
-void PrinterStatusThreadSpoolerTest::comesBackWithoutThePrinter()
+void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpenedAgainIsReportedAs254()
 {
     QVERIFY(watch());
     machine().stopSpooler();
@@ -222,9 +222,9 @@ void PrinterStatusThreadSpoolerTest::comesBackWithoutThePrinter()
     QCOMPARE(logged(), QList<LogRecord>{openingFailed()});
     QCOMPARE(machine().calls(name("OpenPrinterA")).size(), 1);
     QCOMPARE(machine().calls(name("GetPrinterDataA")).size(), 0);
-    QVERIFY(waitsForItsEndAlone());
+    QVERIFY(waitsForTheStopEventOnly());
 
-    // Nothing is tried again before the service has changed its state.
+    // Nothing is retried until the state of the service changes.
     QVERIFY(pass(5000ms));
     QCOMPARE(machine().calls(name("OpenPrinterA")).size(), 1);
     machine().stopSpooler();
@@ -236,7 +236,7 @@ void PrinterStatusThreadSpoolerTest::comesBackWithoutThePrinter()
     QCOMPARE(takeReports(), QList<Report>{status("1")});
 }
 
-void PrinterStatusThreadSpoolerTest::comesBackWithoutTheNotification()
+void PrinterStatusThreadSpoolerTest::failedNotificationAfterARestartIsReportedAs254()
 {
     QVERIFY(watch());
     machine().stopSpooler();
@@ -252,7 +252,7 @@ void PrinterStatusThreadSpoolerTest::comesBackWithoutTheNotification()
     const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
 
-    // The closed printer's handle is what is closed when the service goes down the next time.
+    // When the service stops again, the closed printer's handle is closed a second time.
     allowMisuse(Kind::ClosedTwice, name("ClosePrinter"));
     machine().clearCalls();
     machine().stopSpooler();
@@ -270,7 +270,7 @@ void PrinterStatusThreadSpoolerTest::failedQueryCountsAsAStateOfItsOwn()
     QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
     QVERIFY(pass(5000ms));
-    // The printer publishes no status, which after "254" is a change to nothing.
+    // The printer publishes no status, so the status changes from "254" to empty.
     QCOMPARE(takeReports(), QList<Report>{status("")});
     QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
@@ -285,8 +285,8 @@ void PrinterStatusThreadSpoolerTest::firstQueryThatFailedLeaksNothing()
     const int open = machine().openHandles();
     machine().recordCalls();
 
-    // The service now "comes back" while the printer is open and watched: it is opened afresh, and
-    // what was open is closed.
+    // The state changes to running while the printer is open and watched. It is opened again, and
+    // the old handles are closed.
     QVERIFY(pass(5000ms));
     QCOMPARE(machine().openHandles(), open);
     QCOMPARE(takeReports(), QList<Report>());
@@ -296,14 +296,14 @@ void PrinterStatusThreadSpoolerTest::firstQueryThatFailedLeaksNothing()
     QCOMPARE(takeReports(), QList<Report>{status("2")});
 }
 
-void PrinterStatusThreadSpoolerTest::serviceThatCannotBeAskedIsNotTakenForStopped_data()
+void PrinterStatusThreadSpoolerTest::serviceThatCannotBeQueriedDoesNotCountAsStopped_data()
 {
     QTest::addColumn<QString>("function");
     QTest::newRow("manager") << name("OpenSCManagerW");
     QTest::newRow("service") << name("OpenServiceW");
 }
 
-void PrinterStatusThreadSpoolerTest::serviceThatCannotBeAskedIsNotTakenForStopped()
+void PrinterStatusThreadSpoolerTest::serviceThatCannotBeQueriedDoesNotCountAsStopped()
 {
     QFETCH(const QString, function);
     machine().failCall(function, 1, ERROR_ACCESS_DENIED);
@@ -314,7 +314,7 @@ void PrinterStatusThreadSpoolerTest::serviceThatCannotBeAskedIsNotTakenForStoppe
     QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>());
 
-    // The service is opened and asked whatever the handles are.
+    // The service is opened and queried even through invalid handles.
     QCOMPARE(machine().callCount(name("OpenServiceW")), 1);
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 3);
     if (function == name("OpenSCManagerW"))
@@ -323,7 +323,7 @@ void PrinterStatusThreadSpoolerTest::serviceThatCannotBeAskedIsNotTakenForStoppe
         allowMisuse(Kind::NotAHandle, name("QueryServiceStatus"));
 }
 
-void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpened()
+void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpenedIsLogged()
 {
     thread().setMonitoredPrinterName(QStringLiteral("No Such Printer"));
     machine().recordCalls();
@@ -335,12 +335,12 @@ void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpened()
     QCOMPARE(takeReports(), QList<Report>());
     QCOMPARE(machine().calls(name("OpenPrinterA")).size(), 1);
     QCOMPARE(machine().calls(name("GetPrinterDataA")).size(), 0);
-    QVERIFY(waitsForItsEndAlone());
+    QVERIFY(waitsForTheStopEventOnly());
     QVERIFY(pass(4999ms));
     QCOMPARE(machine().calls(name("QueryServiceStatus")).size(), 1);
     QVERIFY(pass(1ms));
     QCOMPARE(machine().calls(name("QueryServiceStatus")).size(), 2);
-    QVERIFY(waitsForItsEndAlone());
+    QVERIFY(waitsForTheStopEventOnly());
     QCOMPARE(machine().calls(name("WaitForMultipleObjects")).size(), 2);
 
     machine().clearCalls();
@@ -352,7 +352,7 @@ void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpened()
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{noHandle});
 }
 
-void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpenedIsNotTriedAgain()
+void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpenedIsNotRetried()
 {
     machine().failCall(name("OpenPrinterA"), 1, ERROR_INVALID_PRINTER_NAME);
     QVERIFY(watch());
@@ -362,7 +362,7 @@ void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpenedIsNotTriedAgain()
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 11);
     QCOMPARE(takeReports(), QList<Report>());
 
-    // A change of the service is what opens it.
+    // It is opened when the service's state changes.
     machine().stopSpooler();
     QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
@@ -372,14 +372,14 @@ void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpenedIsNotTriedAgain()
              (QList<Report>{status(""), report("printerNameChangedSignal", labelPrinter)}));
 }
 
-void PrinterStatusThreadSpoolerTest::spoolerDownAtTheStart()
+void PrinterStatusThreadSpoolerTest::printerIsOpenedWhenTheSpoolerStartsLater()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
     machine().stopSpooler();
     QVERIFY(watch());
     QCOMPARE(logged(), QList<LogRecord>{openingFailed()});
     QVERIFY(pass(5000ms));
-    QCOMPARE(takeReports(), QList<Report>()); // the state is the one found at the start
+    QCOMPARE(takeReports(), QList<Report>()); // the state has not changed since the start
 
     machine().startSpooler();
     QVERIFY(pass(5000ms));
@@ -387,7 +387,7 @@ void PrinterStatusThreadSpoolerTest::spoolerDownAtTheStart()
              (QList<Report>{status("1"), report("printerNameChangedSignal", labelPrinter)}));
 }
 
-void PrinterStatusThreadSpoolerTest::notificationThatCannotBeHad()
+void PrinterStatusThreadSpoolerTest::failedNotificationIsLogged()
 {
     machine().failCall(name("FindFirstPrinterChangeNotification"), 1, ERROR_NOT_ENOUGH_MEMORY);
     machine().recordCalls();
@@ -396,7 +396,7 @@ void PrinterStatusThreadSpoolerTest::notificationThatCannotBeHad()
     QCOMPARE(takeReports(), QList<Report>());
     const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
-    QVERIFY(waitsForItsEndAlone());
+    QVERIFY(waitsForTheStopEventOnly());
 
     allowMisuse(Kind::ClosedTwice, name("ClosePrinter"));
     machine().clearCalls();
@@ -404,7 +404,7 @@ void PrinterStatusThreadSpoolerTest::notificationThatCannotBeHad()
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
 }
 
-void PrinterStatusThreadSpoolerTest::fullAccessThatIsRefused()
+void PrinterStatusThreadSpoolerTest::refusedFullAccessIsLogged()
 {
     machine().setAdministrable(labelPrinter, false);
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
@@ -418,7 +418,7 @@ void PrinterStatusThreadSpoolerTest::fullAccessThatIsRefused()
     QCOMPARE(machine().calls(name("ClosePrinter")).size(), 0);
 }
 
-void PrinterStatusThreadSpoolerTest::failedWaitIsTriedAgain()
+void PrinterStatusThreadSpoolerTest::failedWaitIsRetried()
 {
     machine().failCall(name("WaitForMultipleObjects"), 1, ERROR_INVALID_HANDLE);
     QVERIFY(watch());
@@ -429,25 +429,26 @@ void PrinterStatusThreadSpoolerTest::failedWaitIsTriedAgain()
     QCOMPARE(takeReports(), QList<Report>{status("1")});
 }
 
-void PrinterStatusThreadSpoolerTest::failedReArmingStillReads()
+void PrinterStatusThreadSpoolerTest::failedReArmingDoesNotPreventTheRead()
 {
     QVERIFY(watch());
     takeReports();
     machine().failCall(name("FindNextPrinterChangeNotification"), 1, ERROR_INVALID_HANDLE);
-    // Not re-armed, the notification is still signalled, so that the next turn re-arms it.
+    // The notification is not re-armed and so still signalled; the next turn of the loop re-arms
+    // it.
     QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
     QCOMPARE(machine().callCount(name("FindNextPrinterChangeNotification")), 2);
 }
 
-void PrinterStatusThreadSpoolerTest::printerThatIsRemoved()
+void PrinterStatusThreadSpoolerTest::valuesOfARemovedPrinterBecomeEmpty()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
     QVERIFY(watch());
     takeReports();
     machine().removePrinter(labelPrinter);
     QVERIFY(settle());
-    // Nothing can be read any more.
+    // No value can be read any more.
     QCOMPARE(takeReports(), (QList<Report>{status(""), report("printerNameChangedSignal", {})}));
 }
 

@@ -23,8 +23,8 @@ inline QString statusChanged(int status, const QString& printer)
 
 /// Base of the tests of a host on the system's spooler, with the library as it ships.
 ///
-/// The library opens roll.db beside the host's executable, so each of these tests has a folder of
-/// its own.
+/// The library opens roll.db beside the host's executable, so each of these tests has its own
+/// folder.
 class HostTest : public LibraryTest
 {
     Q_OBJECT

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// A host's controller: printers come, go offline, have errors, take commands.
+// The controller of a host: printers are found, go offline, have errors and receive commands.
 #include "host_test.h"
 #include "log_recorder.h"
 
@@ -28,15 +28,15 @@ class ControllerOnWindowsTest : public HostTest
 
 private Q_SLOTS:
     void findsThePrintersOfEveryModel();
-    void ignoresOthersAndSaysSoOnce();
-    void takesUpAnOfflinePrinterLater();
-    void tellsOfAPrinterThatGoesOffline();
-    void worksWithTheDefaultPrinter();
+    void otherPrintersAreIgnoredAndReportedOnce();
+    void offlinePrinterGetsItsRecordWhenItIsOnline();
+    void printerThatGoesOfflineIsReported();
+    void defaultPrinterBecomesActive();
     void readsWhatIsLoaded();
     void errorIsRaisedAndCleared();
     void titlesOfTheCodes();
     void commandArrivesAtThePrinter();
-    void commandToNobodyIsLogged();
+    void commandToAnUnknownPrinterIsLogged();
 };
 
 void ControllerOnWindowsTest::findsThePrintersOfEveryModel()
@@ -62,7 +62,7 @@ void ControllerOnWindowsTest::findsThePrintersOfEveryModel()
     QCOMPARE(m_controller->getPrinterTypeEnum(watched.at(2)), VXPrinting::PrinterType::CedarMax);
 }
 
-void ControllerOnWindowsTest::ignoresOthersAndSaysSoOnce()
+void ControllerOnWindowsTest::otherPrintersAreIgnoredAndReportedOnce()
 {
     host();
     const QString printer = addPrinter("Harlow Devices Old");
@@ -73,7 +73,7 @@ void ControllerOnWindowsTest::ignoresOthersAndSaysSoOnce()
     QCOMPARE(recordNames(), QStringList());
 }
 
-void ControllerOnWindowsTest::takesUpAnOfflinePrinterLater()
+void ControllerOnWindowsTest::offlinePrinterGetsItsRecordWhenItIsOnline()
 {
     const QString printer = addPrinter("Stratamark CedarMax", offlinePrinter);
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("1")}));
@@ -89,7 +89,7 @@ void ControllerOnWindowsTest::takesUpAnOfflinePrinterLater()
     QTRY_VERIFY_WITH_TIMEOUT(m_signals.contains(statusChanged(1, printer)), patience);
 }
 
-void ControllerOnWindowsTest::tellsOfAPrinterThatGoesOffline()
+void ControllerOnWindowsTest::printerThatGoesOfflineIsReported()
 {
     const QString printer = addPrinter("Stratamark CedarMax");
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("1")}));
@@ -100,7 +100,7 @@ void ControllerOnWindowsTest::tellsOfAPrinterThatGoesOffline()
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("0")}));
     QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, 257, patience);
     QVERIFY(!record(printer).printerOnline);
-    // The only record there is stays the active printer.
+    // The only record stays the active printer.
     QCOMPARE(takeSignals(),
              (QStringList{QStringLiteral("activeDefaultPrinterSetSignal(%1, 1)").arg(printer),
                           statusChanged(257, printer), listUpdated}));
@@ -111,7 +111,7 @@ void ControllerOnWindowsTest::tellsOfAPrinterThatGoesOffline()
     QVERIFY(record(printer).printerOnline);
 }
 
-void ControllerOnWindowsTest::worksWithTheDefaultPrinter()
+void ControllerOnWindowsTest::defaultPrinterBecomesActive()
 {
     const QString first = addPrinter("Stratamark Alder");
     const QString second = addPrinter("Stratamark Alder");
@@ -192,7 +192,7 @@ void ControllerOnWindowsTest::titlesOfTheCodes()
 
 void ControllerOnWindowsTest::commandArrivesAtThePrinter()
 {
-    // A port that is named like a file is one: what the printer is sent ends up in it.
+    // A port that is named like a file is a file, which receives what is sent to the printer.
     const QTemporaryDir folder;
     const QString port = QDir::toNativeSeparators(folder.filePath(QStringLiteral("printed.bin")));
     const QString printer = addPrinter("Stratamark CedarMax", localPrinter, port);
@@ -204,7 +204,7 @@ void ControllerOnWindowsTest::commandArrivesAtThePrinter()
     QCOMPARE(printed.readAll(), QByteArray("FEED 3\r\n"));
 }
 
-void ControllerOnWindowsTest::commandToNobodyIsLogged()
+void ControllerOnWindowsTest::commandToAnUnknownPrinterIsLogged()
 {
     host();
     const LogRecorder log;

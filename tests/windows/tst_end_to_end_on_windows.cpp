@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// From a driver's value to the host's record, and to another process that asks the host's
+// From a driver's value to the host's record, and to another process that calls the host's
 // endpoints.
 #include "host_test.h"
 #include "other_process.h"

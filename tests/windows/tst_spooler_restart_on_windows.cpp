@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// The library as it ships while the service "Spooler" is stopped and started for real.
+// The library as it ships, while the service "Spooler" is really stopped and started.
 #include "library_test.h"
 
 namespace {
@@ -19,7 +19,7 @@ class SpoolerRestartTest : public LibraryTest
 private Q_SLOTS:
     void spoolerThatStopsAndComesBack();
     void valueThatChangesWhileTheSpoolerIsDown();
-    void stopWhileTheSpoolerIsDown();
+    void stopEndsAThreadWhileTheSpoolerIsDown();
     void printerThatCouldNotBeOpened();
 
 private:
@@ -63,7 +63,7 @@ void SpoolerRestartTest::valueThatChangesWhileTheSpoolerIsDown()
     QVERIFY(waitFor({QStringLiteral("softwareVersionChanged"), printer, {QStringLiteral("6.1")}}));
 }
 
-void SpoolerRestartTest::stopWhileTheSpoolerIsDown()
+void SpoolerRestartTest::stopEndsAThreadWhileTheSpoolerIsDown()
 {
     const QString printer = watchReadyPrinter("Stratamark Alder");
     QVERIFY(!printer.isEmpty());
@@ -73,7 +73,7 @@ void SpoolerRestartTest::stopWhileTheSpoolerIsDown()
     clock.start();
     while (!m_thread->wait(10))
         m_thread->stop();
-    QVERIFY(clock.elapsed() < 4000); // not with the next poll
+    QVERIFY(clock.elapsed() < 4000); // before the next poll
 }
 
 void SpoolerRestartTest::printerThatCouldNotBeOpened()
