@@ -46,8 +46,8 @@ public:
         return record;
     }
 
-    /// The records of all printers of these kinds (PRINTER_ENUM_...), in the spooler's order. The
-    /// result of the sizing call is not looked at: where that fails, the filling fails too.
+    /// The records of all printers of these kinds (PRINTER_ENUM_...), in the spooler's order.
+    /// Whether the sizing call failed is not checked: if it did, the filling fails too.
     static SpoolerRecord ofPrinters(DWORD kinds)
     {
         SpoolerRecord records;

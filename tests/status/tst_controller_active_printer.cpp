@@ -388,9 +388,9 @@ void ActivePrinterTest::anotherPrinterIsChosenWhenTheActiveOneGoesOffline()
 
     setOffline(cherry);
     reportStatus(cherry, report);
-    const QStringList told = listFirst ? QStringList{updated, status(257, cherry), active(ash)}
-                                       : QStringList{active(ash), status(257, cherry), updated};
-    QCOMPARE(takeSignals(), told);
+    const QStringList expected = listFirst ? QStringList{updated, status(257, cherry), active(ash)}
+                                           : QStringList{active(ash), status(257, cherry), updated};
+    QCOMPARE(takeSignals(), expected);
     QCOMPARE(controller().activeDefaultPrinter(), ash);
     QCOMPARE(takeMessages(), QStringList({QStringLiteral("Cherry went offline"),
                                           QStringLiteral("Setting defaultActivePrinter Ash.")}));

@@ -487,8 +487,8 @@ void ControllerStatusTest::slotMayAddRecordsDuringAReport()
 {
     // The report must still reach its own record.
     int added = 0;
-    recorder().hook = [&](const QString& told) {
-        if (told != errorRaised)
+    recorder().hook = [&](const QString& signal) {
+        if (signal != errorRaised)
             return;
         for (; added < 50; ++added)
             addNetworkPrinter(QStringLiteral("Net %1").arg(added));

@@ -109,8 +109,8 @@ void ControllerSuppliesTest::supplyFillsTheRecord()
     database().supplyRgb = 0x00C8FF0E;
     // The record is filled before the signal is emitted.
     QString skuInSlot;
-    recorder().hook = [&](const QString& told) {
-        if (told != updated)
+    recorder().hook = [&](const QString& signal) {
+        if (signal != updated)
             skuInSlot = record(birch).supplySKU;
     };
     report("onSupplyIdChanged", birch, roll);

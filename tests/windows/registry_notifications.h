@@ -6,5 +6,5 @@
 /// three functions wait for changes of the printer's key in the registry, where the spooler stores
 /// its values.
 ///
-/// False when the library does not import all three.
+/// False when the library does not import all three of them.
 bool supplyChangeNotifications(const wchar_t* library);
