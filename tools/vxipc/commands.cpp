@@ -3,6 +3,7 @@
 #include "commands.h"
 
 #include "arguments.h"
+#include "ipc_names.h"
 #include "json_text.h"
 #include "shown_text.h"
 #include "vxipcclient.h"
@@ -16,8 +17,6 @@
 #include <optional>
 
 namespace {
-
-const QString Prefix = QStringLiteral("vxipc-");
 
 struct Service
 {
@@ -60,7 +59,8 @@ void printPlain(const QJsonValue& value)
 std::optional<QString> serverName(const QString& service)
 {
     static const QRegularExpression form(
-        QStringLiteral("^(?:vxipc-)?(?<service>[a-z][a-z0-9]*|-?\\d+)(?<process>(?:-\\d+){0,2})$"));
+        QStringLiteral("^(?:%1)?(?<service>[a-z][a-z0-9]*|-?\\d+)(?<process>(?:-\\d+){0,2})$")
+            .arg(endpointNamePrefix));
     const QRegularExpressionMatch match = form.match(service);
     if (!match.hasMatch())
         return std::nullopt;
@@ -68,17 +68,17 @@ std::optional<QString> serverName(const QString& service)
     const QString process = match.captured(QStringLiteral("process"));
     for (const Service& each : services) {
         if (wanted == QLatin1String(each.name))
-            return Prefix + QString::number(each.serverType) + process;
+            return endpointNamePrefix + QString::number(each.serverType) + process;
     }
     bool isNumber = false;
     wanted.toInt(&isNumber);
-    return isNumber ? std::optional(Prefix + wanted + process) : std::nullopt;
+    return isNumber ? std::optional(endpointNamePrefix + wanted + process) : std::nullopt;
 }
 
 /// The service that an endpoint's name stands for, its number when it has no name of its own.
 QString serviceOf(const QString& server)
 {
-    const QString number = server.mid(Prefix.size()).section(QLatin1Char('-'), 0, 0);
+    const QString number = server.mid(endpointNamePrefix.size()).section(QLatin1Char('-'), 0, 0);
     for (const Service& each : services) {
         if (number == QString::number(each.serverType))
             return QString::fromLatin1(each.name);
