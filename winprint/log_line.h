@@ -27,8 +27,12 @@ struct LogLine
 template <typename... Text>
 void print(const LogLine& line, const Text&... text)
 {
-    CuteMessageLogger(VX_GLOBAL_LOGGER(), Logger::Debug, line.file, line.number, line.function)
-        .write(line.message, static_cast<const char*>(text)...);
+    const CuteMessageLogger logger(VX_GLOBAL_LOGGER(), Logger::Debug, line.file, line.number,
+                                   line.function);
+    if constexpr (sizeof...(text) == 0)
+        logger.write("%s", line.message);
+    else
+        logger.write(line.message, static_cast<const char*>(text)...);
 }
 
 /// Writes a text without any formatting.
