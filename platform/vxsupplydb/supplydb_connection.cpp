@@ -45,13 +45,13 @@ QString headerFault(const QByteArray& header)
 {
     if (header.size() < fileHeaderSize || !header.startsWith(QByteArray(magic, sizeof(magic))))
         return QStringLiteral("not an SQLite database");
-    if (numberAt(header, applicationIdOffset) != SupplyDbSchema::applicationId)
+    if (numberAt(header, applicationIdOffset) != supplydb_schema::applicationId)
         return QStringLiteral("an SQLite database, but not a supply database");
     const quint32 version = numberAt(header, userVersionOffset);
-    if (version != SupplyDbSchema::schemaVersion)
+    if (version != supplydb_schema::schemaVersion)
         return QStringLiteral("of schema version %1, where version %2 can be read")
             .arg(version)
-            .arg(SupplyDbSchema::schemaVersion);
+            .arg(supplydb_schema::schemaVersion);
     // SQLite makes files beside one with a write-ahead log, even to read it.
     if (header.at(writeVersionOffset) != rollbackJournal ||
         header.at(readVersionOffset) != rollbackJournal)
@@ -94,7 +94,7 @@ QString pagesFault(QFile& file, const Finding& asItIs)
             return found->fault;
     }
     Finding finding = asItIs;
-    finding.fault = SupplyDbPages::fault(file);
+    finding.fault = supplydb_pages::fault(file);
     if (QDateTime::currentMSecsSinceEpoch() - finding.modified > modifiedLongAgo) {
         const QMutexLocker locker(&findingsMutex);
         if (findings().size() >= maxFindings)
@@ -161,7 +161,7 @@ QString SupplyDbConnection::tryToOpen()
     if (!fault.isEmpty())
         return fault;
     m_database = addConnection(m_name);
-    // LockPatience has SQLite's part in waiting, which knows one statement only.
+    // LockWaiter has SQLite's part in waiting, which knows one statement only.
     m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=0"));
     m_database.setDatabaseName(m_path);
     if (!m_database.open())

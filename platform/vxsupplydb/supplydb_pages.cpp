@@ -19,8 +19,8 @@
 
 namespace {
 
-using SupplyDbSchema::Entry;
-using SupplyDbSchema::maxFileBytes;
+using supplydb_schema::Entry;
+using supplydb_schema::maxFileBytes;
 
 // The file's header, which is the beginning of page 1.
 constexpr qsizetype fileHeaderSize = 100;
@@ -149,7 +149,7 @@ public:
     {
         if (readHeader() && readSchema()) {
             for (const SchemaRow& row : m_schema) {
-                if (!walk(row.root, *SupplyDbSchema::entry(row.name), nullptr))
+                if (!walk(row.root, *supplydb_schema::entry(row.name), nullptr))
                     break;
             }
         }
@@ -203,7 +203,7 @@ private:
     bool readSchema()
     {
         QList<QByteArray> rows;
-        if (!walk(schemaPage, SupplyDbSchema::schemaTable(), &rows))
+        if (!walk(schemaPage, supplydb_schema::schemaTable(), &rows))
             return false;
         for (const QByteArray& bytes : rows) {
             std::optional<SchemaRow> row = schemaRow(bytes);
@@ -213,16 +213,16 @@ private:
         }
         return isOurSchema() ||
                refuse(QStringLiteral("its tables are not those of schema version %1")
-                          .arg(SupplyDbSchema::schemaVersion));
+                          .arg(supplydb_schema::schemaVersion));
     }
 
     bool isOurSchema() const
     {
         QSet<QString> names;
-        return m_schema.size() == SupplyDbSchema::entries().size() &&
+        return m_schema.size() == supplydb_schema::entries().size() &&
                std::ranges::all_of(m_schema,
                                    [&names](const SchemaRow& row) {
-                                       const Entry* entry = SupplyDbSchema::entry(row.name);
+                                       const Entry* entry = supplydb_schema::entry(row.name);
                                        names.insert(row.name);
                                        return entry && row.type == entry->type &&
                                               row.table == entry->table && row.sql == entry->sql;
@@ -383,7 +383,7 @@ private:
 
 } // namespace
 
-QString SupplyDbPages::fault(QIODevice& file)
+QString supplydb_pages::fault(QIODevice& file)
 {
     return Pages(file).fault();
 }

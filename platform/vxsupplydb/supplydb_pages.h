@@ -16,10 +16,10 @@ class QIODevice;
 ///
 /// Only what bounds the reading is looked at. Contents that no supply database has may be left, and
 /// damage that SQLite finds itself.
-namespace SupplyDbPages {
+namespace supplydb_pages {
 
 /// Why a file that begins with the header of a supply database is not to be read; empty when it is
 /// in order.
 QString fault(QIODevice& file);
 
-} // namespace SupplyDbPages
+} // namespace supplydb_pages

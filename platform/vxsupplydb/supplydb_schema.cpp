@@ -144,18 +144,18 @@ qsizetype maxRowsOf(const QString& table)
 {
     const bool isListed = table == QLatin1String("supply") || table == QLatin1String("ribbon") ||
                           table == QLatin1String("printer_format");
-    return isListed ? SupplyDbSchema::maxListedRows : anyNumber;
+    return isListed ? supplydb_schema::maxListedRows : anyNumber;
 }
 
 qsizetype maxRowBytesOf(const QString& table)
 {
-    return table == QLatin1String("background") ? SupplyDbSchema::maxImageBytes + maxRowBytes
+    return table == QLatin1String("background") ? supplydb_schema::maxImageBytes + maxRowBytes
                                                 : maxRowBytes;
 }
 
-QList<SupplyDbSchema::Entry> makeEntries()
+QList<supplydb_schema::Entry> makeEntries()
 {
-    QList<SupplyDbSchema::Entry> all;
+    QList<supplydb_schema::Entry> all;
     for (const char* table : Tables) {
         const QString sql = QString::fromLatin1(table);
         const QString name = tableName(sql);
@@ -172,19 +172,19 @@ QList<SupplyDbSchema::Entry> makeEntries()
 
 } // namespace
 
-const QList<SupplyDbSchema::Entry>& SupplyDbSchema::entries()
+const QList<supplydb_schema::Entry>& supplydb_schema::entries()
 {
     static const QList<Entry> all = makeEntries();
     return all;
 }
 
-const SupplyDbSchema::Entry* SupplyDbSchema::entry(const QString& name)
+const supplydb_schema::Entry* supplydb_schema::entry(const QString& name)
 {
     const auto found = std::ranges::find(entries(), name, &Entry::name);
     return found == entries().end() ? nullptr : &*found;
 }
 
-const SupplyDbSchema::Entry& SupplyDbSchema::schemaTable()
+const supplydb_schema::Entry& supplydb_schema::schemaTable()
 {
     static const Entry table{QStringLiteral("table"),
                              QStringLiteral("sqlite_schema"),
@@ -196,7 +196,7 @@ const SupplyDbSchema::Entry& SupplyDbSchema::schemaTable()
     return table;
 }
 
-QStringList SupplyDbSchema::statements()
+QStringList supplydb_schema::statements()
 {
     QStringList all{
         QStringLiteral("PRAGMA application_id = %1").arg(applicationId),
@@ -207,7 +207,7 @@ QStringList SupplyDbSchema::statements()
     return all;
 }
 
-bool SupplyDbSchema::isSku(const QString& text)
+bool supplydb_schema::isSku(const QString& text)
 {
     const auto isAlphanumeric = [](QChar character) {
         const auto lower = static_cast<char16_t>(character.unicode() | 0x20U);

@@ -7,7 +7,7 @@
 #include <QtCore/QStringList>
 
 /// How a supply database lies in its file: what the reader and the tool that builds it share.
-namespace SupplyDbSchema {
+namespace supplydb_schema {
 
 /// Marks an SQLite file as a supply database: the letters "VXSD".
 constexpr quint32 applicationId = 0x56585344;
@@ -51,4 +51,4 @@ QStringList statements();
 /// Whether a text could be a SKU at all: SKUs are short and of few characters.
 bool isSku(const QString& text);
 
-} // namespace SupplyDbSchema
+} // namespace supplydb_schema

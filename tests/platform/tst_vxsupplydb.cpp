@@ -2,8 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #include "small_catalogue.h"
 
-#include <kept_query.h>
-#include <lock_patience.h>
+#include <cached_query.h>
+#include <lock_waiter.h>
 #include <supplydb_connection.h>
 #include <supplydb_schema.h>
 #include <vxsupplydatabase.h>
@@ -112,13 +112,13 @@ private:
 class SleptTime
 {
 public:
-    using Milliseconds = LockPatience::Milliseconds;
+    using Milliseconds = LockWaiter::Milliseconds;
 
     explicit SleptTime(const std::function<void()>& inEachSleep = [] {})
     {
         now = Milliseconds{0};
         s_inEachSleep = inEachSleep;
-        LockPatience::ofThisThread() = LockPatience({[] { return now; },
+        LockWaiter::ofThisThread() = LockWaiter({[] { return now; },
                                                      [](Milliseconds duration) {
                                                          now += duration;
                                                          s_inEachSleep();
@@ -126,7 +126,7 @@ public:
     }
     ~SleptTime()
     {
-        LockPatience::ofThisThread() = LockPatience();
+        LockWaiter::ofThisThread() = LockWaiter();
         s_inEachSleep = {};
     }
     Q_DISABLE_COPY_MOVE(SleptTime)
@@ -679,7 +679,7 @@ private Q_SLOTS:
 
     void aFileThatIsTooLargeIsRefused()
     {
-        QVERIFY(QFile::resize(path(), SupplyDbSchema::maxFileBytes + 1));
+        QVERIFY(QFile::resize(path(), supplydb_schema::maxFileBytes + 1));
         QCOMPARE(faultOf(path()), QStringLiteral("larger than 64 MiB"));
         m_database->setup(path(), Connection);
         QVERIFY(knowsNothing(*m_database, Tape, RibbonK));
@@ -687,7 +687,7 @@ private Q_SLOTS:
 
     void readsAFileOfTheGreatestSize()
     {
-        QVERIFY(QFile::resize(path(), SupplyDbSchema::maxFileBytes));
+        QVERIFY(QFile::resize(path(), supplydb_schema::maxFileBytes));
         QCOMPARE(faultOf(path()), QString());
         m_database->setup(path(), Connection);
         QCOMPARE(m_database->supplyColorName(Tape), QStringLiteral("White"));
@@ -1058,7 +1058,7 @@ private Q_SLOTS:
     {
         QFETCH(const int, code);
         const QSqlError error({}, {}, QSqlError::StatementError, QString::number(code));
-        QTEST(LockPatience::isLocked(error), "isLock");
+        QTEST(LockWaiter::isLocked(error), "isLock");
     }
 
     // The file is free again long after all questions are answered: whoever waits for it to the end
@@ -1186,7 +1186,7 @@ private Q_SLOTS:
     void keepsNoMoreAnswersThanItMay()
     {
         const Other other(path());
-        KeptQuery<int, QString> query(QStringLiteral("SELECT english FROM name WHERE id = ?"),
+        CachedQuery<int, QString> query(QStringLiteral("SELECT english FROM name WHERE id = ?"),
                                       readText, 2);
         const auto answer = [&](int id) {
             return query.answer(other.database(), id, id);
@@ -1205,7 +1205,7 @@ private Q_SLOTS:
     void readsAllAtTheSecondKey()
     {
         const Other other(path());
-        KeptQuery<int, QString> query(
+        CachedQuery<int, QString> query(
             QStringLiteral("SELECT english FROM name WHERE id = ?"), readText, 4,
             {QStringLiteral("SELECT english, id FROM name ORDER BY id DESC"),
              [](const QSqlQuery& row) {
@@ -1230,7 +1230,7 @@ private Q_SLOTS:
     void doesNotKeepAnAnswerThatIsTooLarge()
     {
         const Other other(path());
-        KeptQuery<int, QString> query(QStringLiteral("SELECT english FROM name WHERE id = ?"),
+        CachedQuery<int, QString> query(QStringLiteral("SELECT english FROM name WHERE id = ?"),
                                       readText, 4, [](const QString& text) { return text.size(); });
         const auto answer = [&](int id) {
             return query.answer(other.database(), id, id);
@@ -1245,7 +1245,7 @@ private Q_SLOTS:
     void answersAFailureWithNoOtherKeysAnswer()
     {
         const Other other(path());
-        KeptQuery<int, QString> query(QStringLiteral("SELECT english FROM name WHERE id = ?"),
+        CachedQuery<int, QString> query(QStringLiteral("SELECT english FROM name WHERE id = ?"),
                                       readText, 4, [](const QString& text) { return text.size(); });
         // Too large to be kept.
         QCOMPARE(query.answer(other.database(), 1, 1), QStringLiteral("White"));
@@ -1259,7 +1259,7 @@ private Q_SLOTS:
         QVERIFY(other.run("CREATE TABLE remark (id INTEGER PRIMARY KEY, number INTEGER)"));
         QVERIFY(other.run("INSERT INTO remark VALUES (1, 5), (2, -9223372036854775807 - 1)"));
         // The second row's number has no absolute value.
-        KeptQuery<int, QStringList> query(
+        CachedQuery<int, QStringList> query(
             QStringLiteral("SELECT abs(number) FROM remark WHERE id >= ? ORDER BY id"),
             [](const QSqlQuery& row, QStringList& numbers) {
                 numbers.append(row.value(0).toString());
@@ -1276,7 +1276,7 @@ private Q_SLOTS:
     void doesNotKeepAFailure()
     {
         const Other other(path());
-        KeptQuery<int, QString> query(QStringLiteral("SELECT text FROM remark WHERE id = ?"),
+        CachedQuery<int, QString> query(QStringLiteral("SELECT text FROM remark WHERE id = ?"),
                                       readText, 2);
         QCOMPARE(query.answer(other.database(), 1, 1), QString());
         QVERIFY(other.run("CREATE TABLE remark (id INTEGER PRIMARY KEY, text TEXT)"));

@@ -118,12 +118,12 @@ int integerOf(const CsvField& field, int least, int most)
 
 QString skuOf(const CsvField& field)
 {
-    if (!SupplyDbSchema::isSku(field.text))
+    if (!supplydb_schema::isSku(field.text))
         throw field.fault(
             QStringLiteral("\"%1\" is no SKU: at most %2 letters from A to Z, digits, dots, "
                            "underscores and hyphens, a letter or digit first")
                 .arg(field.text)
-                .arg(SupplyDbSchema::maxSkuLength));
+                .arg(supplydb_schema::maxSkuLength));
     return field.text;
 }
 
@@ -162,7 +162,7 @@ public:
 
     Catalogue read()
     {
-        m_catalogue.languages.insert(SupplyDbSchema::fallbackLanguage, EnglishTag);
+        m_catalogue.languages.insert(supplydb_schema::fallbackLanguage, EnglishTag);
         readColours();
         readMaterials();
         readFormats();
@@ -208,16 +208,16 @@ private:
     Name nameOf(const CsvTable& table, qsizetype row) const
     {
         Name name;
-        name.english = textOf(table.field(row, EnglishTag), SupplyDbSchema::maxNameLength);
+        name.english = textOf(table.field(row, EnglishTag), supplydb_schema::maxNameLength);
         for (auto language = m_catalogue.languages.begin(); language != m_catalogue.languages.end();
              ++language) {
-            if (language.key() == SupplyDbSchema::fallbackLanguage ||
+            if (language.key() == supplydb_schema::fallbackLanguage ||
                 !table.hasColumn(language.value()))
                 continue;
             const CsvField field = table.field(row, language.value());
             if (!field.text.isEmpty())
                 name.translations.insert(language.key(),
-                                         textOf(field, SupplyDbSchema::maxNameLength));
+                                         textOf(field, supplydb_schema::maxNameLength));
         }
         return name;
     }
@@ -273,7 +273,7 @@ private:
         const CsvTable source = table(MaterialLayout);
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
             const CsvField field = source.field(row, column("material"));
-            const int number = integerOf(field, 0, SupplyDbSchema::maxKind);
+            const int number = integerOf(field, 0, supplydb_schema::maxKind);
             if (m_materials.contains(number))
                 throw field.fault(QStringLiteral("material %1 is there twice").arg(number));
             m_materials.insert(number);
@@ -286,7 +286,7 @@ private:
         const CsvTable source = table(FormatLayout);
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
             const CsvField field = source.field(row, column("format"));
-            const int number = integerOf(field, 0, SupplyDbSchema::maxKind);
+            const int number = integerOf(field, 0, supplydb_schema::maxKind);
             if (m_formats.contains(number))
                 throw field.fault(QStringLiteral("format %1 is there twice").arg(number));
             const CsvField type = source.field(row, column("type"));
@@ -300,7 +300,7 @@ private:
 
     int formatOf(const CsvField& field) const
     {
-        const int format = integerOf(field, 0, SupplyDbSchema::maxKind);
+        const int format = integerOf(field, 0, supplydb_schema::maxKind);
         if (!m_formats.contains(format))
             throw field.fault(QStringLiteral("format %1 is not in formats.csv").arg(format));
         return format;
@@ -329,7 +329,7 @@ private:
         requireVisible(field);
         // A plain name: a catalogue takes no file from outside its folder.
         if (field.text.contains(u'/') || field.text.contains(u'\\') || field.text.contains(u':') ||
-            field.text.startsWith(u'.') || field.text.size() > SupplyDbSchema::maxNameLength)
+            field.text.startsWith(u'.') || field.text.size() > supplydb_schema::maxNameLength)
             throw field.fault(QStringLiteral("\"%1\" is no plain file name").arg(field.text));
         std::optional<QByteArray> image;
         try {
@@ -340,10 +340,10 @@ private:
         if (!image)
             throw field.fault(
                 QStringLiteral("%1%2 cannot be read").arg(BackgroundFolder, field.text));
-        if (image->size() > SupplyDbSchema::maxImageBytes)
+        if (image->size() > supplydb_schema::maxImageBytes)
             throw field.fault(QStringLiteral("%1%2 is larger than %3 KiB")
                                   .arg(BackgroundFolder, field.text)
-                                  .arg(SupplyDbSchema::maxImageBytes / 1024));
+                                  .arg(supplydb_schema::maxImageBytes / 1024));
         QBuffer buffer;
         buffer.setData(*image);
         buffer.open(QIODevice::ReadOnly);
@@ -368,9 +368,9 @@ private:
     CsvTable listedTable(const TableLayout& layout)
     {
         CsvTable source = table(layout);
-        if (source.rowCount() > SupplyDbSchema::maxListedRows)
+        if (source.rowCount() > supplydb_schema::maxListedRows)
             throw source.faultInFile(
-                QStringLiteral("more than %1 rows").arg(SupplyDbSchema::maxListedRows));
+                QStringLiteral("more than %1 rows").arg(supplydb_schema::maxListedRows));
         return source;
     }
 
@@ -386,8 +386,8 @@ private:
             if (m_supplies.contains(supply.sku))
                 throw field("sku").fault(QStringLiteral("%1 is there twice").arg(supply.sku));
             m_supplies.insert(supply.sku);
-            supply.kinds = freeNumbers(field("kinds"), SupplyDbSchema::maxKind, m_kinds);
-            supply.material = integerOf(field("material"), 0, SupplyDbSchema::maxKind);
+            supply.kinds = freeNumbers(field("kinds"), supplydb_schema::maxKind, m_kinds);
+            supply.material = integerOf(field("material"), 0, supplydb_schema::maxKind);
             if (!m_materials.contains(supply.material))
                 throw field("material")
                     .fault(
@@ -458,7 +458,7 @@ private:
             if (m_supplies.contains(ribbon.sku))
                 throw field("sku").fault(QStringLiteral("%1 is a supply's SKU").arg(ribbon.sku));
             ribbon.numbers =
-                freeNumbers(field("numbers"), SupplyDbSchema::maxRibbonNumber, m_ribbonNumbers);
+                freeNumbers(field("numbers"), supplydb_schema::maxRibbonNumber, m_ribbonNumbers);
             ribbon.type = textOf(field("type"), maxWordLength);
             ribbon.width = sizeOf(source, field("width"), maxWidth);
             ribbon.length = sizeOf(source, field("length"), longestRoll);
@@ -573,7 +573,7 @@ std::optional<int> languageNumber(const QString& tag)
         return std::nullopt;
     const int number = VXLocaleLanguages::languageId({tag});
     // English stands for every language without a number, too.
-    if (number == SupplyDbSchema::fallbackLanguage && tag != EnglishTag)
+    if (number == supplydb_schema::fallbackLanguage && tag != EnglishTag)
         return std::nullopt;
     return number;
 }

@@ -90,7 +90,7 @@ void writeDraft(const Catalogue& catalogue, const QString& path)
 
 void createTables(const QSqlDatabase& database)
 {
-    for (const QString& statement : SupplyDbSchema::statements())
+    for (const QString& statement : supplydb_schema::statements())
         run(database, statement);
 }
 

@@ -88,7 +88,7 @@ void DatabaseChecker::checkStructure()
 void DatabaseChecker::checkSchema()
 {
     QStringList wanted;
-    for (const QString& statement : SupplyDbSchema::statements()) {
+    for (const QString& statement : supplydb_schema::statements()) {
         if (statement.startsWith(QLatin1String("CREATE ")))
             wanted.append(statement);
     }
@@ -102,7 +102,7 @@ void DatabaseChecker::checkSchema()
     found.sort();
     if (found != wanted)
         throw fault(QStringLiteral("its tables are not those of schema version %1")
-                        .arg(SupplyDbSchema::schemaVersion));
+                        .arg(supplydb_schema::schemaVersion));
 }
 
 QSqlQuery& DatabaseChecker::run(const QString& statement)
