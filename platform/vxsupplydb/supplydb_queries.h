@@ -10,8 +10,8 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVariantHash>
 
-/// What `VXSupplyDatabase` queries, with its answers. Default-constructed answers are those about
-/// what the database does not have.
+/// The queries of `VXSupplyDatabase` and their answers. A default-constructed answer is the one for
+/// a key that the database does not have.
 namespace supplydb_queries {
 
 struct Colour
@@ -98,7 +98,7 @@ struct PrintSetting
     int tension = -1;
 };
 
-/// All SKUs of one kind in order, and the colour of each.
+/// The SKUs of all supplies or of all ribbons, sorted, and the colour of each.
 struct SkuList
 {
     QStringList skus;
@@ -108,8 +108,8 @@ struct SkuList
 /// The key of a query that has no parameters.
 constexpr int onlyKey = 0;
 
-/// All statements with their cached answers. Values are bound in the order of the keys, after the
-/// language where the answer has names.
+/// All statements with their cached answers. Where an answer has names, the language is bound
+/// first; the parts of the key follow.
 struct Queries
 {
     Queries();

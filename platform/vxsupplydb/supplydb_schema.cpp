@@ -7,10 +7,10 @@
 
 namespace {
 
-// Sizes are inches. Where NULL is let through, it means that a supply has no such thing; -1 is what
-// a reader answers then, so no column has -1 for a value.
+// Sizes are in inches. NULL means that a supply does not have the property. Readers return -1 for
+// that, so no column may contain -1.
 // clang-format off
-constexpr const char* Tables[] = {
+constexpr const char* tables[] = {
 R"(CREATE TABLE language (
     id INTEGER PRIMARY KEY CHECK (id >= 0),
     tag TEXT NOT NULL UNIQUE CHECK (length(tag) BETWEEN 2 AND 20)
@@ -119,20 +119,20 @@ R"(CREATE TABLE printer_format (
 };
 // clang-format on
 
-// The indices that SQLite makes for what is to be unique and is not the key of the table itself.
-constexpr const char* Indices[][2] = {
+// The indices that SQLite creates for UNIQUE constraints that are not the key of the table itself.
+constexpr const char* indices[][2] = {
     {"sqlite_autoindex_language_1", "language"},
     {"sqlite_autoindex_colour_1", "colour"},
     {"sqlite_autoindex_background_1", "background"},
     {"sqlite_autoindex_printer_format_2", "printer_format"},
 };
 
-// The longest of a row's texts have 200 characters of at most four bytes.
+// The longest texts in a row have 200 characters of at most four bytes.
 constexpr qsizetype maxRowBytes = 2048;
-// Bounded by the file's size, where rows are never read in whole.
+// For tables that are never read completely. Only the size of the file limits them.
 constexpr qsizetype anyNumber = std::numeric_limits<qsizetype>::max();
 
-// Of the list of tables and indices: enough to see that a file has others than ours.
+// For the list of tables and indices: enough to notice that there are unknown ones.
 constexpr qsizetype maxEntries = 64;
 
 QString tableName(const QString& statement)
@@ -156,14 +156,14 @@ qsizetype maxRowBytesOf(const QString& table)
 QList<supplydb_schema::Entry> makeEntries()
 {
     QList<supplydb_schema::Entry> all;
-    for (const char* table : Tables) {
+    for (const char* table : tables) {
         const QString sql = QString::fromLatin1(table);
         const QString name = tableName(sql);
         all.append({QStringLiteral("table"), name, name, sql,
                     !sql.endsWith(QLatin1String("WITHOUT ROWID")), maxRowsOf(name),
                     maxRowBytesOf(name)});
     }
-    for (const auto& [index, table] : Indices) {
+    for (const auto& [index, table] : indices) {
         all.append({QStringLiteral("index"), QString::fromLatin1(index), QString::fromLatin1(table),
                     QString(), false, anyNumber, maxRowBytes});
     }
@@ -202,7 +202,7 @@ QStringList supplydb_schema::statements()
         QStringLiteral("PRAGMA application_id = %1").arg(applicationId),
         QStringLiteral("PRAGMA user_version = %1").arg(schemaVersion),
     };
-    for (const char* table : Tables)
+    for (const char* table : tables)
         all.append(QString::fromLatin1(table));
     return all;
 }

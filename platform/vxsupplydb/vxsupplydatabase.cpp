@@ -14,7 +14,7 @@ using namespace supplydb_queries;
 
 namespace {
 
-// The SKU of an empty place in a printer.
+// The SKU for an empty position in a printer.
 const QString nothingLoaded = QStringLiteral("-1");
 const QString blankSupplyId = QStringLiteral("00000000000000000000");
 const QStringList blankRibbonIds{QString(), QStringLiteral("-1"), QStringLiteral("4294967295"),

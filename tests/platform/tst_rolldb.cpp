@@ -41,29 +41,29 @@ class RollDbTest : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void takesAsManyPanelsAsThereMayBe();
+    void acceptsAsManyPanelsAsAreAllowed();
     void buildsTheSampleCatalogue();
     void theSameTablesGiveTheSameFile();
-    void takesThePlaceOfTheOldFile();
-    void leavesTheOldFileWholeWhenARowIsBad();
-    void leavesTheOldFileWholeWhenTheSchemaRefuses();
-    void saysWhereItCannotWrite();
+    void replacesTheOldFile();
+    void keepsTheOldFileWhenARowIsInvalid();
+    void keepsTheOldFileWhenTheSchemaRefusesARow();
+    void namesThePathThatItCannotWrite();
 #ifdef Q_OS_UNIX
-    void leavesAPipeInItsPlace_data();
-    void leavesAPipeInItsPlace();
+    void doesNotReplaceAPipe_data();
+    void doesNotReplaceAPipe();
     void doesNotWaitForAPipe_data();
     void doesNotWaitForAPipe();
-    void saysWhyBytesCannotBeWritten();
+    void reportsWhyAFileCannotBeWritten();
 #endif
-    void findsWhatIsWrong_data();
-    void findsWhatIsWrong();
+    void findsInvalidContent_data();
+    void findsInvalidContent();
     void findsDamage();
     void reportsASupply();
     void reportsARibbon();
-    void reportsNoUnknownSku();
-    void theToolEndsAsItShould_data();
-    void theToolEndsAsItShould();
-    void theToolExplainsItself();
+    void refusesToReportAnUnknownSku();
+    void theToolReturnsItsResultAndExitStatus_data();
+    void theToolReturnsItsResultAndExitStatus();
+    void theToolPrintsItsHelp();
 
 private:
     QString path() const
@@ -86,7 +86,7 @@ void RollDbTest::cleanup()
     QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
 }
 
-void RollDbTest::takesAsManyPanelsAsThereMayBe()
+void RollDbTest::acceptsAsManyPanelsAsAreAllowed()
 {
     SmallCatalogue catalogue;
     catalogue.replace("ribbons.csv", ",red black", ',' + QByteArray("red ").repeated(16));
@@ -114,7 +114,7 @@ void RollDbTest::theSameTablesGiveTheSameFile()
     QCOMPARE(contentOf(path()), contentOf(second));
 }
 
-void RollDbTest::takesThePlaceOfTheOldFile()
+void RollDbTest::replacesTheOldFile()
 {
     QVERIFY(writeFile(path(), "old"));
     SmallCatalogue().write(path());
@@ -122,7 +122,7 @@ void RollDbTest::takesThePlaceOfTheOldFile()
     QCOMPARE(filesIn(m_folder->path()), QStringList{QStringLiteral("roll.db")});
 }
 
-void RollDbTest::leavesTheOldFileWholeWhenARowIsBad()
+void RollDbTest::keepsTheOldFileWhenARowIsInvalid()
 {
     SmallCatalogue().write(path());
     const QByteArray before = contentOf(path());
@@ -134,7 +134,7 @@ void RollDbTest::leavesTheOldFileWholeWhenARowIsBad()
 }
 
 // The schema has the last word: what slips through the tables' reader must not get into a file.
-void RollDbTest::leavesTheOldFileWholeWhenTheSchemaRefuses()
+void RollDbTest::keepsTheOldFileWhenTheSchemaRefusesARow()
 {
     SmallCatalogue().write(path());
     const QByteArray before = contentOf(path());
@@ -150,7 +150,7 @@ void RollDbTest::leavesTheOldFileWholeWhenTheSchemaRefuses()
     QCOMPARE(filesIn(m_folder->path()), QStringList{QStringLiteral("roll.db")});
 }
 
-void RollDbTest::saysWhereItCannotWrite()
+void RollDbTest::namesThePathThatItCannotWrite()
 {
     const QString nowhere = m_folder->filePath(QStringLiteral("missing/roll.db"));
     const QString fault = faultOf([&] { SmallCatalogue().write(nowhere); });
@@ -160,7 +160,7 @@ void RollDbTest::saysWhereItCannotWrite()
 
 #ifdef Q_OS_UNIX
 
-void RollDbTest::leavesAPipeInItsPlace_data()
+void RollDbTest::doesNotReplaceAPipe_data()
 {
     QTest::addColumn<QString>("target");
 
@@ -169,7 +169,7 @@ void RollDbTest::leavesAPipeInItsPlace_data()
 }
 
 // A device is left alone for the same reason; only the super-user could make one here.
-void RollDbTest::leavesAPipeInItsPlace()
+void RollDbTest::doesNotReplaceAPipe()
 {
     QFETCH(QString, target);
     const QString pipe = m_folder->filePath(QStringLiteral("pipe"));
@@ -177,7 +177,7 @@ void RollDbTest::leavesAPipeInItsPlace()
     QVERIFY(QFile::link(pipe, m_folder->filePath(QStringLiteral("link"))));
     target = m_folder->filePath(target);
     QCOMPARE(faultOf([&target] { SmallCatalogue().write(target); }),
-             target + QStringLiteral(": not a file, so nothing is put in its place"));
+             target + QStringLiteral(": not a file, so it is not replaced"));
     struct stat status = {};
     QCOMPARE(stat(QFile::encodeName(pipe).constData(), &status), 0);
     QVERIFY(S_ISFIFO(status.st_mode));
@@ -217,7 +217,7 @@ void RollDbTest::doesNotWaitForAPipe()
 }
 
 // A bound on a file's size ends a write in its midst, as a full disk does.
-void RollDbTest::saysWhyBytesCannotBeWritten()
+void RollDbTest::reportsWhyAFileCannotBeWritten()
 {
     QVERIFY(writeFile(path(), "old"));
     rlimit before = {};
@@ -235,7 +235,7 @@ void RollDbTest::saysWhyBytesCannotBeWritten()
 
 #endif
 
-void RollDbTest::findsWhatIsWrong_data()
+void RollDbTest::findsInvalidContent_data()
 {
     QTest::addColumn<QByteArray>("change");
     QTest::addColumn<QString>("fault");
@@ -245,7 +245,7 @@ void RollDbTest::findsWhatIsWrong_data()
                                 << QStringLiteral("its tables are not those of schema version 1");
     QTest::newRow("another schema version")
         << QByteArray("PRAGMA user_version = 9")
-        << QStringLiteral("of schema version 9, where version 1 can be read");
+        << QStringLiteral("schema version 9; only version 1 can be read");
     QTest::newRow("another application")
         << QByteArray("PRAGMA application_id = 1")
         << QStringLiteral("an SQLite database, but not a supply database");
@@ -258,22 +258,22 @@ void RollDbTest::findsWhatIsWrong_data()
     QTest::newRow("a missing table")
         << QByteArray("DROP TABLE print_setting")
         << QStringLiteral("its tables are not those of schema version 1");
-    QTest::newRow("a row that refers to nothing")
+    QTest::newRow("a row that refers to a missing row")
         << QByteArray("DELETE FROM material WHERE id = 7")
-        << QStringLiteral("a row of supply refers to nothing");
+        << QStringLiteral("a row of supply refers to a missing row");
     QTest::newRow("a missing panel")
         << QByteArray("DELETE FROM ribbon_panel WHERE ribbon_sku = 'RIBBON-T'")
-        << QStringLiteral("the panels of ribbon RIBBON-T are not numbered from 1 on");
+        << QStringLiteral("the panels of ribbon RIBBON-T are not numbered consecutively from 1");
     QTest::newRow("a ribbon that is a supply")
         << QByteArray("UPDATE ribbon_panel SET ribbon_sku = 'TAPE-1' WHERE ribbon_sku = 'RIBBON-T'")
-        << QStringLiteral("a row of ribbon_panel refers to nothing");
+        << QStringLiteral("a row of ribbon_panel refers to a missing row");
     QTest::newRow("a continuous label")
         << QByteArray("UPDATE supply SET label_length = 1")
         << QStringLiteral("supply TAPE-1 has a label length and a continuous format, or neither");
     QTest::newRow("a gap in a printer's list")
         << QByteArray("DELETE FROM printer_format WHERE model = 'AlderMax' AND position = 0")
-        << QStringLiteral(
-               "the formats of the printer model \"AlderMax\" are not numbered from 0 on");
+        << QStringLiteral("the formats of the printer model \"AlderMax\" are not numbered "
+                          "consecutively from 0");
     QTest::newRow("another first language")
         << QByteArray("UPDATE language SET tag = 'eo' WHERE id = 0")
         << QStringLiteral("the language 0 is \"eo\", not English");
@@ -281,7 +281,7 @@ void RollDbTest::findsWhatIsWrong_data()
                                 << QStringLiteral("English is missing");
 }
 
-void RollDbTest::findsWhatIsWrong()
+void RollDbTest::findsInvalidContent()
 {
     QFETCH(QByteArray, change);
     QFETCH(QString, fault);
@@ -336,14 +336,14 @@ void RollDbTest::reportsARibbon()
                             "panel:           #000000 Black\n"));
 }
 
-void RollDbTest::reportsNoUnknownSku()
+void RollDbTest::refusesToReportAnUnknownSku()
 {
     SmallCatalogue().write(path());
     QCOMPARE(faultOf([this] { skuReport(path(), QStringLiteral("NO-SUCH"), 0); }),
-             path() + QStringLiteral(": knows no supply or ribbon \"NO-SUCH\""));
+             path() + QStringLiteral(": no supply or ribbon \"NO-SUCH\""));
 }
 
-void RollDbTest::theToolEndsAsItShould_data()
+void RollDbTest::theToolReturnsItsResultAndExitStatus_data()
 {
     // "@" stands for the test's folder.
     QTest::addColumn<QStringList>("arguments");
@@ -358,8 +358,7 @@ void RollDbTest::theToolEndsAsItShould_data()
         << QString();
     QTest::newRow("check")
         << QStringList{QStringLiteral("check"), QStringLiteral("@roll.db")} << 0
-        << QStringLiteral(
-               "@roll.db: in order, 3 supplies, 3 ribbons, 4 print settings, 3 languages\n")
+        << QStringLiteral("@roll.db: ok, 3 supplies, 3 ribbons, 4 print settings, 3 languages\n")
         << QString();
     QTest::newRow("show")
         << QStringList{QStringLiteral("show"), QStringLiteral("--language"), QStringLiteral("de"),
@@ -369,12 +368,11 @@ void RollDbTest::theToolEndsAsItShould_data()
                "ribbon:          RIBBON-T\ntype:            resin\nwidth:           2.4 in\n"
                "length:          4725 in\npanel:           #008080 Teal\n")
         << QString();
-    QTest::newRow("no verb") << QStringList{} << 2 << QString()
-                             << QStringLiteral("rolldb: expected build, check or show") + usage;
-    QTest::newRow("another verb") << QStringList{QStringLiteral("fix")} << 2 << QString()
-                                  << QStringLiteral(
-                                         "rolldb: \"fix\" is none of build, check and show") +
-                                         usage;
+    QTest::newRow("no command") << QStringList{} << 2 << QString()
+                                << QStringLiteral("rolldb: expected build, check or show") + usage;
+    QTest::newRow("an unknown command")
+        << QStringList{QStringLiteral("fix")} << 2 << QString()
+        << QStringLiteral("rolldb: unknown command \"fix\"; expected build, check or show") + usage;
     QTest::newRow("too few arguments")
         << QStringList{QStringLiteral("build"), QStringLiteral("x")} << 2 << QString()
         << QStringLiteral("rolldb: build takes 2 arguments, not 1") + usage;
@@ -384,8 +382,7 @@ void RollDbTest::theToolEndsAsItShould_data()
     QTest::newRow("another language")
         << QStringList{QStringLiteral("show"), QStringLiteral("--language"), QStringLiteral("xx"),
                        QStringLiteral("@roll.db"), QStringLiteral("TAPE-1")}
-        << 2 << QString()
-        << QStringLiteral("rolldb: \"xx\" is no language that names are had in") + usage;
+        << 2 << QString() << QStringLiteral("rolldb: \"xx\" is not a known language") + usage;
     QTest::newRow("no directory") << QStringList{QStringLiteral("build"),
                                                  QStringLiteral("@nowhere"),
                                                  QStringLiteral("@new.db")}
@@ -403,7 +400,7 @@ void RollDbTest::theToolEndsAsItShould_data()
                                  << QStringLiteral("rolldb: @text.db: not an SQLite database\n");
 }
 
-void RollDbTest::theToolEndsAsItShould()
+void RollDbTest::theToolReturnsItsResultAndExitStatus()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, output);
@@ -423,16 +420,16 @@ void RollDbTest::theToolEndsAsItShould()
     QTEST(tool.exitCode(), "status");
 }
 
-void RollDbTest::theToolExplainsItself()
+void RollDbTest::theToolPrintsItsHelp()
 {
     QProcess tool;
     startProcess(tool, QStringLiteral(VX_ROLLDB), {QStringLiteral("--help")});
     QVERIFY2(tool.waitForFinished(patience), qPrintable(tool.errorString()));
     QCOMPARE(tool.exitCode(), 0);
     const QString help = QString::fromUtf8(tool.readAllStandardOutput());
-    for (const auto& verb : {QStringLiteral("rolldb build"), QStringLiteral("rolldb check"),
-                             QStringLiteral("rolldb show")})
-        QVERIFY2(help.contains(verb), qPrintable(verb));
+    for (const auto& command : {QStringLiteral("rolldb build"), QStringLiteral("rolldb check"),
+                                QStringLiteral("rolldb show")})
+        QVERIFY2(help.contains(command), qPrintable(command));
 }
 
 QTEST_GUILESS_MAIN(RollDbTest)

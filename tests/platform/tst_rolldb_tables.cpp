@@ -38,26 +38,26 @@ class RollDbTablesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void refusesABadRow_data();
-    void refusesABadRow();
-    void refusesCharactersThatCannotBeSeen_data();
-    void refusesCharactersThatCannotBeSeen();
-    void knowsWhichCharactersCannotBeSeen();
+    void refusesAnInvalidRow_data();
+    void refusesAnInvalidRow();
+    void refusesInvisibleCharacters_data();
+    void refusesInvisibleCharacters();
+    void recognisesInvisibleCharacters();
     void refusesAPictureOfTooManyPixels_data();
     void refusesAPictureOfTooManyPixels();
-    void refusesMoreRowsThanAReaderTakes();
+    void refusesMoreRowsThanAReaderAccepts();
     void refusesAMissingTable_data();
     void refusesAMissingTable();
-    void refusesWhatIsTooLarge();
-    void readsATableHoweverASpreadsheetWritesIt_data();
-    void readsATableHoweverASpreadsheetWritesIt();
+    void refusesWhatExceedsALimit();
+    void readsTheVariantsThatSpreadsheetsWrite_data();
+    void readsTheVariantsThatSpreadsheetsWrite();
     void readsQuotedFields();
-    void takesSemicolonsAndDecimalCommas();
+    void acceptsSemicolonsAndDecimalCommas();
     void theSampleCatalogueHasEveryNameInEachLanguage();
-    void everySupplyOfTheSampleCatalogueCanBePrinted();
+    void everySampleSupplyHasAKindAndAPrintSetting();
 };
 
-void RollDbTablesTest::refusesABadRow_data()
+void RollDbTablesTest::refusesAnInvalidRow_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QByteArray>("before");
@@ -71,27 +71,26 @@ void RollDbTablesTest::refusesABadRow_data()
     };
     const char* const colours = "colours.csv";
     row("a colour without a mark", colours, "#ffffff", "ffffff",
-        "colours.csv:2, column 2 (rgb): \"ffffff\" is no colour of the form #RRGGBB");
+        "colours.csv:2, column 2 (rgb): \"ffffff\" is not a colour of the form #RRGGBB");
     row("a colour of other digits", colours, "#ffffff", "#fffffg",
-        "colours.csv:2, column 2 (rgb): \"#fffffg\" is no colour of the form #RRGGBB");
+        "colours.csv:2, column 2 (rgb): \"#fffffg\" is not a colour of the form #RRGGBB");
     row("a short colour", colours, "#ffffff", "#fff",
-        "colours.csv:2, column 2 (rgb): \"#fff\" is no colour of the form #RRGGBB");
+        "colours.csv:2, column 2 (rgb): \"#fff\" is not a colour of the form #RRGGBB");
     row("a colour twice", colours, "red,#C8102E", "white,#C8102E",
-        "colours.csv:3, column 1 (colour): \"white\" is there twice");
+        "colours.csv:3, column 1 (colour): duplicate colour \"white\"");
     row("a colour without a key", colours, "red,#C8102E", ",#C8102E",
         "colours.csv:3, column 1 (colour): empty");
     row("a space in a key", colours, "teal,", "dark teal,",
         "colours.csv:5, column 1 (colour): a space in a colour's key");
     row("no English name", colours, "Teal,,", ",Petrol,", "colours.csv:5, column 3 (en): empty");
     row("a field too many", colours, "Teal,,", "Teal,,,,x",
-        "colours.csv:5: 7 fields, where there are 5 columns");
+        "colours.csv:5: 7 fields, but there are 5 columns");
     row("a field too few", colours, "Teal,,", "Teal,",
-        "colours.csv:5: 4 fields, where there are 5 columns");
+        "colours.csv:5: 4 fields, but there are 5 columns");
     row("an unknown column", colours, "en,de,ja", "en,de,color",
-        "colours.csv:1, column 5 (color): neither a column of this table nor a language that "
-        "names can be had in");
+        "colours.csv:1, column 5 (color): neither a column of this table nor a known language");
     row("a column twice", colours, "en,de,ja", "en,de,de",
-        "colours.csv:1, column 5 (de): the column is there twice");
+        "colours.csv:1, column 5 (de): duplicate column");
     row("a column without a name", colours, "en,de,ja", "en,,ja",
         "colours.csv:1, column 4 (): a column without a name");
     row("a language twice", colours, "en,de,ja", "en,de,de-CH",
@@ -101,7 +100,7 @@ void RollDbTablesTest::refusesABadRow_data()
     row("a missing column", colours, "colour,rgb", "colour,es",
         "colours.csv: the column rgb is missing");
     row("an open quotation mark", colours, "Teal", "\"Teal",
-        "colours.csv:5: a quotation mark that is never closed");
+        "colours.csv:5: an unclosed quotation mark");
     row("text behind a quotation mark", colours, "Teal", "\"Te\"al",
         "colours.csv:5: text after a closing quotation mark");
     row("a quotation mark inside", colours, "Teal", "Te\"al",
@@ -116,32 +115,34 @@ void RollDbTablesTest::refusesABadRow_data()
         "colours.csv:5: not UTF-8 text");
 
     row("a material that is no number", "materials.csv", "7,Vinyl", "vinyl,Vinyl",
-        "materials.csv:2, column 1 (material): \"vinyl\" is no whole number from 0 to 999999");
+        "materials.csv:2, column 1 (material): \"vinyl\" is not a whole number between 0 and "
+        "999999");
     row("a material below zero", "materials.csv", "7,Vinyl", "-1,Vinyl",
-        "materials.csv:2, column 1 (material): \"-1\" is no whole number from 0 to 999999");
+        "materials.csv:2, column 1 (material): \"-1\" is not a whole number between 0 and 999999");
     row("a material twice", "materials.csv", "0,Paper", "7,Paper",
-        "materials.csv:3, column 1 (material): material 7 is there twice");
+        "materials.csv:3, column 1 (material): duplicate material 7");
     row("a type that is none", "formats.csv", "continuous", "endless",
-        "formats.csv:2, column 2 (type): \"endless\" is none of continuous, die-cut, sleeve, "
+        "formats.csv:2, column 2 (type): \"endless\" is not one of continuous, die-cut, sleeve, "
         "tag");
     row("a format twice", "formats.csv", "2,die-cut", "1,die-cut",
-        "formats.csv:3, column 1 (format): format 1 is there twice");
+        "formats.csv:3, column 1 (format): duplicate format 1");
 
     const char* const supplies = "supplies.csv";
     row("no SKU", supplies, "TAPE-1,100042", "-1,100042",
-        "supplies.csv:2, column 1 (sku): \"-1\" is no SKU: at most 40 letters from A to Z, "
-        "digits, dots, underscores and hyphens, a letter or digit first");
+        "supplies.csv:2, column 1 (sku): \"-1\" is not a SKU: at most 40 letters from A to Z, "
+        "digits, dots, underscores and hyphens, starting with a letter or digit");
     row("a SKU of two lines", supplies, "SPARE-1", "\"SPARE\n\x1b[2J\"",
-        "supplies.csv:4, column 1 (sku): \"SPARE\\u000a\\u001b[2J\" is no SKU: at most 40 "
-        "letters from A to Z, digits, dots, underscores and hyphens, a letter or digit first");
+        "supplies.csv:4, column 1 (sku): \"SPARE\\u000a\\u001b[2J\" is not a SKU: at most 40 "
+        "letters from A to Z, digits, dots, underscores and hyphens, starting with a letter or "
+        "digit");
     row("a SKU twice", supplies, "SPARE-1", "TAPE-1",
-        "supplies.csv:4, column 1 (sku): TAPE-1 is there twice");
+        "supplies.csv:4, column 1 (sku): duplicate SKU TAPE-1");
     row("a kind twice", supplies, "100050", "100043",
-        "supplies.csv:3, column 2 (kinds): 100043 is there twice");
+        "supplies.csv:3, column 2 (kinds): duplicate number 100043");
     row("a kind of no roll", supplies, "100050", "0",
-        "supplies.csv:3, column 2 (kinds): \"0\" is no whole number from 1 to 999999");
+        "supplies.csv:3, column 2 (kinds): \"0\" is not a whole number between 1 and 999999");
     row("a kind of seven digits", supplies, "100050", "1000500",
-        "supplies.csv:3, column 2 (kinds): \"1000500\" is no whole number from 1 to 999999");
+        "supplies.csv:3, column 2 (kinds): \"1000500\" is not a whole number between 1 and 999999");
     row("an unknown material", supplies, ",7,1,white", ",8,1,white",
         "supplies.csv:2, column 3 (material): material 8 is not in materials.csv");
     row("an unknown format", supplies, ",7,1,white", ",7,3,white",
@@ -149,61 +150,63 @@ void RollDbTablesTest::refusesABadRow_data()
     row("an unknown colour", supplies, "1,white", "1,snow",
         "supplies.csv:2, column 5 (colour): \"snow\" is not in colours.csv");
     row("a second colour without a width", supplies, "red,1.25", "red,",
-        "supplies.csv:2, column 7 (second_colour_width): a second colour and its width come "
-        "together or not at all");
+        "supplies.csv:2, column 7 (second_colour_width): a second colour and its width must be "
+        "given together or not at all");
     row("a stripe wider than the supply", supplies, "red,1.25", "red,4.5",
-        "supplies.csv:2, column 7 (second_colour_width): \"4.5\" is no number from 0 to 4");
+        "supplies.csv:2, column 7 (second_colour_width): \"4.5\" is not a number between 0 and 4");
     row("no width", supplies, "1.25,4,6000", "1.25,,6000",
-        "supplies.csv:2, column 8 (width): \"\" is no number from 0 to 100");
+        "supplies.csv:2, column 8 (width): \"\" is not a number between 0 and 100");
     row("a width of zero", supplies, "1.25,4,6000", "1.25,0,6000",
-        "supplies.csv:2, column 8 (width): \"0\" is not above 0");
+        "supplies.csv:2, column 8 (width): \"0\" is not greater than 0");
     row("a width with a decimal comma", supplies, "1.25,4,6000", "1.25,\"4,5\",6000",
-        "supplies.csv:2, column 8 (width): \"4,5\" is no number from 0 to 100");
+        "supplies.csv:2, column 8 (width): \"4,5\" is not a number between 0 and 100");
     row("an endless length", supplies, "1.25,4,6000", "1.25,4,inf",
-        "supplies.csv:2, column 9 (length): \"inf\" is no number from 0 to 100000");
+        "supplies.csv:2, column 9 (length): \"inf\" is not a number between 0 and 100000");
     row("a length that is no number", supplies, "1.25,4,6000", "1.25,4,nan",
-        "supplies.csv:2, column 9 (length): \"nan\" is no number from 0 to 100000");
+        "supplies.csv:2, column 9 (length): \"nan\" is not a number between 0 and 100000");
     row("a label of a continuous supply", supplies, "6000,,", "6000,2,",
-        "supplies.csv:2, column 10 (label_length): a label's length, where the format is "
+        "supplies.csv:2, column 10 (label_length): a label length is given, but the format is "
         "continuous");
     row("labels of no length", supplies, "1500,1.5,", "1500,,",
-        "supplies.csv:3, column 10 (label_length): empty, where the format is not continuous");
+        "supplies.csv:3, column 10 (label_length): empty, but the format is not continuous");
     row("labels longer than the roll", supplies, "1500,1.5,", "1500,1501,",
-        "supplies.csv:3, column 10 (label_length): \"1501\" is no number from 0 to 1500");
+        "supplies.csv:3, column 10 (label_length): \"1501\" is not a number between 0 and 1500");
     row("a separator below zero", supplies, "1.5,0.125", "1.5,-0.125",
-        "supplies.csv:3, column 11 (separator_width): \"-0.125\" is no number from 0 to 100");
+        "supplies.csv:3, column 11 (separator_width): \"-0.125\" is not a number between 0 and "
+        "100");
     row("neither yes nor no", supplies, "yes,dot.png", "true,dot.png",
         "supplies.csv:2, column 12 (landscape): \"true\" is neither yes nor no");
     row("a picture that is missing", supplies, "dot.png", "spot.png",
         "supplies.csv:2, column 13 (background): backgrounds/spot.png cannot be read");
     row("a picture from elsewhere", supplies, "dot.png", "../dot.png",
-        "supplies.csv:2, column 13 (background): \"../dot.png\" is no plain file name");
+        "supplies.csv:2, column 13 (background): \"../dot.png\" is not a plain file name");
     row("a picture from the root", supplies, "dot.png", "/dot.png",
-        "supplies.csv:2, column 13 (background): \"/dot.png\" is no plain file name");
+        "supplies.csv:2, column 13 (background): \"/dot.png\" is not a plain file name");
     row("no picture", "backgrounds/dot.png", "PNG", "GNP",
-        "supplies.csv:2, column 13 (background): backgrounds/dot.png is no image that can be "
-        "read");
+        "supplies.csv:2, column 13 (background): backgrounds/dot.png is not a readable image");
     row("no label at all", supplies, ",3,0.1", ",0,0.1",
-        "supplies.csv:3, column 14 (multi_up_count): \"0\" is no whole number from 1 to 100");
+        "supplies.csv:3, column 14 (multi_up_count): \"0\" is not a whole number between 1 and "
+        "100");
     row("labels without a gap", supplies, ",3,0.1", ",3,",
-        "supplies.csv:3, column 15 (multi_up_gap): empty, where labels lie side by side");
+        "supplies.csv:3, column 15 (multi_up_gap): empty, but there are several labels across");
     row("a gap beside one label", supplies, ",3,0.1", ",1,0.1",
-        "supplies.csv:3, column 15 (multi_up_gap): a gap, where one label lies alone");
+        "supplies.csv:3, column 15 (multi_up_gap): a gap is given, but there is only one label "
+        "across");
 
     const char* const ribbons = "ribbons.csv";
     row("a ribbon twice", ribbons, "RIBBON-T", "RIBBON-K",
-        "ribbons.csv:4, column 1 (sku): RIBBON-K is there twice");
+        "ribbons.csv:4, column 1 (sku): duplicate SKU RIBBON-K");
     row("a ribbon with a supply's SKU", ribbons, "RIBBON-T", "TAPE-1",
         "ribbons.csv:4, column 1 (sku): TAPE-1 is a supply's SKU");
     row("a ribbon's number twice", ribbons, "2003", "2001",
-        "ribbons.csv:3, column 2 (numbers): 2001 is there twice");
+        "ribbons.csv:3, column 2 (numbers): duplicate number 2001");
     row("a number no driver publishes", ribbons, "2003", "100001",
-        "ribbons.csv:3, column 2 (numbers): \"100001\" is no whole number from 1 to 100000");
+        "ribbons.csv:3, column 2 (numbers): \"100001\" is not a whole number between 1 and 100000");
     row("no panels", ribbons, ",red black", ",",
-        "ribbons.csv:3, column 6 (panels): 0 panels, where 1 to 16 can be");
+        "ribbons.csv:3, column 6 (panels): 0 panels; a ribbon has 1 to 16");
     row("too many panels", ribbons, ",red black",
         ",red red red red red red red red red red red red red red red red red",
-        "ribbons.csv:3, column 6 (panels): 17 panels, where 1 to 16 can be");
+        "ribbons.csv:3, column 6 (panels): 17 panels; a ribbon has 1 to 16");
     row("a panel of an unknown colour", ribbons, "red black", "red blue",
         "ribbons.csv:3, column 6 (panels): \"blue\" is not in colours.csv");
 
@@ -211,32 +214,33 @@ void RollDbTablesTest::refusesABadRow_data()
     row("a setting of no ribbon", settings, "RIBBON-K,1,LABEL-1", "RIBBON-X,1,LABEL-1",
         "print_settings.csv:5, column 1 (ribbon): \"RIBBON-X\" is not in ribbons.csv");
     row("a setting of no panel", settings, "RIBBON-K,1,LABEL-1", "RIBBON-K,2,LABEL-1",
-        "print_settings.csv:5, column 2 (panel): \"2\" is no whole number from 1 to 1");
+        "print_settings.csv:5, column 2 (panel): \"2\" is not a whole number between 1 and 1");
     row("a setting of no supply", settings, "RIBBON-K,1,LABEL-1", "RIBBON-K,1,RIBBON-K",
         "print_settings.csv:5, column 3 (supply): \"RIBBON-K\" is not in supplies.csv");
     row("a setting twice", settings, "RIBBON-K,1,LABEL-1", "RIBBON-K,1,TAPE-1",
-        "print_settings.csv:5, column 1 (ribbon): panel 1 of RIBBON-K with TAPE-1 is there "
-        "twice");
+        "print_settings.csv:5, column 1 (ribbon): duplicate print setting for panel 1 of RIBBON-K "
+        "with TAPE-1");
     row("an offset below zero", settings, "44,0,8", "44,-1,8",
-        "print_settings.csv:5, column 5 (heat_offset): \"-1\" is no whole number from 0 to "
+        "print_settings.csv:5, column 5 (heat_offset): \"-1\" is not a whole number between 0 and "
         "1000");
     row("no speed", settings, "44,0,8", "44,0,0",
-        "print_settings.csv:5, column 6 (max_speed): \"0\" is no whole number from 1 to 1000");
+        "print_settings.csv:5, column 6 (max_speed): \"0\" is not a whole number between 1 and "
+        "1000");
     row("a fraction", settings, "44,0,8", "44.5,0,8",
-        "print_settings.csv:5, column 4 (heat): \"44.5\" is no whole number from 0 to 1000");
+        "print_settings.csv:5, column 4 (heat): \"44.5\" is not a whole number between 0 and 1000");
 
     row("a model twice", "printer_formats.csv", "AlderMax,1", "alderMAX,1",
         "printer_formats.csv:4, column 1 (model): \"alderMAX\" is the same model as "
         "\"AlderMax\"");
     row("a format twice in a list", "printer_formats.csv", "AlderMax,1", "AlderMax,2",
-        "printer_formats.csv:4, column 2 (format): format 2 is there twice for AlderMax");
+        "printer_formats.csv:4, column 2 (format): duplicate format 2 for AlderMax");
     row("a list of an unknown format", "printer_formats.csv", "AlderMax,1", "AlderMax,9",
         "printer_formats.csv:4, column 2 (format): format 9 is not in formats.csv");
     row("a list of no model", "printer_formats.csv", "AlderMax,1", ",1",
         "printer_formats.csv:4, column 1 (model): empty");
 }
 
-void RollDbTablesTest::refusesABadRow()
+void RollDbTablesTest::refusesAnInvalidRow()
 {
     QFETCH(QString, file);
     QFETCH(QByteArray, before);
@@ -248,7 +252,7 @@ void RollDbTablesTest::refusesABadRow()
     QTEST(fault, "fault");
 }
 
-void RollDbTablesTest::refusesCharactersThatCannotBeSeen_data()
+void RollDbTablesTest::refusesInvisibleCharacters_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QByteArray>("text");
@@ -268,7 +272,7 @@ void RollDbTablesTest::refusesCharactersThatCannotBeSeen_data()
     row("a picture's file", "supplies.csv", "dot.png", "supplies.csv:2, column 13 (background)");
 }
 
-void RollDbTablesTest::refusesCharactersThatCannotBeSeen()
+void RollDbTablesTest::refusesInvisibleCharacters()
 {
     QFETCH(QString, file);
     QFETCH(QByteArray, text);
@@ -278,10 +282,10 @@ void RollDbTablesTest::refusesCharactersThatCannotBeSeen()
     QVERIFY(table.contains(text));
     table.insert(table.indexOf(text) + 1, "\u202e");
     QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-             place + QStringLiteral(": the character U+202E cannot be seen; take it out"));
+             place + QStringLiteral(": the character U+202E is invisible; remove it"));
 }
 
-void RollDbTablesTest::knowsWhichCharactersCannotBeSeen()
+void RollDbTablesTest::recognisesInvisibleCharacters()
 {
     for (const char32_t character :
          {U'\0',           U'\a',     U'\t',         U'\n',         U'\r',
@@ -314,13 +318,15 @@ void RollDbTablesTest::refusesAPictureOfTooManyPixels_data()
         QStringLiteral("supplies.csv:2, column 13 (background): backgrounds/dot.png has ");
     QTest::newRow("as many as can be") << bitmapHeader(4096, 4096) << QString();
     QTest::newRow("wide") << bitmapHeader(4097, 1)
-                          << place + QStringLiteral("4097 by 1 pixels, where 4096 by 4096 can be");
+                          << place +
+                                 QStringLiteral("4097 by 1 pixels; the maximum is 4096 by 4096");
     QTest::newRow("high") << bitmapHeader(1, 4097)
-                          << place + QStringLiteral("1 by 4097 pixels, where 4096 by 4096 can be");
+                          << place +
+                                 QStringLiteral("1 by 4097 pixels; the maximum is 4096 by 4096");
     QTest::newRow("a few bytes of 60,000 by 60,000")
         << QByteArray::fromBase64("iVBORw0KGgoAAAANSUhEUgAA6mAAAOpgCAIAAAAPsOIVAAAA"
                                   "CElEQVR4nAMAAAAAAUgGidIAAAAASUVORK5CYII=")
-        << place + QStringLiteral("60000 by 60000 pixels, where 4096 by 4096 can be");
+        << place + QStringLiteral("60000 by 60000 pixels; the maximum is 4096 by 4096");
 }
 
 void RollDbTablesTest::refusesAPictureOfTooManyPixels()
@@ -331,7 +337,7 @@ void RollDbTablesTest::refusesAPictureOfTooManyPixels()
     QTEST(faultOf([&catalogue] { catalogue.read(); }), "fault");
 }
 
-void RollDbTablesTest::refusesMoreRowsThanAReaderTakes()
+void RollDbTablesTest::refusesMoreRowsThanAReaderAccepts()
 {
     SmallCatalogue catalogue;
     QByteArray& supplies = catalogue.files[QStringLiteral("supplies.csv")];
@@ -360,10 +366,10 @@ void RollDbTablesTest::refusesAMissingTable()
              file + QStringLiteral(": no such file, or it cannot be read"));
     catalogue.files.insert(file, "\n \n");
     QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-             file + QStringLiteral(": empty, where a line of column names was expected"));
+             file + QStringLiteral(": empty; expected a line of column names"));
 }
 
-void RollDbTablesTest::refusesWhatIsTooLarge()
+void RollDbTablesTest::refusesWhatExceedsALimit()
 {
     SmallCatalogue catalogue;
     catalogue.replace("colours.csv", "Teal", QByteArray(201, 'x'));
@@ -393,7 +399,7 @@ void RollDbTablesTest::refusesWhatIsTooLarge()
              QStringLiteral("colours.csv:1: more than 64 columns"));
 }
 
-void RollDbTablesTest::readsATableHoweverASpreadsheetWritesIt_data()
+void RollDbTablesTest::readsTheVariantsThatSpreadsheetsWrite_data()
 {
     QTest::addColumn<QByteArray>("text");
 
@@ -407,7 +413,7 @@ void RollDbTablesTest::readsATableHoweverASpreadsheetWritesIt_data()
     QTest::newRow("empty columns") << QByteArray("key,size,,\na,1.5,,\nb,2,,\n");
 }
 
-void RollDbTablesTest::readsATableHoweverASpreadsheetWritesIt()
+void RollDbTablesTest::readsTheVariantsThatSpreadsheetsWrite()
 {
     QFETCH(QByteArray, text);
     const CsvTable table = CsvTable::parse(QStringLiteral("t.csv"), text);
@@ -430,7 +436,7 @@ void RollDbTablesTest::readsQuotedFields()
              QStringLiteral("t.csv:5, column 2 (name)"));
 }
 
-void RollDbTablesTest::takesSemicolonsAndDecimalCommas()
+void RollDbTablesTest::acceptsSemicolonsAndDecimalCommas()
 {
     SmallCatalogue catalogue;
     QByteArray& supplies = catalogue.files[QStringLiteral("supplies.csv")];
@@ -455,7 +461,7 @@ void RollDbTablesTest::theSampleCatalogueHasEveryNameInEachLanguage()
         QCOMPARE(format.name.translations.keys(), others);
 }
 
-void RollDbTablesTest::everySupplyOfTheSampleCatalogueCanBePrinted()
+void RollDbTablesTest::everySampleSupplyHasAKindAndAPrintSetting()
 {
     const Catalogue catalogue = readCatalogueDirectory(sampleCatalogue);
     QSet<QString> printed;

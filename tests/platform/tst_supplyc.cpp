@@ -11,14 +11,14 @@ class SupplyCTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void decodes_data();
-    void decodes();
-    void refuses_data();
-    void refuses();
+    void decodesIdentifiers_data();
+    void decodesIdentifiers();
+    void refusesOtherTexts_data();
+    void refusesOtherTexts();
     void hasTheLengthFirst();
 };
 
-void SupplyCTest::decodes_data()
+void SupplyCTest::decodesIdentifiers_data()
 {
     QTest::addColumn<QString>("identifier");
     QTest::addColumn<qint32>("feet");
@@ -35,7 +35,7 @@ void SupplyCTest::decodes_data()
     QTest::newRow("twenty zeros") << "00000000000000000000" << 0 << 0 << 0;
 }
 
-void SupplyCTest::decodes()
+void SupplyCTest::decodesIdentifiers()
 {
     QFETCH(QString, identifier);
     const SupplyC supply(identifier);
@@ -45,7 +45,7 @@ void SupplyCTest::decodes()
     QTEST(supply.rollNumber, "roll");
 }
 
-void SupplyCTest::refuses_data()
+void SupplyCTest::refusesOtherTexts_data()
 {
     QTest::addColumn<QString>("identifier");
 
@@ -65,7 +65,7 @@ void SupplyCTest::refuses_data()
         << QStringLiteral("000001F4") + QString(6, QChar(0x0661)) + QStringLiteral("0000A7");
 }
 
-void SupplyCTest::refuses()
+void SupplyCTest::refusesOtherTexts()
 {
     QFETCH(QString, identifier);
     const SupplyC supply(identifier);

@@ -45,36 +45,36 @@ class SupplyDbFilesTest : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void noFileNoAnswers_data();
-    void noFileNoAnswers();
-    void aFolderIsNoDatabase();
-    void aStrangeDatabaseIsLeftAlone_data();
-    void aStrangeDatabaseIsLeftAlone();
-    void aDatabaseWithAWriteAheadLogIsLeftAlone();
+    void answersNothingWithoutADatabaseFile_data();
+    void answersNothingWithoutADatabaseFile();
+    void answersNothingFromAFolder();
+    void aForeignDatabaseIsRefused_data();
+    void aForeignDatabaseIsRefused();
+    void aDatabaseWithAWriteAheadLogIsRefused();
     void aFileOfOtherTablesIsRefused_data();
     void aFileOfOtherTablesIsRefused();
     void aFileThatIsTooLargeIsRefused();
-    void readsAFileOfTheGreatestSize();
-    void aFileWithTheSameHeaderIsLookedAtAgain();
-    void rowsWithoutMeasureAreRefused_data();
-    void rowsWithoutMeasureAreRefused();
-    void readsAsManyRowsAsItMay();
-    void pagesInDisorderAreRefused_data();
-    void pagesInDisorderAreRefused();
-    void aTreeThatLeadsToAPageTwiceIsRefused();
-    void aPictureThatComesBackToItsPageIsRefused();
+    void readsAFileOfTheMaximumSize();
+    void aChangedFileWithTheSameHeaderIsCheckedAgain();
+    void tooLongAndTooManyRowsAreRefused_data();
+    void tooLongAndTooManyRowsAreRefused();
+    void readsAsManyRowsAsAreAllowed();
+    void misplacedPagesAreRefused_data();
+    void misplacedPagesAreRefused();
+    void aTreeThatReachesAPageTwiceIsRefused();
+    void aPictureThatReturnsToItsOwnPageIsRefused();
     void readsRowsOfEachLength_data();
     void readsRowsOfEachLength();
     void aFileOfAnotherEncodingIsRefused();
-    void damageIsSurvived();
-    void readingLeavesNoTrace();
-    void readsAFileThatMayNotBeWritten();
+    void damagedFilesDoNoHarm();
+    void readingChangesNoFile();
+    void readsAReadOnlyFile();
     void readsAFileOfAnyName();
     void aChangedFileIsNoticedAtTheNextSetup();
-    void aFileThatIsGoneIsNoticedAtTheNextSetup();
-    void aFileThatComesLaterIsNoticed();
-    void aFileThatIsMendedIsNoticed();
-    void aFileThatCannotBeUsedIsNotLookedAtForEachQuestion();
+    void aMissingFileIsNoticedAtTheNextSetup();
+    void aFileThatAppearsLaterIsNoticed();
+    void aFileThatIsRepairedIsNoticed();
+    void anUnusableFileIsNotOpenedForEachQuery();
 
 private:
     QString path() const { return m_folder->filePath(QStringLiteral("roll.db")); }
@@ -99,7 +99,7 @@ void SupplyDbFilesTest::cleanup()
     QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
 }
 
-void SupplyDbFilesTest::noFileNoAnswers_data()
+void SupplyDbFilesTest::answersNothingWithoutADatabaseFile_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<bool>("isThere");
@@ -112,7 +112,7 @@ void SupplyDbFilesTest::noFileNoAnswers_data()
                                  << true;
 }
 
-void SupplyDbFilesTest::noFileNoAnswers()
+void SupplyDbFilesTest::answersNothingWithoutADatabaseFile()
 {
     QFETCH(QByteArray, content);
     QFETCH(bool, isThere);
@@ -128,7 +128,7 @@ void SupplyDbFilesTest::noFileNoAnswers()
     QCOMPARE(filesIn(m_folder->path()).size(), isThere ? 2 : 1);
 }
 
-void SupplyDbFilesTest::aFolderIsNoDatabase()
+void SupplyDbFilesTest::answersNothingFromAFolder()
 {
     m_database->setup(m_folder->path(), connectionName);
     QVERIFY(knowsNothing(*m_database, tape, ribbonK));
@@ -138,7 +138,7 @@ void SupplyDbFilesTest::aFolderIsNoDatabase()
     QVERIFY(knowsNothing(*m_database, tape, ribbonK));
 }
 
-void SupplyDbFilesTest::aStrangeDatabaseIsLeftAlone_data()
+void SupplyDbFilesTest::aForeignDatabaseIsRefused_data()
 {
     QTest::addColumn<QByteArray>("statement");
 
@@ -147,7 +147,7 @@ void SupplyDbFilesTest::aStrangeDatabaseIsLeftAlone_data()
     QTest::newRow("of no version") << QByteArray("PRAGMA user_version = 0");
 }
 
-void SupplyDbFilesTest::aStrangeDatabaseIsLeftAlone()
+void SupplyDbFilesTest::aForeignDatabaseIsRefused()
 {
     QFETCH(QByteArray, statement);
     QVERIFY(TestConnection(path()).run(statement.constData()));
@@ -157,7 +157,7 @@ void SupplyDbFilesTest::aStrangeDatabaseIsLeftAlone()
 }
 
 // Reading one would leave two files beside it.
-void SupplyDbFilesTest::aDatabaseWithAWriteAheadLogIsLeftAlone()
+void SupplyDbFilesTest::aDatabaseWithAWriteAheadLogIsRefused()
 {
     m_database.reset();
     QVERIFY(TestConnection(path()).run("PRAGMA journal_mode = WAL"));
@@ -214,7 +214,7 @@ void SupplyDbFilesTest::aFileThatIsTooLargeIsRefused()
     QVERIFY(knowsNothing(*m_database, tape, ribbonK));
 }
 
-void SupplyDbFilesTest::readsAFileOfTheGreatestSize()
+void SupplyDbFilesTest::readsAFileOfTheMaximumSize()
 {
     QVERIFY(QFile::resize(path(), supplydb_schema::maxFileBytes));
     QCOMPARE(faultOf(path()), QString());
@@ -223,7 +223,7 @@ void SupplyDbFilesTest::readsAFileOfTheGreatestSize()
 }
 
 // Files that one program makes of other tables may have the same header and the same size.
-void SupplyDbFilesTest::aFileWithTheSameHeaderIsLookedAtAgain()
+void SupplyDbFilesTest::aChangedFileWithTheSameHeaderIsCheckedAgain()
 {
     const QByteArray whole = contentOf(path());
     QByteArray damaged = whole;
@@ -234,13 +234,12 @@ void SupplyDbFilesTest::aFileWithTheSameHeaderIsLookedAtAgain()
     QVERIFY(writeFileAt(path(), whole, hourAgo));
     QCOMPARE(faultOf(path()), QString());
     QVERIFY(writeFileAt(path(), damaged, hourAgo.addSecs(60)));
-    QCOMPARE(faultOf(path()),
-             QStringLiteral("damaged: page 2 is of a kind that does not belong there"));
+    QCOMPARE(faultOf(path()), QStringLiteral("damaged: page 2 is not of the expected type"));
     QVERIFY(writeFileAt(path(), whole, hourAgo.addSecs(120)));
     QCOMPARE(faultOf(path()), QString());
 }
 
-void SupplyDbFilesTest::rowsWithoutMeasureAreRefused_data()
+void SupplyDbFilesTest::tooLongAndTooManyRowsAreRefused_data()
 {
     QTest::addColumn<QByteArray>("change");
     QTest::addColumn<QString>("fault");
@@ -268,7 +267,7 @@ void SupplyDbFilesTest::rowsWithoutMeasureAreRefused_data()
                                  << QStringLiteral("more than 16384 rows in printer_format");
 }
 
-void SupplyDbFilesTest::rowsWithoutMeasureAreRefused()
+void SupplyDbFilesTest::tooLongAndTooManyRowsAreRefused()
 {
     QFETCH(QByteArray, change);
     {
@@ -282,7 +281,7 @@ void SupplyDbFilesTest::rowsWithoutMeasureAreRefused()
     QVERIFY(holdsNothing(*m_database));
 }
 
-void SupplyDbFilesTest::readsAsManyRowsAsItMay()
+void SupplyDbFilesTest::readsAsManyRowsAsAreAllowed()
 {
     {
         const TestConnection other(path());
@@ -301,7 +300,7 @@ void SupplyDbFilesTest::readsAsManyRowsAsItMay()
 }
 
 // A tree that leads to a page twice has endlessly many rows on a few pages.
-void SupplyDbFilesTest::pagesInDisorderAreRefused_data()
+void SupplyDbFilesTest::misplacedPagesAreRefused_data()
 {
     QTest::addColumn<QByteArray>("change");
     QTest::addColumn<QString>("fault");
@@ -318,10 +317,10 @@ void SupplyDbFilesTest::pagesInDisorderAreRefused_data()
                                             << QStringLiteral("page 999 is not in the file");
     QTest::newRow("a table kept as an index is")
         << update + root("translation") + " WHERE name = 'name'"
-        << QStringLiteral("page 5 is of a kind that does not belong there");
+        << QStringLiteral("page 5 is not of the expected type");
 }
 
-void SupplyDbFilesTest::pagesInDisorderAreRefused()
+void SupplyDbFilesTest::misplacedPagesAreRefused()
 {
     QFETCH(QByteArray, change);
     QFETCH(QString, fault);
@@ -335,7 +334,7 @@ void SupplyDbFilesTest::pagesInDisorderAreRefused()
     QVERIFY(knowsNothing(*m_database, tape, ribbonK));
 }
 
-void SupplyDbFilesTest::aTreeThatLeadsToAPageTwiceIsRefused()
+void SupplyDbFilesTest::aTreeThatReachesAPageTwiceIsRefused()
 {
     const QString sample = m_folder->filePath(QStringLiteral("sample.db"));
     writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), sample);
@@ -363,7 +362,7 @@ void SupplyDbFilesTest::aTreeThatLeadsToAPageTwiceIsRefused()
 }
 
 // Pictures are not read when a file is opened, but their pages are counted.
-void SupplyDbFilesTest::aPictureThatComesBackToItsPageIsRefused()
+void SupplyDbFilesTest::aPictureThatReturnsToItsOwnPageIsRefused()
 {
     QVERIFY(TestConnection(path()).run("UPDATE background SET image = zeroblob(262144)"));
     QCOMPARE(faultOf(path()), QString());
@@ -422,7 +421,7 @@ void SupplyDbFilesTest::aFileOfAnotherEncodingIsRefused()
 
 // Whatever it answers, it answers. Some of the damage is noticed before the file is opened, and
 // some is left to SQLite.
-void SupplyDbFilesTest::damageIsSurvived()
+void SupplyDbFilesTest::damagedFilesDoNoHarm()
 {
     const QByteArray whole = contentOf(path());
     int opened = 0;
@@ -458,7 +457,7 @@ void SupplyDbFilesTest::damageIsSurvived()
     QCOMPARE(m_database->supplyColorName(tape), QStringLiteral("White"));
 }
 
-void SupplyDbFilesTest::readingLeavesNoTrace()
+void SupplyDbFilesTest::readingChangesNoFile()
 {
     const QByteArray before = contentOf(path());
     QVERIFY(!knowsNothing(*m_database, tape, ribbonK));
@@ -468,7 +467,7 @@ void SupplyDbFilesTest::readingLeavesNoTrace()
     QCOMPARE(filesIn(m_folder->path()), QStringList{QStringLiteral("roll.db")});
 }
 
-void SupplyDbFilesTest::readsAFileThatMayNotBeWritten()
+void SupplyDbFilesTest::readsAReadOnlyFile()
 {
     QVERIFY(QFile::setPermissions(path(), QFileDevice::ReadOwner));
     m_database->setup(path(), connectionName);
@@ -502,7 +501,7 @@ void SupplyDbFilesTest::aChangedFileIsNoticedAtTheNextSetup()
     QCOMPARE(m_database->supplySKUList().size(), 2);
 }
 
-void SupplyDbFilesTest::aFileThatIsGoneIsNoticedAtTheNextSetup()
+void SupplyDbFilesTest::aMissingFileIsNoticedAtTheNextSetup()
 {
     QCOMPARE(m_database->supplyColorRGB(tape), 0xFFFFFF);
     m_database->setup(m_folder->filePath(QStringLiteral("gone.db")), connectionName);
@@ -512,7 +511,7 @@ void SupplyDbFilesTest::aFileThatIsGoneIsNoticedAtTheNextSetup()
     QCOMPARE(m_database->supplyColorRGB(tape), 0xFFFFFF);
 }
 
-void SupplyDbFilesTest::aFileThatComesLaterIsNoticed()
+void SupplyDbFilesTest::aFileThatAppearsLaterIsNoticed()
 {
     const QString late = m_folder->filePath(QStringLiteral("late.db"));
     m_database->setup(late, connectionName);
@@ -523,7 +522,7 @@ void SupplyDbFilesTest::aFileThatComesLaterIsNoticed()
     QCOMPARE(m_database->supplyColorName(tape), QStringLiteral("White"));
 }
 
-void SupplyDbFilesTest::aFileThatIsMendedIsNoticed()
+void SupplyDbFilesTest::aFileThatIsRepairedIsNoticed()
 {
     const QByteArray whole = contentOf(path());
     QVERIFY(writeFile(path(), whole.first(5000)));
@@ -533,7 +532,7 @@ void SupplyDbFilesTest::aFileThatIsMendedIsNoticed()
     QTRY_COMPARE(m_database->supplyColorName(tape), QStringLiteral("White"));
 }
 
-void SupplyDbFilesTest::aFileThatCannotBeUsedIsNotLookedAtForEachQuestion()
+void SupplyDbFilesTest::anUnusableFileIsNotOpenedForEachQuery()
 {
     const QString late = m_folder->filePath(QStringLiteral("late.db"));
     QElapsedTimer timer;

@@ -92,19 +92,19 @@ class SupplyDbQueriesTest : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void aLockedFileIsAskedAgain();
-    void aPassingLockLosesNoSku();
-    void aPassingLockIsWaitedFor();
-    void aLockedFileIsWaitedForOnceASecond();
-    void knowsEachCodeOfALock_data();
-    void knowsEachCodeOfALock();
-    void aLockedFileIsGivenUp();
-    void keepsNoMoreAnswersThanItMay();
-    void readsAllAtTheSecondKey();
-    void doesNotKeepAnAnswerThatIsTooLarge();
-    void answersAFailureWithNoOtherKeysAnswer();
-    void doesNotKeepHalfAnAnswer();
-    void doesNotKeepAFailure();
+    void aLockedFileIsQueriedAgain();
+    void aTemporaryLockLosesNoSku();
+    void waitsForATemporaryLock();
+    void waitsForALockedFileOnceASecond();
+    void recognisesEachErrorCodeOfALock_data();
+    void recognisesEachErrorCodeOfALock();
+    void givesUpOnAFileThatStaysLocked();
+    void cachesNoMoreAnswersThanItsCapacity();
+    void readsAllKeysAtTheSecondMiss();
+    void doesNotCacheAnAnswerAboveTheCapacity();
+    void aFailureDoesNotReturnAnotherKeysAnswer();
+    void doesNotCacheAPartialAnswer();
+    void doesNotCacheAFailure();
 
 private:
     QString path() const { return m_folder->filePath(QStringLiteral("roll.db")); }
@@ -130,7 +130,7 @@ void SupplyDbQueriesTest::cleanup()
 }
 
 // What could not be had must not be taken for what is not there.
-void SupplyDbQueriesTest::aLockedFileIsAskedAgain()
+void SupplyDbQueriesTest::aLockedFileIsQueriedAgain()
 {
     const TestConnection other(path());
     QVERIFY(other.run("BEGIN EXCLUSIVE"));
@@ -139,7 +139,7 @@ void SupplyDbQueriesTest::aLockedFileIsAskedAgain()
     QCOMPARE(m_database->supplyColorRGB(tape), 0xFFFFFF);
 }
 
-void SupplyDbQueriesTest::aPassingLockLosesNoSku()
+void SupplyDbQueriesTest::aTemporaryLockLosesNoSku()
 {
     m_database->setSupplyId(tapeId);
     m_database->setRibbonIds({QStringLiteral("2001")});
@@ -154,7 +154,7 @@ void SupplyDbQueriesTest::aPassingLockLosesNoSku()
     QCOMPARE(m_database->supplyRibbonSKUs(), QStringList{ribbonK});
 }
 
-void SupplyDbQueriesTest::aPassingLockIsWaitedFor()
+void SupplyDbQueriesTest::waitsForATemporaryLock()
 {
     const TestConnection other(path());
     QVERIFY(other.run("BEGIN EXCLUSIVE"));
@@ -167,7 +167,7 @@ void SupplyDbQueriesTest::aPassingLockIsWaitedFor()
     QCOMPARE(sleeps, 3);
 }
 
-void SupplyDbQueriesTest::aLockedFileIsWaitedForOnceASecond()
+void SupplyDbQueriesTest::waitsForALockedFileOnceASecond()
 {
     using namespace std::chrono_literals;
     const TestConnection other(path());
@@ -186,7 +186,7 @@ void SupplyDbQueriesTest::aLockedFileIsWaitedForOnceASecond()
 }
 
 // Result codes of SQLite's, https://www.sqlite.org/rescode.html.
-void SupplyDbQueriesTest::knowsEachCodeOfALock_data()
+void SupplyDbQueriesTest::recognisesEachErrorCodeOfALock_data()
 {
     QTest::addColumn<int>("code");
     QTest::addColumn<bool>("isLock");
@@ -201,7 +201,7 @@ void SupplyDbQueriesTest::knowsEachCodeOfALock_data()
     QTest::newRow("SQLITE_IOERR_READ") << 266 << false;
 }
 
-void SupplyDbQueriesTest::knowsEachCodeOfALock()
+void SupplyDbQueriesTest::recognisesEachErrorCodeOfALock()
 {
     QFETCH(const int, code);
     const QSqlError error({}, {}, QSqlError::StatementError, QString::number(code));
@@ -210,7 +210,7 @@ void SupplyDbQueriesTest::knowsEachCodeOfALock()
 
 // The file is free again long after all questions are answered: whoever waits for it to the end
 // has an answer.
-void SupplyDbQueriesTest::aLockedFileIsGivenUp()
+void SupplyDbQueriesTest::givesUpOnAFileThatStaysLocked()
 {
     constexpr int lockedFor = 3000;
     const Locker locker(path(), lockedFor);
@@ -218,7 +218,7 @@ void SupplyDbQueriesTest::aLockedFileIsGivenUp()
     QVERIFY(knowsNothing(*m_database, tape, ribbonK));
 }
 
-void SupplyDbQueriesTest::keepsNoMoreAnswersThanItMay()
+void SupplyDbQueriesTest::cachesNoMoreAnswersThanItsCapacity()
 {
     const TestConnection other(path());
     CachedQuery<int, QString> query(QStringLiteral("SELECT english FROM name WHERE id = ?"),
@@ -237,7 +237,7 @@ void SupplyDbQueriesTest::keepsNoMoreAnswersThanItMay()
     QCOMPARE(answer(1), QStringLiteral("new"));
 }
 
-void SupplyDbQueriesTest::readsAllAtTheSecondKey()
+void SupplyDbQueriesTest::readsAllKeysAtTheSecondMiss()
 {
     const TestConnection other(path());
     CachedQuery<int, QString> query(
@@ -261,7 +261,7 @@ void SupplyDbQueriesTest::readsAllAtTheSecondKey()
     QCOMPARE(answer(99), QString());
 }
 
-void SupplyDbQueriesTest::doesNotKeepAnAnswerThatIsTooLarge()
+void SupplyDbQueriesTest::doesNotCacheAnAnswerAboveTheCapacity()
 {
     const TestConnection other(path());
     CachedQuery<int, QString> query(QStringLiteral("SELECT english FROM name WHERE id = ?"),
@@ -276,7 +276,7 @@ void SupplyDbQueriesTest::doesNotKeepAnAnswerThatIsTooLarge()
     QCOMPARE(answer(1), QStringLiteral("new"));
 }
 
-void SupplyDbQueriesTest::answersAFailureWithNoOtherKeysAnswer()
+void SupplyDbQueriesTest::aFailureDoesNotReturnAnotherKeysAnswer()
 {
     const TestConnection other(path());
     CachedQuery<int, QString> query(QStringLiteral("SELECT english FROM name WHERE id = ?"),
@@ -287,7 +287,7 @@ void SupplyDbQueriesTest::answersAFailureWithNoOtherKeysAnswer()
     QCOMPARE(query.answer(other.database(), 2, 2), QString());
 }
 
-void SupplyDbQueriesTest::doesNotKeepHalfAnAnswer()
+void SupplyDbQueriesTest::doesNotCacheAPartialAnswer()
 {
     const TestConnection other(path());
     QVERIFY(other.run("CREATE TABLE remark (id INTEGER PRIMARY KEY, number INTEGER)"));
@@ -305,7 +305,7 @@ void SupplyDbQueriesTest::doesNotKeepHalfAnAnswer()
     QCOMPARE(answer(), (QStringList{QStringLiteral("5"), QStringLiteral("7")}));
 }
 
-void SupplyDbQueriesTest::doesNotKeepAFailure()
+void SupplyDbQueriesTest::doesNotCacheAFailure()
 {
     const TestConnection other(path());
     CachedQuery<int, QString> query(QStringLiteral("SELECT text FROM remark WHERE id = ?"),

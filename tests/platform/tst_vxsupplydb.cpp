@@ -18,31 +18,31 @@ private Q_SLOTS:
     void cleanup();
     void knowsASupply();
     void knowsLabelsSideBySide();
-    void answersThatASupplyHasNoSuchThing();
+    void answersDefaultsForWhatASupplyDoesNotHave();
     void namesAreInTheLanguageOrInEnglish_data();
     void namesAreInTheLanguageOrInEnglish();
-    void keepsNoNameOfAnotherLanguage();
-    void keepsTheLanguageOverASetup();
+    void namesFollowAChangeOfLanguage();
+    void setupKeepsTheLanguage();
     void knowsNothingOfAnUnknownSku_data();
     void knowsNothingOfAnUnknownSku();
     void knowsNothingBeforeASetup();
-    void asksOnlyWhatIsSupplyOrRibbon();
+    void distinguishesSuppliesFromRibbons();
     void knowsARibbon();
     void knowsNothingOfAMissingPanel_data();
     void knowsNothingOfAMissingPanel();
-    void knowsHowAPanelPrintsOnASupply();
+    void knowsThePrintSettingsOfAPanelOnASupply();
     void listsHaveAnEntryForEachRibbon();
     void listsOfNoRibbonAreEmpty();
-    void listsWhatItHolds();
+    void listsAllSuppliesAndRibbons();
     void theSupplyIdentifierDecidesTheSku_data();
     void theSupplyIdentifierDecidesTheSku();
     void theRibbonIdentifiersDecideTheSkus_data();
     void theRibbonIdentifiersDecideTheSkus();
-    void whatIsLoadedOutlastsASetup();
-    void whatIsLoadedIsLookedUpAgainAfterASetup();
-    void theTypeIndexIsThePlaceInTheModelsList_data();
-    void theTypeIndexIsThePlaceInTheModelsList();
-    void objectsHaveNothingInCommon();
+    void setupKeepsWhatIsLoaded();
+    void looksUpWhatIsLoadedAgainAfterASetup();
+    void theTypeIndexIsThePositionInTheModelsList_data();
+    void theTypeIndexIsThePositionInTheModelsList();
+    void objectsAreIndependent();
     void oneConnectionNameServesTwoObjects();
     void agreesWithTheSampleDatabase();
 
@@ -101,7 +101,7 @@ void VXSupplyDatabaseTest::knowsLabelsSideBySide()
     QCOMPARE(m_database->supplyMultiUpGapSize(label), 0.1);
 }
 
-void VXSupplyDatabaseTest::answersThatASupplyHasNoSuchThing()
+void VXSupplyDatabaseTest::answersDefaultsForWhatASupplyDoesNotHave()
 {
     QCOMPARE(m_database->supplyNonContinuousLength(tape), -1.0);
     QCOMPARE(m_database->supplySeparatorWidth(tape), -1.0);
@@ -164,7 +164,7 @@ void VXSupplyDatabaseTest::namesAreInTheLanguageOrInEnglish()
     QCOMPARE(m_database->supplySecColorNameEn(tape), QStringLiteral("Red"));
 }
 
-void VXSupplyDatabaseTest::keepsNoNameOfAnotherLanguage()
+void VXSupplyDatabaseTest::namesFollowAChangeOfLanguage()
 {
     const auto names = [this] {
         return QStringList{m_database->supplyColorName(tape),
@@ -186,7 +186,7 @@ void VXSupplyDatabaseTest::keepsNoNameOfAnotherLanguage()
     QCOMPARE(names(), english);
 }
 
-void VXSupplyDatabaseTest::keepsTheLanguageOverASetup()
+void VXSupplyDatabaseTest::setupKeepsTheLanguage()
 {
     m_database->setLanguageId(germanId);
     m_database->setup(path(), connectionName);
@@ -232,7 +232,7 @@ void VXSupplyDatabaseTest::knowsNothingBeforeASetup()
     QCOMPARE(fresh.supplyRibbon2RGBs(), QStringList());
 }
 
-void VXSupplyDatabaseTest::asksOnlyWhatIsSupplyOrRibbon()
+void VXSupplyDatabaseTest::distinguishesSuppliesFromRibbons()
 {
     QVERIFY(knowsNothing(*m_database, ribbonK, tape));
 }
@@ -265,7 +265,7 @@ void VXSupplyDatabaseTest::knowsNothingOfAMissingPanel()
     QCOMPARE(m_database->supplyRibbonHeat(ribbonRK, panel, tape), -1);
 }
 
-void VXSupplyDatabaseTest::knowsHowAPanelPrintsOnASupply()
+void VXSupplyDatabaseTest::knowsThePrintSettingsOfAPanelOnASupply()
 {
     QCOMPARE(m_database->supplyRibbonHeat(ribbonRK, 2, tape), 55);
     QCOMPARE(m_database->supplyRibbonHeatOffset(ribbonRK, 2, tape), 1);
@@ -302,7 +302,7 @@ void VXSupplyDatabaseTest::listsOfNoRibbonAreEmpty()
     QCOMPARE(m_database->supplyRibbonsTensions({}, tape), QVariantList());
 }
 
-void VXSupplyDatabaseTest::listsWhatItHolds()
+void VXSupplyDatabaseTest::listsAllSuppliesAndRibbons()
 {
     QCOMPARE(m_database->supplySKUList(), (QStringList{label, spare, tape}));
     QCOMPARE(m_database->supplyRibbonSKUList(), (QStringList{ribbonK, ribbonRK, ribbonT}));
@@ -396,7 +396,7 @@ void VXSupplyDatabaseTest::theRibbonIdentifiersDecideTheSkus()
     QTEST(m_database->supplyRibbon2RGBs(), "rgbs2");
 }
 
-void VXSupplyDatabaseTest::whatIsLoadedOutlastsASetup()
+void VXSupplyDatabaseTest::setupKeepsWhatIsLoaded()
 {
     VXSupplyDatabase database;
     database.setSupplyId(tapeId);
@@ -407,7 +407,7 @@ void VXSupplyDatabaseTest::whatIsLoadedOutlastsASetup()
     QCOMPARE(database.supplyRibbonSKUs(), QStringList{ribbonK});
 }
 
-void VXSupplyDatabaseTest::whatIsLoadedIsLookedUpAgainAfterASetup()
+void VXSupplyDatabaseTest::looksUpWhatIsLoadedAgainAfterASetup()
 {
     m_database->setSupplyId(tapeId);
     m_database->setRibbonIds({QStringLiteral("2001"), QStringLiteral("2003")});
@@ -423,7 +423,7 @@ void VXSupplyDatabaseTest::whatIsLoadedIsLookedUpAgainAfterASetup()
     QCOMPARE(m_database->supplyRibbonSKUs(), (QStringList{ribbonK, ribbonT}));
 }
 
-void VXSupplyDatabaseTest::theTypeIndexIsThePlaceInTheModelsList_data()
+void VXSupplyDatabaseTest::theTypeIndexIsThePositionInTheModelsList_data()
 {
     QTest::addColumn<QString>("printer");
     QTest::addColumn<int>("tape");
@@ -437,7 +437,7 @@ void VXSupplyDatabaseTest::theTypeIndexIsThePlaceInTheModelsList_data()
     QTest::newRow("no name") << "" << 0 << 1;
 }
 
-void VXSupplyDatabaseTest::theTypeIndexIsThePlaceInTheModelsList()
+void VXSupplyDatabaseTest::theTypeIndexIsThePositionInTheModelsList()
 {
     QFETCH(QString, printer);
     QTEST(m_database->supplyTypeIndex(tape, printer), "tape");
@@ -445,7 +445,7 @@ void VXSupplyDatabaseTest::theTypeIndexIsThePlaceInTheModelsList()
     QCOMPARE(m_database->supplyTypeIndex(unknownSku, printer), -1);
 }
 
-void VXSupplyDatabaseTest::objectsHaveNothingInCommon()
+void VXSupplyDatabaseTest::objectsAreIndependent()
 {
     VXSupplyDatabase german;
     german.setup(path(), QStringLiteral("second"));

@@ -166,23 +166,23 @@ class CuteLoggerTest : public QObject
 
 private Q_SLOTS:
     void globalLoggerHasTwoNames();
-    void threeFormsOfAMessage();
-    void placeIsPassedOn();
-    void categoriesHaveTheirAppenders();
+    void takesThreeFormsOfAMessage();
+    void passesThePlaceOn();
+    void categoriesHaveTheirOwnAppenders();
     void linkedCategoriesReachAllAppenders();
-    void levels_data();
-    void levels();
-    void levelNames();
-    void appenderTwiceIsOnce();
-    void removedAppenderIsTheCallers();
-    void recordsHaveTheTimeOfTheWallClock();
-    void recordsOfManyThreads();
-    void fileAppender();
-    void fileAppenderWithoutAFile();
+    void dropsRecordsBelowTheLevel_data();
+    void dropsRecordsBelowTheLevel();
+    void convertsLevelNames();
+    void registersAnAppenderOnce();
+    void returnsARemovedAppenderToTheCaller();
+    void recordsHaveTheLocalTime();
+    void takesRecordsFromManyThreads();
+    void appendsToAFile();
+    void aFileThatCannotBeWrittenDoesNotStopOtherAppenders();
     void recordsWithoutAnAppenderGoToStandardError();
     void recordsBelowTheLevelGoNowhere();
     void categoriesWithoutAnAppenderGoToStandardError();
-    void linkedCategoriesWithAnAppenderDoNot();
+    void linkedCategoriesWithAnAppenderStayOffStandardError();
     void messagesOfQtAreRecords();
     void fatalRecordsEndTheProcess();
     void appendersEndWithTheApplication();
@@ -206,7 +206,7 @@ void CuteLoggerTest::globalLoggerHasTwoNames()
 #endif
 }
 
-void CuteLoggerTest::threeFormsOfAMessage()
+void CuteLoggerTest::takesThreeFormsOfAMessage()
 {
     Logger logger;
     auto* recorder = new Recorder;
@@ -222,7 +222,7 @@ void CuteLoggerTest::threeFormsOfAMessage()
                           QStringLiteral("streamed 7 \"quoted\" ")}));
 }
 
-void CuteLoggerTest::placeIsPassedOn()
+void CuteLoggerTest::passesThePlaceOn()
 {
     Logger logger;
     auto* recorder = new Recorder;
@@ -236,7 +236,7 @@ void CuteLoggerTest::placeIsPassedOn()
                                                 QStringLiteral("message")}}));
 }
 
-void CuteLoggerTest::categoriesHaveTheirAppenders()
+void CuteLoggerTest::categoriesHaveTheirOwnAppenders()
 {
     Logger logger;
     auto* all = new Recorder;
@@ -276,7 +276,7 @@ void CuteLoggerTest::linkedCategoriesReachAllAppenders()
     QCOMPARE(messages, (QStringList{QStringLiteral("global"), QStringLiteral("local")}));
 }
 
-void CuteLoggerTest::levels_data()
+void CuteLoggerTest::dropsRecordsBelowTheLevel_data()
 {
     QTest::addColumn<int>("details");
     QTest::addColumn<int>("records");
@@ -286,7 +286,7 @@ void CuteLoggerTest::levels_data()
     QTest::newRow("fatal") << int(Logger::Fatal) << 1;
 }
 
-void CuteLoggerTest::levels()
+void CuteLoggerTest::dropsRecordsBelowTheLevel()
 {
     QFETCH(const int, details);
     QFETCH(const int, records);
@@ -300,7 +300,7 @@ void CuteLoggerTest::levels()
     QCOMPARE(recorder.records.size(), records);
 }
 
-void CuteLoggerTest::levelNames()
+void CuteLoggerTest::convertsLevelNames()
 {
     QCOMPARE(Logger::levelToString(Logger::Warning), QStringLiteral("Warning"));
     QCOMPARE(Logger::levelFromString(QStringLiteral(" wArNiNg ")), Logger::Warning);
@@ -310,7 +310,7 @@ void CuteLoggerTest::levelNames()
     QCOMPARE(recorder.detailsLevel(), Logger::Error);
 }
 
-void CuteLoggerTest::appenderTwiceIsOnce()
+void CuteLoggerTest::registersAnAppenderOnce()
 {
     Logger logger;
     auto* recorder = new Recorder;
@@ -320,7 +320,7 @@ void CuteLoggerTest::appenderTwiceIsOnce()
     QCOMPARE(recorder->records.size(), 1);
 }
 
-void CuteLoggerTest::removedAppenderIsTheCallers()
+void CuteLoggerTest::returnsARemovedAppenderToTheCaller()
 {
     Recorder recorder;
     {
@@ -333,7 +333,7 @@ void CuteLoggerTest::removedAppenderIsTheCallers()
     QVERIFY(recorder.records.isEmpty());
 }
 
-void CuteLoggerTest::recordsHaveTheTimeOfTheWallClock()
+void CuteLoggerTest::recordsHaveTheLocalTime()
 {
     // A zone that no test machine is in, so that universal time cannot pass for the wall clock's.
     qputenv("TZ", "VXT-5:45");
@@ -354,7 +354,7 @@ void CuteLoggerTest::recordsHaveTheTimeOfTheWallClock()
         QVERIFY(isLocal());
 }
 
-void CuteLoggerTest::recordsOfManyThreads()
+void CuteLoggerTest::takesRecordsFromManyThreads()
 {
     Logger logger;
     auto* recorder = new Recorder;
@@ -370,7 +370,7 @@ void CuteLoggerTest::recordsOfManyThreads()
     QCOMPARE(recorder->records.size(), 2000);
 }
 
-void CuteLoggerTest::fileAppender()
+void CuteLoggerTest::appendsToAFile()
 {
     const QTemporaryDir folder;
     const QString name = folder.filePath(QStringLiteral("log"));
@@ -394,7 +394,7 @@ void CuteLoggerTest::fileAppender()
     QVERIFY(QFile::exists(folder.filePath(QStringLiteral("other"))));
 }
 
-void CuteLoggerTest::fileAppenderWithoutAFile()
+void CuteLoggerTest::aFileThatCannotBeWrittenDoesNotStopOtherAppenders()
 {
     const QTemporaryDir folder;
     Logger logger;
@@ -435,7 +435,7 @@ void CuteLoggerTest::categoriesWithoutAnAppenderGoToStandardError()
     QVERIFY2(lines.at(2).contains("second"), ending.errors.constData());
 }
 
-void CuteLoggerTest::linkedCategoriesWithAnAppenderDoNot()
+void CuteLoggerTest::linkedCategoriesWithAnAppenderStayOffStandardError()
 {
     const Ending ending = endingOf("a linked category with an appender of its own");
     QVERIFY(ending.isNormal);
