@@ -23,11 +23,12 @@ inline const QString ribbonT = QStringLiteral("RIBBON-T");
 inline const QString unknownSku = QStringLiteral("NO-SUCH");
 inline const QString tapeId = QStringLiteral("000001F41000420000A7");
 
-/// A connection of the test's own, which may write.
+/// A separate connection that may write.
 class TestConnection
 {
 public:
-    explicit TestConnection(const QString& path, const QString& name = QStringLiteral("other"))
+    explicit TestConnection(const QString& path,
+                            const QString& name = QStringLiteral("test connection"))
         : m_name(name)
         , m_database(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_name))
     {
@@ -57,7 +58,7 @@ private:
     QSqlDatabase m_database;
 };
 
-/// Asks everything that can be asked of a supply and a ribbon. True when nothing is known of them.
+/// Queries every property of a supply and a ribbon. True if all of them are unknown.
 inline bool knowsNothing(const VXSupplyDatabase& database, const QString& sku,
                          const QString& ribbon)
 {

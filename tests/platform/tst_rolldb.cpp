@@ -29,7 +29,7 @@
 
 namespace {
 
-// With a drive where there are drives: the tool may run on another one.
+// An absolute path, because on Windows the tool may run on another drive.
 const QString sampleCatalogue = QDir(QStringLiteral(VX_SAMPLE_CATALOGUE)).absolutePath();
 
 } // namespace
@@ -133,7 +133,8 @@ void RollDbTest::keepsTheOldFileWhenARowIsInvalid()
     QCOMPARE(filesIn(m_folder->path()), QStringList{QStringLiteral("roll.db")});
 }
 
-// The schema has the last word: what slips through the tables' reader must not get into a file.
+// The schema is the last line of defence: what the reader of the tables misses must not get into a
+// file.
 void RollDbTest::keepsTheOldFileWhenTheSchemaRefusesARow()
 {
     SmallCatalogue().write(path());
@@ -168,7 +169,7 @@ void RollDbTest::doesNotReplaceAPipe_data()
     QTest::newRow("a link to it") << QStringLiteral("link");
 }
 
-// A device is left alone for the same reason; only the super-user could make one here.
+// The same code protects devices, which only the superuser could create here.
 void RollDbTest::doesNotReplaceAPipe()
 {
     QFETCH(QString, target);
@@ -216,7 +217,7 @@ void RollDbTest::doesNotWaitForAPipe()
     QVERIFY(!QFile::exists(path()));
 }
 
-// A bound on a file's size ends a write in its midst, as a full disk does.
+// A limit on the file size interrupts a write like a full disk.
 void RollDbTest::reportsWhyAFileCannotBeWritten()
 {
     QVERIFY(writeFile(path(), "old"));
@@ -345,7 +346,7 @@ void RollDbTest::refusesToReportAnUnknownSku()
 
 void RollDbTest::theToolReturnsItsResultAndExitStatus_data()
 {
-    // "@" stands for the test's folder.
+    // "@" is replaced with the test's folder.
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("output");

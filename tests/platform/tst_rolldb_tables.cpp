@@ -7,16 +7,14 @@
 #include <visible_text.h>
 
 #include <QtCore/QDataStream>
-#include <QtCore/QDir>
 #include <QtCore/QSet>
 #include <QtTest/QtTest>
 
 namespace {
 
-// With a drive where there are drives: the tool may run on another one.
-const QString sampleCatalogue = QDir(QStringLiteral(VX_SAMPLE_CATALOGUE)).absolutePath();
+const QString sampleCatalogue = QStringLiteral(VX_SAMPLE_CATALOGUE);
 
-/// All that a bitmap's file says of its size, and no pixels.
+/// The header of a bitmap file with a size, without any pixels.
 QByteArray bitmapHeader(qint32 width, qint32 height)
 {
     constexpr quint32 headerSize = 54;
@@ -70,9 +68,9 @@ void RollDbTablesTest::refusesAnInvalidRow_data()
                             << QString::fromUtf8(fault);
     };
     const char* const colours = "colours.csv";
-    row("a colour without a mark", colours, "#ffffff", "ffffff",
+    row("a colour without #", colours, "#ffffff", "ffffff",
         "colours.csv:2, column 2 (rgb): \"ffffff\" is not a colour of the form #RRGGBB");
-    row("a colour of other digits", colours, "#ffffff", "#fffffg",
+    row("a colour with an invalid digit", colours, "#ffffff", "#fffffg",
         "colours.csv:2, column 2 (rgb): \"#fffffg\" is not a colour of the form #RRGGBB");
     row("a short colour", colours, "#ffffff", "#fff",
         "colours.csv:2, column 2 (rgb): \"#fff\" is not a colour of the form #RRGGBB");
@@ -83,9 +81,9 @@ void RollDbTablesTest::refusesAnInvalidRow_data()
     row("a space in a key", colours, "teal,", "dark teal,",
         "colours.csv:5, column 1 (colour): a space in a colour's key");
     row("no English name", colours, "Teal,,", ",Petrol,", "colours.csv:5, column 3 (en): empty");
-    row("a field too many", colours, "Teal,,", "Teal,,,,x",
+    row("one field too many", colours, "Teal,,", "Teal,,,,x",
         "colours.csv:5: 7 fields, but there are 5 columns");
-    row("a field too few", colours, "Teal,,", "Teal,",
+    row("one field too few", colours, "Teal,,", "Teal,",
         "colours.csv:5: 4 fields, but there are 5 columns");
     row("an unknown column", colours, "en,de,ja", "en,de,color",
         "colours.csv:1, column 5 (color): neither a column of this table nor a known language");
@@ -101,34 +99,34 @@ void RollDbTablesTest::refusesAnInvalidRow_data()
         "colours.csv: the column rgb is missing");
     row("an open quotation mark", colours, "Teal", "\"Teal",
         "colours.csv:5: an unclosed quotation mark");
-    row("text behind a quotation mark", colours, "Teal", "\"Te\"al",
+    row("text after a quotation mark", colours, "Teal", "\"Te\"al",
         "colours.csv:5: text after a closing quotation mark");
     row("a quotation mark inside", colours, "Teal", "Te\"al",
         "colours.csv:5: a quotation mark inside a field that is not quoted");
     row("a carriage return", colours, "Teal", "Te\ral",
         "colours.csv:5: a carriage return without a line feed");
-    row("bytes that are no text", colours, "Teal",
+    row("bytes that are not text", colours, "Teal",
         "T\xe9"
         "al",
         "colours.csv:5: not UTF-8 text");
     row("half a character at the end", colours, "Teal,,\n", "Teal,,\xe7",
         "colours.csv:5: not UTF-8 text");
 
-    row("a material that is no number", "materials.csv", "7,Vinyl", "vinyl,Vinyl",
+    row("a material that is not a number", "materials.csv", "7,Vinyl", "vinyl,Vinyl",
         "materials.csv:2, column 1 (material): \"vinyl\" is not a whole number between 0 and "
         "999999");
     row("a material below zero", "materials.csv", "7,Vinyl", "-1,Vinyl",
         "materials.csv:2, column 1 (material): \"-1\" is not a whole number between 0 and 999999");
     row("a material twice", "materials.csv", "0,Paper", "7,Paper",
         "materials.csv:3, column 1 (material): duplicate material 7");
-    row("a type that is none", "formats.csv", "continuous", "endless",
+    row("an unknown type", "formats.csv", "continuous", "endless",
         "formats.csv:2, column 2 (type): \"endless\" is not one of continuous, die-cut, sleeve, "
         "tag");
     row("a format twice", "formats.csv", "2,die-cut", "1,die-cut",
         "formats.csv:3, column 1 (format): duplicate format 1");
 
     const char* const supplies = "supplies.csv";
-    row("no SKU", supplies, "TAPE-1,100042", "-1,100042",
+    row("an invalid SKU", supplies, "TAPE-1,100042", "-1,100042",
         "supplies.csv:2, column 1 (sku): \"-1\" is not a SKU: at most 40 letters from A to Z, "
         "digits, dots, underscores and hyphens, starting with a letter or digit");
     row("a SKU of two lines", supplies, "SPARE-1", "\"SPARE\n\x1b[2J\"",
@@ -139,7 +137,7 @@ void RollDbTablesTest::refusesAnInvalidRow_data()
         "supplies.csv:4, column 1 (sku): duplicate SKU TAPE-1");
     row("a kind twice", supplies, "100050", "100043",
         "supplies.csv:3, column 2 (kinds): duplicate number 100043");
-    row("a kind of no roll", supplies, "100050", "0",
+    row("a kind of zero", supplies, "100050", "0",
         "supplies.csv:3, column 2 (kinds): \"0\" is not a whole number between 1 and 999999");
     row("a kind of seven digits", supplies, "100050", "1000500",
         "supplies.csv:3, column 2 (kinds): \"1000500\" is not a whole number between 1 and 999999");
@@ -160,14 +158,14 @@ void RollDbTablesTest::refusesAnInvalidRow_data()
         "supplies.csv:2, column 8 (width): \"0\" is not greater than 0");
     row("a width with a decimal comma", supplies, "1.25,4,6000", "1.25,\"4,5\",6000",
         "supplies.csv:2, column 8 (width): \"4,5\" is not a number between 0 and 100");
-    row("an endless length", supplies, "1.25,4,6000", "1.25,4,inf",
+    row("an infinite length", supplies, "1.25,4,6000", "1.25,4,inf",
         "supplies.csv:2, column 9 (length): \"inf\" is not a number between 0 and 100000");
-    row("a length that is no number", supplies, "1.25,4,6000", "1.25,4,nan",
+    row("a length that is not a number", supplies, "1.25,4,6000", "1.25,4,nan",
         "supplies.csv:2, column 9 (length): \"nan\" is not a number between 0 and 100000");
-    row("a label of a continuous supply", supplies, "6000,,", "6000,2,",
+    row("a label length of a continuous supply", supplies, "6000,,", "6000,2,",
         "supplies.csv:2, column 10 (label_length): a label length is given, but the format is "
         "continuous");
-    row("labels of no length", supplies, "1500,1.5,", "1500,,",
+    row("labels without a length", supplies, "1500,1.5,", "1500,,",
         "supplies.csv:3, column 10 (label_length): empty, but the format is not continuous");
     row("labels longer than the roll", supplies, "1500,1.5,", "1500,1501,",
         "supplies.csv:3, column 10 (label_length): \"1501\" is not a number between 0 and 1500");
@@ -182,9 +180,9 @@ void RollDbTablesTest::refusesAnInvalidRow_data()
         "supplies.csv:2, column 13 (background): \"../dot.png\" is not a plain file name");
     row("a picture from the root", supplies, "dot.png", "/dot.png",
         "supplies.csv:2, column 13 (background): \"/dot.png\" is not a plain file name");
-    row("no picture", "backgrounds/dot.png", "PNG", "GNP",
+    row("a file that is not a picture", "backgrounds/dot.png", "PNG", "GNP",
         "supplies.csv:2, column 13 (background): backgrounds/dot.png is not a readable image");
-    row("no label at all", supplies, ",3,0.1", ",0,0.1",
+    row("no labels side by side", supplies, ",3,0.1", ",0,0.1",
         "supplies.csv:3, column 14 (multi_up_count): \"0\" is not a whole number between 1 and "
         "100");
     row("labels without a gap", supplies, ",3,0.1", ",3,",
@@ -200,7 +198,7 @@ void RollDbTablesTest::refusesAnInvalidRow_data()
         "ribbons.csv:4, column 1 (sku): TAPE-1 is a supply's SKU");
     row("a ribbon's number twice", ribbons, "2003", "2001",
         "ribbons.csv:3, column 2 (numbers): duplicate number 2001");
-    row("a number no driver publishes", ribbons, "2003", "100001",
+    row("a number that no driver publishes", ribbons, "2003", "100001",
         "ribbons.csv:3, column 2 (numbers): \"100001\" is not a whole number between 1 and 100000");
     row("no panels", ribbons, ",red black", ",",
         "ribbons.csv:3, column 6 (panels): 0 panels; a ribbon has 1 to 16");
@@ -211,19 +209,19 @@ void RollDbTablesTest::refusesAnInvalidRow_data()
         "ribbons.csv:3, column 6 (panels): \"blue\" is not in colours.csv");
 
     const char* const settings = "print_settings.csv";
-    row("a setting of no ribbon", settings, "RIBBON-K,1,LABEL-1", "RIBBON-X,1,LABEL-1",
+    row("a setting of an unknown ribbon", settings, "RIBBON-K,1,LABEL-1", "RIBBON-X,1,LABEL-1",
         "print_settings.csv:5, column 1 (ribbon): \"RIBBON-X\" is not in ribbons.csv");
-    row("a setting of no panel", settings, "RIBBON-K,1,LABEL-1", "RIBBON-K,2,LABEL-1",
+    row("a setting of an unknown panel", settings, "RIBBON-K,1,LABEL-1", "RIBBON-K,2,LABEL-1",
         "print_settings.csv:5, column 2 (panel): \"2\" is not a whole number between 1 and 1");
-    row("a setting of no supply", settings, "RIBBON-K,1,LABEL-1", "RIBBON-K,1,RIBBON-K",
+    row("a setting of an unknown supply", settings, "RIBBON-K,1,LABEL-1", "RIBBON-K,1,RIBBON-K",
         "print_settings.csv:5, column 3 (supply): \"RIBBON-K\" is not in supplies.csv");
     row("a setting twice", settings, "RIBBON-K,1,LABEL-1", "RIBBON-K,1,TAPE-1",
         "print_settings.csv:5, column 1 (ribbon): duplicate print setting for panel 1 of RIBBON-K "
         "with TAPE-1");
-    row("an offset below zero", settings, "44,0,8", "44,-1,8",
+    row("a negative offset", settings, "44,0,8", "44,-1,8",
         "print_settings.csv:5, column 5 (heat_offset): \"-1\" is not a whole number between 0 and "
         "1000");
-    row("no speed", settings, "44,0,8", "44,0,0",
+    row("a speed of zero", settings, "44,0,8", "44,0,0",
         "print_settings.csv:5, column 6 (max_speed): \"0\" is not a whole number between 1 and "
         "1000");
     row("a fraction", settings, "44,0,8", "44.5,0,8",
@@ -234,9 +232,9 @@ void RollDbTablesTest::refusesAnInvalidRow_data()
         "\"AlderMax\"");
     row("a format twice in a list", "printer_formats.csv", "AlderMax,1", "AlderMax,2",
         "printer_formats.csv:4, column 2 (format): duplicate format 2 for AlderMax");
-    row("a list of an unknown format", "printer_formats.csv", "AlderMax,1", "AlderMax,9",
+    row("an unknown format in a list", "printer_formats.csv", "AlderMax,1", "AlderMax,9",
         "printer_formats.csv:4, column 2 (format): format 9 is not in formats.csv");
-    row("a list of no model", "printer_formats.csv", "AlderMax,1", ",1",
+    row("a list without a model", "printer_formats.csv", "AlderMax,1", ",1",
         "printer_formats.csv:4, column 1 (model): empty");
 }
 
@@ -316,7 +314,7 @@ void RollDbTablesTest::refusesAPictureOfTooManyPixels_data()
 
     const QString place =
         QStringLiteral("supplies.csv:2, column 13 (background): backgrounds/dot.png has ");
-    QTest::newRow("as many as can be") << bitmapHeader(4096, 4096) << QString();
+    QTest::newRow("the maximum") << bitmapHeader(4096, 4096) << QString();
     QTest::newRow("wide") << bitmapHeader(4097, 1)
                           << place +
                                  QStringLiteral("4097 by 1 pixels; the maximum is 4096 by 4096");

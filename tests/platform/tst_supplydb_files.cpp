@@ -116,15 +116,15 @@ void SupplyDbFilesTest::answersNothingWithoutADatabaseFile()
 {
     QFETCH(QByteArray, content);
     QFETCH(bool, isThere);
-    const QString strange = m_folder->filePath(QStringLiteral("strange.db"));
+    const QString foreign = m_folder->filePath(QStringLiteral("foreign.db"));
     if (isThere)
-        QVERIFY(writeFile(strange, content));
-    m_database->setup(strange, connectionName);
+        QVERIFY(writeFile(foreign, content));
+    m_database->setup(foreign, connectionName);
     QVERIFY(knowsNothing(*m_database, tape, ribbonK));
     QVERIFY(holdsNothing(*m_database));
-    QCOMPARE(QFile::exists(strange), isThere);
+    QCOMPARE(QFile::exists(foreign), isThere);
     if (isThere)
-        QCOMPARE(contentOf(strange), content);
+        QCOMPARE(contentOf(foreign), content);
     QCOMPARE(filesIn(m_folder->path()).size(), isThere ? 2 : 1);
 }
 
@@ -156,7 +156,7 @@ void SupplyDbFilesTest::aForeignDatabaseIsRefused()
     QVERIFY(holdsNothing(*m_database));
 }
 
-// Reading one would leave two files beside it.
+// Reading one would create two files beside it.
 void SupplyDbFilesTest::aDatabaseWithAWriteAheadLogIsRefused()
 {
     m_database.reset();
@@ -180,16 +180,15 @@ void SupplyDbFilesTest::aFileOfOtherTablesIsRefused_data()
         {drop, "CREATE VIEW print_setting AS WITH RECURSIVE n (heat) AS (SELECT 1 UNION ALL SELECT "
                "heat + 1 FROM n) SELECT heat, 0 AS heat_offset, 1 AS max_speed, 1 AS tension, "
                "'RIBBON-K' AS ribbon_sku, 1 AS panel, 'TAPE-1' AS supply_sku FROM n"});
-    row("a view more", {"CREATE VIEW other AS SELECT * FROM supply"});
-    row("a table more", {"CREATE TABLE other (id INTEGER)"});
+    row("an extra view", {"CREATE VIEW other AS SELECT * FROM supply"});
+    row("an extra table", {"CREATE TABLE other (id INTEGER)"});
     row("a table without its constraints",
         {drop, "CREATE TABLE print_setting (ribbon_sku TEXT, panel INTEGER, supply_sku TEXT, "
                "heat INTEGER, heat_offset INTEGER, max_speed INTEGER, tension INTEGER)"});
-    row("a column that is computed",
-        {"ALTER TABLE name ADD COLUMN copy TEXT AS (english || english)"});
-    row("an index of what is computed", {"CREATE INDEX other ON name (length(english))"});
+    row("a computed column", {"ALTER TABLE name ADD COLUMN copy TEXT AS (english || english)"});
+    row("an index on an expression", {"CREATE INDEX other ON name (length(english))"});
     row("a trigger", {"CREATE TRIGGER other AFTER DELETE ON supply BEGIN SELECT 1; END"});
-    row("statistics, by which SQLite would plan", {"ANALYZE"});
+    row("statistics, which SQLite would use for planning", {"ANALYZE"});
 }
 
 void SupplyDbFilesTest::aFileOfOtherTablesIsRefused()
@@ -222,14 +221,14 @@ void SupplyDbFilesTest::readsAFileOfTheMaximumSize()
     QCOMPARE(m_database->supplyColorName(tape), QStringLiteral("White"));
 }
 
-// Files that one program makes of other tables may have the same header and the same size.
+// Different databases of one program can have the same header and the same size.
 void SupplyDbFilesTest::aChangedFileWithTheSameHeaderIsCheckedAgain()
 {
     const QByteArray whole = contentOf(path());
     QByteArray damaged = whole;
     constexpr qsizetype kindOfPage2 = 4096;
     damaged[kindOfPage2] = 0;
-    // Long enough ago for what was found to be kept.
+    // Old enough for the result of the check to be cached.
     const QDateTime hourAgo = QDateTime::currentDateTime().addSecs(-3600);
     QVERIFY(writeFileAt(path(), whole, hourAgo));
     QCOMPARE(faultOf(path()), QString());
@@ -299,7 +298,7 @@ void SupplyDbFilesTest::readsAsManyRowsAsAreAllowed()
     QCOMPARE(m_database->supplyBackgroundImage(tape).size(), 262144);
 }
 
-// A tree that leads to a page twice has endlessly many rows on a few pages.
+// A tree that reaches a page twice can have endless rows on a few pages.
 void SupplyDbFilesTest::misplacedPagesAreRefused_data()
 {
     QTest::addColumn<QByteArray>("change");
@@ -313,9 +312,10 @@ void SupplyDbFilesTest::misplacedPagesAreRefused_data()
                                             << QStringLiteral("page 4 is used twice");
     QTest::newRow("a table on no page") << QByteArray(update + "0 WHERE name = 'name'")
                                         << QStringLiteral("page 0 is not in the file");
-    QTest::newRow("a table behind the end") << QByteArray(update + "999 WHERE name = 'name'")
-                                            << QStringLiteral("page 999 is not in the file");
-    QTest::newRow("a table kept as an index is")
+    QTest::newRow("a table beyond the end of the file")
+        << QByteArray(update + "999 WHERE name = 'name'")
+        << QStringLiteral("page 999 is not in the file");
+    QTest::newRow("a table that is stored like an index")
         << update + root("translation") + " WHERE name = 'name'"
         << QStringLiteral("page 5 is not of the expected type");
 }
@@ -350,7 +350,7 @@ void SupplyDbFilesTest::aTreeThatReachesAPageTwiceIsRefused()
         root = query.value(0).toInt();
     }
     QByteArray bytes = contentOf(sample);
-    // The page behind the last row becomes that in front of the first.
+    // Makes the last child page the same as the first.
     const qsizetype page = (root - 1) * pageSize;
     QCOMPARE(bytes.at(page), '\x02');
     const qsizetype firstCell =
@@ -361,14 +361,14 @@ void SupplyDbFilesTest::aTreeThatReachesAPageTwiceIsRefused()
              qPrintable(faultOf(sample)));
 }
 
-// Pictures are not read when a file is opened, but their pages are counted.
+// Pictures are not read when a file is opened, but their pages are checked.
 void SupplyDbFilesTest::aPictureThatReturnsToItsOwnPageIsRefused()
 {
     QVERIFY(TestConnection(path()).run("UPDATE background SET image = zeroblob(262144)"));
     QCOMPARE(faultOf(path()), QString());
     QByteArray bytes = contentOf(path());
     constexpr qsizetype pageSize = 4096;
-    // The file ends with the picture's pages, each of which begins with the number of the next.
+    // The file ends with the picture's pages. Each begins with the number of the next page.
     const qsizetype page = bytes.size() / pageSize - 2;
     QByteArray number(4, '\0');
     qToBigEndian(static_cast<quint32>(page), number.data());
@@ -377,7 +377,7 @@ void SupplyDbFilesTest::aPictureThatReturnsToItsOwnPageIsRefused()
     QCOMPARE(faultOf(path()), QStringLiteral("damaged: page %1 is used twice").arg(page));
 }
 
-// How much of a row is on its page, and how much behind it, is a matter of a byte.
+// One byte decides how much of a row is stored on its own page and how much on further pages.
 void SupplyDbFilesTest::readsRowsOfEachLength_data()
 {
     QTest::addColumn<int>("pageSize");
@@ -399,7 +399,7 @@ void SupplyDbFilesTest::readsRowsOfEachLength()
         const QByteArray size = "PRAGMA page_size = " + QByteArray::number(pageSize);
         QVERIFY(other.run(size.constData()));
         QVERIFY(other.run("VACUUM"));
-        // The names are an index of their own.
+        // The file names are also stored in an index.
         const QByteArray rows =
             "WITH RECURSIVE n (i) AS (SELECT " + QByteArray::number(least) +
             " UNION ALL SELECT i + 1 FROM n WHERE i < " + QByteArray::number(greatest) +
@@ -419,8 +419,8 @@ void SupplyDbFilesTest::aFileOfAnotherEncodingIsRefused()
     QCOMPARE(faultOf(path()), QStringLiteral("its texts are not UTF-8"));
 }
 
-// Whatever it answers, it answers. Some of the damage is noticed before the file is opened, and
-// some is left to SQLite.
+// Every query returns, whatever its answer. Our own check finds some of the damage, and SQLite
+// finds or ignores the rest.
 void SupplyDbFilesTest::damagedFilesDoNoHarm()
 {
     const QByteArray whole = contentOf(path());
@@ -429,7 +429,7 @@ void SupplyDbFilesTest::damagedFilesDoNoHarm()
     for (quint32 seed = 1; seed <= seeds; ++seed) {
         QRandomGenerator random(seed);
         QByteArray bytes = whole;
-        // The header is left in order so that the rest is looked at.
+        // The header stays valid so that the rest is read.
         for (quint32 i = 0; i < 1 + seed % 16; ++i)
             bytes[random.bounded(100, static_cast<int>(bytes.size()))] =
                 static_cast<char>(random.bounded(256));
@@ -484,7 +484,7 @@ void SupplyDbFilesTest::readsAFileOfAnyName()
     QCOMPARE(m_database->supplyColorName(tape), QStringLiteral("White"));
 }
 
-// Also shows that no lock is left on a file that was read from.
+// Also shows that reading leaves no lock on the file.
 void SupplyDbFilesTest::aChangedFileIsNoticedAtTheNextSetup()
 {
     QCOMPARE(m_database->supplyColorRGB(tape), 0xFFFFFF);
@@ -542,7 +542,7 @@ void SupplyDbFilesTest::anUnusableFileIsNotOpenedForEachQuery()
     QVERIFY(QFile::copy(path(), late));
     const int rgb = m_database->supplyColorRGB(tape);
     if (timer.hasExpired(SupplyDbConnection::retryInterval.count()))
-        QSKIP("the two questions were not within the time in which the file is left alone");
+        QSKIP("the two queries took longer than the interval between attempts");
     QCOMPARE(rgb, -1);
 }
 

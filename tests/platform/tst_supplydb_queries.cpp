@@ -18,7 +18,7 @@
 
 namespace {
 
-/// Has a file locked, on a thread of its own, until it goes or the time is over.
+/// Locks a file, on its own thread, until the object is destroyed or the time has passed.
 class Locker
 {
 public:
@@ -26,16 +26,16 @@ public:
         : m_thread([this, path, milliseconds] {
             const TestConnection other(path, QStringLiteral("locker"));
             m_hasLocked = other.run("BEGIN EXCLUSIVE");
-            m_isReady.release();
-            m_mayLetGo.tryAcquire(1, milliseconds);
+            m_isDone.release();
+            m_mayUnlock.tryAcquire(1, milliseconds);
             m_hasLocked = m_hasLocked && other.run("ROLLBACK");
         })
     {
-        m_isReady.acquire();
+        m_isDone.acquire();
     }
     ~Locker()
     {
-        m_mayLetGo.release();
+        m_mayUnlock.release();
         m_thread.join();
     }
     Q_DISABLE_COPY_MOVE(Locker)
@@ -43,39 +43,40 @@ public:
     bool hasLocked() const { return m_hasLocked; }
 
 private:
-    QSemaphore m_isReady;
-    QSemaphore m_mayLetGo;
+    QSemaphore m_isDone;
+    QSemaphore m_mayUnlock;
     std::atomic<bool> m_hasLocked = false;
     std::thread m_thread;
 };
 
-/// A time that passes only where somebody waits for a locked file, for this thread.
+/// Replaces this thread's clock for locks by one that only advances when the thread waits for a
+/// locked file.
 class SteppedClock
 {
 public:
     using Milliseconds = LockWaiter::Milliseconds;
 
-    explicit SteppedClock(const std::function<void()>& inEachSleep = [] {})
+    explicit SteppedClock(const std::function<void()>& onSleep = [] {})
     {
         now = Milliseconds{0};
-        s_inEachSleep = inEachSleep;
+        s_onSleep = onSleep;
         LockWaiter::ofThisThread() = LockWaiter({[] { return now; },
                                                  [](Milliseconds duration) {
                                                      now += duration;
-                                                     s_inEachSleep();
+                                                     s_onSleep();
                                                  }});
     }
     ~SteppedClock()
     {
         LockWaiter::ofThisThread() = LockWaiter();
-        s_inEachSleep = {};
+        s_onSleep = {};
     }
     Q_DISABLE_COPY_MOVE(SteppedClock)
 
     static inline Milliseconds now{0};
 
 private:
-    static inline std::function<void()> s_inEachSleep;
+    static inline std::function<void()> s_onSleep;
 };
 
 void readText(const QSqlQuery& row, QString& text)
@@ -129,7 +130,7 @@ void SupplyDbQueriesTest::cleanup()
     QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
 }
 
-// What could not be had must not be taken for what is not there.
+// A value that could not be read must not be mistaken for one that does not exist.
 void SupplyDbQueriesTest::aLockedFileIsQueriedAgain()
 {
     const TestConnection other(path());
@@ -176,7 +177,7 @@ void SupplyDbQueriesTest::waitsForALockedFileOnceASecond()
     QVERIFY(knowsNothing(*m_database, tape, ribbonK));
     QCOMPARE(SteppedClock::now, 100ms);
     SteppedClock::now += 999ms;
-    VXSupplyDatabase second; // for whose sake its thread does not wait either
+    VXSupplyDatabase second; // shares the limit: it is on the same thread
     second.setup(path(), QStringLiteral("second"));
     QVERIFY(knowsNothing(second, tape, ribbonK));
     QCOMPARE(SteppedClock::now, 1099ms);
@@ -185,7 +186,7 @@ void SupplyDbQueriesTest::waitsForALockedFileOnceASecond()
     QCOMPARE(SteppedClock::now, 1200ms);
 }
 
-// Result codes of SQLite's, https://www.sqlite.org/rescode.html.
+// SQLite's result codes: https://www.sqlite.org/rescode.html.
 void SupplyDbQueriesTest::recognisesEachErrorCodeOfALock_data()
 {
     QTest::addColumn<int>("code");
@@ -208,8 +209,8 @@ void SupplyDbQueriesTest::recognisesEachErrorCodeOfALock()
     QTEST(LockWaiter::isLocked(error), "isLock");
 }
 
-// The file is free again long after all questions are answered: whoever waits for it to the end
-// has an answer.
+// The file stays locked long after the limit. A query that waited for it to the end would get an
+// answer.
 void SupplyDbQueriesTest::givesUpOnAFileThatStaysLocked()
 {
     constexpr int lockedFor = 3000;
@@ -230,7 +231,7 @@ void SupplyDbQueriesTest::cachesNoMoreAnswersThanItsCapacity()
     QCOMPARE(answer(2), QStringLiteral("Red"));
     QVERIFY(other.run("UPDATE name SET english = 'new'"));
     QCOMPARE(answer(1), QStringLiteral("White"));
-    QCOMPARE(answer(3), QStringLiteral("new")); // in the place of 2, used before 1 was
+    QCOMPARE(answer(3), QStringLiteral("new")); // replaces 2, the least recently used one
     QCOMPARE(answer(1), QStringLiteral("White"));
     QCOMPARE(answer(2), QStringLiteral("new"));
     query.clear();
@@ -252,12 +253,12 @@ void SupplyDbQueriesTest::readsAllKeysAtTheSecondMiss()
     const int last = 8; // colours, materials and formats
     QCOMPARE(answer(last), QStringLiteral("name 8"));
     QVERIFY(other.run("UPDATE name SET english = 'new ' || id"));
-    QCOMPARE(answer(last), QStringLiteral("name 8")); // one key was not enough
+    QCOMPARE(answer(last), QStringLiteral("name 8")); // one miss did not read all
     QCOMPARE(answer(last - 1), QStringLiteral("new 7"));
     QVERIFY(other.run("UPDATE name SET english = 'newer ' || id"));
-    QCOMPARE(answer(last), QStringLiteral("name 8")); // what was kept stays
+    QCOMPARE(answer(last), QStringLiteral("name 8")); // cached answers stay
     QCOMPARE(answer(last - 3), QStringLiteral("new 5"));
-    QCOMPARE(answer(last - 4), QStringLiteral("newer 4")); // there was room for four
+    QCOMPARE(answer(last - 4), QStringLiteral("newer 4")); // the capacity is four
     QCOMPARE(answer(99), QString());
 }
 
@@ -281,7 +282,7 @@ void SupplyDbQueriesTest::aFailureDoesNotReturnAnotherKeysAnswer()
     const TestConnection other(path());
     CachedQuery<int, QString> query(QStringLiteral("SELECT english FROM name WHERE id = ?"),
                                     readText, 4, [](const QString& text) { return text.size(); });
-    // Too large to be kept.
+    // Above the capacity.
     QCOMPARE(query.answer(other.database(), 1, 1), QStringLiteral("White"));
     QVERIFY(other.run("ALTER TABLE name RENAME TO former_name"));
     QCOMPARE(query.answer(other.database(), 2, 2), QString());
@@ -292,7 +293,7 @@ void SupplyDbQueriesTest::doesNotCacheAPartialAnswer()
     const TestConnection other(path());
     QVERIFY(other.run("CREATE TABLE remark (id INTEGER PRIMARY KEY, number INTEGER)"));
     QVERIFY(other.run("INSERT INTO remark VALUES (1, 5), (2, -9223372036854775807 - 1)"));
-    // The second row's number has no absolute value.
+    // Reading the second row fails: its number has no absolute value.
     CachedQuery<int, QStringList> query(
         QStringLiteral("SELECT abs(number) FROM remark WHERE id >= ? ORDER BY id"),
         [](const QSqlQuery& row, QStringList& numbers) { numbers.append(row.value(0).toString()); },

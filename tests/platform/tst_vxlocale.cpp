@@ -14,11 +14,11 @@
 
 namespace {
 
-/// Has this program print the current language's id and end; with a locale's name behind it as one
-/// of an application with that default locale.
+/// Makes this program print the id of the current language and exit. The name of a locale may
+/// follow, which becomes the default locale first.
 constexpr const char* printId = "--print-language-id";
 
-/// A process of its own: what the system's locale is, is settled when it is first asked for.
+/// Runs in a separate process, because Qt reads the system's locale only once.
 QByteArray idPrinted(const QString& systemLanguages, const QString& defaultLocale)
 {
     QProcess process;
@@ -92,7 +92,7 @@ void VXLocaleTest::numbersLanguages_data()
     row("tlh", 0);
     row("C", 0);
     row("", 0);
-    row("no locale at all", 0);
+    row("not a locale", 0);
 }
 
 void VXLocaleTest::numbersLanguages()
@@ -139,7 +139,7 @@ void VXLocaleTest::followsTheLanguagesOfTheSystem_data()
 void VXLocaleTest::followsTheLanguagesOfTheSystem()
 {
 #ifdef Q_OS_WIN
-    QSKIP("Windows takes a process' language from the user's settings alone");
+    QSKIP("Windows takes the language of a process only from the user's settings");
 #endif
     QFETCH(const QString, languages);
     QFETCH(const int, id);
@@ -152,7 +152,7 @@ void VXLocaleTest::followsTheDefaultLocaleOfTheApplication_data()
     QTest::addColumn<QString>("defaultLocale");
     QTest::addColumn<int>("id");
 
-    // Whatever the system's languages are, the locale that the application has set is its own.
+    // The default locale that the application has set takes precedence over the system's languages.
     for (const char* languages : {"de", "ja_JP", "zh_TW", "sv:fr:de", "en_GB:de", "sv"}) {
         const auto row = [languages](const char* defaultLocale, int id) {
             QTest::addRow("%s in a system of %s", defaultLocale, languages)

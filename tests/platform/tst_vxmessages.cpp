@@ -18,7 +18,7 @@ struct Description
     const char* text;
 };
 
-/// The codes that have a text of their own: those of the library, and those of drivers.
+/// The codes with a description: those of the library, and those of drivers.
 constexpr std::array descriptions{
     Description{0, "The printer is disconnected"},
     Description{1, "The printer is ready"},
@@ -51,7 +51,7 @@ constexpr std::array descriptions{
     Description{258, "The printer is not managed"},
 };
 
-/// Marks what it is asked to translate in the context of the messages.
+/// Marks each text that is translated in the context of the messages.
 class MarkingTranslator : public QTranslator
 {
 public:

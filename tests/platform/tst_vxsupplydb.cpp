@@ -142,11 +142,11 @@ void VXSupplyDatabaseTest::namesAreInTheLanguageOrInEnglish_data()
                                                  << "Teal"
                                                  << "Vinyl"
                                                  << "Tape";
-    QTest::newRow("no language's number") << -7 << "White"
-                                          << "Black"
-                                          << "Teal"
-                                          << "Vinyl"
-                                          << "Tape";
+    QTest::newRow("not the number of a language") << -7 << "White"
+                                                  << "Black"
+                                                  << "Teal"
+                                                  << "Vinyl"
+                                                  << "Tape";
 }
 
 void VXSupplyDatabaseTest::namesAreInTheLanguageOrInEnglish()
@@ -202,11 +202,11 @@ void VXSupplyDatabaseTest::knowsNothingOfAnUnknownSku_data()
     QTest::newRow("nothing loaded") << "-1";
     QTest::newRow("not in the file") << unknownSku;
     QTest::newRow("other case") << "tape-1";
-    QTest::newRow("a space behind") << "TAPE-1 ";
+    QTest::newRow("a trailing space") << "TAPE-1 ";
     QTest::newRow("a statement") << "' OR 1 = 1 --";
-    QTest::newRow("a NUL behind") << tape + QChar(0);
+    QTest::newRow("a trailing NUL") << tape + QChar(0);
     QTest::newRow("other script") << QStringLiteral("白");
-    QTest::newRow("as long as can be") << QString(40, u'A');
+    QTest::newRow("of the maximum length") << QString(40, u'A');
     QTest::newRow("a million characters") << QString(1000000, u'A');
 }
 
@@ -214,7 +214,7 @@ void VXSupplyDatabaseTest::knowsNothingOfAnUnknownSku()
 {
     QFETCH(QString, sku);
     QVERIFY(knowsNothing(*m_database, sku, sku));
-    QVERIFY(knowsNothing(*m_database, sku, sku)); // from memory, too
+    QVERIFY(knowsNothing(*m_database, sku, sku)); // also from the cache
     QCOMPARE(m_database->supplyRibbonHeat(ribbonK, 1, sku), -1);
     QCOMPARE(m_database->supplyRibbonHeat(sku, 1, tape), -1);
 }
@@ -273,7 +273,8 @@ void VXSupplyDatabaseTest::knowsThePrintSettingsOfAPanelOnASupply()
     QCOMPARE(m_database->supplyRibbonTension(ribbonRK, 2, tape), 33);
     QCOMPARE(m_database->supplyRibbonHeat(ribbonRK, 1, tape), 58);
     QCOMPARE(m_database->supplyRibbonHeat(ribbonK, 1, label), 44);
-    QCOMPARE(m_database->supplyRibbonHeat(ribbonRK, 1, label), -1); // are not used together
+    QCOMPARE(m_database->supplyRibbonHeat(ribbonRK, 1, label),
+             -1); // this ribbon does not print on this supply
 }
 
 void VXSupplyDatabaseTest::listsHaveAnEntryForEachRibbon()
@@ -401,7 +402,7 @@ void VXSupplyDatabaseTest::setupKeepsWhatIsLoaded()
     VXSupplyDatabase database;
     database.setSupplyId(tapeId);
     database.setRibbonIds({QStringLiteral("2001")});
-    QCOMPARE(database.supplySKU(), QString()); // loaded, but of no known kind
+    QCOMPARE(database.supplySKU(), QString()); // loaded, but of an unknown kind
     database.setup(path(), QStringLiteral("late"));
     QCOMPARE(database.supplySKU(), tape);
     QCOMPARE(database.supplyRibbonSKUs(), QStringList{ribbonK});
@@ -468,7 +469,7 @@ void VXSupplyDatabaseTest::objectsAreIndependent()
 
 void VXSupplyDatabaseTest::oneConnectionNameServesTwoObjects()
 {
-    QCOMPARE(QSqlDatabase::connectionNames(), QStringList()); // until something is asked
+    QCOMPARE(QSqlDatabase::connectionNames(), QStringList()); // until the first query
     QCOMPARE(m_database->supplyColorRGB(tape), 0xFFFFFF);
     auto second = std::make_unique<VXSupplyDatabase>();
     second->setup(path(), connectionName);
@@ -479,7 +480,7 @@ void VXSupplyDatabaseTest::oneConnectionNameServesTwoObjects()
     QCOMPARE(QSqlDatabase::connectionNames(), QStringList{connectionName});
 }
 
-// Each answer beside the one that a statement of the test's own has, for everything there is.
+// Compares every answer with the result of a separate statement.
 void VXSupplyDatabaseTest::agreesWithTheSampleDatabase()
 {
     const QString sample = m_folder->filePath(QStringLiteral("sample.db"));

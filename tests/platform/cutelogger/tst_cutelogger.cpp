@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// What the product relies on in CuteLogger, be it an installed one or the stand-in for it.
+// The behaviour of CuteLogger that the product relies on, for an installed one and for the
+// replacement.
 #include "patience.h"
 #include "start_process.h"
 
@@ -58,14 +59,14 @@ void record(Logger::LogLevel level, const char* category, const QString& message
     VX_GLOBAL_LOGGER()->write(level, "file", 12, "void function()", category, message);
 }
 
-/// What a process of its own does: its standard error is what is looked at, or it ends badly.
+/// What runs in a separate process, because it ends the process or writes to standard error.
 struct Scenario
 {
     const char* name;
     void (*run)();
 };
 constexpr Scenario scenarios[]{
-    {"nobody registered an appender",
+    {"no registered appender",
      [] {
          record(Logger::Debug, nullptr, QStringLiteral("first"));
          record(Logger::Debug, nullptr, QStringLiteral("second"));
@@ -123,7 +124,7 @@ constexpr Scenario scenarios[]{
      }},
     {"a fatal record",
      [] {
-         record(Logger::Fatal, nullptr, QStringLiteral("the last words"));
+         record(Logger::Fatal, nullptr, QStringLiteral("the last message"));
          std::fputs("went on\n", stderr);
      }},
     {"after the application",
@@ -335,13 +336,13 @@ void CuteLoggerTest::returnsARemovedAppenderToTheCaller()
 
 void CuteLoggerTest::recordsHaveTheLocalTime()
 {
-    // A zone that no test machine is in, so that universal time cannot pass for the wall clock's.
+    // A time zone that no test machine is in, so that UTC cannot be mistaken for local time.
     qputenv("TZ", "VXT-5:45");
     const auto unset = qScopeGuard([] { qunsetenv("TZ"); });
     Logger logger;
     auto* recorder = new Recorder;
     logger.registerAppender(recorder);
-    // The zone is asked once a second, and another test may have had it asked in this one.
+    // The offset is queried once a second, and another test may have queried it in this second.
     const QString format = QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz");
     const auto isLocal = [&] {
         const QString before = QDateTime::currentDateTime().toString(format);
@@ -407,7 +408,7 @@ void CuteLoggerTest::aFileThatCannotBeWrittenDoesNotStopOtherAppenders()
 
 void CuteLoggerTest::recordsWithoutAnAppenderGoToStandardError()
 {
-    const Ending ending = endingOf("nobody registered an appender");
+    const Ending ending = endingOf("no registered appender");
     QVERIFY(ending.isNormal);
     const QList<QByteArray> lines = ending.errors.trimmed().split('\n');
     QVERIFY2(lines.size() == 3, ending.errors.constData());
@@ -453,7 +454,7 @@ void CuteLoggerTest::fatalRecordsEndTheProcess()
 {
     const Ending ending = endingOf("a fatal record");
     QVERIFY(!ending.isNormal);
-    QVERIFY2(ending.errors.contains("the last words"), ending.errors.constData());
+    QVERIFY2(ending.errors.contains("the last message"), ending.errors.constData());
     QVERIFY2(!ending.errors.contains("went on"), ending.errors.constData());
 }
 
@@ -468,7 +469,7 @@ void CuteLoggerTest::appendersEndWithTheApplication()
 void CuteLoggerTest::linksEndWithTheApplication()
 {
 #ifndef VX_STAND_IN
-    QSKIP("Nothing is promised of the original's links");
+    QSKIP("the original promises nothing about links");
 #endif
     const Ending ending = endingOf("two applications");
     QVERIFY(ending.isNormal);
