@@ -501,19 +501,16 @@ int main(int argc, char* argv[])
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     SilentAppender silent;
     Logger::globalInstance()->registerAppender(&silent);
-    const bool isRun = benchmark_support::run(argc, argv);
+    const int exitCode = benchmark_support::run(argc, argv, [](benchmark_support::Limits& limits) {
+        for (std::size_t number = 0; number < std::size(events); ++number)
+            limits.atMost(std::string("from a published value to the host's slot, ") +
+                              events[number].name + ", median over the floor's",
+                          latencies[number].ratio(), latencyLimit, "");
+        limits.atMost("construction with 100 printers over the floor's", constructionTimes.ratio(),
+                      constructionLimit, "");
+        limits.atMost("until every one of 100 printers has reported, over the floor's",
+                      firstReportsTimes.ratio(), firstReportsLimit, "");
+    });
     Logger::globalInstance()->removeAppender(&silent);
-    if (!isRun)
-        return 2;
-
-    benchmark_support::Limits limits;
-    for (std::size_t number = 0; number < std::size(events); ++number)
-        limits.atMost(std::string("from a published value to the host's slot, ") +
-                          events[number].name + ", median over the floor's",
-                      latencies[number].ratio(), latencyLimit, "");
-    limits.atMost("construction with 100 printers over the floor's", constructionTimes.ratio(),
-                  constructionLimit, "");
-    limits.atMost("until every one of 100 printers has reported, over the floor's",
-                  firstReportsTimes.ratio(), firstReportsLimit, "");
-    return limits.conclude();
+    return exitCode;
 }

@@ -209,17 +209,18 @@ int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
     registerBenchmarks();
+    const auto enterLimits = [](benchmark_support::Limits& limits) {
+        for (const auto& [name, file] :
+             {std::pair("known", SerialFile::Known), std::pair("new", SerialFile::New)}) {
+            std::printf("growth of the floor, serial numbers %s: %.3f; of its registry reads: "
+                        "%.3f\n",
+                        name, growth(file, &Samples::floor), growth(file, &Samples::registry));
+            limits.atMost(std::string("a printer among 1000 over one among 10, serial numbers ") +
+                              name,
+                          growth(file, &Samples::library), growthLimit, "");
+        }
+    };
     // Interleaved, so that changes in the machine's speed affect every number of printers.
-    if (!benchmark_support::run(argc, argv, {"--benchmark_enable_random_interleaving=true"}))
-        return 2;
-
-    benchmark_support::Limits limits;
-    for (const auto& [name, file] :
-         {std::pair("known", SerialFile::Known), std::pair("new", SerialFile::New)}) {
-        std::printf("growth of the floor, serial numbers %s: %.3f; of its registry reads: %.3f\n",
-                    name, growth(file, &Samples::floor), growth(file, &Samples::registry));
-        limits.atMost(std::string("a printer among 1000 over one among 10, serial numbers ") + name,
-                      growth(file, &Samples::library), growthLimit, "");
-    }
-    return limits.conclude();
+    return benchmark_support::run(argc, argv, enterLimits,
+                                  {"--benchmark_enable_random_interleaving=true"});
 }

@@ -431,12 +431,9 @@ int main(int argc, char* argv[])
             return measure<BareThreads>();
     }
 
-    if (!benchmark_support::run(argc, argv))
-        return 2;
-
-    benchmark_support::Limits limits;
-    limits.atMost("1000 idle printers, CPU of a core", worstCpu, cpuLimit, " %");
-    limits.atMost("1000 idle printers, resident memory a printer", worstMemory, memoryLimit,
-                  " KiB");
-    return limits.conclude();
+    return benchmark_support::run(argc, argv, [](benchmark_support::Limits& limits) {
+        limits.atMost("1000 idle printers, CPU of a core", worstCpu, cpuLimit, " %");
+        limits.atMost("1000 idle printers, resident memory a printer", worstMemory, memoryLimit,
+                      " KiB");
+    });
 }

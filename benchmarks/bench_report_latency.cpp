@@ -223,12 +223,9 @@ BENCHMARK(reportLatency)
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
-    if (!benchmark_support::run(argc, argv))
-        return 2;
-
-    benchmark_support::Limits limits;
-    limits.atMost("report latency, median over the floor's", allSamples.ratio(0.5), medianLimit,
-                  "");
-    limits.atMost("report latency, p99 over the floor's", allSamples.ratio(0.99), p99Limit, "");
-    return limits.conclude();
+    return benchmark_support::run(argc, argv, [](benchmark_support::Limits& limits) {
+        limits.atMost("report latency, median over the floor's", allSamples.ratio(0.5), medianLimit,
+                      "");
+        limits.atMost("report latency, p99 over the floor's", allSamples.ratio(0.99), p99Limit, "");
+    });
 }

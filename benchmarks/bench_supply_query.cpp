@@ -287,18 +287,14 @@ void enterLimits(benchmark_support::Limits& limits)
 
 int main(int argc, char* argv[])
 {
-    // In a language that the names are translated to.
-    qputenv("LANGUAGE", "de");
+    benchmark_support::useTranslatedNames();
     const QCoreApplication application(argc, argv);
     registerQuery<ColourName>();
     registerQuery<Width>();
     registerQuery<RibbonHeat>();
-    if (!benchmark_support::run(argc, argv))
-        return 2;
-
-    benchmark_support::Limits limits;
-    enterLimits<ColourName>(limits);
-    enterLimits<Width>(limits);
-    enterLimits<RibbonHeat>(limits);
-    return limits.conclude();
+    return benchmark_support::run(argc, argv, [](benchmark_support::Limits& limits) {
+        enterLimits<ColourName>(limits);
+        enterLimits<Width>(limits);
+        enterLimits<RibbonHeat>(limits);
+    });
 }

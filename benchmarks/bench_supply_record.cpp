@@ -268,14 +268,10 @@ BENCHMARK(supplyRecord)
 
 int main(int argc, char* argv[])
 {
-    // In a language that the names are translated to.
-    qputenv("LANGUAGE", "de");
+    benchmark_support::useTranslatedNames();
     const QCoreApplication application(argc, argv);
-    if (!benchmark_support::run(argc, argv))
-        return 2;
-
-    benchmark_support::Limits limits;
-    limits.atMost("supplyInformation of a loaded printer, warm, over one joined statement",
-                  allSamples.ratio(), warmLimit, "");
-    return limits.conclude();
+    return benchmark_support::run(argc, argv, [](benchmark_support::Limits& limits) {
+        limits.atMost("supplyInformation of a loaded printer, warm, over one joined statement",
+                      allSamples.ratio(), warmLimit, "");
+    });
 }
