@@ -2,12 +2,18 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "small_catalogue.h"
+
 #include <vxsupplydatabase.h>
 
 #include <QtCore/QString>
+#include <QtCore/QTemporaryDir>
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlError>
 #include <QtSql/QSqlQuery>
+#include <QtTest/QtTest>
+
+#include <memory>
 
 inline constexpr int germanId = 1;
 inline constexpr int japanese = 4;
@@ -99,3 +105,32 @@ inline bool holdsNothing(const VXSupplyDatabase& database)
     return database.supplySKUList().isEmpty() && database.supplyRibbonSKUList().isEmpty() &&
            database.supplyColorHash().isEmpty() && database.supplyRibbonColorHash().isEmpty();
 }
+
+/// Base of the tests of the supply database. Each test function gets a temporary folder with the
+/// database of the small catalogue, and an object that reads it.
+class SupplyDatabaseTest : public QObject
+{
+    Q_OBJECT
+
+protected:
+    QString path() const { return m_folder->filePath(QStringLiteral("roll.db")); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<VXSupplyDatabase> m_database;
+
+protected Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+        SmallCatalogue().write(path());
+        m_database = std::make_unique<VXSupplyDatabase>();
+        m_database->setup(path(), connectionName);
+    }
+    void cleanup()
+    {
+        m_database.reset();
+        m_folder.reset();
+        QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
+    }
+};

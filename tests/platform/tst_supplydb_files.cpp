@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-#include "small_catalogue.h"
 #include "supplydb_test.h"
 #include "test_files.h"
 
@@ -11,7 +10,6 @@
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QRandomGenerator>
-#include <QtCore/QTemporaryDir>
 #include <QtCore/QtEndian>
 #include <QtTest/QtTest>
 
@@ -38,13 +36,11 @@ bool writeFileAt(const QString& path, const QByteArray& content, const QDateTime
 
 } // namespace
 
-class SupplyDbFilesTest : public QObject
+class SupplyDbFilesTest : public SupplyDatabaseTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void answersNothingWithoutADatabaseFile_data();
     void answersNothingWithoutADatabaseFile();
     void answersNothingFromAFolder();
@@ -75,29 +71,7 @@ private Q_SLOTS:
     void aFileThatAppearsLaterIsNoticed();
     void aFileThatIsRepairedIsNoticed();
     void anUnusableFileIsNotOpenedForEachQuery();
-
-private:
-    QString path() const { return m_folder->filePath(QStringLiteral("roll.db")); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<VXSupplyDatabase> m_database;
 };
-
-void SupplyDbFilesTest::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-    SmallCatalogue().write(path());
-    m_database = std::make_unique<VXSupplyDatabase>();
-    m_database->setup(path(), connectionName);
-}
-
-void SupplyDbFilesTest::cleanup()
-{
-    m_database.reset();
-    m_folder.reset();
-    QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
-}
 
 void SupplyDbFilesTest::answersNothingWithoutADatabaseFile_data()
 {

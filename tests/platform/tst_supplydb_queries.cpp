@@ -1,19 +1,16 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-#include "small_catalogue.h"
 #include "supplydb_test.h"
 
 #include <cached_query.h>
 #include <lock_waiter.h>
 
 #include <QtCore/QSemaphore>
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
 #include <atomic>
 #include <chrono>
 #include <functional>
-#include <memory>
 #include <thread>
 
 namespace {
@@ -86,13 +83,11 @@ void readText(const QSqlQuery& row, QString& text)
 
 } // namespace
 
-class SupplyDbQueriesTest : public QObject
+class SupplyDbQueriesTest : public SupplyDatabaseTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void aLockedFileIsQueriedAgain();
     void aTemporaryLockLosesNoSku();
     void waitsForATemporaryLock();
@@ -106,29 +101,7 @@ private Q_SLOTS:
     void aFailureDoesNotReturnAnotherKeysAnswer();
     void doesNotCacheAPartialAnswer();
     void doesNotCacheAFailure();
-
-private:
-    QString path() const { return m_folder->filePath(QStringLiteral("roll.db")); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<VXSupplyDatabase> m_database;
 };
-
-void SupplyDbQueriesTest::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-    SmallCatalogue().write(path());
-    m_database = std::make_unique<VXSupplyDatabase>();
-    m_database->setup(path(), connectionName);
-}
-
-void SupplyDbQueriesTest::cleanup()
-{
-    m_database.reset();
-    m_folder.reset();
-    QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
-}
 
 // A value that could not be read must not be mistaken for one that does not exist.
 void SupplyDbQueriesTest::aLockedFileIsQueriedAgain()

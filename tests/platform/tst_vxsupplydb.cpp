@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-#include "small_catalogue.h"
 #include "supplydb_test.h"
 
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
 #include <limits>
 #include <memory>
 
-class VXSupplyDatabaseTest : public QObject
+class VXSupplyDatabaseTest : public SupplyDatabaseTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void knowsASupply();
     void knowsLabelsSideBySide();
     void answersDefaultsForWhatASupplyDoesNotHave();
@@ -45,29 +41,7 @@ private Q_SLOTS:
     void objectsAreIndependent();
     void oneConnectionNameServesTwoObjects();
     void agreesWithTheSampleDatabase();
-
-private:
-    QString path() const { return m_folder->filePath(QStringLiteral("roll.db")); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<VXSupplyDatabase> m_database;
 };
-
-void VXSupplyDatabaseTest::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-    SmallCatalogue().write(path());
-    m_database = std::make_unique<VXSupplyDatabase>();
-    m_database->setup(path(), connectionName);
-}
-
-void VXSupplyDatabaseTest::cleanup()
-{
-    m_database.reset();
-    m_folder.reset();
-    QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
-}
 
 void VXSupplyDatabaseTest::knowsASupply()
 {
