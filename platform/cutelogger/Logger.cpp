@@ -57,20 +57,6 @@ QDateTime localTime()
     return QDateTime::fromMSecsSinceEpoch(now, Qt::OffsetFromUTC, offset.secondsFromUtc);
 }
 
-/// Like QString::vasprintf(), which builds the text piece by piece and takes several times as long.
-QString formatted(const char* message, va_list arguments)
-{
-    va_list copy;
-    va_copy(copy, arguments);
-    std::array<char, 512> text;
-    const int length = std::vsnprintf(text.data(), text.size(), message, arguments);
-    const bool fits = length >= 0 && static_cast<std::size_t>(length) < text.size();
-    const QString result =
-        fits ? QString::fromUtf8(text.data(), length) : QString::vasprintf(message, copy);
-    va_end(copy);
-    return result;
-}
-
 void printLine(const QString& text)
 {
     std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
@@ -140,7 +126,7 @@ Logger::~Logger()
 Logger* Logger::globalInstance()
 {
     // Never destroyed: threads and static destructors may log until the process ends.
-    static Logger* const logger = new Logger;
+    static auto* const logger = new Logger;
     if (!isSetUp.load(std::memory_order_acquire) && !isSetUp.exchange(true)) {
         qInstallMessageHandler(writeQtMessage);
         qAddPostRoutine([] {
@@ -265,9 +251,18 @@ CuteMessageLogger::~CuteMessageLogger()
 
 void CuteMessageLogger::write(const char* message, ...) const
 {
+    // QString::vasprintf() builds the text piece by piece and takes several times as long.
+    std::array<char, 512> buffer;
     va_list arguments;
     va_start(arguments, message);
-    const QString text = formatted(message, arguments);
+    const int length = std::vsnprintf(buffer.data(), buffer.size(), message, arguments);
+    va_end(arguments);
+    if (length >= 0 && static_cast<std::size_t>(length) < buffer.size()) {
+        write(QString::fromUtf8(buffer.data(), length));
+        return;
+    }
+    va_start(arguments, message);
+    const QString text = QString::vasprintf(message, arguments);
     va_end(arguments);
     write(text);
 }

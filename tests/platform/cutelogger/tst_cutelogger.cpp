@@ -212,15 +212,18 @@ void CuteLoggerTest::takesThreeFormsOfAMessage()
     Logger logger;
     auto* recorder = new Recorder;
     logger.registerAppender(recorder);
+    const QByteArray longText(2000, 'x');
     at(logger).write("%s: %d", "text", 7);
+    at(logger).write("%s: %d", longText.constData(), 7);
     at(logger).write(QStringLiteral("100 % as it stands, %s"));
     at(logger).write() << "streamed" << 7 << QStringLiteral("quoted");
     QStringList messages;
     for (const Record& record : std::as_const(recorder->records))
         messages.append(record.message);
-    QCOMPARE(messages,
-             (QStringList{QStringLiteral("text: 7"), QStringLiteral("100 % as it stands, %s"),
-                          QStringLiteral("streamed 7 \"quoted\" ")}));
+    QCOMPARE(messages, (QStringList{QStringLiteral("text: 7"),
+                                    QString::fromLatin1(longText) + QStringLiteral(": 7"),
+                                    QStringLiteral("100 % as it stands, %s"),
+                                    QStringLiteral("streamed 7 \"quoted\" ")}));
 }
 
 void CuteLoggerTest::passesThePlaceOn()
