@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// The time from the driver's publishing a value to the slot on the host's thread.
+// The time from when the driver publishes a value to the slot on the host's thread.
 #include "benchmark_support.h"
 #include "by_hand.h"
 #include "printer_status_thread.h"

@@ -361,7 +361,7 @@ CachedQueryOf<Query> oneByOne(qsizetype capacity)
 
 /// A query that is run for all keys when the second one is asked for.
 template <typename Query>
-CachedQueryOf<Query> allTogether()
+CachedQueryOf<Query> allAtOnce()
 {
     static const QString forOne = statementForOne<Query>();
     static const QString forAll = statementForAll<Query>();
@@ -371,16 +371,16 @@ CachedQueryOf<Query> allTogether()
 } // namespace
 
 Queries::Queries()
-    : colours(allTogether<ColourQuery>())
-    , secondColours(allTogether<SecondColourQuery>())
-    , materials(allTogether<MaterialQuery>())
-    , formats(allTogether<FormatQuery>())
-    , sizes(allTogether<SizeQuery>())
-    , arrangements(allTogether<ArrangementQuery>())
+    : colours(allAtOnce<ColourQuery>())
+    , secondColours(allAtOnce<SecondColourQuery>())
+    , materials(allAtOnce<MaterialQuery>())
+    , formats(allAtOnce<FormatQuery>())
+    , sizes(allAtOnce<SizeQuery>())
+    , arrangements(allAtOnce<ArrangementQuery>())
     , backgrounds(oneByOne<BackgroundQuery>(imageCapacity))
     , typeIndices(oneByOne<TypeIndicesQuery>(recordCapacity))
-    , ribbons(allTogether<RibbonQuery>())
-    , panelColours(allTogether<PanelColourQuery>())
+    , ribbons(allAtOnce<RibbonQuery>())
+    , panelColours(allAtOnce<PanelColourQuery>())
     // There are many settings, and a printer needs only the few of what it has loaded.
     , settings(oneByOne<SettingQuery>(settingCapacity))
     , supplySkus(oneByOne<SupplySkuQuery>(recordCapacity))

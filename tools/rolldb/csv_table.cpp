@@ -39,7 +39,7 @@ QString decoded(const QString& fileName, const QByteArray& bytes)
     throw Fault(lineFault(fileName, line, QStringLiteral("not UTF-8 text")));
 }
 
-// The first separator in the header line decides. Column names contain neither of the two.
+// The first separator in the header line decides: column names contain neither in practice.
 QChar separatorOf(const QString& text)
 {
     for (const QChar character : text) {
