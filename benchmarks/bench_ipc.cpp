@@ -437,22 +437,8 @@ void registerBenchmarks()
     }
 }
 
-} // namespace
-
-int main(int argc, char* argv[])
+void enterLimits(benchmark_support::Limits& limits)
 {
-    // In a language that the names are translated to.
-    qputenv("LANGUAGE", "de");
-    const QCoreApplication application(argc, argv);
-    if (argc == 3 && std::string(argv[1]) == serveVerb)
-        return serve(QString::fromLocal8Bit(argv[2]));
-
-    stayOnOneCore();
-    registerBenchmarks();
-    if (!benchmark_support::run(argc, argv))
-        return 2;
-
-    benchmark_support::Limits limits;
     const bool hasRemoteObjects = sides().size() > remoteObjectsPlace;
     for (int pattern = 0; pattern < PatternCount; ++pattern) {
         const std::string name = patternNames.at(static_cast<std::size_t>(pattern));
@@ -466,5 +452,18 @@ int main(int argc, char* argv[])
     }
     if (!hasRemoteObjects)
         std::printf("\nQt Remote Objects was not found, so nothing is compared with it.\n");
-    return limits.conclude();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    benchmark_support::useTranslatedNames();
+    const QCoreApplication application(argc, argv);
+    if (argc == 3 && std::string(argv[1]) == serveVerb)
+        return serve(QString::fromLocal8Bit(argv[2]));
+
+    stayOnOneCore();
+    registerBenchmarks();
+    return benchmark_support::run(argc, argv, enterLimits);
 }

@@ -449,17 +449,9 @@ std::vector<std::pair<double, std::string>> slowestOf(const Times& times)
     return medians;
 }
 
-} // namespace
-
-int main(int argc, char* argv[])
+/// Shows the slowest requests, too.
+void enterLimits(benchmark_support::Limits& limits)
 {
-    // In a language that the names are translated to.
-    qputenv("LANGUAGE", "de");
-    const QCoreApplication application(argc, argv);
-    if (!benchmark_support::run(argc, argv))
-        return 2;
-
-    benchmark_support::Limits limits;
     for (int kind = 0; kind < KindCount; ++kind) {
         const auto slowest = slowestOf(timesOf.at(static_cast<std::size_t>(kind)));
         const std::string name = kindNames.at(static_cast<std::size_t>(kind));
@@ -471,5 +463,13 @@ int main(int argc, char* argv[])
                                       : slowest.front().first,
                       longestLimit, " ms");
     }
-    return limits.conclude();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    benchmark_support::useTranslatedNames();
+    const QCoreApplication application(argc, argv);
+    return benchmark_support::run(argc, argv, enterLimits);
 }

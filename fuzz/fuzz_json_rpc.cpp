@@ -5,13 +5,13 @@
 // Lines are taken out, parsed and carried out as an endpoint does it, and each answer has to be one
 // that JSON-RPC 2.0 knows.
 #include "fuzz_service.h"
+#include "qt_application.h"
 #include "require.h"
 
 #include <ipc_dispatcher.h>
 #include <json_rpc.h>
 #include <line_buffer.h>
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QSet>
 
@@ -75,10 +75,7 @@ void checkLine(const IpcDispatcher& dispatcher, QByteArrayView line)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    static int argc = 1;
-    static char name[] = "fuzz_json_rpc";
-    static char* argv[] = {name, nullptr};
-    static const QCoreApplication application(argc, argv);
+    ensureCoreApplication();
     static FuzzService service;
     static const IpcDispatcher dispatcher(service, QObject::staticMetaObject,
                                           QStringLiteral("fuzz"));

@@ -35,7 +35,7 @@ void run(const QSqlDatabase& database, const QString& statement)
         throw Fault(query.lastError().databaseText());
 }
 
-/// A connection that may write, gone with its name at the end of the scope.
+/// A connection that may write. It and its name are removed at the end of the scope.
 class WritingConnection
 {
 public:
@@ -76,7 +76,7 @@ void writeDraft(const Catalogue& catalogue, const QString& path)
 {
     const WritingConnection connection(path);
     const QSqlDatabase& database = connection.database();
-    // A file that is not in place yet needs no protection against a crash.
+    // The draft needs no protection against a crash: it is not in its place yet.
     run(database, QStringLiteral("PRAGMA journal_mode = OFF"));
     run(database, QStringLiteral("PRAGMA synchronous = OFF"));
     run(database, QStringLiteral("PRAGMA foreign_keys = ON"));
@@ -90,7 +90,7 @@ void writeDraft(const Catalogue& catalogue, const QString& path)
 
 void createTables(const QSqlDatabase& database)
 {
-    for (const QString& statement : SupplyDbSchema::statements())
+    for (const QString& statement : supplydb_schema::statements())
         run(database, statement);
 }
 
@@ -205,7 +205,7 @@ void writeDatabase(const Catalogue& catalogue, const QString& path)
     try {
         writeDraft(catalogue, draft);
     } catch (const Fault& fault) {
-        throw Fault(QStringLiteral("%1: cannot be made in %2: %3")
+        throw Fault(QStringLiteral("%1: cannot be created in %2: %3")
                         .arg(path, workshop.path(), fault.message()));
     }
     checkDatabase(draft, path);

@@ -22,12 +22,12 @@ QString decoded(const QString& fileName, const QByteArray& bytes)
 {
     if (bytes.size() > maxFileBytes)
         throw Fault(QStringLiteral("%1: larger than 16 MiB").arg(fileName));
-    // Takes a byte order mark away; stateless, so that half a character at the end is an error.
+    // Removes a byte order mark. Stateless, so that an incomplete character at the end is an error.
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder.decode(bytes);
     if (!decoder.hasError())
         return text;
-    // The line of the first byte that does not decode: found by decoding line after line.
+    // Finds the line of the first invalid byte by decoding line by line.
     int line = 1;
     for (const QByteArray& lineBytes : bytes.split('\n')) {
         QStringDecoder lineDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
@@ -39,7 +39,7 @@ QString decoded(const QString& fileName, const QByteArray& bytes)
     throw Fault(lineFault(fileName, line, QStringLiteral("not UTF-8 text")));
 }
 
-// Header lines have no quoted commas in practice; what counts is what parts the column names.
+// The first separator in the header line decides: column names contain neither in practice.
 QChar separatorOf(const QString& text)
 {
     for (const QChar character : text) {
@@ -67,7 +67,7 @@ Fault CsvField::fault(const QString& reason) const
     return Fault(QStringLiteral("%1: %2").arg(place(), reason));
 }
 
-/// Reads a text row by row. Rows count from the line that they begin in.
+/// Reads a text row by row. The number of a row is that of its first line.
 class CsvTable::Parser
 {
 public:
@@ -77,7 +77,7 @@ public:
         , m_separator(separator)
     {}
 
-    /// The next row that has any text in it.
+    /// The next row that is not empty.
     std::optional<Row> nextRow()
     {
         while (m_position < m_text.size()) {
@@ -145,8 +145,7 @@ private:
                 ++m_line;
             field.append(character);
         }
-        throw Fault(lineFault(m_fileName, openedIn,
-                              QStringLiteral("a quotation mark that is never closed")));
+        throw Fault(lineFault(m_fileName, openedIn, QStringLiteral("an unclosed quotation mark")));
     }
 
     bool skip(QChar character)
@@ -188,7 +187,7 @@ CsvTable CsvTable::parse(const QString& fileName, const QByteArray& bytes)
     Parser parser(fileName, text, table.m_separator);
     const std::optional<Row> header = parser.nextRow();
     if (!header)
-        throw table.faultInFile(QStringLiteral("empty, where a line of column names was expected"));
+        throw table.faultInFile(QStringLiteral("empty; expected a line of column names"));
     table.m_columns = header->fields;
     while (!table.m_columns.isEmpty() && table.m_columns.last().isEmpty())
         table.m_columns.removeLast(); // a spreadsheet's empty columns
@@ -197,7 +196,7 @@ CsvTable CsvTable::parse(const QString& fileName, const QByteArray& bytes)
         if (column.isEmpty() || table.m_columns.indexOf(column) != i)
             throw table.faultInHeader(column, column.isEmpty()
                                                   ? QStringLiteral("a column without a name")
-                                                  : QStringLiteral("the column is there twice"));
+                                                  : QStringLiteral("duplicate column"));
     }
 
     while (std::optional<Row> row = parser.nextRow()) {
@@ -205,7 +204,7 @@ CsvTable CsvTable::parse(const QString& fileName, const QByteArray& bytes)
             row->fields.removeLast();
         if (row->fields.size() != table.m_columns.size())
             throw Fault(lineFault(fileName, row->line,
-                                  QStringLiteral("%1 fields, where there are %2 columns")
+                                  QStringLiteral("%1 fields, but there are %2 columns")
                                       .arg(row->fields.size())
                                       .arg(table.m_columns.size())));
         table.m_rows.append(*std::move(row));

@@ -8,8 +8,8 @@
 
 #include <exception>
 
-/// Why a job was given up: one line for the person who asked for it. Nothing is left half-done.
-/// Messages quote what is in files.
+/// The failure of a command: one line for the user. The command has left nothing half-done.
+/// The message may quote text from files, so it is escaped.
 class Fault : public std::exception
 {
 public:

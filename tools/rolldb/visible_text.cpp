@@ -22,7 +22,7 @@ bool isInvisible(char32_t character)
 
 std::optional<char32_t> invisibleCharacter(const QString& text)
 {
-    // A conversion to whole characters would put another one in the place of a lone surrogate.
+    // Decoded by hand: QString::toUcs4() would replace a lone surrogate.
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar unit = text.at(i);
         char32_t character = unit.unicode();
