@@ -273,7 +273,7 @@ void VxPrintMonTest::listWithoutPrinters()
     QCOMPARE(json.output, QByteArray("[]\n"));
     const Result people = run({QStringLiteral("list"), QStringLiteral("--virtual"), fleet});
     QCOMPARE(people.exitStatus, 0);
-    QVERIFY(people.output.contains("knows no printers"));
+    QVERIFY(people.output.contains("There are no printers"));
 }
 
 // status //////////////////////////////////////////////////////////////////////////////////////////
@@ -382,7 +382,7 @@ void VxPrintMonTest::statusOfUnknownPrinter()
             QCOMPARE(result.exitStatus, 1);
             QCOMPARE(result.output, QByteArray());
             QCOMPARE(result.errors, QByteArray("vxprintmon: there is no record of a printer \"") +
-                                        name + "\"; \"vxprintmon status\" shows those there are\n");
+                                        name + "\"; \"vxprintmon status\" shows the printers that have one\n");
         }
     }
 }
@@ -397,7 +397,7 @@ void VxPrintMonTest::statusWithoutPrinters()
     QCOMPARE(json.output, QByteArray("[]\n"));
     const Result people = run({QStringLiteral("status"), QStringLiteral("--virtual"), fleet});
     QCOMPARE(people.exitStatus, 0);
-    QCOMPARE(people.output, QByteArray("There is no label printer yet.\n"));
+    QCOMPARE(people.output, QByteArray("There are no label printers yet.\n"));
 }
 
 void VxPrintMonTest::statusDoesNotWaitForever()
@@ -490,7 +490,7 @@ void VxPrintMonTest::sendForPeople()
     QCOMPARE(result.errors, QByteArray());
     QCOMPARE(result.output,
              QByteArray("Sent to Shipping: FEED 2\n"
-                        "It became print job 1, \"FEED 2\": RAW, pages: 1, bytes: 8.\n"));
+                        "Print job 1, \"FEED 2\": RAW, pages: 1, bytes: 8.\n"));
 }
 
 void VxPrintMonTest::sendForPrograms()
@@ -695,7 +695,7 @@ void VxPrintMonTest::watchWaitsForPrinters()
                                 QStringLiteral("500"), QStringLiteral("--virtual"), fleet};
     const Result people = runUntil("not known → Ready", arguments);
     QCOMPARE(people.exitStatus, 0);
-    QVERIFY(people.output.startsWith("There is no label printer yet.\n\n"));
+    QVERIFY(people.output.startsWith("There are no label printers yet.\n\n"));
     QVERIFY(people.output.contains("P  found    is watched from now on\n"));
 
     const Result json =
@@ -1003,11 +1003,11 @@ void VxPrintMonTest::wrongUsage_data()
             << QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts)
             << QString::fromUtf8(complaint);
     };
-    row("", "expected a verb: list, watch, status, send, title");
-    row("lst", "\"lst\" is no verb; expected one of list, watch, status, send, title");
-    row("list Shipping", "list takes no argument, found \"Shipping\"");
-    row("watch Shipping", "watch takes no argument, found \"Shipping\"");
-    row("status A B", "status takes at most a printer, found \"A\" \"B\"");
+    row("", "expected a command: list, watch, status, send, title");
+    row("lst", "unknown command \"lst\"; expected one of list, watch, status, send, title");
+    row("list Shipping", "list takes no arguments, found \"Shipping\"");
+    row("watch Shipping", "watch takes no arguments, found \"Shipping\"");
+    row("status A B", "status takes at most one printer, found \"A\" \"B\"");
     row("send", "send takes a printer and a command, found nothing");
     row("send Shipping", "send takes a printer and a command, found \"Shipping\"");
     row("send Shipping A B", "send takes a printer and a command, found \"Shipping\" \"A\" \"B\"");
@@ -1016,21 +1016,21 @@ void VxPrintMonTest::wrongUsage_data()
     for (const char* code : {"x", "1.5", "0x10", "2147483648", "-2147483649"}) {
         const QByteArray arguments = QByteArray("title ") + code;
         const QByteArray complaint =
-            QByteArray("title takes a status code from -2147483648 to 2147483647, found \"") +
+            QByteArray("title takes a status code between -2147483648 and 2147483647, found \"") +
             code + '"';
         row(arguments.constData(), complaint.constData());
     }
     row("list --jsn", "Unknown option 'jsn'");
-    row("list --for 3", "--for goes with watch only");
-    row("status --for 3", "--for goes with watch only");
-    row("list --speed 3", "--speed goes with watch only");
+    row("list --for 3", "--for is valid only with watch");
+    row("status --for 3", "--for is valid only with watch");
+    row("list --speed 3", "--speed is valid only with watch");
     row("watch --for", "Missing value after '--for'");
-    row("watch --for soon", "--for: expected a number above 0, at most 1000000, found \"soon\"");
-    row("watch --for 0", "--for: expected a number above 0, at most 1000000, found \"0\"");
-    row("watch --for nan", "--for: expected a number above 0, at most 1000000, found \"nan\"");
-    row("watch --for 1e9", "--for: expected a number above 0, at most 1000000, found \"1e9\"");
-    row("watch --speed -2", "--speed: expected a number above 0, at most 1000000, found \"-2\"");
-    row("watch --virtual=", "--virtual: expected a file's name");
+    row("watch --for soon", "--for: expected a number above 0 and up to 1000000, found \"soon\"");
+    row("watch --for 0", "--for: expected a number above 0 and up to 1000000, found \"0\"");
+    row("watch --for nan", "--for: expected a number above 0 and up to 1000000, found \"nan\"");
+    row("watch --for 1e9", "--for: expected a number above 0 and up to 1000000, found \"1e9\"");
+    row("watch --speed -2", "--speed: expected a number above 0 and up to 1000000, found \"-2\"");
+    row("watch --virtual=", "--virtual: expected a file name");
 }
 
 void VxPrintMonTest::wrongUsage()
@@ -1041,7 +1041,7 @@ void VxPrintMonTest::wrongUsage()
     QCOMPARE(result.exitStatus, 2);
     QCOMPARE(result.output, QByteArray());
     QCOMPARE(QString::fromUtf8(result.errors),
-             QStringLiteral("vxprintmon: %1 (vxprintmon --help tells more)\n").arg(complaint));
+             QStringLiteral("vxprintmon: %1 (see vxprintmon --help)\n").arg(complaint));
 }
 
 void VxPrintMonTest::brokenFleet()
@@ -1066,7 +1066,7 @@ void VxPrintMonTest::helpAndVersion()
 {
     const Result help = run({QStringLiteral("--help")});
     QCOMPARE(help.exitStatus, 0);
-    QVERIFY(help.output.startsWith("Usage: vxprintmon VERB"));
+    QVERIFY(help.output.startsWith("Usage: vxprintmon COMMAND"));
     for (const char* said : {"list ", "watch ", "status [PRINTER]", "send PRINTER COMMAND",
                              "title CODE", "no longer than 2 seconds"})
         QVERIFY2(help.output.contains(said), said);
@@ -1110,7 +1110,7 @@ void VxPrintMonTest::logThatCannotBeWrittenIsAFailure()
                                        "No such file or directory\n"));
     const Result empty = run({QStringLiteral("list"), QStringLiteral("--log"), QString()});
     QCOMPARE(empty.exitStatus, 2);
-    QVERIFY2(empty.errors.startsWith("vxprintmon: --log: expected a file's name"),
+    QVERIFY2(empty.errors.startsWith("vxprintmon: --log: expected a file name"),
              empty.errors.constData());
 }
 

@@ -2,13 +2,45 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
-#include "command_line.h"
-#include "output.h"
-#include "scene.h"
+#include <QtCore/QFlags>
+#include <QtCore/QStringList>
 
-/// Each runs one verb and returns why it failed, in one line; an empty text when it did not.
-QString runList(const CommandLine& line, Output& output, Scene& scene);
-QString runWatch(const CommandLine& line, Output& output, Scene& scene);
-QString runStatus(const CommandLine& line, Output& output, Scene& scene);
-QString runSend(const CommandLine& line, Output& output, Scene& scene);
-QString runTitle(const CommandLine& line, Output& output, Scene& scene);
+#include <span>
+
+class Backend;
+class Output;
+struct CommandLine;
+
+/// The options that only some commands accept. Every command accepts all other options.
+enum class CommandOption
+{
+    For = 1,
+    Speed = 2,
+};
+Q_DECLARE_FLAGS(CommandOptions, CommandOption)
+
+/// A command of the monitor. The table of commands is what the command line is checked against and
+/// what the help is made from, so a new command needs an entry there and nothing else.
+struct Command
+{
+    const char* name;
+    const char* arguments; ///< as the help shows them
+    const char* summary;   ///< for the help
+    const char* expected;  ///< the arguments as error messages describe them
+    qsizetype fewestArguments;
+    qsizetype mostArguments;
+    CommandOptions options;
+    /// Throws `Failure` if an argument is wrong. Null: every text is accepted.
+    void (*check)(const QStringList& arguments);
+    /// Throws `Failure` if the command cannot be carried out.
+    void (*run)(const CommandLine& line, Output& output, Backend& backend);
+};
+
+std::span<const Command> commands();
+
+void runList(const CommandLine& line, Output& output, Backend& backend);
+void runWatch(const CommandLine& line, Output& output, Backend& backend);
+void runStatus(const CommandLine& line, Output& output, Backend& backend);
+void runSend(const CommandLine& line, Output& output, Backend& backend);
+void runTitle(const CommandLine& line, Output& output, Backend& backend);
+void checkTitle(const QStringList& arguments);

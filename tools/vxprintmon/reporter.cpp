@@ -14,10 +14,10 @@ Reporter::Reporter(const CommandLine& line, Output& output, Controller& controll
     , m_controller(controller)
     , m_recordsOf(std::move(recordsOf))
     , m_titleOf(records::titlesOf(controller))
-    , m_changes([this] { tellChanges(); })
+    , m_changes([this] { printChanges(); })
 {
     m_clock.start();
-    listen(&Controller::availablePrintersUpdated, [this] { m_changes.wish(); });
+    listen(&Controller::availablePrintersUpdated, [this] { m_changes.schedule(); });
     listen(&Controller::printerErrorChangedSignal, [this](bool isInError) {
         print("errors",
               {{},
@@ -44,7 +44,7 @@ Reporter::Reporter(const CommandLine& line, Output& output, Controller& controll
     });
 }
 
-void Reporter::tellBeginning()
+void Reporter::printInitialRecords()
 {
     const QList<Record> all = m_recordsOf(m_controller);
     for (const Record& record : all)
@@ -56,10 +56,10 @@ void Reporter::tellBeginning()
     m_output.text(QStringLiteral("\n"));
 }
 
-void Reporter::tellStory(const QString& caption)
+void Reporter::printCaption(const QString& caption)
 {
-    // What happened before is told before.
-    m_changes.actIfWished();
+    // What happened before the event is printed before it.
+    printPendingChanges();
     if (!m_json)
         m_output.line({{clock(), Colour::Faint}, {caption, Colour::Heading}});
 }
@@ -78,15 +78,15 @@ void Reporter::lookForPrinters()
     }
 }
 
-template <typename... Arguments, typename Tell>
-void Reporter::listen(void (Controller::*signal)(Arguments...), Tell tell)
+template <typename... Arguments, typename PrintText>
+void Reporter::listen(void (Controller::*signal)(Arguments...), PrintText printText)
 {
     const QMetaMethod method = QMetaMethod::fromSignal(signal);
     connect(&m_controller, signal, this, [=, this](Arguments... arguments) {
         if (m_json)
             printJson(method, {QJsonValue(arguments)...});
         else
-            tell(arguments...);
+            printText(arguments...);
     });
 }
 
@@ -124,15 +124,15 @@ QString Reporter::clock() const
 
 void Reporter::remember(const Record& record)
 {
-    // Whether a printer is watched is decided when it is found.
+    // The library decides whether to watch a printer when it finds it.
     if (!m_known.contains(record.printerName) && records::isWatched(record))
         ++m_watchedPrinters;
     m_known.insert(record.printerName, record);
     m_nameWidth = std::max(m_nameWidth, shown(record.printerName).size());
 }
 
-/// What has changed in the records since they were looked at last.
-void Reporter::tellChanges()
+/// Prints what has changed in the records since the last look at them.
+void Reporter::printChanges()
 {
     const records::TitleOf titleOf = records::shortTitlesOf(m_controller);
     bool isAnythingNew = false;
