@@ -4,10 +4,11 @@
 
 #include "vxprinterstatus_export.h"
 
+#include <QtCore/QLatin1String>
 #include <QtCore/QMetaType>
 #include <QtCore/QObject>
 
-/// The vocabulary of printer models that the library and its host share.
+/// What the library and its hosts call things: printer models and empty places.
 namespace VXPrinting {
 Q_NAMESPACE_EXPORT(VX_PRINTERSTATUS_EXPORT)
 
@@ -23,6 +24,10 @@ enum class PrinterType : int
     AlderMax = 104, ///< supported, two ribbons
 };
 Q_ENUM_NS(PrinterType)
+
+/// The identifier and the SKU of an empty place: no supply is loaded in the printer, or no ribbon
+/// in one of its ribbon places. An empty text instead means that what is loaded is not known.
+inline constexpr QLatin1String nothingLoaded("-1");
 
 } // namespace VXPrinting
 

@@ -3,10 +3,9 @@
 #include "vx_ipc_m4_controller.h"
 
 #include "server_types.h"
+#include "status_codes.h"
 
 namespace {
-
-constexpr int neverReported = 255;
 
 // What the placeholder answers: clients were written against exactly these.
 constexpr bool succeeded = true;
@@ -23,7 +22,7 @@ VXIPCM4Controller::~VXIPCM4Controller() = default;
 
 int VXIPCM4Controller::getPrinterStatus(QString printerName)
 {
-    return printerStatuses.value(printerName, neverReported);
+    return printerStatuses.value(printerName, VXPrinting::StatusCodes::unknown);
 }
 
 void VXIPCM4Controller::onStatusChanged(int status, const QString& printerName)

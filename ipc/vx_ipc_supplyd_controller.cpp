@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "vx_ipc_supplyd_controller.h"
 
+#include "printer_types.h"
 #include "server_types.h"
 
 #include <vxlocalelanguages.h>
@@ -11,17 +12,16 @@
 #include <QtCore/QStringBuilder>
 #include <QtCore/QtAlgorithms>
 
+using VXPrinting::nothingLoaded;
+
 namespace {
 
-// Stands for no particular printer.
-const QString SharedKey = QStringLiteral("-");
-
-// What an identifier reads when nothing is loaded or none is given away.
-const QString NoIdentifier = QStringLiteral("-1");
+// The shared database's entry, which belongs to no printer.
+const QString sharedKey = QStringLiteral("-");
 
 const QString& orShared(const QString& printerName)
 {
-    return printerName.isEmpty() ? SharedKey : printerName;
+    return printerName.isEmpty() ? sharedKey : printerName;
 }
 
 QString databasePath()
@@ -38,7 +38,7 @@ VXIPCSUPPLYDController::VXIPCSUPPLYDController()
     VXLocaleLanguages languages;
     languageId = languages.getCurrentLanguageId();
     defaultDatabase = openDatabase(QStringLiteral("SUPPLY_INFO_QT_SQL_CONNECTION_NAME"));
-    databases.insert(SharedKey, defaultDatabase);
+    databases.insert(sharedKey, defaultDatabase);
 }
 
 VXIPCSUPPLYDController::~VXIPCSUPPLYDController()
@@ -68,7 +68,7 @@ VXSupplyDatabase* VXIPCSUPPLYDController::databaseForPrinter(const QString& prin
 
 VXSupplyDatabase* VXIPCSUPPLYDController::sharedDatabase() const
 {
-    return databases.value(SharedKey);
+    return databases.value(sharedKey);
 }
 
 void VXIPCSUPPLYDController::setSupplyId(const QString& id, const QString& printerName)
@@ -89,7 +89,7 @@ QString VXIPCSUPPLYDController::supplySKUCached(QString printerName)
 {
     // Alone among the queries this one does not ask the shared database for an empty name.
     if (printerName.isEmpty())
-        return NoIdentifier;
+        return nothingLoaded;
     return databaseForPrinter(printerName)->supplySKU();
 }
 
@@ -294,10 +294,10 @@ QString VXIPCSUPPLYDController::supplyRibbonType(QString ribbonSku)
 
 // Answered without any database: the interface's placeholders.
 // clang-format off
-QString VXIPCSUPPLYDController::supplyId()             { return NoIdentifier; }
-QString VXIPCSUPPLYDController::supplySupplyUID()      { return NoIdentifier; }
-QString VXIPCSUPPLYDController::supplyRibbon1UID()     { return NoIdentifier; }
-QString VXIPCSUPPLYDController::supplyRibbon2UID()     { return NoIdentifier; }
+QString VXIPCSUPPLYDController::supplyId()             { return nothingLoaded; }
+QString VXIPCSUPPLYDController::supplySupplyUID()      { return nothingLoaded; }
+QString VXIPCSUPPLYDController::supplyRibbon1UID()     { return nothingLoaded; }
+QString VXIPCSUPPLYDController::supplyRibbon2UID()     { return nothingLoaded; }
 double  VXIPCSUPPLYDController::supplySupplyPercent()  { return 0.0; }
 double  VXIPCSUPPLYDController::supplyRibbon1Percent() { return 0.0; }
 double  VXIPCSUPPLYDController::supplyRibbon2Percent() { return 0.0; }

@@ -19,13 +19,13 @@
 #include <exception>
 #include <utility>
 
+using VXPrinting::nothingLoaded;
 using VXPrinting::PrinterType;
 
 namespace {
 
 namespace StatusCodes = VXPrinting::StatusCodes;
 
-const QString nothingLoaded = QStringLiteral("-1");
 /// What the driver publishes when no supply is loaded.
 const QString blankSupplyIdentifier = QString(20, QLatin1Char('0'));
 
@@ -436,7 +436,7 @@ void PrinterStatusController::onRibbonIdsChanged(QString printerName, QStringLis
         record.ribbon1ColorHex = hexOfFirst(supplyIdController->supplyRibbon1RGBs(printerName));
         record.ribbon1ColorName = supplyIdController->supplyRibbonColorName(ribbon1, firstPanel);
     }
-    const QString ribbon2 = skus.value(1, nothingLoaded);
+    const QString ribbon2 = skus.value(1, QString(nothingLoaded));
     if (ribbon2 != nothingLoaded) {
         record.ribbon2SKU = ribbon2;
         record.ribbon2ColorHex = hexOfFirst(supplyIdController->supplyRibbon2RGBs(printerName));

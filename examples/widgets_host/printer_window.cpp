@@ -2,17 +2,20 @@
 // Copyright The VxPrinterStatus authors
 #include "printer_window.h"
 
+#include <printer_types.h>
+
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace {
 
-/// What is loaded, with its colour beside it; empty where nothing is, or nothing has been reported.
+/// A table cell for a supply or a ribbon, with its colour beside the text. The cell is empty if
+/// nothing is loaded or nothing has been reported yet.
 QTableWidgetItem* loadedItem(const QString& sku, const QString& name, const QString& colorHex,
                              int percentage)
 {
-    if (sku.isEmpty() || sku == QStringLiteral("-1"))
+    if (sku.isEmpty() || sku == VXPrinting::nothingLoaded)
         return new QTableWidgetItem;
     auto* item = new QTableWidgetItem(QStringLiteral("%1, %2 %").arg(name).arg(percentage));
     item->setData(Qt::DecorationRole, QColor(colorHex));

@@ -3,6 +3,7 @@
 #include "vxipcclient.h"
 
 #include "ipc_connect.h"
+#include "ipc_names.h"
 #include "ipc_scope.h"
 #include "ipc_send.h"
 #include "json_rpc.h"
@@ -374,7 +375,7 @@ VXIPCReply VXIPCClient::Private::connectionLost() const
 }
 
 VXIPCClient::VXIPCClient(int serverType, QObject* parent)
-    : VXIPCClient(QStringLiteral("vxipc-%1").arg(serverType), parent)
+    : VXIPCClient(endpointNamePrefix + QString::number(serverType), parent)
 {}
 
 VXIPCClient::VXIPCClient(QString serverName, QObject* parent)
@@ -438,7 +439,7 @@ bool VXIPCClient::notify(const QString& method, const QJsonValue& parameters)
 QStringList VXIPCClient::runningServers()
 {
     QStringList running;
-    for (const QStringList names = IpcScope::names(QStringLiteral("vxipc-"));
+    for (const QStringList names = IpcScope::names(endpointNamePrefix);
          const QString& name : names) {
         QLocalSocket probe;
         connectToEndpoint(probe, name, connectTime);

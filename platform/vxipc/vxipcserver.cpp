@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "vxipcserver.h"
 
+#include "ipc_names.h"
 #include "ipc_publisher.h"
 
 VXIPCServer::VXIPCServer(int serverType, QObject* parent)
@@ -12,7 +13,7 @@ VXIPCServer::VXIPCServer(int serverType, QObject* parent)
         this,
         [this, serverType] {
             m_publisher = new IpcPublisher(*this, VXIPCServer::staticMetaObject);
-            m_publisher->publish(QStringLiteral("vxipc-%1").arg(serverType));
+            m_publisher->publish(endpointNamePrefix + QString::number(serverType));
         },
         Qt::QueuedConnection);
 }

@@ -36,11 +36,11 @@ enum Service : int
     ServiceCount,
 };
 
-const QString Idle = QStringLiteral("Idle printer"); // nothing is ever reported of it
-const QString Loaded = QStringLiteral("Loaded CedarMax 4");
-const QString NeverAdded = QStringLiteral("AlderMax that was never added");
+const QString idlePrinter = QStringLiteral("Idle printer"); // nothing is ever reported of it
+const QString loadedPrinter = QStringLiteral("Loaded CedarMax 4");
+const QString neverAddedPrinter = QStringLiteral("AlderMax that was never added");
 
-const QString ConnectionName = QStringLiteral("expected answers");
+const QString connectionName = QStringLiteral("expected answers");
 
 QString databasePath()
 {
@@ -211,7 +211,7 @@ struct DatabaseAnswer
     QString sql;
 };
 
-const QJsonObject IdleRecord{
+const QJsonObject idleRecord{
     {QStringLiteral("supplyId"), QStringLiteral("")},
     {QStringLiteral("supplySku"), QStringLiteral("-1")},
     {QStringLiteral("ribbonSkus"), QJsonArray()},
@@ -251,7 +251,7 @@ const QJsonObject IdleRecord{
     {QStringLiteral("multiUpGapSize"), -1},
 };
 
-const QJsonObject UnknownJob{
+const QJsonObject unknownJob{
     {QStringLiteral("queuePosition"), 0},
     {QStringLiteral("guid"), QStringLiteral("")},
     {QStringLiteral("jobName"), QStringLiteral("")},
@@ -276,25 +276,25 @@ QList<FixedAnswer> fixedAnswers()
     const QJsonValue nothing = QJsonValue::Null;
     const QJsonArray text{QStringLiteral("text")};
     const QJsonArray unknown{QStringLiteral("NO-SUCH-SKU")};
-    const QJsonArray unknownOfIdle{QStringLiteral("NO-SUCH-SKU"), Idle};
+    const QJsonArray unknownOfIdle{QStringLiteral("NO-SUCH-SKU"), idlePrinter};
     const QJsonArray unknownPair{QStringLiteral("NO-SUCH-SKU"), 1, QStringLiteral("NO-SUCH-SKU")};
     // clang-format off
     return {
         {Supplies, "supplyId", {}, QStringLiteral("-1")},
         {Supplies, "supplySKUCached", {QStringLiteral("")}, QStringLiteral("-1")},
-        {Supplies, "supplySKUCached", {Idle}, QStringLiteral("-1")},
-        {Supplies, "supplyRibbonSKUsCached", {Idle}, QJsonArray()},
+        {Supplies, "supplySKUCached", {idlePrinter}, QStringLiteral("-1")},
+        {Supplies, "supplyRibbonSKUsCached", {idlePrinter}, QJsonArray()},
         {Supplies, "supplySupplyPercent", {}, 0},
         {Supplies, "supplyRibbon1Percent", {}, 0},
         {Supplies, "supplyRibbon2Percent", {}, 0},
-        {Supplies, "supplySupplyRGB", {Idle}, QStringLiteral("")},
-        {Supplies, "supplyRibbon1RGBs", {Idle}, QJsonArray()},
-        {Supplies, "supplyRibbon2RGBs", {Idle}, QJsonArray()},
+        {Supplies, "supplySupplyRGB", {idlePrinter}, QStringLiteral("")},
+        {Supplies, "supplyRibbon1RGBs", {idlePrinter}, QJsonArray()},
+        {Supplies, "supplyRibbon2RGBs", {idlePrinter}, QJsonArray()},
         {Supplies, "supplySupplyUID", {}, QStringLiteral("-1")},
         {Supplies, "supplyRibbon1UID", {}, QStringLiteral("-1")},
         {Supplies, "supplyRibbon2UID", {}, QStringLiteral("-1")},
-        {Supplies, "supplyInformation", {Idle}, IdleRecord},
-        {Supplies, "supplyInformationBySKUs", {QStringLiteral("-1"), QJsonArray(), Idle}, IdleRecord},
+        {Supplies, "supplyInformation", {idlePrinter}, idleRecord},
+        {Supplies, "supplyInformationBySKUs", {QStringLiteral("-1"), QJsonArray(), idlePrinter}, idleRecord},
         {Supplies, "supplyMaterialName", unknownOfIdle, QStringLiteral("")},
         {Supplies, "supplyFormatName", unknownOfIdle, QStringLiteral("")},
         {Supplies, "supplyColorRGB", unknownOfIdle, -1},
@@ -326,7 +326,7 @@ QList<FixedAnswer> fixedAnswers()
         {Printers, "isPrinterReady", {}, true},
         {Printers, "emitError", {7}, true},
         {Printers, "emitAlert", {-7}, true},
-        {Printers, "getPrinterStatus", {Idle}, 255},
+        {Printers, "getPrinterStatus", {idlePrinter}, 255},
         {Printers, "onStatusChanged", {3, QStringLiteral("printer of the table")}, nothing},
         {Printers, "resetCutter", {}, true},
         {Printers, "resetPrinter", {}, true},
@@ -410,7 +410,7 @@ QList<FixedAnswer> fixedAnswers()
         {PrintQueue, "addJob", {QStringLiteral("guid"), QStringLiteral("job"), QStringLiteral("application"), 2}, nothing},
         {PrintQueue, "addJob", {QStringLiteral("guid"), QStringLiteral("job"), QStringLiteral("application"), 2, 5}, nothing},
         {PrintQueue, "getJobList", {}, QJsonArray()},
-        {PrintQueue, "getJobInfo", {QStringLiteral("guid")}, UnknownJob},
+        {PrintQueue, "getJobInfo", {QStringLiteral("guid")}, unknownJob},
         {PrintQueue, "reprintPrintJob", {}, true},
         {PrintQueue, "retryPrintJob", {}, true},
         {PrintQueue, "clearPrintJob", {}, true},
@@ -450,7 +450,7 @@ QList<DatabaseAnswer> databaseAnswers()
             u"'%2'"
             " UNION SELECT '%3') JOIN material m ON m.id = s.material_id"
             " JOIN format f ON f.id = s.format_id JOIN colour c ON c.id = s.colour_id")
-            .arg(Idle, Loaded, NeverAdded);
+            .arg(idlePrinter, loadedPrinter, neverAddedPrinter);
     const QString panels =
         QStringLiteral(" FROM ribbon_panel p JOIN colour c ON c.id = p.colour_id");
     const QString setting =
@@ -626,13 +626,14 @@ private:
 void EndpointsOverIpcTest::initTestCase()
 {
     writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), databasePath());
-    m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), ConnectionName);
+    m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connectionName);
     m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
     m_database.setDatabaseName(databasePath());
     QVERIFY(m_database.open());
 
-    m_host = std::make_unique<HostProcess>(QStringLiteral("endpoint_host"),
-                                           QStringList{Idle, Loaded}, int(ServiceCount));
+    m_host =
+        std::make_unique<HostProcess>(QStringLiteral("endpoint_host"),
+                                      QStringList{idlePrinter, loadedPrinter}, int(ServiceCount));
     QVERIFY(m_host->processId() != QCoreApplication::applicationPid());
     for (int service = 0; service < ServiceCount; ++service) {
         const QString name = m_host->serverName(service);
@@ -647,7 +648,7 @@ void EndpointsOverIpcTest::cleanupTestCase()
         client.reset();
     m_host.reset();
     m_database = QSqlDatabase();
-    QSqlDatabase::removeDatabase(ConnectionName);
+    QSqlDatabase::removeDatabase(connectionName);
     QVERIFY(QFile::remove(databasePath()));
 }
 
@@ -794,18 +795,20 @@ void EndpointsOverIpcTest::readsBackTheLoadedSupply()
                        " JOIN colour c ON c.id = s.colour_id"));
     QVERIFY(kinds.size() >= 40);
     for (const QSqlRecord& kind : kinds) {
-        QVERIFY(ask(QStringLiteral("setSupplyId"), {kind.value(0).toString(), Loaded}).isNull());
-        QCOMPARE(ask(QStringLiteral("supplySKUCached"), {Loaded}), toJson(kind.value(1)));
-        QCOMPARE(ask(QStringLiteral("supplySupplyRGB"), {Loaded}), toJson(kind.value(2)));
+        QVERIFY(
+            ask(QStringLiteral("setSupplyId"), {kind.value(0).toString(), loadedPrinter}).isNull());
+        QCOMPARE(ask(QStringLiteral("supplySKUCached"), {loadedPrinter}), toJson(kind.value(1)));
+        QCOMPARE(ask(QStringLiteral("supplySupplyRGB"), {loadedPrinter}), toJson(kind.value(2)));
     }
     for (const auto& [id, sku] : {std::pair(QStringLiteral("-1"), QStringLiteral("-1")),
                                   std::pair(QStringLiteral(""), QStringLiteral("-1")),
                                   std::pair(QStringLiteral("odd"), QStringLiteral(""))}) {
-        QVERIFY(ask(QStringLiteral("setSupplyId"), {id, Loaded}).isNull());
-        QCOMPARE(ask(QStringLiteral("supplySKUCached"), {Loaded}).toString(), sku);
-        QCOMPARE(ask(QStringLiteral("supplySupplyRGB"), {Loaded}).toString(), QString());
+        QVERIFY(ask(QStringLiteral("setSupplyId"), {id, loadedPrinter}).isNull());
+        QCOMPARE(ask(QStringLiteral("supplySKUCached"), {loadedPrinter}).toString(), sku);
+        QCOMPARE(ask(QStringLiteral("supplySupplyRGB"), {loadedPrinter}).toString(), QString());
     }
-    QCOMPARE(ask(QStringLiteral("supplySKUCached"), {Idle}).toString(), QStringLiteral("-1"));
+    QCOMPARE(ask(QStringLiteral("supplySKUCached"), {idlePrinter}).toString(),
+             QStringLiteral("-1"));
 }
 
 void EndpointsOverIpcTest::readsBackTheLoadedRibbons()
@@ -820,21 +823,21 @@ void EndpointsOverIpcTest::readsBackTheLoadedRibbons()
         const QSqlRecord& first = numbers.at(i);
         const QSqlRecord& second = numbers.at(i - 1);
         const QJsonArray ids{toJson(first.value(0)), toJson(second.value(0))};
-        QVERIFY(ask(QStringLiteral("setRibbonIds"), {ids, Loaded}).isNull());
-        QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {Loaded}).toArray(),
+        QVERIFY(ask(QStringLiteral("setRibbonIds"), {ids, loadedPrinter}).isNull());
+        QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {loadedPrinter}).toArray(),
                  (QJsonArray{toJson(first.value(1)), toJson(second.value(1))}));
-        QCOMPARE(ask(QStringLiteral("supplyRibbon1RGBs"), {Loaded}).toArray(),
+        QCOMPARE(ask(QStringLiteral("supplyRibbon1RGBs"), {loadedPrinter}).toArray(),
                  column(rgbs.arg(first.value(1).toString())));
-        QCOMPARE(ask(QStringLiteral("supplyRibbon2RGBs"), {Loaded}).toArray(),
+        QCOMPARE(ask(QStringLiteral("supplyRibbon2RGBs"), {loadedPrinter}).toArray(),
                  column(rgbs.arg(second.value(1).toString())));
     }
     const QJsonArray odd{QStringLiteral("-1"), QStringLiteral("4294967295"), QStringLiteral("0"),
                          QStringLiteral(""), QStringLiteral("odd")};
-    QVERIFY(ask(QStringLiteral("setRibbonIds"), {odd, Loaded}).isNull());
-    QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {Loaded}).toArray(),
+    QVERIFY(ask(QStringLiteral("setRibbonIds"), {odd, loadedPrinter}).isNull());
+    QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {loadedPrinter}).toArray(),
              (QJsonArray{QStringLiteral("-1"), QStringLiteral("-1"), QStringLiteral("-1"),
                          QStringLiteral("-1"), QStringLiteral("")}));
-    QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {Idle}).toArray(), QJsonArray());
+    QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {idlePrinter}).toArray(), QJsonArray());
 }
 
 QJsonObject EndpointsOverIpcTest::expectedRecord(const QString& supplySku,
@@ -866,7 +869,7 @@ QJsonObject EndpointsOverIpcTest::expectedRecord(const QString& supplySku,
             " WHERE s.sku = '%1'")
             .arg(supplySku));
 
-    QJsonObject record = IdleRecord;
+    QJsonObject record = idleRecord;
     const auto set = [&record](const QString& member, const QVariant& value) {
         // Sizes are single-precision in the record.
         record.insert(member, value.typeId() == QMetaType::Double
@@ -928,16 +931,16 @@ void EndpointsOverIpcTest::gathersWhatIsLoaded()
     QVERIFY(loads.size() >= 20);
     for (const QSqlRecord& load : loads) {
         const QString id = load.value(0).toString();
-        QVERIFY(ask(QStringLiteral("setSupplyId"), {id, Loaded}).isNull());
+        QVERIFY(ask(QStringLiteral("setSupplyId"), {id, loadedPrinter}).isNull());
         QVERIFY(ask(QStringLiteral("setRibbonIds"),
-                    {QJsonArray{toJson(load.value(2)), toJson(load.value(4))}, Loaded})
+                    {QJsonArray{toJson(load.value(2)), toJson(load.value(4))}, loadedPrinter})
                     .isNull());
         const QJsonObject expected =
             expectedRecord(load.value(1).toString(),
-                           {load.value(3).toString(), load.value(5).toString()}, Loaded, id);
+                           {load.value(3).toString(), load.value(5).toString()}, loadedPrinter, id);
         QVERIFY(expected[QStringLiteral("ribbonHeats")][0].toInt() >= 0);
         QCOMPARE(expected.size(), 37);
-        QCOMPARE(ask(QStringLiteral("supplyInformation"), {Loaded}).toObject(), expected);
+        QCOMPARE(ask(QStringLiteral("supplyInformation"), {loadedPrinter}).toObject(), expected);
     }
 }
 
@@ -960,8 +963,8 @@ void EndpointsOverIpcTest::gathersWhatIsAskedFor()
     QCOMPARE(ribbonSkus.size(), ribbons);
     for (const QSqlRecord& supply : rows(QStringLiteral("SELECT sku FROM supply"))) {
         const QString sku = supply.value(0).toString();
-        const QJsonArray arguments{sku, QJsonArray::fromStringList(ribbonSkus), Idle};
-        const QJsonObject expected = expectedRecord(sku, ribbonSkus, Idle, {});
+        const QJsonArray arguments{sku, QJsonArray::fromStringList(ribbonSkus), idlePrinter};
+        const QJsonObject expected = expectedRecord(sku, ribbonSkus, idlePrinter, {});
         QCOMPARE(ask(QStringLiteral("supplyInformationBySKUs"), arguments).toObject(), expected);
     }
 }
@@ -973,18 +976,19 @@ void EndpointsOverIpcTest::sharesOneDatabaseAmongPrintersNeverAdded()
                                 .at(0);
     const QString id = kind.value(0).toString();
     const QString sku = kind.value(1).toString();
-    QVERIFY(ask(QStringLiteral("setSupplyId"), {id, NeverAdded}).isNull());
+    QVERIFY(ask(QStringLiteral("setSupplyId"), {id, neverAddedPrinter}).isNull());
     QCOMPARE(
         ask(QStringLiteral("supplySKUCached"), {QStringLiteral("Another never added")}).toString(),
         sku);
     QCOMPARE(ask(QStringLiteral("supplySKUCached"), {QStringLiteral("-")}).toString(), sku);
     QCOMPARE(ask(QStringLiteral("supplySKUCached"), {QStringLiteral("")}).toString(),
              QStringLiteral("-1"));
-    QCOMPARE(ask(QStringLiteral("supplySKUCached"), {Idle}).toString(), QStringLiteral("-1"));
+    QCOMPARE(ask(QStringLiteral("supplySKUCached"), {idlePrinter}).toString(),
+             QStringLiteral("-1"));
     QCOMPARE(ask(QStringLiteral("supplyInformation"), {QStringLiteral("")}),
              ask(QStringLiteral("supplyInformation"), {QStringLiteral("-")}));
-    QCOMPARE(ask(QStringLiteral("supplyInformation"), {NeverAdded}).toObject(),
-             expectedRecord(sku, {}, NeverAdded, id));
+    QCOMPARE(ask(QStringLiteral("supplyInformation"), {neverAddedPrinter}).toObject(),
+             expectedRecord(sku, {}, neverAddedPrinter, id));
 }
 
 void EndpointsOverIpcTest::keepsTheStatusOfPrinters()
@@ -992,12 +996,14 @@ void EndpointsOverIpcTest::keepsTheStatusOfPrinters()
     const auto status = [this](const QString& printer) {
         return call(Printers, QStringLiteral("getPrinterStatus"), QJsonArray{printer}).toInt();
     };
-    QCOMPARE(status(Loaded), 255);
-    QVERIFY(call(Printers, QStringLiteral("onStatusChanged"), QJsonArray{7, Loaded}).isNull());
-    QCOMPARE(status(Loaded), 7);
-    QCOMPARE(status(Loaded.toUpper()), 255);
-    QVERIFY(call(Printers, QStringLiteral("onStatusChanged"), QJsonArray{-1, Loaded}).isNull());
-    QCOMPARE(status(Loaded), -1);
+    QCOMPARE(status(loadedPrinter), 255);
+    QVERIFY(
+        call(Printers, QStringLiteral("onStatusChanged"), QJsonArray{7, loadedPrinter}).isNull());
+    QCOMPARE(status(loadedPrinter), 7);
+    QCOMPARE(status(loadedPrinter.toUpper()), 255);
+    QVERIFY(
+        call(Printers, QStringLiteral("onStatusChanged"), QJsonArray{-1, loadedPrinter}).isNull());
+    QCOMPARE(status(loadedPrinter), -1);
     QVERIFY(call(Printers, QStringLiteral("onStatusChanged"), QJsonArray{3, QStringLiteral("")})
                 .isNull());
     QCOMPARE(status({}), 3);
@@ -1055,7 +1061,7 @@ void EndpointsOverIpcTest::keepsNoJob()
     QCOMPARE(call(PrintQueue, QStringLiteral("getJobList"), QJsonArray()).toArray(), QJsonArray());
     QCOMPARE(call(PrintQueue, QStringLiteral("getJobInfo"), QJsonArray{QStringLiteral("{1}")})
                  .toObject(),
-             UnknownJob);
+             unknownJob);
 }
 
 int main(int argc, char* argv[])

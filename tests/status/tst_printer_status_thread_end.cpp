@@ -54,6 +54,7 @@ private Q_SLOTS:
     void stopWhileTheSpoolerIsDown();
     void stopWinsOverAPendingNotification();
     void endsWhenTheEventCannotBeMade();
+    void endsWithoutClosingAClosedPrinterAgain();
     void canBeStartedAgain();
     void stopsAndStartsAtRandomMoments();
 };
@@ -183,6 +184,18 @@ void PrinterStatusThreadEndTest::endsWhenTheEventCannotBeMade()
     QCOMPARE(takeReports(), QList<Report>{report("printerNameChangedSignal", labelPrinter)});
     QCOMPARE(machine().callCount(name("OpenSCManagerW")), 0);
     QCOMPARE(machine().callCount(name("WaitForMultipleObjects")), 0);
+    QCOMPARE(machine().openHandles(), 0);
+}
+
+void PrinterStatusThreadEndTest::endsWithoutClosingAClosedPrinterAgain()
+{
+    // The printer is closed when its notification fails, and the event's failure ends the thread.
+    machine().failCall(name("FindFirstPrinterChangeNotification"), 1, ERROR_NOT_ENOUGH_MEMORY);
+    machine().failCall(name("CreateEventW"), 1, ERROR_NOT_ENOUGH_MEMORY);
+    thread().start();
+    QVERIFY(thread().wait(patience));
+    QCOMPARE(machine().callCount(name("ClosePrinter")), 1);
+    QCOMPARE(machine().callCount(name("FindClosePrinterChangeNotification")), 0);
     QCOMPARE(machine().openHandles(), 0);
 }
 

@@ -13,6 +13,7 @@ class StandardOutput
 public:
     /// Messages begin with `tool`. Tests pass another `stream` and read what was written to it.
     explicit StandardOutput(const char* tool, std::FILE* stream = stdout);
+    ~StandardOutput() = default;
     Q_DISABLE_COPY_MOVE(StandardOutput)
 
     QString toolName() const { return QString::fromLatin1(m_tool); }

@@ -4,6 +4,7 @@
 
 #include "arguments.h"
 #include "failure.h"
+#include "ipc_names.h"
 #include "json_text.h"
 #include "shown_text.h"
 #include "vxipcclient.h"
@@ -18,8 +19,6 @@
 #include <optional>
 
 namespace {
-
-const QString endpointPrefix = QStringLiteral("vxipc-");
 
 struct Service
 {
@@ -62,7 +61,8 @@ void printPlain(StandardOutput& output, const QJsonValue& value)
 std::optional<QString> endpointName(const QString& service)
 {
     static const QRegularExpression form(
-        QStringLiteral("^(?:vxipc-)?(?<service>[a-z][a-z0-9]*|-?\\d+)(?<process>(?:-\\d+){0,2})$"));
+        QStringLiteral("^(?:%1)?(?<service>[a-z][a-z0-9]*|-?\\d+)(?<process>(?:-\\d+){0,2})$")
+            .arg(endpointNamePrefix));
     const QRegularExpressionMatch match = form.match(service);
     if (!match.hasMatch())
         return std::nullopt;
@@ -70,17 +70,17 @@ std::optional<QString> endpointName(const QString& service)
     const QString process = match.captured(QStringLiteral("process"));
     for (const Service& each : services) {
         if (wanted == QLatin1String(each.name))
-            return endpointPrefix + QString::number(each.serverType) + process;
+            return endpointNamePrefix + QString::number(each.serverType) + process;
     }
     bool isNumber = false;
     wanted.toInt(&isNumber);
-    return isNumber ? std::optional(endpointPrefix + wanted + process) : std::nullopt;
+    return isNumber ? std::optional(endpointNamePrefix + wanted + process) : std::nullopt;
 }
 
 /// The name of the service that an endpoint belongs to, or its number if it has no name.
 QString serviceOf(const QString& endpoint)
 {
-    const QString number = endpoint.mid(endpointPrefix.size()).section(QLatin1Char('-'), 0, 0);
+    const QString number = endpoint.mid(endpointNamePrefix.size()).section(QLatin1Char('-'), 0, 0);
     for (const Service& each : services) {
         if (number == QString::number(each.serverType))
             return QString::fromLatin1(each.name);

@@ -3,6 +3,8 @@
 #include "records.h"
 
 #include "json_text.h"
+
+#include "printer_types.h"
 #include "status_codes.h"
 
 #include <QtCore/QMetaProperty>
@@ -11,12 +13,12 @@
 
 namespace records {
 
+using VXPrinting::nothingLoaded;
 namespace StatusCodes = VXPrinting::StatusCodes;
 
 namespace {
 
 const QString notKnown = QStringLiteral("-");
-const QString nothingLoaded = QStringLiteral("-1");
 
 /// A supply or a ribbon under its names from the supply database.
 Cell loaded(const QString& sku, const QString& name, const QString& colour)
