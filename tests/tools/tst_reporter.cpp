@@ -54,6 +54,8 @@ class ReporterTest : public MachineTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() override;
+
     void recordsAreReadOnceForAllQueuedSignals();
     void everyChangeIsPrinted();
     void laterChangesArePrintedAsTheyArrive();
@@ -62,21 +64,6 @@ private Q_SLOTS:
     void jsonOfUnchangedRecordsIsCached();
     void recordsThatDifferInAnyPropertyAreNotEqual();
     void noReportIsDeliveredAfterTheTimeLimit();
-
-protected:
-    void init() override
-    {
-        MachineTest::init();
-        m_file.reset(std::tmpfile());
-        QVERIFY(m_file);
-        machine().driveTime();
-        for (int i = 0; i < printerCount; ++i) {
-            machine().addPrinter(
-                {.name = nameOf(i), .driver = QStringLiteral("Stratamark BirchMax")});
-            machine().publish(nameOf(i), {PrinterValue::text("StatusCode", "1"),
-                                          PrinterValue::text("SoftwareVersion", "1.0")});
-        }
-    }
 
 private:
     /// Whether all printers have been read within the limit. Their reports are then queued.
@@ -97,6 +84,19 @@ private:
 
     std::unique_ptr<std::FILE, CloseFile> m_file;
 };
+
+void ReporterTest::init()
+{
+    MachineTest::init();
+    m_file.reset(std::tmpfile());
+    QVERIFY(m_file);
+    machine().driveTime();
+    for (int i = 0; i < printerCount; ++i) {
+        machine().addPrinter({.name = nameOf(i), .driver = QStringLiteral("Stratamark BirchMax")});
+        machine().publish(nameOf(i), {PrinterValue::text("StatusCode", "1"),
+                                      PrinterValue::text("SoftwareVersion", "1.0")});
+    }
+}
 
 void ReporterTest::recordsAreReadOnceForAllQueuedSignals()
 {
