@@ -49,11 +49,11 @@ private:
                                  PrinterValue::number("Ribbon2Identifier", ribbon2),
                                  PrinterValue::text("SoftwareVersion", "4.1.3,boot 1.7")});
     }
-    void publish(const QString& printer, const PrinterValue& value, int watched = 1)
+    [[nodiscard]] bool publish(const QString& printer, const PrinterValue& value, int watched = 1)
     {
         takeSignals();
         machine().publish(printer, value);
-        settle(watched);
+        return settle(watched);
     }
     QJsonValue askSupplies(const char* method, const QStringList& arguments)
     {
@@ -76,10 +76,10 @@ void EndToEndTest::newRibbonReachesHostAndOtherProcess()
 {
     addWatchedPrinter(packing, 2001, 2004);
     makeController();
-    settle(1);
+    QVERIFY(settle(1));
     QCOMPARE(record(packing).ribbon1ColorName, QStringLiteral("Black"));
 
-    publish(packing, PrinterValue::number("Ribbon1Identifier", 2006));
+    QVERIFY(publish(packing, PrinterValue::number("Ribbon1Identifier", 2006)));
 
     QCOMPARE(takeSignals(), (QStringList{QStringLiteral("ribbonIdsChangedSignal(%1)").arg(packing),
                                          QStringLiteral("availablePrintersUpdated()")}));
@@ -102,11 +102,11 @@ void EndToEndTest::newSupplyReachesHostAndOtherProcess()
 {
     addWatchedPrinter(packing, 2001, 2004);
     makeController();
-    settle(1);
+    QVERIFY(settle(1));
     QCOMPARE(record(packing).supplyColorName, QStringLiteral("White"));
     QCOMPARE(record(packing).supplyPercentage, 50); // 15240 mm of 100 feet
 
-    publish(packing, PrinterValue::text("SupplyIdentifier", "000000641000050000B1"));
+    QVERIFY(publish(packing, PrinterValue::text("SupplyIdentifier", "000000641000050000B1")));
 
     QCOMPARE(takeSignals(), (QStringList{QStringLiteral("supplyIdChangedSignal(%1)").arg(packing),
                                          QStringLiteral("availablePrintersUpdated()")}));
@@ -128,9 +128,9 @@ void EndToEndTest::ribbonTakenOutStaysForTheHostOnly()
 {
     addWatchedPrinter(packing, 2001, 2004);
     makeController();
-    settle(1);
+    QVERIFY(settle(1));
     machine().unpublish(packing, "Ribbon1Identifier");
-    settle(1);
+    QVERIFY(settle(1));
     QCOMPARE(record(packing).ribbon1SKU, QStringLiteral("RS-43-BK"));
     QCOMPARE(askSupplies("supplyRibbonSKUsCached", {packing}),
              QJsonValue(QJsonArray{QStringLiteral("-1"), QStringLiteral("RS-43-RD")}));
@@ -141,9 +141,9 @@ void EndToEndTest::eachPrinterHasAnswersOfItsOwn()
     addWatchedPrinter(packing, 2001, 2004);
     addWatchedPrinter(returns, 2018, 2019);
     makeController();
-    settle(2);
-    publish(packing, PrinterValue::number("Ribbon2Identifier", 2005), 2);
-    publish(returns, PrinterValue::number("Ribbon1Identifier", 2007), 2);
+    QVERIFY(settle(2));
+    QVERIFY(publish(packing, PrinterValue::number("Ribbon2Identifier", 2005), 2));
+    QVERIFY(publish(returns, PrinterValue::number("Ribbon1Identifier", 2007), 2));
     QCOMPARE(askSupplies("supplyRibbonSKUsCached", {packing}),
              QJsonValue(QJsonArray{QStringLiteral("RS-43-BK"), QStringLiteral("RS-43-BL")}));
     QCOMPARE(askSupplies("supplyRibbonSKUsCached", {returns}),
@@ -156,7 +156,7 @@ void EndToEndTest::wholeRecordsAreTheSameOutside()
 {
     addWatchedPrinter(packing, 2020, 2004);
     makeController();
-    settle(1);
+    QVERIFY(settle(1));
     const PrinterStatusInformation printer = record(packing);
     const QJsonValue loaded = askSupplies("supplyInformation", {packing});
     QCOMPARE(loaded[QStringLiteral("supplySku")].toString(), printer.supplySKU);
@@ -181,8 +181,8 @@ void EndToEndTest::statusOutsideIsThatOfDiscovery()
     addNetworkPrinter(QStringLiteral("Branch"));
     addUnmanagedPrinter(QStringLiteral("Laboratory"));
     makeController();
-    settle(1);
-    publish(packing, PrinterValue::text("StatusCode", "4"));
+    QVERIFY(settle(1));
+    QVERIFY(publish(packing, PrinterValue::text("StatusCode", "4")));
     QCOMPARE(record(packing).statusEnum, 4);
 
     QCOMPARE(askPrinters("getPrinterStatus", {packing}).toInt(), 255);
@@ -195,16 +195,16 @@ void EndToEndTest::changeWhileTheSpoolerIsDown()
 {
     addWatchedPrinter(packing, 2001, 2004);
     makeController();
-    settle(1);
+    QVERIFY(settle(1));
     machine().stopSpooler();
     machine().advance(5000ms);
-    settle(1);
+    QVERIFY(settle(1));
     QCOMPARE(record(packing).statusEnum, 254);
 
     machine().publish(packing, PrinterValue::number("Ribbon1Identifier", 2003));
     machine().startSpooler();
     machine().advance(5000ms);
-    settle(1);
+    QVERIFY(settle(1));
     QCOMPARE(record(packing).statusEnum, 1);
     QCOMPARE(record(packing).ribbon1ColorName, QStringLiteral("White"));
     QCOMPARE(askSupplies("supplyRibbonSKUsCached", {packing})[0].toString(),
@@ -215,7 +215,7 @@ void EndToEndTest::commandArrivesAtThePrinter()
 {
     addWatchedPrinter(packing, 2001, 2004);
     makeController();
-    settle(1);
+    QVERIFY(settle(1));
     controller().sendCommandToPrinter(QStringLiteral("FEED 3"), packing);
     const QList<virtualwindows::PrintJob> jobs = machine().jobs(packing);
     QCOMPARE(jobs.size(), 1);
@@ -229,7 +229,7 @@ void EndToEndTest::nobodyAnswersAfterTheController()
 {
     addWatchedPrinter(packing, 2001, 2004);
     makeController();
-    settle(1);
+    QVERIFY(settle(1));
     QCOMPARE(askSupplies("supplySKUCached", {packing}).toString(), QStringLiteral("VT-400-WH"));
     const QString name = controller().getSupplyIdController()->serverName();
     endController();

@@ -65,15 +65,14 @@ private:
         addPrinter(packing, QStringLiteral("Stratamark AlderMax"));
         machine().publish(packing, PrinterValue::text("StatusCode", "1"));
         makeController();
-        [this] {
-            settle(1);
-        }();
+        if (!settle(1))
+            qFatal("the printer was not read");
         return controller();
     }
-    void reportError()
+    [[nodiscard]] bool reportError()
     {
         machine().publish(packing, PrinterValue::text("StatusCode", "4"));
-        settle(1);
+        return settle(1);
     }
 };
 
@@ -103,7 +102,7 @@ void HostGuideTest::slowWorkGoesElsewhere()
             [records = printers.getAvailablePrinters()] { writeReport(records); });
     });
 
-    reportError();
+    QVERIFY(reportError());
     QVERIFY(QThreadPool::globalInstance()->waitForDone(patience));
     QCOMPARE(reports.loadRelaxed(), 1);
 }
@@ -121,7 +120,7 @@ void HostGuideTest::modalDialogsWaitForTheirTurn()
             Qt::QueuedConnection);
 
     takeSignals();
-    reportError();
+    QVERIFY(reportError());
     QCOMPARE(shown, QStringList()); // the report has been told of in full by then
     QCoreApplication::processEvents();
     QCOMPARE(shown, (QStringList{QStringLiteral("dialog"),

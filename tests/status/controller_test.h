@@ -117,19 +117,22 @@ protected:
         m_signals.reset();
     }
 
-    /// Waits until `count` threads have done their work, and delivers what they reported.
-    void settle(int count)
+    /// True when `count` threads have done their work; what they reported has then been delivered.
+    [[nodiscard]] bool settle(int count)
     {
-        QVERIFY(machine().waitForWaitingThreads(count));
+        const bool areWaiting = machine().waitForWaitingThreads(count);
         QCoreApplication::sendPostedEvents(m_controller.get(), QEvent::MetaCall);
+        return areWaiting;
     }
 
-    /// Has a value reported as a printer's thread does, by calling the slot that it is connected
-    /// to.
+    /// Reports a value as a printer's thread does, by calling the slot that it is connected to.
     void report(const char* slot, const QString& printer, const QString& value)
     {
-        QVERIFY(QMetaObject::invokeMethod(m_controller.get(), slot, Qt::DirectConnection,
-                                          Q_ARG(QString, printer), Q_ARG(QString, value)));
+        const bool isCalled =
+            QMetaObject::invokeMethod(m_controller.get(), slot, Qt::DirectConnection,
+                                      Q_ARG(QString, printer), Q_ARG(QString, value));
+        if (!isCalled)
+            qFatal("no slot %s", slot);
     }
     void reportStatus(const QString& printer, const char* status)
     {

@@ -54,23 +54,24 @@ protected:
     QList<Report> takeReports() { return m_reports->take(); }
     QList<LogRecord> logged() const { return m_log->records(); }
 
-    /// Starts the thread and waits until it has read the printer and waits for the first time.
-    void watch()
+    /// Starts the thread. True when it has read the printer and waits for the first time.
+    [[nodiscard]] bool watch()
     {
         m_thread->start();
-        QVERIFY(machine().waitForWaitingThreads(1));
+        return settle();
     }
-    /// After something that woke the thread: waits until it has done its work and waits again.
-    void settle() { QVERIFY(machine().waitForWaitingThreads(1)); }
-    void publish(const PrinterValue& value)
+    /// After something that woke the thread. True when it has done its work and waits again.
+    [[nodiscard]] bool settle() { return machine().waitForWaitingThreads(1); }
+    [[nodiscard]] bool publish(const PrinterValue& value)
     {
         machine().publish(labelPrinter, value);
-        settle();
+        return settle();
     }
-    void pass(std::chrono::milliseconds time)
+    /// Lets time pass.
+    [[nodiscard]] bool pass(std::chrono::milliseconds time)
     {
         machine().advance(time);
-        settle();
+        return settle();
     }
     void endThread()
     {

@@ -22,14 +22,7 @@ class ControllerCommandsTest : public ControllerTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override
-    {
-        ControllerTest::init();
-        makeController();
-        // Added after the controller looked, so that only its commands call the spooler.
-        addPrinter(ash);
-        machine().recordCalls();
-    }
+    void init() override;
 
     void command_data();
     void command();
@@ -45,6 +38,15 @@ private Q_SLOTS:
     void hostsLine_data();
     void hostsLine();
 };
+
+void ControllerCommandsTest::init()
+{
+    ControllerTest::init();
+    makeController();
+    // Added after the controller looked, so that only its commands call the spooler.
+    addPrinter(ash);
+    machine().recordCalls();
+}
 
 void ControllerCommandsTest::command_data()
 {

@@ -379,7 +379,7 @@ void ControllerDiscoveryTest::threadsReportsReachTheirSlots()
     // Alder publishes percentages, so each mileage shows which field it went to.
     addPrinter(packing);
     makeController();
-    settle(1);
+    QVERIFY(settle(1));
     takeSignals();
     machine().publish(packing, {
                                    PrinterValue::text("StatusCode", "1"),
@@ -393,7 +393,7 @@ void ControllerDiscoveryTest::threadsReportsReachTheirSlots()
                                    PrinterValue::number("UpdateProgress", 5),
                                    PrinterValue::number("UpdateError", 6),
                                });
-    settle(1);
+    QVERIFY(settle(1));
 
     const PrinterStatusInformation found = record(packing);
     QCOMPARE(found.statusEnum, 1);

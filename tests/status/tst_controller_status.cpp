@@ -27,15 +27,7 @@ class ControllerStatusTest : public ControllerTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override
-    {
-        ControllerTest::init();
-        addPrinter(ash);
-        machine().setDefaultPrinter(ash);
-        makeController();
-        QVERIFY(machine().waitForWaitingThreads(1));
-        takeLog();
-    }
+    void init() override;
 
     void statusOfAnOnlinePrinter_data();
     void statusOfAnOnlinePrinter();
@@ -68,6 +60,16 @@ private Q_SLOTS:
     void unreadableReportOfAnOfflinePrinterSaysSo();
     void slotMayChangeTheRecords();
 };
+
+void ControllerStatusTest::init()
+{
+    ControllerTest::init();
+    addPrinter(ash);
+    machine().setDefaultPrinter(ash);
+    makeController();
+    QVERIFY(machine().waitForWaitingThreads(1));
+    takeLog();
+}
 
 void ControllerStatusTest::statusOfAnOnlinePrinter_data()
 {
@@ -379,18 +381,18 @@ void ControllerStatusTest::hostSaysThatAnErrorMayHaveCleared()
 void ControllerStatusTest::spoolerStopsAndComesBack()
 {
     machine().publish(ash, PrinterValue::text("StatusCode", "1"));
-    settle(1);
+    QVERIFY(settle(1));
     QCOMPARE(takeSignals(), QStringList({status(1), updated}));
 
     machine().stopSpooler();
     machine().advance(5s);
-    settle(1);
+    QVERIFY(settle(1));
     QCOMPARE(takeSignals(), QStringList({errorRaised, status(254), updated}));
     QVERIFY(record(ash).printerOnline);
 
     machine().startSpooler();
     machine().advance(5s);
-    settle(1);
+    QVERIFY(settle(1));
     QCOMPARE(takeSignals(), QStringList({errorCleared, status(1), updated}));
 }
 

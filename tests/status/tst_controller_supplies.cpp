@@ -25,16 +25,7 @@ class ControllerSuppliesTest : public ControllerTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override
-    {
-        ControllerTest::init();
-        ScriptedSupplyDatabase::reset();
-        addPrinter(alder, QStringLiteral("Stratamark Alder"));
-        addPrinter(birch, QStringLiteral("Stratamark BirchMax"));
-        makeController();
-        QVERIFY(machine().waitForWaitingThreads(2));
-        takeLog();
-    }
+    void init() override;
 
     void supplyIdentifier_data();
     void supplyIdentifier();
@@ -69,6 +60,17 @@ private Q_SLOTS:
     void nobodyTellsOfTheVersionAlone();
     void otherRecordsAreLeftAlone();
 };
+
+void ControllerSuppliesTest::init()
+{
+    ControllerTest::init();
+    ScriptedSupplyDatabase::reset();
+    addPrinter(alder, QStringLiteral("Stratamark Alder"));
+    addPrinter(birch, QStringLiteral("Stratamark BirchMax"));
+    makeController();
+    QVERIFY(machine().waitForWaitingThreads(2));
+    takeLog();
+}
 
 void ControllerSuppliesTest::supplyIdentifier_data()
 {

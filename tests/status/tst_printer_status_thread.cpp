@@ -105,7 +105,7 @@ void PrinterStatusThreadTest::signalsOfTheMetaObject()
 void PrinterStatusThreadTest::firstReadReportsEverythingInOrder()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
 
     const QList<Report> expected{
         status("1"),
@@ -128,14 +128,14 @@ void PrinterStatusThreadTest::firstReadReportsEverythingInOrder()
 
 void PrinterStatusThreadTest::firstReadOfASilentPrinterReportsItsName()
 {
-    watch();
+    QVERIFY(watch());
     QCOMPARE(takeReports(), QList<Report>{report("printerNameChangedSignal", labelPrinter)});
 }
 
 void PrinterStatusThreadTest::startAndFirstReadCallInOrder()
 {
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
 
     const QStringList expected =
         QStringList{QStringLiteral("OpenPrinterA"),
@@ -152,7 +152,7 @@ void PrinterStatusThreadTest::startAndFirstReadCallInOrder()
 void PrinterStatusThreadTest::startAndFirstReadCallWithTheseArguments()
 {
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
 
     const QList<Call> opened = machine().calls(QStringLiteral("OpenPrinterA"));
     QCOMPARE(opened.at(0).arguments, (QStringList{labelPrinter, QStringLiteral("0")}));
@@ -185,12 +185,12 @@ void PrinterStatusThreadTest::startAndFirstReadCallWithTheseArguments()
 void PrinterStatusThreadTest::notificationReadsThroughTheOpenHandle()
 {
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
     const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
     const QString change = lastCall("WaitForMultipleObjects").arguments.at(2);
     machine().clearCalls();
 
-    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
 
     QCOMPARE(outline(machine().calls()),
              QStringList{QStringLiteral("FindNextPrinterChangeNotification")}
@@ -208,13 +208,13 @@ void PrinterStatusThreadTest::notificationReadsThroughTheOpenHandle()
 void PrinterStatusThreadTest::notificationThatChangesNothing()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     takeReports();
 
     machine().notify(labelPrinter, 0x2);
-    settle();
+    QVERIFY(settle());
     machine().publish(labelPrinter, everyValue());
-    settle();
+    QVERIFY(settle());
     QCOMPARE(takeReports(), QList<Report>());
     QCOMPARE(machine().callCount(QStringLiteral("FindNextPrinterChangeNotification")), 2);
 }
@@ -246,27 +246,27 @@ void PrinterStatusThreadTest::valueThatChangesAlone()
     QFETCH(const QStringList, values);
 
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     takeReports();
 
-    publish(everyValue('2').at(index));
+    QVERIFY(publish(everyValue('2').at(index)));
     QCOMPARE(takeReports(), (QList<Report>{{signal, labelPrinter, values}}));
-    publish(everyValue('2').at(index));
+    QVERIFY(publish(everyValue('2').at(index)));
     QCOMPARE(takeReports(), QList<Report>());
 }
 
 void PrinterStatusThreadTest::valueThatDisappears()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     takeReports();
 
     machine().unpublish(labelPrinter, "Mileage");
-    settle();
+    QVERIFY(settle());
     QCOMPARE(takeReports(), QList<Report>{report("supplyIntMileageChanged", {})});
 
     // Neither is a number that is not plausible.
-    publish(PrinterValue::number("Ribbon1Identifier", 100001));
+    QVERIFY(publish(PrinterValue::number("Ribbon1Identifier", 100001)));
     QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("ribbonIdsChanged"),
                                             labelPrinter,
                                             {QString(), QStringLiteral("102")}}}));
@@ -275,11 +275,11 @@ void PrinterStatusThreadTest::valueThatDisappears()
 void PrinterStatusThreadTest::everyValueChangesAtOnce()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     takeReports();
 
     machine().publish(labelPrinter, everyValue('2'));
-    settle();
+    QVERIFY(settle());
     QStringList order;
     const QList<Report> reports = takeReports();
     for (const Report& report : reports)
@@ -301,40 +301,40 @@ void PrinterStatusThreadTest::everyValueChangesAtOnce()
 void PrinterStatusThreadTest::onlyRibbon2Changes()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     takeReports();
 
-    publish(PrinterValue::number("Ribbon2Identifier", 77));
+    QVERIFY(publish(PrinterValue::number("Ribbon2Identifier", 77)));
     QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("ribbonIdsChanged"),
                                             labelPrinter,
                                             {QStringLiteral("101"), QStringLiteral("77")}}}));
-    publish(PrinterValue::number("Ribbon2Identifier", 77));
+    QVERIFY(publish(PrinterValue::number("Ribbon2Identifier", 77)));
     QCOMPARE(takeReports(), QList<Report>());
 }
 
 void PrinterStatusThreadTest::onlyRibbon1Changes()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     takeReports();
 
-    publish(PrinterValue::number("Ribbon1Identifier", 77));
+    QVERIFY(publish(PrinterValue::number("Ribbon1Identifier", 77)));
     QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("ribbonIdsChanged"),
                                             labelPrinter,
                                             {QStringLiteral("77"), QStringLiteral("102")}}}));
-    publish(PrinterValue::number("Ribbon1Identifier", 77));
+    QVERIFY(publish(PrinterValue::number("Ribbon1Identifier", 77)));
     QCOMPARE(takeReports(), QList<Report>());
 }
 
 void PrinterStatusThreadTest::bothRibbonsChange()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     takeReports();
 
     machine().publish(labelPrinter, {PrinterValue::number("Ribbon1Identifier", 7),
                                      PrinterValue::number("Ribbon2Identifier", 8)});
-    settle();
+    QVERIFY(settle());
     QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("ribbonIdsChanged"),
                                             labelPrinter,
                                             {QStringLiteral("7"), QStringLiteral("8")}}}));
@@ -343,30 +343,30 @@ void PrinterStatusThreadTest::bothRibbonsChange()
 void PrinterStatusThreadTest::changeOfLetterCaseIsAChange()
 {
     machine().publish(labelPrinter, PrinterValue::text("SoftwareVersion", "boot"));
-    watch();
+    QVERIFY(watch());
     takeReports();
-    publish(PrinterValue::text("SoftwareVersion", "BOOT"));
+    QVERIFY(publish(PrinterValue::text("SoftwareVersion", "BOOT")));
     QCOMPARE(takeReports(),
              QList<Report>{report("softwareVersionChanged", QStringLiteral("BOOT"))});
 }
 
 void PrinterStatusThreadTest::renamedPrinterKeepsItsDashboardName()
 {
-    watch();
+    QVERIFY(watch());
     takeReports();
     const QString newName = QStringLiteral("Renamed Printer");
     machine().renamePrinter(labelPrinter, newName);
-    settle();
+    QVERIFY(settle());
     QCOMPARE(takeReports(), QList<Report>{report("printerNameChangedSignal", newName)});
 
     machine().publish(newName, PrinterValue::text("StatusCode", "5"));
-    settle();
+    QVERIFY(settle());
     QCOMPARE(takeReports(), QList<Report>{status("5")});
 }
 
 void PrinterStatusThreadTest::changeBetweenWakeUpAndReArmingIsNotLost()
 {
-    watch();
+    QVERIFY(watch());
     takeReports();
     // As the thread, woken by the first value, goes to re-arm, the second one is published.
     bool isSecondPublished = false;
@@ -377,7 +377,7 @@ void PrinterStatusThreadTest::changeBetweenWakeUpAndReArmingIsNotLost()
         isSecondPublished = true;
         machine().publish(labelPrinter, PrinterValue::text("StatusCode", "2"));
     });
-    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("2")});
 
     // And one after the re-arming, while the values are being read.
@@ -388,18 +388,18 @@ void PrinterStatusThreadTest::changeBetweenWakeUpAndReArmingIsNotLost()
         isThirdPublished = true;
         machine().publish(labelPrinter, PrinterValue::text("StatusCode", "4"));
     });
-    publish(PrinterValue::text("StatusCode", "3"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "3")));
     QCOMPARE(takeReports(), (QList<Report>{status("3"), status("4")}));
 }
 
 void PrinterStatusThreadTest::unreadablePrinterIsReadThroughAFreshHandle()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "255"));
-    watch();
+    QVERIFY(watch());
     QCOMPARE(takeReports().first(), status("255"));
     machine().recordCalls();
 
-    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
     const QStringList expected =
         QStringList{QStringLiteral("FindNextPrinterChangeNotification"),
@@ -414,7 +414,7 @@ void PrinterStatusThreadTest::unreadablePrinterIsReadThroughAFreshHandle()
 
     // Readable again: the next one goes through the handle that stays open.
     machine().clearCalls();
-    publish(PrinterValue::text("StatusCode", "2"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "2")));
     QVERIFY(!functionsCalled().contains(QStringLiteral("OpenPrinterA")));
 }
 
@@ -429,23 +429,23 @@ void PrinterStatusThreadTest::statusLike255IsNotUnreadable()
 {
     QFETCH(const QByteArray, code);
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", code));
-    watch();
+    QVERIFY(watch());
     machine().recordCalls();
-    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QVERIFY(!functionsCalled().contains(QStringLiteral("OpenPrinterA")));
 }
 
 void PrinterStatusThreadTest::unreadablePrinterWithoutFullAccess()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "255"));
-    watch();
+    QVERIFY(watch());
     takeReports();
     machine().recordCalls();
     machine().setAdministrable(labelPrinter, false);
-    settle();
+    QVERIFY(settle());
 
     // It is read through the handle at hand, which is not closed for that.
-    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
     QVERIFY(!functionsCalled().contains(QStringLiteral("ClosePrinter")));
 }
@@ -455,14 +455,14 @@ void PrinterStatusThreadTest::printerNameOutsideOfLatin1()
     const QString name = QStringLiteral("Étiquettes 日本 №1");
     machine().addPrinter({.name = name, .driver = QStringLiteral("Stratamark Alder")});
     thread().setMonitoredPrinterName(name);
-    watch();
+    QVERIFY(watch());
     QCOMPARE(takeReports(),
              (QList<Report>{{QStringLiteral("printerNameChangedSignal"), name, {name}}}));
 }
 
 void PrinterStatusThreadTest::nameIsTakenAtTheMomentOfEachReport()
 {
-    watch();
+    QVERIFY(watch());
     takeReports();
     // Set while the thread is held at the reading, so that no lock is needed to be sure of the
     // order.
@@ -470,7 +470,7 @@ void PrinterStatusThreadTest::nameIsTakenAtTheMomentOfEachReport()
         if (call.function == QLatin1String("GetPrinterW"))
             thread().setMonitoredPrinterName(QStringLiteral("Another Name"));
     });
-    publish(PrinterValue::text("StatusCode", "6"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "6")));
     QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("printerStatusChanged"),
                                             QStringLiteral("Another Name"),
                                             {QStringLiteral("6")}}}));
@@ -483,7 +483,7 @@ void PrinterStatusThreadTest::oneThreadReportsOnItsOwnThread()
     connect(
         &thread(), &PrinterStatusThread::printerNameChangedSignal, &thread(),
         [&] { reportingThread = QThread::currentThreadId(); }, Qt::DirectConnection);
-    watch();
+    QVERIFY(watch());
     const QList<Call> calls = machine().calls();
     for (const Call& call : calls)
         QCOMPARE(call.thread, reportingThread);

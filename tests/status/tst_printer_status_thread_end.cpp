@@ -62,7 +62,7 @@ private Q_SLOTS:
 void PrinterStatusThreadEndTest::stopEndsAWaitAndClosesInOrder()
 {
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
     const QStringList waited = lastCall("WaitForMultipleObjects").arguments;
     const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
     machine().clearCalls();
@@ -82,7 +82,7 @@ void PrinterStatusThreadEndTest::stopEndsAWaitAndClosesInOrder()
 
 void PrinterStatusThreadEndTest::stopOnlySignals()
 {
-    watch();
+    QVERIFY(watch());
     HeldCall closing(machine(), "CloseHandle");
     thread().stop();
     QVERIFY(closing.waitUntilReached());
@@ -95,7 +95,7 @@ void PrinterStatusThreadEndTest::stopBeforeTheStartDoesNothing()
 {
     thread().stop();
     QCOMPARE(machine().callCount(name("SetEvent")), 0);
-    watch();
+    QVERIFY(watch());
     QVERIFY(thread().isRunning());
 }
 
@@ -113,7 +113,7 @@ void PrinterStatusThreadEndTest::stopBeforeTheEventExistsDoesNothing()
 
 void PrinterStatusThreadEndTest::stopTwice()
 {
-    watch();
+    QVERIFY(watch());
     thread().stop();
     thread().stop();
     QVERIFY(thread().wait(patience));
@@ -122,7 +122,7 @@ void PrinterStatusThreadEndTest::stopTwice()
 
 void PrinterStatusThreadEndTest::stopWhileTheEventIsBeingClosed()
 {
-    watch();
+    QVERIFY(watch());
     HeldCall closing(machine(), "FindClosePrinterChangeNotification");
     thread().stop();
     QVERIFY(closing.waitUntilReached());
@@ -135,7 +135,7 @@ void PrinterStatusThreadEndTest::stopWhileTheEventIsBeingClosed()
 
 void PrinterStatusThreadEndTest::stopAfterTheEnd()
 {
-    watch();
+    QVERIFY(watch());
     endThread();
     const int signalled = machine().callCount(name("SetEvent"));
     thread().stop();
@@ -144,7 +144,7 @@ void PrinterStatusThreadEndTest::stopAfterTheEnd()
 
 void PrinterStatusThreadEndTest::stopThatFailsCanBeRepeated()
 {
-    watch();
+    QVERIFY(watch());
     machine().failCall(name("SetEvent"), 1, ERROR_INVALID_HANDLE);
     thread().stop();
     QVERIFY(thread().isRunning());
@@ -154,16 +154,16 @@ void PrinterStatusThreadEndTest::stopThatFailsCanBeRepeated()
 
 void PrinterStatusThreadEndTest::stopWhileTheSpoolerIsDown()
 {
-    watch();
+    QVERIFY(watch());
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     thread().stop();
     QVERIFY(thread().wait(patience));
 }
 
 void PrinterStatusThreadEndTest::stopWinsOverAPendingNotification()
 {
-    watch();
+    QVERIFY(watch());
     takeReports();
     // Both are signalled when the thread comes back to its wait.
     HeldCall reading(machine(), "GetPrinterW");
@@ -201,11 +201,11 @@ void PrinterStatusThreadEndTest::endsWithoutClosingAClosedPrinterAgain()
 
 void PrinterStatusThreadEndTest::canBeStartedAgain()
 {
-    watch();
+    QVERIFY(watch());
     endThread();
     takeReports();
     // What was seen before is forgotten.
-    watch();
+    QVERIFY(watch());
     QCOMPARE(takeReports(), QList<Report>{report("printerNameChangedSignal", labelPrinter)});
 }
 

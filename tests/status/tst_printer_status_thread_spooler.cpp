@@ -78,13 +78,13 @@ private:
 
 void PrinterStatusThreadSpoolerTest::pollsAfterFiveSecondsWithoutNotification()
 {
-    watch();
+    QVERIFY(watch());
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 1);
-    pass(4999ms);
+    QVERIFY(pass(4999ms));
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 1);
-    pass(1ms);
+    QVERIFY(pass(1ms));
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 2);
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 3);
     // The poll reads no printer.
     QCOMPARE(machine().callCount(name("GetPrinterDataA")), 11);
@@ -92,10 +92,10 @@ void PrinterStatusThreadSpoolerTest::pollsAfterFiveSecondsWithoutNotification()
 
 void PrinterStatusThreadSpoolerTest::notificationDelaysThePoll()
 {
-    watch();
+    QVERIFY(watch());
     for (int second = 0; second < 20; ++second) {
-        pass(4000ms);
-        publish(PrinterValue::number("Mileage", static_cast<quint32>(second)));
+        QVERIFY(pass(4000ms));
+        QVERIFY(publish(PrinterValue::number("Mileage", static_cast<quint32>(second))));
     }
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 1);
 }
@@ -104,16 +104,16 @@ void PrinterStatusThreadSpoolerTest::stoppingSpoolerIsReported()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
     takeReports();
     const QStringList waited = lastCall("WaitForMultipleObjects").arguments;
     const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
     machine().clearCalls();
 
     machine().stopSpooler();
-    pass(4999ms);
+    QVERIFY(pass(4999ms));
     QCOMPARE(takeReports(), QList<Report>());
-    pass(1ms);
+    QVERIFY(pass(1ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
 
     QCOMPARE(functionsCalled(),
@@ -130,15 +130,15 @@ void PrinterStatusThreadSpoolerTest::stoppingSpoolerIsReported()
 
 void PrinterStatusThreadSpoolerTest::eachStateShortOfRunningIsReportedAgain()
 {
-    watch();
+    QVERIFY(watch());
     takeReports();
     machine().recordCalls();
     for (const quint32 state : {SERVICE_STOP_PENDING, SERVICE_STOPPED, SERVICE_START_PENDING}) {
         machine().clearCalls();
         machine().setSpoolerState(state);
-        pass(5000ms);
+        QVERIFY(pass(5000ms));
         QCOMPARE(takeReports(), QList<Report>{status("254")});
-        pass(5000ms);
+        QVERIFY(pass(5000ms));
         QCOMPARE(takeReports(), QList<Report>());
         // Closing is done at each of them, though after the first nothing is open.
         QCOMPARE(machine().calls(name("FindClosePrinterChangeNotification")).size(), 1);
@@ -151,25 +151,25 @@ void PrinterStatusThreadSpoolerTest::eachStateShortOfRunningIsReportedAgain()
 void PrinterStatusThreadSpoolerTest::stoppingIsReportedEvenWhenTheLastStatusSaysSo()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "254"));
-    watch();
+    QVERIFY(watch());
     QCOMPARE(takeReports().first(), status("254"));
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
 }
 
 void PrinterStatusThreadSpoolerTest::spoolerThatComesBack()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     takeReports();
     machine().publish(labelPrinter, PrinterValue::number("Mileage", 4711));
     machine().recordCalls();
 
     machine().startSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), (QList<Report>{status("1"), report("supplyIntMileageChanged",
                                                                QStringLiteral("4711"))}));
 
@@ -187,37 +187,37 @@ void PrinterStatusThreadSpoolerTest::spoolerThatComesBack()
     QVERIFY(waits.at(2) != noHandle);
 
     // And watched as before.
-    publish(PrinterValue::text("StatusCode", "3"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "3")));
     QCOMPARE(takeReports(), QList<Report>{status("3")});
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
 }
 
 void PrinterStatusThreadSpoolerTest::comesBackWithTheStatusUnchanged()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
-    watch();
+    QVERIFY(watch());
     takeReports();
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     machine().startSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     // "1" is news again after "254"; the name is not.
     QCOMPARE(takeReports(), (QList<Report>{status("254"), status("1")}));
 }
 
 void PrinterStatusThreadSpoolerTest::comesBackWithoutThePrinter()
 {
-    watch();
+    QVERIFY(watch());
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     takeReports();
 
     machine().failCall(name("OpenPrinterA"), 1, ERROR_INVALID_PRINTER_NAME);
     machine().recordCalls();
     machine().startSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
     QCOMPARE(logged(), QList<LogRecord>{openingFailed()});
     QCOMPARE(machine().calls(name("OpenPrinterA")).size(), 1);
@@ -225,28 +225,28 @@ void PrinterStatusThreadSpoolerTest::comesBackWithoutThePrinter()
     QVERIFY(waitsForItsEndAlone());
 
     // Nothing is tried again before the service has changed its state.
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(machine().calls(name("OpenPrinterA")).size(), 1);
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
     machine().startSpooler();
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
 }
 
 void PrinterStatusThreadSpoolerTest::comesBackWithoutTheNotification()
 {
-    watch();
+    QVERIFY(watch());
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     takeReports();
 
     machine().failCall(name("FindFirstPrinterChangeNotification"), 1, ERROR_NOT_ENOUGH_MEMORY);
     machine().recordCalls();
     machine().startSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
     QCOMPARE(logged(), QList<LogRecord>{notificationFailed()});
     const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
@@ -256,7 +256,7 @@ void PrinterStatusThreadSpoolerTest::comesBackWithoutTheNotification()
     allowMisuse(Kind::ClosedTwice, name("ClosePrinter"));
     machine().clearCalls();
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
     QCOMPARE(lastCall("FindClosePrinterChangeNotification").arguments, QStringList{noHandle});
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
@@ -264,15 +264,15 @@ void PrinterStatusThreadSpoolerTest::comesBackWithoutTheNotification()
 
 void PrinterStatusThreadSpoolerTest::failedQueryCountsAsAStateOfItsOwn()
 {
-    watch();
+    QVERIFY(watch());
     takeReports();
     machine().failCall(name("QueryServiceStatus"), 1, ERROR_INVALID_HANDLE);
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     // The printer publishes no status, which after "254" is a change to nothing.
     QCOMPARE(takeReports(), QList<Report>{status("")});
-    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
 }
 
@@ -280,19 +280,19 @@ void PrinterStatusThreadSpoolerTest::firstQueryThatFailedLeaksNothing()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
     machine().failCall(name("QueryServiceStatus"), 1, ERROR_INVALID_HANDLE);
-    watch();
+    QVERIFY(watch());
     takeReports();
     const int open = machine().openHandles();
     machine().recordCalls();
 
     // The service now "comes back" while the printer is open and watched: it is opened afresh, and
     // what was open is closed.
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(machine().openHandles(), open);
     QCOMPARE(takeReports(), QList<Report>());
     QCOMPARE(machine().calls(name("FindClosePrinterChangeNotification")).size(), 1);
     QCOMPARE(machine().calls(name("FindFirstPrinterChangeNotification")).size(), 1);
-    publish(PrinterValue::text("StatusCode", "2"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "2")));
     QCOMPARE(takeReports(), QList<Report>{status("2")});
 }
 
@@ -307,11 +307,11 @@ void PrinterStatusThreadSpoolerTest::serviceThatCannotBeAskedIsNotTakenForStoppe
 {
     QFETCH(const QString, function);
     machine().failCall(function, 1, ERROR_ACCESS_DENIED);
-    watch();
+    QVERIFY(watch());
     takeReports();
     machine().stopSpooler();
-    pass(5000ms);
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>());
 
     // The service is opened and asked whatever the handles are.
@@ -327,7 +327,7 @@ void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpened()
 {
     thread().setMonitoredPrinterName(QStringLiteral("No Such Printer"));
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
     QCOMPARE(logged(), QList<LogRecord>{libraryLine(
                            "printer_status_thread", 198,
                            "bool PrinterStatusThread::initPrinterHandles(PHANDLE, PHANDLE)",
@@ -336,9 +336,9 @@ void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpened()
     QCOMPARE(machine().calls(name("OpenPrinterA")).size(), 1);
     QCOMPARE(machine().calls(name("GetPrinterDataA")).size(), 0);
     QVERIFY(waitsForItsEndAlone());
-    pass(4999ms);
+    QVERIFY(pass(4999ms));
     QCOMPARE(machine().calls(name("QueryServiceStatus")).size(), 1);
-    pass(1ms);
+    QVERIFY(pass(1ms));
     QCOMPARE(machine().calls(name("QueryServiceStatus")).size(), 2);
     QVERIFY(waitsForItsEndAlone());
     QCOMPARE(machine().calls(name("WaitForMultipleObjects")).size(), 2);
@@ -355,19 +355,19 @@ void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpened()
 void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpenedIsNotTriedAgain()
 {
     machine().failCall(name("OpenPrinterA"), 1, ERROR_INVALID_PRINTER_NAME);
-    watch();
+    QVERIFY(watch());
     for (int poll = 0; poll < 10; ++poll)
-        pass(5000ms);
+        QVERIFY(pass(5000ms));
     QCOMPARE(machine().callCount(name("OpenPrinterA")), 1);
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 11);
     QCOMPARE(takeReports(), QList<Report>());
 
     // A change of the service is what opens it.
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
     machine().startSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(),
              (QList<Report>{status(""), report("printerNameChangedSignal", labelPrinter)}));
 }
@@ -376,13 +376,13 @@ void PrinterStatusThreadSpoolerTest::spoolerDownAtTheStart()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
     machine().stopSpooler();
-    watch();
+    QVERIFY(watch());
     QCOMPARE(logged(), QList<LogRecord>{openingFailed()});
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>()); // the state is the one found at the start
 
     machine().startSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(),
              (QList<Report>{status("1"), report("printerNameChangedSignal", labelPrinter)}));
 }
@@ -391,7 +391,7 @@ void PrinterStatusThreadSpoolerTest::notificationThatCannotBeHad()
 {
     machine().failCall(name("FindFirstPrinterChangeNotification"), 1, ERROR_NOT_ENOUGH_MEMORY);
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
     QCOMPARE(logged(), QList<LogRecord>{notificationFailed()});
     QCOMPARE(takeReports(), QList<Report>());
     const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
@@ -409,7 +409,7 @@ void PrinterStatusThreadSpoolerTest::fullAccessThatIsRefused()
     machine().setAdministrable(labelPrinter, false);
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
     QCOMPARE(logged(), QList<LogRecord>{fullAccessFailed()});
     QCOMPARE(takeReports(),
              (QList<Report>{status("1"), report("printerNameChangedSignal", labelPrinter)}));
@@ -421,21 +421,21 @@ void PrinterStatusThreadSpoolerTest::fullAccessThatIsRefused()
 void PrinterStatusThreadSpoolerTest::failedWaitIsTriedAgain()
 {
     machine().failCall(name("WaitForMultipleObjects"), 1, ERROR_INVALID_HANDLE);
-    watch();
+    QVERIFY(watch());
     takeReports();
     QCOMPARE(machine().callCount(name("WaitForMultipleObjects")), 2);
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 1);
-    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
 }
 
 void PrinterStatusThreadSpoolerTest::failedReArmingStillReads()
 {
-    watch();
+    QVERIFY(watch());
     takeReports();
     machine().failCall(name("FindNextPrinterChangeNotification"), 1, ERROR_INVALID_HANDLE);
     // Not re-armed, the notification is still signalled, so that the next turn re-arms it.
-    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
     QCOMPARE(machine().callCount(name("FindNextPrinterChangeNotification")), 2);
 }
@@ -443,10 +443,10 @@ void PrinterStatusThreadSpoolerTest::failedReArmingStillReads()
 void PrinterStatusThreadSpoolerTest::printerThatIsRemoved()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
-    watch();
+    QVERIFY(watch());
     takeReports();
     machine().removePrinter(labelPrinter);
-    settle();
+    QVERIFY(settle());
     // Nothing can be read any more.
     QCOMPARE(takeReports(), (QList<Report>{status(""), report("printerNameChangedSignal", {})}));
 }

@@ -46,18 +46,8 @@ class PrinterValuesTest : public MachineTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override
-    {
-        MachineTest::init();
-        machine().addPrinter({.name = printerName, .driver = QStringLiteral("Stratamark Alder")});
-        m_printer = openPrinter(printerName);
-        QVERIFY(m_printer.isValid());
-    }
-    void cleanup() override
-    {
-        m_printer.close();
-        MachineTest::cleanup();
-    }
+    void init() override;
+    void cleanup() override;
 
     void textValue_data();
     void textValue();
@@ -92,6 +82,20 @@ private:
     PrinterStatusThread m_thread;
     PrinterHandle m_printer;
 };
+
+void PrinterValuesTest::init()
+{
+    MachineTest::init();
+    machine().addPrinter({.name = printerName, .driver = QStringLiteral("Stratamark Alder")});
+    m_printer = openPrinter(printerName);
+    QVERIFY(m_printer.isValid());
+}
+
+void PrinterValuesTest::cleanup()
+{
+    m_printer.close();
+    MachineTest::cleanup();
+}
 
 void PrinterValuesTest::textValue_data()
 {

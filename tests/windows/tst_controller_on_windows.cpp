@@ -94,7 +94,7 @@ void ControllerOnWindowsTest::tellsOfAPrinterThatGoesOffline()
     const QString printer = addPrinter("Stratamark CedarMax");
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("1")}));
     host();
-    waitForStatus(printer, 1);
+    QVERIFY(waitForStatus(printer, 1));
 
     setAttributes(printer, offlinePrinter);
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("0")}));
@@ -123,8 +123,8 @@ void ControllerOnWindowsTest::worksWithTheDefaultPrinter()
     QCOMPARE(m_controller->activeDefaultPrinter(), second);
     QVERIFY(m_controller->vxDefaultActivePrinter());
     QVERIFY(record(second).printerDefault);
-    waitForStatus(first, 1);
-    waitForStatus(second, 1);
+    QVERIFY(waitForStatus(first, 1));
+    QVERIFY(waitForStatus(second, 1));
 
     QVERIFY(SetDefaultPrinterW(WideText(first)));
     QVERIFY(publish(first, {"StatusCode", REG_SZ, text("4")}));
@@ -142,7 +142,7 @@ void ControllerOnWindowsTest::readsWhatIsLoaded()
     const QString printer = addLoadedPrinter();
     QVERIFY(!printer.isEmpty());
     host();
-    waitUntilLoaded(printer);
+    QVERIFY(waitUntilLoaded(printer));
     const PrinterStatusInformation loaded = record(printer);
     QCOMPARE(loaded.statusEnum, 1);
     QCOMPARE(loaded.supplySKU, QStringLiteral("VT-400-WH"));
@@ -163,7 +163,7 @@ void ControllerOnWindowsTest::errorIsRaisedAndCleared()
     const QString printer = addPrinter("Stratamark BirchMax");
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("1")}));
     host();
-    waitForStatus(printer, 1);
+    QVERIFY(waitForStatus(printer, 1));
 
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("4")}));
     QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, 4, patience);

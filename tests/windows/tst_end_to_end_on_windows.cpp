@@ -35,7 +35,7 @@ void EndToEndOnWindowsTest::newRibbonReachesHostAndOtherProcess()
 {
     const QString printer = addLoadedPrinter();
     host();
-    waitUntilLoaded(printer);
+    QVERIFY(waitUntilLoaded(printer));
     QCOMPARE(record(printer).ribbon1ColorName, QStringLiteral("Black"));
 
     QVERIFY(publish(printer, {"Ribbon1Identifier", REG_DWORD, word(2006)}));
@@ -59,7 +59,7 @@ void EndToEndOnWindowsTest::newSupplyReachesHostAndOtherProcess()
 {
     const QString printer = addLoadedPrinter();
     host();
-    waitUntilLoaded(printer);
+    QVERIFY(waitUntilLoaded(printer));
     QCOMPARE(record(printer).supplyColorName, QStringLiteral("White"));
 
     QVERIFY(publish(printer, {"SupplyIdentifier", REG_SZ, text("000000641000050000B1")}));
@@ -78,7 +78,7 @@ void EndToEndOnWindowsTest::statusOutsideIsThatOfDiscovery()
     const QString remote =
         addPrinter("Stratamark Alder", localPrinter, QStringLiteral("192.168.1.20"));
     host();
-    waitUntilLoaded(watched);
+    QVERIFY(waitUntilLoaded(watched));
     QCOMPARE(record(remote).statusEnum, 256);
     QVERIFY(record(remote).printerRemote);
     QCOMPARE(statusOutside(watched).toInt(), 255);

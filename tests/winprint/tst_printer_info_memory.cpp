@@ -59,20 +59,8 @@ class PrinterInfoMemoryTest : public MachineTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override
-    {
-        MachineTest::init();
-        machine().addPrinter(
-            {.name = QStringLiteral("Printer"), .driver = QStringLiteral("Stratamark Alder")});
-        allocated.clear();
-        allocationsUntilFailure = -1;
-    }
-    void cleanup() override
-    {
-        allocationsUntilFailure = -1;
-        QVERIFY(allocated.empty());
-        MachineTest::cleanup();
-    }
+    void init() override;
+    void cleanup() override;
 
     void recordIsTheCallersToRelease();
     void recordWithoutMemory();
@@ -85,6 +73,22 @@ private Q_SLOTS:
 private:
     static const inline QString m_name = QStringLiteral("Printer");
 };
+
+void PrinterInfoMemoryTest::init()
+{
+    MachineTest::init();
+    machine().addPrinter(
+        {.name = QStringLiteral("Printer"), .driver = QStringLiteral("Stratamark Alder")});
+    allocated.clear();
+    allocationsUntilFailure = -1;
+}
+
+void PrinterInfoMemoryTest::cleanup()
+{
+    allocationsUntilFailure = -1;
+    QVERIFY(allocated.empty());
+    MachineTest::cleanup();
+}
 
 void PrinterInfoMemoryTest::recordIsTheCallersToRelease()
 {

@@ -39,16 +39,8 @@ class WindowsPrinterInfoTest : public MachineTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override
-    {
-        MachineTest::init();
-        m_log.emplace();
-    }
-    void cleanup() override
-    {
-        m_log.reset();
-        MachineTest::cleanup();
-    }
+    void init() override;
+    void cleanup() override;
 
     void noPrinters();
     void defaultRecord();
@@ -105,6 +97,18 @@ private:
 
     std::optional<LogRecorder> m_log;
 };
+
+void WindowsPrinterInfoTest::init()
+{
+    MachineTest::init();
+    m_log.emplace();
+}
+
+void WindowsPrinterInfoTest::cleanup()
+{
+    m_log.reset();
+    MachineTest::cleanup();
+}
 
 void WindowsPrinterInfoTest::noPrinters()
 {
