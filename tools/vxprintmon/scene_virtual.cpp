@@ -24,13 +24,13 @@ public:
         // The serial numbers of virtual printers have no business among the user's.
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
         virtualwindows::populate(Machine::instance(), fleet);
-        connect(&m_player, &StoryPlayer::told, this, &Scene::told);
+        connect(&m_player, &StoryPlayer::narrated, this, &Scene::told);
         connect(&m_player, &StoryPlayer::happened, this, &Scene::printersMayHaveCome);
     }
 
     void begin(const std::function<int()>& audience) override
     {
-        m_player.setAudience(audience);
+        m_player.setWatchingThreads(audience);
         if (m_hasStory)
             m_player.start();
     }
@@ -54,10 +54,11 @@ private:
 
 std::variant<std::unique_ptr<Scene>, Scene::Failure> Scene::make(const CommandLine& line)
 {
-    if (line.fleetFile.isEmpty())
-        return std::make_unique<VirtualScene>(virtualwindows::builtInFleet(), line.speed);
-    const auto fleet = virtualwindows::readFleet(line.fleetFile);
-    if (const auto* error = std::get_if<FleetError>(&fleet))
-        return Failure{error->message};
-    return std::make_unique<VirtualScene>(std::get<Fleet>(fleet), line.speed);
+    try {
+        const Fleet fleet = line.fleetFile.isEmpty() ? virtualwindows::builtInFleet()
+                                                     : virtualwindows::readFleet(line.fleetFile);
+        return std::make_unique<VirtualScene>(fleet, line.speed);
+    } catch (const FleetError& error) {
+        return Failure{error.message()};
+    }
 }
