@@ -26,13 +26,13 @@ public:
         // The serial numbers of virtual printers must not end up in the user's own settings.
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
         virtualwindows::populate(Machine::instance(), fleet);
-        connect(&m_player, &StoryPlayer::told, this, &Backend::narrated);
+        connect(&m_player, &StoryPlayer::narrated, this, &Backend::narrated);
         connect(&m_player, &StoryPlayer::happened, this, &Backend::printersMayHaveChanged);
     }
 
     void start(const std::function<int()>& watchedPrinters) override
     {
-        m_player.setAudience(watchedPrinters);
+        m_player.setWatchingThreads(watchedPrinters);
         if (m_hasStory)
             m_player.start();
     }
@@ -56,10 +56,11 @@ Fleet fleetOf(const QString& fileName)
 {
     if (fileName.isEmpty())
         return virtualwindows::builtInFleet();
-    const auto fleet = virtualwindows::readFleet(fileName);
-    if (const auto* error = std::get_if<FleetError>(&fleet))
-        throw Failure(error->message);
-    return std::get<Fleet>(fleet);
+    try {
+        return virtualwindows::readFleet(fileName);
+    } catch (const FleetError& error) {
+        throw Failure(error.message());
+    }
 }
 
 } // namespace
