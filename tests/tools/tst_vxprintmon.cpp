@@ -13,6 +13,7 @@
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
+#include <array>
 #include <csignal>
 
 namespace {
@@ -316,7 +317,7 @@ has a ribbon 2   yes
 firmware         4.1.3,boot 1.7
 network printer  no
 managed          yes
-was active once  yes
+has been active  yes
 )";
     QCOMPARE(result.output, expected);
 }
@@ -641,6 +642,7 @@ void VxPrintMonTest::watchPrintsSignalsAndChangesAsText()
              }));
     // Changes in the records are printed once for all signals that were queued together, so the
     // number of lines is a matter of chance. The changes in each part of the story are not.
+    const QByteArray label = "records  ";
     QByteArrayList printed;
     QByteArrayList changed;
     const auto endPart = [&] {
@@ -649,37 +651,38 @@ void VxPrintMonTest::watchPrintsSignalsAndChangesAsText()
         changed.clear();
     };
     for (const QByteArray& line : lines.mid(3)) {
-        const QByteArray text = line.mid(qstrlen("   0.0 s  "));
-        const qsizetype records = text.indexOf("records  ");
+        const QByteArray text = line.mid(QByteArray("   0.0 s  ").size());
+        const qsizetype records = text.indexOf(label);
         if (text.endsWith('.'))
             endPart();
         if (records < 0)
             printed.append(text);
         else
-            changed.append(text.mid(records + qsizetype(qstrlen("records  "))));
+            changed.append(text.mid(records + label.size()));
     }
     endPart();
-    QCOMPARE(printed, (QByteArrayList{
-                          "P  status     1  Ready",
-                          "P  supply   was changed or taken out",
-                          "records: status not known → Ready, supply Yellow Vinyl (VT-400-YL)",
-                          "The lid is opened.",
-                          "   errors   some printer is in error",
-                          "P  status     4  The cover is open",
-                          "P  supply   was changed or taken out",
-                          "records: status Ready → The cover is open, "
-                          "supply Yellow Vinyl (VT-400-YL) → none",
-                          "A ribbon comes.",
-                          "P  ribbons  were changed or taken out",
-                          "records: ribbon 1 Blue (RS-43-BL), ribbon 1 left 0 % → 100 %, "
-                          "ribbon 1 left 100 % → 99 %",
-                          "A printer comes.",
-                          "Quill  found    Printer Is Remotely Connected.",
-                          "The lid is closed.",
-                          "       errors   no printer is in error",
-                          "P      status     1  Ready",
-                          "records: status The cover is open → Ready, firmware 1.0",
-                      }));
+    QCOMPARE(printed,
+             (QByteArrayList{
+                 "P  status     1  Ready",
+                 "P  supply   changed or removed",
+                 "records: status not known → Ready, supply Yellow Vinyl (VT-400-YL)",
+                 "The lid is opened.",
+                 "   errors   a printer is in error",
+                 "P  status     4  The cover is open",
+                 "P  supply   changed or removed",
+                 QByteArray("records: status Ready → The cover is open, "
+                            "supply Yellow Vinyl (VT-400-YL) → none"),
+                 "A ribbon comes.",
+                 "P  ribbons  changed or removed",
+                 QByteArray("records: ribbon 1 Blue (RS-43-BL), ribbon 1 left 0 % → 100 %, "
+                            "ribbon 1 left 100 % → 99 %"),
+                 "A printer comes.",
+                 "Quill  found    Printer Is Remotely Connected.",
+                 "The lid is closed.",
+                 "       errors   no printer is in error",
+                 "P      status     1  Ready",
+                 "records: status The cover is open → Ready, firmware 1.0",
+             }));
 }
 
 void VxPrintMonTest::watchEndsAfterTheGivenTime()
@@ -703,7 +706,7 @@ void VxPrintMonTest::watchReportsAPrinterThatIsAddedLater()
     const Result people = runUntil("not known → Ready", arguments);
     QCOMPARE(people.exitStatus, 0);
     QVERIFY(people.output.startsWith("There are no label printers yet.\n\n"));
-    QVERIFY(people.output.contains("P  found    is watched from now on\n"));
+    QVERIFY(people.output.contains("P  found    is now watched\n"));
 
     const Result json =
         runUntil("availablePrintersUpdated", arguments + QStringList{QStringLiteral("--json")});
@@ -735,30 +738,31 @@ void VxPrintMonTest::watchEndsWhenInterrupted()
 void VxPrintMonTest::twoMonitorsRunSideBySide()
 {
     // Each has its own endpoints and watches all printers.
-    constexpr int count = 2;
-    QProcess processes[count];
-    QByteArray outputs[count];
-    for (int i = 0; i < count; ++i) {
-        processes[i].setProcessEnvironment(environment());
-        processes[i].start(QStringLiteral(VXPRINTMON),
-                           {QStringLiteral("watch"), QStringLiteral("--json")});
-        QTRY_VERIFY_WITH_TIMEOUT((outputs[i] += processes[i].readAllStandardOutput())
+    std::array<QProcess, 2> processes;
+    qsizetype endpointCount = 0;
+    for (QProcess& process : processes) {
+        process.setProcessEnvironment(environment());
+        process.start(QStringLiteral(VXPRINTMON),
+                      {QStringLiteral("watch"), QStringLiteral("--json")});
+        QByteArray output;
+        QTRY_VERIFY_WITH_TIMEOUT((output += process.readAllStandardOutput())
                                      .contains(R"("softwareVersion":"4.1.3,boot 1.7")"),
                                  patience);
-        QTRY_COMPARE_WITH_TIMEOUT(entries().filter(QStringLiteral("vxipc-")).size(), 2 * (i + 1),
+        endpointCount += 2;
+        QTRY_COMPARE_WITH_TIMEOUT(entries().filter(QStringLiteral("vxipc-")).size(), endpointCount,
                                   patience);
     }
     const QStringList endpoints = entries().filter(QStringLiteral("vxipc-"));
     QVERIFY(endpoints.contains(QStringLiteral("vxipc-0")));
     QVERIFY(endpoints.contains(QStringLiteral("vxipc-0-%1").arg(processes[1].processId())));
 
-    for (int i = 0; i < count; ++i) {
-        QCOMPARE(processes[i].state(), QProcess::Running);
-        processes[i].terminate();
-        QVERIFY(processes[i].waitForFinished(patience));
-        QCOMPARE(processes[i].exitStatus(), QProcess::NormalExit);
-        QCOMPARE(processes[i].exitCode(), 0);
-        QCOMPARE(processes[i].readAllStandardError(), QByteArray());
+    for (QProcess& process : processes) {
+        QCOMPARE(process.state(), QProcess::Running);
+        process.terminate();
+        QVERIFY(process.waitForFinished(patience));
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 0);
+        QCOMPARE(process.readAllStandardError(), QByteArray());
     }
     QCOMPARE(entries().filter(QStringLiteral("vxipc-")), QStringList());
 }
@@ -1014,15 +1018,15 @@ void VxPrintMonTest::wrongUsageIsRefused_data()
             << QString::fromUtf8(complaint);
     };
     row("", "expected a command: list, watch, status, send, title");
-    row("lst", "unknown command \"lst\"; expected one of list, watch, status, send, title");
-    row("list Shipping", "list takes no arguments, found \"Shipping\"");
-    row("watch Shipping", "watch takes no arguments, found \"Shipping\"");
-    row("status A B", "status takes at most one printer, found \"A\" \"B\"");
+    row("lst", R"(unknown command "lst"; expected one of list, watch, status, send, title)");
+    row("list Shipping", R"(list takes no arguments, found "Shipping")");
+    row("watch Shipping", R"(watch takes no arguments, found "Shipping")");
+    row("status A B", R"(status takes at most one printer, found "A" "B")");
     row("send", "send takes a printer and a command, found nothing");
-    row("send Shipping", "send takes a printer and a command, found \"Shipping\"");
-    row("send Shipping A B", "send takes a printer and a command, found \"Shipping\" \"A\" \"B\"");
+    row("send Shipping", R"(send takes a printer and a command, found "Shipping")");
+    row("send Shipping A B", R"(send takes a printer and a command, found "Shipping" "A" "B")");
     row("title", "title takes a status code, found nothing");
-    row("title 1 2", "title takes a status code, found \"1\" \"2\"");
+    row("title 1 2", R"(title takes a status code, found "1" "2")");
     for (const char* code : {"x", "1.5", "0x10", "2147483648", "-2147483649"}) {
         const QByteArray arguments = QByteArray("title ") + code;
         const QByteArray complaint =
@@ -1035,11 +1039,11 @@ void VxPrintMonTest::wrongUsageIsRefused_data()
     row("status --for 3", "--for is valid only with watch");
     row("list --speed 3", "--speed is valid only with watch");
     row("watch --for", "Missing value after '--for'");
-    row("watch --for soon", "--for: expected a number above 0 and up to 1000000, found \"soon\"");
-    row("watch --for 0", "--for: expected a number above 0 and up to 1000000, found \"0\"");
-    row("watch --for nan", "--for: expected a number above 0 and up to 1000000, found \"nan\"");
-    row("watch --for 1e9", "--for: expected a number above 0 and up to 1000000, found \"1e9\"");
-    row("watch --speed -2", "--speed: expected a number above 0 and up to 1000000, found \"-2\"");
+    row("watch --for soon", R"(--for: expected a number above 0 and up to 1000000, found "soon")");
+    row("watch --for 0", R"(--for: expected a number above 0 and up to 1000000, found "0")");
+    row("watch --for nan", R"(--for: expected a number above 0 and up to 1000000, found "nan")");
+    row("watch --for 1e9", R"(--for: expected a number above 0 and up to 1000000, found "1e9")");
+    row("watch --speed -2", R"(--speed: expected a number above 0 and up to 1000000, found "-2")");
     row("watch --virtual=", "--virtual: expected a file name");
 }
 

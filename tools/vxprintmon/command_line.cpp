@@ -24,7 +24,8 @@ struct Option
 };
 
 constexpr Option jsonOption{"json", "", "print JSON: an array, or one object per line"};
-constexpr Option forOption{"for", "SECONDS", "watch: stop after SECONDS; by default, when interrupted",
+constexpr Option forOption{"for", "SECONDS",
+                           "watch: stop after SECONDS; by default, when interrupted",
                            CommandOption::For};
 constexpr Option logOption{"log", "FILE", "append the library's log to FILE"};
 constexpr Option virtualOption{"virtual", "FILE", "use the virtual printers that FILE describes"};

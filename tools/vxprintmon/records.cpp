@@ -141,7 +141,7 @@ const Detail details[] = {
      [](const Record& record, const TitleOf&) {
          return yesOrNo(!record.printerNonAdmin);
      }},
-    {"was active once",
+    {"has been active",
      [](const Record& record, const TitleOf&) {
          return yesOrNo(record.printerDefault);
      }},

@@ -21,26 +21,26 @@ Reporter::Reporter(const CommandLine& line, Output& output, Controller& controll
     listen(&Controller::printerErrorChangedSignal, [this](bool isInError) {
         print("errors",
               {{},
-               {isInError ? Cell{QStringLiteral("some printer is in error"), Colour::Bad}
+               {isInError ? Cell{QStringLiteral("a printer is in error"), Colour::Bad}
                           : Cell{QStringLiteral("no printer is in error"), Colour::Good}}});
     });
     listen(&Controller::statusChangedSignal, [this](int status, const QString& printer) {
         print("status", {printer, {{QStringLiteral("%1  ").arg(status, 3)}, {m_titleOf(status)}}});
     });
     listen(&Controller::supplyIdChangedSignal, [this](const QString& printer) {
-        print("supply", {printer, {{QStringLiteral("was changed or taken out")}}});
+        print("supply", {printer, {{QStringLiteral("changed or removed")}}});
     });
     listen(&Controller::ribbonIdsChangedSignal, [this](const QString& printer) {
-        print("ribbons", {printer, {{QStringLiteral("were changed or taken out")}}});
+        print("ribbons", {printer, {{QStringLiteral("changed or removed")}}});
     });
     listen(&Controller::activeDefaultPrinterSetSignal, [this](const QString& printer, bool isVX) {
         print("active", {printer,
                          {{isVX ? QStringLiteral("is the active printer")
-                                : QStringLiteral("is the active printer, without a record"),
+                                : QStringLiteral("is the active printer but has no record"),
                            Colour::Notice}}});
     });
     listen(&Controller::softwareVersionUpdated, [this](const QString& printer) {
-        print("firmware", {printer, {{QStringLiteral("was changed")}}});
+        print("firmware", {printer, {{QStringLiteral("changed")}}});
     });
 }
 
@@ -73,7 +73,7 @@ void Reporter::lookForPrinters()
             continue;
         remember(record);
         print("found", {record.printerName,
-                        {{records::isWatched(record) ? QStringLiteral("is watched from now on")
+                        {{records::isWatched(record) ? QStringLiteral("is now watched")
                                                      : m_titleOf(record.statusEnum)}}});
     }
 }
@@ -149,5 +149,5 @@ void Reporter::printChanges()
         print("records", {record.printerName, difference});
     }
     if (!isAnythingNew)
-        print("records", {{}, {{QStringLiteral("nothing new"), Colour::Faint}}});
+        print("records", {{}, {{QStringLiteral("no changes"), Colour::Faint}}});
 }
