@@ -12,12 +12,12 @@
 namespace VXPrinting {
 Q_NAMESPACE_EXPORT(VX_PRINTERSTATUS_EXPORT)
 
-/// A printer model, told from the driver's name. Values above 100 are the supported models, which
-/// are watched; everything else is left alone. The numbers are fixed: hosts store them.
+/// A printer model, recognised by the driver's name. Values above 100 are the supported models,
+/// which are watched; all others are ignored. The numbers are fixed: hosts store them.
 enum class PrinterType : int
 {
-    Unknown = 0,    ///< not a printer of the maker
-    Generic = 10,   ///< a printer of the maker, of no supported model
+    Unknown = 0,    ///< a printer of another maker
+    Generic = 10,   ///< a printer of the maker, but not a supported model
     Alder = 101,    ///< supported, two ribbons; reports its mileages in percent
     BirchMax = 102, ///< supported, one ribbon
     CedarMax = 103, ///< supported, one ribbon

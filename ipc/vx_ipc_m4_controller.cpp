@@ -7,7 +7,7 @@
 
 namespace {
 
-// What the placeholder answers: clients were written against exactly these.
+// The placeholder's answers, which clients rely on.
 constexpr bool succeeded = true;
 constexpr bool yes = true;
 constexpr int reading = 1;
@@ -30,7 +30,7 @@ void VXIPCM4Controller::onStatusChanged(int status, const QString& printerName)
     printerStatuses.insert(printerName, status);
 }
 
-// One line an answer.
+// One line for each function.
 // clang-format off
 int     VXIPCM4Controller::getError()                           { return reading; }
 int     VXIPCM4Controller::getAlert()                           { return reading; }

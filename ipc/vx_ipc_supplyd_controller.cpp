@@ -66,6 +66,11 @@ VXSupplyDatabase* VXIPCSUPPLYDController::databaseForPrinter(const QString& prin
     return databases.value(printerName, defaultDatabase);
 }
 
+VXSupplyDatabase* VXIPCSUPPLYDController::databaseAskedFor(const QString& printerName) const
+{
+    return databaseForPrinter(orShared(printerName));
+}
+
 VXSupplyDatabase* VXIPCSUPPLYDController::sharedDatabase() const
 {
     return databases.value(sharedKey);
@@ -73,77 +78,39 @@ VXSupplyDatabase* VXIPCSUPPLYDController::sharedDatabase() const
 
 void VXIPCSUPPLYDController::setSupplyId(const QString& id, const QString& printerName)
 {
-    if (printerName.isEmpty()) // must not reach the shared database, as queries do
+    if (printerName.isEmpty()) // unlike a query, it must not reach the shared database
         return;
     databaseForPrinter(printerName)->setSupplyId(id);
 }
 
 void VXIPCSUPPLYDController::setRibbonIds(const QStringList& ids, const QString& printerName)
 {
-    if (printerName.isEmpty()) // must not reach the shared database, as queries do
+    if (printerName.isEmpty()) // unlike a query, it must not reach the shared database
         return;
     databaseForPrinter(printerName)->setRibbonIds(ids);
 }
 
 QString VXIPCSUPPLYDController::supplySKUCached(QString printerName)
 {
-    // Alone among the queries this one does not ask the shared database for an empty name.
+    // The only query that does not go to the shared database for an empty name.
     if (printerName.isEmpty())
         return nothingLoaded;
     return databaseForPrinter(printerName)->supplySKU();
 }
 
-// Asked by printer: the argument names one.
-
-QStringList VXIPCSUPPLYDController::supplyRibbonSKUsCached(QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyRibbonSKUs();
-}
-
-QString VXIPCSUPPLYDController::supplySupplyRGB(QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplySupplyRGB();
-}
-
-QStringList VXIPCSUPPLYDController::supplyRibbon1RGBs(QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyRibbon1RGBs();
-}
-
-QStringList VXIPCSUPPLYDController::supplyRibbon2RGBs(QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyRibbon2RGBs();
-}
-
-QString VXIPCSUPPLYDController::supplyMaterialName(QString sku, QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyMaterialName(sku);
-}
-
-QString VXIPCSUPPLYDController::supplyFormatName(QString sku, QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyFormatName(sku);
-}
-
-int VXIPCSUPPLYDController::supplyColorRGB(QString sku, QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyColorRGB(sku);
-}
-
-QString VXIPCSUPPLYDController::supplyColorName(QString sku, QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyColorName(sku);
-}
-
-double VXIPCSUPPLYDController::supplyWidth(QString sku, QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyWidth(sku);
-}
-
-double VXIPCSUPPLYDController::supplyNonContinuousLength(QString sku, QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyNonContinuousLength(sku);
-}
+// Queries with a printer's name, which go to that printer's database object.
+// clang-format off
+QStringList VXIPCSUPPLYDController::supplyRibbonSKUsCached(QString printerName)                 { return databaseAskedFor(printerName)->supplyRibbonSKUs(); }
+QString     VXIPCSUPPLYDController::supplySupplyRGB(QString printerName)                        { return databaseAskedFor(printerName)->supplySupplyRGB(); }
+QStringList VXIPCSUPPLYDController::supplyRibbon1RGBs(QString printerName)                      { return databaseAskedFor(printerName)->supplyRibbon1RGBs(); }
+QStringList VXIPCSUPPLYDController::supplyRibbon2RGBs(QString printerName)                      { return databaseAskedFor(printerName)->supplyRibbon2RGBs(); }
+QString     VXIPCSUPPLYDController::supplyMaterialName(QString sku, QString printerName)        { return databaseAskedFor(printerName)->supplyMaterialName(sku); }
+QString     VXIPCSUPPLYDController::supplyFormatName(QString sku, QString printerName)          { return databaseAskedFor(printerName)->supplyFormatName(sku); }
+int         VXIPCSUPPLYDController::supplyColorRGB(QString sku, QString printerName)            { return databaseAskedFor(printerName)->supplyColorRGB(sku); }
+QString     VXIPCSUPPLYDController::supplyColorName(QString sku, QString printerName)           { return databaseAskedFor(printerName)->supplyColorName(sku); }
+double      VXIPCSUPPLYDController::supplyWidth(QString sku, QString printerName)               { return databaseAskedFor(printerName)->supplyWidth(sku); }
+double      VXIPCSUPPLYDController::supplyNonContinuousLength(QString sku, QString printerName) { return databaseAskedFor(printerName)->supplyNonContinuousLength(sku); }
+// clang-format on
 
 int VXIPCSUPPLYDController::supplyTypeIndex(QString sku, QString printerName)
 {
@@ -169,7 +136,7 @@ SupplyInformation VXIPCSUPPLYDController::supplyInformationBySKUs(QString supply
     const QString ribbon2Sku = ribbonSkus.value(1);
 
     SupplyInformation record;
-    record.supplyId = database->supplyId(); // what is loaded, which need not be what is asked about
+    record.supplyId = database->supplyId(); // of the loaded supply, which may be another one
     record.supplySku = supplySku;
     record.ribbonSkus = ribbonSkus;
     record.secColorWidth = static_cast<float>(database->supplySecColorWidth(supplySku));
@@ -210,89 +177,28 @@ SupplyInformation VXIPCSUPPLYDController::supplyInformationBySKUs(QString supply
     return record;
 }
 
-// Asked of the shared database, even where the caller knows the printer: no argument names one.
+// Queries without a printer's name, which go to the shared database object, also where the caller
+// knows the printer.
+// clang-format off
+QStringList  VXIPCSUPPLYDController::supplySKUList()                                                         { return sharedDatabase()->supplySKUList(); }
+QStringList  VXIPCSUPPLYDController::supplyRibbonSKUList()                                                   { return sharedDatabase()->supplyRibbonSKUList(); }
+QVariantHash VXIPCSUPPLYDController::supplyColorHash()                                                       { return sharedDatabase()->supplyColorHash(); }
+QVariantHash VXIPCSUPPLYDController::supplyRibbonColorHash()                                                 { return sharedDatabase()->supplyRibbonColorHash(); }
+int          VXIPCSUPPLYDController::supplyIsLandscape(QString sku)                                          { return sharedDatabase()->supplyIsLandscape(sku); }
+QByteArray   VXIPCSUPPLYDController::supplyBackgroundImage(QString sku)                                      { return sharedDatabase()->supplyBackgroundImage(sku); }
+int          VXIPCSUPPLYDController::supplyRibbonPanels(QString ribbonSku)                                   { return sharedDatabase()->supplyRibbonPanels(ribbonSku); }
+double       VXIPCSUPPLYDController::supplyRibbonWidth(QString ribbonSku)                                    { return sharedDatabase()->supplyRibbonWidth(ribbonSku); }
+double       VXIPCSUPPLYDController::supplyRibbonLength(QString ribbonSku)                                   { return sharedDatabase()->supplyRibbonLength(ribbonSku); }
+QString      VXIPCSUPPLYDController::supplyRibbonColorName(QString ribbonSku, int panel)                     { return sharedDatabase()->supplyRibbonColorName(ribbonSku, panel); }
+int          VXIPCSUPPLYDController::supplyRibbonColorRGB(QString ribbonSku, int panel)                      { return sharedDatabase()->supplyRibbonColorRGB(ribbonSku, panel); }
+int          VXIPCSUPPLYDController::supplyRibbonHeat(QString ribbonSku, int panel, QString supplySku)       { return sharedDatabase()->supplyRibbonHeat(ribbonSku, panel, supplySku); }
+int          VXIPCSUPPLYDController::supplyRibbonHeatOffset(QString ribbonSku, int panel, QString supplySku) { return sharedDatabase()->supplyRibbonHeatOffset(ribbonSku, panel, supplySku); }
+int          VXIPCSUPPLYDController::supplyRibbonMaxSpeed(QString ribbonSku, int panel, QString supplySku)   { return sharedDatabase()->supplyRibbonMaxSpeed(ribbonSku, panel, supplySku); }
+int          VXIPCSUPPLYDController::supplyRibbonTension(QString ribbonSku, int panel, QString supplySku)    { return sharedDatabase()->supplyRibbonTension(ribbonSku, panel, supplySku); }
+QString      VXIPCSUPPLYDController::supplyRibbonType(QString ribbonSku)                                     { return sharedDatabase()->supplyRibbonType(ribbonSku); }
+// clang-format on
 
-QStringList VXIPCSUPPLYDController::supplySKUList()
-{
-    return sharedDatabase()->supplySKUList();
-}
-
-QStringList VXIPCSUPPLYDController::supplyRibbonSKUList()
-{
-    return sharedDatabase()->supplyRibbonSKUList();
-}
-
-QVariantHash VXIPCSUPPLYDController::supplyColorHash()
-{
-    return sharedDatabase()->supplyColorHash();
-}
-
-QVariantHash VXIPCSUPPLYDController::supplyRibbonColorHash()
-{
-    return sharedDatabase()->supplyRibbonColorHash();
-}
-
-int VXIPCSUPPLYDController::supplyIsLandscape(QString sku)
-{
-    return sharedDatabase()->supplyIsLandscape(sku);
-}
-
-QByteArray VXIPCSUPPLYDController::supplyBackgroundImage(QString sku)
-{
-    return sharedDatabase()->supplyBackgroundImage(sku);
-}
-
-int VXIPCSUPPLYDController::supplyRibbonPanels(QString ribbonSku)
-{
-    return sharedDatabase()->supplyRibbonPanels(ribbonSku);
-}
-
-double VXIPCSUPPLYDController::supplyRibbonWidth(QString ribbonSku)
-{
-    return sharedDatabase()->supplyRibbonWidth(ribbonSku);
-}
-
-double VXIPCSUPPLYDController::supplyRibbonLength(QString ribbonSku)
-{
-    return sharedDatabase()->supplyRibbonLength(ribbonSku);
-}
-
-QString VXIPCSUPPLYDController::supplyRibbonColorName(QString ribbonSku, int panel)
-{
-    return sharedDatabase()->supplyRibbonColorName(ribbonSku, panel);
-}
-
-int VXIPCSUPPLYDController::supplyRibbonColorRGB(QString ribbonSku, int panel)
-{
-    return sharedDatabase()->supplyRibbonColorRGB(ribbonSku, panel);
-}
-
-int VXIPCSUPPLYDController::supplyRibbonHeat(QString ribbonSku, int panel, QString supplySku)
-{
-    return sharedDatabase()->supplyRibbonHeat(ribbonSku, panel, supplySku);
-}
-
-int VXIPCSUPPLYDController::supplyRibbonHeatOffset(QString ribbonSku, int panel, QString supplySku)
-{
-    return sharedDatabase()->supplyRibbonHeatOffset(ribbonSku, panel, supplySku);
-}
-
-int VXIPCSUPPLYDController::supplyRibbonMaxSpeed(QString ribbonSku, int panel, QString supplySku)
-{
-    return sharedDatabase()->supplyRibbonMaxSpeed(ribbonSku, panel, supplySku);
-}
-
-int VXIPCSUPPLYDController::supplyRibbonTension(QString ribbonSku, int panel, QString supplySku)
-{
-    return sharedDatabase()->supplyRibbonTension(ribbonSku, panel, supplySku);
-}
-
-QString VXIPCSUPPLYDController::supplyRibbonType(QString ribbonSku)
-{
-    return sharedDatabase()->supplyRibbonType(ribbonSku);
-}
-
-// Answered without any database: the interface's placeholders.
+// Placeholders of the interface, which need no database.
 // clang-format off
 QString VXIPCSUPPLYDController::supplyId()             { return nothingLoaded; }
 QString VXIPCSUPPLYDController::supplySupplyUID()      { return nothingLoaded; }

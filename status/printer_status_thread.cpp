@@ -14,8 +14,8 @@
 namespace {
 
 constexpr DWORD spoolerPollInterval = 5000;      // milliseconds without a notification
-constexpr DWORD everyPrinterChange = 0x7777FFFF; // PRINTER_CHANGE_ALL, that of every kind
-// As texts, because that is how the driver publishes a status and the signal carries it.
+constexpr DWORD everyPrinterChange = 0x7777FFFF; // PRINTER_CHANGE_ALL: every kind of change
+// Texts, because the driver publishes the status as a text, and the signal carries it.
 const QString spoolerDownStatus = QString::number(VXPrinting::StatusCodes::spoolerDown);
 const QString unknownStatus = QString::number(VXPrinting::StatusCodes::unknown);
 
@@ -103,8 +103,9 @@ void PrinterStatusThread::setMonitoredPrinterName(const QString& name)
 
 void PrinterStatusThread::stop()
 {
-    // Whoever takes the event out of the member is the one to signal it. The loop ends, and closes
-    // the event, only after that, so a second call finds nothing and never meets a closed handle.
+    // Only the call that takes the event out of the member signals it. The loop closes the event
+    // only after it was signalled, so a second call finds no event and never signals a closed
+    // handle.
     const HANDLE event = m_stopEvent.exchange(nullptr);
     if (event && !SetEvent(event))
         m_stopEvent.store(event);
@@ -201,9 +202,9 @@ bool PrinterStatusThread::printSpoolerStatusChanged(SC_HANDLE service, unsigned 
     if (state == lastState)
         return false;
 
-    // Closed even where nothing is open, when the service goes from one stopped state to another.
-    // It can also come to be running with the handles still live, when an earlier query failed:
-    // opening the printer afresh would leak them.
+    // The handles are closed even when nothing is open, which is so when the service changes from
+    // one state that is not running to another. When an earlier query failed, the service can also
+    // change to running while the handles are open: opening the printer again would leak them.
     if (state != SERVICE_RUNNING || isWatching(*changeHandle))
         closeWatch(printerHandle, changeHandle);
     if (state == SERVICE_RUNNING)
@@ -231,7 +232,7 @@ void PrinterStatusThread::getLatestPrinterData(bool useGivenHandle, void* printe
                              m_monitoredPrinterName.toLocal8Bit().constData());
     }
 
-    // The order of reading and the order of reporting below differ, and hosts rely on the second.
+    // Hosts rely on the order of the reports below, which differs from the order of reading.
     const QString newSupplyId = getSupplyId(printerHandle);
     const QString newRibbon1Id = getRibbon1Id(printerHandle);
     const QString newRibbon2Id = getRibbon2Id(printerHandle);

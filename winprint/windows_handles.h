@@ -38,7 +38,7 @@ public:
 
     bool isValid() const { return m_handle != Traits::invalid(); }
     Handle get() const { return m_handle; }
-    /// The variable itself, for functions that open or close the handle that it holds.
+    /// The variable that holds the handle, for functions that open or close it through a pointer.
     Handle* address() { return &m_handle; }
     Handle release() { return std::exchange(m_handle, Traits::invalid()); }
     void close()

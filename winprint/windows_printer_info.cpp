@@ -44,7 +44,7 @@ bool isOffline(const PRINTER_INFO_2W& info)
            (info.Status & PRINTER_STATUS_OFFLINE);
 }
 
-/// What is asked once for a whole enumeration.
+/// What is read or opened once for a whole enumeration.
 struct Lookups
 {
     DeviceSerialNumbers serialNumbers;
@@ -59,8 +59,8 @@ struct Lookups
     }
 };
 
-/// Everything of a record that follows from the port and the flags; `portName` holds the spooler's
-/// name of the port.
+/// Fills everything of a record that depends on the port and the flags. `portName` must hold the
+/// port's name in the spooler.
 void fillFromPortAndFlags(AvailablePrinters& printer, const PRINTER_INFO_2W& info, Lookups& lookups)
 {
     printer.portName.remove(QLatin1String("USB"));
