@@ -369,7 +369,7 @@ Fleet readFleet(const QString& fileName)
         fail(QStringLiteral("expected a file, found a folder"));
     if (!file.open(QIODevice::ReadOnly))
         fail(file.errorString());
-    constexpr qint64 mebibyte = 1024 * 1024;
+    constexpr qint64 mebibyte = 1024LL * 1024;
     constexpr qint64 maxSize = 16 * mebibyte;
     // Devices and pipes have no size, so the bytes are counted as they are read.
     QByteArray text;
