@@ -50,7 +50,7 @@ PrinterWindow::PrinterWindow(QWidget* parent)
     connect(&m_printers, &Controller::activeDefaultPrinterSetSignal, this,
             &PrinterWindow::showPrinters);
     connect(&m_printers, &Controller::printerErrorChangedSignal, &m_warning, &QLabel::setVisible);
-    // A printer that is found is told of when it first reports, and some never do.
+    // A new printer causes no signal before its first report, and some never report.
     connect(search, &QPushButton::clicked, this, [this] {
         m_printers.checkForPrinters();
         showPrinters();

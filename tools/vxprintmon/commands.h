@@ -24,16 +24,16 @@ Q_DECLARE_FLAGS(CommandOptions, CommandOption)
 struct Command
 {
     const char* name;
-    const char* arguments; ///< as the help shows them
-    const char* summary;   ///< for the help
-    const char* expected;  ///< the arguments as error messages describe them
-    qsizetype fewestArguments;
-    qsizetype mostArguments;
-    CommandOptions options;
-    /// Throws `Failure` if an argument is wrong. Null: every text is accepted.
-    void (*check)(const QStringList& arguments);
+    const char* summary; ///< for the help
     /// Throws `Failure` if the command cannot be carried out.
     void (*run)(const CommandLine& line, Output& output, Backend& backend);
+    const char* arguments = "";            ///< as the help shows them
+    const char* expected = "no arguments"; ///< the arguments as error messages describe them
+    qsizetype fewestArguments = 0;
+    qsizetype mostArguments = 0;
+    CommandOptions options{};
+    /// Throws `Failure` if an argument is wrong. Null: every text is accepted.
+    void (*check)(const QStringList& arguments) = nullptr;
 };
 
 std::span<const Command> commands();
