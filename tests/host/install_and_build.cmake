@@ -25,7 +25,7 @@ foreach(example IN LISTS EXAMPLES)
     run("building ${name}" "${CMAKE_COMMAND}" --build "${SCRATCH}/${name}")
 endforeach()
 
-# If the CuteLogger that the package was built with has gone, the package says what to set.
+# If the CuteLogger that the package was built with is missing, configuring fails and says what to set.
 if(LOGGER)
     file(GLOB_RECURSE config "${SCRATCH}/installed/*/VxPrinterStatusConfig.cmake")
     file(READ "${config}" text)

@@ -44,29 +44,8 @@ constexpr std::array titles{
 };
 
 /// Codes that the status-messages library has a title for, and codes that it does not list.
-constexpr std::array faultCodes{2,
-                                3,
-                                4,
-                                5,
-                                6,
-                                7,
-                                8,
-                                9,
-                                10,
-                                11,
-                                12,
-                                13,
-                                14,
-                                15,
-                                16,
-                                17,
-                                18,
-                                19,
-                                20,
-                                21,
-                                22,
-                                23,
-                                StatusCodes::spoolerDown};
+constexpr std::array faultCodes{2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13,
+                                14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 254};
 constexpr std::array unlistedCodes{259, -5, 4711};
 
 const QStringList languages = QStringLiteral(VX_LANGUAGES).split(QLatin1Char(' '));

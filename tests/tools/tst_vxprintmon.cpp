@@ -154,7 +154,7 @@ private:
             return {};
         return resultOf(process);
     }
-    /// Runs the monitor until it has printed a text, then asks it to end.
+    /// Runs the monitor until it has printed a text, then terminates it.
     Result runUntil(const QByteArray& last, const QStringList& arguments)
     {
         QProcess process;

@@ -32,7 +32,7 @@ public:
         QString datatype;
         QList<QByteArray> pages;
     };
-    /// The printer's last print job, if there is one and this backend can look at it.
+    /// The printer's last print job, if there is one and this backend can read it.
     virtual std::optional<Job> lastJob(const QString& printer) const = 0;
 
 Q_SIGNALS:

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Windows notifies only programs with a window of new devices, so this looks for printers itself.
+/// Windows notifies only programs with a window of new devices, so this backend polls for printers.
 class SystemBackend : public Backend
 {
 public:

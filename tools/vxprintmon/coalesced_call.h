@@ -16,7 +16,7 @@ public:
         : m_function(std::move(function))
     {}
 
-    /// Has the call made after all events that are queued by now.
+    /// Schedules the call for after all events that are queued by now.
     void schedule()
     {
         if (!std::exchange(m_isScheduled, true))

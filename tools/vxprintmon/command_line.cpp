@@ -18,7 +18,7 @@ namespace {
 struct Option
 {
     const char* name;
-    const char* value; ///< what stands for its value in the help; empty if it takes none
+    const char* value; ///< the placeholder in the help; empty if the option takes no value
     const char* summary;
     CommandOptions required{}; ///< what a command must accept for this option to be valid with it
 };

@@ -13,7 +13,7 @@ struct CommandLine
 {
     const Command* command = nullptr; ///< null if the user only asked for `information`
     QString information;              ///< the help or the version, printed instead of a command
-    QStringList arguments;            ///< of the command, as many as it takes
+    QStringList arguments;            ///< of the command; their number is right
     bool json = false;
     QString logFile;               ///< the library's log is appended to it; empty: no log
     QString fleetFile;             ///< empty: the built-in fleet, or the system's own printers

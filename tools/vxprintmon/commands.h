@@ -19,8 +19,8 @@ enum class CommandOption
 };
 Q_DECLARE_FLAGS(CommandOptions, CommandOption)
 
-/// A command of the monitor. The table of commands is what the command line is checked against and
-/// what the help is made from, so a new command needs an entry there and nothing else.
+/// A command of the monitor. The command line is checked against the table of commands and the help
+/// is built from it, so adding a command takes an entry there and a function.
 struct Command
 {
     const char* name;
