@@ -26,8 +26,8 @@ Options:
   --help                 print this help
   --                     what follows is not an option
 
-Exit status: 0 success, 1 failure, 2 wrong usage. It is a failure if the output
-cannot be written, but not if its reader closes the pipe.
+Exit status: 0 success, 1 failure, 2 wrong usage. Failing to write the output
+is a failure, unless the reader has closed the pipe.
 )";
 
 void run(StandardOutput& output)

@@ -57,8 +57,8 @@ has virtual printers only, by default a fleet of six.
 Colours are omitted if the output is not a terminal or NO_COLOR is set.
 Characters that could control the terminal are shown as \u001b and the like.
 
-Exit status: 0 success, 1 failure, 2 wrong usage. It is a failure if the output
-cannot be written, but not if its reader closes the pipe.
+Exit status: 0 success, 1 failure, 2 wrong usage. Failing to write the output
+is a failure, unless the reader has closed the pipe.
 )";
 
 QString helpRow(const QString& left, const char* summary)
