@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Records the log line that the library writes when it cannot send a command. It reports this
+/// Records the line that the library logs when it cannot send a command, which it reports
 /// nowhere else.
 class CommandLog : public AbstractAppender
 {
