@@ -72,7 +72,8 @@ namespace registry {
 
 QStringList childGroups(const QString& path)
 {
-    if (machine().begin(Function::RegistryKey, [&] { return QStringList{path}; }))
+    const ApiCall call(Function::RegistryKey, path);
+    if (call.isPlannedToFail())
         return {};
     bool startsAtRoot = false;
     const QStringList names = namesBelowRoot(path, startsAtRoot);
@@ -105,7 +106,8 @@ QStringList childGroups(const QString& path)
 
 QVariant value(const QString& path, const QString& valueName)
 {
-    if (machine().begin(Function::RegistryKey, [&] { return QStringList{path, valueName}; }))
+    const ApiCall call(Function::RegistryKey, path, valueName);
+    if (call.isPlannedToFail())
         return {};
     bool startsAtRoot = false;
     const QStringList names = namesBelowRoot(path, startsAtRoot);

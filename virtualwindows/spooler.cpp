@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -44,9 +45,9 @@ Value Value::fromWide(DWORD type, const QByteArray& data)
     return {type, wideText.toLocal8Bit(), data};
 }
 
-std::shared_ptr<PrinterHandleObject> livePrinterHandle(HANDLE handle, Function function)
+std::shared_ptr<PrinterHandleObject> livePrinterHandle(HANDLE handle, const ApiCall& call)
 {
-    auto object = machine().find<PrinterHandleObject>(handle, Object::Kind::Printer, function);
+    auto object = machine().find<PrinterHandleObject>(handle, Object::Kind::Printer, call);
     if (!object)
         return {};
     if (object->dead) {
@@ -60,10 +61,10 @@ std::shared_ptr<PrinterHandleObject> livePrinterHandle(HANDLE handle, Function f
     return object;
 }
 
-std::shared_ptr<PrinterHandleObject> handleOfPrinter(HANDLE handle, Function function,
+std::shared_ptr<PrinterHandleObject> handleOfPrinter(HANDLE handle, const ApiCall& call,
                                                      ACCESS_MASK access)
 {
-    auto object = livePrinterHandle(handle, function);
+    auto object = livePrinterHandle(handle, call);
     if (!object)
         return {};
     if (!object->printer) {
@@ -83,20 +84,47 @@ namespace {
 
 constexpr ACCESS_MASK rightsOfAdministrators = PRINTER_ACCESS_ADMINISTER | DELETE | 0x000C0000U;
 
-BOOL openPrinter(Function function, bool hasName, const QString& name, LPHANDLE result,
+/// Names as a caller gives them: none for a null pointer, which is not the same as an empty one.
+std::optional<QString> nameFrom(LPCWSTR name)
+{
+    return name ? std::optional(QString::fromUtf16(name)) : std::nullopt;
+}
+std::optional<QString> nameFrom(LPCSTR name)
+{
+    return name ? std::optional(QString::fromLocal8Bit(name)) : std::nullopt;
+}
+std::optional<QByteArray> valueNameFrom(LPCWSTR name)
+{
+    return name ? std::optional(QString::fromUtf16(name).toLocal8Bit().toLower()) : std::nullopt;
+}
+std::optional<QByteArray> valueNameFrom(LPCSTR name)
+{
+    return name ? std::optional(QByteArray(name).toLower()) : std::nullopt;
+}
+
+/// The access that a caller asks for.
+template <typename Defaults>
+ACCESS_MASK accessOf(const Defaults* defaults)
+{
+    return defaults ? defaults->DesiredAccess : 0;
+}
+
+BOOL openPrinter(const ApiCall& call, const std::optional<QString>& name, LPHANDLE result,
                  ACCESS_MASK access)
 {
+    if (call.failsAsPlanned())
+        return FALSE;
     if (!result)
         return failWith(ERROR_INVALID_PARAMETER, FALSE);
-    auto object = std::make_shared<PrinterHandleObject>(function);
+    auto object = std::make_shared<PrinterHandleObject>(call.function());
     object->access = access ? access : PRINTER_ACCESS_USE;
 
     const std::lock_guard guard(machine().lock);
     if (!machine().isSpoolerRunning())
         return failWith(RPC_S_SERVER_UNAVAILABLE, FALSE);
-    // Without a name it is the print server; an empty name is nobody's.
-    if (hasName) {
-        object->printer = machine().printerNamed(name);
+    // Without a name it is the print server; no printer has an empty name.
+    if (name) {
+        object->printer = machine().printerNamed(*name);
         if (!object->printer)
             return failWith(ERROR_INVALID_PRINTER_NAME, FALSE);
         if (!object->printer->setup.administrable && (access & rightsOfAdministrators))
@@ -114,50 +142,70 @@ DWORD answer(DWORD error)
     return error;
 }
 
-/// `name` is in lower case.
-DWORD getPrinterData(Function function, HANDLE handle, bool hasName, const QByteArray& name,
-                     QByteArray Value::*form, LPDWORD type, LPBYTE data, DWORD size, LPDWORD needed)
+/// Where GetPrinterDataA and GetPrinterDataW write a value.
+struct ValueBuffer
 {
+    LPDWORD type;
+    LPBYTE data;
+    DWORD size;
+    LPDWORD needed;
+};
+
+DWORD getPrinterData(const ApiCall& call, HANDLE handle, const std::optional<QByteArray>& name,
+                     QByteArray Value::*form, const ValueBuffer& buffer)
+{
+    if (call.failsAsPlanned())
+        return GetLastError();
     const std::lock_guard guard(machine().lock);
-    const auto object = livePrinterHandle(handle, function);
+    const auto object = livePrinterHandle(handle, call);
     if (!object)
         return GetLastError();
     if (!object->printer)
         return answer(ERROR_INVALID_HANDLE);
-    if (!needed)
+    if (!buffer.needed)
         return answer(RPC_X_NULL_REF_POINTER);
-    if (!hasName || (size && !data))
+    if (!name || (buffer.size && !buffer.data))
         return answer(ERROR_INVALID_PARAMETER);
 
-    const auto found = object->printer->values.constFind(name);
+    const auto found = object->printer->values.constFind(*name);
     if (found == object->printer->values.constEnd()) {
-        *needed = 0;
+        *buffer.needed = 0;
         return answer(ERROR_FILE_NOT_FOUND);
     }
     const QByteArray& bytes = (*found).*form;
-    if (type)
-        *type = found->type;
-    *needed = static_cast<DWORD>(bytes.size());
-    if (size < *needed)
+    if (buffer.type)
+        *buffer.type = found->type;
+    *buffer.needed = static_cast<DWORD>(bytes.size());
+    if (buffer.size < *buffer.needed)
         return answer(ERROR_MORE_DATA);
     if (!bytes.isEmpty())
-        std::memcpy(data, bytes.constData(), static_cast<std::size_t>(bytes.size()));
+        std::memcpy(buffer.data, bytes.constData(), static_cast<std::size_t>(bytes.size()));
     return ERROR_SUCCESS;
 }
 
-DWORD setPrinterData(Function function, HANDLE handle, bool hasName, const QByteArray& name,
-                     LPBYTE data, DWORD size, Value (*convert)(DWORD, const QByteArray&),
-                     DWORD type)
+/// A value as SetPrinterDataA and SetPrinterDataW are given it.
+struct GivenValue
 {
+    DWORD type;
+    LPBYTE data;
+    DWORD size;
+};
+
+DWORD setPrinterData(const ApiCall& call, HANDLE handle, const std::optional<QByteArray>& name,
+                     Value (*convert)(DWORD, const QByteArray&), const GivenValue& value)
+{
+    if (call.failsAsPlanned())
+        return GetLastError();
     const std::lock_guard guard(machine().lock);
-    const auto object = handleOfPrinter(handle, function, PRINTER_ACCESS_ADMINISTER);
+    const auto object = handleOfPrinter(handle, call, PRINTER_ACCESS_ADMINISTER);
     if (!object)
         return GetLastError();
-    if (!hasName || (size && !data))
+    if (!name || (value.size && !value.data))
         return answer(ERROR_INVALID_PARAMETER);
 
-    const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    object->printer->values.insert(name.toLower(), convert(type, bytes));
+    const QByteArray bytes(reinterpret_cast<const char*>(value.data),
+                           static_cast<qsizetype>(value.size));
+    object->printer->values.insert(*name, convert(value.type, bytes));
     machine().notify(object->printer.get(), PRINTER_CHANGE_SET_PRINTER);
     return ERROR_SUCCESS;
 }
@@ -397,43 +445,31 @@ BOOL changePrinter(Printer& printer, const PRINTER_INFO_2W& info)
 
 BOOL WINAPI OpenPrinterA(LPSTR pPrinterName, LPHANDLE phPrinter, LPPRINTER_DEFAULTSA pDefault)
 {
-    const ACCESS_MASK access = pDefault ? pDefault->DesiredAccess : 0;
-    const DWORD planned = machine().begin(Function::OpenPrinterA, [&] {
-        return QStringList{text(LPCSTR(pPrinterName)), text(DWORD(access))};
-    });
-    if (planned)
-        return failWith(planned, FALSE);
-    return openPrinter(Function::OpenPrinterA, pPrinterName != nullptr,
-                       QString::fromLocal8Bit(pPrinterName), phPrinter, access);
+    const ACCESS_MASK access = accessOf(pDefault);
+    const ApiCall call(Function::OpenPrinterA, pPrinterName, access);
+    return openPrinter(call, nameFrom(pPrinterName), phPrinter, access);
 }
 
 BOOL WINAPI OpenPrinterW(LPWSTR pPrinterName, LPHANDLE phPrinter, LPPRINTER_DEFAULTSW pDefault)
 {
-    const ACCESS_MASK access = pDefault ? pDefault->DesiredAccess : 0;
-    const DWORD planned = machine().begin(Function::OpenPrinterW, [&] {
-        return QStringList{text(LPCWSTR(pPrinterName)), text(DWORD(access))};
-    });
-    if (planned)
-        return failWith(planned, FALSE);
-    return openPrinter(Function::OpenPrinterW, pPrinterName != nullptr, fromWide(pPrinterName),
-                       phPrinter, access);
+    const ACCESS_MASK access = accessOf(pDefault);
+    const ApiCall call(Function::OpenPrinterW, pPrinterName, access);
+    return openPrinter(call, nameFrom(pPrinterName), phPrinter, access);
 }
 
 BOOL WINAPI ClosePrinter(HANDLE hPrinter)
 {
-    const DWORD planned =
-        machine().begin(Function::ClosePrinter, [&] { return QStringList{text(hPrinter)}; });
+    const ApiCall call(Function::ClosePrinter, hPrinter);
     const std::lock_guard guard(machine().lock);
-    const auto object = std::static_pointer_cast<PrinterHandleObject>(
-        machine().close(hPrinter, Object::Kind::Printer, Function::ClosePrinter));
+    const auto object = machine().close<PrinterHandleObject>(hPrinter, Object::Kind::Printer, call);
     if (!object)
         return FALSE;
     for (const auto& entry : object->notifications) {
         if (const std::shared_ptr<ChangeNotification> notification = entry.lock())
             notification->dead = true;
     }
-    if (planned)
-        return failWith(planned, FALSE);
+    if (call.failsAsPlanned())
+        return FALSE;
     if (object->dead)
         return failWith(machine().errorOfDeadHandles(), FALSE);
     endDocument(*object);
@@ -443,65 +479,44 @@ BOOL WINAPI ClosePrinter(HANDLE hPrinter)
 DWORD WINAPI GetPrinterDataA(HANDLE hPrinter, LPSTR pValueName, LPDWORD pType, LPBYTE pData,
                              DWORD nSize, LPDWORD pcbNeeded)
 {
-    const DWORD planned = machine().begin(Function::GetPrinterDataA, [&] {
-        return QStringList{text(hPrinter), text(LPCSTR(pValueName)), text(nSize)};
-    });
-    if (planned)
-        return answer(planned);
-    return getPrinterData(Function::GetPrinterDataA, hPrinter, pValueName != nullptr,
-                          QByteArray(pValueName).toLower(), &Value::narrow, pType, pData, nSize,
-                          pcbNeeded);
+    const ApiCall call(Function::GetPrinterDataA, hPrinter, pValueName, nSize);
+    return getPrinterData(call, hPrinter, valueNameFrom(pValueName), &Value::narrow,
+                          {pType, pData, nSize, pcbNeeded});
 }
 
 DWORD WINAPI GetPrinterDataW(HANDLE hPrinter, LPWSTR pValueName, LPDWORD pType, LPBYTE pData,
                              DWORD nSize, LPDWORD pcbNeeded)
 {
-    const DWORD planned = machine().begin(Function::GetPrinterDataW, [&] {
-        return QStringList{text(hPrinter), text(LPCWSTR(pValueName)), text(nSize)};
-    });
-    if (planned)
-        return answer(planned);
-    return getPrinterData(Function::GetPrinterDataW, hPrinter, pValueName != nullptr,
-                          fromWide(pValueName).toLocal8Bit().toLower(), &Value::wide, pType, pData,
-                          nSize, pcbNeeded);
+    const ApiCall call(Function::GetPrinterDataW, hPrinter, pValueName, nSize);
+    return getPrinterData(call, hPrinter, valueNameFrom(pValueName), &Value::wide,
+                          {pType, pData, nSize, pcbNeeded});
 }
 
 DWORD WINAPI SetPrinterDataA(HANDLE hPrinter, LPSTR pValueName, DWORD Type, LPBYTE pData,
                              DWORD cbData)
 {
-    const DWORD planned = machine().begin(Function::SetPrinterDataA, [&] {
-        return QStringList{text(hPrinter), text(LPCSTR(pValueName)), text(Type), text(cbData)};
-    });
-    if (planned)
-        return answer(planned);
-    return setPrinterData(Function::SetPrinterDataA, hPrinter, pValueName != nullptr,
-                          QByteArray(pValueName), pData, cbData, &Value::fromNarrow, Type);
+    const ApiCall call(Function::SetPrinterDataA, hPrinter, pValueName, Type, cbData);
+    return setPrinterData(call, hPrinter, valueNameFrom(pValueName), &Value::fromNarrow,
+                          {Type, pData, cbData});
 }
 
 DWORD WINAPI SetPrinterDataW(HANDLE hPrinter, LPWSTR pValueName, DWORD Type, LPBYTE pData,
                              DWORD cbData)
 {
-    const DWORD planned = machine().begin(Function::SetPrinterDataW, [&] {
-        return QStringList{text(hPrinter), text(LPCWSTR(pValueName)), text(Type), text(cbData)};
-    });
-    if (planned)
-        return answer(planned);
-    return setPrinterData(Function::SetPrinterDataW, hPrinter, pValueName != nullptr,
-                          fromWide(pValueName).toLocal8Bit(), pData, cbData, &Value::fromWide,
-                          Type);
+    const ApiCall call(Function::SetPrinterDataW, hPrinter, pValueName, Type, cbData);
+    return setPrinterData(call, hPrinter, valueNameFrom(pValueName), &Value::fromWide,
+                          {Type, pData, cbData});
 }
 
 BOOL WINAPI GetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD cbBuf,
                         LPDWORD pcbNeeded)
 {
-    const DWORD planned = machine().begin(Function::GetPrinterW, [&] {
-        return QStringList{text(hPrinter), text(Level), text(cbBuf)};
-    });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::GetPrinterW, hPrinter, Level, cbBuf);
+    if (call.failsAsPlanned())
+        return FALSE;
 
     const std::lock_guard guard(machine().lock);
-    const auto object = handleOfPrinter(hPrinter, Function::GetPrinterW, 0);
+    const auto object = handleOfPrinter(hPrinter, call, 0);
     if (!object)
         return FALSE;
     if (!pcbNeeded)
@@ -517,14 +532,12 @@ BOOL WINAPI GetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD cbB
 
 BOOL WINAPI SetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD Command)
 {
-    const DWORD planned = machine().begin(Function::SetPrinterW, [&] {
-        return QStringList{text(hPrinter), text(Level), text(Command)};
-    });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::SetPrinterW, hPrinter, Level, Command);
+    if (call.failsAsPlanned())
+        return FALSE;
 
     const std::lock_guard guard(machine().lock);
-    const auto object = handleOfPrinter(hPrinter, Function::SetPrinterW, PRINTER_ACCESS_ADMINISTER);
+    const auto object = handleOfPrinter(hPrinter, call, PRINTER_ACCESS_ADMINISTER);
     if (!object)
         return FALSE;
     BOOL done = FALSE;
@@ -542,13 +555,11 @@ BOOL WINAPI SetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD Com
 BOOL WINAPI EnumPrintersW(DWORD Flags, LPWSTR Name, DWORD Level, LPBYTE pPrinterEnum, DWORD cbBuf,
                           LPDWORD pcbNeeded, LPDWORD pcReturned)
 {
-    const DWORD planned = machine().begin(Function::EnumPrintersW, [&] {
-        return QStringList{text(Flags), text(LPCWSTR(Name)), text(Level), text(cbBuf)};
-    });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::EnumPrintersW, Flags, Name, Level, cbBuf);
+    if (call.failsAsPlanned())
+        return FALSE;
 
-    // The level is looked at before the spooler is asked, and before anything is written.
+    // The level is checked before the spooler is called and before anything is written.
     const RecordLevel* const level = findLevel(Level);
     if (!level || !level->isListed)
         return failWith(ERROR_INVALID_LEVEL, FALSE);
@@ -590,11 +601,9 @@ BOOL WINAPI EnumPrintersW(DWORD Flags, LPWSTR Name, DWORD Level, LPBYTE pPrinter
 
 BOOL WINAPI GetDefaultPrinterW(LPWSTR pszBuffer, LPDWORD pcchBuffer)
 {
-    const DWORD planned = machine().begin(Function::GetDefaultPrinterW, [&] {
-        return QStringList{pcchBuffer ? text(*pcchBuffer) : QStringLiteral("null")};
-    });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::GetDefaultPrinterW, pcchBuffer);
+    if (call.failsAsPlanned())
+        return FALSE;
 
     // The choice is kept with the user's settings; the spooler is not asked for it.
     if (!pcchBuffer)
@@ -615,10 +624,9 @@ BOOL WINAPI GetDefaultPrinterW(LPWSTR pszBuffer, LPDWORD pcchBuffer)
 
 BOOL WINAPI SetDefaultPrinterW(LPCWSTR pszPrinter)
 {
-    const DWORD planned = machine().begin(Function::SetDefaultPrinterW,
-                                          [&] { return QStringList{text(pszPrinter)}; });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::SetDefaultPrinterW, pszPrinter);
+    if (call.failsAsPlanned())
+        return FALSE;
 
     const std::lock_guard guard(machine().lock);
     if (!machine().isSpoolerRunning())
@@ -641,11 +649,9 @@ BOOL WINAPI SetDefaultPrinterW(LPCWSTR pszPrinter)
 
 HANDLE WINAPI AddPrinterW(LPWSTR pName, DWORD Level, LPBYTE pPrinter)
 {
-    const DWORD planned = machine().begin(Function::AddPrinterW, [&] {
-        return QStringList{text(LPCWSTR(pName)), text(Level)};
-    });
-    if (planned)
-        return failWith<HANDLE>(planned, nullptr);
+    const ApiCall call(Function::AddPrinterW, pName, Level);
+    if (call.failsAsPlanned())
+        return nullptr;
 
     const std::lock_guard guard(machine().lock);
     if (!machine().isSpoolerRunning())
@@ -677,7 +683,7 @@ HANDLE WINAPI AddPrinterW(LPWSTR pName, DWORD Level, LPBYTE pPrinter)
     machine().add(printer);
     machine().notify(printer.get(), PRINTER_CHANGE_ADD_PRINTER);
 
-    auto object = std::make_shared<PrinterHandleObject>(Function::AddPrinterW);
+    auto object = std::make_shared<PrinterHandleObject>(call.function());
     object->printer = printer;
     object->access = PRINTER_ALL_ACCESS;
     return machine().open(object);
@@ -685,14 +691,12 @@ HANDLE WINAPI AddPrinterW(LPWSTR pName, DWORD Level, LPBYTE pPrinter)
 
 BOOL WINAPI DeletePrinter(HANDLE hPrinter)
 {
-    const DWORD planned =
-        machine().begin(Function::DeletePrinter, [&] { return QStringList{text(hPrinter)}; });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::DeletePrinter, hPrinter);
+    if (call.failsAsPlanned())
+        return FALSE;
 
     const std::lock_guard guard(machine().lock);
-    const auto object =
-        handleOfPrinter(hPrinter, Function::DeletePrinter, PRINTER_ACCESS_ADMINISTER);
+    const auto object = handleOfPrinter(hPrinter, call, PRINTER_ACCESS_ADMINISTER);
     if (!object)
         return FALSE;
     Printer& printer = *object->printer;
@@ -705,15 +709,13 @@ BOOL WINAPI DeletePrinter(HANDLE hPrinter)
 HANDLE WINAPI FindFirstPrinterChangeNotification(HANDLE hPrinter, DWORD fdwFilter, DWORD fdwOptions,
                                                  LPVOID pPrinterNotifyOptions)
 {
-    const DWORD planned = machine().begin(Function::FindFirstPrinterChangeNotification, [&] {
-        return QStringList{text(hPrinter), text(fdwFilter), text(fdwOptions),
-                           text(HANDLE(pPrinterNotifyOptions))};
-    });
-    if (planned)
-        return failWith(planned, INVALID_HANDLE_VALUE);
+    const ApiCall call(Function::FindFirstPrinterChangeNotification, hPrinter, fdwFilter,
+                       fdwOptions, pPrinterNotifyOptions);
+    if (call.failsAsPlanned())
+        return INVALID_HANDLE_VALUE;
 
     const std::lock_guard guard(machine().lock);
-    const auto object = livePrinterHandle(hPrinter, Function::FindFirstPrinterChangeNotification);
+    const auto object = livePrinterHandle(hPrinter, call);
     if (!object)
         return INVALID_HANDLE_VALUE;
     // Changes told in detail (the options) are not offered here, so the filter has to ask for some.
@@ -733,16 +735,14 @@ BOOL WINAPI FindNextPrinterChangeNotification(HANDLE hChange, LPDWORD pdwChange,
                                               LPVOID pPrinterNotifyOptions,
                                               LPVOID* ppPrinterNotifyInfo)
 {
-    const DWORD planned = machine().begin(Function::FindNextPrinterChangeNotification, [&] {
-        return QStringList{text(hChange), text(HANDLE(pPrinterNotifyOptions)),
-                           text(HANDLE(ppPrinterNotifyInfo))};
-    });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::FindNextPrinterChangeNotification, hChange, pPrinterNotifyOptions,
+                       HANDLE(ppPrinterNotifyInfo));
+    if (call.failsAsPlanned())
+        return FALSE;
 
     const std::lock_guard guard(machine().lock);
-    const auto notification = machine().find<ChangeNotification>(
-        hChange, Object::Kind::ChangeNotification, Function::FindNextPrinterChangeNotification);
+    const auto notification =
+        machine().find<ChangeNotification>(hChange, Object::Kind::ChangeNotification, call);
     if (!notification)
         return FALSE;
     if (notification->dead)
@@ -758,15 +758,12 @@ BOOL WINAPI FindNextPrinterChangeNotification(HANDLE hChange, LPDWORD pdwChange,
 
 BOOL WINAPI FindClosePrinterChangeNotification(HANDLE hChange)
 {
-    const DWORD planned = machine().begin(Function::FindClosePrinterChangeNotification,
-                                          [&] { return QStringList{text(hChange)}; });
+    const ApiCall call(Function::FindClosePrinterChangeNotification, hChange);
     const std::lock_guard guard(machine().lock);
-    const auto object = std::static_pointer_cast<ChangeNotification>(machine().close(
-        hChange, Object::Kind::ChangeNotification, Function::FindClosePrinterChangeNotification));
-    if (!object)
+    const auto object =
+        machine().close<ChangeNotification>(hChange, Object::Kind::ChangeNotification, call);
+    if (!object || call.failsAsPlanned())
         return FALSE;
-    if (planned)
-        return failWith(planned, FALSE);
     if (object->dead)
         return failWith(machine().errorOfDeadHandles(), FALSE);
     return TRUE;
