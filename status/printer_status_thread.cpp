@@ -15,9 +15,6 @@ namespace {
 
 constexpr DWORD spoolerPollInterval = 5000;      // milliseconds without a notification
 constexpr DWORD everyPrinterChange = 0x7777FFFF; // PRINTER_CHANGE_ALL: every kind of change
-// Texts, because the driver publishes the status as a text, and the signal carries it.
-const QString spoolerDownStatus = QString::number(VXPrinting::StatusCodes::spoolerDown);
-const QString unknownStatus = QString::number(VXPrinting::StatusCodes::unknown);
 
 /// Whether a variable holds a change notification. The printer is open for watching when it does,
 /// and only then: a printer whose notification failed is closed at once.
@@ -273,6 +270,10 @@ void PrinterStatusThread::getLatestPrinterData(bool useGivenHandle, void* printe
 
 void PrinterStatusThread::run()
 {
+    // Texts, because the driver publishes the status as a text, and the signal carries it.
+    const QString spoolerDownStatus = QString::number(VXPrinting::StatusCodes::spoolerDown);
+    const QString unknownStatus = QString::number(VXPrinting::StatusCodes::unknown);
+
     LoopHandles handles;
     LastSeen seen;
     const auto readValues = [&](bool useGivenHandle) {
