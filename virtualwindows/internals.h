@@ -174,8 +174,8 @@ struct Machine::Private
 
     // Calls.
     std::array<std::atomic<int>, functionNames.size()> counts{};
-    std::atomic<bool> attention =
-        false; ///< calls are recorded, a hook is set or a failure is planned
+    /// Calls are recorded, a hook is set or a failure is planned.
+    std::atomic<bool> attention = false;
     bool recording = false;
     QList<Call> calls;
     std::function<void(const Call&)> hook;
