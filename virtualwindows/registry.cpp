@@ -8,8 +8,7 @@ namespace virtualwindows {
 
 namespace {
 
-constexpr QLatin1String
-    rootKey("HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control\\DeviceClasses");
+constexpr QLatin1String rootKey(R"(HKEY_LOCAL_MACHINE\SYSTEM\ControlSet001\Control\DeviceClasses)");
 constexpr QStringView instanceKey(u"#");
 constexpr QStringView parametersKey(u"Device Parameters");
 
