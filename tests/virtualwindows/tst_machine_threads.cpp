@@ -90,6 +90,7 @@ void MachineThreadsTest::everySettingOfAnAutoEventIsTakenOnce()
     int given = 0;
     {
         std::vector<std::jthread> takers;
+        takers.reserve(threads);
         for (int count = 0; count < threads; ++count) {
             takers.emplace_back([&] {
                 const HANDLE handles[] = {ticket, stop};
@@ -228,6 +229,7 @@ void MachineThreadsTest::everyWatcherSeesTheLastValue()
     std::atomic<int> finished = 0;
     {
         std::vector<std::jthread> watching;
+        watching.reserve(watchers);
         for (int count = 0; count < watchers; ++count) {
             watching.emplace_back([&] {
                 const HANDLE printer = openHandle();
@@ -247,6 +249,7 @@ void MachineThreadsTest::everyWatcherSeesTheLastValue()
         QVERIFY(machine().waitForWaitingThreads(watchers));
         {
             std::vector<std::jthread> publishing;
+            publishing.reserve(publishers);
             for (int count = 0; count < publishers; ++count) {
                 publishing.emplace_back([this] {
                     for (quint32 value = 0; value < 500; ++value)
@@ -268,6 +271,7 @@ void MachineThreadsTest::drivenTimeEndsEveryWait()
     std::atomic<int> timeOuts = 0;
     {
         std::vector<std::jthread> waiters;
+        waiters.reserve(threads);
         for (int count = 0; count < threads; ++count) {
             waiters.emplace_back([&] {
                 for (int round = 0; round < rounds; ++round) {
@@ -336,6 +340,7 @@ void MachineThreadsTest::allThreadsCanOpenAndCloseHandles()
     std::atomic<int> wrong = 0;
     {
         std::vector<std::jthread> workers;
+        workers.reserve(threads);
         for (int count = 0; count < threads; ++count) {
             workers.emplace_back([&] {
                 for (int round = 0; round < rounds; ++round) {
@@ -360,6 +365,7 @@ void MachineThreadsTest::callsOfAllThreadsAreRecorded()
     machine().recordCalls();
     {
         std::vector<std::jthread> workers;
+        workers.reserve(threads);
         for (int count = 0; count < threads; ++count) {
             workers.emplace_back([] {
                 for (int round = 0; round < rounds; ++round)
@@ -386,6 +392,7 @@ void MachineThreadsTest::plannedFailureHitsOneThread()
     std::atomic<int> failures = 0;
     {
         std::vector<std::jthread> workers;
+        workers.reserve(threads);
         for (int count = 0; count < threads; ++count) {
             workers.emplace_back([&] {
                 for (int round = 0; round < rounds; ++round) {
@@ -408,6 +415,7 @@ void MachineThreadsTest::serviceCanBeStoppedUnderWatchers()
     std::atomic<int> opened = 0;
     {
         std::vector<std::jthread> watchers;
+        watchers.reserve(threads);
         for (int count = 0; count < threads; ++count) {
             watchers.emplace_back([&] {
                 while (!stop) {
