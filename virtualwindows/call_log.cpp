@@ -84,7 +84,7 @@ void Machine::recordCalls(bool record)
 QList<Call> Machine::calls() const
 {
     const std::lock_guard guard(d->lock);
-    // A list of its own: sharing one with threads that go on appending to it is a data race.
+    // A deep copy: sharing the list with threads that append to it would be a data race.
     return {d->calls.cbegin(), d->calls.cend()};
 }
 

@@ -26,7 +26,7 @@ namespace virtualwindows {
 class ApiCall;
 struct Printer;
 
-/// What a handle stands for.
+/// The object behind a handle.
 struct Object
 {
     enum class Kind
@@ -68,7 +68,7 @@ struct Event final : Waitable
     {}
 };
 
-/// A change notification: signalled from the first change that it is asked to tell until it is
+/// A change notification. It is signalled from the first change that matches its filter until it is
 /// re-armed. Changes in between are collected, so none is lost between the wake-up and the
 /// re-arming.
 struct ChangeNotification final : Waitable
@@ -77,23 +77,23 @@ struct ChangeNotification final : Waitable
         : Waitable(Kind::ChangeNotification, Function::FindFirstPrinterChangeNotification)
     {}
 
-    std::shared_ptr<Printer> printer; ///< null: of the whole spooler
+    std::shared_ptr<Printer> printer; ///< null: all printers of the spooler
     DWORD filter = 0;
     DWORD changes = 0;
-    bool dead = false; ///< the printer handle or the spooler it was registered with is gone
+    bool dead = false; ///< its printer handle was closed, or the spooler was stopped
 };
 
 struct Value
 {
     DWORD type = REG_NONE;
-    QByteArray narrow; ///< as the 8-bit calls see it
-    QByteArray wide;   ///< as the wide calls see it
+    QByteArray narrow; ///< as the 8-bit functions return it
+    QByteArray wide;   ///< as the wide functions return it
 
     static Value fromNarrow(DWORD type, const QByteArray& data);
     static Value fromWide(DWORD type, const QByteArray& data);
 };
 
-/// A printer of the spooler; lives on while handles to it are open.
+/// A printer of the spooler. It exists as long as it is listed or handles to it are open.
 struct Printer
 {
     PrinterSetup setup;
@@ -101,7 +101,7 @@ struct Printer
     QString location;
     QString shareName;
     bool deleted = false;
-    QMap<QByteArray, Value> values; ///< by lower-case name: registry names have no letter case
+    QMap<QByteArray, Value> values; ///< by lower-case name, because registry names ignore case
     QList<PrintJob> jobs;
 };
 
@@ -125,8 +125,8 @@ struct ServiceObject final : Object
     DWORD access = 0;
 };
 
-/// A thread that waits. Whoever satisfies it does the whole of its wait, under the lock, and wakes
-/// it: so a thread that has been woken is waiting no more, whether it has run yet or not.
+/// A waiting thread. The thread that satisfies its wait completes the wait under the lock and wakes
+/// it. So a woken thread is no longer waiting, whether it has run yet or not.
 struct Waiter
 {
     std::vector<std::shared_ptr<Waitable>> objects; ///< null for an object that is never signalled
@@ -141,7 +141,7 @@ struct Waiter
 
 struct FailurePlan
 {
-    int from = 0; ///< the call with this number, counted since the last reset
+    int from = 0; ///< the number of the call since the last reset
     bool onwards = false;
     DWORD error = 0;
 };
@@ -150,7 +150,7 @@ struct DeviceClass
 {
     QString guid;
     QList<DeviceSetup> devices;
-    /// Places in the list by case-folded key name.
+    /// Indices in the list by case-folded key name.
     QHash<QString, qsizetype> places;
 };
 
@@ -174,7 +174,8 @@ struct Machine::Private
 
     // Calls.
     std::array<std::atomic<int>, functionNames.size()> counts{};
-    std::atomic<bool> attention = false; ///< recording, a hook or a planned failure
+    /// Calls are recorded, a hook is set or a failure is planned.
+    std::atomic<bool> attention = false;
     bool recording = false;
     QList<Call> calls;
     std::function<void(const Call&)> hook;
@@ -202,7 +203,7 @@ struct Machine::Private
         return std::static_pointer_cast<Wanted>(findObject(handle, kind, call));
     }
     std::shared_ptr<Object> findObject(HANDLE handle, Object::Kind kind, const ApiCall& call);
-    /// Takes a handle out of the table; null as above.
+    /// Removes a handle from the table. Null as above.
     template <typename Wanted = Object>
     std::shared_ptr<Wanted> close(HANDLE handle, Object::Kind kind, const ApiCall& call)
     {
@@ -219,14 +220,14 @@ struct Machine::Private
 
     std::shared_ptr<Printer> printerNamed(const QString& name) const;
     void add(const std::shared_ptr<Printer>& printer);
-    void enterName(const std::shared_ptr<Printer>& printer);
-    /// After a printer was renamed or removed.
-    void enterNames();
+    void addName(const std::shared_ptr<Printer>& printer);
+    /// To be called after a printer was renamed or removed.
+    void rebuildNames();
     void notify(const Printer* printer, DWORD change);
     void removePrinter(Printer& printer);
     void setSpoolerState(DWORD state);
     bool isSpoolerRunning() const { return spoolerState == SERVICE_RUNNING; }
-    /// What a handle of a spooler that is gone is answered, while it is gone and afterwards.
+    /// The error for handles from before the spooler was stopped, which changes when it runs again.
     DWORD errorOfDeadHandles() const
     {
         return isSpoolerRunning() ? ERROR_INVALID_HANDLE : RPC_S_SERVER_UNAVAILABLE;
@@ -238,8 +239,8 @@ inline Machine::Private& machine()
     return Machine::instance().internals();
 }
 
-/// A failing call's last error and return value in one expression. Calls that succeed leave the
-/// last error alone: nothing here sets it but on the way to a failure.
+/// Sets the last error and returns the result of a failing call. Calls that succeed leave the last
+/// error alone, so it is set only where a call fails.
 template <typename Result>
 Result failWith(DWORD error, Result result)
 {
@@ -275,7 +276,7 @@ private:
 
 /// One call of a stand-in function. Constructed as the first thing in the function, it counts the
 /// call, records it, runs the hook (which may hold the calling thread) and looks up whether the
-/// call is planned to fail. While nobody records, hooks or plans failures, it only counts.
+/// call is planned to fail. Without recording, a hook or planned failures, it only counts.
 class ApiCall
 {
 public:

@@ -11,7 +11,7 @@ namespace {
 thread_local DWORD lastError = 0;
 std::atomic<DWORD> nextThreadId = 4;
 
-/// The calling process and the calling thread, neither of which ends during its own wait.
+/// The calling process or the calling thread, neither of which can end during its own wait.
 bool isPseudoHandle(HANDLE handle)
 {
     const auto number = reinterpret_cast<qintptr>(handle);
@@ -26,7 +26,7 @@ bool hasDuplicates(std::vector<std::shared_ptr<Waitable>> objects)
 
 } // namespace
 
-// What waits and who wakes them.
+// Waits, and what ends them.
 namespace virtualwindows {
 
 bool Machine::Private::trySatisfy(Waiter& waiter)
@@ -40,7 +40,7 @@ bool Machine::Private::trySatisfy(Waiter& waiter)
     };
 
     if (waiter.all) {
-        // All or nothing: no object is taken before every one of them can be.
+        // No object is taken until all of them can be.
         if (!std::all_of(waiter.objects.begin(), waiter.objects.end(), isSignalled))
             return false;
         for (const auto& object : waiter.objects)
@@ -72,7 +72,7 @@ void Machine::Private::finish(Waiter& waiter, DWORD result)
 void Machine::Private::signal(Waitable& object)
 {
     object.signalled = true;
-    // First come, first served; an object that resets itself goes to one of them.
+    // In the order in which they began to wait. An auto-reset object satisfies only one of them.
     const std::vector<Waiter*> waiters = object.waiters;
     for (Waiter* waiter : waiters) {
         if (!object.signalled)
@@ -144,7 +144,7 @@ void Machine::driveTime(bool driven)
     if (d->driven == driven)
         return;
     d->driven = driven;
-    // Waits that are under way keep what is left of their time.
+    // Current waits keep their remaining time.
     const auto now = std::chrono::steady_clock::now();
     for (Waiter* waiter : d->waiting) {
         if (driven)
@@ -212,7 +212,7 @@ HANDLE WINAPI CreateEventW(LPSECURITY_ATTRIBUTES /*lpEventAttributes*/, BOOL bMa
     const ApiCall call(Function::CreateEventW, DWORD(bManualReset), DWORD(bInitialState), lpName);
     if (call.failsAsPlanned())
         return nullptr;
-    // Names are shared between processes, and this machine ends with its own.
+    // Named events are shared between processes, but this machine exists in one only.
     if (lpName)
         return failWith<HANDLE>(ERROR_INVALID_PARAMETER, nullptr);
 

@@ -39,7 +39,7 @@ bool isClosing(Function function)
     }
 }
 
-/// The service manager and its services are closed by the same function.
+/// Handles of the service manager and of services are closed by the same function.
 bool accepts(Object::Kind wanted, Object::Kind kind, Function function)
 {
     if (wanted == kind)
@@ -52,7 +52,7 @@ bool accepts(Object::Kind wanted, Object::Kind kind, Function function)
 HANDLE Machine::Private::open(const std::shared_ptr<Object>& object)
 {
     const quintptr value = nextHandle;
-    nextHandle += handleStep; // never handed out again, so that late uses are known as such
+    nextHandle += handleStep; // never reused, so that uses after closing can be recognised
     objects.emplace(value, object);
     return reinterpret_cast<HANDLE>(value);
 }
@@ -61,9 +61,9 @@ void Machine::Private::recordMisuse(HandleMisuse::Kind kind, HANDLE handle, cons
                                     const char* what)
 {
     const QString name = nameOf(call.function());
-    misuses.append(
-        {kind, reinterpret_cast<quintptr>(handle), name,
-         QStringLiteral("%1 was handed %2, %3").arg(name, textOf(handle), QLatin1String(what))});
+    misuses.append({kind, reinterpret_cast<quintptr>(handle), name,
+                    QStringLiteral("%1 was called with %2, %3")
+                        .arg(name, textOf(handle), QLatin1String(what))});
 }
 
 std::shared_ptr<Object> Machine::Private::findObject(HANDLE handle, Object::Kind kind,
@@ -75,8 +75,8 @@ std::shared_ptr<Object> Machine::Private::findObject(HANDLE handle, Object::Kind
         return found->second;
 
     SetLastError(ERROR_INVALID_HANDLE);
-    // Programs keep this value for having no handle and may well close it; it fails, and harms no
-    // other handle.
+    // Programs use this value for "no handle" and may close it. That fails, but harms no other
+    // handle.
     if (handle == INVALID_HANDLE_VALUE)
         return {};
 
@@ -84,11 +84,11 @@ std::shared_ptr<Object> Machine::Private::findObject(HANDLE handle, Object::Kind
         recordMisuse(HandleMisuse::Kind::NotAHandle, handle, call, kindName(found->second->kind));
         return {};
     }
-    const bool wasHandedOut = value >= firstHandle && value < nextHandle && value % handleStep == 0;
-    if (!wasHandedOut)
-        recordMisuse(HandleMisuse::Kind::NotAHandle, handle, call, "which was never handed out");
+    const bool wasOpened = value >= firstHandle && value < nextHandle && value % handleStep == 0;
+    if (!wasOpened)
+        recordMisuse(HandleMisuse::Kind::NotAHandle, handle, call, "which was never opened");
     else if (isClosing(call.function()))
-        recordMisuse(HandleMisuse::Kind::ClosedTwice, handle, call, "which is closed already");
+        recordMisuse(HandleMisuse::Kind::ClosedTwice, handle, call, "which is already closed");
     else
         recordMisuse(HandleMisuse::Kind::UsedAfterClose, handle, call, "which is closed");
     return {};

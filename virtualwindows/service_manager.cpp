@@ -31,7 +31,7 @@ SC_HANDLE WINAPI OpenSCManagerW(LPCWSTR lpMachineName, LPCWSTR lpDatabaseName,
     if (lpMachineName && *lpMachineName)
         return failWith<SC_HANDLE>(RPC_S_SERVER_UNAVAILABLE, nullptr);
     if (lpDatabaseName && !isNamed(lpDatabaseName, activeDatabase)) {
-        // The one other name that there is has no database behind it.
+        // This name is valid, but has no database.
         const bool isKnown = isNamed(lpDatabaseName, failedDatabase);
         return failWith<SC_HANDLE>(isKnown ? ERROR_DATABASE_DOES_NOT_EXIST : ERROR_INVALID_NAME,
                                    nullptr);

@@ -134,11 +134,10 @@ BOOL openPrinter(const ApiCall& call, const std::optional<QString>& name, LPHAND
     return TRUE;
 }
 
-/// The answer of a call that reports what went wrong as its result.
-DWORD answer(DWORD error)
+/// Sets the last error and returns it, for calls whose result is the error code.
+DWORD fail(DWORD error)
 {
-    if (error)
-        SetLastError(error);
+    SetLastError(error);
     return error;
 }
 
@@ -161,23 +160,23 @@ DWORD getPrinterData(const ApiCall& call, HANDLE handle, const std::optional<QBy
     if (!object)
         return GetLastError();
     if (!object->printer)
-        return answer(ERROR_INVALID_HANDLE);
+        return fail(ERROR_INVALID_HANDLE);
     if (!buffer.needed)
-        return answer(RPC_X_NULL_REF_POINTER);
+        return fail(RPC_X_NULL_REF_POINTER);
     if (!name || (buffer.size && !buffer.data))
-        return answer(ERROR_INVALID_PARAMETER);
+        return fail(ERROR_INVALID_PARAMETER);
 
     const auto found = object->printer->values.constFind(*name);
     if (found == object->printer->values.constEnd()) {
         *buffer.needed = 0;
-        return answer(ERROR_FILE_NOT_FOUND);
+        return fail(ERROR_FILE_NOT_FOUND);
     }
     const QByteArray& bytes = (*found).*form;
     if (buffer.type)
         *buffer.type = found->type;
     *buffer.needed = static_cast<DWORD>(bytes.size());
     if (buffer.size < *buffer.needed)
-        return answer(ERROR_MORE_DATA);
+        return fail(ERROR_MORE_DATA);
     if (!bytes.isEmpty())
         std::memcpy(buffer.data, bytes.constData(), static_cast<std::size_t>(bytes.size()));
     return ERROR_SUCCESS;
@@ -201,7 +200,7 @@ DWORD setPrinterData(const ApiCall& call, HANDLE handle, const std::optional<QBy
     if (!object)
         return GetLastError();
     if (!name || (value.size && !value.data))
-        return answer(ERROR_INVALID_PARAMETER);
+        return fail(ERROR_INVALID_PARAMETER);
 
     const QByteArray bytes(reinterpret_cast<const char*>(value.data),
                            static_cast<qsizetype>(value.size));
@@ -210,7 +209,7 @@ DWORD setPrinterData(const ApiCall& call, HANDLE handle, const std::optional<QBy
     return ERROR_SUCCESS;
 }
 
-/// A block of records: the records first, then the texts that they point to.
+/// A block with records, followed by the texts that they point to.
 class RecordBlock
 {
 public:
@@ -219,7 +218,7 @@ public:
         , m_used(sizeOfRecords)
     {}
 
-    /// Room for the texts as one; without a block their room is only counted.
+    /// Appends the texts as one. Without a block, only their size is counted.
     template <typename... Texts>
     LPWSTR add(const Texts&... texts)
     {
@@ -228,7 +227,7 @@ public:
         append(QStringView(u"\0", 1));
         return reinterpret_cast<LPWSTR>(place);
     }
-    /// A text that may be missing.
+    /// The same for a text that may be null.
     LPWSTR addIfAny(const QString& text) { return text.isNull() ? nullptr : add(text); }
 
     DWORD used() const { return static_cast<DWORD>(m_used); }
@@ -253,7 +252,7 @@ DWORD waitingJobs(const Printer& printer)
                                             [](const PrintJob& job) { return !job.finished; }));
 }
 
-/// What listings of level 1 by name begin with; this machine has the one for its own printers.
+/// A listing of level 1 by name lists print providers. This machine has one, for its own printers.
 struct PrintProvider
 {
     QString name = QStringLiteral("Windows NT Local Print Providor"); // Windows spells it so
@@ -329,7 +328,7 @@ PRINTER_INFO_7W describe(const Printer& /*printer*/, RecordBlock& /*block*/, PRI
     return {nullptr, DSPRINT_UNPUBLISH};
 }
 
-/// Sizes or fills a block with one record for each source, a printer or a print provider.
+/// Sizes or fills a block with one record for each source: a printer or a print provider.
 template <typename Record, typename Source>
 BOOL fill(std::span<const Source* const> sources, LPBYTE start, DWORD size, LPDWORD needed)
 {
@@ -354,11 +353,11 @@ BOOL fill(std::span<const Source* const> sources, LPBYTE start, DWORD size, LPDW
 struct RecordLevel
 {
     DWORD level;
-    bool isListed; ///< EnumPrintersW knows it
+    bool isListed; ///< EnumPrintersW has this level too
     BOOL(*fill)
     (std::span<const Printer* const> printers, LPBYTE start, DWORD size, LPDWORD needed);
 };
-/// Levels 3, 8 and 9 are for what this machine has not: security descriptors and device modes.
+/// Levels 3, 8 and 9 hold security descriptors and device modes, which this machine does not have.
 constexpr std::array recordLevels{
     RecordLevel{1, true, &fill<PRINTER_INFO_1W, Printer>},
     RecordLevel{2, true, &fill<PRINTER_INFO_2W, Printer>},
@@ -368,7 +367,7 @@ constexpr std::array recordLevels{
     RecordLevel{7, false, &fill<PRINTER_INFO_7W, Printer>},
 };
 
-/// Null for a level that is not known.
+/// Null for an unknown level.
 const RecordLevel* findLevel(DWORD level)
 {
     const auto* const found =
@@ -407,7 +406,7 @@ BOOL controlPrinter(Printer& printer, DWORD command, LPBYTE argument)
         change = PRINTER_CHANGE_DELETE_JOB;
         break;
     case PRINTER_CONTROL_SET_STATUS:
-        // The status takes the place of the pointer.
+        // The status is passed in place of the pointer.
         printer.setup.status = static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(argument));
         break;
     default:
@@ -427,7 +426,7 @@ BOOL changePrinter(Printer& printer, const PRINTER_INFO_2W& info)
         if (machine().defaultPrinter == printer.setup.name)
             machine().defaultPrinter = name;
         printer.setup.name = name;
-        machine().enterNames();
+        machine().rebuildNames();
     }
     if (info.pPortName)
         printer.setup.port = fromWide(info.pPortName);
@@ -577,7 +576,7 @@ BOOL WINAPI EnumPrintersW(DWORD Flags, LPWSTR Name, DWORD Level, LPBYTE pPrinter
         const PrintProvider provider;
         const QString name = fromWide(Name);
         if (!name.isEmpty() && name.compare(provider.name, Qt::CaseInsensitive) != 0)
-            return failWith(ERROR_INVALID_NAME, FALSE); // this machine knows no other
+            return failWith(ERROR_INVALID_NAME, FALSE); // there is no other provider
         if (name.isEmpty() && Level == 1) {
             const PrintProvider* const only = &provider;
             if (!fill<PRINTER_INFO_1W, PrintProvider>({&only, 1}, pPrinterEnum, cbBuf, pcbNeeded))
@@ -605,7 +604,7 @@ BOOL WINAPI GetDefaultPrinterW(LPWSTR pszBuffer, LPDWORD pcchBuffer)
     if (call.failsAsPlanned())
         return FALSE;
 
-    // The choice is kept with the user's settings; the spooler is not asked for it.
+    // The choice is stored in the user's settings, so it does not need the spooler.
     if (!pcchBuffer)
         return failWith(ERROR_INVALID_PARAMETER, FALSE);
     const std::lock_guard guard(machine().lock);
@@ -638,7 +637,7 @@ BOOL WINAPI SetDefaultPrinterW(LPCWSTR pszPrinter)
         machine().defaultPrinter = printer->setup.name;
         return TRUE;
     }
-    // Without a name the system chooses, unless a choice was made before.
+    // Without a name, the system chooses a printer, unless one was chosen before.
     if (machine().defaultPrinter.isNull()) {
         if (machine().printers.isEmpty())
             return failWith(ERROR_INVALID_PRINTER_NAME, FALSE);
@@ -718,7 +717,7 @@ HANDLE WINAPI FindFirstPrinterChangeNotification(HANDLE hPrinter, DWORD fdwFilte
     const auto object = livePrinterHandle(hPrinter, call);
     if (!object)
         return INVALID_HANDLE_VALUE;
-    // Changes told in detail (the options) are not offered here, so the filter has to ask for some.
+    // Detailed notifications (the options) are not supported here, so a filter is required.
     if (!fdwFilter || pPrinterNotifyOptions)
         return failWith(ERROR_INVALID_PARAMETER, INVALID_HANDLE_VALUE);
 

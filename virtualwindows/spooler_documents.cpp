@@ -10,7 +10,7 @@ using namespace virtualwindows;
 
 namespace {
 
-/// The job being written; null also when it was taken out of the queue meanwhile.
+/// The job being written. Null when there is none or it was removed from the queue meanwhile.
 PrintJob* findOpenJob(const PrinterHandleObject& handle)
 {
     if (!handle.openJob)
@@ -21,7 +21,7 @@ PrintJob* findOpenJob(const PrinterHandleObject& handle)
     return found == jobs.end() ? nullptr : &*found;
 }
 
-/// The job being written; null: the last error says why.
+/// The job being written. Null: the last error says why.
 PrintJob* openJob(const PrinterHandleObject& handle)
 {
     PrintJob* job = findOpenJob(handle);
@@ -106,7 +106,7 @@ BOOL WINAPI WritePrinter(HANDLE hPrinter, LPVOID pBuf, DWORD cbBuf, LPDWORD pcWr
                               SetLastError(ERROR_INVALID_PARAMETER);
                               return false;
                           }
-                          // Bytes outside of a page are the spooler's to pass on all the same.
+                          // The spooler also passes on bytes outside of a page.
                           if (job.pages.isEmpty())
                               job.pages.append(QByteArray());
                           job.pages.last().append(static_cast<const char*>(pBuf),

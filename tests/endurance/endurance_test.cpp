@@ -214,7 +214,7 @@ Footprint Footprint::now()
 qint64 Footprint::usedBytesNow()
 {
     const struct mallinfo2 allocator = mallinfo2();
-    return static_cast<qint64>(allocator.uordblks + allocator.hblkhd);
+    return static_cast<qint64>(allocator.uordblks) + static_cast<qint64>(allocator.hblkhd);
 }
 
 HeldCalls::HeldCalls(virtualwindows::Machine& machine, const char* function)

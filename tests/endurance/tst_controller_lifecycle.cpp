@@ -385,8 +385,10 @@ QString ControllerLifecycleTest::runRound(Random& random, RandomChanges& changes
     const int turns = pick(random, 30);
 
     auto parent = std::make_unique<QObject>();
-    const QPointer<PrinterStatusController> controller =
-        new PrinterStatusController(pick(random, 2) ? parent.get() : nullptr);
+    auto* const controller = new PrinterStatusController(pick(random, 2) ? parent.get() : nullptr);
+    bool isDestroyed = false;
+    const QObject scope; // the connection ends with this function
+    connect(controller, &QObject::destroyed, &scope, [&isDestroyed] { isDestroyed = true; });
     for (int turn = 0; turn < turns && machine().callCount(reads) < end; ++turn) {
         switch (pick(random, 8)) {
         case 0:
@@ -418,8 +420,8 @@ QString ControllerLifecycleTest::runRound(Random& random, RandomChanges& changes
     } else {
         delete controller;
     }
-    if (controller)
-        return QStringLiteral("the controller was not deleted");
+    if (!isDestroyed)
+        return QStringLiteral("the controller was not destroyed");
     if (const QString left = leftBehind(); !left.isEmpty())
         return left;
     if (!publishedEndpoints().isEmpty())

@@ -9,7 +9,6 @@
 #include <algorithm>
 
 using namespace virtualwindows;
-using VXPrinting::PrinterType;
 
 namespace {
 

@@ -309,11 +309,11 @@ void FleetTest::brokenFileIsRefusedWithItsLine_data()
         "[\"local\",\n\"fast\"]}]}",
         "fleet.json:2: printers[0].attributes[1]: unknown name \"fast\"; expected one of local, "
         "network, shared, hidden, work-offline");
-    row("negative status", "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\", \"status\": -1}]}",
+    row("negative status", R"({"printers": [{"name": "P", "driver": "D", "status": -1}]})",
         "fleet.json:1: printers[0].status: expected a whole number between 0 and 4294967295, found "
         "-1");
     row("administrable not a boolean",
-        "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\", \"administrable\": \"no\"}]}",
+        R"({"printers": [{"name": "P", "driver": "D", "administrable": "no"}]})",
         "fleet.json:1: printers[0].administrable: expected true or false, found \"no\"");
     row("number too large",
         "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\",\n\"values\": {\"A\": 4294967296}}]}",
@@ -326,12 +326,11 @@ void FleetTest::brokenFileIsRefusedWithItsLine_data()
         "found "
         "1.5");
     row("value of an unknown kind",
-        "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\", \"values\": {\"A\": true}}]}",
+        R"({"printers": [{"name": "P", "driver": "D", "values": {"A": true}}]})",
         "fleet.json:1: printers[0].values.A: expected a string, a number or {\"binary\": "
         "\"hexadecimal digits\"}");
     row("bytes not hexadecimal",
-        "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\", \"values\": {\"A\": {\"binary\": "
-        "\"0g\"}}}]}",
+        R"({"printers": [{"name": "P", "driver": "D", "values": {"A": {"binary": "0g"}}}]})",
         "fleet.json:1: printers[0].values.A.binary: expected bytes as pairs of hexadecimal digits, "
         "found \"0g\"");
     row("default printer",
@@ -346,13 +345,12 @@ void FleetTest::brokenFileIsRefusedWithItsLine_data()
         "fleet.json:2: devices[2].key: duplicate device \"A\"");
     row("event without a time", "{\"printers\": [], \"timeline\": [\n{}]}",
         "fleet.json:2: timeline[0]: expected the key \"at\"");
-    row("negative time", "{\"printers\": [], \"timeline\": [{\"at\": -1}]}",
+    row("negative time", R"({"printers": [], "timeline": [{"at": -1}]})",
         "fleet.json:1: timeline[0].at: expected a number of seconds between 0 and one year, found "
         "-1");
     row("events out of order", "{\"printers\": [], \"timeline\": [{\"at\": 2},\n{\"at\": 1}]}",
         "fleet.json:2: timeline[1].at: expected a time no earlier than that of the previous event");
-    row("event without its printer",
-        "{\"printers\": [], \"timeline\": [{\"at\": 2, \"values\": {}}]}",
+    row("event without its printer", R"({"printers": [], "timeline": [{"at": 2, "values": {}}]})",
         "fleet.json:1: timeline[0].values: valid only together with the key \"printer\"");
     row("event of an unknown printer",
         "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\"}],\n\"timeline\": [{\"at\": "
@@ -371,8 +369,8 @@ void FleetTest::brokenFileIsRefusedWithItsLine_data()
         "{\"name\": \"P\", \"driver\": \"D\"}}]}",
         "fleet.json:2: timeline[0].add.name: duplicate printer \"P\"");
     row("unknown state of the spooler",
-        "{\"printers\": [], \"timeline\": [{\"at\": 2, \"spooler\": \"off\"}]}",
-        "fleet.json:1: timeline[0].spooler: expected \"stopped\" or \"running\", found \"off\"");
+        R"({"printers": [], "timeline": [{"at": 2, "spooler": "off"}]})",
+        R"(fleet.json:1: timeline[0].spooler: expected "stopped" or "running", found "off")");
 }
 
 void FleetTest::brokenFileIsRefusedWithItsLine()
@@ -403,7 +401,7 @@ void FleetTest::fileBeyondTheLimitsIsRefused_data()
     QTest::newRow("deeper than JsonCpp reads") << nested(1001) << tooDeep;
     QTest::newRow("much deeper") << nested(1'000'000) << tooDeep;
     QTest::newRow("brackets in a text")
-        << "{\"a\": \"\\\"" + QByteArray(100, '[') + "\"}" << unknownKey;
+        << R"({"a": "\")" + QByteArray(100, '[') + "\"}" << unknownKey;
     QTest::newRow("largest allowed number of values") << wide(1'000'000) << unknownKey;
     QTest::newRow("one value more")
         << wide(1'000'001) << QStringLiteral("fleet.json:2: expected at most 1000000 values");
@@ -434,7 +432,7 @@ void FleetTest::messageIsOneShortLine_data()
             message(shortOne));
     };
     rows(
-        "value", [](const QByteArray& value) { return "{\"printers\": \"" + value + "\"}"; },
+        "value", [](const QByteArray& value) { return R"({"printers": ")" + value + "\"}"; },
         [](const QString& value) {
             return QStringLiteral("printers: expected a list, found \"%1\"").arg(value);
         });
@@ -520,7 +518,7 @@ void FleetTest::endlessFileIsRefused()
     const QString name = settingsFolder() + QStringLiteral("/large.json");
     QFile file(name);
     QVERIFY(file.open(QIODevice::WriteOnly));
-    QVERIFY(file.resize(16 * 1024 * 1024));
+    QVERIFY(file.resize(16LL * 1024 * 1024));
     QVERIFY(errorOfFile(name).contains(QLatin1String(":1: not JSON: ")));
     QVERIFY(file.resize(file.size() + 1));
     QCOMPARE(errorOfFile(name), name + QStringLiteral(": expected at most 16 MiB"));

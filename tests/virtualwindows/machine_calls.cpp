@@ -35,6 +35,15 @@ char narrowValueName[] = "StatusCode";
 
 } // namespace
 
+void addDefaultPrinter()
+{
+    using virtualwindows::PrinterValue;
+    virtualwindows::Machine& machine = virtualwindows::Machine::instance();
+    machine.addPrinter({.name = printerName});
+    machine.publish(printerName, PrinterValue::number("StatusCode", 1));
+    machine.setDefaultPrinter(printerName);
+}
+
 HANDLE openHandle(const QString& name, ACCESS_MASK access)
 {
     PRINTER_DEFAULTSW defaults{nullptr, nullptr, access};

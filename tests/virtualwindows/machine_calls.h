@@ -18,6 +18,8 @@ inline const QString printerName = QStringLiteral("Label Printer");
 /// A last error that no call sets.
 inline constexpr DWORD untouched = 0x2000DEAD;
 
+/// Adds the printer, with a value "StatusCode", and makes it the default printer.
+void addDefaultPrinter();
 /// Null when the printer cannot be opened.
 HANDLE openHandle(const QString& name = printerName, ACCESS_MASK access = PRINTER_ALL_ACCESS);
 HANDLE openNotification(HANDLE printer, DWORD filter = PRINTER_CHANGE_ALL);

@@ -4,7 +4,6 @@
 #include "machine_calls.h"
 
 using virtualwindows::Call;
-using virtualwindows::PrinterValue;
 
 class MachineFailuresTest : public MachineTest
 {
@@ -145,9 +144,7 @@ void MachineFailuresTest::successLeavesTheLastErrorAlone()
 {
     QFETCH(QString, function);
     QFETCH(Caller, call);
-    machine().addPrinter({.name = printerName});
-    machine().publish(printerName, PrinterValue::number("StatusCode", 1));
-    machine().setDefaultPrinter(printerName);
+    addDefaultPrinter();
     const Handles handles = openAll();
     if (function.endsWith(QLatin1String("Printer")) && function != QLatin1String("ClosePrinter") &&
         function != QLatin1String("DeletePrinter")) {

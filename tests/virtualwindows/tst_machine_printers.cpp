@@ -353,7 +353,7 @@ void MachinePrintersTest::printedJobsCanBeReadBack()
     EndDocPrinter(printer);
     QVERIFY(machine().jobs(printerName).first().finished);
 
-    // Closing the printer ends a document that nobody ended.
+    // Closing the printer also ends an unfinished document.
     QVERIFY(startDocument(printer) != 0);
     QVERIFY(ClosePrinter(printer));
     jobs = machine().jobs(printerName);

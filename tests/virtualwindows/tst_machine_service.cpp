@@ -45,9 +45,7 @@ void MachineServiceTest::callsFailWhileTheServiceIsStopped()
 {
     QFETCH(QString, function);
     QFETCH(Caller, call);
-    machine().addPrinter({.name = printerName});
-    machine().publish(printerName, PrinterValue::number("StatusCode", 1));
-    machine().setDefaultPrinter(printerName);
+    addDefaultPrinter();
     const Handles handles = openAll();
     machine().stopSpooler();
     const int openBefore = machine().openHandles();

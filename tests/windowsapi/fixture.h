@@ -45,6 +45,39 @@ enum class Behaviour
             QSKIP("this system lacks " #behaviour);                                                \
     } while (false)
 
+/// A wide text for calls that take a pointer to non-const characters.
+class WideText
+{
+public:
+    explicit WideText(const QString& text)
+        : m_text(text)
+    {
+        m_text.detach();
+    }
+    operator LPWSTR() { return reinterpret_cast<LPWSTR>(m_text.data()); }
+    LPBYTE bytes() { return reinterpret_cast<LPBYTE>(m_text.data()); }
+    /// In bytes, including the terminating zero.
+    DWORD size() const { return static_cast<DWORD>(m_text.size() + 1) * sizeof(WCHAR); }
+
+private:
+    QString m_text;
+};
+
+/// The same for an 8-bit text, in the system's code page.
+class NarrowText
+{
+public:
+    explicit NarrowText(const QString& text)
+        : m_text(text.toLocal8Bit())
+    {}
+    operator LPSTR() { return m_text.data(); }
+    LPBYTE bytes() { return reinterpret_cast<LPBYTE>(m_text.data()); }
+    DWORD size() const { return static_cast<DWORD>(m_text.size() + 1); }
+
+private:
+    QByteArray m_text;
+};
+
 namespace fixture {
 
 struct PrinterSetup
@@ -53,6 +86,23 @@ struct PrinterSetup
     QString driver = QStringLiteral("Vx Test Driver");
     QString port = QStringLiteral("USB001");
     DWORD attributes = PRINTER_ATTRIBUTE_LOCAL;
+};
+
+/// The record of a printer, for AddPrinterW.
+struct NewPrinter
+{
+    explicit NewPrinter(const PrinterSetup& setup);
+    Q_DISABLE_COPY_MOVE(NewPrinter)
+
+    /// The result of AddPrinterW.
+    HANDLE add(DWORD level = 2);
+
+    WideText name;
+    WideText driver;
+    WideText port;
+    WideText processor{QStringLiteral("WinPrint")};
+    WideText datatype{QStringLiteral("RAW")};
+    PRINTER_INFO_2W info{};
 };
 
 /// A name that begins with the stem and differs from those of all other calls in all processes.
@@ -86,39 +136,6 @@ bool installDriver(const QString& name);
 } // namespace system
 
 } // namespace fixture
-
-/// A wide text for calls that take a pointer to non-const characters.
-class WideText
-{
-public:
-    explicit WideText(const QString& text)
-        : m_text(text)
-    {
-        m_text.detach();
-    }
-    operator LPWSTR() { return reinterpret_cast<LPWSTR>(m_text.data()); }
-    LPBYTE bytes() { return reinterpret_cast<LPBYTE>(m_text.data()); }
-    /// In bytes, including the terminating zero.
-    DWORD size() const { return static_cast<DWORD>(m_text.size() + 1) * sizeof(WCHAR); }
-
-private:
-    QString m_text;
-};
-
-/// The same for an 8-bit text, in the system's code page.
-class NarrowText
-{
-public:
-    explicit NarrowText(const QString& text)
-        : m_text(text.toLocal8Bit())
-    {}
-    operator LPSTR() { return m_text.data(); }
-    LPBYTE bytes() { return reinterpret_cast<LPBYTE>(m_text.data()); }
-    DWORD size() const { return static_cast<DWORD>(m_text.size() + 1); }
-
-private:
-    QByteArray m_text;
-};
 
 /// An empty text for a null pointer.
 inline QString fromWide(LPCWSTR text)

@@ -124,9 +124,9 @@ bool fixture::setSpoolerRunning(bool running)
     if (runs == running)
         return true;
     SERVICE_STATUS status{};
-    const BOOL asked = running ? StartServiceW(service.get(), 0, nullptr)
-                               : ControlService(service.get(), SERVICE_CONTROL_STOP, &status);
-    return asked && waitForState(service, running ? SERVICE_RUNNING : SERVICE_STOPPED);
+    const BOOL isRequested = running ? StartServiceW(service.get(), 0, nullptr)
+                                     : ControlService(service.get(), SERVICE_CONTROL_STOP, &status);
+    return isRequested && waitForState(service, running ? SERVICE_RUNNING : SERVICE_STOPPED);
 }
 
 bool fixture::has(Behaviour behaviour)

@@ -741,35 +741,19 @@ void PrinterRecordsTest::defaultPrinterNeedsNoSpooler()
 
 namespace {
 
-/// A record for AddPrinterW.
-struct NewRecord
+/// A record for AddPrinterW, with texts that fixture::addPrinter() leaves out.
+struct NewRecord : fixture::NewPrinter
 {
     explicit NewRecord(const QString& printerName)
-        : name(printerName)
+        : NewPrinter({.name = printerName, .driver = QStringLiteral("Vx Record Driver")})
     {
-        info.pPrinterName = name;
-        info.pDriverName = driver;
-        info.pPortName = port;
-        info.pPrintProcessor = processor;
-        info.pDatatype = datatype;
         info.pComment = comment;
         info.pLocation = location;
-        info.Attributes = PRINTER_ATTRIBUTE_LOCAL;
-    }
-    HANDLE add(DWORD level = 2)
-    {
-        return AddPrinterW(nullptr, level, reinterpret_cast<LPBYTE>(&info));
     }
 
-    WideText name;
-    WideText driver{QStringLiteral("Vx Record Driver")};
-    WideText port{QStringLiteral("USB001")};
-    WideText processor{QStringLiteral("WinPrint")};
-    WideText datatype{QStringLiteral("RAW")};
     WideText comment{QStringLiteral("new")};
     WideText location{QStringLiteral("Hall 1")};
     WideText empty{QString()};
-    PRINTER_INFO_2W info{};
 };
 
 } // namespace

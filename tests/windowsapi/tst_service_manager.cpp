@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// The service manager, as it is asked for the state of the service "Spooler".
+// The service manager, and how it reports the state of the service "Spooler".
 
 #include "fixture.h"
 

@@ -63,7 +63,7 @@ private:
 
 /// Fills the machine with the fleet that the environment names, and plays its story. Ends the
 /// program when the fleet cannot be used: nothing in it could handle the failure.
-extern "C" Q_DECL_EXPORT void virtualwindowsTakeFleetFromEnvironment()
+extern "C" Q_DECL_EXPORT void virtualwindowsLoadFleetFromEnvironment()
 {
     try {
         const Fleet fleet = fleetOf(qEnvironmentVariable("VX_VIRTUAL_FLEET"));
