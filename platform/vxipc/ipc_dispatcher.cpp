@@ -83,13 +83,13 @@ IpcDispatcher::IpcDispatcher(QObject& object, const QMetaObject& base, QString t
     , m_title(std::move(title))
 {
     // One, so that clients who send much get no more of the machine by being many.
-    m_aside.setMaxThreadCount(1);
-    m_aside.setThreadPriority(QThread::LowPriority);
+    m_background.setMaxThreadCount(1);
+    m_background.setThreadPriority(QThread::LowPriority);
 }
 
 IpcDispatcher::~IpcDispatcher()
 {
-    m_aside.clear();
+    m_background.clear();
 }
 
 IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
@@ -123,12 +123,12 @@ IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
     return message;
 }
 
-QFuture<IpcDispatcher::Message> IpcDispatcher::parseAside(QByteArray line)
+QFuture<IpcDispatcher::Message> IpcDispatcher::parseInBackground(QByteArray line)
 {
     // Shared, because the pool wants to be able to copy what it runs.
     const auto promise = std::make_shared<QPromise<Message>>();
     promise->start();
-    m_aside.start([promise, line = std::move(line)] {
+    m_background.start([promise, line = std::move(line)] {
         Message message = parse(line);
         message.isLong = true;
         promise->addResult(std::move(message));
@@ -137,9 +137,9 @@ QFuture<IpcDispatcher::Message> IpcDispatcher::parseAside(QByteArray line)
     return promise->future();
 }
 
-void IpcDispatcher::discardAside(Message message)
+void IpcDispatcher::discardInBackground(Message message)
 {
-    m_aside.start([message = std::move(message)] { Q_UNUSED(message) });
+    m_background.start([message = std::move(message)] { Q_UNUSED(message) });
 }
 
 std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& value) const

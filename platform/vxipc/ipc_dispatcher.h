@@ -30,7 +30,7 @@ public:
         qsizetype size = 0;
         /// The answer to a line that holds no request, as a line.
         std::optional<QByteArray> failure;
-        /// Parsed aside, so that freeing it takes long too.
+        /// Parsed in the background, so that freeing it takes long too.
         bool isLong = false;
 
         bool isBatch() const { return content.isArray(); }
@@ -41,9 +41,9 @@ public:
 
     /// The same on another thread, one line after the other: a mebibyte of small values takes tens
     /// of milliseconds, which the object's thread has better uses for.
-    QFuture<Message> parseAside(QByteArray line);
+    QFuture<Message> parseInBackground(QByteArray line);
     /// Frees such a message there too, which takes a third of the time again.
-    void discardAside(Message message);
+    void discardInBackground(Message message);
 
     /// The answer to one request of a message, as a line, or nothing to a notification. An answer
     /// that is too long to be sent is one that says so.
@@ -57,5 +57,5 @@ private:
 
     IpcMethodTable m_methods;
     QString m_title;
-    QThreadPool m_aside;
+    QThreadPool m_background;
 };

@@ -99,12 +99,10 @@ SocketListener::~SocketListener()
 {
     m_notifier.reset();
     struct stat entry = {};
-    // Somebody may have put another in its place. While this one is open its number is not given to
-    // another, and nobody takes it for dead and replaces it.
-    if (m_socket.isValid() && lstat(m_path.constData(), &entry) == 0 &&
-        entry.st_dev == m_entry.st_dev && entry.st_ino == m_entry.st_ino) {
+    // Somebody may have put another file in its place. While this socket is open, its inode number
+    // is not reused, and nobody takes it for dead and replaces it.
+    if (m_socket.isValid() && lstat(m_path.constData(), &entry) == 0 && isSameFile(entry, m_entry))
         unlink(m_path.constData());
-    }
 }
 
 IpcListener::Outcome SocketListener::listen(const QString& name, QDeadlineTimer end)

@@ -152,7 +152,7 @@ IpcMethodTable::Match IpcMethodTable::choose(const QString& name,
     }
     // Of those that fit, the best; of those that do not, the one that came closest says why.
     const auto rank = [](const Match& each) {
-        return std::tuple(!each.error.has_value(), each.isOfRightCount, each.fit);
+        return std::tuple(!each.error.has_value(), each.arityMatches, each.fit);
     };
     Match best = match(m_methods.at(overloads->first()), parameters);
     for (qsizetype i = 1; i < overloads->size(); ++i) {
@@ -224,7 +224,7 @@ IpcMethodTable::Match IpcMethodTable::matchArguments(const Method& method,
 {
     Match match;
     match.method = &method;
-    match.isOfRightCount = true;
+    match.arityMatches = true;
     for (qsizetype i = 0; const QJsonValue& argument : given) {
         const Parameter& parameter = method.parameters.at(i++);
         const auto misfit = [&](const QString& expected, const QString& got) {

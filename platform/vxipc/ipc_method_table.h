@@ -71,7 +71,7 @@ private:
         /// The sum over the arguments.
         int fit = 0;
         std::optional<JsonRpc::Error> error;
-        bool isOfRightCount = false;
+        bool arityMatches = false;
     };
 
     static std::optional<Method> readMethod(const QMetaMethod& slot);

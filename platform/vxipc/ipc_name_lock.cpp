@@ -19,11 +19,6 @@ namespace {
 
 constexpr auto retryPause = 5ms;
 
-bool isSameFile(const struct stat& one, const struct stat& other)
-{
-    return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
-}
-
 } // namespace
 
 IpcNameLock::IpcNameLock(QByteArray path)

@@ -7,6 +7,7 @@
 #include "vxipcclient.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QEventLoop>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 #include <QtCore/QPointer>
@@ -104,7 +105,11 @@ private Q_SLOTS:
     void givesUpEachCallInItsTime();
     void keepsOthersOutcomesWhileItWaits();
     void waitsWithinACallback();
+    void runsAnEventLoopInACallback();
     void mayBeDestroyedInACallback();
+    void mayBeDestroyedWhenTheConnectionIsLost_data();
+    void mayBeDestroyedWhenTheConnectionIsLost();
+    void answersACallMadeWhenTheConnectionIsLost();
     void forgetsItsCallsWhenDestroyed();
     void sendsNotifications();
 
@@ -371,6 +376,32 @@ void tst_VXIPCClient::waitsWithinACallback()
     QTRY_VERIFY(isSecondAnswered);
 }
 
+void tst_VXIPCClient::runsAnEventLoopInACallback()
+{
+    // Creates the folder that endpoints live in, where there is none yet.
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QString name = nameOf(newServerType());
+    // Both answers arrive at once, and nothing after them.
+    const OddServer server(name, JsonRpc::success(1, "1") + JsonRpc::success(2, "2"));
+    QVERIFY(server.isListening());
+    VXIPCClient client(name);
+    QEventLoop loop;
+    bool isFirstDone = false;
+    std::optional<VXIPCReply> second;
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply&) {
+        loop.exec();
+        isFirstDone = true;
+    });
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) {
+        second = reply;
+        loop.quit();
+    });
+    QTRY_VERIFY(isFirstDone);
+    QVERIFY2(second->isOk(), qPrintable(second->error.value_or(VXIPCError()).message));
+    QCOMPARE(second->result.toInt(), 2);
+}
+
 void tst_VXIPCClient::mayBeDestroyedInACallback()
 {
     auto* client = new VXIPCClient(m_name);
@@ -384,6 +415,53 @@ void tst_VXIPCClient::mayBeDestroyedInACallback()
     }
     QTRY_VERIFY(!alive);
     QCOMPARE(answers, 1);
+}
+
+void tst_VXIPCClient::mayBeDestroyedWhenTheConnectionIsLost_data()
+{
+    QTest::addColumn<bool>("isLostByTheServer");
+
+    QTest::newRow("by the server") << true;
+    QTest::newRow("by the client") << false;
+}
+
+void tst_VXIPCClient::mayBeDestroyedWhenTheConnectionIsLost()
+{
+    QFETCH(const bool, isLostByTheServer);
+
+    // Creates the folder that endpoints live in, where there is none yet.
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QString name = nameOf(newServerType());
+    const DyingServer server(name);
+    QVERIFY(server.isListening());
+    auto* client = new VXIPCClient(name);
+    const QPointer<VXIPCClient> alive(client);
+    client->call(QStringLiteral("notes"), {}, [client](const VXIPCReply&) { delete client; });
+    if (!isLostByTheServer)
+        client->disconnectFromServer();
+    QTRY_VERIFY(!alive);
+}
+
+void tst_VXIPCClient::answersACallMadeWhenTheConnectionIsLost()
+{
+    // Creates the folder that endpoints live in, where there is none yet.
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QString name = nameOf(newServerType());
+    const DyingServer server(name);
+    QVERIFY(server.isListening());
+    VXIPCClient client(name);
+    std::optional<VXIPCReply> first;
+    std::optional<VXIPCReply> second;
+    connect(&client, &VXIPCClient::disconnected, this, [&] {
+        client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) { second = reply; });
+    });
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) { first = reply; });
+    QTRY_VERIFY(first && second);
+    QCOMPARE(first->error->code, int(VXIPCError::ConnectionLost));
+    QVERIFY2(second->isOk(), qPrintable(second->error.value_or(VXIPCError()).message));
+    QCOMPARE(second->result.toInt(), 2);
 }
 
 void tst_VXIPCClient::forgetsItsCallsWhenDestroyed()
