@@ -4,6 +4,7 @@
 // How long a call to an endpoint in another process takes: one at a time, from 16 clients, and many
 // on their way from one.
 #include "benchmark_support.h"
+#include "ipc_host_main.h"
 #include "ipc_in_flight.h"
 #include "ipc_sides.h"
 #include "vx_ipc_supplyd_controller.h"
@@ -11,12 +12,10 @@
 #include <vxipcclient.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
-#include <QtCore/QTimer>
 #include <QtNetwork/QLocalServer>
 #include <QtNetwork/QLocalSocket>
 
@@ -29,7 +28,6 @@
 #include <limits>
 #include <map>
 #include <string>
-#include <thread>
 
 #include <sched.h>
 
@@ -284,22 +282,11 @@ int serve(const QString& sideName)
         std::fprintf(stderr, "bench_ipc: %s cannot be served\n", side->name);
         return 1;
     }
-    QTimer::singleShot(0, qApp, [&] {
+    return serveUntilInputEnds([&] {
         if (side == sides().begin())
             address = static_cast<VXIPCSUPPLYDController*>(server.get())->serverName();
-        std::printf("%s\n", qPrintable(address));
-        std::fflush(stdout);
+        return QStringList{address};
     });
-    // Ends with the process that measures, however that ends.
-    std::thread([application = qApp] {
-        QFile input;
-        if (input.open(0, QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-            while (!input.read(1).isEmpty()) {
-            }
-        }
-        QMetaObject::invokeMethod(application, &QCoreApplication::quit, Qt::QueuedConnection);
-    }).detach();
-    return QCoreApplication::exec();
 }
 
 /// Keeps this process, and those that it starts, on one core. Two processes that wake each other by

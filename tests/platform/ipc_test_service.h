@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "ipc_test_record.h"
 #include "vxipcserver.h"
 
 #include <QtCore/QByteArray>
@@ -13,29 +14,6 @@
 
 #include <algorithm>
 #include <limits>
-
-/// A record with a member of each kind.
-class TestRecord
-{
-    Q_GADGET
-    Q_PROPERTY(QString name MEMBER name)
-    Q_PROPERTY(int count MEMBER count)
-    Q_PROPERTY(float width MEMBER width)
-    Q_PROPERTY(bool isLoaded MEMBER isLoaded)
-    Q_PROPERTY(QByteArray image MEMBER image)
-    Q_PROPERTY(QStringList panels MEMBER panels)
-    Q_PROPERTY(QVariantList heats MEMBER heats)
-
-public:
-    QString name;
-    int count = -1;
-    float width = -1.0F;
-    bool isLoaded = false;
-    QByteArray image;
-    QStringList panels;
-    QVariantList heats;
-};
-Q_DECLARE_METATYPE(TestRecord)
 
 /// The interface of a service, as an endpoint derives from it.
 class TestInterface : public VXIPCServer

@@ -54,7 +54,19 @@ QString ownNameOf(int serverType)
     return QStringLiteral("vxipc-%1-%2").arg(serverType).arg(QCoreApplication::applicationPid());
 }
 
-/// Collects what endpoints complain of.
+/// Takes the name of a service and the first `count` names with the process id. False when one
+/// could not be taken.
+bool takeNames(const QDir& folder, int serverType, int count)
+{
+    bool areTaken = folder.mkdir(nameOf(serverType)) && folder.mkdir(ownNameOf(serverType));
+    for (int i = 2; i <= count; ++i) {
+        areTaken =
+            folder.mkdir(ownNameOf(serverType) + QLatin1Char('-') + QString::number(i)) && areTaken;
+    }
+    return areTaken;
+}
+
+/// Collects the complaints of endpoints.
 class Complaints
 {
 public:
@@ -310,10 +322,7 @@ void tst_VXIPCSockets::isPublishedOnceAnyNameIsFree()
     const ScopedVariable runtime(runtimeFolder, folder.path());
     const int serverType = newServerType();
     const QDir names(folder.path());
-    QVERIFY(names.mkdir(nameOf(serverType)));
-    QVERIFY(names.mkdir(ownNameOf(serverType)));
-    for (int i = 2; i <= 100; ++i)
-        QVERIFY(names.mkdir(ownNameOf(serverType) + QLatin1Char('-') + QString::number(i)));
+    QVERIFY(takeNames(names, serverType, 100));
 
     TestService service(serverType);
     const Complaints complaints;
@@ -332,11 +341,7 @@ void tst_VXIPCSockets::isPublishedUnderTheLastOfItsNames()
     const QTemporaryDir folder;
     const ScopedVariable runtime(runtimeFolder, folder.path());
     const int serverType = newServerType();
-    const QDir names(folder.path());
-    QVERIFY(names.mkdir(nameOf(serverType)));
-    QVERIFY(names.mkdir(ownNameOf(serverType)));
-    for (int i = 2; i <= 15; ++i)
-        QVERIFY(names.mkdir(ownNameOf(serverType) + QLatin1Char('-') + QString::number(i)));
+    QVERIFY(takeNames(QDir(folder.path()), serverType, 15));
 
     const Complaints complaints;
     TestService service(serverType);
