@@ -68,7 +68,7 @@ public:
     }
 
 private:
-    /// By its name: the replica of this release does not have the types of texts right.
+    /// Looked up by name: replicas of this release report wrong types for texts.
     static int indexOfMethod(const QMetaObject& type)
     {
         for (int i = type.methodOffset(); i < type.methodCount(); ++i) {

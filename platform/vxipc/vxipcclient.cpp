@@ -25,11 +25,11 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr std::chrono::milliseconds defaultTimeout = 30s;
-/// A living endpoint takes a connection at once, even when its process is busy.
+/// A living endpoint accepts a connection at once, even when its process is busy.
 constexpr std::chrono::milliseconds connectTime = 1s;
 constexpr std::chrono::milliseconds firstRetry = 100ms;
 constexpr std::chrono::milliseconds lastRetry = 5s;
-/// An endpoint's longest answer and what surrounds it in a batch.
+/// The longest answer of an endpoint, and what surrounds it in a batch.
 constexpr qsizetype maximumLine = 2 * JsonRpc::maximumAnswers;
 
 VXIPCReply failed(VXIPCError::Code code, const QString& message)
@@ -44,7 +44,7 @@ struct Answer
     VXIPCReply reply;
 };
 
-/// Nothing when the line is no answer to a client that numbers its calls.
+/// Nothing when the line is not an answer to a numbered call.
 std::optional<Answer> readAnswer(QByteArrayView line)
 {
     const QJsonObject object =
@@ -126,7 +126,7 @@ private:
 
     VXIPCClient& q;
     QLocalSocket* m_socket;
-    /// What spoke against the endpoint when it was last to be connected to.
+    /// Why the endpoint was not trusted at the last attempt to connect; empty when it was.
     QString m_obstacle;
     QTimer m_lateness;
     QTimer m_reconnect;
@@ -262,11 +262,11 @@ std::optional<VXIPCReply> VXIPCClient::Private::send(const QByteArray& line,
                                      {}}};
     }
     if (!connectNow(limit)) {
-        const QString nobody = QStringLiteral("no endpoint answers under %1").arg(serverName);
+        const QString reason = m_obstacle.isEmpty() ? QString() : QLatin1String(": ") + m_obstacle;
         return failed(VXIPCError::NotReachable,
-                      m_obstacle.isEmpty() ? nobody : nobody + QLatin1String(": ") + m_obstacle);
+                      QStringLiteral("no endpoint answers under %1").arg(serverName) + reason);
     }
-    // Calls that come together go together, with the event loop.
+    // Calls that follow each other closely are sent together, from the event loop.
     if (m_calls.isEmpty())
         sendNow(*m_socket, line);
     else

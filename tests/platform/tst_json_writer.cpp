@@ -44,7 +44,7 @@ private Q_SLOTS:
     void writesNumbers();
     void writesValues_data();
     void writesValues();
-    void putsPiecesTogether();
+    void writesManyPieces();
 };
 
 void tst_JsonWriter::writesTexts_data()
@@ -149,7 +149,7 @@ void tst_JsonWriter::writesValues()
     QCOMPARE(writer.json(), json);
 }
 
-void tst_JsonWriter::putsPiecesTogether()
+void tst_JsonWriter::writesManyPieces()
 {
     // Beyond the initial capacity, with pieces of all sizes.
     QJsonArray expected;

@@ -34,7 +34,7 @@ public:
     OddServer(const QString& name, const QByteArray& answer)
     {
         setSocketOptions(UserAccessOption);
-        // The folder is made by endpoints, the first of which this process has had by then.
+        // An endpoint of this process has created the folder by now.
         listen(VXIPCClient::address(name));
         connect(this, &QLocalServer::newConnection, this, [this, answer] {
             QLocalSocket* socket = nextPendingConnection();
@@ -91,19 +91,19 @@ private Q_SLOTS:
     void waitsForAResult();
     void waitsForAnError();
     void callsByName();
-    void tellsWhenNobodyIsThere();
+    void reportsThatNoEndpointAnswers();
     void givesUpWaitingInTime();
-    void takesNoLateAnswerForAnother();
-    void losesACallWithItsProcess();
-    void forgetsHalfAnAnswerOfAServerThatDied();
+    void ignoresLateAnswers();
+    void reportsCallsLostWithTheProcess();
+    void discardsHalfAnAnswerOfAServerThatDied();
     void refusesToSendALineThatIsTooLong();
 
     void callsWithoutWaiting();
-    void answersLaterThanTheCall();
+    void callsBackLaterThanTheCall();
     void keepsManyCallsInFlight();
-    void tellsLateCallsInTheirOrder();
+    void reportsLateCallsInOrder();
     void givesUpEachCallInItsTime();
-    void keepsOthersOutcomesWhileItWaits();
+    void deliversOtherOutcomesAfterAWait();
     void waitsWithinACallback();
     void runsAnEventLoopInACallback();
     void mayBeDestroyedInACallback();
@@ -113,13 +113,13 @@ private Q_SLOTS:
     void forgetsItsCallsWhenDestroyed();
     void sendsNotifications();
 
-    void tellsOfConnections();
+    void reportsConnections();
     void connectsAgain();
-    void staysAwayWhenToldTo();
+    void staysDisconnectedOnRequest();
     void findsAnEndpointThatComesLater();
-    void readsWhatIsNoAnswer_data();
-    void readsWhatIsNoAnswer();
-    void readsThatThereAreTooManyClients();
+    void refusesInvalidAnswers_data();
+    void refusesInvalidAnswers();
+    void reportsTooManyClients();
     void listsRunningServers();
 
 private:
@@ -173,7 +173,7 @@ void tst_VXIPCClient::callsByName()
     QCOMPARE(reply.result.toInt(), 8);
 }
 
-void tst_VXIPCClient::tellsWhenNobodyIsThere()
+void tst_VXIPCClient::reportsThatNoEndpointAnswers()
 {
     VXIPCClient client(newServerType());
     const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"));
@@ -206,7 +206,7 @@ void tst_VXIPCClient::givesUpWaitingInTime()
              int(VXIPCError::TimedOut));
 }
 
-void tst_VXIPCClient::takesNoLateAnswerForAnother()
+void tst_VXIPCClient::ignoresLateAnswers()
 {
     VXIPCClient client(m_name);
     QVERIFY(!client.callAndWait(QStringLiteral("block"), QJsonArray{100}, 1ms).isOk());
@@ -215,13 +215,13 @@ void tst_VXIPCClient::takesNoLateAnswerForAnother()
     QCOMPARE(reply.result.toInt(), 10);
 }
 
-void tst_VXIPCClient::losesACallWithItsProcess()
+void tst_VXIPCClient::reportsCallsLostWithTheProcess()
 {
     HostProcess host(newServerType());
     VXIPCClient client(host.serverName());
     std::optional<VXIPCReply> lost;
     client.call(QStringLiteral("wait"), {}, [&](const VXIPCReply& outcome) { lost = outcome; });
-    // The endpoint is in the call when this is answered.
+    // When this is answered, the endpoint is within the call.
     VXIPCClient other(host.serverName());
     QTRY_VERIFY(other.callAndWait(QStringLiteral("isWaiting")).result.toBool());
     host.kill();
@@ -234,10 +234,10 @@ void tst_VXIPCClient::losesACallWithItsProcess()
     QLocalServer::removeServer(VXIPCClient::address(host.serverName()));
 }
 
-void tst_VXIPCClient::forgetsHalfAnAnswerOfAServerThatDied()
+void tst_VXIPCClient::discardsHalfAnAnswerOfAServerThatDied()
 {
     const int serverType = newServerType();
-    // Makes the folder that endpoints live in, where there is none yet.
+    // Creates the folder that endpoints live in, where there is none yet.
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
     const DyingServer server(nameOf(serverType));
@@ -257,13 +257,13 @@ void tst_VXIPCClient::forgetsHalfAnAnswerOfAServerThatDied()
 void tst_VXIPCClient::refusesToSendALineThatIsTooLong()
 {
     VXIPCClient client(m_name);
-    // A line of the greatest length that an endpoint reads, its end not counted, and one byte more.
-    // The calls have numbers of one digit.
+    // The longest line that an endpoint reads, not counting the line end, and one byte more. The
+    // ids of both calls have one digit.
     const QByteArray bare = JsonRpc::request(QString(), QJsonArray(), 1);
     const QString longest(JsonRpc::maximumLine + 1 - bare.size(), QLatin1Char('x'));
     QCOMPARE(client.callAndWait(longest, QJsonArray()).error->code, -32601);
     QCOMPARE(client.callAndWait(longest + QLatin1Char('x'), QJsonArray()).error->code, -32000);
-    // It was not sent: the endpoint would have ended the connection.
+    // It was not sent, or the endpoint would have closed the connection.
     QSignalSpy disconnected(&client, &VXIPCClient::disconnected);
     QCOMPARE(client.callAndWait(QStringLiteral("scale"), QJsonArray{1}).result.toInt(), 10);
     QVERIFY(disconnected.isEmpty());
@@ -284,7 +284,7 @@ void tst_VXIPCClient::callsWithoutWaiting()
     QCOMPARE(bad->error->code, -32601);
 }
 
-void tst_VXIPCClient::answersLaterThanTheCall()
+void tst_VXIPCClient::callsBackLaterThanTheCall()
 {
     VXIPCClient client(m_name);
     bool isAnswered = false;
@@ -309,7 +309,7 @@ void tst_VXIPCClient::keepsManyCallsInFlight()
         QCOMPARE(results.at(i), i);
 }
 
-void tst_VXIPCClient::tellsLateCallsInTheirOrder()
+void tst_VXIPCClient::reportsLateCallsInOrder()
 {
     VXIPCClient client(m_name);
     client.setTimeout(20ms);
@@ -331,7 +331,7 @@ void tst_VXIPCClient::tellsLateCallsInTheirOrder()
 
 void tst_VXIPCClient::givesUpEachCallInItsTime()
 {
-    // Makes the folder that endpoints live in, where there is none yet.
+    // Creates the folder that endpoints live in, where there is none yet.
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
     const QString name = nameOf(newServerType());
@@ -348,7 +348,7 @@ void tst_VXIPCClient::givesUpEachCallInItsTime()
     }
 }
 
-void tst_VXIPCClient::keepsOthersOutcomesWhileItWaits()
+void tst_VXIPCClient::deliversOtherOutcomesAfterAWait()
 {
     VXIPCClient client(m_name);
     QList<int> results;
@@ -473,8 +473,8 @@ void tst_VXIPCClient::forgetsItsCallsWhenDestroyed()
     {
         VXIPCClient client(m_name);
         client.call(QStringLiteral("notes"), {}, remember);
-        VXIPCClient nobodys(newServerType());
-        nobodys.call(QStringLiteral("notes"), {}, remember);
+        VXIPCClient unreachable(newServerType());
+        unreachable.call(QStringLiteral("notes"), {}, remember);
     }
     VXIPCClient client(m_name);
     QVERIFY(client.callAndWait(QStringLiteral("notes")).isOk());
@@ -486,13 +486,13 @@ void tst_VXIPCClient::sendsNotifications()
 {
     HostProcess host(newServerType());
     VXIPCClient client(host.serverName());
-    QVERIFY(client.notify(QStringLiteral("note"), QJsonArray{QStringLiteral("told")}));
+    QVERIFY(client.notify(QStringLiteral("note"), QJsonArray{QStringLiteral("sent")}));
     QVERIFY(client.notify(QStringLiteral("nothing")));
     QCOMPARE(client.callAndWait(QStringLiteral("notes")).result,
-             QJsonValue(QJsonArray{QStringLiteral("told")}));
+             QJsonValue(QJsonArray{QStringLiteral("sent")}));
 }
 
-void tst_VXIPCClient::tellsOfConnections()
+void tst_VXIPCClient::reportsConnections()
 {
     VXIPCClient client(m_name);
     QSignalSpy connected(&client, &VXIPCClient::connected);
@@ -534,7 +534,7 @@ void tst_VXIPCClient::connectsAgain()
     QVERIFY(client.callAndWait(QStringLiteral("notes")).isOk());
 }
 
-void tst_VXIPCClient::staysAwayWhenToldTo()
+void tst_VXIPCClient::staysDisconnectedOnRequest()
 {
     VXIPCClient client(m_name);
     QSignalSpy connected(&client, &VXIPCClient::connected);
@@ -555,7 +555,7 @@ void tst_VXIPCClient::findsAnEndpointThatComesLater()
     QTRY_COMPARE_WITH_TIMEOUT(connected.size(), 1, patience);
 }
 
-void tst_VXIPCClient::readsWhatIsNoAnswer_data()
+void tst_VXIPCClient::refusesInvalidAnswers_data()
 {
     QTest::addColumn<QByteArray>("answer");
 
@@ -569,12 +569,12 @@ void tst_VXIPCClient::readsWhatIsNoAnswer_data()
     QTest::newRow("empty object") << QByteArray("{}\n");
 }
 
-void tst_VXIPCClient::readsWhatIsNoAnswer()
+void tst_VXIPCClient::refusesInvalidAnswers()
 {
     QFETCH(const QByteArray, answer);
 
     const int serverType = newServerType();
-    // Makes the folder that endpoints live in, where there is none yet.
+    // Creates the folder that endpoints live in, where there is none yet.
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
     const OddServer server(nameOf(serverType), answer);
@@ -585,11 +585,11 @@ void tst_VXIPCClient::readsWhatIsNoAnswer()
     client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) { outcome = reply; });
     QTRY_VERIFY(outcome);
     QCOMPARE(outcome->error->code, int(VXIPCError::BadAnswer));
-    // Whatever else comes from there is of no use, and there may be no end of it.
+    // Whatever else arrives is useless, and may never end.
     QTRY_VERIFY(!partings.isEmpty());
 }
 
-void tst_VXIPCClient::readsThatThereAreTooManyClients()
+void tst_VXIPCClient::reportsTooManyClients()
 {
     HostProcess host(newServerType());
     std::vector<std::unique_ptr<VXIPCClient>> clients;

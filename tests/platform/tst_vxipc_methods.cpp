@@ -29,7 +29,7 @@ class tst_VXIPCMethods : public IpcServerTest
 private Q_SLOTS:
     void carriesValues_data();
     void carriesValues();
-    void carriesNoNumberThatJsonLacks();
+    void answersNullForNumbersThatJsonLacks();
     void choosesTheOverload_data();
     void choosesTheOverload();
     void refusesBadParameters_data();
@@ -39,21 +39,21 @@ private Q_SLOTS:
     void refusesArgumentsBeyondTheirBounds_data();
     void refusesArgumentsBeyondTheirBounds();
     void refusesCallsThatTheEndpointObjectsTo();
-    void repeatsNoLongNameInAnError();
+    void shortensLongNamesInErrors();
     void refusesBadRequests_data();
     void refusesBadRequests();
     void answersUnderTheId_data();
     void answersUnderTheId();
-    void hidesWhatIsNotAnEndpointsOwn_data();
-    void hidesWhatIsNotAnEndpointsOwn();
+    void hidesWhatTheEndpointDoesNotDeclare_data();
+    void hidesWhatTheEndpointDoesNotDeclare();
     void describesItsMethods();
     void describesOverloadsAndDefaults();
     void describesRecords();
 
     void answersABatch();
-    void answersNothingToABatchOfNotifications();
-    void refusesWhatIsNoBatch();
-    void answersNoNotification();
+    void doesNotAnswerABatchOfNotifications();
+    void refusesInvalidBatches();
+    void doesNotAnswerNotifications();
     void readsLinesAsTheyCome();
 };
 
@@ -125,7 +125,7 @@ void tst_VXIPCMethods::carriesValues()
                                   {QStringLiteral("result"), parsed(result)}}));
 }
 
-void tst_VXIPCMethods::carriesNoNumberThatJsonLacks()
+void tst_VXIPCMethods::answersNullForNumbersThatJsonLacks()
 {
     // Overflows to infinity, which JSON has no number for.
     RawClient client(serverName());
@@ -321,12 +321,12 @@ void tst_VXIPCMethods::refusesCallsThatTheEndpointObjectsTo()
                 "\n");
     QCOMPARE(client.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
     QCOMPARE(m_service->kept, (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
-    // The endpoint's own process may.
+    // Calls within the process are not checked.
     m_service->keep(QStringLiteral("e"));
     QCOMPARE(m_service->kept.size(), 3);
 }
 
-void tst_VXIPCMethods::repeatsNoLongNameInAnError()
+void tst_VXIPCMethods::shortensLongNamesInErrors()
 {
     RawClient client(serverName());
     const QByteArray name(100000, 'n');
@@ -340,7 +340,7 @@ void tst_VXIPCMethods::repeatsNoLongNameInAnError()
              QStringLiteral("Invalid params: there is no argument \"%1…\"").arg(start));
     QCOMPARE(noArgument[QStringLiteral("error")][QStringLiteral("data")],
              QJsonValue(QJsonObject{{QStringLiteral("argument"), start + QStringLiteral("…")}}));
-    // The hundredth character takes two code units, of which there is room for one.
+    // The hundredth character needs two code units, but only one would fit.
     const QJsonObject pair = client.call(QByteArray(99, 'n') + "😀😀");
     QCOMPARE(errorMessage(pair),
              QStringLiteral("Method not found: %1…").arg(QString(99, QLatin1Char('n'))));
@@ -426,7 +426,7 @@ void tst_VXIPCMethods::answersUnderTheId()
     QCOMPARE(answer[QStringLiteral("result")].toInt(), 1);
 }
 
-void tst_VXIPCMethods::hidesWhatIsNotAnEndpointsOwn_data()
+void tst_VXIPCMethods::hidesWhatTheEndpointDoesNotDeclare_data()
 {
     QTest::addColumn<QByteArray>("method");
     QTest::addColumn<QByteArray>("parameters");
@@ -449,7 +449,7 @@ void tst_VXIPCMethods::hidesWhatIsNotAnEndpointsOwn_data()
     row("echo(QString)", R"(["a"])");
 }
 
-void tst_VXIPCMethods::hidesWhatIsNotAnEndpointsOwn()
+void tst_VXIPCMethods::hidesWhatTheEndpointDoesNotDeclare()
 {
     QFETCH(const QByteArray, method);
     QFETCH(const QByteArray, parameters);
@@ -544,17 +544,17 @@ void tst_VXIPCMethods::answersABatch()
     QCOMPARE(answers[3][QStringLiteral("result")], parsed(R"(["n"])"));
 }
 
-void tst_VXIPCMethods::answersNothingToABatchOfNotifications()
+void tst_VXIPCMethods::doesNotAnswerABatchOfNotifications()
 {
     RawClient client(serverName());
     client.send(R"([{"jsonrpc":"2.0","method":"note","params":["a"]},)"
                 R"({"jsonrpc":"2.0","method":"note","params":["b"]}])"
                 "\n");
-    // The next line to come is the answer to this, which shows that there was none before.
+    // The next line is the answer to this call, so the batch had none.
     QCOMPARE(client.call("notes")[QStringLiteral("result")], parsed(R"(["a","b"])"));
 }
 
-void tst_VXIPCMethods::refusesWhatIsNoBatch()
+void tst_VXIPCMethods::refusesInvalidBatches()
 {
     RawClient client(serverName());
     QCOMPARE(errorCode(object(client.exchange("[]"))), -32600);
@@ -564,7 +564,7 @@ void tst_VXIPCMethods::refusesWhatIsNoBatch()
         QCOMPARE(errorCode(answer.toObject()), -32600);
 }
 
-void tst_VXIPCMethods::answersNoNotification()
+void tst_VXIPCMethods::doesNotAnswerNotifications()
 {
     RawClient client(serverName());
     client.send(R"({"jsonrpc":"2.0","method":"note","params":["a"]})"
@@ -580,7 +580,7 @@ void tst_VXIPCMethods::readsLinesAsTheyCome()
 {
     RawClient client(serverName());
     const QByteArray line = R"({"jsonrpc":"2.0","id":1,"method":"notes"})";
-    // A piece at a time, each on its own way before the next.
+    // One byte at a time, each sent before the next.
     for (const char byte : line) {
         client.send(QByteArray(1, byte));
         QVERIFY(QTest::qWaitFor([&] {

@@ -38,7 +38,7 @@ namespace {
 
 #ifdef Q_OS_UNIX
 
-/// The error number that a process of the user has when it connects to the socket; 0 for none.
+/// The error number that a process of `user` gets when it connects to the socket; 0 for success.
 int connectionFault(const QByteArray& address, uid_t user)
 {
     const pid_t child = fork();
@@ -74,7 +74,7 @@ bool isThisUser(PSID user)
 
 #endif
 
-/// An endpoint that lives on a thread of its own, with which it ends.
+/// An endpoint on a thread of its own.
 class ServiceOnThread
 {
 public:
@@ -105,13 +105,13 @@ class tst_VXIPCPublishing : public IpcServerTest
 private Q_SLOTS:
     void isPublishedWhenTheEventLoopRuns();
     void isPublishedOnItsThread();
-    void servesWhoComesAsItIsPublished();
+    void servesClientsThatConnectAsItIsPublished();
     void addsTheProcessIdToATakenName();
     void addsTheProcessIdWhenAnotherProcessHoldsTheName();
     void leavesTheNameToAProcessThatIsStopped();
     void takesTheNameOfADeadProcess();
     void leavesNoSocketBehind();
-    void letsOnlyTheUserIn();
+    void admitsOnlyTheUser();
     void keepsOtherUsersOut();
     void isNotPublishedWhereOthersMayWrite_data();
     void isNotPublishedWhereOthersMayWrite();
@@ -138,12 +138,13 @@ void tst_VXIPCPublishing::isPublishedOnItsThread()
     QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
 }
 
-void tst_VXIPCPublishing::servesWhoComesAsItIsPublished()
+void tst_VXIPCPublishing::servesClientsThatConnectAsItIsPublished()
 {
     for (int round = 0; round < 60; ++round) {
         const int serverType = newServerType();
         const ServiceOnThread service(serverType);
-        // The first client that gets in at all comes while the endpoint prepares for the next ones.
+        // The first client that can connect at all does so while the endpoint prepares for the
+        // next.
         const QString name = QStringLiteral("vxipc-%1").arg(serverType);
         while (!RawClient(name).isConnected())
             QThread::yieldCurrentThread();
@@ -186,7 +187,7 @@ void tst_VXIPCPublishing::addsTheProcessIdWhenAnotherProcessHoldsTheName()
     service.log = {QStringLiteral("here")};
     RawClient client(service.serverName());
     QCOMPARE(client.call("notes")[QStringLiteral("result")], parsed(R"(["here"])"));
-    // And the other is where it was.
+    // The other endpoint has kept its name.
     RawClient otherClient(name);
     QCOMPARE(otherClient.call("notes")[QStringLiteral("result")], parsed("[]"));
 }
@@ -194,7 +195,7 @@ void tst_VXIPCPublishing::addsTheProcessIdWhenAnotherProcessHoldsTheName()
 void tst_VXIPCPublishing::leavesTheNameToAProcessThatIsStopped()
 {
 #ifdef Q_OS_UNIX
-    // It does not answer, but somebody does for it: the system, which takes its connections.
+    // The process does not answer, but the system accepts connections for it.
     const int serverType = newServerType();
     const QString name = QStringLiteral("vxipc-%1").arg(serverType);
     HostProcess other(serverType);
@@ -234,7 +235,7 @@ void tst_VXIPCPublishing::leavesNoSocketBehind()
 #endif
 }
 
-void tst_VXIPCPublishing::letsOnlyTheUserIn()
+void tst_VXIPCPublishing::admitsOnlyTheUser()
 {
 #ifdef Q_OS_UNIX
     const QFileInfo socket(VXIPCClient::address(serverName()));
@@ -272,8 +273,8 @@ void tst_VXIPCPublishing::keepsOtherUsersOut()
 {
 #ifdef Q_OS_UNIX
     if (geteuid() != 0)
-        QSKIP("Only root can try it as another user");
-    // In a folder that others may enter, so that it is the socket that keeps them out.
+        QSKIP("Only root can connect as another user");
+    // In a folder that others may enter, so that the socket has to keep them out.
     const QTemporaryDir folder;
     QVERIFY(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner |
                                                      QFile::ExeOwner | QFile::ReadOther |
@@ -286,7 +287,7 @@ void tst_VXIPCPublishing::keepsOtherUsersOut()
     constexpr uid_t nobody = 65534;
     QCOMPARE(connectionFault(address, nobody), EACCES);
 #else
-    QSKIP("A test cannot log another user in");
+    QSKIP("A test cannot log in as another user");
 #endif
 }
 
@@ -335,7 +336,7 @@ void tst_VXIPCPublishing::isNotPublishedWhereOthersMayWrite()
     QCOMPARE(service.serverName(), QString());
     QCOMPARE(service.echo(QStringLiteral("here")), QStringLiteral("here"));
 #else
-    QSKIP("Pipes are in no folder");
+    QSKIP("Pipes are not in a folder");
 #endif
 }
 

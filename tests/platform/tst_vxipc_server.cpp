@@ -55,7 +55,7 @@ QByteArray requestOfSize(qsizetype size)
     return begin + QByteArray(size - begin.size() - 1, ' ') + '}';
 }
 
-/// Destroys something from the event loop, before whatever else waits there to be done.
+/// Destroys something from the event loop, ahead of all other pending events.
 class Destroyer : public QObject
 {
 public:
@@ -94,25 +94,25 @@ private Q_SLOTS:
     void countsTheValuesOfALine_data();
     void countsTheValuesOfALine();
     void refusesTheClientThatIsOneTooMany();
-    void takesAClientInThePlaceOfOneThatLeft();
-    void carriesOutNothingForARefusedClient();
+    void servesANewClientInPlaceOfOneThatLeft();
+    void handlesNothingForARefusedClient();
     void sendsAnAnswerOfTheGreatestLength();
     void refusesAnAnswerThatIsTooLong();
-    void closesAClientThatTakesNoAnswers();
-    void closesAClientWhoseBatchAsksForTooMuch();
-    void outlivesAClientThatDies_data();
-    void outlivesAClientThatDies();
-    void doesWhatAClientSentBeforeItLeft_data();
-    void doesWhatAClientSentBeforeItLeft();
+    void disconnectsAClientThatReadsNoAnswers();
+    void disconnectsAClientWhoseBatchAsksForTooMuch();
+    void survivesAClientThatDies_data();
+    void survivesAClientThatDies();
+    void handlesWhatAClientSentBeforeItLeft_data();
+    void handlesWhatAClientSentBeforeItLeft();
     void servesOthersDuringALongBatch();
     void takesCallsDuringACall();
-    void goesOnWithOthersDuringACall();
-    void readsNoMoreThanItWorksOn();
-    void letsTheClientGoThatWasSilentLongest();
-    void letsAnotherClientGoForEachThatComes();
-    void letsNoClientGoThatWaitsForAnAnswer();
+    void continuesOtherBatchesDuringACall();
+    void readsNoMoreThanItHandles();
+    void replacesTheClientThatWasSilentLongest();
+    void replacesOneSilentClientForEachNewOne();
+    void keepsClientsThatWaitForAnAnswer();
     void mayBeDestroyedByACall();
-    void mayBeDestroyedWithLongLinesInWork();
+    void mayBeDestroyedWhileLongLinesAreParsed();
     void mayBeDestroyedAsAClientLeavesAfterALongBadLine();
 };
 
@@ -181,7 +181,7 @@ void tst_VXIPCServer::countsTheValuesOfALine_data()
     QTest::newRow("lists") << request(list(mostValues / 2, "[]")) << -32600;
     QTest::newRow("objects") << request(list(mostValues / 2, "{}")) << -32600;
     QTest::newRow("members") << request('{' + entries(mostValues, R"("a":1)") + '}') << -32600;
-    // Signs in a text are none of JSON's.
+    // Punctuation within a text does not count.
     const QByteArray text(mostValues, ',');
     QTest::newRow("signs in a text") << request("[\"" + text + "\"]") << -32602;
     QTest::newRow("signs behind a quotation mark in a text")
@@ -218,11 +218,11 @@ void tst_VXIPCServer::refusesTheClientThatIsOneTooMany()
     }));
 }
 
-void tst_VXIPCServer::takesAClientInThePlaceOfOneThatLeft()
+void tst_VXIPCServer::servesANewClientInPlaceOfOneThatLeft()
 {
     Clients clients = fillPlaces(serverName());
     QCOMPARE(clients.size(), places);
-    // It is connected for a while yet, but takes nobody's place.
+    // It stays connected for a while, but takes up no place.
     RawClient refused(serverName());
     QCOMPARE(errorCode(refused.call("scale", "[1]")), -32001);
     clients.pop_back();
@@ -231,7 +231,7 @@ void tst_VXIPCServer::takesAClientInThePlaceOfOneThatLeft()
     QVERIFY(isServed(next));
 }
 
-void tst_VXIPCServer::carriesOutNothingForARefusedClient()
+void tst_VXIPCServer::handlesNothingForARefusedClient()
 {
     Clients clients = fillPlaces(serverName());
     QCOMPARE(clients.size(), places);
@@ -246,7 +246,7 @@ void tst_VXIPCServer::carriesOutNothingForARefusedClient()
 void tst_VXIPCServer::sendsAnAnswerOfTheGreatestLength()
 {
     RawClient client(serverName());
-    // Base64 makes four of three bytes, and the identifier's digits fill up what is around it.
+    // Base64 turns three bytes into four. The digits of the id make up the exact length.
     const QByteArray line =
         client.exchange(R"({"jsonrpc":"2.0","id":1000,"method":"zeroes","params":[3145698]})");
     QCOMPARE(line.size() + 1, 4 * mebibyte);
@@ -256,7 +256,7 @@ void tst_VXIPCServer::sendsAnAnswerOfTheGreatestLength()
 void tst_VXIPCServer::refusesAnAnswerThatIsTooLong()
 {
     RawClient client(serverName());
-    // Base64 makes more than four of three mebibytes.
+    // With what surrounds it, the base64 of three mebibytes is longer than four.
     const QJsonObject answer = client.call("zeroes", "[3145728]");
     QCOMPARE(errorCode(answer), -32002);
     QCOMPARE(answer[QStringLiteral("id")].toInt(), 1);
@@ -264,7 +264,7 @@ void tst_VXIPCServer::refusesAnAnswerThatIsTooLong()
              QStringLiteral("AAAA"));
 }
 
-void tst_VXIPCServer::closesAClientThatTakesNoAnswers()
+void tst_VXIPCServer::disconnectsAClientThatReadsNoAnswers()
 {
     RawClient bystander(serverName());
     RawClient client(serverName());
@@ -275,13 +275,13 @@ void tst_VXIPCServer::closesAClientThatTakesNoAnswers()
                     "\n");
     client.send(R"({"jsonrpc":"2.0","method":"note","params":["never reached"]})"
                 "\n");
-    // Seen at the endpoint, as the client looks no more.
+    // Seen at the endpoint, as the client does not read any more.
     QTRY_COMPARE(m_service->findChildren<QLocalSocket*>().size(), 1);
     QVERIFY(m_service->log.isEmpty());
     QCOMPARE(bystander.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
 }
 
-void tst_VXIPCServer::closesAClientWhoseBatchAsksForTooMuch()
+void tst_VXIPCServer::disconnectsAClientWhoseBatchAsksForTooMuch()
 {
     RawClient bystander(serverName());
     RawClient client(serverName());
@@ -291,7 +291,7 @@ void tst_VXIPCServer::closesAClientWhoseBatchAsksForTooMuch()
     QCOMPARE(bystander.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
 }
 
-void tst_VXIPCServer::outlivesAClientThatDies_data()
+void tst_VXIPCServer::survivesAClientThatDies_data()
 {
     QTest::addColumn<QByteArray>("bytes");
 
@@ -306,7 +306,7 @@ void tst_VXIPCServer::outlivesAClientThatDies_data()
                "1]\n";
 }
 
-void tst_VXIPCServer::outlivesAClientThatDies()
+void tst_VXIPCServer::survivesAClientThatDies()
 {
     QFETCH(const QByteArray, bytes);
 
@@ -321,7 +321,7 @@ void tst_VXIPCServer::outlivesAClientThatDies()
     }
 }
 
-void tst_VXIPCServer::doesWhatAClientSentBeforeItLeft_data()
+void tst_VXIPCServer::handlesWhatAClientSentBeforeItLeft_data()
 {
     QTest::addColumn<int>("lines");
     QTest::addColumn<int>("lineLength");
@@ -330,7 +330,7 @@ void tst_VXIPCServer::doesWhatAClientSentBeforeItLeft_data()
     QTest::newRow("long lines") << 10 << 300000;
 }
 
-void tst_VXIPCServer::doesWhatAClientSentBeforeItLeft()
+void tst_VXIPCServer::handlesWhatAClientSentBeforeItLeft()
 {
     QFETCH(const int, lines);
     QFETCH(const int, lineLength);
@@ -349,7 +349,7 @@ void tst_VXIPCServer::servesOthersDuringALongBatch()
 {
     RawClient busy(serverName());
     RawClient quick(serverName());
-    // Ten times this line's time is more than the quick client has.
+    // The quick client has far less time than this batch takes.
     const QByteArray slow = R"({"jsonrpc":"2.0","id":1,"method":"block","params":[1]})";
     busy.send('[' + (slow + ',').repeated(2000) + slow + "]\n");
     QVERIFY(QTest::qWaitFor([&] {
@@ -363,7 +363,7 @@ void tst_VXIPCServer::servesOthersDuringALongBatch()
 
 void tst_VXIPCServer::takesCallsDuringACall()
 {
-    // In another process: here the call's event loop would run this test's.
+    // In another process: in this one, the call would run its event loop within this test's.
     HostProcess host(newServerType());
     RawClient waiting(host.serverName());
     RawClient other(host.serverName());
@@ -372,7 +372,7 @@ void tst_VXIPCServer::takesCallsDuringACall()
                  R"({"jsonrpc":"2.0","id":"n","method":"notes"})"
                  "\n");
     QTRY_VERIFY(other.call("isWaiting")[QStringLiteral("result")].toBool());
-    // A client's calls are made one after the other.
+    // The calls of one client are made one after the other.
     QVERIFY(!waiting.socket().canReadLine());
     QVERIFY(other.call("release").contains(QStringLiteral("result")));
     QCOMPARE(object(waiting.receive())[QStringLiteral("result")].toString(),
@@ -380,14 +380,14 @@ void tst_VXIPCServer::takesCallsDuringACall()
     QCOMPARE(object(waiting.receive())[QStringLiteral("id")].toString(), QStringLiteral("n"));
 }
 
-void tst_VXIPCServer::goesOnWithOthersDuringACall()
+void tst_VXIPCServer::continuesOtherBatchesDuringACall()
 {
     HostProcess host(newServerType());
     RawClient other(host.serverName());
     RawClient waiting(host.serverName());
     RawClient watching(host.serverName());
-    // Each of these calls takes more than a client's turn, so that both batches wait for the next
-    // one again and again, and the other's does when the call begins.
+    // Each of these calls takes longer than a turn, so both batches wait for their next turn again
+    // and again. The other client's batch is waiting when the call begins.
     const QByteArray slow = R"({"jsonrpc":"2.0","method":"block","params":[1]},)";
     other.send(R"([{"jsonrpc":"2.0","method":"note","params":["begun"]},)" + slow.repeated(500) +
                R"({"jsonrpc":"2.0","id":"r","method":"release"}])"
@@ -402,7 +402,7 @@ void tst_VXIPCServer::goesOnWithOthersDuringACall()
     QCOMPARE(parsed(other.receive())[0][QStringLiteral("id")].toString(), QStringLiteral("r"));
 }
 
-void tst_VXIPCServer::readsNoMoreThanItWorksOn()
+void tst_VXIPCServer::readsNoMoreThanItHandles()
 {
     HostProcess host(newServerType());
     RawClient busy(host.serverName());
@@ -410,8 +410,8 @@ void tst_VXIPCServer::readsNoMoreThanItWorksOn()
     busy.send(R"({"jsonrpc":"2.0","id":"w","method":"wait"})"
               "\n");
     QTRY_VERIFY(other.call("isWaiting")[QStringLiteral("result")].toBool());
-    // Stays with the client but for what the system takes and one piece that the endpoint reads.
-    // After each round of calls the endpoint has had a hundred chances to read more.
+    // These bytes stay with the client, except for what the system buffers and one piece that the
+    // endpoint reads. In each round of calls the endpoint has a hundred chances to read more.
     busy.send(QByteArray(8 * mebibyte, '\n'));
     qint64 before = 0;
     do {
@@ -426,7 +426,7 @@ void tst_VXIPCServer::readsNoMoreThanItWorksOn()
     QVERIFY(isServed(busy));
 }
 
-void tst_VXIPCServer::letsTheClientGoThatWasSilentLongest()
+void tst_VXIPCServer::replacesTheClientThatWasSilentLongest()
 {
     m_service->findChild<IpcPublisher*>()->setPatience(0ms);
     Clients clients = fillPlaces(serverName());
@@ -442,7 +442,7 @@ void tst_VXIPCServer::letsTheClientGoThatWasSilentLongest()
         QVERIFY(isServed(*client));
 }
 
-void tst_VXIPCServer::letsAnotherClientGoForEachThatComes()
+void tst_VXIPCServer::replacesOneSilentClientForEachNewOne()
 {
     m_service->findChild<IpcPublisher*>()->setPatience(0ms);
     Clients clients = fillPlaces(serverName());
@@ -455,9 +455,9 @@ void tst_VXIPCServer::letsAnotherClientGoForEachThatComes()
     QCOMPARE(errorCode(object(clients[1]->receive())), -32001);
 }
 
-void tst_VXIPCServer::letsNoClientGoThatWaitsForAnAnswer()
+void tst_VXIPCServer::keepsClientsThatWaitForAnAnswer()
 {
-    // On another thread, as the call that is waited for runs an event loop of its own.
+    // On another thread, as the pending call runs an event loop of its own.
     QThread thread;
     auto* service = new TestService(newServerType());
     QTRY_VERIFY(!service->serverName().isEmpty());
@@ -498,9 +498,9 @@ void tst_VXIPCServer::mayBeDestroyedByACall()
     QVERIFY(!service);
 }
 
-void tst_VXIPCServer::mayBeDestroyedWithLongLinesInWork()
+void tst_VXIPCServer::mayBeDestroyedWhileLongLinesAreParsed()
 {
-    // Ends wherever the work has come to, on either thread.
+    // Each round destroys the endpoint at another stage of the work, on either thread.
     for (int round = 0; round < 20; ++round) {
         std::vector<std::unique_ptr<RawClient>> clients;
         for (int i = 0; i < 3; ++i) {
