@@ -52,12 +52,15 @@ Q_SIGNALS:
 private:
     /// What the connection does about the client's requests.
     ///
-    ///     Idle, Resting   the client sends or leaves      -> InTurn (Idle), Queued (Resting)
-    ///     Queued          the endpoint grants the turn    -> InTurn
-    ///     InTurn          everything is done              -> Idle; Resting after a whole turn
-    ///                     the time is up                  -> Queued
-    ///                     a long line comes               -> Parsing
-    ///     Parsing         the line is parsed              -> Queued
+    ///     Idle      the client sends or leaves               -> InTurn
+    ///     Resting   the client sends or leaves               -> Queued
+    ///     Queued    takeTurn()                               -> InTurn
+    ///     InTurn    everything is done                       -> Idle
+    ///               everything is done in the whole time     -> Resting
+    ///               the time is up, but there is more to do  -> Queued
+    ///               a long line arrives                      -> Parsing
+    ///     Parsing   the line is parsed                       -> Queued
+    ///               the line is dropped                      -> Idle
     enum class Work : quint8
     {
         /// Nothing is to be done. What the client sends next is handled at once.
@@ -76,10 +79,10 @@ private:
 
     /// What the client may still expect.
     ///
-    ///     Served    refuse(), or too many unread answers   -> Refused
-    ///               the client disconnects                 -> Left
-    ///     Refused   the client disconnects, or is cut off  -> Gone
-    ///     Left      a line is too long, or the answers are -> Gone
+    ///     Served    refuse(), or too many unread answers     -> Refused
+    ///               the client disconnects                   -> Left
+    ///     Refused   the client disconnects, or is made to    -> Gone
+    ///     Left      refuse(), or too long answers            -> Gone
     enum class Client : quint8
     {
         /// Its requests are handled and answered.

@@ -88,7 +88,7 @@ private:
     struct Call
     {
         QDeadlineTimer deadline;
-        /// Who gets the outcome: a caller with a callback, or one that waits.
+        /// Where the outcome goes: to a callback, or to the function that waits for it.
         Callback done;
         std::optional<VXIPCReply>* awaited = nullptr;
     };
@@ -106,17 +106,18 @@ private:
     void onDisconnected();
     void onLateness();
 
-    /// These end calls. Callbacks are not called before deliver(), so nothing of this object
-    /// changes or is destroyed meanwhile.
+    /// These end calls, but call no callbacks. deliver() does that afterwards.
     void readAnswers();
     bool takeAnswer(QByteArrayView line);
     void finish(qint64 id, const VXIPCReply& reply);
     void finishAll(const VXIPCReply& reply);
     void giveUp(const QString& reason);
 
-    /// Calls the callbacks. Any of them may call again, wait, or destroy the client.
+    /// Calls the callbacks. Each of them may make further calls, wait, or destroy the client.
     void deliver();
+    /// Has the event loop do it.
     void deliverLater();
+    /// Does it now, or later if a call is being waited for.
     void deliverUnlessWaiting();
 
     void watch(const QDeadlineTimer& deadline);
@@ -165,8 +166,7 @@ VXIPCClient::Private::~Private()
     m_socket->disconnect(&q);
     if (m_socketSignals == 0)
         return;
-    // The client is destroyed by what a signal of the socket led to. The socket has to outlive the
-    // signal.
+    // A signal of the socket led to the client's destruction. The socket has to outlive the signal.
     m_socket->setParent(nullptr);
     m_socket->abort();
     m_socket->deleteLater();
