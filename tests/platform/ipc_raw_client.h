@@ -20,6 +20,17 @@ inline int newServerType()
     return static_cast<int>(QCoreApplication::applicationPid() % 2'000'000) * 1000 + ++count;
 }
 
+/// The name under which a service is published, and the one with the process id that it takes when
+/// the first is in use.
+inline QString nameOf(int serverType)
+{
+    return QStringLiteral("vxipc-%1").arg(serverType);
+}
+inline QString ownNameOf(int serverType)
+{
+    return QStringLiteral("vxipc-%1-%2").arg(serverType).arg(QCoreApplication::applicationPid());
+}
+
 /// A client that sends and receives bytes as they are.
 class RawClient
 {

@@ -22,11 +22,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-QString nameOf(int serverType)
-{
-    return QStringLiteral("vxipc-%1").arg(serverType);
-}
-
 /// A server that answers every connection's lines with the same bytes.
 class OddServer : public QLocalServer
 {

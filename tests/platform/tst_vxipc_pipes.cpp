@@ -78,16 +78,6 @@ QString userOfProcess()
     return text(reinterpret_cast<const TOKEN_USER*>(user.data())->User.Sid);
 }
 
-QString nameOf(int serverType)
-{
-    return QStringLiteral("vxipc-%1").arg(serverType);
-}
-
-QString ownNameOf(int serverType)
-{
-    return QStringLiteral("vxipc-%1-%2").arg(serverType).arg(QCoreApplication::applicationPid());
-}
-
 QString pathOf(const QString& name)
 {
     return QStringLiteral(R"(\\.\pipe\)") + VXIPCClient::address(name);

@@ -132,7 +132,7 @@ void tst_VXIPCPublishing::isPublishedOnItsThread()
 {
     const int serverType = newServerType();
     const ServiceOnThread service(serverType);
-    const QString name = QStringLiteral("vxipc-%1").arg(serverType);
+    const QString name = nameOf(serverType);
     QTRY_VERIFY(RawClient(name).isConnected());
     RawClient client(name);
     QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
@@ -145,7 +145,7 @@ void tst_VXIPCPublishing::servesClientsThatConnectAsItIsPublished()
         const ServiceOnThread service(serverType);
         // The first client that can connect at all does so while the endpoint prepares for the
         // next.
-        const QString name = QStringLiteral("vxipc-%1").arg(serverType);
+        const QString name = nameOf(serverType);
         while (!RawClient(name).isConnected())
             QThread::yieldCurrentThread();
         RawClient client(name);
@@ -156,9 +156,8 @@ void tst_VXIPCPublishing::servesClientsThatConnectAsItIsPublished()
 void tst_VXIPCPublishing::addsTheProcessIdToATakenName()
 {
     const int serverType = newServerType();
-    const QString name = QStringLiteral("vxipc-%1").arg(serverType);
-    const QString withProcess =
-        name + QLatin1Char('-') + QString::number(QCoreApplication::applicationPid());
+    const QString name = nameOf(serverType);
+    const QString withProcess = ownNameOf(serverType);
     TestService first(serverType);
     QTRY_COMPARE(first.serverName(), name);
     TestService second(serverType);
@@ -177,13 +176,12 @@ void tst_VXIPCPublishing::addsTheProcessIdToATakenName()
 void tst_VXIPCPublishing::addsTheProcessIdWhenAnotherProcessHoldsTheName()
 {
     const int serverType = newServerType();
-    const QString name = QStringLiteral("vxipc-%1").arg(serverType);
+    const QString name = nameOf(serverType);
     HostProcess other(serverType);
     QCOMPARE(other.serverName(), name);
 
     TestService service(serverType);
-    QTRY_COMPARE(service.serverName(),
-                 name + QLatin1Char('-') + QString::number(QCoreApplication::applicationPid()));
+    QTRY_COMPARE(service.serverName(), ownNameOf(serverType));
     service.log = {QStringLiteral("here")};
     RawClient client(service.serverName());
     QCOMPARE(client.call("notes")[QStringLiteral("result")], parsed(R"(["here"])"));
@@ -197,14 +195,13 @@ void tst_VXIPCPublishing::leavesTheNameToAProcessThatIsStopped()
 #ifdef Q_OS_UNIX
     // The process does not answer, but the system accepts connections for it.
     const int serverType = newServerType();
-    const QString name = QStringLiteral("vxipc-%1").arg(serverType);
+    const QString name = nameOf(serverType);
     HostProcess other(serverType);
     QCOMPARE(other.serverName(), name);
     QCOMPARE(kill(static_cast<pid_t>(other.processId()), SIGSTOP), 0);
     const auto goOn = qScopeGuard([&] { kill(static_cast<pid_t>(other.processId()), SIGCONT); });
     TestService service(serverType);
-    QTRY_COMPARE(service.serverName(),
-                 name + QLatin1Char('-') + QString::number(QCoreApplication::applicationPid()));
+    QTRY_COMPARE(service.serverName(), ownNameOf(serverType));
 #else
     QSKIP("Windows has no signal that stops a process");
 #endif
@@ -213,7 +210,7 @@ void tst_VXIPCPublishing::leavesTheNameToAProcessThatIsStopped()
 void tst_VXIPCPublishing::takesTheNameOfADeadProcess()
 {
     const int serverType = newServerType();
-    const QString name = QStringLiteral("vxipc-%1").arg(serverType);
+    const QString name = nameOf(serverType);
     {
         HostProcess other(serverType);
         QCOMPARE(other.serverName(), name);

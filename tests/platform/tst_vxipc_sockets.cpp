@@ -44,16 +44,6 @@ namespace {
 constexpr auto runtimeFolder = "XDG_RUNTIME_DIR";
 constexpr uid_t nobody = 65534;
 
-QString nameOf(int serverType)
-{
-    return QStringLiteral("vxipc-%1").arg(serverType);
-}
-
-QString ownNameOf(int serverType)
-{
-    return QStringLiteral("vxipc-%1-%2").arg(serverType).arg(QCoreApplication::applicationPid());
-}
-
 /// Takes the name of a service and the first `count` names with the process id. False when one
 /// could not be taken.
 bool takeNames(const QDir& folder, int serverType, int count)
