@@ -36,13 +36,13 @@ inline QByteArray textOfSize(qsizetype size)
     return '"' + QByteArray(size, 'x') + '"';
 }
 
-/// What is between the brackets of a list with as many equal entries.
+/// `count` equal entries of a list, without its brackets.
 inline QByteArray entries(qsizetype count, const QByteArray& entry)
 {
     return entry + (',' + entry).repeated(count - 1);
 }
 
-/// A list with as many equal entries.
+/// A list of `count` equal entries.
 inline QByteArray list(qsizetype count, const QByteArray& entry)
 {
     return '[' + entries(count, entry) + ']';
