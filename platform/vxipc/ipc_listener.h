@@ -30,6 +30,7 @@ public:
     };
 
     explicit IpcListener(QObject* parent);
+    ~IpcListener() override = default;
     /// Creates the listener of this system.
     static std::unique_ptr<IpcListener> create(QObject* parent);
     Q_DISABLE_COPY_MOVE(IpcListener)

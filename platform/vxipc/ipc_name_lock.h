@@ -24,8 +24,7 @@ public:
     explicit IpcNameLock(QByteArray path);
     /// Removes the file of a lock that is held.
     ~IpcNameLock();
-    IpcNameLock(const IpcNameLock&) = delete;
-    IpcNameLock& operator=(const IpcNameLock&) = delete;
+    Q_DISABLE_COPY_MOVE(IpcNameLock)
 
     /// Tries until `end`, but at least once, while another process holds the lock.
     Outcome lock(QDeadlineTimer end);
