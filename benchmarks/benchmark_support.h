@@ -32,7 +32,7 @@ double median(const std::vector<double>& samples);
 /// Microseconds that the calling thread has had a processor for.
 double processorTime();
 
-/// What the library and its floor took.
+/// Times of the library and of its floor.
 struct Samples
 {
     std::vector<double> library;
@@ -44,8 +44,8 @@ struct Samples
     double ratio(double share = 0.5) const;
 };
 
-/// Who goes first changes from sample to sample, so that neither side always finds what the other
-/// left behind in caches and in the scheduler.
+/// Lets the two sides take turns in going first, so that neither always finds the caches and the
+/// scheduler as the other left them.
 class Turns
 {
 public:

@@ -14,19 +14,18 @@ namespace {
 
 using WindowsSecurity::OwnedHandle;
 
-/// Waits for an end of the pipe to be free. Null with Windows' reason in GetLastError().
+/// Waits for a free instance of the pipe. Null on failure, with the reason in GetLastError().
 OwnedHandle openPipe(const QString& path, std::chrono::milliseconds limit)
 {
     const QDeadlineTimer end(limit);
     for (;;) {
-        // The other end may learn who this is and nothing else: by default it could act as this
-        // user.
+        // The server may identify this user, but not impersonate him, which it could by default.
         OwnedHandle pipe = WindowsSecurity::owned(CreateFileW(
             qUtf16Printable(path), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
             FILE_FLAG_OVERLAPPED | SECURITY_SQOS_PRESENT | SECURITY_IDENTIFICATION, nullptr));
         if (pipe || GetLastError() != ERROR_PIPE_BUSY || end.hasExpired())
             return pipe;
-        // 0 stands for the pipe's own time.
+        // 0 would stand for the pipe's own default time-out.
         WaitNamedPipeW(qUtf16Printable(path),
                        static_cast<DWORD>(std::max<qint64>(end.remainingTime(), 1)));
     }

@@ -33,7 +33,7 @@ Request readRequest(const QJsonObject& object)
             object.value(QLatin1String("params")), object.value(QLatin1String("id"))};
 }
 
-/// Why `request` is none, or an empty text.
+/// Why `request` is invalid; empty if it is valid.
 QString defectOf(const Request& request)
 {
     if (request.version.toString() != QLatin1String("2.0"))
@@ -49,8 +49,8 @@ QString defectOf(const Request& request)
     return {};
 }
 
-/// Whether there are more values in `line` than are read, those in others included. Of a line that
-/// is no JSON the answer may be either.
+/// Whether `line` holds more values than an endpoint reads, nested ones included. For a line that
+/// is not JSON the answer may be either.
 bool hasTooManyValues(QByteArrayView line)
 {
     if (line.size() <= JsonRpc::maximumLineValues)
@@ -60,7 +60,7 @@ bool hasTooManyValues(QByteArrayView line)
     for (qsizetype i = 0; i < line.size(); ++i) {
         const char character = line[i];
         if (isInText && character == '\\')
-            ++i; // the next one is part of the text, even a quotation mark
+            ++i; // the next character is part of the text, even a quotation mark
         else if (character == '"')
             isInText = !isInText;
         else if (!isInText && (character == ',' || character == '[' || character == '{'))
@@ -82,14 +82,15 @@ IpcDispatcher::IpcDispatcher(QObject& object, const QMetaObject& base, QString t
     : m_methods(object, base)
     , m_title(std::move(title))
 {
-    // One, so that clients who send much get no more of the machine by being many.
-    m_aside.setMaxThreadCount(1);
-    m_aside.setThreadPriority(QThread::LowPriority);
+    // A single thread, so that many clients that send long lines get no more of the machine than
+    // one.
+    m_background.setMaxThreadCount(1);
+    m_background.setThreadPriority(QThread::LowPriority);
 }
 
 IpcDispatcher::~IpcDispatcher()
 {
-    m_aside.clear();
+    m_background.clear();
 }
 
 IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
@@ -123,12 +124,12 @@ IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
     return message;
 }
 
-QFuture<IpcDispatcher::Message> IpcDispatcher::parseAside(QByteArray line)
+QFuture<IpcDispatcher::Message> IpcDispatcher::parseInBackground(QByteArray line)
 {
     // Shared, because the pool wants to be able to copy what it runs.
     const auto promise = std::make_shared<QPromise<Message>>();
     promise->start();
-    m_aside.start([promise, line = std::move(line)] {
+    m_background.start([promise, line = std::move(line)] {
         Message message = parse(line);
         message.isLong = true;
         promise->addResult(std::move(message));
@@ -137,9 +138,9 @@ QFuture<IpcDispatcher::Message> IpcDispatcher::parseAside(QByteArray line)
     return promise->future();
 }
 
-void IpcDispatcher::discardAside(Message message)
+void IpcDispatcher::discardInBackground(Message message)
 {
-    m_aside.start([message = std::move(message)] { Q_UNUSED(message) });
+    m_background.start([message = std::move(message)] { Q_UNUSED(message) });
 }
 
 std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& value) const

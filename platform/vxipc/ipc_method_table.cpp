@@ -18,13 +18,13 @@ JsonRpc::Error invalidParams(const QString& message, const QJsonObject& data = {
     return {JsonRpc::InvalidParams, QStringLiteral("Invalid params: ") + message, data};
 }
 
-/// As much of a name that a client sent as an error message repeats.
+/// The part of a name from a client that an error message repeats.
 QString excerpt(const QString& name)
 {
     constexpr qsizetype longestShown = 100;
     if (name.size() <= longestShown)
         return name;
-    // No half of a character that takes two.
+    // Keep surrogate pairs whole.
     return name.first(name.at(longestShown - 1).isHighSurrogate() ? longestShown - 1
                                                                   : longestShown) +
            QStringLiteral("…");
@@ -90,7 +90,7 @@ std::optional<IpcMethodTable::Method> IpcMethodTable::readMethod(const QMetaMeth
 void IpcMethodTable::add(const Method& method)
 {
     QList<qsizetype>& overloads = m_overloads[QString::fromUtf8(method.slot.name())];
-    // A class that overrides a slot lists it once more; the first is the service's own, and the
+    // A class that overrides a slot lists it once more. The first entry is the interface's own; the
     // call is virtual either way.
     const bool isListed = std::any_of(overloads.cbegin(), overloads.cend(), [&](qsizetype listed) {
         return m_methods.at(listed).slot.methodSignature() == method.slot.methodSignature();
@@ -150,9 +150,9 @@ IpcMethodTable::Match IpcMethodTable::choose(const QString& name,
             JsonRpc::MethodNotFound, QStringLiteral("Method not found: %1").arg(excerpt(name)), {}};
         return none;
     }
-    // Of those that fit, the best; of those that do not, the one that came closest says why.
+    // The overload that fits best is chosen. If none fits, the closest one says why.
     const auto rank = [](const Match& each) {
-        return std::tuple(!each.error.has_value(), each.isOfRightCount, each.fit);
+        return std::tuple(!each.error.has_value(), each.arityMatches, each.fit);
     };
     Match best = match(m_methods.at(overloads->first()), parameters);
     for (qsizetype i = 1; i < overloads->size(); ++i) {
@@ -224,7 +224,7 @@ IpcMethodTable::Match IpcMethodTable::matchArguments(const Method& method,
 {
     Match match;
     match.method = &method;
-    match.isOfRightCount = true;
+    match.arityMatches = true;
     for (qsizetype i = 0; const QJsonValue& argument : given) {
         const Parameter& parameter = method.parameters.at(i++);
         const auto misfit = [&](const QString& expected, const QString& got) {

@@ -18,12 +18,12 @@ Q_LOGGING_CATEGORY(vxIpc, "vx.ipc", QtWarningMsg)
 
 namespace {
 
-/// How many clients over the limit may be about to read that they are; any more are just closed.
+/// How many refused clients may stay connected to read why. Any more are disconnected at once.
 constexpr qsizetype maximumRefused = 64;
 /// How many names with the process id are tried.
 constexpr int maximumOwnNames = 16;
-/// Taking a name is a matter of a millisecond. All names together may take this long, and only at
-/// the first attempt: later ones find time again.
+/// Taking a name takes about a millisecond. This is how long all names together may take at the
+/// first attempt. Later attempts do not wait.
 constexpr auto lockTime = 500ms;
 constexpr std::chrono::milliseconds firstRetry = 100ms;
 constexpr std::chrono::milliseconds lastRetry = 10s;
@@ -50,7 +50,7 @@ IpcPublisher::~IpcPublisher()
         IpcScope::withdraw(m_name);
     for (IpcConnection* connection : std::as_const(m_connections))
         connection->disconnect(this);
-    // While the dispatcher they use is there.
+    // Before the dispatcher that they use is destroyed.
     qDeleteAll(m_connections);
 }
 
@@ -72,8 +72,8 @@ void IpcPublisher::tryToPublish(QDeadlineTimer end)
             outcome == IpcListener::Outcome::NameTaken
                 ? QStringLiteral("the name and %1 more like it are taken").arg(maximumOwnNames)
                 : m_listener->errorString();
-        qCWarning(vxIpc, "%s is not published: %s (it is tried again)",
-                  qUtf8Printable(m_wantedName), qUtf8Printable(obstacle));
+        qCWarning(vxIpc, "%s is not published: %s (retrying)", qUtf8Printable(m_wantedName),
+                  qUtf8Printable(obstacle));
     }
     m_retry.start(m_retryInterval);
     m_retryInterval = std::min(2 * m_retryInterval, lastRetry);
@@ -127,7 +127,7 @@ void IpcPublisher::onNewConnection()
     }
 }
 
-/// The client that may be let go when another waits, if there is one.
+/// The client that may be disconnected in favour of another, if there is one.
 IpcConnection* IpcPublisher::longestSilent() const
 {
     IpcConnection* longest = nullptr;
@@ -166,8 +166,8 @@ void IpcPublisher::giveTurn()
     if (m_waiting.isEmpty())
         return;
     IpcConnection* next = m_waiting.takeFirst();
-    // Asked for before the turn, which may run an event loop of its own or be this object's last.
-    // In between, the thread's other events and the other clients' small requests have theirs.
+    // Requested before the turn, which may run an event loop of its own or destroy this object.
+    // Between two turns, the thread handles other events and the other clients' small requests.
     if (!m_waiting.isEmpty())
         requestTurn();
     next->takeTurn();

@@ -8,7 +8,7 @@
 VXIPCServer::VXIPCServer(int serverType, QObject* parent)
     : QObject(parent)
 {
-    // Later, when the derived object is whole and its thread is ready for sockets.
+    // Later, when the derived object is fully constructed and its thread is ready for sockets.
     QMetaObject::invokeMethod(
         this,
         [this, serverType] {

@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "json_writer.h"
 
+#include <QtCore/QByteArrayList>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
@@ -11,10 +12,21 @@
 
 namespace {
 
-/// What a reader makes of the JSON; undefined when it is none.
+/// What a reader makes of the JSON; undefined when it is not valid.
 QJsonValue read(const JsonWriter& json)
 {
     return QJsonDocument::fromJson('[' + json.json() + ']').array().at(0);
+}
+
+/// The JSON of a number, written as a number and as a value.
+template <typename Number>
+QByteArrayList written(Number number)
+{
+    JsonWriter writer;
+    writer.number(number);
+    JsonWriter value;
+    value.value(number);
+    return {writer.json(), value.json()};
 }
 
 } // namespace
@@ -32,7 +44,7 @@ private Q_SLOTS:
     void writesNumbers();
     void writesValues_data();
     void writesValues();
-    void putsPiecesTogether();
+    void writesManyPieces();
 };
 
 void tst_JsonWriter::writesTexts_data()
@@ -89,12 +101,7 @@ void tst_JsonWriter::writesWholeNumbers()
     QFETCH(const qint64, number);
     QFETCH(const QByteArray, json);
 
-    JsonWriter writer;
-    writer.number(number);
-    QCOMPARE(writer.json(), json);
-    JsonWriter value;
-    value.value(number);
-    QCOMPARE(value.json(), json);
+    QCOMPARE(written(number), (QByteArrayList{json, json}));
 }
 
 void tst_JsonWriter::writesNumbers_data()
@@ -117,12 +124,7 @@ void tst_JsonWriter::writesNumbers()
     QFETCH(const double, number);
     QFETCH(const QByteArray, json);
 
-    JsonWriter writer;
-    writer.number(number);
-    QCOMPARE(writer.json(), json);
-    JsonWriter value;
-    value.value(number);
-    QCOMPARE(value.json(), json);
+    QCOMPARE(written(number), (QByteArrayList{json, json}));
 }
 
 void tst_JsonWriter::writesValues_data()
@@ -147,9 +149,9 @@ void tst_JsonWriter::writesValues()
     QCOMPARE(writer.json(), json);
 }
 
-void tst_JsonWriter::putsPiecesTogether()
+void tst_JsonWriter::writesManyPieces()
 {
-    // Past the room that it begins with, by pieces of all sizes.
+    // Beyond the initial capacity, with pieces of all sizes.
     QJsonArray expected;
     JsonWriter writer;
     writer.raw("[");

@@ -7,6 +7,7 @@
 #include "vxipcclient.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QEventLoop>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 #include <QtCore/QPointer>
@@ -21,11 +22,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-QString nameOf(int serverType)
-{
-    return QStringLiteral("vxipc-%1").arg(serverType);
-}
-
 /// A server that answers every connection's lines with the same bytes.
 class OddServer : public QLocalServer
 {
@@ -33,7 +29,7 @@ public:
     OddServer(const QString& name, const QByteArray& answer)
     {
         setSocketOptions(UserAccessOption);
-        // The folder is made by endpoints, the first of which this process has had by then.
+        // An endpoint of this process has created the folder by now.
         listen(VXIPCClient::address(name));
         connect(this, &QLocalServer::newConnection, this, [this, answer] {
             QLocalSocket* socket = nextPendingConnection();
@@ -90,31 +86,35 @@ private Q_SLOTS:
     void waitsForAResult();
     void waitsForAnError();
     void callsByName();
-    void tellsWhenNobodyIsThere();
+    void reportsThatNoEndpointAnswers();
     void givesUpWaitingInTime();
-    void takesNoLateAnswerForAnother();
-    void losesACallWithItsProcess();
-    void forgetsHalfAnAnswerOfAServerThatDied();
+    void ignoresLateAnswers();
+    void reportsCallsLostWithTheProcess();
+    void discardsHalfAnAnswerOfAServerThatDied();
     void refusesToSendALineThatIsTooLong();
 
     void callsWithoutWaiting();
-    void answersLaterThanTheCall();
+    void callsBackLaterThanTheCall();
     void keepsManyCallsInFlight();
-    void tellsLateCallsInTheirOrder();
+    void reportsLateCallsInOrder();
     void givesUpEachCallInItsTime();
-    void keepsOthersOutcomesWhileItWaits();
+    void deliversOtherOutcomesAfterAWait();
     void waitsWithinACallback();
+    void runsAnEventLoopInACallback();
     void mayBeDestroyedInACallback();
+    void mayBeDestroyedWhenTheConnectionIsLost_data();
+    void mayBeDestroyedWhenTheConnectionIsLost();
+    void answersACallMadeWhenTheConnectionIsLost();
     void forgetsItsCallsWhenDestroyed();
     void sendsNotifications();
 
-    void tellsOfConnections();
+    void reportsConnections();
     void connectsAgain();
-    void staysAwayWhenToldTo();
+    void staysDisconnectedOnRequest();
     void findsAnEndpointThatComesLater();
-    void readsWhatIsNoAnswer_data();
-    void readsWhatIsNoAnswer();
-    void readsThatThereAreTooManyClients();
+    void refusesInvalidAnswers_data();
+    void refusesInvalidAnswers();
+    void reportsTooManyClients();
     void listsRunningServers();
 
 private:
@@ -168,7 +168,7 @@ void tst_VXIPCClient::callsByName()
     QCOMPARE(reply.result.toInt(), 8);
 }
 
-void tst_VXIPCClient::tellsWhenNobodyIsThere()
+void tst_VXIPCClient::reportsThatNoEndpointAnswers()
 {
     VXIPCClient client(newServerType());
     const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"));
@@ -201,7 +201,7 @@ void tst_VXIPCClient::givesUpWaitingInTime()
              int(VXIPCError::TimedOut));
 }
 
-void tst_VXIPCClient::takesNoLateAnswerForAnother()
+void tst_VXIPCClient::ignoresLateAnswers()
 {
     VXIPCClient client(m_name);
     QVERIFY(!client.callAndWait(QStringLiteral("block"), QJsonArray{100}, 1ms).isOk());
@@ -210,13 +210,13 @@ void tst_VXIPCClient::takesNoLateAnswerForAnother()
     QCOMPARE(reply.result.toInt(), 10);
 }
 
-void tst_VXIPCClient::losesACallWithItsProcess()
+void tst_VXIPCClient::reportsCallsLostWithTheProcess()
 {
     HostProcess host(newServerType());
     VXIPCClient client(host.serverName());
     std::optional<VXIPCReply> lost;
     client.call(QStringLiteral("wait"), {}, [&](const VXIPCReply& outcome) { lost = outcome; });
-    // The endpoint is in the call when this is answered.
+    // When this is answered, the endpoint is within the call.
     VXIPCClient other(host.serverName());
     QTRY_VERIFY(other.callAndWait(QStringLiteral("isWaiting")).result.toBool());
     host.kill();
@@ -229,10 +229,10 @@ void tst_VXIPCClient::losesACallWithItsProcess()
     QLocalServer::removeServer(VXIPCClient::address(host.serverName()));
 }
 
-void tst_VXIPCClient::forgetsHalfAnAnswerOfAServerThatDied()
+void tst_VXIPCClient::discardsHalfAnAnswerOfAServerThatDied()
 {
     const int serverType = newServerType();
-    // Makes the folder that endpoints live in, where there is none yet.
+    // Creates the folder that endpoints live in, where there is none yet.
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
     const DyingServer server(nameOf(serverType));
@@ -252,13 +252,13 @@ void tst_VXIPCClient::forgetsHalfAnAnswerOfAServerThatDied()
 void tst_VXIPCClient::refusesToSendALineThatIsTooLong()
 {
     VXIPCClient client(m_name);
-    // A line of the greatest length that an endpoint reads, its end not counted, and one byte more.
-    // The calls have numbers of one digit.
+    // The longest line that an endpoint reads, not counting the line end, and one byte more. The
+    // ids of both calls have one digit.
     const QByteArray bare = JsonRpc::request(QString(), QJsonArray(), 1);
     const QString longest(JsonRpc::maximumLine + 1 - bare.size(), QLatin1Char('x'));
     QCOMPARE(client.callAndWait(longest, QJsonArray()).error->code, -32601);
     QCOMPARE(client.callAndWait(longest + QLatin1Char('x'), QJsonArray()).error->code, -32000);
-    // It was not sent: the endpoint would have ended the connection.
+    // It was not sent, or the endpoint would have closed the connection.
     QSignalSpy disconnected(&client, &VXIPCClient::disconnected);
     QCOMPARE(client.callAndWait(QStringLiteral("scale"), QJsonArray{1}).result.toInt(), 10);
     QVERIFY(disconnected.isEmpty());
@@ -279,7 +279,7 @@ void tst_VXIPCClient::callsWithoutWaiting()
     QCOMPARE(bad->error->code, -32601);
 }
 
-void tst_VXIPCClient::answersLaterThanTheCall()
+void tst_VXIPCClient::callsBackLaterThanTheCall()
 {
     VXIPCClient client(m_name);
     bool isAnswered = false;
@@ -304,7 +304,7 @@ void tst_VXIPCClient::keepsManyCallsInFlight()
         QCOMPARE(results.at(i), i);
 }
 
-void tst_VXIPCClient::tellsLateCallsInTheirOrder()
+void tst_VXIPCClient::reportsLateCallsInOrder()
 {
     VXIPCClient client(m_name);
     client.setTimeout(20ms);
@@ -326,7 +326,7 @@ void tst_VXIPCClient::tellsLateCallsInTheirOrder()
 
 void tst_VXIPCClient::givesUpEachCallInItsTime()
 {
-    // Makes the folder that endpoints live in, where there is none yet.
+    // Creates the folder that endpoints live in, where there is none yet.
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
     const QString name = nameOf(newServerType());
@@ -343,7 +343,7 @@ void tst_VXIPCClient::givesUpEachCallInItsTime()
     }
 }
 
-void tst_VXIPCClient::keepsOthersOutcomesWhileItWaits()
+void tst_VXIPCClient::deliversOtherOutcomesAfterAWait()
 {
     VXIPCClient client(m_name);
     QList<int> results;
@@ -371,6 +371,32 @@ void tst_VXIPCClient::waitsWithinACallback()
     QTRY_VERIFY(isSecondAnswered);
 }
 
+void tst_VXIPCClient::runsAnEventLoopInACallback()
+{
+    // Creates the folder that endpoints live in, where there is none yet.
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QString name = nameOf(newServerType());
+    // Both answers arrive at once, and nothing after them.
+    const OddServer server(name, JsonRpc::success(1, "1") + JsonRpc::success(2, "2"));
+    QVERIFY(server.isListening());
+    VXIPCClient client(name);
+    QEventLoop loop;
+    bool isFirstDone = false;
+    std::optional<VXIPCReply> second;
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply&) {
+        loop.exec();
+        isFirstDone = true;
+    });
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) {
+        second = reply;
+        loop.quit();
+    });
+    QTRY_VERIFY(isFirstDone);
+    QVERIFY2(second->isOk(), qPrintable(second->error.value_or(VXIPCError()).message));
+    QCOMPARE(second->result.toInt(), 2);
+}
+
 void tst_VXIPCClient::mayBeDestroyedInACallback()
 {
     auto* client = new VXIPCClient(m_name);
@@ -386,6 +412,53 @@ void tst_VXIPCClient::mayBeDestroyedInACallback()
     QCOMPARE(answers, 1);
 }
 
+void tst_VXIPCClient::mayBeDestroyedWhenTheConnectionIsLost_data()
+{
+    QTest::addColumn<bool>("isLostByTheServer");
+
+    QTest::newRow("by the server") << true;
+    QTest::newRow("by the client") << false;
+}
+
+void tst_VXIPCClient::mayBeDestroyedWhenTheConnectionIsLost()
+{
+    QFETCH(const bool, isLostByTheServer);
+
+    // Creates the folder that endpoints live in, where there is none yet.
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QString name = nameOf(newServerType());
+    const DyingServer server(name);
+    QVERIFY(server.isListening());
+    auto* client = new VXIPCClient(name);
+    const QPointer<VXIPCClient> alive(client);
+    client->call(QStringLiteral("notes"), {}, [client](const VXIPCReply&) { delete client; });
+    if (!isLostByTheServer)
+        client->disconnectFromServer();
+    QTRY_VERIFY(!alive);
+}
+
+void tst_VXIPCClient::answersACallMadeWhenTheConnectionIsLost()
+{
+    // Creates the folder that endpoints live in, where there is none yet.
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QString name = nameOf(newServerType());
+    const DyingServer server(name);
+    QVERIFY(server.isListening());
+    VXIPCClient client(name);
+    std::optional<VXIPCReply> first;
+    std::optional<VXIPCReply> second;
+    connect(&client, &VXIPCClient::disconnected, this, [&] {
+        client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) { second = reply; });
+    });
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) { first = reply; });
+    QTRY_VERIFY(first && second);
+    QCOMPARE(first->error->code, int(VXIPCError::ConnectionLost));
+    QVERIFY2(second->isOk(), qPrintable(second->error.value_or(VXIPCError()).message));
+    QCOMPARE(second->result.toInt(), 2);
+}
+
 void tst_VXIPCClient::forgetsItsCallsWhenDestroyed()
 {
     bool isAnswered = false;
@@ -395,8 +468,8 @@ void tst_VXIPCClient::forgetsItsCallsWhenDestroyed()
     {
         VXIPCClient client(m_name);
         client.call(QStringLiteral("notes"), {}, remember);
-        VXIPCClient nobodys(newServerType());
-        nobodys.call(QStringLiteral("notes"), {}, remember);
+        VXIPCClient unreachable(newServerType());
+        unreachable.call(QStringLiteral("notes"), {}, remember);
     }
     VXIPCClient client(m_name);
     QVERIFY(client.callAndWait(QStringLiteral("notes")).isOk());
@@ -408,13 +481,13 @@ void tst_VXIPCClient::sendsNotifications()
 {
     HostProcess host(newServerType());
     VXIPCClient client(host.serverName());
-    QVERIFY(client.notify(QStringLiteral("note"), QJsonArray{QStringLiteral("told")}));
+    QVERIFY(client.notify(QStringLiteral("note"), QJsonArray{QStringLiteral("sent")}));
     QVERIFY(client.notify(QStringLiteral("nothing")));
     QCOMPARE(client.callAndWait(QStringLiteral("notes")).result,
-             QJsonValue(QJsonArray{QStringLiteral("told")}));
+             QJsonValue(QJsonArray{QStringLiteral("sent")}));
 }
 
-void tst_VXIPCClient::tellsOfConnections()
+void tst_VXIPCClient::reportsConnections()
 {
     VXIPCClient client(m_name);
     QSignalSpy connected(&client, &VXIPCClient::connected);
@@ -456,7 +529,7 @@ void tst_VXIPCClient::connectsAgain()
     QVERIFY(client.callAndWait(QStringLiteral("notes")).isOk());
 }
 
-void tst_VXIPCClient::staysAwayWhenToldTo()
+void tst_VXIPCClient::staysDisconnectedOnRequest()
 {
     VXIPCClient client(m_name);
     QSignalSpy connected(&client, &VXIPCClient::connected);
@@ -477,7 +550,7 @@ void tst_VXIPCClient::findsAnEndpointThatComesLater()
     QTRY_COMPARE_WITH_TIMEOUT(connected.size(), 1, patience);
 }
 
-void tst_VXIPCClient::readsWhatIsNoAnswer_data()
+void tst_VXIPCClient::refusesInvalidAnswers_data()
 {
     QTest::addColumn<QByteArray>("answer");
 
@@ -491,12 +564,12 @@ void tst_VXIPCClient::readsWhatIsNoAnswer_data()
     QTest::newRow("empty object") << QByteArray("{}\n");
 }
 
-void tst_VXIPCClient::readsWhatIsNoAnswer()
+void tst_VXIPCClient::refusesInvalidAnswers()
 {
     QFETCH(const QByteArray, answer);
 
     const int serverType = newServerType();
-    // Makes the folder that endpoints live in, where there is none yet.
+    // Creates the folder that endpoints live in, where there is none yet.
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
     const OddServer server(nameOf(serverType), answer);
@@ -507,11 +580,11 @@ void tst_VXIPCClient::readsWhatIsNoAnswer()
     client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) { outcome = reply; });
     QTRY_VERIFY(outcome);
     QCOMPARE(outcome->error->code, int(VXIPCError::BadAnswer));
-    // Whatever else comes from there is of no use, and there may be no end of it.
+    // Whatever else arrives is useless, and may never end.
     QTRY_VERIFY(!partings.isEmpty());
 }
 
-void tst_VXIPCClient::readsThatThereAreTooManyClients()
+void tst_VXIPCClient::reportsTooManyClients()
 {
     HostProcess host(newServerType());
     std::vector<std::unique_ptr<VXIPCClient>> clients;
