@@ -283,11 +283,8 @@ void latency(benchmark::State& state)
     Samples samples;
     benchmark_support::Turns turns;
     const auto takeBlock = [&](const QString& printer, std::vector<double>& into) {
-        double sum = 0;
-        for (int index = 0; index < samplesPerBlock; ++index) {
-            into.push_back(setting.sample(printer));
-            sum += into.back();
-        }
+        const double sum = benchmark_support::takeBlock(samplesPerBlock, into,
+                                                        [&] { return setting.sample(printer); });
         if (std::isnan(sum))
             state.SkipWithError("a published value did not arrive");
         return sum;

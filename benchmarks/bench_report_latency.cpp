@@ -177,12 +177,8 @@ void reportLatency(benchmark::State& state)
     Samples samples;
     benchmark_support::Turns turns;
     const auto takeBlock = [&](const QString& printer, std::vector<double>& into) {
-        double sum = 0;
-        for (int index = 0; index < samplesPerBlock; ++index) {
-            into.push_back(setting.sample(printer));
-            sum += into.back();
-        }
-        return sum;
+        return benchmark_support::takeBlock(samplesPerBlock, into,
+                                            [&] { return setting.sample(printer); });
     };
     const auto takeLibraryBlock = [&] {
         const double sum = takeBlock(Setting::libraryPrinter, samples.library);

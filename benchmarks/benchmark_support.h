@@ -44,6 +44,16 @@ struct Samples
     double ratio(double share = 0.5) const;
 };
 
+/// Takes so many samples of one side, appends them to its times, and returns their sum.
+template <typename Sample>
+double takeBlock(int samples, std::vector<double>& times, const Sample& sample)
+{
+    double sum = 0;
+    for (int taken = 0; taken < samples; ++taken)
+        sum += times.emplace_back(sample());
+    return sum;
+}
+
 /// Lets the two sides take turns in going first, so that neither always finds the caches and the
 /// scheduler as the other left them.
 class Turns

@@ -93,9 +93,7 @@ def main():
         source = pathlib.Path(entry["directory"], entry["file"]).resolve()
         if not source.is_relative_to(root) or source.is_relative_to(build):
             continue
-        inputs = recorded.get(entry.get("output", ""))
-        if inputs is None:
-            inputs = recorded.get(os.path.relpath(entry.get("output", ""), build), [])
+        inputs = recorded[re.search(r" -o (\S+)", entry["command"])[1]]
         stamp = arguments.cache / key_of(entry, [source, *inputs], root, common, hashes)
         if arguments.all or not stamp.exists():
             todo.append((source, stamp))

@@ -4,7 +4,7 @@
 #include "small_catalogue.h"
 
 #include <csv_table.h>
-#include <visible_text.h>
+#include <shown_text.h>
 
 #include <QtCore/QDataStream>
 #include <QtCore/QSet>

@@ -64,3 +64,14 @@ QString shownAsMessage(const QString& text)
         return shown(text);
     return shown(text.first(quoted)) + QStringLiteral(" ... ") + shown(text.last(quoted));
 }
+
+std::optional<char32_t> invisibleCharacter(const QString& text)
+{
+    for (qsizetype place = 0; place < text.size();) {
+        const char32_t character = characterAt(text, place);
+        if (!isPlain(character))
+            return character;
+        place += QChar::requiresSurrogates(character) ? 2 : 1;
+    }
+    return std::nullopt;
+}

@@ -4,6 +4,8 @@
 
 #include <QtCore/QString>
 
+#include <optional>
+
 /// Text from elsewhere (names of printers and files, messages of drivers and other processes) for a
 /// terminal: on one line, and unable to move the cursor, change colours or turn the writing
 /// direction.
@@ -18,3 +20,8 @@ QString shown(const QString& text);
 /// `messageLength` characters, its middle is left out.
 QString shownAsMessage(const QString& text);
 inline constexpr qsizetype messageLength = 1000;
+
+/// The first character of a text that `shown` would escape. Names that other people read must have
+/// none: the joiners U+200C and U+200D and the soft hyphen are among them, which none of the
+/// languages of names needs and which would make two different names look the same.
+std::optional<char32_t> invisibleCharacter(const QString& text);

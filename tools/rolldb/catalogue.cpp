@@ -4,7 +4,7 @@
 
 #include "csv_table.h"
 #include "fault.h"
-#include "visible_text.h"
+#include "shown_text.h"
 
 #include <supplydb_schema.h>
 #include <vxlocalelanguages.h>
