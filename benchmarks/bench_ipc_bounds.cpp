@@ -191,12 +191,12 @@ Load readLoad()
         load.supplySku = supply.text(1);
     }
     SqliteStatement ribbon(file, "SELECT number || '', ribbon_sku FROM ribbon_number");
-    while (load.ribbonIds.size() < JsonRpc::maximumEntries && ribbon.step()) {
+    while (load.ribbonIds.size() < json_rpc::maximumEntries && ribbon.step()) {
         load.ribbonIds.append(ribbon.text(0));
         load.ribbonSkus.append(ribbon.text(1));
     }
     // And ribbons that the database does not know, up to as many as may be reported.
-    for (int number = 99999; load.ribbonIds.size() < JsonRpc::maximumEntries; --number)
+    for (int number = 99999; load.ribbonIds.size() < json_rpc::maximumEntries; --number)
         load.ribbonIds.append(QString::number(number));
     return load;
 }
@@ -213,15 +213,15 @@ std::vector<Filling> fillings(const Load& load)
     return {
         {"longest text",
          [](const QString&, qsizetype) {
-             return QString(JsonRpc::maximumText, u'x');
+             return QString(json_rpc::maximumText, u'x');
          }},
         {"longest text of quotes",
          [](const QString&, qsizetype) {
-             return QString(JsonRpc::maximumText, u'"');
+             return QString(json_rpc::maximumText, u'"');
          }},
         {"longest text of surrogates",
          [](const QString&, qsizetype) {
-             return QStringLiteral("\U0001F5A8").repeated(JsonRpc::maximumText / 2);
+             return QStringLiteral("\U0001F5A8").repeated(json_rpc::maximumText / 2);
          }},
         {"SKU that was not asked for before",
          [count = 0](const QString&, qsizetype) mutable {
@@ -255,14 +255,14 @@ QJsonValue argument(const QJsonValue& parameter, const Filling& filling)
     if (type != QStringLiteral("QStringList"))
         return 1;
     QJsonArray texts;
-    for (qsizetype i = 0; i < JsonRpc::maximumEntries; ++i)
+    for (qsizetype i = 0; i < json_rpc::maximumEntries; ++i)
         texts.append(filling.text(name, i));
     return texts;
 }
 
 QByteArray requestLine(const QString& method, const QJsonValue& parameters)
 {
-    return JsonRpc::request(method, parameters, 1);
+    return json_rpc::request(method, parameters, 1);
 }
 
 /// The method with every filling of each argument that takes texts.
@@ -300,14 +300,14 @@ void addRequests(std::vector<Request>& requests, const QJsonValue& method,
 /// The longest line that is read, with a line end: `filler` is repeated between `begin` and `end`.
 QByteArray longestLine(const QByteArray& begin, const QByteArray& filler, const QByteArray& end)
 {
-    const qsizetype room = JsonRpc::maximumLine - begin.size() - end.size();
+    const qsizetype room = json_rpc::maximumLine - begin.size() - end.size();
     return begin + filler.repeated(room / filler.size()) + end + '\n';
 }
 
 /// Requests that are refused, of the greatest length that is read.
 std::vector<Request> refusedRequests()
 {
-    using namespace JsonRpc;
+    using namespace json_rpc;
     const auto fixed = [](const char* name, const QByteArray& line, int errorCode) {
         return Request{name, [line] { return line; }, errorCode};
     };
@@ -369,7 +369,7 @@ double timeOf(Host& host, Client& client, const Request& request)
     const double time = host.takeLongestStretch();
     const int code = errorCodeOf(answer);
     // An endpoint may refuse to store an argument although it is within the bounds.
-    if (code == request.errorCode || (request.errorCode == 0 && code == JsonRpc::Refused))
+    if (code == request.errorCode || (request.errorCode == 0 && code == json_rpc::Refused))
         return time;
     std::fprintf(stderr, "%s: %s\n", request.name.c_str(), answer.left(300).constData());
     return -1;

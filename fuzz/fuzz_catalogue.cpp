@@ -10,7 +10,8 @@
 #include "small_catalogue.h"
 
 #include <database_check.h>
-#include <fault.h>
+#include <failure.h>
+#include <shown_text.h>
 
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlQuery>
@@ -80,16 +81,16 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     Catalogue catalogue;
     try {
         catalogue = files.read();
-    } catch (const Fault& fault) {
-        const QString file = fault.message().section(u':', 0, 0);
-        require(files.files.contains(file), "a fault names its file");
-        require(isOneLine(fault.message()), "a fault is one line");
+    } catch (const Failure& failure) {
+        const QString file = failure.message().section(u':', 0, 0);
+        require(files.files.contains(file), "a failure names its file");
+        require(isOneLine(shownAsMessage(failure.message())), "a failure is one line");
         return 0;
     }
     try {
         tables.write(catalogue);
-    } catch (const Fault& fault) {
-        std::fprintf(stderr, "%s\n", fault.what());
+    } catch (const Failure& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
         require(false, "a catalogue that was accepted fits the tables");
     }
     return 0;

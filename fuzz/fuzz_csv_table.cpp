@@ -7,6 +7,8 @@
 #include "require.h"
 
 #include <csv_table.h>
+#include <failure.h>
+#include <shown_text.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -29,9 +31,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
             }
             require(hasText, "a row has text");
         }
-    } catch (const Fault& fault) {
-        require(fault.message().startsWith(file), "a fault names its file");
-        require(isOneLine(fault.message()), "a fault is one line");
+    } catch (const Failure& failure) {
+        require(failure.message().startsWith(file), "a failure names its file");
+        require(isOneLine(shownAsMessage(failure.message())), "a failure is one line");
     }
     return 0;
 }

@@ -21,8 +21,8 @@
 
 namespace {
 
-const QSet<int> errorCodes{JsonRpc::ParseError, JsonRpc::InvalidRequest, JsonRpc::MethodNotFound,
-                           JsonRpc::InvalidParams};
+const QSet<int> errorCodes{json_rpc::ParseError, json_rpc::InvalidRequest, json_rpc::MethodNotFound,
+                           json_rpc::InvalidParams};
 
 QJsonObject checkAnswer(const QByteArray& line)
 {

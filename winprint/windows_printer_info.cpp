@@ -98,7 +98,7 @@ const char* missingText(const PRINTER_INFO_2W& info)
 /// Writes the code and the text of a Windows error as the log shows them.
 void streamError(QDebug& stream, DWORD error)
 {
-    stream.noquote() << error << WindowsErrors::winError(error);
+    stream.noquote() << error << windows_errors::winError(error);
 }
 
 } // namespace

@@ -123,7 +123,7 @@ void IpcConnection::wantTurn()
 
 bool IpcConnection::fetchLine()
 {
-    while (!m_received.hasLine() && m_received.lineSize() <= JsonRpc::maximumLine) {
+    while (!m_received.hasLine() && m_received.lineSize() <= json_rpc::maximumLine) {
         if (m_socket->bytesAvailable() == 0)
             return false;
         if (isRefused()) {
@@ -132,10 +132,10 @@ bool IpcConnection::fetchLine()
         }
         m_received.appendFrom(*m_socket, readChunk);
     }
-    if (m_received.lineSize() <= JsonRpc::maximumLine)
+    if (m_received.lineSize() <= json_rpc::maximumLine)
         return true;
-    refuse({JsonRpc::LineTooLong,
-            QStringLiteral("Line too long: at most %1 bytes are read").arg(JsonRpc::maximumLine),
+    refuse({json_rpc::LineTooLong,
+            QStringLiteral("Line too long: at most %1 bytes are read").arg(json_rpc::maximumLine),
             {}});
     return false;
 }
@@ -186,7 +186,7 @@ void IpcConnection::answer(const QByteArray& line)
     m_answers += m_answers.isEmpty() ? '[' : ',';
     m_answers += QByteArrayView(line).chopped(1);
     // More than a client may leave unread.
-    if (m_answers.size() > JsonRpc::maximumAnswers)
+    if (m_answers.size() > json_rpc::maximumAnswers)
         closeOverflowing();
 }
 
@@ -201,9 +201,9 @@ void IpcConnection::write(const QByteArray& bytes)
 {
     if (!isConnected())
         return;
-    if (m_socket->bytesToWrite() + bytes.size() > JsonRpc::maximumAnswers)
+    if (m_socket->bytesToWrite() + bytes.size() > json_rpc::maximumAnswers)
         m_socket->flush();
-    if (m_socket->bytesToWrite() + bytes.size() > JsonRpc::maximumAnswers)
+    if (m_socket->bytesToWrite() + bytes.size() > json_rpc::maximumAnswers)
         closeOverflowing();
     else if (m_received.hasLine())
         // The answer to the next line can be sent together with this one.
@@ -220,11 +220,11 @@ void IpcConnection::closeOverflowing()
     m_socket->abort();
 }
 
-void IpcConnection::refuse(const JsonRpc::Error& error)
+void IpcConnection::refuse(const json_rpc::Error& error)
 {
     dropWork();
     m_client = isConnected() ? Client::Refused : Client::Gone;
-    write(JsonRpc::failure(QJsonValue::Null, error));
+    write(json_rpc::failure(QJsonValue::Null, error));
     m_socket->flush();
     // Not at once: a client that is still sending would fail to send and never read the answer.
     QTimer::singleShot(farewell, m_socket, &QLocalSocket::abort);

@@ -36,7 +36,7 @@ public:
 
     /// Tells the client why it is no longer served, and closes the connection soon after unless the
     /// client does so first.
-    void refuse(const JsonRpc::Error& error);
+    void refuse(const json_rpc::Error& error);
     bool isRefused() const { return m_client == Client::Refused || m_client == Client::Gone; }
 
     /// When the client's last request was handled, or when it connected if there was none. Nothing

@@ -15,7 +15,7 @@ namespace {
 bool canBeId(const QJsonValue& id)
 {
     return id.isDouble() || id.isNull() ||
-           (id.isString() && id.toString().size() <= JsonRpc::maximumText);
+           (id.isString() && id.toString().size() <= json_rpc::maximumText);
 }
 
 /// A request's members, each looked up once.
@@ -42,7 +42,7 @@ QString defectOf(const Request& request)
         return QStringLiteral("\"method\" must be a text");
     if (!request.id.isUndefined() && !canBeId(request.id))
         return QStringLiteral("\"id\" must be a text of at most %1 characters, a number or null")
-            .arg(JsonRpc::maximumText);
+            .arg(json_rpc::maximumText);
     if (!request.parameters.isUndefined() && !request.parameters.isArray() &&
         !request.parameters.isObject())
         return QStringLiteral("\"params\" must be a list or an object");
@@ -53,7 +53,7 @@ QString defectOf(const Request& request)
 /// is not JSON the answer may be either.
 bool hasTooManyValues(QByteArrayView line)
 {
-    if (line.size() <= JsonRpc::maximumLineValues)
+    if (line.size() <= json_rpc::maximumLineValues)
         return false;
     qsizetype values = 1;
     bool isInText = false;
@@ -66,14 +66,14 @@ bool hasTooManyValues(QByteArrayView line)
         else if (!isInText && (character == ',' || character == '[' || character == '{'))
             ++values;
     }
-    return values > JsonRpc::maximumLineValues;
+    return values > json_rpc::maximumLineValues;
 }
 
 QByteArray invalidRequest(const QJsonValue& id, const QString& defect)
 {
-    return JsonRpc::failure(
+    return json_rpc::failure(
         canBeId(id) ? id : QJsonValue(QJsonValue::Null),
-        {JsonRpc::InvalidRequest, QStringLiteral("Invalid Request: ") + defect, {}});
+        {json_rpc::InvalidRequest, QStringLiteral("Invalid Request: ") + defect, {}});
 }
 
 } // namespace
@@ -99,7 +99,7 @@ IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
     if (hasTooManyValues(line)) {
         message.failure = invalidRequest(
             QJsonValue::Null,
-            QStringLiteral("the line holds more than %1 values").arg(JsonRpc::maximumLineValues));
+            QStringLiteral("the line holds more than %1 values").arg(json_rpc::maximumLineValues));
         return message;
     }
     QJsonParseError error;
@@ -107,11 +107,11 @@ IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
         QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), line.size()), &error);
     if (error.error != QJsonParseError::NoError) {
         message.failure =
-            JsonRpc::failure(QJsonValue::Null, {JsonRpc::ParseError,
-                                                QStringLiteral("Parse error: %1 at byte %2")
-                                                    .arg(error.errorString())
-                                                    .arg(error.offset),
-                                                {}});
+            json_rpc::failure(QJsonValue::Null, {json_rpc::ParseError,
+                                                 QStringLiteral("Parse error: %1 at byte %2")
+                                                     .arg(error.errorString())
+                                                     .arg(error.offset),
+                                                 {}});
     } else if (document.isObject()) {
         message.content = document.object();
         message.size = 1;
@@ -154,14 +154,14 @@ std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& value) const
     const IpcMethodTable::Outcome outcome = call(request.method.toString(), request.parameters);
     if (request.id.isUndefined())
         return std::nullopt;
-    QByteArray answer = outcome.error ? JsonRpc::failure(request.id, *outcome.error)
-                                      : JsonRpc::success(request.id, outcome.result);
-    if (answer.size() <= JsonRpc::maximumAnswers)
+    QByteArray answer = outcome.error ? json_rpc::failure(request.id, *outcome.error)
+                                      : json_rpc::success(request.id, outcome.result);
+    if (answer.size() <= json_rpc::maximumAnswers)
         return answer;
-    return JsonRpc::failure(
+    return json_rpc::failure(
         request.id,
-        {JsonRpc::AnswerTooLong,
-         QStringLiteral("Answer too long: at most %1 bytes are sent").arg(JsonRpc::maximumAnswers),
+        {json_rpc::AnswerTooLong,
+         QStringLiteral("Answer too long: at most %1 bytes are sent").arg(json_rpc::maximumAnswers),
          {}});
 }
 

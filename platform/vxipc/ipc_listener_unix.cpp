@@ -22,7 +22,7 @@
 namespace {
 
 /// Clients beyond the limit are accepted as well, to be told that there are too many.
-constexpr int backlog = static_cast<int>(2 * JsonRpc::maximumClients);
+constexpr int backlog = static_cast<int>(2 * json_rpc::maximumClients);
 
 /// Nothing when the path is too long for a socket.
 std::optional<sockaddr_un> socketAddress(const QByteArray& path)
@@ -107,9 +107,9 @@ SocketListener::~SocketListener()
 
 IpcListener::Outcome SocketListener::listen(const QString& name, QDeadlineTimer end)
 {
-    if (const QString obstacle = IpcScope::prepare(); !obstacle.isEmpty())
+    if (const QString obstacle = ipc_scope::prepare(); !obstacle.isEmpty())
         return failed(name, obstacle);
-    const QString file = IpcScope::address(name);
+    const QString file = ipc_scope::address(name);
     const QByteArray path = QFile::encodeName(file);
     const std::optional<sockaddr_un> address = socketAddress(path);
     if (!address)

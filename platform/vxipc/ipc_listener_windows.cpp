@@ -17,11 +17,11 @@ Q_DECLARE_LOGGING_CATEGORY(vxIpc)
 
 namespace {
 
-using WindowsSecurity::OwnedHandle;
+using windows_security::OwnedHandle;
 
 /// Each client needs a server end that waits for it. Clients beyond the limit are accepted as well,
 /// to be told that there are too many.
-constexpr std::size_t waitingEnds = 2 * JsonRpc::maximumClients;
+constexpr std::size_t waitingEnds = 2 * json_rpc::maximumClients;
 /// How many unread bytes a pipe holds.
 constexpr DWORD bufferSize = 4096;
 constexpr DWORD defaultWait = 3000;
@@ -144,7 +144,7 @@ private:
 
     QString m_path;
     QString m_user;
-    WindowsSecurity::LocalMemory<void> m_descriptor;
+    windows_security::LocalMemory<void> m_descriptor;
     OwnedHandle m_event;
     /// As long as there is one, no other user can create a pipe of this name.
     std::vector<std::unique_ptr<PipeEnd>> m_ends;
@@ -153,14 +153,14 @@ private:
 
 IpcListener::Outcome PipeListener::listen(const QString& name, QDeadlineTimer /*end*/)
 {
-    if (const QString obstacle = IpcScope::prepare(); !obstacle.isEmpty())
+    if (const QString obstacle = ipc_scope::prepare(); !obstacle.isEmpty())
         return failed(name, obstacle);
-    m_path = QLatin1String(R"(\\.\pipe\)") + IpcScope::address(name);
-    m_user = WindowsSecurity::userOfProcess();
-    m_descriptor = WindowsSecurity::ownedByUserAlone(m_user);
+    m_path = QLatin1String(R"(\\.\pipe\)") + ipc_scope::address(name);
+    m_user = windows_security::userOfProcess();
+    m_descriptor = windows_security::ownedByUserAlone(m_user);
     if (!m_descriptor)
         return failed(m_path, errorText(GetLastError()));
-    m_event = WindowsSecurity::owned(CreateEventW(nullptr, TRUE, FALSE, nullptr));
+    m_event = windows_security::owned(CreateEventW(nullptr, TRUE, FALSE, nullptr));
     if (!m_event)
         return failed(m_path, errorText(GetLastError()));
 
@@ -191,7 +191,7 @@ OwnedHandle PipeListener::newPipe(DWORD flags) const
     SECURITY_ATTRIBUTES attributes = {};
     attributes.nLength = sizeof(attributes);
     attributes.lpSecurityDescriptor = m_descriptor.get();
-    return WindowsSecurity::owned(CreateNamedPipeW(
+    return windows_security::owned(CreateNamedPipeW(
         qUtf16Printable(m_path), PIPE_ACCESS_DUPLEX | FILE_FLAG_OVERLAPPED | flags,
         PIPE_TYPE_BYTE | PIPE_READMODE_BYTE | PIPE_WAIT | PIPE_REJECT_REMOTE_CLIENTS,
         PIPE_UNLIMITED_INSTANCES, bufferSize, bufferSize, defaultWait, &attributes));
@@ -235,7 +235,7 @@ void PipeListener::acceptWaiting()
 /// bind.
 bool PipeListener::isUsers(HANDLE pipe) const
 {
-    const QString client = WindowsSecurity::clientOfPipe(pipe);
+    const QString client = windows_security::clientOfPipe(pipe);
     if (client.isEmpty() || client == m_user)
         return true;
     qCWarning(vxIpc, "%s refuses a client of another user, %s", qUtf8Printable(m_path),

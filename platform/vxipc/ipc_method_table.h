@@ -29,7 +29,7 @@ public:
     {
         /// As JSON, null for a slot without a result.
         QByteArray result = QByteArrayLiteral("null");
-        std::optional<JsonRpc::Error> error;
+        std::optional<json_rpc::Error> error;
     };
 
     /// Calls the slot that `parameters`, a list or an object, fit best.
@@ -70,7 +70,7 @@ private:
         QVarLengthArray<QVariant, usualArguments> arguments;
         /// The sum over the arguments.
         int fit = 0;
-        std::optional<JsonRpc::Error> error;
+        std::optional<json_rpc::Error> error;
         bool arityMatches = false;
     };
 

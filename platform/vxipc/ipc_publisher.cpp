@@ -47,7 +47,7 @@ IpcPublisher::IpcPublisher(QObject& object, const QMetaObject& base)
 IpcPublisher::~IpcPublisher()
 {
     if (!m_name.isEmpty())
-        IpcScope::withdraw(m_name);
+        ipc_scope::withdraw(m_name);
     for (IpcConnection* connection : std::as_const(m_connections))
         connection->disconnect(this);
     // Before the dispatcher that they use is destroyed.
@@ -64,7 +64,7 @@ void IpcPublisher::tryToPublish(QDeadlineTimer end)
 {
     const IpcListener::Outcome outcome = listen(end);
     if (outcome == IpcListener::Outcome::Listening) {
-        IpcScope::announce(m_name);
+        ipc_scope::announce(m_name);
         return;
     }
     if (m_retryInterval == firstRetry) {
@@ -99,7 +99,7 @@ void IpcPublisher::onNewConnection()
     if (!m_dispatcher)
         m_dispatcher = std::make_unique<IpcDispatcher>(m_object, m_base, m_name);
     while (QLocalSocket* socket = m_listener->nextClient()) {
-        if (m_connections.size() >= JsonRpc::maximumClients + maximumRefused) {
+        if (m_connections.size() >= json_rpc::maximumClients + maximumRefused) {
             delete socket;
             continue;
         }
@@ -111,17 +111,17 @@ void IpcPublisher::onNewConnection()
         const auto served =
             std::count_if(m_connections.cbegin(), m_connections.cend(),
                           [](const IpcConnection* each) { return !each->isRefused(); });
-        IpcConnection* silent = served >= JsonRpc::maximumClients ? longestSilent() : nullptr;
+        IpcConnection* silent = served >= json_rpc::maximumClients ? longestSilent() : nullptr;
         m_connections.append(connection);
         if (silent) {
-            silent->refuse({JsonRpc::TooManyClients,
+            silent->refuse({json_rpc::TooManyClients,
                             QStringLiteral("Too many clients: another takes the place of this one, "
                                            "which has asked nothing for a while"),
                             {}});
-        } else if (served >= JsonRpc::maximumClients) {
-            connection->refuse({JsonRpc::TooManyClients,
+        } else if (served >= json_rpc::maximumClients) {
+            connection->refuse({json_rpc::TooManyClients,
                                 QStringLiteral("Too many clients: at most %1 are served at a time")
-                                    .arg(JsonRpc::maximumClients),
+                                    .arg(json_rpc::maximumClients),
                                 {}});
         }
     }

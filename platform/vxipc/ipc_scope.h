@@ -7,7 +7,7 @@
 
 /// Where the endpoints of the user who runs this process are found: names are the user's own, other
 /// users' endpoints of the same name are elsewhere.
-namespace IpcScope {
+namespace ipc_scope {
 
 /// The name by which QLocalSocket and QLocalServer find the endpoint `name`.
 QString address(const QString& name);
@@ -27,4 +27,4 @@ void withdraw(const QString& name);
 /// The names that begin with `prefix` and may be reachable; some may belong to dead processes.
 QStringList names(const QString& prefix);
 
-} // namespace IpcScope
+} // namespace ipc_scope

@@ -10,7 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace IpcScope {
+namespace ipc_scope {
 namespace {
 
 /// The runtime folder of the user's session, or a folder of our own where there is no session. A
@@ -84,4 +84,4 @@ QStringList names(const QString& prefix)
     return QDir(directory()).entryList({prefix + QLatin1Char('*')}, QDir::System, QDir::Name);
 }
 
-} // namespace IpcScope
+} // namespace ipc_scope

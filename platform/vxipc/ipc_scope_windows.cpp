@@ -7,14 +7,14 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 
-namespace IpcScope {
+namespace ipc_scope {
 namespace {
 
 /// All users of the machine share one namespace of pipes, so each user's names have an ending of
 /// their own. It is the security identifier, as users of two domains may have the same name.
 QString ending()
 {
-    const QString user = WindowsSecurity::userOfProcess();
+    const QString user = windows_security::userOfProcess();
     return user.isEmpty() ? QString() : QLatin1Char('@') + user;
 }
 
@@ -61,4 +61,4 @@ QStringList names(const QString& prefix)
     return announcements().entryList({prefix + QLatin1Char('*')}, QDir::Files, QDir::Name);
 }
 
-} // namespace IpcScope
+} // namespace ipc_scope

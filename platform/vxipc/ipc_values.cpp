@@ -16,7 +16,7 @@
 #include <limits>
 #include <optional>
 
-namespace IpcValues {
+namespace ipc_values {
 namespace {
 
 /// Beyond this, readers whose only numbers are doubles, as most are, would see another number.
@@ -414,7 +414,7 @@ std::optional<Excess> beyond(qsizetype found, qsizetype most, const QString& exp
 
 std::optional<Excess> excessOfText(const QString& text)
 {
-    return beyond(text.size(), JsonRpc::maximumText,
+    return beyond(text.size(), json_rpc::maximumText,
                   QStringLiteral("a text of at most %1 characters"));
 }
 
@@ -422,7 +422,7 @@ std::optional<Excess> excessOf(const QJsonValue& json, qsizetype& values);
 
 std::optional<Excess> excessOfList(const QJsonArray& array, qsizetype& values)
 {
-    auto excess = beyond(array.size(), JsonRpc::maximumEntries,
+    auto excess = beyond(array.size(), json_rpc::maximumEntries,
                          QStringLiteral("a list of at most %1 entries"));
     for (auto entry = array.begin(); !excess && entry != array.end(); ++entry)
         excess = excessOf(*entry, values);
@@ -431,7 +431,7 @@ std::optional<Excess> excessOfList(const QJsonArray& array, qsizetype& values)
 
 std::optional<Excess> excessOfObject(const QJsonObject& object, qsizetype& values)
 {
-    auto excess = beyond(object.size(), JsonRpc::maximumEntries,
+    auto excess = beyond(object.size(), json_rpc::maximumEntries,
                          QStringLiteral("an object of at most %1 members"));
     for (auto member = object.begin(); !excess && member != object.end(); ++member) {
         excess = excessOfText(member.key());
@@ -444,7 +444,7 @@ std::optional<Excess> excessOfObject(const QJsonObject& object, qsizetype& value
 /// `values` counts those checked so far.
 std::optional<Excess> excessOf(const QJsonValue& json, qsizetype& values)
 {
-    if (auto excess = beyond(++values, JsonRpc::maximumValues,
+    if (auto excess = beyond(++values, json_rpc::maximumValues,
                              QStringLiteral("at most %1 values, nested ones included")))
         return excess;
     if (json.isString())
@@ -522,4 +522,4 @@ QString kindOf(const QJsonValue& json)
     return QStringLiteral("nothing");
 }
 
-} // namespace IpcValues
+} // namespace ipc_values

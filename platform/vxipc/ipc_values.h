@@ -13,7 +13,7 @@
 class JsonWriter;
 
 /// Converts the arguments and results of slots from and to JSON.
-namespace IpcValues {
+namespace ipc_values {
 
 /// How well a JSON value fits a type. The best fit selects the overload.
 enum class Fit : int
@@ -58,4 +58,4 @@ QJsonObject schema(QMetaType type, QJsonObject& records);
 /// The kind of value in words, for error messages: "a text", "a number", …
 QString kindOf(const QJsonValue& json);
 
-} // namespace IpcValues
+} // namespace ipc_values

@@ -11,7 +11,7 @@
 #include <optional>
 
 /// What endpoints and clients share about JSON-RPC 2.0.
-namespace JsonRpc {
+namespace json_rpc {
 
 enum ErrorCode : int
 {
@@ -53,4 +53,4 @@ QByteArray request(const QString& method, const QJsonValue& parameters, std::opt
 QByteArray success(const QJsonValue& id, QByteArrayView result);
 QByteArray failure(const QJsonValue& id, const Error& error);
 
-} // namespace JsonRpc
+} // namespace json_rpc

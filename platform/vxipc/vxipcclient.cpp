@@ -31,7 +31,7 @@ constexpr std::chrono::milliseconds connectTime = 1s;
 constexpr std::chrono::milliseconds firstRetry = 100ms;
 constexpr std::chrono::milliseconds lastRetry = 5s;
 /// The longest answer of an endpoint, and what surrounds it in a batch.
-constexpr qsizetype maximumLine = 2 * JsonRpc::maximumAnswers;
+constexpr qsizetype maximumLine = 2 * json_rpc::maximumAnswers;
 
 VXIPCReply failed(VXIPCError::Code code, const QString& message)
 {
@@ -206,7 +206,7 @@ void VXIPCClient::Private::retryLater()
 void VXIPCClient::Private::call(const QString& method, const QJsonValue& parameters, Callback done)
 {
     const qint64 id = ++m_lastId;
-    if (const auto failure = send(JsonRpc::request(method, parameters, id), timeout)) {
+    if (const auto failure = send(json_rpc::request(method, parameters, id), timeout)) {
         if (done)
             m_outcomes.enqueue({std::move(done), *failure});
         deliverLater();
@@ -222,7 +222,7 @@ VXIPCReply VXIPCClient::Private::callAndWait(const QString& method, const QJsonV
 {
     const QDeadlineTimer deadline(limit);
     const qint64 id = ++m_lastId;
-    if (const auto failure = send(JsonRpc::request(method, parameters, id), limit))
+    if (const auto failure = send(json_rpc::request(method, parameters, id), limit))
         return *failure;
     std::optional<VXIPCReply> outcome;
     m_calls.insert(id, {deadline, {}, &outcome});
@@ -247,7 +247,7 @@ VXIPCReply VXIPCClient::Private::callAndWait(const QString& method, const QJsonV
 
 bool VXIPCClient::Private::notify(const QString& method, const QJsonValue& parameters)
 {
-    const bool isSent = !send(JsonRpc::request(method, parameters, std::nullopt), timeout);
+    const bool isSent = !send(json_rpc::request(method, parameters, std::nullopt), timeout);
     m_socket->flush();
     return isSent;
 }
@@ -255,11 +255,11 @@ bool VXIPCClient::Private::notify(const QString& method, const QJsonValue& param
 std::optional<VXIPCReply> VXIPCClient::Private::send(const QByteArray& line,
                                                      std::chrono::milliseconds limit)
 {
-    if (line.size() > JsonRpc::maximumLine + 1) {
+    if (line.size() > json_rpc::maximumLine + 1) {
         return VXIPCReply{QJsonValue::Null,
-                          VXIPCError{JsonRpc::LineTooLong,
+                          VXIPCError{json_rpc::LineTooLong,
                                      QStringLiteral("Line too long: at most %1 bytes can be sent")
-                                         .arg(JsonRpc::maximumLine),
+                                         .arg(json_rpc::maximumLine),
                                      {}}};
     }
     if (!connectNow(limit)) {
@@ -498,7 +498,7 @@ bool VXIPCClient::notify(const QString& method, const QJsonValue& parameters)
 QStringList VXIPCClient::runningServers()
 {
     QStringList running;
-    for (const QStringList names = IpcScope::names(endpointNamePrefix);
+    for (const QStringList names = ipc_scope::names(endpointNamePrefix);
          const QString& name : names) {
         QLocalSocket probe;
         connectToEndpoint(probe, name, connectTime);
@@ -510,10 +510,10 @@ QStringList VXIPCClient::runningServers()
 
 QString VXIPCClient::distrust()
 {
-    return IpcScope::distrust();
+    return ipc_scope::distrust();
 }
 
 QString VXIPCClient::address(const QString& serverName)
 {
-    return IpcScope::address(serverName);
+    return ipc_scope::address(serverName);
 }

@@ -30,5 +30,5 @@ QString VXIPCServer::serverName() const
 
 void VXIPCServer::checkCalls(const QByteArray& slotName, CallCheck check)
 {
-    m_callChecks.insert(slotName, std::move(check));
+    m_callChecks[slotName] = std::move(check);
 }

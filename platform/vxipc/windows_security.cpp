@@ -8,7 +8,7 @@
 #include <aclapi.h>
 #include <sddl.h>
 
-namespace WindowsSecurity {
+namespace windows_security {
 namespace {
 
 QString text(PSID identifier)
@@ -85,4 +85,4 @@ LocalMemory<void> ownedByUserAlone(const QString& user)
     return LocalMemory<void>(descriptor);
 }
 
-} // namespace WindowsSecurity
+} // namespace windows_security

@@ -9,7 +9,7 @@
 #include <windows.h>
 
 /// Users and access rights in Windows. A user is given by the security identifier as text.
-namespace WindowsSecurity {
+namespace windows_security {
 
 struct HandleCloser
 {
@@ -41,4 +41,4 @@ QString clientOfPipe(HANDLE serverEnd);
 /// failure.
 LocalMemory<void> ownedByUserAlone(const QString& user);
 
-} // namespace WindowsSecurity
+} // namespace windows_security

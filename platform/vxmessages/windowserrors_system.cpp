@@ -22,7 +22,7 @@ QString systemText(unsigned long code)
 
 } // namespace
 
-QString WindowsErrors::winError(unsigned long code)
+QString windows_errors::winError(unsigned long code)
 {
     const QString text = systemText(code);
     return text.isEmpty() ? QStringLiteral("Windows error %1").arg(code) : text;

@@ -56,7 +56,7 @@ constexpr std::array knownTexts{
 
 } // namespace
 
-QString WindowsErrors::winError(unsigned long code)
+QString windows_errors::winError(unsigned long code)
 {
     const auto found = std::ranges::find(knownTexts, code, &Text::code);
     if (found == knownTexts.end())

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-#include "fault_of.h"
+#include "failure_of.h"
 #include "patience.h"
 #include "run_statement.h"
 #include "small_catalogue.h"
@@ -128,7 +128,7 @@ void RollDbTest::keepsTheOldFileWhenARowIsInvalid()
     const QByteArray before = contentOf(path());
     SmallCatalogue bad;
     bad.replace("ribbons.csv", "2003", "x");
-    QVERIFY(!faultOf([&] { bad.write(path()); }).isNull());
+    QVERIFY(!failureOf([&] { bad.write(path()); }).isNull());
     QCOMPARE(contentOf(path()), before);
     QCOMPARE(filesIn(m_folder->path()), QStringList{QStringLiteral("roll.db")});
 }
@@ -141,12 +141,14 @@ void RollDbTest::keepsTheOldFileWhenTheSchemaRefusesARow()
     const QByteArray before = contentOf(path());
     Catalogue catalogue = SmallCatalogue().read();
     catalogue.settings[0].heatOffset = -1;
-    QVERIFY(
-        faultOf([&] { writeDatabase(catalogue, path()); }).contains(QStringLiteral("heat_offset")));
+    QVERIFY(failureOf([&] {
+                writeDatabase(catalogue, path());
+            }).contains(QStringLiteral("heat_offset")));
     catalogue = SmallCatalogue().read();
     catalogue.supplies[0].material = 99;
-    QVERIFY(
-        faultOf([&] { writeDatabase(catalogue, path()); }).contains(QStringLiteral("FOREIGN KEY")));
+    QVERIFY(failureOf([&] {
+                writeDatabase(catalogue, path());
+            }).contains(QStringLiteral("FOREIGN KEY")));
     QCOMPARE(contentOf(path()), before);
     QCOMPARE(filesIn(m_folder->path()), QStringList{QStringLiteral("roll.db")});
 }
@@ -154,7 +156,7 @@ void RollDbTest::keepsTheOldFileWhenTheSchemaRefusesARow()
 void RollDbTest::namesThePathThatItCannotWrite()
 {
     const QString nowhere = m_folder->filePath(QStringLiteral("missing/roll.db"));
-    const QString fault = faultOf([&] { SmallCatalogue().write(nowhere); });
+    const QString fault = failureOf([&] { SmallCatalogue().write(nowhere); });
     QVERIFY2(fault.startsWith(nowhere + QStringLiteral(": ")), qPrintable(fault));
     QVERIFY(!QDir(m_folder->filePath(QStringLiteral("missing"))).exists());
 }
@@ -177,7 +179,7 @@ void RollDbTest::doesNotReplaceAPipe()
     QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     QVERIFY(QFile::link(pipe, m_folder->filePath(QStringLiteral("link"))));
     target = m_folder->filePath(target);
-    QCOMPARE(faultOf([&target] { SmallCatalogue().write(target); }),
+    QCOMPARE(failureOf([&target] { SmallCatalogue().write(target); }),
              target + QStringLiteral(": not a file, so it is not replaced"));
     struct stat status = {};
     QCOMPARE(stat(QFile::encodeName(pipe).constData(), &status), 0);
@@ -226,7 +228,7 @@ void RollDbTest::reportsWhyAFileCannotBeWritten()
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     const rlimit small{.rlim_cur = 50000, .rlim_max = before.rlim_max};
     QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
-    const QString fault = faultOf([this] { replaceFile(path(), QByteArray(100000, 'x')); });
+    const QString fault = failureOf([this] { replaceFile(path(), QByteArray(100000, 'x')); });
     QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
     std::signal(SIGXFSZ, handler);
     QCOMPARE(fault, path() + QStringLiteral(": ") + qt_error_string(EFBIG));
@@ -288,7 +290,7 @@ void RollDbTest::findsInvalidContent()
     QFETCH(QString, fault);
     SmallCatalogue().write(path());
     QVERIFY(runStatement(path(), change));
-    const QString found = faultOf([this] { checkDatabase(path()); });
+    const QString found = failureOf([this] { checkDatabase(path()); });
     QCOMPARE(found, fault.isEmpty() ? QString() : path() + QStringLiteral(": ") + fault);
 }
 
@@ -298,7 +300,7 @@ void RollDbTest::findsDamage()
     QByteArray bytes = contentOf(path());
     bytes.replace(4096, 4096, QByteArray(4096, '\xff'));
     QVERIFY(writeFile(path(), bytes));
-    const QString found = faultOf([this] { checkDatabase(path()); });
+    const QString found = failureOf([this] { checkDatabase(path()); });
     QVERIFY2(found.startsWith(path() + QStringLiteral(": damaged: ")), qPrintable(found));
     QVERIFY(!found.contains(u'\n'));
 }
@@ -340,7 +342,7 @@ void RollDbTest::reportsARibbon()
 void RollDbTest::refusesToReportAnUnknownSku()
 {
     SmallCatalogue().write(path());
-    QCOMPARE(faultOf([this] { skuReport(path(), QStringLiteral("NO-SUCH"), 0); }),
+    QCOMPARE(failureOf([this] { skuReport(path(), QStringLiteral("NO-SUCH"), 0); }),
              path() + QStringLiteral(": no supply or ribbon \"NO-SUCH\""));
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-#include "fault_of.h"
+#include "failure_of.h"
 #include "small_catalogue.h"
 
 #include <csv_table.h>
@@ -246,7 +246,7 @@ void RollDbTablesTest::refusesAnInvalidRow()
     SmallCatalogue catalogue;
     QVERIFY(catalogue.files.value(file).contains(before));
     catalogue.files[file].replace(before, after);
-    const QString fault = faultOf([&catalogue] { catalogue.read(); });
+    const QString fault = failureOf([&catalogue] { catalogue.read(); });
     QTEST(fault, "fault");
 }
 
@@ -279,7 +279,7 @@ void RollDbTablesTest::refusesInvisibleCharacters()
     QByteArray& table = catalogue.files[file];
     QVERIFY(table.contains(text));
     table.insert(table.indexOf(text) + 1, "\u202e");
-    QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+    QCOMPARE(failureOf([&catalogue] { catalogue.read(); }),
              place + QStringLiteral(": the character U+202E is invisible; remove it"));
 }
 
@@ -332,7 +332,7 @@ void RollDbTablesTest::refusesAPictureOfTooManyPixels()
     QFETCH(QByteArray, image);
     SmallCatalogue catalogue;
     catalogue.files[QStringLiteral("backgrounds/dot.png")] = image;
-    QTEST(faultOf([&catalogue] { catalogue.read(); }), "fault");
+    QTEST(failureOf([&catalogue] { catalogue.read(); }), "fault");
 }
 
 void RollDbTablesTest::refusesMoreRowsThanAReaderAccepts()
@@ -343,7 +343,7 @@ void RollDbTablesTest::refusesMoreRowsThanAReaderAccepts()
         supplies += "S" + QByteArray::number(i) + ",,0,2,black,,,2,300,1,0,yes,,1,\n";
     QCOMPARE(catalogue.read().supplies.size(), 16384);
     supplies += "S16384,,0,2,black,,,2,300,1,0,yes,,1,\n";
-    QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+    QCOMPARE(failureOf([&catalogue] { catalogue.read(); }),
              QStringLiteral("supplies.csv: more than 16384 rows"));
 }
 
@@ -360,10 +360,10 @@ void RollDbTablesTest::refusesAMissingTable()
     QFETCH(QString, file);
     SmallCatalogue catalogue;
     catalogue.files.remove(file);
-    QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+    QCOMPARE(failureOf([&catalogue] { catalogue.read(); }),
              file + QStringLiteral(": no such file, or it cannot be read"));
     catalogue.files.insert(file, "\n \n");
-    QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+    QCOMPARE(failureOf([&catalogue] { catalogue.read(); }),
              file + QStringLiteral(": empty; expected a line of column names"));
 }
 
@@ -371,29 +371,29 @@ void RollDbTablesTest::refusesWhatExceedsALimit()
 {
     SmallCatalogue catalogue;
     catalogue.replace("colours.csv", "Teal", QByteArray(201, 'x'));
-    QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+    QCOMPARE(failureOf([&catalogue] { catalogue.read(); }),
              QStringLiteral("colours.csv:5, column 3 (en): longer than 200 characters"));
 
     catalogue = {};
     catalogue.replace("colours.csv", "Teal", QByteArray(5000, 'x'));
-    QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+    QCOMPARE(failureOf([&catalogue] { catalogue.read(); }),
              QStringLiteral("colours.csv:5: a field of more than 4096 characters"));
 
     catalogue = {};
     catalogue.files[QStringLiteral("backgrounds/dot.png")].append(QByteArray(256 * 1024, '\0'));
-    QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+    QCOMPARE(failureOf([&catalogue] { catalogue.read(); }),
              QStringLiteral(
                  "supplies.csv:2, column 13 (background): backgrounds/dot.png is larger than 256 "
                  "KiB"));
 
     catalogue = {};
     catalogue.files[QStringLiteral("colours.csv")] = QByteArray(16 * 1024 * 1024 + 1, '\n');
-    QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+    QCOMPARE(failureOf([&catalogue] { catalogue.read(); }),
              QStringLiteral("colours.csv: larger than 16 MiB"));
 
     catalogue = {};
     catalogue.files[QStringLiteral("colours.csv")] = QByteArray("a,").repeated(100);
-    QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
+    QCOMPARE(failureOf([&catalogue] { catalogue.read(); }),
              QStringLiteral("colours.csv:1: more than 64 columns"));
 }
 

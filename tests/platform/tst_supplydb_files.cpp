@@ -18,7 +18,7 @@
 namespace {
 
 /// Why a file cannot be opened; empty if it can.
-QString faultOf(const QString& path)
+QString failureOf(const QString& path)
 {
     SupplyDbConnection connection;
     connection.setUp(path, QStringLiteral("fault"));
@@ -173,7 +173,7 @@ void SupplyDbFilesTest::aFileOfOtherTablesIsRefused()
         for (const QByteArray& change : changes)
             QVERIFY(other.run(change.constData()));
     }
-    QCOMPARE(faultOf(path()), QStringLiteral("its tables are not those of schema version 1"));
+    QCOMPARE(failureOf(path()), QStringLiteral("its tables are not those of schema version 1"));
     m_database->setup(path(), connectionName);
     QVERIFY(knowsNothing(*m_database, tape, ribbonK));
     QVERIFY(holdsNothing(*m_database));
@@ -182,7 +182,7 @@ void SupplyDbFilesTest::aFileOfOtherTablesIsRefused()
 void SupplyDbFilesTest::aFileThatIsTooLargeIsRefused()
 {
     QVERIFY(QFile::resize(path(), supplydb_schema::maxFileBytes + 1));
-    QCOMPARE(faultOf(path()), QStringLiteral("larger than 64 MiB"));
+    QCOMPARE(failureOf(path()), QStringLiteral("larger than 64 MiB"));
     m_database->setup(path(), connectionName);
     QVERIFY(knowsNothing(*m_database, tape, ribbonK));
 }
@@ -190,7 +190,7 @@ void SupplyDbFilesTest::aFileThatIsTooLargeIsRefused()
 void SupplyDbFilesTest::readsAFileOfTheMaximumSize()
 {
     QVERIFY(QFile::resize(path(), supplydb_schema::maxFileBytes));
-    QCOMPARE(faultOf(path()), QString());
+    QCOMPARE(failureOf(path()), QString());
     m_database->setup(path(), connectionName);
     QCOMPARE(m_database->supplyColorName(tape), QStringLiteral("White"));
 }
@@ -205,11 +205,11 @@ void SupplyDbFilesTest::aChangedFileWithTheSameHeaderIsCheckedAgain()
     // Old enough for the result of the check to be cached.
     const QDateTime hourAgo = QDateTime::currentDateTime().addSecs(-3600);
     QVERIFY(writeFileAt(path(), whole, hourAgo));
-    QCOMPARE(faultOf(path()), QString());
+    QCOMPARE(failureOf(path()), QString());
     QVERIFY(writeFileAt(path(), damaged, hourAgo.addSecs(60)));
-    QCOMPARE(faultOf(path()), QStringLiteral("damaged: page 2 is not of the expected type"));
+    QCOMPARE(failureOf(path()), QStringLiteral("damaged: page 2 is not of the expected type"));
     QVERIFY(writeFileAt(path(), whole, hourAgo.addSecs(120)));
-    QCOMPARE(faultOf(path()), QString());
+    QCOMPARE(failureOf(path()), QString());
 }
 
 void SupplyDbFilesTest::tooLongAndTooManyRowsAreRefused_data()
@@ -248,7 +248,7 @@ void SupplyDbFilesTest::tooLongAndTooManyRowsAreRefused()
         QVERIFY(other.run("PRAGMA ignore_check_constraints = ON"));
         QVERIFY(other.run(change.constData()));
     }
-    QTEST(faultOf(path()), "fault");
+    QTEST(failureOf(path()), "fault");
     m_database->setup(path(), connectionName);
     QVERIFY(knowsNothing(*m_database, tape, ribbonK));
     QVERIFY(holdsNothing(*m_database));
@@ -265,7 +265,7 @@ void SupplyDbFilesTest::readsAsManyRowsAsAreAllowed()
                           "WHERE id = 1"));
         QVERIFY(other.run("UPDATE background SET image = zeroblob(262144)"));
     }
-    QCOMPARE(faultOf(path()), QString());
+    QCOMPARE(failureOf(path()), QString());
     m_database->setup(path(), connectionName);
     QCOMPARE(m_database->supplySKUList().size(), 16384);
     QCOMPARE(m_database->supplyColorName(tape).toUcs4().size(), 200);
@@ -303,7 +303,7 @@ void SupplyDbFilesTest::misplacedPagesAreRefused()
         QVERIFY(other.run("PRAGMA writable_schema = ON"));
         QVERIFY(other.run(change.constData()));
     }
-    QCOMPARE(faultOf(path()), QStringLiteral("damaged: ") + fault);
+    QCOMPARE(failureOf(path()), QStringLiteral("damaged: ") + fault);
     m_database->setup(path(), connectionName);
     QVERIFY(knowsNothing(*m_database, tape, ribbonK));
 }
@@ -312,7 +312,7 @@ void SupplyDbFilesTest::aTreeThatReachesAPageTwiceIsRefused()
 {
     const QString sample = m_folder->filePath(QStringLiteral("sample.db"));
     writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), sample);
-    QCOMPARE(faultOf(sample), QString());
+    QCOMPARE(failureOf(sample), QString());
     constexpr qsizetype pageSize = 4096;
     qsizetype root = 0;
     {
@@ -331,15 +331,15 @@ void SupplyDbFilesTest::aTreeThatReachesAPageTwiceIsRefused()
         static_cast<quint8>(bytes.at(page + 12)) * 256 + static_cast<quint8>(bytes.at(page + 13));
     bytes.replace(page + 8, 4, bytes.sliced(page + firstCell, 4));
     QVERIFY(writeFile(sample, bytes));
-    QVERIFY2(faultOf(sample).endsWith(QStringLiteral(" is used twice")),
-             qPrintable(faultOf(sample)));
+    QVERIFY2(failureOf(sample).endsWith(QStringLiteral(" is used twice")),
+             qPrintable(failureOf(sample)));
 }
 
 // Pictures are not read when a file is opened, but their pages are checked.
 void SupplyDbFilesTest::aPictureThatReturnsToItsOwnPageIsRefused()
 {
     QVERIFY(TestConnection(path()).run("UPDATE background SET image = zeroblob(262144)"));
-    QCOMPARE(faultOf(path()), QString());
+    QCOMPARE(failureOf(path()), QString());
     QByteArray bytes = contentOf(path());
     constexpr qsizetype pageSize = 4096;
     // The file ends with the picture's pages. Each begins with the number of the next page.
@@ -348,7 +348,7 @@ void SupplyDbFilesTest::aPictureThatReturnsToItsOwnPageIsRefused()
     qToBigEndian(static_cast<quint32>(page), number.data());
     bytes.replace((page - 1) * pageSize, number.size(), number);
     QVERIFY(writeFile(path(), bytes));
-    QCOMPARE(faultOf(path()), QStringLiteral("damaged: page %1 is used twice").arg(page));
+    QCOMPARE(failureOf(path()), QStringLiteral("damaged: page %1 is used twice").arg(page));
 }
 
 // One byte decides how much of a row is stored on its own page and how much on further pages.
@@ -381,7 +381,7 @@ void SupplyDbFilesTest::readsRowsOfEachLength()
             "zeroblob(i) FROM n";
         QVERIFY(other.run(rows.constData()));
     }
-    QCOMPARE(faultOf(path()), QString());
+    QCOMPARE(failureOf(path()), QString());
 }
 
 void SupplyDbFilesTest::aFileOfAnotherEncodingIsRefused()
@@ -390,7 +390,7 @@ void SupplyDbFilesTest::aFileOfAnotherEncodingIsRefused()
     constexpr qsizetype lastByteOfTheEncoding = 59;
     bytes[lastByteOfTheEncoding] = 2;
     QVERIFY(writeFile(path(), bytes));
-    QCOMPARE(faultOf(path()), QStringLiteral("its texts are not UTF-8"));
+    QCOMPARE(failureOf(path()), QStringLiteral("its texts are not UTF-8"));
 }
 
 // Every query returns, whatever its answer. Our own check finds some of the damage, and SQLite

@@ -61,7 +61,7 @@ private:
     {
         while (socket.canReadLine()) {
             const QJsonValue id = QJsonDocument::fromJson(socket.readLine())[QStringLiteral("id")];
-            const QByteArray line = JsonRpc::success(id, QByteArray::number(id.toInteger()));
+            const QByteArray line = json_rpc::success(id, QByteArray::number(id.toInteger()));
             if (std::exchange(m_isFirst, false)) {
                 socket.write(line.first(line.size() / 2));
                 socket.disconnectFromServer();
@@ -254,8 +254,8 @@ void tst_VXIPCClient::refusesToSendALineThatIsTooLong()
     VXIPCClient client(m_name);
     // The longest line that an endpoint reads, not counting the line end, and one byte more. The
     // ids of both calls have one digit.
-    const QByteArray bare = JsonRpc::request(QString(), QJsonArray(), 1);
-    const QString longest(JsonRpc::maximumLine + 1 - bare.size(), QLatin1Char('x'));
+    const QByteArray bare = json_rpc::request(QString(), QJsonArray(), 1);
+    const QString longest(json_rpc::maximumLine + 1 - bare.size(), QLatin1Char('x'));
     QCOMPARE(client.callAndWait(longest, QJsonArray()).error->code, -32601);
     QCOMPARE(client.callAndWait(longest + QLatin1Char('x'), QJsonArray()).error->code, -32000);
     // It was not sent, or the endpoint would have closed the connection.
@@ -378,7 +378,7 @@ void tst_VXIPCClient::runsAnEventLoopInACallback()
     QTRY_VERIFY(!service.serverName().isEmpty());
     const QString name = nameOf(newServerType());
     // Both answers arrive at once, and nothing after them.
-    const OddServer server(name, JsonRpc::success(1, "1") + JsonRpc::success(2, "2"));
+    const OddServer server(name, json_rpc::success(1, "1") + json_rpc::success(2, "2"));
     QVERIFY(server.isListening());
     VXIPCClient client(name);
     QEventLoop loop;

@@ -122,7 +122,7 @@ void VXMessagesTest::explainsWindowsErrors_data()
 void VXMessagesTest::explainsWindowsErrors()
 {
     QFETCH(const int, code);
-    const QString text = WindowsErrors::winError(static_cast<unsigned long>(code));
+    const QString text = windows_errors::winError(static_cast<unsigned long>(code));
     QVERIFY(!text.isEmpty());
     QCOMPARE(text, text.simplified());
     QVERIFY2(!text.startsWith(QLatin1String("Windows error")), qPrintable(text));
@@ -141,7 +141,7 @@ void VXMessagesTest::describesOtherWindowsErrorsByNumber_data()
 void VXMessagesTest::describesOtherWindowsErrorsByNumber()
 {
     QFETCH(const unsigned int, code);
-    QCOMPARE(WindowsErrors::winError(code), QStringLiteral("Windows error %1").arg(code));
+    QCOMPARE(windows_errors::winError(code), QStringLiteral("Windows error %1").arg(code));
 }
 
 QTEST_GUILESS_MAIN(VXMessagesTest)

@@ -503,8 +503,8 @@ void WindowsPrinterInfoTest::failedSizingIsLogged()
     machine().failCall(name("GetPrinterW"), 1, ERROR_ACCESS_DENIED);
     QVERIFY(!WindowsPrinterInfo::getPrinterInfo2(printer.get()));
     QCOMPARE(machine().callCount(name("GetPrinterW")), 1);
-    QCOMPARE(logged(), QList<LogRecord>{
-                           infoLine(224, QStringLiteral("5 %1 ").arg(WindowsErrors::winError(5)))});
+    QCOMPARE(logged(), QList<LogRecord>{infoLine(
+                           224, QStringLiteral("5 %1 ").arg(windows_errors::winError(5)))});
 }
 
 void WindowsPrinterInfoTest::failedReadingIsLogged()
@@ -516,7 +516,7 @@ void WindowsPrinterInfoTest::failedReadingIsLogged()
     QCOMPARE(machine().callCount(name("GetPrinterW")), 2);
     QCOMPARE(logged(), QList<LogRecord>{infoLine(
                            244, QStringLiteral("Failure to access the printer  4000000000 %1 ")
-                                    .arg(WindowsErrors::winError(4000000000U)))});
+                                    .arg(windows_errors::winError(4000000000U)))});
 }
 
 QTEST_GUILESS_MAIN(WindowsPrinterInfoTest)

@@ -37,6 +37,12 @@ private:
     ExitStatus m_exitStatus;
 };
 
+/// The failure of a command line that the tool does not understand.
+inline Failure wrongUsage(const QString& message)
+{
+    return Failure(message, ExitStatus::WrongUsage);
+}
+
 /// Runs a tool's work and returns the status for `main` to return. The message of a failure is
 /// printed to standard error; for wrong usage with a reference to the tool's help.
 int runTool(StandardOutput& output, const std::function<void()>& work);

@@ -102,7 +102,7 @@ struct Catalogue
 /// Returns the content of a file in the catalogue's directory, or nothing if there is no such file.
 using ReadFile = std::function<std::optional<QByteArray>(const QString& name)>;
 
-/// Reads a catalogue from its files. Throws a Fault for the first error in them.
+/// Reads a catalogue from its files. Throws a Failure for the first error in them.
 Catalogue readCatalogue(const ReadFile& readFile);
 
 /// Reads a catalogue from a directory.

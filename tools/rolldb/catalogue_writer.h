@@ -11,11 +11,11 @@
 
 /// Creates the database file of a catalogue. The file is created and checked in a temporary folder
 /// and then replaces an existing file atomically: the path always has either the complete old file
-/// or the complete new one. The same catalogue always gives the same bytes. Throws a Fault on
+/// or the complete new one. The same catalogue always gives the same bytes. Throws a Failure on
 /// failure, which leaves the old file unchanged.
 void writeDatabase(const Catalogue& catalogue, const QString& path);
 
-/// Creates the tables in an empty database. Throws a Fault if SQLite reports an error.
+/// Creates the tables in an empty database. Throws a Failure if SQLite reports an error.
 void createTables(const QSqlDatabase& database);
 
 /// Fills empty tables. One writer can write several catalogues if the rows are removed in between.
@@ -24,7 +24,7 @@ class CatalogueWriter
 public:
     explicit CatalogueWriter(const QSqlDatabase& database);
 
-    /// Throws a Fault if SQLite reports an error.
+    /// Throws a Failure if SQLite reports an error.
     void write(const Catalogue& catalogue);
 
 private:

@@ -2,7 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
-#include "fault.h"
+#include "failure.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
@@ -20,7 +20,7 @@ struct CsvField
 
     /// "supplies.csv:12, column 4 (width)"
     QString place() const;
-    Fault fault(const QString& reason) const;
+    Failure failure(const QString& reason) const;
 };
 
 /// A table as spreadsheets export it: UTF-8, with the column names in the first line and the fields
@@ -29,7 +29,7 @@ struct CsvField
 class CsvTable
 {
 public:
-    /// Throws a Fault if the text is not such a table.
+    /// Throws a Failure if the text is not such a table.
     static CsvTable parse(const QString& fileName, const QByteArray& bytes);
 
     qsizetype rowCount() const { return m_rows.size(); }
@@ -41,8 +41,8 @@ public:
     /// Whether numbers may have a decimal comma.
     bool hasDecimalCommas() const { return m_separator == u';'; }
 
-    Fault faultInHeader(const QString& column, const QString& reason) const;
-    Fault faultInFile(const QString& reason) const;
+    Failure failureInHeader(const QString& column, const QString& reason) const;
+    Failure failureInFile(const QString& reason) const;
 
 private:
     CsvField fieldAt(qsizetype row, qsizetype column) const;

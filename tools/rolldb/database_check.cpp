@@ -49,7 +49,7 @@ DatabaseCounts checkDatabase(const QString& path, const QString& name)
     SupplyDbConnection connection;
     connection.setUp(path, path);
     if (!connection.open())
-        throw Fault(QStringLiteral("%1: %2").arg(name, connection.fault()));
+        throw Failure(QStringLiteral("%1: %2").arg(name, connection.fault()));
     return DatabaseChecker(connection.database(), name).check();
 }
 
@@ -68,11 +68,11 @@ DatabaseCounts DatabaseChecker::checkContent()
 {
     checkSchema();
     if (const QString table = first(QStringLiteral("PRAGMA foreign_key_check")); !table.isNull())
-        throw fault(QStringLiteral("a row of %1 refers to a missing row").arg(table));
+        throw failure(QStringLiteral("a row of %1 refers to a missing row").arg(table));
     for (const Rule& rule : rules) {
         const QString subject = first(QString::fromLatin1(rule.statement));
         if (!subject.isNull())
-            throw fault(QString::fromLatin1(rule.found).arg(subject));
+            throw failure(QString::fromLatin1(rule.found).arg(subject));
     }
     return {count("supply"), count("ribbon"), count("print_setting"), count("language")};
 }
@@ -81,7 +81,7 @@ void DatabaseChecker::checkStructure()
 {
     const QString answer = first(QStringLiteral("PRAGMA integrity_check(1)"));
     if (answer != QLatin1String("ok"))
-        throw fault(QStringLiteral("damaged: %1").arg(answer.section(u'\n', -1)));
+        throw failure(QStringLiteral("damaged: %1").arg(answer.section(u'\n', -1)));
 }
 
 // SQLite stores the statement that created each table unchanged.
@@ -101,8 +101,8 @@ void DatabaseChecker::checkSchema()
     wanted.sort();
     found.sort();
     if (found != wanted)
-        throw fault(QStringLiteral("its tables are not those of schema version %1")
-                        .arg(supplydb_schema::schemaVersion));
+        throw failure(QStringLiteral("its tables are not those of schema version %1")
+                          .arg(supplydb_schema::schemaVersion));
 }
 
 QSqlQuery& DatabaseChecker::run(const QString& statement)
@@ -114,7 +114,7 @@ QSqlQuery& DatabaseChecker::run(const QString& statement)
         query.prepare(statement);
     }
     if (!query.exec())
-        throw fault(QStringLiteral("damaged: %1").arg(query.lastError().databaseText()));
+        throw failure(QStringLiteral("damaged: %1").arg(query.lastError().databaseText()));
     return query;
 }
 
@@ -137,7 +137,7 @@ int DatabaseChecker::count(const char* table)
     return first(QStringLiteral("SELECT count(*) FROM %1").arg(QLatin1String(table))).toInt();
 }
 
-Fault DatabaseChecker::fault(const QString& reason) const
+Failure DatabaseChecker::failure(const QString& reason) const
 {
-    return Fault(QStringLiteral("%1: %2").arg(m_name, reason));
+    return Failure(QStringLiteral("%1: %2").arg(m_name, reason));
 }

@@ -2,7 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
-#include "fault.h"
+#include "failure.h"
 
 #include <QtCore/QString>
 #include <QtSql/QSqlDatabase>
@@ -20,7 +20,7 @@ struct DatabaseCounts
 };
 
 /// Checks a whole file: SQLite's own structure, the schema, the references, and the rules that the
-/// schema's constraints cannot express. Throws a Fault for the first error.
+/// schema's constraints cannot express. Throws a Failure for the first error.
 DatabaseCounts checkDatabase(const QString& path);
 /// The same with `name` in place of the path in messages.
 DatabaseCounts checkDatabase(const QString& path, const QString& name);
@@ -42,7 +42,7 @@ private:
     QSqlQuery& run(const QString& statement);
     QString first(const QString& statement);
     int count(const char* table);
-    Fault fault(const QString& reason) const;
+    Failure failure(const QString& reason) const;
 
     QSqlDatabase m_database;
     QString m_name;

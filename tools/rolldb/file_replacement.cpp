@@ -2,7 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "file_replacement.h"
 
-#include "fault.h"
+#include "failure.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
@@ -11,7 +11,7 @@ void requireFileOrNothing(const QString& path)
 {
     const QFileInfo info(path);
     if (info.exists() && !info.isFile())
-        throw Fault(QStringLiteral("%1: not a file, so it is not replaced").arg(path));
+        throw Failure(QStringLiteral("%1: not a file, so it is not replaced").arg(path));
 }
 
 void replaceFile(const QString& path, const QByteArray& bytes)
@@ -27,5 +27,5 @@ void replaceFile(const QString& path, const QByteArray& bytes)
         written += size;
     }
     if (!isDone || !target.commit())
-        throw Fault(QStringLiteral("%1: %2").arg(path, target.errorString()));
+        throw Failure(QStringLiteral("%1: %2").arg(path, target.errorString()));
 }

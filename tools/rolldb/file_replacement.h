@@ -6,9 +6,9 @@
 #include <QtCore/QString>
 
 /// Replaces the content of a file atomically: the path always has either the complete old file or
-/// the complete new one. Throws a Fault on failure, which leaves the old file unchanged. A path
+/// the complete new one. Throws a Failure on failure, which leaves the old file unchanged. A path
 /// that is not a regular file, such as a device or a pipe, is not replaced.
 void replaceFile(const QString& path, const QByteArray& bytes);
 
-/// Throws a Fault if the path exists and is not a regular file.
+/// Throws a Failure if the path exists and is not a regular file.
 void requireFileOrNothing(const QString& path);

@@ -3,7 +3,7 @@
 #include "catalogue.h"
 #include "catalogue_writer.h"
 #include "database_check.h"
-#include "fault.h"
+#include "failure.h"
 #include "shown_text.h"
 #include "sku_report.h"
 #include "standard_output.h"
@@ -15,9 +15,6 @@
 #include <array>
 
 namespace {
-
-constexpr int exitFailed = 1;
-constexpr int exitWrongUsage = 2;
 
 constexpr const char* usage = R"(Usage: rolldb build DIRECTORY FILE
        rolldb check FILE
@@ -65,51 +62,40 @@ const std::array commands{
             }},
 };
 
-/// Runs the command line and returns the exit status.
-int run(StandardOutput& output)
+/// Runs the command line.
+void run(StandardOutput& output)
 {
-    const auto wrongUsage = [&output](const QString& what) {
-        output.complain(QStringLiteral("%1 (see rolldb --help)").arg(what));
-        return exitWrongUsage;
-    };
     const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
     const QCommandLineOption languageOption(QStringLiteral("language"), {}, QStringLiteral("TAG"));
     QCommandLineParser parser;
     parser.addOptions({help, languageOption});
     if (!parser.parse(QCoreApplication::arguments()))
-        return wrongUsage(parser.errorText());
+        throw wrongUsage(parser.errorText());
     if (parser.isSet(help)) {
         output.write(QString::fromLatin1(usage));
-        return 0;
+        return;
     }
 
     QStringList arguments = parser.positionalArguments();
     if (arguments.isEmpty())
-        return wrongUsage(QStringLiteral("expected build, check or show"));
+        throw wrongUsage(QStringLiteral("expected build, check or show"));
     const QString name = arguments.takeFirst();
     const auto* const command = std::ranges::find_if(
         commands, [&name](const Command& each) { return name == QLatin1String(each.name); });
     if (command == commands.end())
-        return wrongUsage(
+        throw wrongUsage(
             QStringLiteral("unknown command \"%1\"; expected build, check or show").arg(name));
     if (arguments.size() != command->arguments)
-        return wrongUsage(QStringLiteral("%1 takes %2 arguments, not %3")
-                              .arg(name)
-                              .arg(command->arguments)
-                              .arg(arguments.size()));
+        throw wrongUsage(QStringLiteral("%1 takes %2 arguments, not %3")
+                             .arg(name)
+                             .arg(command->arguments)
+                             .arg(arguments.size()));
     const QString tag =
         parser.isSet(languageOption) ? parser.value(languageOption) : QStringLiteral("en");
     const std::optional<int> language = languageNumber(tag);
     if (!language)
-        return wrongUsage(QStringLiteral("\"%1\" is not a known language").arg(tag));
-
-    try {
-        output.write(command->run(arguments, *language));
-    } catch (const Fault& fault) {
-        output.complain(fault.message());
-        return exitFailed;
-    }
-    return 0;
+        throw wrongUsage(QStringLiteral("\"%1\" is not a known language").arg(tag));
+    output.write(command->run(arguments, *language));
 }
 
 } // namespace
@@ -118,5 +104,5 @@ int main(int argc, char* argv[])
 {
     StandardOutput output("rolldb");
     const QCoreApplication application(argc, argv);
-    return output.exitStatus(run(output));
+    return runTool(output, [&output] { run(output); });
 }

@@ -3,7 +3,7 @@
 #include "sku_report.h"
 
 #include "database_check.h"
-#include "fault.h"
+#include "failure.h"
 #include "shown_text.h"
 
 #include <vxsupplydatabase.h>
@@ -103,5 +103,5 @@ QString skuReport(const QString& path, const QString& sku, int language)
         return supplyReport(database, sku);
     if (database.supplyRibbonPanels(sku) > 0)
         return ribbonReport(database, sku);
-    throw Fault(QStringLiteral("%1: no supply or ribbon \"%2\"").arg(path, sku));
+    throw Failure(QStringLiteral("%1: no supply or ribbon \"%2\"").arg(path, sku));
 }

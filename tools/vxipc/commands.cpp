@@ -88,11 +88,6 @@ QString serviceOf(const QString& endpoint)
     return number;
 }
 
-Failure wrongUsage(const QString& message)
-{
-    return Failure(message, ExitStatus::WrongUsage);
-}
-
 /// The result of a call. `subject` is what the message begins with if the call fails.
 QJsonValue resultOf(const VXIPCReply& reply, const QString& subject)
 {

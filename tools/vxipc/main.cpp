@@ -51,11 +51,10 @@ void run(StandardOutput& output)
             bool ok = false;
             const int timeout = given.value(++i).toInt(&ok);
             if (!ok || timeout <= 0)
-                throw Failure(QStringLiteral("--timeout takes a number of milliseconds"),
-                              ExitStatus::WrongUsage);
+                throw wrongUsage(QStringLiteral("--timeout takes a number of milliseconds"));
             options.timeout = std::chrono::milliseconds(timeout);
         } else if (word.startsWith(QStringLiteral("--"))) {
-            throw Failure(QStringLiteral("unknown option %1").arg(word), ExitStatus::WrongUsage);
+            throw wrongUsage(QStringLiteral("unknown option %1").arg(word));
         } else {
             words.append(word);
         }

@@ -29,7 +29,7 @@ private:
 std::unique_ptr<Backend> Backend::create(const CommandLine& line)
 {
     if (!line.fleetFile.isEmpty())
-        throw Failure(QStringLiteral("--virtual: this build uses the system's own print spooler"),
-                      ExitStatus::WrongUsage);
+        throw wrongUsage(
+            QStringLiteral("--virtual: this build uses the system's own print spooler"));
     return std::make_unique<SystemBackend>();
 }

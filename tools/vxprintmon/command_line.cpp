@@ -94,11 +94,6 @@ QString commandNames(CommandOptions required = {})
     return names.join(QStringLiteral(", "));
 }
 
-Failure wrongUsage(const QString& message)
-{
-    return Failure(message, ExitStatus::WrongUsage);
-}
-
 /// The arguments with a negative status code, which would be taken for an option, moved to the end
 /// and behind "--".
 QStringList withCodeLast(QStringList arguments)

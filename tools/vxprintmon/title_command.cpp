@@ -16,11 +16,10 @@ int statusCodeOf(const QString& text)
     bool isCode = false;
     const int code = text.toInt(&isCode);
     if (!isCode)
-        throw Failure(
+        throw wrongUsage(
             QStringLiteral(
                 "title takes a status code between -2147483648 and 2147483647, found \"%1\"")
-                .arg(text),
-            ExitStatus::WrongUsage);
+                .arg(text));
     return code;
 }
 
