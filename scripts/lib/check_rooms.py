@@ -6,9 +6,9 @@ Usage: check_rooms.py [ROOT]
 
 The first column of a row names one or more rooms (folders or single headers). The last column says what
 these may use: rooms and Windows headers in backticks, other libraries by name. A file belongs to the row
-that names the longest prefix of its path, and may always use its own row. Prints one line for each include that
-the table does not allow, for each cycle among the rooms, and for each file that belongs to no row. If there
-is one, the exit status is 1.
+that names the longest prefix of its path, and may always use its own row. Prints one line for each
+include that the table does not allow, for each cycle among the rooms, and for each file that belongs to
+no row. If there is one, the exit status is 1.
 """
 import collections
 import pathlib
