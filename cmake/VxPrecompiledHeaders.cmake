@@ -1,11 +1,11 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
 #
-# Half of the time of a compilation goes into Qt's headers, so they are compiled once for all targets.
-# GCC alone takes them into targets that define other macros than they were compiled with, which
-# nearly every target does; clang, which builds the fuzzers, does not.
+# Qt's headers take half of the compilation time, so they are compiled once for all targets. This works
+# with GCC only: nearly every target defines other macros than the precompiled headers were compiled
+# with, which GCC accepts and clang, which builds the fuzzers, does not.
 #
-# A source still includes what it uses: clang-tidy compiles each one without this.
+# Each source still includes everything it uses: clang-tidy compiles it without precompiled headers.
 
 option(VX_PRECOMPILE "Compile Qt's and the standard library's headers once for all targets" ON)
 if(NOT VX_PRECOMPILE OR NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
@@ -14,7 +14,7 @@ if(NOT VX_PRECOMPILE OR NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     return()
 endif()
 
-# CMake gives precompiled headers to a target that has a source.
+# CMake only creates precompiled headers for a target with a source.
 file(WRITE "${PROJECT_BINARY_DIR}/vx_precompiled_headers.cpp" "")
 add_library(vx_precompiled_headers OBJECT "${PROJECT_BINARY_DIR}/vx_precompiled_headers.cpp")
 target_link_libraries(vx_precompiled_headers PRIVATE vx_build_settings Qt6::Core)
@@ -25,7 +25,7 @@ target_precompile_headers(vx_precompiled_headers PRIVATE
 
 # vx_use_precompiled_headers(<folder>)
 #
-# Lets every target of a folder and of those below it use them.
+# Makes every target in a folder and its subfolders use the precompiled headers.
 function(vx_use_precompiled_headers folder)
     get_property(targets DIRECTORY "${folder}" PROPERTY BUILDSYSTEM_TARGETS)
     list(REMOVE_ITEM targets vx_precompiled_headers)
@@ -33,7 +33,7 @@ function(vx_use_precompiled_headers folder)
         get_target_property(type ${target} TYPE)
         if(type MATCHES "LIBRARY|EXECUTABLE" AND NOT type STREQUAL "INTERFACE_LIBRARY")
             target_precompile_headers(${target} REUSE_FROM vx_precompiled_headers)
-            # For ccache, which reads what the preprocessor writes.
+            # ccache needs this, because it hashes the preprocessor's output.
             target_compile_options(${target} PRIVATE -fpch-preprocess)
         endif()
     endforeach()

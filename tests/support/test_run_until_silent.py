@@ -44,12 +44,12 @@ class RunUntilSilent(unittest.TestCase):
     def test_ends_a_test_that_waits_forever(self):
         done = run("import time; print('before', flush=True); time.sleep(3600)", idle="1")
         self.assertEqual(done.returncode, 1)
-        self.assertRegex(done.stdout, "^before\n.*said nothing and did nothing for 1 s and was ended")
+        self.assertRegex(done.stdout, "^before\n.*printed nothing and was idle for 1 s and was ended")
 
     def test_ends_a_test_in_an_endless_loop(self):
         done = run("while True: pass", work="1")
         self.assertEqual(done.returncode, 1)
-        self.assertIn("said nothing in 1 s of processor time and was ended", done.stdout)
+        self.assertIn("printed nothing in 1 s of processor time and was ended", done.stdout)
 
     def test_ends_a_test_that_ignores_the_request_to_end(self):
         done = run("import signal, time; signal.signal(signal.SIGTERM, signal.SIG_IGN)\n"
