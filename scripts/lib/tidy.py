@@ -40,6 +40,15 @@ def dependencies(build):
     return found
 
 
+def configuration(root):
+    """What all .clang-tidy files of the tree say, without their comments."""
+    files = subprocess.run(["git", "-C", str(root), "ls-files", "-z", "*.clang-tidy"], check=True,
+                           capture_output=True, text=True).stdout.split("\0")
+    lines = [line for file in sorted(filter(None, files))
+             for line in [f"{file}:", *(root / file).read_text(encoding="utf-8").splitlines()]]
+    return "\n".join(line for line in lines if not line.startswith("#")).encode()
+
+
 class Hashes:
     """Hashes of files, each read once."""
 
@@ -85,7 +94,7 @@ def main():
     arguments.cache.mkdir(parents=True, exist_ok=True)
 
     version = subprocess.run(["clang-tidy", "--version"], check=True, capture_output=True).stdout
-    common = version + (root / ".clang-tidy").read_bytes()
+    common = version + configuration(root)
     recorded, hashes = dependencies(build), Hashes()
     todo = []
     entries = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
