@@ -4,7 +4,6 @@
 
 #include "machine_test.h"
 
-using virtualwindows::DeviceSetup;
 namespace registry = virtualwindows::registry;
 
 namespace {

@@ -518,6 +518,7 @@ void KernelEventsTest::manualEventWakesEveryThread()
     std::atomic<int> woken = 0;
     {
         std::vector<std::jthread> waiters;
+        waiters.reserve(4);
         for (int count = 0; count < 4; ++count) {
             waiters.emplace_back([&] {
                 if (WaitForSingleObject(event.get(), INFINITE) == WAIT_OBJECT_0)
@@ -536,6 +537,7 @@ void KernelEventsTest::autoEventWakesOneThreadPerSetting()
     const EventHandle woke = autoEvent();
     std::atomic<int> woken = 0;
     std::vector<std::jthread> waiters;
+    waiters.reserve(threads);
     for (int count = 0; count < threads; ++count) {
         waiters.emplace_back([&] {
             if (WaitForSingleObject(event.get(), INFINITE) != WAIT_OBJECT_0)

@@ -209,10 +209,9 @@ void DeviceSerialNumbersTest::registryPathsThatAreRead()
     machine().addDevice({makersClass, makersDevice(1), 1U, text("ONE")});
     machine().recordCalls();
     WindowsPrinterInfo::getDeviceSerialNumber(1);
-    const QString root =
-        text("HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control\\DeviceClasses\\");
+    const QString root = text(R"(HKEY_LOCAL_MACHINE\SYSTEM\ControlSet001\Control\DeviceClasses\)");
     const QString parameters =
-        root + makersClass + text("\\") + makersDevice(1) + text("\\#\\Device Parameters");
+        root + makersClass + text(R"(\)") + makersDevice(1) + text(R"(\#\Device Parameters)");
     QList<QStringList> read;
     const QList<virtualwindows::Call> calls = machine().calls(text("RegistryKey"));
     for (const virtualwindows::Call& call : calls)

@@ -29,9 +29,12 @@ void* allocate(Allocation allocation)
     return block;
 }
 
+const QString printerName = QStringLiteral("Printer");
+
 } // namespace
 
-// Exported, because a sanitizer's library refers to them as well.
+// Exported, because a sanitizer's library refers to them as well. The linker's option --wrap
+// prescribes the names. NOLINTBEGIN(bugprone-reserved-identifier, readability-identifier-naming)
 extern "C" {
 void* __real_malloc(std::size_t size);
 void* __real_calloc(std::size_t count, std::size_t size);
@@ -54,6 +57,7 @@ Q_DECL_EXPORT void __wrap_free(void* block)
     __real_free(block);
 }
 }
+// NOLINTEND(bugprone-reserved-identifier, readability-identifier-naming)
 
 class PrinterInfoMemoryTest : public MachineTest
 {
@@ -70,9 +74,6 @@ private Q_SLOTS:
     void nameWithoutMemoryIsEmpty();
     void everyPathReleasesItsBlock();
     void exceptionReleasesTheBlock();
-
-private:
-    static const inline QString m_name = QStringLiteral("Printer");
 };
 
 void PrinterInfoMemoryTest::init()
@@ -93,7 +94,7 @@ void PrinterInfoMemoryTest::cleanup()
 
 void PrinterInfoMemoryTest::callerReleasesTheRecord()
 {
-    const PrinterHandle printer = openPrinter(m_name);
+    const PrinterHandle printer = openPrinter(printerName);
     PRINTER_INFO_2W* info = WindowsPrinterInfo::getPrinterInfo2(printer.get());
     QVERIFY(info);
     QCOMPARE(allocated, std::set<void*>{info});
@@ -103,7 +104,7 @@ void PrinterInfoMemoryTest::callerReleasesTheRecord()
 void PrinterInfoMemoryTest::recordWithoutMemoryIsNull()
 {
     const LogRecorder log;
-    const PrinterHandle printer = openPrinter(m_name);
+    const PrinterHandle printer = openPrinter(printerName);
     allocationsUntilFailure = 1;
     QVERIFY(!WindowsPrinterInfo::getPrinterInfo2(printer.get()));
     QCOMPARE(log.records(),
@@ -116,9 +117,9 @@ void PrinterInfoMemoryTest::recordWithoutMemoryIsNull()
 
 void PrinterInfoMemoryTest::printerWithoutMemoryCountsAsOffline()
 {
-    QVERIFY(!WindowsPrinterInfo::isPrinterOffline(m_name));
+    QVERIFY(!WindowsPrinterInfo::isPrinterOffline(printerName));
     allocationsUntilFailure = 1;
-    QVERIFY(WindowsPrinterInfo::isPrinterOffline(m_name));
+    QVERIFY(WindowsPrinterInfo::isPrinterOffline(printerName));
 }
 
 void PrinterInfoMemoryTest::enumerationWithoutMemoryIsEmpty()
@@ -131,8 +132,8 @@ void PrinterInfoMemoryTest::enumerationWithoutMemoryIsEmpty()
 void PrinterInfoMemoryTest::nameWithoutMemoryIsEmpty()
 {
     PrinterStatusThread thread;
-    const PrinterHandle printer = openPrinter(m_name);
-    QCOMPARE(thread.getPrinterNameFromHandle(printer.get()), m_name);
+    const PrinterHandle printer = openPrinter(printerName);
+    QCOMPARE(thread.getPrinterNameFromHandle(printer.get()), printerName);
     allocationsUntilFailure = 1;
     QVERIFY(thread.getPrinterNameFromHandle(printer.get()).isEmpty());
 }
@@ -140,16 +141,16 @@ void PrinterInfoMemoryTest::nameWithoutMemoryIsEmpty()
 void PrinterInfoMemoryTest::everyPathReleasesItsBlock()
 {
     WindowsPrinterInfo::getAvailablePrinters();
-    WindowsPrinterInfo::getAvailablePrinterInfo(m_name);
-    WindowsPrinterInfo::isPrinterOffline(m_name);
+    WindowsPrinterInfo::getAvailablePrinterInfo(printerName);
+    WindowsPrinterInfo::isPrinterOffline(printerName);
     QVERIFY(allocated.empty());
 
     for (const char* function : {"EnumPrintersW", "GetPrinterW"}) {
         for (int call : {1, 2}) {
             machine().failCall(QString::fromLatin1(function), call, ERROR_ACCESS_DENIED);
             WindowsPrinterInfo::getAvailablePrinters();
-            WindowsPrinterInfo::getAvailablePrinterInfo(m_name);
-            WindowsPrinterInfo::isPrinterOffline(m_name);
+            WindowsPrinterInfo::getAvailablePrinterInfo(printerName);
+            WindowsPrinterInfo::isPrinterOffline(printerName);
             machine().clearFailures();
             QVERIFY(allocated.empty());
         }
