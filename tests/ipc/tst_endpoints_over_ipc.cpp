@@ -48,7 +48,7 @@ QString databasePath()
 }
 
 /// The method tables. A question mark follows an optional argument.
-const std::array<QStringList, ServiceCount> MethodTables{
+const std::array<QStringList, ServiceCount> methodTables{
     QStringList{
         QStringLiteral("QStringList supplySKUList()"),
         QStringLiteral("QStringList supplyRibbonSKUList()"),
@@ -544,7 +544,7 @@ QString methodName(const QString& signature)
 /// The arguments as an object, for a call by name.
 QJsonObject byName(Service service, const QString& method, const QJsonArray& arguments)
 {
-    const QStringList& table = MethodTables.at(service);
+    const QStringList& table = methodTables.at(service);
     const auto signature = std::ranges::find_if(table, [&](const QString& each) {
         return methodName(each) == method && argumentNames(each).size() >= arguments.size();
     });
@@ -695,7 +695,7 @@ void EndpointsOverIpcTest::describesItsMethods()
     const QJsonObject document =
         call(static_cast<Service>(service), QStringLiteral("rpc.discover"), QJsonArray())
             .toObject();
-    QCOMPARE(described(document), MethodTables.at(static_cast<size_t>(service)));
+    QCOMPARE(described(document), methodTables.at(static_cast<size_t>(service)));
     QCOMPARE(document[QStringLiteral("info")][QStringLiteral("x-process")].toInteger(),
              m_host->processId());
     QCOMPARE(document[QStringLiteral("info")][QStringLiteral("x-application")].toString(),
@@ -718,7 +718,7 @@ void EndpointsOverIpcTest::tablesCoverEveryFormOfEveryMethod()
     }
     QSet<QString> all;
     for (size_t service = 0; service < ServiceCount; ++service) {
-        for (const QString& signature : MethodTables.at(service)) {
+        for (const QString& signature : methodTables.at(service)) {
             const qsizetype most = argumentNames(signature).size();
             for (qsizetype i = most - signature.count(u'?'); i <= most; ++i)
                 all.insert(form(static_cast<int>(service), methodName(signature), i));
