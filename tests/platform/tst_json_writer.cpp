@@ -31,7 +31,7 @@ QByteArrayList written(Number number)
 
 } // namespace
 
-class tst_JsonWriter : public QObject
+class JsonWriterTest : public QObject
 {
     Q_OBJECT
 
@@ -47,7 +47,7 @@ private Q_SLOTS:
     void writesManyPieces();
 };
 
-void tst_JsonWriter::writesTexts_data()
+void JsonWriterTest::writesTexts_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QByteArray>("json");
@@ -72,7 +72,7 @@ void tst_JsonWriter::writesTexts_data()
         '"' + QByteArray("\xe2\x82\xac").repeated(100'000) + '"');
 }
 
-void tst_JsonWriter::writesTexts()
+void JsonWriterTest::writesTexts()
 {
     QFETCH(const QString, text);
     QFETCH(const QByteArray, json);
@@ -83,7 +83,7 @@ void tst_JsonWriter::writesTexts()
     QCOMPARE(writer.size(), json.size());
 }
 
-void tst_JsonWriter::writesWholeNumbers_data()
+void JsonWriterTest::writesWholeNumbers_data()
 {
     QTest::addColumn<qint64>("number");
     QTest::addColumn<QByteArray>("json");
@@ -96,7 +96,7 @@ void tst_JsonWriter::writesWholeNumbers_data()
                               << QByteArray("9223372036854775807");
 }
 
-void tst_JsonWriter::writesWholeNumbers()
+void JsonWriterTest::writesWholeNumbers()
 {
     QFETCH(const qint64, number);
     QFETCH(const QByteArray, json);
@@ -104,7 +104,7 @@ void tst_JsonWriter::writesWholeNumbers()
     QCOMPARE(written(number), (QByteArrayList{json, json}));
 }
 
-void tst_JsonWriter::writesNumbers_data()
+void JsonWriterTest::writesNumbers_data()
 {
     QTest::addColumn<double>("number");
     QTest::addColumn<QByteArray>("json");
@@ -119,7 +119,7 @@ void tst_JsonWriter::writesNumbers_data()
     QTest::newRow("none") << std::numeric_limits<double>::quiet_NaN() << QByteArray("null");
 }
 
-void tst_JsonWriter::writesNumbers()
+void JsonWriterTest::writesNumbers()
 {
     QFETCH(const double, number);
     QFETCH(const QByteArray, json);
@@ -127,7 +127,7 @@ void tst_JsonWriter::writesNumbers()
     QCOMPARE(written(number), (QByteArrayList{json, json}));
 }
 
-void tst_JsonWriter::writesValues_data()
+void JsonWriterTest::writesValues_data()
 {
     QTest::addColumn<QByteArray>("json");
 
@@ -140,7 +140,7 @@ void tst_JsonWriter::writesValues_data()
     QTest::newRow("object") << QByteArray(R"({"a":[{"b":"\n"}],"c":-1.5})");
 }
 
-void tst_JsonWriter::writesValues()
+void JsonWriterTest::writesValues()
 {
     QFETCH(const QByteArray, json);
 
@@ -149,7 +149,7 @@ void tst_JsonWriter::writesValues()
     QCOMPARE(writer.json(), json);
 }
 
-void tst_JsonWriter::writesManyPieces()
+void JsonWriterTest::writesManyPieces()
 {
     // Beyond the initial capacity, with pieces of all sizes.
     QJsonArray expected;
@@ -169,5 +169,5 @@ void tst_JsonWriter::writesManyPieces()
     QCOMPARE(read(writer).toArray(), expected);
 }
 
-QTEST_GUILESS_MAIN(tst_JsonWriter)
+QTEST_GUILESS_MAIN(JsonWriterTest)
 #include "tst_json_writer.moc"

@@ -76,7 +76,7 @@ private:
 
 } // namespace
 
-class tst_VXIPCClient : public QObject
+class VXIPCClientTest : public QObject
 {
     Q_OBJECT
 
@@ -123,7 +123,7 @@ private:
     QString m_name;
 };
 
-void tst_VXIPCClient::initTestCase()
+void VXIPCClientTest::initTestCase()
 {
     const int serverType = newServerType();
     m_host = std::make_unique<HostProcess>(serverType);
@@ -131,7 +131,7 @@ void tst_VXIPCClient::initTestCase()
     QCOMPARE(m_name, nameOf(serverType));
 }
 
-void tst_VXIPCClient::waitsForAResult()
+void VXIPCClientTest::waitsForAResult()
 {
     VXIPCClient client(m_name);
     QCOMPARE(client.serverName(), m_name);
@@ -144,7 +144,7 @@ void tst_VXIPCClient::waitsForAResult()
     QVERIFY(nothing.result.isNull());
 }
 
-void tst_VXIPCClient::waitsForAnError()
+void VXIPCClientTest::waitsForAnError()
 {
     VXIPCClient client(m_name);
     const VXIPCReply unknown = client.callAndWait(QStringLiteral("nothing"));
@@ -158,7 +158,7 @@ void tst_VXIPCClient::waitsForAnError()
     QVERIFY(client.isConnected());
 }
 
-void tst_VXIPCClient::callsByName()
+void VXIPCClientTest::callsByName()
 {
     VXIPCClient client(m_name);
     const VXIPCReply reply =
@@ -168,7 +168,7 @@ void tst_VXIPCClient::callsByName()
     QCOMPARE(reply.result.toInt(), 8);
 }
 
-void tst_VXIPCClient::reportsThatNoEndpointAnswers()
+void VXIPCClientTest::reportsThatNoEndpointAnswers()
 {
     VXIPCClient client(newServerType());
     const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"));
@@ -185,7 +185,7 @@ void tst_VXIPCClient::reportsThatNoEndpointAnswers()
     QCOMPARE(later->error->code, int(VXIPCError::NotReachable));
 }
 
-void tst_VXIPCClient::givesUpWaitingInTime()
+void VXIPCClientTest::givesUpWaitingInTime()
 {
     VXIPCClient client(m_name);
     QElapsedTimer timer;
@@ -201,7 +201,7 @@ void tst_VXIPCClient::givesUpWaitingInTime()
              int(VXIPCError::TimedOut));
 }
 
-void tst_VXIPCClient::ignoresLateAnswers()
+void VXIPCClientTest::ignoresLateAnswers()
 {
     VXIPCClient client(m_name);
     QVERIFY(!client.callAndWait(QStringLiteral("block"), QJsonArray{100}, 1ms).isOk());
@@ -210,7 +210,7 @@ void tst_VXIPCClient::ignoresLateAnswers()
     QCOMPARE(reply.result.toInt(), 10);
 }
 
-void tst_VXIPCClient::reportsCallsLostWithTheProcess()
+void VXIPCClientTest::reportsCallsLostWithTheProcess()
 {
     HostProcess host(newServerType());
     VXIPCClient client(host.serverName());
@@ -229,7 +229,7 @@ void tst_VXIPCClient::reportsCallsLostWithTheProcess()
     QLocalServer::removeServer(VXIPCClient::address(host.serverName()));
 }
 
-void tst_VXIPCClient::discardsHalfAnAnswerOfAServerThatDied()
+void VXIPCClientTest::discardsHalfAnAnswerOfAServerThatDied()
 {
     const int serverType = newServerType();
     // Creates the folder that endpoints live in, where there is none yet.
@@ -249,7 +249,7 @@ void tst_VXIPCClient::discardsHalfAnAnswerOfAServerThatDied()
     QCOMPARE(second->result.toInt(), 2);
 }
 
-void tst_VXIPCClient::refusesToSendALineThatIsTooLong()
+void VXIPCClientTest::refusesToSendALineThatIsTooLong()
 {
     VXIPCClient client(m_name);
     // The longest line that an endpoint reads, not counting the line end, and one byte more. The
@@ -264,7 +264,7 @@ void tst_VXIPCClient::refusesToSendALineThatIsTooLong()
     QVERIFY(disconnected.isEmpty());
 }
 
-void tst_VXIPCClient::callsWithoutWaiting()
+void VXIPCClientTest::callsWithoutWaiting()
 {
     VXIPCClient client(m_name);
     std::optional<VXIPCReply> good;
@@ -279,7 +279,7 @@ void tst_VXIPCClient::callsWithoutWaiting()
     QCOMPARE(bad->error->code, -32601);
 }
 
-void tst_VXIPCClient::callsBackLaterThanTheCall()
+void VXIPCClientTest::callsBackLaterThanTheCall()
 {
     VXIPCClient client(m_name);
     bool isAnswered = false;
@@ -290,7 +290,7 @@ void tst_VXIPCClient::callsBackLaterThanTheCall()
     QTRY_VERIFY(isAnswered);
 }
 
-void tst_VXIPCClient::keepsManyCallsInFlight()
+void VXIPCClientTest::keepsManyCallsInFlight()
 {
     constexpr int callCount = 2000;
     VXIPCClient client(m_name);
@@ -304,7 +304,7 @@ void tst_VXIPCClient::keepsManyCallsInFlight()
         QCOMPARE(results.at(i), i);
 }
 
-void tst_VXIPCClient::reportsLateCallsInOrder()
+void VXIPCClientTest::reportsLateCallsInOrder()
 {
     VXIPCClient client(m_name);
     client.setTimeout(20ms);
@@ -324,7 +324,7 @@ void tst_VXIPCClient::reportsLateCallsInOrder()
                                  QStringLiteral("third answered")}));
 }
 
-void tst_VXIPCClient::givesUpEachCallInItsTime()
+void VXIPCClientTest::givesUpEachCallInItsTime()
 {
     // Creates the folder that endpoints live in, where there is none yet.
     TestService service(newServerType());
@@ -343,7 +343,7 @@ void tst_VXIPCClient::givesUpEachCallInItsTime()
     }
 }
 
-void tst_VXIPCClient::deliversOtherOutcomesAfterAWait()
+void VXIPCClientTest::deliversOtherOutcomesAfterAWait()
 {
     VXIPCClient client(m_name);
     QList<int> results;
@@ -358,7 +358,7 @@ void tst_VXIPCClient::deliversOtherOutcomesAfterAWait()
     QCOMPARE(results.last(), 99);
 }
 
-void tst_VXIPCClient::waitsWithinACallback()
+void VXIPCClientTest::waitsWithinACallback()
 {
     VXIPCClient client(m_name);
     int inner = 0;
@@ -371,7 +371,7 @@ void tst_VXIPCClient::waitsWithinACallback()
     QTRY_VERIFY(isSecondAnswered);
 }
 
-void tst_VXIPCClient::runsAnEventLoopInACallback()
+void VXIPCClientTest::runsAnEventLoopInACallback()
 {
     // Creates the folder that endpoints live in, where there is none yet.
     TestService service(newServerType());
@@ -397,7 +397,7 @@ void tst_VXIPCClient::runsAnEventLoopInACallback()
     QCOMPARE(second->result.toInt(), 2);
 }
 
-void tst_VXIPCClient::mayBeDestroyedInACallback()
+void VXIPCClientTest::mayBeDestroyedInACallback()
 {
     auto* client = new VXIPCClient(m_name);
     const QPointer<VXIPCClient> alive(client);
@@ -412,7 +412,7 @@ void tst_VXIPCClient::mayBeDestroyedInACallback()
     QCOMPARE(answers, 1);
 }
 
-void tst_VXIPCClient::mayBeDestroyedWhenTheConnectionIsLost_data()
+void VXIPCClientTest::mayBeDestroyedWhenTheConnectionIsLost_data()
 {
     QTest::addColumn<bool>("isLostByTheServer");
 
@@ -420,7 +420,7 @@ void tst_VXIPCClient::mayBeDestroyedWhenTheConnectionIsLost_data()
     QTest::newRow("by the client") << false;
 }
 
-void tst_VXIPCClient::mayBeDestroyedWhenTheConnectionIsLost()
+void VXIPCClientTest::mayBeDestroyedWhenTheConnectionIsLost()
 {
     QFETCH(const bool, isLostByTheServer);
 
@@ -438,7 +438,7 @@ void tst_VXIPCClient::mayBeDestroyedWhenTheConnectionIsLost()
     QTRY_VERIFY(!alive);
 }
 
-void tst_VXIPCClient::answersACallMadeWhenTheConnectionIsLost()
+void VXIPCClientTest::answersACallMadeWhenTheConnectionIsLost()
 {
     // Creates the folder that endpoints live in, where there is none yet.
     TestService service(newServerType());
@@ -459,7 +459,7 @@ void tst_VXIPCClient::answersACallMadeWhenTheConnectionIsLost()
     QCOMPARE(second->result.toInt(), 2);
 }
 
-void tst_VXIPCClient::forgetsItsCallsWhenDestroyed()
+void VXIPCClientTest::forgetsItsCallsWhenDestroyed()
 {
     bool isAnswered = false;
     const auto remember = [&](const VXIPCReply&) {
@@ -477,7 +477,7 @@ void tst_VXIPCClient::forgetsItsCallsWhenDestroyed()
     QVERIFY(!isAnswered);
 }
 
-void tst_VXIPCClient::sendsNotifications()
+void VXIPCClientTest::sendsNotifications()
 {
     HostProcess host(newServerType());
     VXIPCClient client(host.serverName());
@@ -487,7 +487,7 @@ void tst_VXIPCClient::sendsNotifications()
              QJsonValue(QJsonArray{QStringLiteral("sent")}));
 }
 
-void tst_VXIPCClient::reportsConnections()
+void VXIPCClientTest::reportsConnections()
 {
     VXIPCClient client(m_name);
     QSignalSpy connected(&client, &VXIPCClient::connected);
@@ -508,7 +508,7 @@ void tst_VXIPCClient::reportsConnections()
     QVERIFY(client.callAndWait(QStringLiteral("notes")).isOk());
 }
 
-void tst_VXIPCClient::connectsAgain()
+void VXIPCClientTest::connectsAgain()
 {
     const int serverType = newServerType();
     auto host = std::make_unique<HostProcess>(serverType);
@@ -529,7 +529,7 @@ void tst_VXIPCClient::connectsAgain()
     QVERIFY(client.callAndWait(QStringLiteral("notes")).isOk());
 }
 
-void tst_VXIPCClient::staysDisconnectedOnRequest()
+void VXIPCClientTest::staysDisconnectedOnRequest()
 {
     VXIPCClient client(m_name);
     QSignalSpy connected(&client, &VXIPCClient::connected);
@@ -540,7 +540,7 @@ void tst_VXIPCClient::staysDisconnectedOnRequest()
     QVERIFY(!client.isConnected());
 }
 
-void tst_VXIPCClient::findsAnEndpointThatComesLater()
+void VXIPCClientTest::findsAnEndpointThatComesLater()
 {
     const int serverType = newServerType();
     VXIPCClient client(serverType);
@@ -550,7 +550,7 @@ void tst_VXIPCClient::findsAnEndpointThatComesLater()
     QTRY_COMPARE_WITH_TIMEOUT(connected.size(), 1, patience);
 }
 
-void tst_VXIPCClient::refusesInvalidAnswers_data()
+void VXIPCClientTest::refusesInvalidAnswers_data()
 {
     QTest::addColumn<QByteArray>("answer");
 
@@ -564,7 +564,7 @@ void tst_VXIPCClient::refusesInvalidAnswers_data()
     QTest::newRow("empty object") << QByteArray("{}\n");
 }
 
-void tst_VXIPCClient::refusesInvalidAnswers()
+void VXIPCClientTest::refusesInvalidAnswers()
 {
     QFETCH(const QByteArray, answer);
 
@@ -584,7 +584,7 @@ void tst_VXIPCClient::refusesInvalidAnswers()
     QTRY_VERIFY(!partings.isEmpty());
 }
 
-void tst_VXIPCClient::reportsTooManyClients()
+void VXIPCClientTest::reportsTooManyClients()
 {
     HostProcess host(newServerType());
     std::vector<std::unique_ptr<VXIPCClient>> clients;
@@ -596,12 +596,12 @@ void tst_VXIPCClient::reportsTooManyClients()
     QCOMPARE(tooMany.callAndWait(QStringLiteral("notes")).error->code, -32001);
 }
 
-void tst_VXIPCClient::listsRunningServers()
+void VXIPCClientTest::listsRunningServers()
 {
     const QString name = nameOf(newServerType());
     QVERIFY(VXIPCClient::runningServers().contains(m_name));
     QVERIFY(!VXIPCClient::runningServers().contains(name));
 }
 
-QTEST_GUILESS_MAIN(tst_VXIPCClient)
+QTEST_GUILESS_MAIN(VXIPCClientTest)
 #include "tst_vxipc_client.moc"

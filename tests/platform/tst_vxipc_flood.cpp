@@ -191,7 +191,7 @@ std::chrono::nanoseconds quantile(std::vector<std::chrono::nanoseconds> times, d
 
 } // namespace
 
-class tst_VXIPCFlood : public QObject
+class VXIPCFloodTest : public QObject
 {
     Q_OBJECT
 
@@ -199,7 +199,7 @@ private Q_SLOTS:
     void servesAGoodClientDuringAFlood();
 };
 
-void tst_VXIPCFlood::servesAGoodClientDuringAFlood()
+void VXIPCFloodTest::servesAGoodClientDuringAFlood()
 {
     HostProcess host(newServerType());
     QVERIFY(!host.serverName().isEmpty());
@@ -240,5 +240,5 @@ void tst_VXIPCFlood::servesAGoodClientDuringAFlood()
     QTRY_VERIFY(next.callAndWait(QStringLiteral("notes")).isOk());
 }
 
-QTEST_GUILESS_MAIN(tst_VXIPCFlood)
+QTEST_GUILESS_MAIN(VXIPCFloodTest)
 #include "tst_vxipc_flood.moc"

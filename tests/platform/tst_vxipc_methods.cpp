@@ -22,7 +22,7 @@ QByteArray objectOfSize(qsizetype members)
 
 } // namespace
 
-class tst_VXIPCMethods : public IpcServerTest
+class VXIPCMethodsTest : public IpcServerTest
 {
     Q_OBJECT
 
@@ -57,7 +57,7 @@ private Q_SLOTS:
     void readsLinesAsTheyCome();
 };
 
-void tst_VXIPCMethods::carriesValues_data()
+void VXIPCMethodsTest::carriesValues_data()
 {
     QTest::addColumn<QByteArray>("method");
     QTest::addColumn<QByteArray>("parameters");
@@ -112,7 +112,7 @@ void tst_VXIPCMethods::carriesValues_data()
         R"({"name":"n","count":2,"width":1.5,"isLoaded":true,"image":"AAEC","panels":["p"],"heats":[1]})");
 }
 
-void tst_VXIPCMethods::carriesValues()
+void VXIPCMethodsTest::carriesValues()
 {
     QFETCH(const QByteArray, method);
     QFETCH(const QByteArray, parameters);
@@ -125,7 +125,7 @@ void tst_VXIPCMethods::carriesValues()
                                   {QStringLiteral("result"), parsed(result)}}));
 }
 
-void tst_VXIPCMethods::answersNullForNumbersThatJsonLacks()
+void VXIPCMethodsTest::answersNullForNumbersThatJsonLacks()
 {
     // Overflows to infinity, which JSON has no number for.
     RawClient client(serverName());
@@ -134,7 +134,7 @@ void tst_VXIPCMethods::answersNullForNumbersThatJsonLacks()
     QCOMPARE(answer[QStringLiteral("result")], QJsonValue(QJsonValue::Null));
 }
 
-void tst_VXIPCMethods::choosesTheOverload_data()
+void VXIPCMethodsTest::choosesTheOverload_data()
 {
     QTest::addColumn<QByteArray>("parameters");
     QTest::addColumn<QString>("chosen");
@@ -153,7 +153,7 @@ void tst_VXIPCMethods::choosesTheOverload_data()
         << QByteArray(R"({"value":1,"label":"2"})") << QStringLiteral("int, text");
 }
 
-void tst_VXIPCMethods::choosesTheOverload()
+void VXIPCMethodsTest::choosesTheOverload()
 {
     QFETCH(const QByteArray, parameters);
     QFETCH(const QString, chosen);
@@ -162,7 +162,7 @@ void tst_VXIPCMethods::choosesTheOverload()
     QCOMPARE(client.call("overloaded", parameters)[QStringLiteral("result")].toString(), chosen);
 }
 
-void tst_VXIPCMethods::refusesBadParameters_data()
+void VXIPCMethodsTest::refusesBadParameters_data()
 {
     QTest::addColumn<QByteArray>("method");
     QTest::addColumn<QByteArray>("parameters");
@@ -210,7 +210,7 @@ void tst_VXIPCMethods::refusesBadParameters_data()
         "expected a whole number from -2147483648 to 2147483647, got true");
 }
 
-void tst_VXIPCMethods::refusesBadParameters()
+void VXIPCMethodsTest::refusesBadParameters()
 {
     QFETCH(const QByteArray, method);
     QFETCH(const QByteArray, parameters);
@@ -230,7 +230,7 @@ void tst_VXIPCMethods::refusesBadParameters()
     QCOMPARE(client.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
 }
 
-void tst_VXIPCMethods::takesArgumentsAtTheirBounds_data()
+void VXIPCMethodsTest::takesArgumentsAtTheirBounds_data()
 {
     QTest::addColumn<QByteArray>("method");
     QTest::addColumn<QByteArray>("argument");
@@ -245,7 +245,7 @@ void tst_VXIPCMethods::takesArgumentsAtTheirBounds_data()
     QTest::newRow("object with a long name") << QByteArray("mapEcho") << '{' + text + ":1}";
 }
 
-void tst_VXIPCMethods::takesArgumentsAtTheirBounds()
+void VXIPCMethodsTest::takesArgumentsAtTheirBounds()
 {
     QFETCH(const QByteArray, method);
     QFETCH(const QByteArray, argument);
@@ -256,7 +256,7 @@ void tst_VXIPCMethods::takesArgumentsAtTheirBounds()
     QCOMPARE(answer[QStringLiteral("result")], parsed(argument));
 }
 
-void tst_VXIPCMethods::refusesArgumentsBeyondTheirBounds_data()
+void VXIPCMethodsTest::refusesArgumentsBeyondTheirBounds_data()
 {
     QTest::addColumn<QByteArray>("method");
     QTest::addColumn<QByteArray>("argument");
@@ -293,7 +293,7 @@ void tst_VXIPCMethods::refusesArgumentsBeyondTheirBounds_data()
     row("any", "anyEcho", list(65, "1"), "expected a list of at most 64 entries, got 65");
 }
 
-void tst_VXIPCMethods::refusesArgumentsBeyondTheirBounds()
+void VXIPCMethodsTest::refusesArgumentsBeyondTheirBounds()
 {
     QFETCH(const QByteArray, method);
     QFETCH(const QByteArray, argument);
@@ -308,7 +308,7 @@ void tst_VXIPCMethods::refusesArgumentsBeyondTheirBounds()
     QCOMPARE(client.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
 }
 
-void tst_VXIPCMethods::refusesCallsThatTheEndpointObjectsTo()
+void VXIPCMethodsTest::refusesCallsThatTheEndpointObjectsTo()
 {
     RawClient client(serverName());
     QVERIFY(client.call("keep", R"(["a"])")[QStringLiteral("result")].isNull());
@@ -326,7 +326,7 @@ void tst_VXIPCMethods::refusesCallsThatTheEndpointObjectsTo()
     QCOMPARE(m_service->kept.size(), 3);
 }
 
-void tst_VXIPCMethods::shortensLongNamesInErrors()
+void VXIPCMethodsTest::shortensLongNamesInErrors()
 {
     RawClient client(serverName());
     const QByteArray name(100000, 'n');
@@ -346,7 +346,7 @@ void tst_VXIPCMethods::shortensLongNamesInErrors()
              QStringLiteral("Method not found: %1…").arg(QString(99, QLatin1Char('n'))));
 }
 
-void tst_VXIPCMethods::refusesBadRequests_data()
+void VXIPCMethodsTest::refusesBadRequests_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<int>("code");
@@ -387,7 +387,7 @@ void tst_VXIPCMethods::refusesBadRequests_data()
     row("reserved method", R"({"jsonrpc":"2.0","id":4,"method":"rpc.other"})", -32601, "4");
 }
 
-void tst_VXIPCMethods::refusesBadRequests()
+void VXIPCMethodsTest::refusesBadRequests()
 {
     QFETCH(const QByteArray, line);
     QFETCH(const int, code);
@@ -406,7 +406,7 @@ void tst_VXIPCMethods::refusesBadRequests()
     QCOMPARE(bystander.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
 }
 
-void tst_VXIPCMethods::answersUnderTheId_data()
+void VXIPCMethodsTest::answersUnderTheId_data()
 {
     QTest::addColumn<QByteArray>("id");
 
@@ -415,7 +415,7 @@ void tst_VXIPCMethods::answersUnderTheId_data()
     QTest::newRow("of the greatest length") << textOfSize(4096);
 }
 
-void tst_VXIPCMethods::answersUnderTheId()
+void VXIPCMethodsTest::answersUnderTheId()
 {
     QFETCH(const QByteArray, id);
 
@@ -426,7 +426,7 @@ void tst_VXIPCMethods::answersUnderTheId()
     QCOMPARE(answer[QStringLiteral("result")].toInt(), 1);
 }
 
-void tst_VXIPCMethods::hidesWhatTheEndpointDoesNotDeclare_data()
+void VXIPCMethodsTest::hidesWhatTheEndpointDoesNotDeclare_data()
 {
     QTest::addColumn<QByteArray>("method");
     QTest::addColumn<QByteArray>("parameters");
@@ -449,7 +449,7 @@ void tst_VXIPCMethods::hidesWhatTheEndpointDoesNotDeclare_data()
     row("echo(QString)", R"(["a"])");
 }
 
-void tst_VXIPCMethods::hidesWhatTheEndpointDoesNotDeclare()
+void VXIPCMethodsTest::hidesWhatTheEndpointDoesNotDeclare()
 {
     QFETCH(const QByteArray, method);
     QFETCH(const QByteArray, parameters);
@@ -463,7 +463,7 @@ void tst_VXIPCMethods::hidesWhatTheEndpointDoesNotDeclare()
     QVERIFY(service->objectName().isEmpty());
 }
 
-void tst_VXIPCMethods::describesItsMethods()
+void VXIPCMethodsTest::describesItsMethods()
 {
     RawClient client(serverName());
     const QJsonValue document = client.call("rpc.discover")[QStringLiteral("result")];
@@ -486,7 +486,7 @@ void tst_VXIPCMethods::describesItsMethods()
     QCOMPARE(names, expected);
 }
 
-void tst_VXIPCMethods::describesOverloadsAndDefaults()
+void VXIPCMethodsTest::describesOverloadsAndDefaults()
 {
     RawClient client(serverName());
     const QJsonArray methods =
@@ -512,7 +512,7 @@ void tst_VXIPCMethods::describesOverloadsAndDefaults()
                                      QStringLiteral("int,QString")}));
 }
 
-void tst_VXIPCMethods::describesRecords()
+void VXIPCMethodsTest::describesRecords()
 {
     RawClient client(serverName());
     const QJsonValue document = client.call("rpc.discover")[QStringLiteral("result")];
@@ -525,7 +525,7 @@ void tst_VXIPCMethods::describesRecords()
             "heats":{"type":"array"}}}}})"));
 }
 
-void tst_VXIPCMethods::answersABatch()
+void VXIPCMethodsTest::answersABatch()
 {
     RawClient client(serverName());
     const QByteArray line =
@@ -544,7 +544,7 @@ void tst_VXIPCMethods::answersABatch()
     QCOMPARE(answers[3][QStringLiteral("result")], parsed(R"(["n"])"));
 }
 
-void tst_VXIPCMethods::doesNotAnswerABatchOfNotifications()
+void VXIPCMethodsTest::doesNotAnswerABatchOfNotifications()
 {
     RawClient client(serverName());
     client.send(R"([{"jsonrpc":"2.0","method":"note","params":["a"]},)"
@@ -554,7 +554,7 @@ void tst_VXIPCMethods::doesNotAnswerABatchOfNotifications()
     QCOMPARE(client.call("notes")[QStringLiteral("result")], parsed(R"(["a","b"])"));
 }
 
-void tst_VXIPCMethods::refusesInvalidBatches()
+void VXIPCMethodsTest::refusesInvalidBatches()
 {
     RawClient client(serverName());
     QCOMPARE(errorCode(object(client.exchange("[]"))), -32600);
@@ -564,7 +564,7 @@ void tst_VXIPCMethods::refusesInvalidBatches()
         QCOMPARE(errorCode(answer.toObject()), -32600);
 }
 
-void tst_VXIPCMethods::doesNotAnswerNotifications()
+void VXIPCMethodsTest::doesNotAnswerNotifications()
 {
     RawClient client(serverName());
     client.send(R"({"jsonrpc":"2.0","method":"note","params":["a"]})"
@@ -576,7 +576,7 @@ void tst_VXIPCMethods::doesNotAnswerNotifications()
     QCOMPARE(client.call("notes")[QStringLiteral("result")], parsed(R"(["a"])"));
 }
 
-void tst_VXIPCMethods::readsLinesAsTheyCome()
+void VXIPCMethodsTest::readsLinesAsTheyCome()
 {
     RawClient client(serverName());
     const QByteArray line = R"({"jsonrpc":"2.0","id":1,"method":"notes"})";
@@ -602,5 +602,5 @@ void tst_VXIPCMethods::readsLinesAsTheyCome()
         QCOMPARE(object(client.receive())[QStringLiteral("id")].toInt(-1), i);
 }
 
-QTEST_GUILESS_MAIN(tst_VXIPCMethods)
+QTEST_GUILESS_MAIN(VXIPCMethodsTest)
 #include "tst_vxipc_methods.moc"

@@ -21,7 +21,8 @@
 
 #ifdef Q_OS_UNIX
 #include <grp.h>
-#include <signal.h>
+// <csignal> need not declare kill().
+#include <signal.h> // NOLINT(modernize-deprecated-headers)
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <sys/wait.h>
@@ -98,7 +99,7 @@ private:
 
 } // namespace
 
-class tst_VXIPCPublishing : public IpcServerTest
+class VXIPCPublishingTest : public IpcServerTest
 {
     Q_OBJECT
 
@@ -117,7 +118,7 @@ private Q_SLOTS:
     void isNotPublishedWhereOthersMayWrite();
 };
 
-void tst_VXIPCPublishing::isPublishedWhenTheEventLoopRuns()
+void VXIPCPublishingTest::isPublishedWhenTheEventLoopRuns()
 {
     TestService service(newServerType());
     QVERIFY(service.serverName().isEmpty());
@@ -128,7 +129,7 @@ void tst_VXIPCPublishing::isPublishedWhenTheEventLoopRuns()
              QStringLiteral("a"));
 }
 
-void tst_VXIPCPublishing::isPublishedOnItsThread()
+void VXIPCPublishingTest::isPublishedOnItsThread()
 {
     const int serverType = newServerType();
     const ServiceOnThread service(serverType);
@@ -138,7 +139,7 @@ void tst_VXIPCPublishing::isPublishedOnItsThread()
     QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
 }
 
-void tst_VXIPCPublishing::servesClientsThatConnectAsItIsPublished()
+void VXIPCPublishingTest::servesClientsThatConnectAsItIsPublished()
 {
     for (int round = 0; round < 60; ++round) {
         const int serverType = newServerType();
@@ -153,7 +154,7 @@ void tst_VXIPCPublishing::servesClientsThatConnectAsItIsPublished()
     }
 }
 
-void tst_VXIPCPublishing::addsTheProcessIdToATakenName()
+void VXIPCPublishingTest::addsTheProcessIdToATakenName()
 {
     const int serverType = newServerType();
     const QString name = nameOf(serverType);
@@ -173,7 +174,7 @@ void tst_VXIPCPublishing::addsTheProcessIdToATakenName()
     }
 }
 
-void tst_VXIPCPublishing::addsTheProcessIdWhenAnotherProcessHoldsTheName()
+void VXIPCPublishingTest::addsTheProcessIdWhenAnotherProcessHoldsTheName()
 {
     const int serverType = newServerType();
     const QString name = nameOf(serverType);
@@ -190,7 +191,7 @@ void tst_VXIPCPublishing::addsTheProcessIdWhenAnotherProcessHoldsTheName()
     QCOMPARE(otherClient.call("notes")[QStringLiteral("result")], parsed("[]"));
 }
 
-void tst_VXIPCPublishing::leavesTheNameToAProcessThatIsStopped()
+void VXIPCPublishingTest::leavesTheNameToAProcessThatIsStopped()
 {
 #ifdef Q_OS_UNIX
     // The process does not answer, but the system accepts connections for it.
@@ -207,7 +208,7 @@ void tst_VXIPCPublishing::leavesTheNameToAProcessThatIsStopped()
 #endif
 }
 
-void tst_VXIPCPublishing::takesTheNameOfADeadProcess()
+void VXIPCPublishingTest::takesTheNameOfADeadProcess()
 {
     const int serverType = newServerType();
     const QString name = nameOf(serverType);
@@ -222,7 +223,7 @@ void tst_VXIPCPublishing::takesTheNameOfADeadProcess()
     QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
 }
 
-void tst_VXIPCPublishing::leavesNoSocketBehind()
+void VXIPCPublishingTest::leavesNoSocketBehind()
 {
     const QString name = serverName();
     m_service.reset();
@@ -232,7 +233,7 @@ void tst_VXIPCPublishing::leavesNoSocketBehind()
 #endif
 }
 
-void tst_VXIPCPublishing::admitsOnlyTheUser()
+void VXIPCPublishingTest::admitsOnlyTheUser()
 {
 #ifdef Q_OS_UNIX
     const QFileInfo socket(VXIPCClient::address(serverName()));
@@ -266,7 +267,7 @@ void tst_VXIPCPublishing::admitsOnlyTheUser()
 #endif
 }
 
-void tst_VXIPCPublishing::keepsOtherUsersOut()
+void VXIPCPublishingTest::keepsOtherUsersOut()
 {
 #ifdef Q_OS_UNIX
     if (geteuid() != 0)
@@ -288,7 +289,7 @@ void tst_VXIPCPublishing::keepsOtherUsersOut()
 #endif
 }
 
-void tst_VXIPCPublishing::isNotPublishedWhereOthersMayWrite_data()
+void VXIPCPublishingTest::isNotPublishedWhereOthersMayWrite_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QString>("complaint");
@@ -303,7 +304,7 @@ void tst_VXIPCPublishing::isNotPublishedWhereOthersMayWrite_data()
     QTest::newRow("nowhere") << QStringLiteral("missing/nowhere") << QString();
 }
 
-void tst_VXIPCPublishing::isNotPublishedWhereOthersMayWrite()
+void VXIPCPublishingTest::isNotPublishedWhereOthersMayWrite()
 {
 #ifdef Q_OS_UNIX
     QFETCH(const QString, kind);
@@ -337,5 +338,5 @@ void tst_VXIPCPublishing::isNotPublishedWhereOthersMayWrite()
 #endif
 }
 
-QTEST_GUILESS_MAIN(tst_VXIPCPublishing)
+QTEST_GUILESS_MAIN(VXIPCPublishingTest)
 #include "tst_vxipc_publishing.moc"

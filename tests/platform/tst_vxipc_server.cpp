@@ -82,7 +82,7 @@ private:
 
 } // namespace
 
-class tst_VXIPCServer : public IpcServerTest
+class VXIPCServerTest : public IpcServerTest
 {
     Q_OBJECT
 
@@ -116,7 +116,7 @@ private Q_SLOTS:
     void mayBeDestroyedAsAClientLeavesAfterALongBadLine();
 };
 
-void tst_VXIPCServer::readsALineOfTheGreatestLength()
+void VXIPCServerTest::readsALineOfTheGreatestLength()
 {
     RawClient client(serverName());
     const QJsonObject answer = object(client.exchange(requestOfSize(mebibyte)));
@@ -125,7 +125,7 @@ void tst_VXIPCServer::readsALineOfTheGreatestLength()
     QCOMPARE(m_service->log.size(), 1);
 }
 
-void tst_VXIPCServer::answersInOrderAfterALongLine()
+void VXIPCServerTest::answersInOrderAfterALongLine()
 {
     RawClient client(serverName());
     const QByteArray note = R"({"jsonrpc":"2.0","method":"note","params":["long"]})";
@@ -143,7 +143,7 @@ void tst_VXIPCServer::answersInOrderAfterALongLine()
     QCOMPARE(last[QStringLiteral("result")].toArray().size(), 5001);
 }
 
-void tst_VXIPCServer::refusesALineThatIsTooLong_data()
+void VXIPCServerTest::refusesALineThatIsTooLong_data()
 {
     QTest::addColumn<QByteArray>("bytes");
 
@@ -152,7 +152,7 @@ void tst_VXIPCServer::refusesALineThatIsTooLong_data()
     QTest::newRow("zeroes") << QByteArray(2 * mebibyte, '\0');
 }
 
-void tst_VXIPCServer::refusesALineThatIsTooLong()
+void VXIPCServerTest::refusesALineThatIsTooLong()
 {
     QFETCH(const QByteArray, bytes);
 
@@ -165,7 +165,7 @@ void tst_VXIPCServer::refusesALineThatIsTooLong()
     QCOMPARE(bystander.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
 }
 
-void tst_VXIPCServer::countsTheValuesOfALine_data()
+void VXIPCServerTest::countsTheValuesOfALine_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<int>("code");
@@ -190,7 +190,7 @@ void tst_VXIPCServer::countsTheValuesOfALine_data()
         << request(R"(["\\",")" + text + "\"]") << -32602;
 }
 
-void tst_VXIPCServer::countsTheValuesOfALine()
+void VXIPCServerTest::countsTheValuesOfALine()
 {
     QFETCH(const QByteArray, line);
     QFETCH(const int, code);
@@ -201,7 +201,7 @@ void tst_VXIPCServer::countsTheValuesOfALine()
     QCOMPARE(client.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
 }
 
-void tst_VXIPCServer::refusesTheClientThatIsOneTooMany()
+void VXIPCServerTest::refusesTheClientThatIsOneTooMany()
 {
     Clients clients = fillPlaces(serverName());
     QCOMPARE(clients.size(), places);
@@ -218,7 +218,7 @@ void tst_VXIPCServer::refusesTheClientThatIsOneTooMany()
     }));
 }
 
-void tst_VXIPCServer::servesANewClientInPlaceOfOneThatLeft()
+void VXIPCServerTest::servesANewClientInPlaceOfOneThatLeft()
 {
     Clients clients = fillPlaces(serverName());
     QCOMPARE(clients.size(), places);
@@ -231,7 +231,7 @@ void tst_VXIPCServer::servesANewClientInPlaceOfOneThatLeft()
     QVERIFY(isServed(next));
 }
 
-void tst_VXIPCServer::handlesNothingForARefusedClient()
+void VXIPCServerTest::handlesNothingForARefusedClient()
 {
     Clients clients = fillPlaces(serverName());
     QCOMPARE(clients.size(), places);
@@ -243,7 +243,7 @@ void tst_VXIPCServer::handlesNothingForARefusedClient()
     QCOMPARE(m_service->log, QStringList());
 }
 
-void tst_VXIPCServer::sendsAnAnswerOfTheGreatestLength()
+void VXIPCServerTest::sendsAnAnswerOfTheGreatestLength()
 {
     RawClient client(serverName());
     // Base64 turns three bytes into four. The digits of the id make up the exact length.
@@ -253,7 +253,7 @@ void tst_VXIPCServer::sendsAnAnswerOfTheGreatestLength()
     QVERIFY(object(line).contains(QStringLiteral("result")));
 }
 
-void tst_VXIPCServer::refusesAnAnswerThatIsTooLong()
+void VXIPCServerTest::refusesAnAnswerThatIsTooLong()
 {
     RawClient client(serverName());
     // With what surrounds it, the base64 of three mebibytes is longer than four.
@@ -264,7 +264,7 @@ void tst_VXIPCServer::refusesAnAnswerThatIsTooLong()
              QStringLiteral("AAAA"));
 }
 
-void tst_VXIPCServer::disconnectsAClientThatReadsNoAnswers()
+void VXIPCServerTest::disconnectsAClientThatReadsNoAnswers()
 {
     RawClient bystander(serverName());
     RawClient client(serverName());
@@ -281,7 +281,7 @@ void tst_VXIPCServer::disconnectsAClientThatReadsNoAnswers()
     QCOMPARE(bystander.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
 }
 
-void tst_VXIPCServer::disconnectsAClientWhoseBatchAsksForTooMuch()
+void VXIPCServerTest::disconnectsAClientWhoseBatchAsksForTooMuch()
 {
     RawClient bystander(serverName());
     RawClient client(serverName());
@@ -291,7 +291,7 @@ void tst_VXIPCServer::disconnectsAClientWhoseBatchAsksForTooMuch()
     QCOMPARE(bystander.call("scale", "[2,3]")[QStringLiteral("result")].toInt(), 6);
 }
 
-void tst_VXIPCServer::survivesAClientThatDies_data()
+void VXIPCServerTest::survivesAClientThatDies_data()
 {
     QTest::addColumn<QByteArray>("bytes");
 
@@ -306,7 +306,7 @@ void tst_VXIPCServer::survivesAClientThatDies_data()
                "1]\n";
 }
 
-void tst_VXIPCServer::survivesAClientThatDies()
+void VXIPCServerTest::survivesAClientThatDies()
 {
     QFETCH(const QByteArray, bytes);
 
@@ -321,7 +321,7 @@ void tst_VXIPCServer::survivesAClientThatDies()
     }
 }
 
-void tst_VXIPCServer::handlesWhatAClientSentBeforeItLeft_data()
+void VXIPCServerTest::handlesWhatAClientSentBeforeItLeft_data()
 {
     QTest::addColumn<int>("lines");
     QTest::addColumn<int>("lineLength");
@@ -330,7 +330,7 @@ void tst_VXIPCServer::handlesWhatAClientSentBeforeItLeft_data()
     QTest::newRow("long lines") << 10 << 300000;
 }
 
-void tst_VXIPCServer::handlesWhatAClientSentBeforeItLeft()
+void VXIPCServerTest::handlesWhatAClientSentBeforeItLeft()
 {
     QFETCH(const int, lines);
     QFETCH(const int, lineLength);
@@ -345,7 +345,7 @@ void tst_VXIPCServer::handlesWhatAClientSentBeforeItLeft()
     QTRY_COMPARE(m_service->log.size(), lines);
 }
 
-void tst_VXIPCServer::servesOthersDuringALongBatch()
+void VXIPCServerTest::servesOthersDuringALongBatch()
 {
     RawClient busy(serverName());
     RawClient quick(serverName());
@@ -361,7 +361,7 @@ void tst_VXIPCServer::servesOthersDuringALongBatch()
     QVERIFY(!busy.socket().canReadLine());
 }
 
-void tst_VXIPCServer::takesCallsDuringACall()
+void VXIPCServerTest::takesCallsDuringACall()
 {
     // In another process: in this one, the call would run its event loop within this test's.
     HostProcess host(newServerType());
@@ -380,7 +380,7 @@ void tst_VXIPCServer::takesCallsDuringACall()
     QCOMPARE(object(waiting.receive())[QStringLiteral("id")].toString(), QStringLiteral("n"));
 }
 
-void tst_VXIPCServer::continuesOtherBatchesDuringACall()
+void VXIPCServerTest::continuesOtherBatchesDuringACall()
 {
     HostProcess host(newServerType());
     RawClient other(host.serverName());
@@ -402,7 +402,7 @@ void tst_VXIPCServer::continuesOtherBatchesDuringACall()
     QCOMPARE(parsed(other.receive())[0][QStringLiteral("id")].toString(), QStringLiteral("r"));
 }
 
-void tst_VXIPCServer::readsNoMoreThanItHandles()
+void VXIPCServerTest::readsNoMoreThanItHandles()
 {
     HostProcess host(newServerType());
     RawClient busy(host.serverName());
@@ -426,7 +426,7 @@ void tst_VXIPCServer::readsNoMoreThanItHandles()
     QVERIFY(isServed(busy));
 }
 
-void tst_VXIPCServer::replacesTheClientThatWasSilentLongest()
+void VXIPCServerTest::replacesTheClientThatWasSilentLongest()
 {
     m_service->findChild<IpcPublisher*>()->setPatience(0ms);
     Clients clients = fillPlaces(serverName());
@@ -442,7 +442,7 @@ void tst_VXIPCServer::replacesTheClientThatWasSilentLongest()
         QVERIFY(isServed(*client));
 }
 
-void tst_VXIPCServer::replacesOneSilentClientForEachNewOne()
+void VXIPCServerTest::replacesOneSilentClientForEachNewOne()
 {
     m_service->findChild<IpcPublisher*>()->setPatience(0ms);
     Clients clients = fillPlaces(serverName());
@@ -455,7 +455,7 @@ void tst_VXIPCServer::replacesOneSilentClientForEachNewOne()
     QCOMPARE(errorCode(object(clients[1]->receive())), -32001);
 }
 
-void tst_VXIPCServer::keepsClientsThatWaitForAnAnswer()
+void VXIPCServerTest::keepsClientsThatWaitForAnAnswer()
 {
     // On another thread, as the pending call runs an event loop of its own.
     QThread thread;
@@ -486,7 +486,7 @@ void tst_VXIPCServer::keepsClientsThatWaitForAnAnswer()
     QCOMPARE(errorCode(object(clients[0]->receive())), -32001);
 }
 
-void tst_VXIPCServer::mayBeDestroyedByACall()
+void VXIPCServerTest::mayBeDestroyedByACall()
 {
     const QPointer<TestService> service(m_service.release());
     RawClient client(service->serverName());
@@ -498,14 +498,15 @@ void tst_VXIPCServer::mayBeDestroyedByACall()
     QVERIFY(!service);
 }
 
-void tst_VXIPCServer::mayBeDestroyedWhileLongLinesAreParsed()
+void VXIPCServerTest::mayBeDestroyedWhileLongLinesAreParsed()
 {
     // Each round destroys the endpoint at another stage of the work, on either thread.
     for (int round = 0; round < 20; ++round) {
         std::vector<std::unique_ptr<RawClient>> clients;
         for (int i = 0; i < 3; ++i) {
             clients.push_back(std::make_unique<RawClient>(serverName()));
-            clients.back()->send('[' + QByteArray("1,").repeated(20000 * (i + 1)) + "1]\n");
+            clients.back()->send('[' + QByteArray("1,").repeated(qsizetype{20000} * (i + 1)) +
+                                 "1]\n");
         }
         QVERIFY(QTest::qWaitFor([&] {
             return std::ranges::all_of(
@@ -520,7 +521,7 @@ void tst_VXIPCServer::mayBeDestroyedWhileLongLinesAreParsed()
     }
 }
 
-void tst_VXIPCServer::mayBeDestroyedAsAClientLeavesAfterALongBadLine()
+void VXIPCServerTest::mayBeDestroyedAsAClientLeavesAfterALongBadLine()
 {
     RawClient client(serverName());
     // Long enough to be parsed on the other thread.
@@ -534,5 +535,5 @@ void tst_VXIPCServer::mayBeDestroyedAsAClientLeavesAfterALongBadLine()
     QTRY_VERIFY(!m_service);
 }
 
-QTEST_GUILESS_MAIN(tst_VXIPCServer)
+QTEST_GUILESS_MAIN(VXIPCServerTest)
 #include "tst_vxipc_server.moc"

@@ -222,7 +222,7 @@ private:
 
 } // namespace
 
-class tst_VXIPCSockets : public QObject
+class VXIPCSocketsTest : public QObject
 {
     Q_OBJECT
 
@@ -250,7 +250,7 @@ private Q_SLOTS:
     void waitsForAConnectionNoLongerThanForTheAnswer();
 };
 
-void tst_VXIPCSockets::initTestCase()
+void VXIPCSocketsTest::initTestCase()
 {
     // The undefined-behaviour sanitizer inspects an object through a pipe when it first sees the
     // object's class. Without descriptors it would report the object as invalid.
@@ -261,7 +261,7 @@ void tst_VXIPCSockets::initTestCase()
     QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
 }
 
-void tst_VXIPCSockets::isPublishedOnceThereAreDescriptors()
+void VXIPCSocketsTest::isPublishedOnceThereAreDescriptors()
 {
     const int serverType = newServerType();
     TestService service(serverType);
@@ -283,7 +283,7 @@ void tst_VXIPCSockets::isPublishedOnceThereAreDescriptors()
     QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
 }
 
-void tst_VXIPCSockets::isPublishedOnceAnyNameIsAllowed()
+void VXIPCSocketsTest::isPublishedOnceAnyNameIsAllowed()
 {
     const QTemporaryDir folder;
     const ScopedVariable runtime(runtimeFolder, folder.path());
@@ -306,7 +306,7 @@ void tst_VXIPCSockets::isPublishedOnceAnyNameIsAllowed()
     QTRY_COMPARE(service.serverName(), nameOf(serverType));
 }
 
-void tst_VXIPCSockets::isPublishedOnceAnyNameIsFree()
+void VXIPCSocketsTest::isPublishedOnceAnyNameIsFree()
 {
     const QTemporaryDir folder;
     const ScopedVariable runtime(runtimeFolder, folder.path());
@@ -326,7 +326,7 @@ void tst_VXIPCSockets::isPublishedOnceAnyNameIsFree()
     QTRY_COMPARE(service.serverName(), nameOf(serverType));
 }
 
-void tst_VXIPCSockets::isPublishedUnderTheLastOfItsNames()
+void VXIPCSocketsTest::isPublishedUnderTheLastOfItsNames()
 {
     const QTemporaryDir folder;
     const ScopedVariable runtime(runtimeFolder, folder.path());
@@ -345,7 +345,7 @@ void tst_VXIPCSockets::isPublishedUnderTheLastOfItsNames()
              qPrintable(complaints.last()));
 }
 
-void tst_VXIPCSockets::isPublishedOnceItsFolderIsTheUsersAlone()
+void VXIPCSocketsTest::isPublishedOnceItsFolderIsTheUsersAlone()
 {
     const QTemporaryDir folder;
     const ScopedVariable runtime(runtimeFolder, folder.path());
@@ -360,7 +360,7 @@ void tst_VXIPCSockets::isPublishedOnceItsFolderIsTheUsersAlone()
     QTRY_VERIFY(!service.serverName().isEmpty());
 }
 
-void tst_VXIPCSockets::acceptsClientsOnceThereAreDescriptors()
+void VXIPCSocketsTest::acceptsClientsOnceThereAreDescriptors()
 {
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
@@ -388,7 +388,7 @@ void tst_VXIPCSockets::acceptsClientsOnceThereAreDescriptors()
     QCOMPARE(other.call("scale", "[2]")[QStringLiteral("result")].toInt(), 20);
 }
 
-void tst_VXIPCSockets::complainsEachTimeItCannotAcceptClients()
+void VXIPCSocketsTest::complainsEachTimeItCannotAcceptClients()
 {
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
@@ -411,7 +411,7 @@ void tst_VXIPCSockets::complainsEachTimeItCannotAcceptClients()
     }
 }
 
-void tst_VXIPCSockets::takesNoNameWithoutItsLock()
+void VXIPCSocketsTest::takesNoNameWithoutItsLock()
 {
     const int serverType = newServerType();
     // As another process does between finding the name free and creating its socket.
@@ -430,7 +430,7 @@ void tst_VXIPCSockets::takesNoNameWithoutItsLock()
     QVERIFY(QFileInfo::exists(QFile::decodeName(path)));
 }
 
-void tst_VXIPCSockets::takesNoNameWhoseLockIsNotAFile_data()
+void VXIPCSocketsTest::takesNoNameWhoseLockIsNotAFile_data()
 {
     QTest::addColumn<QString>("kind");
 
@@ -438,7 +438,7 @@ void tst_VXIPCSockets::takesNoNameWhoseLockIsNotAFile_data()
         QTest::newRow(kind) << QString::fromLatin1(kind);
 }
 
-void tst_VXIPCSockets::takesNoNameWhoseLockIsNotAFile()
+void VXIPCSocketsTest::takesNoNameWhoseLockIsNotAFile()
 {
     QFETCH(const QString, kind);
 
@@ -461,7 +461,7 @@ void tst_VXIPCSockets::takesNoNameWhoseLockIsNotAFile()
 }
 
 // It cannot become a free lock, so waiting for it would only delay the host.
-void tst_VXIPCSockets::doesNotWaitForALockThatIsNotAFile()
+void VXIPCSocketsTest::doesNotWaitForALockThatIsNotAFile()
 {
     const QTemporaryDir folder;
     const QByteArray path = QFile::encodeName(folder.filePath(QStringLiteral("name.lock")));
@@ -470,7 +470,7 @@ void tst_VXIPCSockets::doesNotWaitForALockThatIsNotAFile()
     QCOMPARE(lock.lock(QDeadlineTimer(QDeadlineTimer::Forever)), IpcNameLock::Outcome::Denied);
 }
 
-void tst_VXIPCSockets::takesTheNameWhoseLockADeadProcessLeft()
+void VXIPCSocketsTest::takesTheNameWhoseLockADeadProcessLeft()
 {
     const int serverType = newServerType();
     const QString path = VXIPCClient::address(nameOf(serverType)) + QStringLiteral(".lock");
@@ -483,7 +483,7 @@ void tst_VXIPCSockets::takesTheNameWhoseLockADeadProcessLeft()
     QVERIFY(!QFileInfo::exists(path));
 }
 
-void tst_VXIPCSockets::leavesWhatIsNotASocket()
+void VXIPCSocketsTest::leavesWhatIsNotASocket()
 {
     const int serverType = newServerType();
     const QString path = VXIPCClient::address(nameOf(serverType));
@@ -496,7 +496,7 @@ void tst_VXIPCSockets::leavesWhatIsNotASocket()
     QVERIFY(file.remove());
 }
 
-void tst_VXIPCSockets::leavesTheSocketThatTookItsPlace()
+void VXIPCSocketsTest::leavesTheSocketThatTookItsPlace()
 {
     auto service = std::make_unique<TestService>(newServerType());
     QTRY_VERIFY(!service->serverName().isEmpty());
@@ -511,7 +511,7 @@ void tst_VXIPCSockets::leavesTheSocketThatTookItsPlace()
     QVERIFY(client.waitForConnected());
 }
 
-void tst_VXIPCSockets::ignoresARelativeFolder()
+void VXIPCSocketsTest::ignoresARelativeFolder()
 {
     const QTemporaryDir folder;
     const QString before = QDir::currentPath();
@@ -530,7 +530,7 @@ void tst_VXIPCSockets::ignoresARelativeFolder()
     QVERIFY(client.connectToServer());
 }
 
-void tst_VXIPCSockets::trustsOnlyTheUsersOwn_data()
+void VXIPCSocketsTest::trustsOnlyTheUsersOwn_data()
 {
     QTest::addColumn<bool>("isFolder");
     QTest::addColumn<uint>("mode");
@@ -547,7 +547,7 @@ void tst_VXIPCSockets::trustsOnlyTheUsersOwn_data()
     QTest::newRow("a socket of another user") << false << 0600U << true << others;
 }
 
-void tst_VXIPCSockets::trustsOnlyTheUsersOwn()
+void VXIPCSocketsTest::trustsOnlyTheUsersOwn()
 {
     QFETCH(const bool, isFolder);
     QFETCH(const uint, mode);
@@ -583,7 +583,7 @@ void tst_VXIPCSockets::trustsOnlyTheUsersOwn()
     QVERIFY(client.connectToServer());
 }
 
-void tst_VXIPCSockets::findsNoEndpointInAMissingFolder()
+void VXIPCSocketsTest::findsNoEndpointInAMissingFolder()
 {
     const QTemporaryDir folder;
     const ScopedVariable runtime(runtimeFolder, folder.filePath(QStringLiteral("missing")));
@@ -597,7 +597,7 @@ void tst_VXIPCSockets::findsNoEndpointInAMissingFolder()
     QVERIFY(!QFileInfo::exists(folder.filePath(QStringLiteral("missing"))));
 }
 
-void tst_VXIPCSockets::waitsForAConnectionNoLongerThanForTheAnswer()
+void VXIPCSocketsTest::waitsForAConnectionNoLongerThanForTheAnswer()
 {
     constexpr int calls = 30;
     const int serverType = newServerType();
@@ -621,5 +621,5 @@ void tst_VXIPCSockets::waitsForAConnectionNoLongerThanForTheAnswer()
     QVERIFY2(timer.elapsed() < calls * 1000 / 3, qPrintable(QString::number(timer.elapsed())));
 }
 
-QTEST_GUILESS_MAIN(tst_VXIPCSockets)
+QTEST_GUILESS_MAIN(VXIPCSocketsTest)
 #include "tst_vxipc_sockets.moc"

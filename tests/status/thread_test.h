@@ -21,7 +21,7 @@ class ThreadTest : public MachineTest
     Q_OBJECT
 
 protected:
-    static QByteArray supplyIdentifier(char digit) { return QByteArray(20, digit); }
+    static QByteArray supplyIdentifier(char digit) { return {20, digit}; }
 
     /// One value for each name, all different.
     static QList<PrinterValue> everyValue(char digit = '1')
