@@ -278,7 +278,7 @@ void RollDbTablesTest::refusesInvisibleCharacters()
     SmallCatalogue catalogue;
     QByteArray& table = catalogue.files[file];
     QVERIFY(table.contains(text));
-    table.insert(table.indexOf(text) + 1, "\u202e");
+    table.insert(table.indexOf(text) + 1, QString(QChar(0x202e)).toUtf8());
     QCOMPARE(failureOf([&catalogue] { catalogue.read(); }),
              place + QStringLiteral(": the character U+202E is invisible; remove it"));
 }
@@ -380,7 +380,8 @@ void RollDbTablesTest::refusesWhatExceedsALimit()
              QStringLiteral("colours.csv:5: a field of more than 4096 characters"));
 
     catalogue = {};
-    catalogue.files[QStringLiteral("backgrounds/dot.png")].append(QByteArray(256 * 1024, '\0'));
+    catalogue.files[QStringLiteral("backgrounds/dot.png")].append(
+        QByteArray(qsizetype{256} * 1024, '\0'));
     QCOMPARE(failureOf([&catalogue] { catalogue.read(); }),
              QStringLiteral(
                  "supplies.csv:2, column 13 (background): backgrounds/dot.png is larger than 256 "

@@ -56,24 +56,24 @@ public:
     explicit SteppedClock(const std::function<void()>& onSleep = [] {})
     {
         now = Milliseconds{0};
-        s_onSleep = onSleep;
+        sleepHook = onSleep;
         LockWaiter::ofThisThread() = LockWaiter({[] { return now; },
                                                  [](Milliseconds duration) {
                                                      now += duration;
-                                                     s_onSleep();
+                                                     sleepHook();
                                                  }});
     }
     ~SteppedClock()
     {
         LockWaiter::ofThisThread() = LockWaiter();
-        s_onSleep = {};
+        sleepHook = {};
     }
     Q_DISABLE_COPY_MOVE(SteppedClock)
 
     static inline Milliseconds now{0};
 
 private:
-    static inline std::function<void()> s_onSleep;
+    static inline std::function<void()> sleepHook;
 };
 
 void readText(const QSqlQuery& row, QString& text)

@@ -218,7 +218,7 @@ void VXIPCFloodTest::servesAGoodClientDuringAFlood()
         timer.start();
         const VXIPCReply reply =
             good.callAndWait(QStringLiteral("echo"), QJsonArray{QStringLiteral("good")});
-        times.push_back(std::chrono::nanoseconds(timer.nsecsElapsed()));
+        times.emplace_back(timer.nsecsElapsed());
         timesOfTheirOwn.push_back(times.back() - (waits.all() - waitedBefore));
         isServed = reply.isOk() && reply.result == QStringLiteral("good");
     }

@@ -18,7 +18,9 @@ quint32 answeredType = REG_NONE;
 QByteArray published;
 } // namespace
 
-// Replaces the spooler's function in the library's objects, which are linked into this test.
+// Replaces the spooler's function in the library's objects, which are linked into this test. The
+// linker's option --wrap prescribes the name.
+// NOLINTNEXTLINE(bugprone-reserved-identifier, readability-identifier-naming)
 extern "C" DWORD WINAPI __wrap_GetPrinterDataA(HANDLE, LPSTR, LPDWORD type, LPBYTE data, DWORD size,
                                                LPDWORD needed)
 {

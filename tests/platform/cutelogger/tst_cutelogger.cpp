@@ -364,6 +364,7 @@ void CuteLoggerTest::takesRecordsFromManyThreads()
     auto* recorder = new Recorder;
     logger.registerAppender(recorder);
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int number = 0; number < 4; ++number)
         threads.emplace_back([&] {
             for (int record = 0; record < 500; ++record)
