@@ -57,7 +57,8 @@ function(vx_add_test name)
     endif()
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE
-        vx_build_settings vx_own_folder vx_patience Qt6::Test ${arg_LIBRARIES})
+        vx_build_settings vx_lasting_pool_threads vx_own_folder vx_patience Qt6::Test
+        ${arg_LIBRARIES})
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests"
         WIN32_EXECUTABLE OFF)

@@ -12,6 +12,7 @@
 #include "ipc_host_process.h"
 #include "ipc_raw_client.h"
 #include "ipc_test_service.h"
+#include "is_wine.h"
 #include "vxipcclient.h"
 
 #include <QtCore/QElapsedTimer>
@@ -49,11 +50,6 @@ using OwnedMemory = std::unique_ptr<void, LocalMemoryFreer>;
 OwnedHandle owned(HANDLE handle)
 {
     return OwnedHandle(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
-}
-
-bool isWine()
-{
-    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
 }
 
 QString text(PSID identifier)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 #include "fixture.h"
+#include "is_wine.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QFile>
@@ -24,14 +25,6 @@ std::optional<bool>& spoolerRanBefore()
 {
     static std::optional<bool> ran;
     return ran;
-}
-
-/// Only Wine's ntdll.dll exports this function.
-bool isWine()
-{
-    static const bool wine =
-        GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    return wine;
 }
 
 /// Every behaviour that Wine's spooler, kernel and service manager lack.
