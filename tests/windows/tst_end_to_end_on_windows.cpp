@@ -21,13 +21,13 @@ private Q_SLOTS:
 private:
     QJsonValue askSupplies(const char* method, const QStringList& arguments)
     {
-        return askFromOutside(*m_controller->getSupplyIdController(), QString::fromLatin1(method),
-                              arguments);
+        return callFromOtherProcess(*m_controller->getSupplyIdController(),
+                                    QString::fromLatin1(method), arguments);
     }
     QJsonValue statusOutside(const QString& printer)
     {
-        return askFromOutside(*m_controller->getm4Controller(), QStringLiteral("getPrinterStatus"),
-                              {printer});
+        return callFromOtherProcess(*m_controller->getm4Controller(),
+                                    QStringLiteral("getPrinterStatus"), {printer});
     }
 };
 
