@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// What the controller adds: to a value on its way to the host's slot, and to the start with many
-// printers, whose reports are to come no later; and what one report of a mileage costs among many
-// of them.
+// What the controller adds to the time until a value reaches the host's slot, and to the start with
+// many printers and their first reports. Also measures one report of a mileage among many printers.
 #include "benchmark_support.h"
 #include "by_hand.h"
 #include "printer_status_controller.h"
@@ -51,10 +50,10 @@ constexpr int constructions = 100;
 constexpr int firstReports = 20;
 constexpr int reportsPerSample = 20;
 constexpr int reportSamples = 25;
-// Long enough for the threads to be asleep when the next value comes, as they are in the field.
+// Long enough for the threads to be asleep when the next value arrives, as in normal use.
 constexpr std::chrono::microseconds settlingTime(100);
 
-// Of the same length, so that neither name costs more than the other.
+// Of equal length, so that neither name takes longer than the other.
 const QString libraryPrinter = QStringLiteral("Label printer 1");
 const QString floorPrinter = QStringLiteral("Label printer 2");
 const QString supplyIdentifier = QStringLiteral("00000064100001000001");
@@ -65,7 +64,7 @@ double microseconds(Clock::duration time)
     return std::chrono::duration<double, std::micro>(time).count();
 }
 
-/// Takes the log's lines, which would go to the terminal otherwise.
+/// Drops the lines of the log, which would go to the terminal otherwise.
 class SilentAppender final : public AbstractAppender
 {
 protected:
@@ -75,7 +74,7 @@ protected:
 };
 
 const QString labelDriver = QStringLiteral("Stratamark BirchMax");
-/// Of no supported model, so that the controller leaves it alone.
+/// Not a supported model, so that the controller ignores it.
 const QString officeDriver = QStringLiteral("Office Laser 9");
 
 void addPrinter(const QString& name, const QString& driver = labelDriver,
@@ -97,32 +96,32 @@ void addPrinter(const QString& name, const QString& driver = labelDriver,
               });
 }
 
-/// What somebody would ask by hand to have the same in a record.
-using Ask = void (*)(VXIPCSUPPLYDController& supplies, const QString& printer, const QString& value,
-                     PrinterStatusInformation& record);
+/// Makes by hand the queries that fill the same fields of a record.
+using FillRecord = void (*)(VXIPCSUPPLYDController& supplies, const QString& printer,
+                            const QString& value, PrinterStatusInformation& record);
 
 struct Event
 {
     const char* name;
     const char* valueName;
     PrinterValue (*value)(quint32 number);
-    Ask ask;
+    FillRecord fillRecord;
 };
 
-void askForStatus(VXIPCSUPPLYDController&, const QString&, const QString& value,
-                  PrinterStatusInformation& record)
+void queryStatus(VXIPCSUPPLYDController&, const QString&, const QString& value,
+                 PrinterStatusInformation& record)
 {
     record.statusEnum = value.toInt();
 }
 
-void askForVersion(VXIPCSUPPLYDController&, const QString&, const QString& value,
-                   PrinterStatusInformation& record)
+void queryVersion(VXIPCSUPPLYDController&, const QString&, const QString& value,
+                  PrinterStatusInformation& record)
 {
     record.softwareVersion = value;
 }
 
-void askForSupply(VXIPCSUPPLYDController& supplies, const QString& printer, const QString& value,
-                  PrinterStatusInformation& record)
+void querySupply(VXIPCSUPPLYDController& supplies, const QString& printer, const QString& value,
+                 PrinterStatusInformation& record)
 {
     supplies.setSupplyId(value, printer);
     record.supplySKU = supplies.supplySKUCached(printer);
@@ -131,8 +130,8 @@ void askForSupply(VXIPCSUPPLYDController& supplies, const QString& printer, cons
     record.supplyMaterialName = supplies.supplyMaterialName(record.supplySKU, printer);
 }
 
-void askForMileage(VXIPCSUPPLYDController& supplies, const QString& printer, const QString& value,
-                   PrinterStatusInformation& record)
+void queryMileage(VXIPCSUPPLYDController& supplies, const QString& printer, const QString& value,
+                  PrinterStatusInformation& record)
 {
     const SupplyInformation loaded = supplies.supplyInformation(printer);
     const QList<AvailablePrinters> printers = by_hand::enumerate();
@@ -145,8 +144,8 @@ void askForMileage(VXIPCSUPPLYDController& supplies, const QString& printer, con
                   : int((millimetres * 0.0393701 - 1200.0 + length) / length * 100.0);
 }
 
-void askForRibbons(VXIPCSUPPLYDController& supplies, const QString& printer, const QString& value,
-                   PrinterStatusInformation& record)
+void queryRibbons(VXIPCSUPPLYDController& supplies, const QString& printer, const QString& value,
+                  PrinterStatusInformation& record)
 {
     supplies.setRibbonIds({value, ribbonIdentifiers.at(1)}, printer);
     const QStringList skus = supplies.supplyRibbonSKUsCached(printer);
@@ -163,17 +162,16 @@ const Event events[] = {
      [](quint32 number) {
          return PrinterValue::text("StatusCode", QByteArray::number(2 + number % 2));
      },
-     &askForStatus},
+     &queryStatus},
     {"supply mileage", "Mileage",
      [](quint32 number) { return PrinterValue::number("Mileage", 1 + number % 30000); },
-     &askForMileage},
+     &queryMileage},
     {"ribbons", "Ribbon1Identifier",
      [](quint32 number) { return PrinterValue::number("Ribbon1Identifier", 2003 + number % 2); },
-     &askForRibbons},
+     &queryRibbons},
 };
 
-/// The controller with its host's slot and, beside it, a hand-written thread with another, on one
-/// host's thread.
+/// The controller and a hand-written thread, each with a slot on the same host's thread.
 class Setting
 {
 public:
@@ -207,7 +205,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(Setting)
 
-    /// Microseconds from the publishing of a new value to the host's slot.
+    /// Microseconds from publishing a new value to the host's slot.
     double sample(const QString& printer)
     {
         if (!Machine::instance().waitForWaitingThreads(2))
@@ -247,7 +245,7 @@ private:
         m_floor = std::make_unique<by_hand::WatchingThread>(
             floorPrinter, QList<QByteArray>{m_event.valueName}, m_host,
             [this](const QByteArray&, const QString&, const QString& value) {
-                m_event.ask(*m_supplies, floorPrinter, value, m_record);
+                m_event.fillRecord(*m_supplies, floorPrinter, value, m_record);
                 arrived(false);
             });
         m_floor->start();
@@ -279,19 +277,16 @@ Samples latencies[std::size(events)];
 void latency(benchmark::State& state)
 {
     const auto number = static_cast<std::size_t>(state.range(0));
-    static bool isLibraryMadeFirst = false;
-    isLibraryMadeFirst = !isLibraryMadeFirst;
-    Setting setting(events[number], isLibraryMadeFirst);
+    static bool isLibraryFirst = false;
+    isLibraryFirst = !isLibraryFirst;
+    Setting setting(events[number], isLibraryFirst);
     Samples samples;
     benchmark_support::Turns turns;
     const auto takeBlock = [&](const QString& printer, std::vector<double>& into) {
-        double sum = 0;
-        for (int index = 0; index < samplesPerBlock; ++index) {
-            into.push_back(setting.sample(printer));
-            sum += into.back();
-        }
+        const double sum = benchmark_support::takeBlock(samplesPerBlock, into,
+                                                        [&] { return setting.sample(printer); });
         if (std::isnan(sum))
-            state.SkipWithError("what was published did not arrive");
+            state.SkipWithError("a published value did not arrive");
         return sum;
     };
     for ([[maybe_unused]] auto iteration : state) {
@@ -310,10 +305,10 @@ void latency(benchmark::State& state)
 
 // The start.
 
-const QHash<QByteArray, Ask> firstAsks{
-    {"StatusCode", &askForStatus},         {"SupplyIdentifier", &askForSupply},
-    {"Ribbon1Identifier", &askForRibbons}, {"Mileage", &askForMileage},
-    {"SoftwareVersion", &askForVersion},
+const QHash<QByteArray, FillRecord> fillRecordOf{
+    {"StatusCode", &queryStatus},         {"SupplyIdentifier", &querySupply},
+    {"Ribbon1Identifier", &queryRibbons}, {"Mileage", &queryMileage},
+    {"SoftwareVersion", &queryVersion},
 };
 
 Samples constructionTimes;
@@ -325,11 +320,11 @@ void waitForThreads()
         std::abort();
 }
 
-/// Which printers the host has heard of.
+/// The printers whose first report the host has received.
 class FirstReports
 {
 public:
-    void enter(const QString& printer)
+    void add(const QString& printer)
     {
         m_printers.insert(printer);
         if (m_printers.size() == printersToStartWith)
@@ -346,7 +341,7 @@ private:
     QEventLoop m_loop;
 };
 
-/// The construction alone, or until the host has heard of every printer.
+/// The construction alone, or until the host has received a report of every printer.
 void start(benchmark::State& state, bool untilReported)
 {
     QList<QString> names;
@@ -358,7 +353,7 @@ void start(benchmark::State& state, bool untilReported)
             addPrinter(name);
     };
     Samples wholeTimes;
-    // Of the thread that constructs.
+    // Of the constructing thread.
     Samples processorTimes;
     const auto takeLibrary = [&] {
         populate();
@@ -369,7 +364,7 @@ void start(benchmark::State& state, bool untilReported)
         if (untilReported) {
             QObject::connect(&controller, &PrinterStatusController::statusChangedSignal,
                              &controller,
-                             [&](int, const QString& printer) { reports.enter(printer); });
+                             [&](int, const QString& printer) { reports.add(printer); });
             reports.wait();
         }
         wholeTimes.library.push_back(microseconds(Clock::now() - begin));
@@ -382,15 +377,15 @@ void start(benchmark::State& state, bool untilReported)
         FirstReports reports;
         QHash<QString, PrinterStatusInformation> records;
         VXIPCSUPPLYDController supplies;
-        // As many reports as the controller has of the first values, and for each what is asked to
-        // have the same in a record.
+        // As many reports as the controller gets of the first values, each with the queries that
+        // fill the same fields of a record.
         const auto receive = [&](const QByteArray& valueName, const QString& printer,
                                  const QString& value) {
-            firstAsks.value(valueName)(supplies, printer, value, records[printer]);
+            fillRecordOf.value(valueName)(supplies, printer, value, records[printer]);
             if (valueName == "StatusCode")
-                reports.enter(printer);
+                reports.add(printer);
         };
-        const QList<QByteArray> reported = firstAsks.keys();
+        const QList<QByteArray> reported = fillRecordOf.keys();
         std::vector<std::unique_ptr<by_hand::WatchingThread>> threads;
         const double processorBegin = benchmark_support::processorTime();
         const Clock::time_point begin = Clock::now();
@@ -429,8 +424,7 @@ void mileageReport(benchmark::State& state)
     const auto count = static_cast<int>(state.range(0));
     Machine::instance().reset();
     for (int number = 1; number <= count; ++number) {
-        // All but one of no supported model: they are listed as all others are, without a thread
-        // each.
+        // All but one are unsupported models: they are listed like the others but get no thread.
         if (number == 1)
             addPrinter(libraryPrinter, labelDriver, by_hand::portName(number));
         else
@@ -504,19 +498,16 @@ int main(int argc, char* argv[])
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     SilentAppender silent;
     Logger::globalInstance()->registerAppender(&silent);
-    const bool isRun = benchmark_support::run(argc, argv);
+    const int exitCode = benchmark_support::run(argc, argv, [](benchmark_support::Limits& limits) {
+        for (std::size_t number = 0; number < std::size(events); ++number)
+            limits.atMost(std::string("from a published value to the host's slot, ") +
+                              events[number].name + ", median over the floor's",
+                          latencies[number].ratio(), latencyLimit, "");
+        limits.atMost("construction with 100 printers over the floor's", constructionTimes.ratio(),
+                      constructionLimit, "");
+        limits.atMost("until every one of 100 printers has reported, over the floor's",
+                      firstReportsTimes.ratio(), firstReportsLimit, "");
+    });
     Logger::globalInstance()->removeAppender(&silent);
-    if (!isRun)
-        return 2;
-
-    benchmark_support::Limits limits;
-    for (std::size_t number = 0; number < std::size(events); ++number)
-        limits.atMost(std::string("from a published value to the host's slot, ") +
-                          events[number].name + ", median over the floor's",
-                      latencies[number].ratio(), latencyLimit, "");
-    limits.atMost("construction with 100 printers over the floor's", constructionTimes.ratio(),
-                  constructionLimit, "");
-    limits.atMost("until every one of 100 printers has reported, over the floor's",
-                  firstReportsTimes.ratio(), firstReportsLimit, "");
-    return limits.conclude();
+    return exitCode;
 }

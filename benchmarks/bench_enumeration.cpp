@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// What listing the printers costs, and how that grows with their number.
+// The cost of listing the printers, and how it grows with their number.
 #include "benchmark_support.h"
 #include "by_hand.h"
 #include "windows_printer_info.h"
@@ -38,7 +38,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int fewest = 10;
 constexpr int most = 1000;
-// Of either side in a run; a file that is written is waited for, which takes its time.
+// Per side and run. Writing the file means waiting for the disk, so there are fewer of those calls.
 constexpr int printersWithKnownNumbers = 5000;
 constexpr int callsWithNewNumbers = 10;
 constexpr int repetitions = 10;
@@ -72,9 +72,9 @@ bool isSame(const AvailablePrinters& left, const AvailablePrinters& right)
 
 // The measurement.
 
-/// Microseconds of CPU time a printer. Not of the clock on the wall: a call that lists a thousand
-/// printers is long enough for other programs to get their turn within it, one that lists ten is
-/// not, and waiting for the disk hides what ten cost.
+/// Microseconds of CPU time per printer. Elapsed time would not do: a call that lists a thousand
+/// printers is long enough to be interrupted by other programs, one that lists ten is not, and
+/// waiting for the disk would hide the cost of ten.
 struct Samples
 {
     std::vector<double> library;
@@ -82,14 +82,14 @@ struct Samples
     std::vector<double> registry; ///< the floor's registry reads alone
 };
 
-/// Which serial numbers the file holds when an enumeration begins.
+/// Which serial numbers the file has when an enumeration begins.
 enum class SerialFile
 {
     Known, ///< all: nothing is written
     New,   ///< none: all are written
 };
 
-/// The samples of every repetition by the number of printers.
+/// The samples of all repetitions by the number of printers.
 std::map<int, Samples> samplesOf[2];
 
 std::map<int, Samples>& samplesFor(SerialFile file)
@@ -120,7 +120,7 @@ void enumeration(benchmark::State& state, SerialFile file)
 {
     const int count = static_cast<int>(state.range(0));
     populateMachine(count);
-    // A file of its own for every run, so that none holds the serial numbers of a larger one.
+    // Each run has its own file, so that none has the serial numbers of a run with more printers.
     const QTemporaryDir folder;
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
     const QString fileName =
@@ -193,7 +193,7 @@ void registerBenchmarks()
     }
 }
 
-/// How much more a printer takes among the most than among the fewest.
+/// The ratio of the time per printer among the most printers to that among the fewest.
 double growth(SerialFile file, std::vector<double> Samples::*side)
 {
     const std::vector<double>& few = samplesFor(file)[fewest].*side;
@@ -209,17 +209,18 @@ int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
     registerBenchmarks();
-    // In turns, so that a machine that changes its pace does so for every number of printers.
-    if (!benchmark_support::run(argc, argv, {"--benchmark_enable_random_interleaving=true"}))
-        return 2;
-
-    benchmark_support::Limits limits;
-    for (const auto& [name, file] :
-         {std::pair("known", SerialFile::Known), std::pair("new", SerialFile::New)}) {
-        std::printf("growth of the floor, serial numbers %s: %.3f; of its registry reads: %.3f\n",
-                    name, growth(file, &Samples::floor), growth(file, &Samples::registry));
-        limits.atMost(std::string("a printer among 1000 over one among 10, serial numbers ") + name,
-                      growth(file, &Samples::library), growthLimit, "");
-    }
-    return limits.conclude();
+    const auto enterLimits = [](benchmark_support::Limits& limits) {
+        for (const auto& [name, file] :
+             {std::pair("known", SerialFile::Known), std::pair("new", SerialFile::New)}) {
+            std::printf("growth of the floor, serial numbers %s: %.3f; of its registry reads: "
+                        "%.3f\n",
+                        name, growth(file, &Samples::floor), growth(file, &Samples::registry));
+            limits.atMost(std::string("a printer among 1000 over one among 10, serial numbers ") +
+                              name,
+                          growth(file, &Samples::library), growthLimit, "");
+        }
+    };
+    // Interleaved, so that changes in the machine's speed affect every number of printers.
+    return benchmark_support::run(argc, argv, enterLimits,
+                                  {"--benchmark_enable_random_interleaving=true"});
 }

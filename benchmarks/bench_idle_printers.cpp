@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// What a thousand printers that do nothing cost their host in CPU time and memory.
+// The CPU time and memory that a thousand idle printers cost their host.
 //
-// The library and its floor are measured in a process each, because memory that threads have left
-// behind is used again by the threads after them. The two processes stand in the same seconds.
+// The library and its floor are measured in separate processes, because threads reuse memory that
+// earlier threads have released. Both processes are measured during the same seconds.
 #include "benchmark_support.h"
 #include "printer_status_thread.h"
 
@@ -40,10 +40,10 @@ using virtualwindows::PrinterValue;
 namespace {
 
 constexpr int printerCount = 1000;
-constexpr int secondsWatched = 20; // four of the service polls that each thread makes
+constexpr int secondsWatched = 20; // four service polls per thread
 constexpr int repetitions = 2;
 constexpr double cpuLimit = 1.0;     // percent of a core
-constexpr double memoryLimit = 64.0; // KiB a printer
+constexpr double memoryLimit = 64.0; // KiB per printer
 constexpr int startLimit = 60000;    // milliseconds
 
 constexpr char measureArgument[] = "--measure";
@@ -78,7 +78,7 @@ void populateMachine()
     }
 }
 
-/// A thread that is blocked as the library's are, and does nothing else.
+/// A thread that blocks like the library's threads and does nothing else.
 class BareThread final : public QThread
 {
 public:
@@ -151,7 +151,7 @@ public:
             QCoreApplication::processEvents();
         }
     }
-    /// Whether the host has been told everything that the first read found.
+    /// Whether the host has received all reports of the first read.
     bool isSettled() const { return m_reports == printerCount * reportsOfOnePrinter; }
     void stop()
     {
@@ -256,7 +256,7 @@ Memory memory()
             continue;
         const double resident = words.at(1).toDouble();
         found.resident += resident;
-        // A stack is told by its size; with its guard page it is a page more or less.
+        // A stack is recognised by its size, which may differ by its guard page.
         if (std::abs(sizeOfMapping - stackKib) <= 8)
             found.stacks += resident;
     }
@@ -282,7 +282,7 @@ int measure()
         QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
     if (!threads.isSettled() || !Machine::instance().waitForWaitingThreads(
                                     printerCount, std::chrono::milliseconds(startLimit))) {
-        std::fprintf(stderr, "bench_idle_printers: the threads did not come to rest\n");
+        std::fprintf(stderr, "bench_idle_printers: the threads did not become idle\n");
         return 1;
     }
 
@@ -293,7 +293,7 @@ int measure()
     printFigure("kernel_stacks", (after.kernelStacks - before.kernelStacks) / printerCount);
     std::printf("ready\n");
     std::fflush(stdout);
-    // Both processes begin when both are ready, so that neither start is in the other's window.
+    // Both processes wait for each other, so that neither measures while the other starts.
     std::string go;
     std::getline(std::cin, go);
 
@@ -334,7 +334,7 @@ public:
 
     void go() { m_process.write("go\n"); }
 
-    /// Takes in figures until the line that ends them; false when the process ended before.
+    /// Reads figures up to the line `end`. False if the process ended before.
     bool readUntil(const QByteArray& end, Figures& figures)
     {
         for (;;) {
@@ -431,12 +431,9 @@ int main(int argc, char* argv[])
             return measure<BareThreads>();
     }
 
-    if (!benchmark_support::run(argc, argv))
-        return 2;
-
-    benchmark_support::Limits limits;
-    limits.atMost("1000 idle printers, CPU of a core", worstCpu, cpuLimit, " %");
-    limits.atMost("1000 idle printers, resident memory a printer", worstMemory, memoryLimit,
-                  " KiB");
-    return limits.conclude();
+    return benchmark_support::run(argc, argv, [](benchmark_support::Limits& limits) {
+        limits.atMost("1000 idle printers, CPU of a core", worstCpu, cpuLimit, " %");
+        limits.atMost("1000 idle printers, resident memory a printer", worstMemory, memoryLimit,
+                      " KiB");
+    });
 }

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// How long a call to an endpoint in another process takes: one at a time, from 16 clients, and many
-// on their way from one.
+// How long a call to an endpoint in another process takes: one call at a time, calls of 16 clients,
+// and many calls in flight from one client.
 #include "benchmark_support.h"
+#include "ipc_host_main.h"
 #include "ipc_in_flight.h"
 #include "ipc_sides.h"
 #include "vx_ipc_supplyd_controller.h"
@@ -11,12 +12,10 @@
 #include <vxipcclient.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
-#include <QtCore/QTimer>
 #include <QtNetwork/QLocalServer>
 #include <QtNetwork/QLocalSocket>
 
@@ -29,7 +28,6 @@
 #include <limits>
 #include <map>
 #include <string>
-#include <thread>
 
 #include <sched.h>
 
@@ -105,7 +103,7 @@ private:
     std::vector<std::unique_ptr<VXIPCClient>> m_clients;
 };
 
-// Finds its name itself, which it has when the event loop runs.
+// Chooses its name itself, once the event loop runs.
 std::shared_ptr<void> serveLibrary(const QString& /*address*/, const Call& /*call*/)
 {
     return std::make_shared<VXIPCSUPPLYDController>();
@@ -119,7 +117,7 @@ std::unique_ptr<Clients> connectLibrary(const QString& address, const Call& call
     return clients;
 }
 
-// The floor: sockets that carry the same lines, which nobody reads but for their ends.
+// The floor: sockets that carry the same lines, of which only the line ends are read.
 
 class EchoServer : public QLocalServer
 {
@@ -254,7 +252,7 @@ Call readCall()
     call.printer = QStringLiteral("Stratamark CedarMax 4 (warehouse)");
     call.answer = endpoint.supplyColorName(call.sku, call.printer);
     const QString version = QStringLiteral("2.0");
-    // An id of as many digits as those in the middle of a run have.
+    // With as many digits as the ids in the middle of a run.
     constexpr int id = 100000;
     call.requestLine = lineOf({{QStringLiteral("jsonrpc"), version},
                                {QStringLiteral("id"), id},
@@ -266,7 +264,7 @@ Call readCall()
     return call;
 }
 
-// The servers, each in a process of its own: this program, called with the side's name.
+// The servers, each in a process of its own: this program, started with the name of its side.
 
 constexpr const char* serveVerb = "--serve";
 
@@ -281,29 +279,18 @@ int serve(const QString& sideName)
         QStringLiteral("vx-bench-%1-%2").arg(sideName).arg(QCoreApplication::applicationPid());
     const std::shared_ptr<void> server = side->serve(address, readCall());
     if (!server) {
-        std::fprintf(stderr, "bench_ipc: %s cannot be served\n", side->name);
+        std::fprintf(stderr, "bench_ipc: cannot serve %s\n", side->name);
         return 1;
     }
-    QTimer::singleShot(0, qApp, [&] {
+    return serveUntilInputEnds([&] {
         if (side == sides().begin())
             address = static_cast<VXIPCSUPPLYDController*>(server.get())->serverName();
-        std::printf("%s\n", qPrintable(address));
-        std::fflush(stdout);
+        return QStringList{address};
     });
-    // Ends with the process that measures, however that ends.
-    std::thread([application = qApp] {
-        QFile input;
-        if (input.open(0, QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-            while (!input.read(1).isEmpty()) {
-            }
-        }
-        QMetaObject::invokeMethod(application, &QCoreApplication::quit, Qt::QueuedConnection);
-    }).detach();
-    return QCoreApplication::exec();
 }
 
-/// Keeps this process, and those that it starts, on one core. Two processes that wake each other by
-/// turns take several times as long when they happen to be on two.
+/// Keeps this process, and those that it starts, on one core. Two processes that wake each other in
+/// turns take several times as long when the scheduler puts them on two cores.
 void stayOnOneCore()
 {
     cpu_set_t cores;
@@ -399,7 +386,7 @@ void ipc(benchmark::State& state, Pattern pattern)
     std::map<std::size_t, std::vector<double>> samples;
     std::size_t first = 0;
     for ([[maybe_unused]] auto iteration : state) {
-        // Who begins takes turns too.
+        // The sides take turns in going first.
         for (std::size_t i = 0; i < clients.size(); ++i) {
             const std::size_t place = (first + i) % clients.size();
             const Clock::time_point start = Clock::now();
@@ -437,22 +424,8 @@ void registerBenchmarks()
     }
 }
 
-} // namespace
-
-int main(int argc, char* argv[])
+void enterLimits(benchmark_support::Limits& limits)
 {
-    // In a language that the names are translated to.
-    qputenv("LANGUAGE", "de");
-    const QCoreApplication application(argc, argv);
-    if (argc == 3 && std::string(argv[1]) == serveVerb)
-        return serve(QString::fromLocal8Bit(argv[2]));
-
-    stayOnOneCore();
-    registerBenchmarks();
-    if (!benchmark_support::run(argc, argv))
-        return 2;
-
-    benchmark_support::Limits limits;
     const bool hasRemoteObjects = sides().size() > remoteObjectsPlace;
     for (int pattern = 0; pattern < PatternCount; ++pattern) {
         const std::string name = patternNames.at(static_cast<std::size_t>(pattern));
@@ -466,5 +439,18 @@ int main(int argc, char* argv[])
     }
     if (!hasRemoteObjects)
         std::printf("\nQt Remote Objects was not found, so nothing is compared with it.\n");
-    return limits.conclude();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    benchmark_support::useTranslatedNames();
+    const QCoreApplication application(argc, argv);
+    if (argc == 3 && std::string(argv[1]) == serveVerb)
+        return serve(QString::fromLocal8Bit(argv[2]));
+
+    stayOnOneCore();
+    registerBenchmarks();
+    return benchmark_support::run(argc, argv, enterLimits);
 }

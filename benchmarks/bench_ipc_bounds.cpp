@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// For how long at a time one request of another process takes the host's thread, for each method of
-// each endpoint with arguments at the bounds of what is taken, and for requests that are refused.
+// For how long at a time one request from another process occupies the host's thread: for each
+// method of each endpoint, with arguments at their bounds, and for requests that are refused.
 #include "benchmark_support.h"
 #include "sqlite_statement.h"
 
@@ -46,8 +46,8 @@ const QString printerName = QStringLiteral("Stratamark CedarMax 4 (warehouse)");
 
 // The host.
 
-/// The three endpoints on a thread of their own, with a printer that as much is loaded in as other
-/// processes can have it.
+/// The three endpoints on a thread of their own, with a printer in which as much is loaded as other
+/// processes can report.
 class Host
 {
 public:
@@ -93,7 +93,7 @@ public:
         });
     }
 
-    /// Milliseconds of the longest stretch since the last time, of processor time, that the thread
+    /// The longest time since the last call, in milliseconds of processor time, that the thread
     /// worked without looking for other events.
     double takeLongestStretch()
     {
@@ -138,7 +138,7 @@ public:
         m_socket.waitForConnected();
     }
 
-    /// Empty when none comes.
+    /// Empty when no answer comes.
     QByteArray exchange(const QByteArray& line)
     {
         m_socket.write(line);
@@ -161,9 +161,9 @@ private:
 struct Request
 {
     std::string name;
-    /// Another line each time, where something in it is to be new.
+    /// A different line each time, for requests in which something has to be new.
     std::function<QByteArray()> line;
-    /// What has to come of it.
+    /// The expected error; 0 for a result.
     int errorCode = 0;
 };
 
@@ -191,17 +191,17 @@ Load readLoad()
         load.supplySku = supply.text(1);
     }
     SqliteStatement ribbon(file, "SELECT number || '', ribbon_sku FROM ribbon_number");
-    while (load.ribbonIds.size() < JsonRpc::maximumEntries && ribbon.step()) {
+    while (load.ribbonIds.size() < json_rpc::maximumEntries && ribbon.step()) {
         load.ribbonIds.append(ribbon.text(0));
         load.ribbonSkus.append(ribbon.text(1));
     }
-    // And as many as may be reported, of which the database knows nothing.
-    for (int number = 99999; load.ribbonIds.size() < JsonRpc::maximumEntries; --number)
+    // And ribbons that the database does not know, up to as many as may be reported.
+    for (int number = 99999; load.ribbonIds.size() < json_rpc::maximumEntries; --number)
         load.ribbonIds.append(QString::number(number));
     return load;
 }
 
-/// A way to fill in a text, and a list's texts.
+/// A way to fill in a text, and the texts of a list.
 struct Filling
 {
     const char* name;
@@ -213,17 +213,17 @@ std::vector<Filling> fillings(const Load& load)
     return {
         {"longest text",
          [](const QString&, qsizetype) {
-             return QString(JsonRpc::maximumText, u'x');
+             return QString(json_rpc::maximumText, u'x');
          }},
         {"longest text of quotes",
          [](const QString&, qsizetype) {
-             return QString(JsonRpc::maximumText, u'"');
+             return QString(json_rpc::maximumText, u'"');
          }},
         {"longest text of surrogates",
          [](const QString&, qsizetype) {
-             return QStringLiteral("\U0001F5A8").repeated(JsonRpc::maximumText / 2);
+             return QStringLiteral("\U0001F5A8").repeated(json_rpc::maximumText / 2);
          }},
-        {"SKU that nobody asked for before",
+        {"SKU that was not asked for before",
          [count = 0](const QString&, qsizetype) mutable {
              return QStringLiteral("N%1").arg(++count, static_cast<int>(skuLength) - 1, 10,
                                               QLatin1Char('0'));
@@ -255,14 +255,14 @@ QJsonValue argument(const QJsonValue& parameter, const Filling& filling)
     if (type != QStringLiteral("QStringList"))
         return 1;
     QJsonArray texts;
-    for (qsizetype i = 0; i < JsonRpc::maximumEntries; ++i)
+    for (qsizetype i = 0; i < json_rpc::maximumEntries; ++i)
         texts.append(filling.text(name, i));
     return texts;
 }
 
 QByteArray requestLine(const QString& method, const QJsonValue& parameters)
 {
-    return JsonRpc::request(method, parameters, 1);
+    return json_rpc::request(method, parameters, 1);
 }
 
 /// The method with every filling of each argument that takes texts.
@@ -297,21 +297,21 @@ void addRequests(std::vector<Request>& requests, const QJsonValue& method,
     }
 }
 
-/// As `line` is, up to the greatest length with a line end, by repeating `filler` in its middle.
+/// The longest line that is read, with a line end: `filler` is repeated between `begin` and `end`.
 QByteArray longestLine(const QByteArray& begin, const QByteArray& filler, const QByteArray& end)
 {
-    const qsizetype room = JsonRpc::maximumLine - begin.size() - end.size();
+    const qsizetype room = json_rpc::maximumLine - begin.size() - end.size();
     return begin + filler.repeated(room / filler.size()) + end + '\n';
 }
 
-/// What is refused, at the bound of what is read.
+/// Requests that are refused, of the greatest length that is read.
 std::vector<Request> refusedRequests()
 {
-    using namespace JsonRpc;
+    using namespace json_rpc;
     const auto fixed = [](const char* name, const QByteArray& line, int errorCode) {
         return Request{name, [line] { return line; }, errorCode};
     };
-    // So that as many values as are read fill the line.
+    // Padded so that the greatest number of values that are read fills the line.
     const auto padded = [](const QByteArray& filler) {
         return filler.leftJustified(2 * maximumLine / maximumLineValues + 1);
     };
@@ -349,8 +349,7 @@ enum Kind
     KindCount,
 };
 constexpr std::array<const char*, KindCount> kindNames{
-    "a request to endpoints that nothing was asked of before", "a request once more",
-    "a request that is refused"};
+    "a request to new endpoints", "a request once more", "a request that is refused"};
 std::array<Times, KindCount> timesOf;
 
 int errorCodeOf(const QByteArray& line)
@@ -361,7 +360,7 @@ int errorCodeOf(const QByteArray& line)
     return answer[QStringLiteral("error")][QStringLiteral("code")].toInt();
 }
 
-/// The time that a request takes; negative when something else than it should came of it.
+/// The time that a request takes; negative when its answer is not the expected one.
 double timeOf(Host& host, Client& client, const Request& request)
 {
     const QByteArray line = request.line();
@@ -369,8 +368,8 @@ double timeOf(Host& host, Client& client, const Request& request)
     const QByteArray answer = client.exchange(line);
     const double time = host.takeLongestStretch();
     const int code = errorCodeOf(answer);
-    // An endpoint may refuse to keep what has the bounds of an argument.
-    if (code == request.errorCode || (request.errorCode == 0 && code == JsonRpc::Refused))
+    // An endpoint may refuse to store an argument although it is within the bounds.
+    if (code == request.errorCode || (request.errorCode == 0 && code == json_rpc::Refused))
         return time;
     std::fprintf(stderr, "%s: %s\n", request.name.c_str(), answer.left(300).constData());
     return -1;
@@ -423,8 +422,8 @@ void taken(benchmark::State& state)
 
 void refused(benchmark::State& state)
 {
-    // Of the printer controller and the supply database both know one of the methods, and the
-    // arguments are looked at before the method is called.
+    // The printer controller and the supply database have one of the methods each, and the
+    // arguments are checked before the method is called.
     const std::vector<Request> requests = refusedRequests();
     for ([[maybe_unused]] auto iteration : state) {
         for (const Request& request : requests) {
@@ -449,17 +448,9 @@ std::vector<std::pair<double, std::string>> slowestOf(const Times& times)
     return medians;
 }
 
-} // namespace
-
-int main(int argc, char* argv[])
+/// Shows the slowest requests, too.
+void enterLimits(benchmark_support::Limits& limits)
 {
-    // In a language that the names are translated to.
-    qputenv("LANGUAGE", "de");
-    const QCoreApplication application(argc, argv);
-    if (!benchmark_support::run(argc, argv))
-        return 2;
-
-    benchmark_support::Limits limits;
     for (int kind = 0; kind < KindCount; ++kind) {
         const auto slowest = slowestOf(timesOf.at(static_cast<std::size_t>(kind)));
         const std::string name = kindNames.at(static_cast<std::size_t>(kind));
@@ -471,5 +462,13 @@ int main(int argc, char* argv[])
                                       : slowest.front().first,
                       longestLimit, " ms");
     }
-    return limits.conclude();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    benchmark_support::useTranslatedNames();
+    const QCoreApplication application(argc, argv);
+    return benchmark_support::run(argc, argv, enterLimits);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// How long a value takes from its publishing by the driver to the slot on the host's thread.
+// The time from when the driver publishes a value to the slot on the host's thread.
 #include "benchmark_support.h"
 #include "by_hand.h"
 #include "printer_status_thread.h"
@@ -30,17 +30,16 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int blocks = 60;
 constexpr int samplesPerBlock = 25;
-// Where the scheduler happens to put the two watching threads outlasts many samples, so each
-// repetition makes new ones.
+// The cores that the scheduler chooses for the two watching threads affect many samples, so each
+// repetition creates new threads.
 constexpr int repetitions = 16;
 constexpr double medianLimit = 1.15;
 constexpr double p99Limit = 1.5;
 constexpr int watchingThreads = 2;
-// Long enough for the watching and the host's thread to be asleep when the next value comes, as
-// they are in the field.
+// Long enough for all threads to be asleep when the next value arrives, as in normal use.
 constexpr std::chrono::microseconds settlingTime(100);
 
-/// The receiving end: lives on the host's thread, whose event loop delivers to it.
+/// The receiver, on the host's thread.
 class Host : public QObject
 {
 public:
@@ -58,7 +57,7 @@ public:
         QString printer;
         QString value;
     };
-    /// Blocks the calling thread, which is not the host's, until something has arrived.
+    /// Blocks the calling thread, which must not be the host's, until a value has arrived.
     Arrival next()
     {
         m_arrived.acquire();
@@ -72,11 +71,11 @@ private:
     QString m_value;
 };
 
-/// Both watching threads, each with a printer of its own, and the host's thread.
+/// Both watching threads, each with its own printer, and the host's thread.
 class Setting
 {
 public:
-    /// Which thread is made first decides where the scheduler puts it.
+    /// The order of creation affects where the scheduler places the threads.
     explicit Setting(bool isLibraryFirst)
     {
         Machine::instance().reset();
@@ -101,8 +100,8 @@ public:
     }
     Q_DISABLE_COPY_MOVE(Setting)
 
-    /// Microseconds from the publishing of a new value to the slot; NaN when something else than
-    /// that value arrived.
+    /// Microseconds from publishing a new value to the slot; NaN if something other than that value
+    /// arrived.
     double sample(const QString& printer)
     {
         if (!Machine::instance().waitForWaitingThreads(watchingThreads))
@@ -119,12 +118,12 @@ public:
         return std::chrono::duration<double, std::micro>(arrival.time - published).count();
     }
 
-    // Of the same length, so that neither name costs more than the other.
+    // Of equal length, so that neither name takes longer than the other.
     static inline const QString libraryPrinter = QStringLiteral("Label printer 1");
     static inline const QString floorPrinter = QStringLiteral("Label printer 2");
 
 private:
-    // The first read of each reports its value, which is waited for.
+    // Waits for the report of each thread's first read.
     void startLibrary()
     {
         QObject::connect(&m_library, &PrinterStatusThread::supplyIntMileageChanged, &m_host,
@@ -167,33 +166,29 @@ private:
     std::unique_ptr<by_hand::WatchingThread> m_floor;
 };
 
-/// Samples of every repetition: the limits are held against all of them together.
+/// The samples of all repetitions: the limits apply to all of them together.
 Samples allSamples;
 
 void reportLatency(benchmark::State& state)
 {
-    static bool isLibraryMadeFirst = false;
-    isLibraryMadeFirst = !isLibraryMadeFirst;
-    Setting setting(isLibraryMadeFirst);
+    static bool isLibraryFirst = false;
+    isLibraryFirst = !isLibraryFirst;
+    Setting setting(isLibraryFirst);
     Samples samples;
     benchmark_support::Turns turns;
     const auto takeBlock = [&](const QString& printer, std::vector<double>& into) {
-        double sum = 0;
-        for (int index = 0; index < samplesPerBlock; ++index) {
-            into.push_back(setting.sample(printer));
-            sum += into.back();
-        }
-        return sum;
+        return benchmark_support::takeBlock(samplesPerBlock, into,
+                                            [&] { return setting.sample(printer); });
     };
     const auto takeLibraryBlock = [&] {
         const double sum = takeBlock(Setting::libraryPrinter, samples.library);
         if (std::isnan(sum))
-            state.SkipWithError("the library reported something else than what was published");
+            state.SkipWithError("the library reported something other than the published value");
         state.SetIterationTime(sum / samplesPerBlock * 1e-6);
     };
     const auto takeFloorBlock = [&] {
         if (std::isnan(takeBlock(Setting::floorPrinter, samples.floor)))
-            state.SkipWithError("the floor reported something else than what was published");
+            state.SkipWithError("the floor reported something other than the published value");
     };
 
     for ([[maybe_unused]] auto iteration : state) {
@@ -224,12 +219,9 @@ BENCHMARK(reportLatency)
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
-    if (!benchmark_support::run(argc, argv))
-        return 2;
-
-    benchmark_support::Limits limits;
-    limits.atMost("report latency, median over the floor's", allSamples.ratio(0.5), medianLimit,
-                  "");
-    limits.atMost("report latency, p99 over the floor's", allSamples.ratio(0.99), p99Limit, "");
-    return limits.conclude();
+    return benchmark_support::run(argc, argv, [](benchmark_support::Limits& limits) {
+        limits.atMost("report latency, median over the floor's", allSamples.ratio(0.5), medianLimit,
+                      "");
+        limits.atMost("report latency, p99 over the floor's", allSamples.ratio(0.99), p99Limit, "");
+    });
 }

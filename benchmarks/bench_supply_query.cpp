@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// What a question about a supply or a ribbon costs, by its SKU, when it was asked before and when
-// it was not.
+// The cost of a query about a supply or a ribbon by its SKU, cached and not cached.
 #include "benchmark_support.h"
 #include "sqlite_statement.h"
 #include "vx_ipc_supplyd_controller.h"
@@ -46,7 +45,7 @@ int languageId()
     return id;
 }
 
-// The questions: what the endpoint is asked, the statement that answers the same, and the keys.
+// The queries: the call of the endpoint, the equivalent statement, and the keys.
 
 struct ColourName
 {
@@ -98,7 +97,7 @@ struct RibbonHeat
     static constexpr const char* name = "supplyRibbonHeat";
     static constexpr const char* sql =
         "SELECT heat FROM print_setting WHERE ribbon_sku = ?1 AND panel = ?2 AND supply_sku = ?3";
-    // One setting of each ribbon's panel, which are as many as a host asks for in a session.
+    // One setting for each panel of a ribbon, as many as a host queries in a session.
     static constexpr const char* keysSql =
         "SELECT ribbon_sku, panel, min(supply_sku) FROM print_setting GROUP BY ribbon_sku, panel";
 
@@ -125,32 +124,32 @@ struct RibbonHeat
     static int read(const SqliteStatement& row) { return row.integer(0); }
 };
 
-template <typename Question>
-std::vector<typename Question::Key> readKeys()
+template <typename Query>
+std::vector<typename Query::Key> readKeys()
 {
     const SqliteFile file(databasePath());
-    SqliteStatement statement(file, Question::keysSql);
-    std::vector<typename Question::Key> keys;
+    SqliteStatement statement(file, Query::keysSql);
+    std::vector<typename Query::Key> keys;
     while (statement.step())
-        keys.push_back(Question::key(statement));
+        keys.push_back(Query::key(statement));
     return keys;
 }
 
-/// The floor: the statement, on a file that is opened when it is first needed, prepared then and
-/// used again.
-template <typename Question>
+/// The floor: the statement, which is prepared at the first query, when the file is opened, and
+/// then reused.
+template <typename Query>
 class Floor
 {
 public:
-    auto ask(const typename Question::Key& key)
+    auto ask(const typename Query::Key& key)
     {
         if (!m_statement) {
             m_file.emplace(databasePath());
-            m_statement.emplace(*m_file, Question::sql);
+            m_statement.emplace(*m_file, Query::sql);
         }
-        Question::bind(*m_statement, key);
+        Query::bind(*m_statement, key);
         m_statement->step();
-        auto answer = Question::read(*m_statement);
+        auto answer = Query::read(*m_statement);
         m_statement->reset();
         return answer;
     }
@@ -160,12 +159,12 @@ private:
     std::optional<SqliteStatement> m_statement;
 };
 
-/// The library's side with the same form.
-template <typename Question>
+/// The library, with the same interface.
+template <typename Query>
 class Library
 {
 public:
-    auto ask(const typename Question::Key& key) { return Question::ask(m_endpoint, key); }
+    auto ask(const typename Query::Key& key) { return Query::ask(m_endpoint, key); }
 
 private:
     VXIPCSUPPLYDController m_endpoint;
@@ -175,14 +174,14 @@ private:
 
 enum Temperature
 {
-    Warm,      ///< all was asked before
-    ColdFirst, ///< the first question of all, which opens the file
+    Warm,      ///< everything has been queried before
+    ColdFirst, ///< the first query, which opens the file
     ColdAll,   ///< every key once, the first of which opens the file
     TemperatureCount,
 };
 
-/// Nanoseconds a question.
-template <typename Question>
+/// Nanoseconds per query.
+template <typename Query>
 Samples samplesOf[TemperatureCount];
 
 template <typename Side, typename Keys>
@@ -197,42 +196,42 @@ double nanosecondsEach(Side& side, const Keys& keys, std::size_t count, int roun
     return time.count() / static_cast<double>(count) / rounds;
 }
 
-template <typename Question>
-bool answersAlike(const std::vector<typename Question::Key>& keys)
+template <typename Query>
+bool answersAlike(const std::vector<typename Query::Key>& keys)
 {
-    Library<Question> library;
-    Floor<Question> floor;
+    Library<Query> library;
+    Floor<Query> floor;
     return !keys.empty() && std::all_of(keys.begin(), keys.end(), [&](const auto& key) {
         return library.ask(key) == floor.ask(key);
     });
 }
 
-template <typename Question>
-void query(benchmark::State& state, Temperature temperature)
+template <typename Query>
+void measure(benchmark::State& state, Temperature temperature)
 {
-    const std::vector<typename Question::Key> keys = readKeys<Question>();
-    if (!answersAlike<Question>(keys)) {
+    const std::vector<typename Query::Key> keys = readKeys<Query>();
+    if (!answersAlike<Query>(keys)) {
         state.SkipWithError("the library and the floor answer differently");
         return;
     }
     const std::size_t count = temperature == ColdFirst ? 1 : keys.size();
     const int rounds = temperature == Warm ? warmRounds : 1;
 
-    auto library = std::make_unique<Library<Question>>();
-    auto floor = std::make_unique<Floor<Question>>();
+    auto library = std::make_unique<Library<Query>>();
+    auto floor = std::make_unique<Floor<Query>>();
     nanosecondsEach(*library, keys, keys.size(), 1);
     nanosecondsEach(*floor, keys, keys.size(), 1);
 
     Samples samples;
     const auto takeLibrary = [&] {
         if (temperature != Warm)
-            library = std::make_unique<Library<Question>>();
+            library = std::make_unique<Library<Query>>();
         samples.library.push_back(nanosecondsEach(*library, keys, count, rounds));
         state.SetIterationTime(samples.library.back() * 1e-9);
     };
     const auto takeFloor = [&] {
         if (temperature != Warm)
-            floor = std::make_unique<Floor<Question>>();
+            floor = std::make_unique<Floor<Query>>();
         samples.floor.push_back(nanosecondsEach(*floor, keys, count, rounds));
     };
     benchmark_support::Turns turns;
@@ -243,7 +242,7 @@ void query(benchmark::State& state, Temperature temperature)
     state.counters["floor_ns"] = benchmark_support::median(samples.floor);
     state.counters["ratio"] = samples.ratio();
 
-    Samples& all = samplesOf<Question>[temperature];
+    Samples& all = samplesOf<Query>[temperature];
     all.append(samples);
 }
 
@@ -256,16 +255,16 @@ struct Setting
 };
 constexpr Setting settings[]{
     {Warm, "warm", warmBlocks, warmLimit},
-    {ColdFirst, "cold, first question", coldBlocks, coldLimit},
+    {ColdFirst, "cold, first query", coldBlocks, coldLimit},
     {ColdAll, "cold, every SKU once", coldBlocks, coldLimit},
 };
 
-template <typename Question>
-void registerQuestion()
+template <typename Query>
+void registerQuery()
 {
     for (const Setting& setting : settings) {
-        const std::string name = std::string(Question::name) + "/" + setting.name;
-        benchmark::RegisterBenchmark(name.c_str(), &query<Question>, setting.temperature)
+        const std::string name = std::string(Query::name) + "/" + setting.name;
+        benchmark::RegisterBenchmark(name.c_str(), &measure<Query>, setting.temperature)
             ->Iterations(setting.blocks)
             ->Repetitions(repetitions)
             ->DisplayAggregatesOnly(true)
@@ -274,13 +273,13 @@ void registerQuestion()
     }
 }
 
-template <typename Question>
+template <typename Query>
 void enterLimits(benchmark_support::Limits& limits)
 {
     for (const Setting& setting : settings) {
-        limits.atMost(std::string(Question::name) + ", " + setting.name +
+        limits.atMost(std::string(Query::name) + ", " + setting.name +
                           ", over a prepared statement",
-                      samplesOf<Question>[setting.temperature].ratio(), setting.limit, "");
+                      samplesOf<Query>[setting.temperature].ratio(), setting.limit, "");
     }
 }
 
@@ -288,18 +287,14 @@ void enterLimits(benchmark_support::Limits& limits)
 
 int main(int argc, char* argv[])
 {
-    // In a language that the names are translated to.
-    qputenv("LANGUAGE", "de");
+    benchmark_support::useTranslatedNames();
     const QCoreApplication application(argc, argv);
-    registerQuestion<ColourName>();
-    registerQuestion<Width>();
-    registerQuestion<RibbonHeat>();
-    if (!benchmark_support::run(argc, argv))
-        return 2;
-
-    benchmark_support::Limits limits;
-    enterLimits<ColourName>(limits);
-    enterLimits<Width>(limits);
-    enterLimits<RibbonHeat>(limits);
-    return limits.conclude();
+    registerQuery<ColourName>();
+    registerQuery<Width>();
+    registerQuery<RibbonHeat>();
+    return benchmark_support::run(argc, argv, [](benchmark_support::Limits& limits) {
+        enterLimits<ColourName>(limits);
+        enterLimits<Width>(limits);
+        enterLimits<RibbonHeat>(limits);
+    });
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// What the record of all that is loaded in a printer costs.
+// The cost of the record of everything that is loaded in a printer.
 #include "benchmark_support.h"
 #include "sqlite_statement.h"
 #include "vx_ipc_supplyd_controller.h"
@@ -43,7 +43,7 @@ struct Load
     QStringList ribbonSkus;
 };
 
-/// A supply that has as much as supplies have, and two ribbons that print on it.
+/// A supply with as many properties as possible, and two ribbons that print on it.
 Load readLoad()
 {
     const SqliteFile file(databasePath());
@@ -66,7 +66,7 @@ Load readLoad()
             {statement.text(4), statement.text(5)}};
 }
 
-/// The floor: one statement, prepared once, that has the whole record in one row.
+/// The floor: one statement, prepared once, that returns the whole record in one row.
 class JoinedStatement
 {
 public:
@@ -206,7 +206,7 @@ bool isSame(const SupplyInformation& left, const SupplyInformation& right)
 
 // The measurement.
 
-/// Microseconds a record.
+/// Microseconds per record.
 Samples allSamples;
 
 template <typename Make>
@@ -268,14 +268,10 @@ BENCHMARK(supplyRecord)
 
 int main(int argc, char* argv[])
 {
-    // In a language that the names are translated to.
-    qputenv("LANGUAGE", "de");
+    benchmark_support::useTranslatedNames();
     const QCoreApplication application(argc, argv);
-    if (!benchmark_support::run(argc, argv))
-        return 2;
-
-    benchmark_support::Limits limits;
-    limits.atMost("supplyInformation of a loaded printer, warm, over one joined statement",
-                  allSamples.ratio(), warmLimit, "");
-    return limits.conclude();
+    return benchmark_support::run(argc, argv, [](benchmark_support::Limits& limits) {
+        limits.atMost("supplyInformation of a loaded printer, warm, over one joined statement",
+                      allSamples.ratio(), warmLimit, "");
+    });
 }

@@ -7,14 +7,24 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <limits>
 
 #include <time.h>
 
 namespace benchmark_support {
 
-bool run(int argc, char* argv[], const std::vector<std::string>& defaults)
+void useTranslatedNames()
 {
+    setenv("LANGUAGE", "de", 1);
+}
+
+int run(int argc, char* argv[], const std::function<void(Limits&)>& enterLimits,
+        const std::vector<std::string>& defaults)
+{
+    constexpr int limitMissed = 1;
+    constexpr int unknownArgument = 2;
+
     std::vector<std::string> texts{argv[0]};
     texts.insert(texts.end(), defaults.begin(), defaults.end());
     texts.insert(texts.end(), argv + 1, argv + argc);
@@ -28,10 +38,13 @@ bool run(int argc, char* argv[], const std::vector<std::string>& defaults)
 
     benchmark::Initialize(&count, arguments.data());
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
-        return false;
+        return unknownArgument;
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
-    return true;
+
+    Limits limits;
+    enterLimits(limits);
+    return limits.conclude() ? 0 : limitMissed;
 }
 
 double quantile(std::vector<double> samples, double share)
@@ -72,7 +85,7 @@ void Limits::atMost(const std::string& what, double measured, double limit, cons
     m_entries.push_back({what, measured, limit, unit});
 }
 
-int Limits::conclude() const
+bool Limits::conclude() const
 {
     std::printf("\n");
     bool allHeld = true;
@@ -86,7 +99,7 @@ int Limits::conclude() const
         std::printf("limit: %s: %.3f%s, at most %g%s: %s\n", entry.what.c_str(), entry.measured,
                     entry.unit.c_str(), entry.limit, entry.unit.c_str(), held ? "held" : "MISSED");
     }
-    return allHeld ? 0 : 1;
+    return allHeld;
 }
 
 } // namespace benchmark_support

@@ -2,16 +2,27 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
-/// What every benchmark begins and ends with: running Google Benchmark, and one closing line for
-/// each limit with what was measured and whether it held.
+/// What all benchmarks share: running Google Benchmark, and one closing line for each limit with
+/// the measured value and whether the limit held.
 namespace benchmark_support {
 
-/// Runs the registered benchmarks; `defaults` are flags that the command line may override. False,
-/// with a line on stderr, when the command line has something that nobody knows.
-bool run(int argc, char* argv[], const std::vector<std::string>& defaults = {});
+class Limits;
+
+/// Has the names of supplies translated, as most hosts do. Call it before the application object is
+/// constructed, which reads the language.
+void useTranslatedNames();
+
+/// Runs the registered benchmarks, has `enterLimits` enter the limits, and prints their closing
+/// lines. `defaults` are flags that the command line may override.
+///
+/// Returns the exit code of the process: 0 when all limits held, 1 when one was missed, and 2, with
+/// a line on stderr, for an unknown argument.
+int run(int argc, char* argv[], const std::function<void(Limits&)>& enterLimits,
+        const std::vector<std::string>& defaults = {});
 
 /// The value that the given share (0 to 1) of the samples does not exceed; the samples must not be
 /// empty.
@@ -21,7 +32,7 @@ double median(const std::vector<double>& samples);
 /// Microseconds that the calling thread has had a processor for.
 double processorTime();
 
-/// What the library and its floor took.
+/// Times of the library and of its floor.
 struct Samples
 {
     std::vector<double> library;
@@ -33,8 +44,18 @@ struct Samples
     double ratio(double share = 0.5) const;
 };
 
-/// Who goes first changes from sample to sample, so that neither side always finds what the other
-/// left behind in caches and in the scheduler.
+/// Takes so many samples of one side, appends them to its times, and returns their sum.
+template <typename Sample>
+double takeBlock(int samples, std::vector<double>& times, const Sample& sample)
+{
+    double sum = 0;
+    for (int taken = 0; taken < samples; ++taken)
+        sum += times.emplace_back(sample());
+    return sum;
+}
+
+/// Lets the two sides take turns in going first, so that neither always finds the caches and the
+/// scheduler as the other left them.
 class Turns
 {
 public:
@@ -57,11 +78,11 @@ private:
 class Limits
 {
 public:
-    /// Enters one limit; NaN as the measured value says that it was not measured in this run.
+    /// Enters one limit. A measured value of NaN stands for one that was not measured in this run.
     void atMost(const std::string& what, double measured, double limit, const std::string& unit);
 
-    /// Prints the lines. The answer is the process' exit code: 1 when a limit was missed.
-    int conclude() const;
+    /// Prints the lines. True when every measured limit held.
+    bool conclude() const;
 
 private:
     struct Entry

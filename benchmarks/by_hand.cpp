@@ -62,8 +62,7 @@ void WatchingThread::run()
     HANDLE printer = nullptr;
     OpenPrinterA(m_printerName.toLocal8Bit().data(), &printer, nullptr);
     const HANDLE change = FindFirstPrinterChangeNotification(printer, 0x7777FFFF, 0, nullptr);
-    // The first read goes through a handle with full access, and the service is asked whether it
-    // runs, as the library's does.
+    // Like the library, reads first through a handle with full access and queries the service.
     HANDLE fullAccess = nullptr;
     PRINTER_DEFAULTSA defaults{};
     defaults.DesiredAccess = PRINTER_ALL_ACCESS;
@@ -173,7 +172,7 @@ QList<AvailablePrinters> enumerate()
     EnumPrintersW(kinds, nullptr, 2, reinterpret_cast<BYTE*>(block.get()), needed, &needed, &count);
 
     const Devices devices = readDevices();
-    std::optional<QSettings> settings; // opened for the first number to be recorded
+    std::optional<QSettings> settings; // opened for the first number that is recorded
 
     QList<AvailablePrinters> printers;
     printers.reserve(count);

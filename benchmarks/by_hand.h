@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// The floors that more than one benchmark measures against: what somebody would write by hand who
-// needs nothing but the answer.
+// The floors that several benchmarks share: the least hand-written code that gives the same result.
 #pragma once
 
 #include <virtualwindows/machine.h>
@@ -21,9 +20,9 @@
 
 namespace by_hand {
 
-/// A device of the maker's on the port of that number, with a serial number of its own.
+/// A device of the maker on the port with a number, with a unique serial number.
 virtualwindows::DeviceSetup deviceOnPort(int number);
-/// The name of the port of that number.
+/// The name of the port with a number.
 QString portName(int number);
 
 struct ValueRead
@@ -48,14 +47,14 @@ inline constexpr std::array<ValueRead, 11> valueReads{{
     {"UpdateError", 4, false},
 }};
 
-/// The least that a thread can do to tell its host of a printer's values. It makes the library's
-/// calls in the same order and nothing else: no checks, no texts but for the values that the host
-/// asked for.
+/// The least that a thread can do to report a printer's values to its host. It makes the library's
+/// calls in the same order and nothing else: no checks, and no texts except for the requested
+/// values.
 class WatchingThread final : public QThread
 {
 public:
-    /// `receive` is called in a queued call to `host`, with the value's name, the printer and the
-    /// value as text, for each of the values that are named.
+    /// For each of the named values, a queued call to `host` calls `receive` with the name, the
+    /// printer and the value as text.
     using Receive = std::function<void(const QByteArray& valueName, const QString& printer,
                                        const QString& value)>;
     WatchingThread(const QString& printerName, const QList<QByteArray>& valueNames, QObject& host,
@@ -95,8 +94,8 @@ struct Devices
 };
 Devices readDevices();
 
-/// The same answer as the library's and the same record of serial numbers, in one function and with
-/// nothing that these printers do not need.
+/// Gives the same result as the library and writes the same serial numbers, in one function and
+/// with nothing that these printers do not need.
 QList<AvailablePrinters> enumerate();
 
 } // namespace by_hand

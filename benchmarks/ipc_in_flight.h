@@ -9,7 +9,7 @@
 
 namespace ipc_sides {
 
-/// Keeps a number of calls on their way until so many are answered.
+/// Counts calls in flight until a given number has been answered.
 class InFlight
 {
 public:
@@ -17,10 +17,10 @@ public:
         : m_calls(calls)
     {}
 
-    /// Whether one more call is to be made, which then counts as made.
+    /// Whether to make one more call, which is then counted.
     bool next() { return m_made < m_calls && ++m_made > 0; }
 
-    /// One is answered; a wrong answer ends all.
+    /// Counts an answer. A wrong one ends the run.
     void answered(bool isRight)
     {
         m_isRight = m_isRight && isRight;
@@ -28,7 +28,7 @@ public:
             m_loop.quit();
     }
 
-    /// Waits for the last. False when one was wrong or none came for too long.
+    /// Waits for the last answer. False when one was wrong or did not come in time.
     bool wait()
     {
         using namespace std::chrono_literals;

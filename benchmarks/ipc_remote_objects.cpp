@@ -14,7 +14,7 @@
 namespace ipc_sides {
 namespace {
 
-const QString ObjectName = QStringLiteral("supplies");
+const QString objectName = QStringLiteral("supplies");
 
 QUrl urlOf(const QString& address)
 {
@@ -41,7 +41,7 @@ public:
             auto node = std::make_unique<QRemoteObjectNode>();
             if (!node->connectToNode(urlOf(address)))
                 return false;
-            std::unique_ptr<QRemoteObjectDynamicReplica> replica(node->acquireDynamic(ObjectName));
+            std::unique_ptr<QRemoteObjectDynamicReplica> replica(node->acquireDynamic(objectName));
             if (!replica->waitForSource(10000))
                 return false;
             m_method = indexOfMethod(*replica->metaObject());
@@ -68,7 +68,7 @@ public:
     }
 
 private:
-    /// By its name: the replica of this release does not have the types of texts right.
+    /// Looked up by name: replicas of this release report wrong types for texts.
     static int indexOfMethod(const QMetaObject& type)
     {
         for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
@@ -115,7 +115,7 @@ std::shared_ptr<void> serve(const QString& address, const Call& /*call*/)
 {
     auto server = std::make_shared<Server>();
     if (!server->host.setHostUrl(urlOf(address)) ||
-        !server->host.enableRemoting(&server->endpoint, ObjectName))
+        !server->host.enableRemoting(&server->endpoint, objectName))
         return nullptr;
     return server;
 }

@@ -8,7 +8,7 @@
 #include <memory>
 #include <vector>
 
-/// The ways of calling another process that are compared.
+/// The ways to call another process that are compared.
 namespace ipc_sides {
 
 /// The one call that all sides make: the name of a supply's colour.
@@ -17,7 +17,7 @@ struct Call
     QString sku;
     QString printer;
     QString answer;
-    /// The lines that JSON-RPC 2.0 makes of it.
+    /// Request and answer as lines of JSON-RPC 2.0.
     QByteArray requestLine;
     QByteArray answerLine;
 };
@@ -28,11 +28,11 @@ class Clients
 public:
     virtual ~Clients() = default;
 
-    /// One call by the first client, waited for. False when the answer is another.
+    /// Makes one call from the first client and waits for it. False when the answer is wrong.
     virtual bool callAndWait() = 0;
 
-    /// Has the first `clients` make `calls` calls together, each keeping `inFlight` on their way,
-    /// from an event loop. False when an answer is another or a connection breaks.
+    /// Has the first `clients` make `calls` calls in all, each with `inFlight` of them in flight,
+    /// from an event loop. False when an answer is wrong or a connection breaks.
     virtual bool callTogether(int clients, int inFlight, int calls) = 0;
 };
 
@@ -40,13 +40,13 @@ public:
 struct Side
 {
     const char* name;
-    /// Makes what answers; it lives as long as the server's process.
+    /// Creates what answers calls; it lives as long as the server's process.
     std::shared_ptr<void> (*serve)(const QString& address, const Call& call);
-    /// Null when nobody serves.
+    /// Null when there is no server.
     std::unique_ptr<Clients> (*connect)(const QString& address, const Call& call, int count);
 };
 
-/// What the library is compared with besides the floor; none where Qt Remote Objects is missing.
+/// What the library is compared with besides the floor; empty where Qt Remote Objects is missing.
 std::vector<Side> remoteObjects();
 
 } // namespace ipc_sides

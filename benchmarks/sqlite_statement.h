@@ -10,7 +10,7 @@
 
 #include <stdexcept>
 
-/// The floors' side of the supply database: SQLite's C interface, with nothing in between.
+/// The floors' access to the supply database: a thin layer over SQLite's C interface.
 
 class SqliteFile
 {
@@ -41,7 +41,7 @@ public:
     ~SqliteStatement() { sqlite3_finalize(m_statement); }
     Q_DISABLE_COPY_MOVE(SqliteStatement)
 
-    /// The text must live until the statement is reset.
+    /// The text must exist until the statement is reset.
     void bind(int place, const QString& text)
     {
         sqlite3_bind_text16(m_statement, place, text.utf16(),

@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
 #
-# Finds an installed CuteLogger: header Logger.h, library CuteLogger. CuteLogger_ROOT points at it.
+# Finds an installed CuteLogger: header Logger.h, library CuteLogger. CuteLogger_ROOT is its prefix.
 #
-# Defines the target CuteLogger::CuteLogger and CuteLogger_GLOBAL_LOGGER, the name of the function
-# that gives the global logger: releases differ in it.
+# Defines the target CuteLogger::CuteLogger, and CuteLogger_GLOBAL_LOGGER, the name of the function
+# that returns the global logger. The name differs between releases.
 
 find_path(CuteLogger_INCLUDE_DIR Logger.h PATH_SUFFIXES CuteLogger cutelogger)
 find_library(CuteLogger_LIBRARY CuteLogger)
@@ -15,7 +15,7 @@ find_package_handle_standard_args(CuteLogger
     REQUIRED_VARS CuteLogger_LIBRARY CuteLogger_INCLUDE_DIR)
 
 if(CuteLogger_FOUND AND NOT TARGET CuteLogger::CuteLogger)
-    # As a shared library it is found again by what links a library that links it.
+    # If its type is SHARED, CMake also passes it to the linker for targets that link it indirectly.
     if(CuteLogger_LIBRARY MATCHES "\\.(so|dylib)[^/]*$")
         set(type SHARED)
     else()
@@ -40,7 +40,7 @@ if(CuteLogger_FOUND AND NOT CuteLogger_GLOBAL_LOGGER)
         unset(CMAKE_REQUIRED_LIBRARIES)
         unset(CMAKE_TRY_COMPILE_TARGET_TYPE)
         if(CuteLogger_HAS_${name})
-            set(CuteLogger_GLOBAL_LOGGER ${name} CACHE INTERNAL "Gives CuteLogger's global logger")
+            set(CuteLogger_GLOBAL_LOGGER ${name} CACHE INTERNAL "Returns CuteLogger's global logger")
             break()
         endif()
     endforeach()

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
 #
-# What every target of the project is compiled with. Targets take it by linking vx_build_settings.
+# Compiler settings for every target of the project. A target gets them by linking vx_build_settings.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -11,11 +11,14 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_AUTOMOC ON)
+# Otherwise moc would start the compiler for every target to read its predefined macros, and no class
+# here depends on them.
+set(CMAKE_AUTOMOC_COMPILER_PREDEFINES OFF)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 
-# Installed libraries and programs find each other wherever they are put.
+# Installed libraries and programs find each other in any prefix.
 include(GNUInstallDirs)
 set(CMAKE_INSTALL_RPATH "$ORIGIN" "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 
@@ -26,7 +29,11 @@ endif()
 find_program(VX_CCACHE ccache)
 mark_as_advanced(VX_CCACHE)
 if(VX_CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${VX_CCACHE}")
+    # Without this sloppiness ccache does not cache sources with precompiled headers, because it cannot
+    # see which macros these depend on. The compiler can, and rejects headers that do not match. The
+    # precompiled headers are hundreds of megabytes. With the inode cache ccache hashes them only once.
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env
+        CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_INODECACHE=true "${VX_CCACHE}")
 endif()
 
 set(VX_SANITIZE "" CACHE STRING "Sanitizers to build with: empty, address or thread")
@@ -36,8 +43,8 @@ add_library(vx_build_settings INTERFACE)
 if(MSVC)
     target_compile_options(vx_build_settings INTERFACE /W4 /WX /utf-8 /permissive- /Zc:__cplusplus)
 else()
-    # The Windows headers declare names as short as GUID for everybody, and that one is an argument
-    # name that other processes call a method with: there only shadowing among locals counts.
+    # The Windows headers declare short global names such as GUID, which is also the name of an argument
+    # that other processes use in calls. So on Windows only shadowing among local names is an error.
     target_compile_options(vx_build_settings INTERFACE
         -Wall -Wextra -Wpedantic -Wconversion $<IF:$<BOOL:${WIN32}>,-Wshadow=local,-Wshadow> -Werror)
 endif()
@@ -52,18 +59,17 @@ elseif(VX_SANITIZE)
     message(FATAL_ERROR "VX_SANITIZE is \"${VX_SANITIZE}\": expected nothing, address or thread")
 endif()
 if(VX_SANITIZE_FLAGS)
-    # For every target, those of the platform folder included: a half-instrumented process reports
-    # what is not there.
+    # For every target, including those in platform/: a partly instrumented process causes false reports.
     add_compile_options(${VX_SANITIZE_FLAGS})
     add_link_options(${VX_SANITIZE_FLAGS})
-    # The optimizer takes most of the time of such a build and takes little off what the sanitizers
-    # add; of the debug information reports show lines alone. Fuzzers do need to be fast.
+    # Optimisation takes most of the time of such a build and makes up for little of the sanitizers'
+    # cost, and reports only show line numbers from the debug information. Fuzzers need to be fast.
     if(NOT VX_BUILD_FUZZERS)
         add_compile_options(-Og -g1)
     endif()
 endif()
 
 if(VX_BUILD_FUZZERS)
-    # In all libraries: a fuzzer learns from which branches an input takes.
+    # For all libraries: the fuzzer's engine needs to know which branches an input takes.
     add_compile_options(-fsanitize=fuzzer-no-link)
 endif()

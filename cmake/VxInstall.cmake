@@ -23,7 +23,7 @@ if(NOT WIN32)
     list(APPEND installed_targets virtualwindows)
     install(DIRECTORY virtualwindows/include/ DESTINATION "${VX_HEADER_FOLDER}/virtualwindows"
         PATTERN fleet.h EXCLUDE)
-    # Beside the library that loads it.
+    # In the folder of the library that loads it.
     install(TARGETS virtualwindows_environment_fleet
         LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 endif()
@@ -33,7 +33,7 @@ install(TARGETS ${installed_targets} EXPORT VxPrinterStatusTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 if(TARGET cutelogger)
-    # Ours to bring along, as the library needs it to run; a host that logs links Vx::CuteLogger.
+    # The library needs our stand-in at run time. A host that logs links Vx::CuteLogger.
     install(TARGETS cutelogger EXPORT VxPrinterStatusTargets
         RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
         LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
@@ -47,7 +47,7 @@ if(TARGET cutelogger)
         DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/CuteLogger")
     set(VX_LOGS_THROUGH_INSTALLED FALSE)
 else()
-    # An installed one stays where it is: what is installed here finds it there.
+    # An installed CuteLogger is not copied. The installed library and programs find it in its folder.
     set(VX_LOGS_THROUGH_INSTALLED TRUE)
     install(FILES cmake/FindCuteLogger.cmake DESTINATION "${VX_PACKAGE_FOLDER}")
     cmake_path(GET CuteLogger_LIBRARY PARENT_PATH logger_folder)

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
 #
-# The library itself, put together from the objects of status/, winprint/ and ipc/.
+# The library itself, linked from the objects of status/, winprint/ and ipc/.
 
 include(GNUInstallDirs)
 
@@ -11,7 +11,7 @@ set(VX_PUBLIC_HEADERS
     vx_ipc_printqd_controller.h status_codes.h supply_information.h print_job_meta_data.h
     vxprinterstatus_export.h)
 
-# The objects are a target of their own so that a test can link them and replace what they call.
+# The objects have their own targets so that a test can link them and replace functions they call.
 add_library(vxprinterstatus SHARED)
 add_library(Vx::PrinterStatus ALIAS vxprinterstatus)
 target_link_libraries(vxprinterstatus
@@ -31,6 +31,6 @@ if(WIN32)
     target_sources(vxprinterstatus PRIVATE "${PROJECT_BINARY_DIR}/vxprinterstatus.rc")
 endif()
 if(MINGW)
-    # MinGW's linker would export whatever the static libraries bring along.
+    # Otherwise MinGW's linker would also export the symbols of the static libraries.
     target_link_options(vxprinterstatus PRIVATE -Wl,--exclude-all-symbols)
 endif()

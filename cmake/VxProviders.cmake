@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
 #
-# The libraries that the product stands on and that a builder may have in the original. Each has a
-# switch VX_<NAME>_PROVIDER: "own" builds the one in platform/, "external" takes the target from
-# the package given in the table (found through CMAKE_PREFIX_PATH or <package>_DIR).
+# The maker's libraries that the product depends on. For each there is an option VX_<NAME>_PROVIDER:
+# "own" builds our implementation in platform/, and "external" uses the original. The latter's target
+# is defined by the package in the table, which is found through CMAKE_PREFIX_PATH or <package>_DIR.
 
 set(VX_PROVIDERS IPC SUPPLY_DATABASE LOCALE STATUS_MESSAGES)
 set(VX_IPC_TARGET Vx::Ipc)
@@ -28,7 +28,7 @@ foreach(name IN LISTS VX_PROVIDERS)
     endif()
 endforeach()
 
-# Adds the folder of a library of ours, or finds the one that replaces it.
+# Adds the folder of our implementation, or finds the package that replaces it.
 function(vx_add_provider name)
     if(VX_${name}_PROVIDER STREQUAL "own")
         add_subdirectory(${VX_${name}_FOLDER})

@@ -1,18 +1,18 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
 #
-# The titles of status codes and the texts of faults in the languages of translations/, compiled and embedded in the library,
-# so that a host has nothing to ship beside it. After a title was changed, the target
-# vxprinterstatus_lupdate brings the .ts files up to it.
+# Compiles the translations of status titles and fault texts and embeds them in the library, so that a
+# host does not have to ship any files for them. After a title or text has changed, build the target
+# vxprinterstatus_lupdate to update the .ts files.
 
-# Qt's tools for translators run on the machine that builds, which has them beside its own Qt, and not
-# beside one that is built for Windows or with a sanitizer.
+# Qt's translation tools run on the build machine and belong to its own Qt. A Qt that was built for
+# Windows or with a sanitizer does not include them.
 find_package(Qt6LinguistTools 6.4 REQUIRED
     HINTS "${QT_HOST_PATH_CMAKE_DIR}" NO_CMAKE_FIND_ROOT_PATH)
 
 set(VX_LANGUAGES de es fr it ja zh_CN)
-# English too, which only repeats the sources: QTranslator takes the first of the user's languages that
-# has a file, and for somebody who prefers English to German that would otherwise be German.
+# English is included although it only repeats the sources: QTranslator uses the first of the user's
+# languages that has a file. Without an English one, a user who prefers English to German gets German.
 set(translations ${VX_LANGUAGES} en)
 list(TRANSFORM translations PREPEND translations/vxprinterstatus_)
 list(TRANSFORM translations APPEND .ts)

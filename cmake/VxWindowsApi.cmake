@@ -1,8 +1,9 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
 #
-# Vx::WindowsApi is what <windows.h> and <winspool.h> come from: the system on Windows, our
-# stand-in everywhere else. It is the one place where the two builds part.
+# Vx::WindowsApi provides <windows.h> and <winspool.h>: the system's own on Windows, and those of
+# virtualwindows/ everywhere else. For the library's sources, this is the only place where the two
+# builds differ.
 
 add_library(vx_windows_api INTERFACE)
 add_library(Vx::WindowsApi ALIAS vx_windows_api)

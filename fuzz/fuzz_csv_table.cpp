@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// One table as a spreadsheet may write it. It is refused in one line that names the file, or all of
-// its fields can be had.
+// The input is a table as a spreadsheet may export it. Either it is refused in one line that names
+// the file, or all of its fields can be read.
+#include "one_line.h"
 #include "require.h"
 
 #include <csv_table.h>
+#include <failure.h>
+#include <shown_text.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -24,20 +26,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
                 const CsvField field = table.field(row, column);
                 require(field.text == field.text.trimmed(), "a field has no spaces around it");
                 require(!field.text.contains(QChar::Null), "a field has no NUL");
-                require(field.place().startsWith(file), "a field knows its file");
+                require(field.place().startsWith(file), "a field names its file");
                 hasText = hasText || !field.text.isEmpty();
             }
             require(hasText, "a row has text");
         }
-    } catch (const Fault& fault) {
-        require(fault.message().startsWith(file), "a fault says in which file it is");
-        require(std::ranges::none_of(fault.message(),
-                                     [](QChar character) {
-                                         return character.category() == QChar::Other_Control ||
-                                                character.category() == QChar::Separator_Line ||
-                                                character.category() == QChar::Separator_Paragraph;
-                                     }),
-                "a fault is one line");
+    } catch (const Failure& failure) {
+        require(failure.message().startsWith(file), "a failure names its file");
+        require(isOneLine(shownAsMessage(failure.message())), "a failure is one line");
     }
     return 0;
 }

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// What a client of an endpoint sends: the first byte says in pieces of which size the rest arrives.
-// Lines are taken out, parsed and carried out as an endpoint does it, and each answer has to be one
-// that JSON-RPC 2.0 knows.
+// What a client sends to an endpoint. The first byte is the size of the pieces in which the rest
+// arrives. Lines are extracted, parsed and handled as an endpoint does it, and each answer has to
+// be valid JSON-RPC 2.0.
 #include "fuzz_service.h"
+#include "qt_application.h"
 #include "require.h"
 
 #include <ipc_dispatcher.h>
 #include <json_rpc.h>
 #include <line_buffer.h>
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QSet>
 
@@ -21,8 +21,8 @@
 
 namespace {
 
-const QSet<int> ErrorCodes{JsonRpc::ParseError, JsonRpc::InvalidRequest, JsonRpc::MethodNotFound,
-                           JsonRpc::InvalidParams};
+const QSet<int> errorCodes{json_rpc::ParseError, json_rpc::InvalidRequest, json_rpc::MethodNotFound,
+                           json_rpc::InvalidParams};
 
 QJsonObject checkAnswer(const QByteArray& line)
 {
@@ -35,8 +35,8 @@ QJsonObject checkAnswer(const QByteArray& line)
             "an answer has a result or an error");
     if (answer.contains(QStringLiteral("error"))) {
         const QJsonObject error = answer.value(QStringLiteral("error")).toObject();
-        require(ErrorCodes.contains(error.value(QStringLiteral("code")).toInt()),
-                "the error is one that is documented");
+        require(errorCodes.contains(error.value(QStringLiteral("code")).toInt()),
+                "the error is a documented one");
         require(!error.value(QStringLiteral("message")).toString().isEmpty(),
                 "the error has a message");
     }
@@ -66,7 +66,7 @@ void checkLine(const IpcDispatcher& dispatcher, QByteArrayView line)
         checkAnswer(*message.failure);
         return;
     }
-    require(message.isBatch() || message.size == 1, "what is no batch is one request");
+    require(message.isBatch() || message.size == 1, "what is not a batch is one request");
     for (qsizetype i = 0; i < message.size; ++i)
         checkRequest(dispatcher, message.request(i));
 }
@@ -75,10 +75,7 @@ void checkLine(const IpcDispatcher& dispatcher, QByteArrayView line)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    static int argc = 1;
-    static char name[] = "fuzz_json_rpc";
-    static char* argv[] = {name, nullptr};
-    static const QCoreApplication application(argc, argv);
+    ensureCoreApplication();
     static FuzzService service;
     static const IpcDispatcher dispatcher(service, QObject::staticMetaObject,
                                           QStringLiteral("fuzz"));

@@ -2,35 +2,16 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "ipc_test_record.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
-/// A record with a member of each kind.
-class FuzzRecord
-{
-    Q_GADGET
-    Q_PROPERTY(QString name MEMBER name)
-    Q_PROPERTY(int count MEMBER count)
-    Q_PROPERTY(float width MEMBER width)
-    Q_PROPERTY(QByteArray image MEMBER image)
-    Q_PROPERTY(QStringList panels MEMBER panels)
-    Q_PROPERTY(QVariantList heats MEMBER heats)
-
-public:
-    QString name;
-    int count = -1;
-    float width = -1.0F;
-    QByteArray image;
-    QStringList panels;
-    QVariantList heats;
-};
-Q_DECLARE_METATYPE(FuzzRecord)
-
-/// Answers every argument with itself: one slot for each type that crosses, with short names, which
-/// are found sooner.
+/// Returns every argument as it is: one slot for each type that can cross, with short names, which
+/// the fuzzer finds sooner.
 class FuzzService : public QObject
 {
     Q_OBJECT
@@ -51,9 +32,9 @@ public Q_SLOTS:
     QVariantHash h(QVariantHash value) { return value; }
     QVariantMap p(QVariantMap value) { return value; }
     QVariant v(QVariant value) { return value; }
-    FuzzRecord r(FuzzRecord value) { return value; }
+    TestRecord r(TestRecord value) { return value; }
     void n() {}
-    /// Ways to call one name.
+    /// Overloads of one name.
     int o(int value, int more = 1) { return value ^ more; }
     QString o(QString value) { return value; }
     double o(double value) { return value; }

@@ -5,11 +5,11 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Ends the run when something does not hold, so that the input that led here is kept.
-inline void require(bool holds, const char* what)
+/// Aborts the run if a requirement is not met, so that the fuzzer saves the input.
+inline void require(bool isMet, const char* what)
 {
-    if (holds)
+    if (isMet)
         return;
-    std::fprintf(stderr, "does not hold: %s\n", what);
+    std::fprintf(stderr, "requirement not met: %s\n", what);
     std::abort();
 }

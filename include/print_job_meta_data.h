@@ -10,8 +10,8 @@
 
 /// One job of the print queue, as the print-queue service describes it.
 ///
-/// A plain value. In a default record, which stands for a job that is not known, every text is null
-/// and every number 0.
+/// A plain value. A default record stands for a job that is not known: all its texts are null, its
+/// numbers 0 and its flags false.
 class VX_PRINTERSTATUS_EXPORT PrintJobMetaData
 {
     Q_GADGET
@@ -34,30 +34,31 @@ class VX_PRINTERSTATUS_EXPORT PrintJobMetaData
     Q_PROPERTY(QString statusText MEMBER statusText)
 
 public:
-    /// Place in the queue, the job being printed first.
+    /// The job's place in the queue; the job that is being printed is the first.
     int queuePosition = 0;
-    /// Identifies the job for as long as it is queued.
+    /// Identifies the job while it is in the queue.
     QString guid;
     QString jobName;
     /// The application that queued the job.
     QString appName;
     int copies = 0;
-    /// Which record of a merged label set the job prints; -1 when its labels are not merged.
+    /// The record of the merged label set that the job prints; -1 when its labels are not merged.
     int mergeIndex = 0;
     QString userName;
     /// The printer's name in the print spooler.
     QString printerName;
-    /// Labels in the job, all copies together.
+    /// The number of labels in all copies of the job.
     int labelCount = 0;
     int labelsPrinted = 0;
     QString supplySku;
     QString supplyName;
-    /// Whether the labels are cut apart.
+    /// Whether the printer cuts the labels apart.
     bool isCutting = false;
     QString ribbon1Sku;
     QString ribbon2Sku;
-    /// A printer status code, and its text in the user's language.
+    /// The printer's status code.
     int status = 0;
+    /// The title of `status` in the user's language.
     QString statusText;
 };
 Q_DECLARE_METATYPE(PrintJobMetaData)

@@ -18,8 +18,8 @@ class VXIPCM4Controller;
 class VXIPCSUPPLYDController;
 struct AvailablePrinters;
 
-/// The one object that a host makes: it finds the maker's label printers, watches them and tells of
-/// every change.
+/// The one object that a host creates: it finds the maker's label printers, watches them and
+/// reports every change.
 ///
 /// @code
 /// PrinterStatusController printers(nullptr);
@@ -31,31 +31,32 @@ struct AvailablePrinters;
 /// });
 /// @endcode
 ///
-/// **What becomes of a printer.** Printers of other makers and of models that are not supported are
-/// ignored for good. A supported printer that is offline when it is found is looked at again at
-/// each `checkForPrinters()`. All others have a record from then on until the controller is
-/// destroyed, also when they are removed from Windows: network printers (status 256) and printers
-/// that the user may not administer (258) are listed only, the rest is watched, each on a thread of
-/// its own.
+/// **Which printers get a record.** Printers of other makers and of unsupported models are ignored
+/// for as long as the controller lives. A supported printer that is offline when it is found is
+/// evaluated again at each `checkForPrinters()`. Every other printer gets a record, which it keeps
+/// until the controller is destroyed, even when the printer is removed from Windows. Network
+/// printers (status 256) and printers that the user may not administer (258) are only listed; all
+/// others are watched, each on a thread of its own.
 ///
 /// **The active printer** is the one that the host works with. The Windows default printer becomes
-/// it as soon as it is found or reports while online; while there is none, the first online printer
-/// to report does. When it goes offline the choice is made again: the first local printer by name,
-/// whether online or not, or the last network printer when there are only such. With no records at
-/// all it is the Windows default printer, or another one that is not offline.
+/// active as soon as it is found, or reports while it is online. While no printer is active, the
+/// first online printer that reports becomes active. When the active printer goes offline, and when
+/// none was found at the start, one is chosen from the records: the first local printer by name,
+/// whether it is online or not, or the last network printer when all are network printers. Only
+/// without any record is it the Windows default printer, or another printer that is not offline.
 ///
-/// **Threads.** The controller belongs to the thread that made it, which needs an event loop: the
-/// watching threads' reports arrive in it as queued calls, and every signal is emitted on it. All
-/// members are to be called on that thread. They block as long as the print spooler does.
+/// **Threads.** The controller belongs to the thread that creates it, which needs an event loop.
+/// The reports of the watching threads arrive there as queued calls, and every signal is emitted
+/// there. Call all members on that thread. They block for as long as the print spooler does.
 ///
-/// **In a slot** that one of the signals calls, every member may be called, an event loop may be
-/// run and the controller may be given to `deleteLater()`, before that loop or inside it. Where
-/// such a loop deletes it, the rest of the report's signals is not emitted. It must not be deleted
-/// with `delete` in a slot.
+/// **Slots.** A slot that is connected to one of the signals may call every member, run an event
+/// loop, and delete the controller with `deleteLater()`, before that event loop or inside it. If
+/// the controller is deleted in such an event loop, the remaining signals of the report are not
+/// emitted. A slot must not use `delete`.
 ///
-/// **Failures** are never raised and never returned as codes: a spooler that does not answer is one
-/// without printers, what cannot be read is empty, zero, or status 255 or 257. What people who
-/// support printers need to know is in the log.
+/// **Failures** are neither raised nor returned as codes. A spooler that does not answer counts as
+/// one without printers; a value that cannot be read is empty, zero, or status 255 or 257. The log
+/// has the details that people who support printers need.
 class VX_PRINTERSTATUS_EXPORT PrinterStatusController : public QObject
 {
     Q_OBJECT
@@ -64,69 +65,78 @@ class VX_PRINTERSTATUS_EXPORT PrinterStatusController : public QObject
 
 public:
     /// Opens the services that other processes call, finds the printers, starts to watch them and
-    /// chooses the active one. Signals emitted meanwhile reach nobody: read `availablePrinters`,
-    /// `activeDefaultPrinter()` and `vxDefaultActivePrinter()` afterwards.
+    /// chooses the active one. No slot can be connected yet to the signals of that time, so read
+    /// `availablePrinters`, `activeDefaultPrinter()` and `vxDefaultActivePrinter()` afterwards.
     explicit PrinterStatusController(QObject* parent = nullptr);
-    /// Ends all watching threads, which takes as long as the slowest of the spooler's calls that
-    /// they are in. Reports still under way are dropped.
+    /// Ends all watching threads. That takes as long as the slowest spooler call that one of them
+    /// is in. Reports that have not been delivered are dropped.
     ~PrinterStatusController() override;
     Q_DISABLE_COPY_MOVE(PrinterStatusController)
 
-    /// The printer-controller service; it stays the controller's.
+    /// The printer-controller service, which the controller owns. Never null.
     VXIPCM4Controller* getm4Controller();
-    /// The supply-database service; it stays the controller's.
+    /// The supply-database service, which the controller owns. Never null.
     VXIPCSUPPLYDController* getSupplyIdController();
 
-    /// The active printer's name in the print spooler; empty when there is none.
+    /// The active printer's name in the print spooler; empty when no printer is active.
     QString activeDefaultPrinter() const;
-    /// Whether the active printer was chosen among those with a record. False when it was chosen
-    /// among all other printers, because there was no record, and when there is none.
+    /// Whether the active printer was chosen from the records. False when it was chosen from the
+    /// other printers because there were no records, and when no printer is active.
     bool vxDefaultActivePrinter() const;
 
-    /// A copy of every printer's `PrinterStatusInformation`, in the order of their names.
+    /// A copy of every record, each a `PrinterStatusInformation`, in the order of the printers'
+    /// names. Empty when no printer has a record.
     QVariantList getAvailablePrinters() const;
 
-    /// Tells the controller of errors that the host has seen itself: true raises the error state,
-    /// false has all records looked at, which clears it if none is in error.
+    /// Reports an error that the host has noticed itself. True raises the error state; false checks
+    /// all records and clears the error state if none of them is in error.
     void updateCachedStatus(bool inError);
 
 Q_SIGNALS:
-    /// A record may have changed. Not emitted for printers that are found: their first report is.
+    /// A record may have changed. It is not emitted when a printer is found, but when the printer
+    /// reports for the first time.
     void availablePrintersUpdated();
-    /// Some printer has come to be in error, or none is any more. Before the signals of the report
-    /// that caused it.
+    /// The error state was raised (true) or cleared (false). Emitted before the other signals of
+    /// the report that caused it.
     void printerErrorChangedSignal(bool printerInErrorState);
-    /// A printer reported its status; the number is that of its record.
-    /// `availablePrintersUpdated()` follows it, except where an unreadable report (not one of 0 or
-    /// 255) finds the printer offline: there it goes before. Also emitted, once and with 0, for
-    /// each printer that is found and ignored.
+    /// A printer reported its status; `status` is the code in its record (see status_codes.h).
+    /// `availablePrintersUpdated()` is emitted after it, except when a report that is not a number
+    /// finds the printer offline: then it is emitted before. Also emitted once, with 0, for each
+    /// printer that is found and ignored.
     void statusChangedSignal(int status, QString printerName);
-    /// The supply of a printer was changed or taken out; `availablePrintersUpdated()` follows.
+    /// The supply of a printer was changed or removed. `availablePrintersUpdated()` is emitted
+    /// after it.
     void supplyIdChangedSignal(QString printerName);
-    /// A ribbon of a printer was changed or taken out; `availablePrintersUpdated()` follows. A
-    /// ribbon that was taken out stays in the record until another one is put in.
+    /// A ribbon of a printer was changed or removed. `availablePrintersUpdated()` is emitted after
+    /// it. A removed ribbon stays in the record until another one is loaded.
     void ribbonIdsChangedSignal(QString printerName);
-    /// The active printer was chosen, or confirmed, or lost to another; `isVX` is what
-    /// `vxDefaultActivePrinter()` answers. In a status report it goes before `statusChangedSignal`.
+    /// A printer became the active printer, or was confirmed as such; `isVX` is what
+    /// `vxDefaultActivePrinter()` returns. In a status report it is emitted before
+    /// `statusChangedSignal`, except when a report that is not a number finds the active printer
+    /// offline: then it is emitted last.
     void activeDefaultPrinterSetSignal(QString activePrinterName, bool isVX);
-    /// Never emitted; `availablePrintersUpdated()` tells of a changed firmware version.
+    /// Never emitted. A changed firmware version is reported by `availablePrintersUpdated()`.
     void softwareVersionUpdated(QString printerName);
 
 public Q_SLOTS:
-    /// Looks for printers that are not known yet. Nothing else does, so call it when a printer may
-    /// have been plugged in. Emits `statusChangedSignal(0, name)` for those that are ignored and
-    /// `activeDefaultPrinterSetSignal` for one that is the Windows default printer.
+    /// Looks for printers that have no record yet. Nothing else does, so call it when a printer may
+    /// have been connected. Emits `statusChangedSignal(0, name)` for each newly found printer that
+    /// is ignored, and `activeDefaultPrinterSetSignal` for a new record of the Windows default
+    /// printer, unless the user may not administer that printer.
     void checkForPrinters();
-    /// The model of any printer that the spooler knows, asked afresh; `Unknown` for others.
+    /// The model of any printer in the spooler, which is queried again at each call; `Unknown` for
+    /// a printer that the spooler does not list.
     VXPrinting::PrinterType getPrinterTypeEnum(QString printerName);
-    /// The title of a status code in the application's language; never empty, any number has one.
+    /// The title of a status code in the application's language. Every number has a title that is
+    /// not empty.
     QString getStatusTitle(int statusEnum);
-    /// Writes a line of the host's into the library's log, at debug level.
+    /// Writes `message` into the library's log, at debug level.
     void sendToLogger(QString message);
-    /// Sends a command in the printer's own language, with a line end, as a raw print job of one
-    /// page. Returns when the spooler has it; a failure is logged.
+    /// Sends a command in the printer's own language, with a line end added, as a raw print job of
+    /// one page. Returns when the spooler has the job. A failure is logged and not reported.
     void sendCommandToPrinter(QString command, QString printerName);
-    /// The first part, up to a comma, of a printer's firmware version; empty when it is not known.
+    /// A printer's firmware version up to its first comma; empty when the version or the printer is
+    /// not known.
     QString getPrinterSoftwareVersion(QString printerName);
 
 private Q_SLOTS:

@@ -9,16 +9,16 @@
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
-/// The status record of one printer, a plain value that travels inside a `QVariant`.
+/// The status record of one printer: a plain value, which the controller passes in a `QVariant`.
 ///
-/// A host reads it by property name, from C++ or QML:
+/// A host reads its members in C++, or its properties by name in QML:
 /// @code
 /// for (const QVariant& entry : controller.getAvailablePrinters()) {
 ///     const auto printer = entry.value<PrinterStatusInformation>();
 ///     qDebug() << printer.printerName << controller.getStatusTitle(printer.statusEnum);
 /// }
 /// @endcode
-/// Texts are empty and percentages 0 until the printer has reported them.
+/// Texts are empty and percentages are 0 until the printer has reported them.
 class VX_PRINTERSTATUS_EXPORT PrinterStatusInformation
 {
     Q_GADGET
@@ -50,42 +50,42 @@ public:
     /// Status code: one of `VXPrinting::StatusCodes`, anything else is the driver's error code.
     /// `PrinterStatusController::getStatusTitle` gives its title.
     int statusEnum = VXPrinting::StatusCodes::unknown;
-    /// False once the printer was found offline, true again at its next readable report.
+    /// False when the printer was offline at its last status report.
     bool printerOnline = true;
-    /// A network printer; it is listed but never watched.
+    /// Whether it is a network printer, which is listed but never watched.
     bool printerRemote = false;
-    /// The user may not administer the printer; it is listed but never watched.
+    /// Whether the user may not administer the printer, which is then listed but never watched.
     bool printerNonAdmin = false;
-    /// Set when the printer is made the active printer and never cleared, so several records can
-    /// carry it: `PrinterStatusController::activeDefaultPrinter` names the one that is active.
+    /// Set when the printer becomes the active printer, and never cleared. Several records can have
+    /// it set; `PrinterStatusController::activeDefaultPrinter` names the active printer.
     bool printerDefault = false;
-    /// Ribbon 1 left, in percent from 0 to 100; 0 also when it is not known.
+    /// What is left of ribbon 1, in percent from 0 to 100; 0 also when that is not known.
     int ribbon1Percentage = 0;
     /// Ribbon 1's colour as "#rrggbb".
     QString ribbon1ColorHex;
-    /// Ribbon 1's colour by name, in the application's language.
+    /// The name of ribbon 1's colour, in the application's language.
     QString ribbon1ColorName;
     /// Ribbon 1's stock-keeping unit.
     QString ribbon1SKU;
-    /// Ribbon 2 left, in percent from 0 to 100; 0 also when it is not known.
+    /// What is left of ribbon 2, in percent from 0 to 100; 0 also when that is not known.
     int ribbon2Percentage = 0;
     /// Ribbon 2's colour as "#rrggbb".
     QString ribbon2ColorHex;
-    /// Ribbon 2's colour by name, in the application's language.
+    /// The name of ribbon 2's colour, in the application's language.
     QString ribbon2ColorName;
     /// Ribbon 2's stock-keeping unit.
     QString ribbon2SKU;
-    /// The firmware's version text, whole, as the printer reports it.
+    /// The firmware's version, with all its parts, as the printer reports it.
     QString softwareVersion;
-    /// Supply left, in percent from 0 to 100; 0 also when it is not known.
+    /// What is left of the supply, in percent from 0 to 100; 0 also when that is not known.
     int supplyPercentage = 0;
     /// The supply's colour as "#rrggbb".
     QString supplyColorHex;
-    /// The supply's colour by name, in the application's language.
+    /// The name of the supply's colour, in the application's language.
     QString supplyColorName;
-    /// The supply's stock-keeping unit, "-1" when no supply is loaded.
+    /// The supply's stock-keeping unit; `VXPrinting::nothingLoaded` when no supply is loaded.
     QString supplySKU;
-    /// The supply's material by name, in the application's language.
+    /// The name of the supply's material, in the application's language.
     QString supplyMaterialName;
     /// Whether the model has a second ribbon.
     bool ribbon2Visible = false;

@@ -14,7 +14,7 @@
 #include <winspool.h>
 #include <winsvc.h>
 
-/// Watches one printer on a thread of its own and emits a signal for each value that changes.
+/// Watches one printer on a thread of its own, and emits a signal for each value that changes.
 ///
 /// @code
 /// PrinterStatusThread thread;
@@ -27,17 +27,17 @@
 ///     thread.stop();
 /// @endcode
 ///
-/// All signals are emitted on the monitoring thread, so connections to objects of other threads are
-/// delivered queued. Each carries the monitored printer's name and the new value as text; a value
-/// that the driver no longer publishes, or that is not plausible, is reported as empty. The first
-/// read after the start reports every value that is not empty. The changes that one read finds are
-/// reported in this order: status, supply identifier, ribbon identifiers, supply mileage, ribbon 1
-/// mileage, ribbon 2 mileage, printer name, firmware version, Ethernet configuration, update
-/// progress, update error.
+/// All signals are emitted on the monitoring thread, so slots of objects of other threads are
+/// called through their event loops. Each signal carries the monitored printer's name and the new
+/// value as text. The text is empty for a value that the driver no longer publishes or that is not
+/// plausible. The first read after the start reports every value that is not empty. The changes
+/// found by one read are reported in this order: status, supply identifier, ribbon identifiers,
+/// supply mileage, ribbon 1 mileage, ribbon 2 mileage, printer name, firmware version, Ethernet
+/// configuration, update progress, update error.
 ///
-/// Nothing is retried: a printer that cannot be opened at the start is opened the next time that
-/// the print spooler service has been down and is running again. A thread that cannot make its stop
-/// event ends after its first read, and one that cannot reach the service does not notice that it
+/// Nothing is retried. A printer that cannot be opened at the start is opened when the print
+/// spooler service has been down and is running again. A thread that cannot create its stop event
+/// ends after its first read. A thread that cannot query the service does not notice that it
 /// restarts.
 class VX_PRINTERSTATUS_EXPORT PrinterStatusThread : public QThread
 {
@@ -45,18 +45,19 @@ class VX_PRINTERSTATUS_EXPORT PrinterStatusThread : public QThread
 
 public:
     explicit PrinterStatusThread(QObject* parent = nullptr);
-    /// Neither stops the thread nor waits for it: that must have been done.
+    /// Neither stops the thread nor waits for it: the thread must have finished before.
     ~PrinterStatusThread() override;
     Q_DISABLE_COPY_MOVE(PrinterStatusThread)
 
-    /// Names the printer to watch, by its spooler name. To be called before the thread is started.
+    /// Sets the printer to watch, by its name in the print spooler. Call it before the thread is
+    /// started.
     void setMonitoredPrinterName(const QString& name);
 
     /// @name The values that the driver publishes
-    /// Each reads one value through a printer handle with read access, which stays open, on any
-    /// thread. The answer is empty when the value is absent, of the wrong type or not plausible.
-    /// Numbers are unsigned decimal text. Mileages are in millimetres, or in percent for the models
-    /// that say so.
+    /// Each function reads one value, through a printer handle with read access, which stays open.
+    /// It may be called on any thread. The result is empty when the value is absent, of the wrong
+    /// type or not plausible. Numbers are unsigned decimal text. Mileages are in millimetres, those
+    /// of the model `Alder` in percent.
     /// @{
     QString getSupplyId(void* printerHandle);
     QString getRibbon1Id(void* printerHandle);
@@ -71,22 +72,23 @@ public:
     QString getEthernetConfig(void* printerHandle);
     /// @}
 
-    /// The printer's present name as the spooler knows it; empty when it cannot be read.
+    /// The printer's current name in the print spooler; empty when it cannot be read.
     QString getPrinterNameFromHandle(void* printerHandle);
 
-    /// Opens the monitored printer and its change notification. False when either fails, which is
-    /// logged; a printer whose notification fails is closed again.
+    /// Opens the monitored printer and its change notification. When either fails, that is logged
+    /// and the result is false. When the notification fails, the printer is closed again, though
+    /// its value stays in `*printerHandle`.
     bool initPrinterHandles(void** printerHandle, void** changeHandle);
 
-    /// Asks for the state of the print spooler service and follows a change of it: the handles are
-    /// closed when it has left the running state and opened when it has come back to it. False when
-    /// the state is `lastState` still.
+    /// Queries the state of the print spooler service and stores it in `lastState`. Closes both
+    /// handles when the service has changed to a state other than running, and opens them when it
+    /// has changed to running. False when the state has not changed.
     bool printSpoolerStatusChanged(SC_HANDLE service, unsigned long& lastState,
                                    void** printerHandle, void** changeHandle);
 
-    /// Reads every value, through the given handle or through one opened for this read with full
-    /// access, and emits a signal for each that differs from the text passed for it, which is
-    /// updated first.
+    /// Reads every value, either through the given handle or through one that is opened with full
+    /// access for this read alone. For each value that differs from the text that is passed,
+    /// updates that text and then emits the signal.
     void getLatestPrinterData(bool useGivenHandle, void* printerHandle, QString& supplyId,
                               QString& ribbon1Id, QString& ribbon2Id, QString& supplyMileage,
                               QString& ribbon1Mileage, QString& ribbon2Mileage, QString& status,
@@ -95,16 +97,18 @@ public:
                               QString& ethernetConfig);
 
 public Q_SLOTS:
-    /// Tells the thread to end; may be called on any thread and again. It does not wait, and it
-    /// does nothing while `run()` has not yet made its stop event: to end a thread that was only
-    /// just started, call it until `wait()` says that the thread has finished.
+    /// Signals the thread to end, and does not wait for it. It may be called on any thread and more
+    /// than once. It has no effect before `run()` has created its stop event: to end a thread that
+    /// was started a moment ago, call it repeatedly until `wait()` returns true.
     void stop();
 
 Q_SIGNALS:
     void supplyIdChanged(QString dashboardPrinterName, const QString& newId);
-    /// `newIds` has two entries, ribbon 1 first; emitted once when either changed.
+    /// `newIds` has two entries, ribbon 1 first. Emitted once when one of them changed or both did.
     void ribbonIdsChanged(QString dashboardPrinterName, const QList<QString>& newIds);
-    /// Also with "254" when the print spooler service leaves the running state.
+    /// `newStatus` is a status code as text. Also emitted, with
+    /// `VXPrinting::StatusCodes::spoolerDown`, when the print spooler service leaves the running
+    /// state.
     void printerStatusChanged(QString dashboardPrinterName, const QString& newStatus);
     void supplyIntMileageChanged(QString dashboardPrinterName, const QString& newMileage);
     void ribbon1IntMileageChanged(QString dashboardPrinterName, const QString& newMileage);

@@ -4,25 +4,30 @@
 
 #include "vxprinterstatus_export.h"
 
+#include <QtCore/QLatin1String>
 #include <QtCore/QMetaType>
 #include <QtCore/QObject>
 
-/// The vocabulary of printer models that the library and its host share.
+/// What the library and its hosts call things: printer models and empty places.
 namespace VXPrinting {
 Q_NAMESPACE_EXPORT(VX_PRINTERSTATUS_EXPORT)
 
-/// A printer model, told from the driver's name. Values above 100 are the supported models, which
-/// are watched; everything else is left alone. The numbers are fixed: hosts store them.
+/// A printer model, recognised by the driver's name. Values above 100 are the supported models,
+/// which are watched; all others are ignored. The numbers are fixed: hosts store them.
 enum class PrinterType : int
 {
-    Unknown = 0,    ///< not a printer of the maker
-    Generic = 10,   ///< a printer of the maker, of no supported model
+    Unknown = 0,    ///< a printer of another maker
+    Generic = 10,   ///< a printer of the maker, but not a supported model
     Alder = 101,    ///< supported, two ribbons; reports its mileages in percent
     BirchMax = 102, ///< supported, one ribbon
     CedarMax = 103, ///< supported, one ribbon
     AlderMax = 104, ///< supported, two ribbons
 };
 Q_ENUM_NS(PrinterType)
+
+/// The identifier and the SKU of an empty place: no supply is loaded in the printer, or no ribbon
+/// in one of its ribbon places. An empty text instead means that what is loaded is not known.
+inline constexpr QLatin1String nothingLoaded("-1");
 
 } // namespace VXPrinting
 

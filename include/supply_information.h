@@ -13,9 +13,11 @@
 
 /// Everything the supply database knows about one label supply and the ribbons used with it.
 ///
-/// A plain value. Lengths and widths are in inches, colours are 0xRRGGBB numbers, -1 and -1.0 mean
-/// that something is not known. The six per-ribbon lists have an entry for each of `ribbonSkus`;
-/// `ribbonTypes` has exactly two entries in an answer, ribbon 1 first.
+/// A plain value. Lengths and widths are in inches, and colours are 0xRRGGBB numbers. A number that
+/// is not known is -1 or -1.0, except `isLandscape` and `multiUpCount`, which are then 1; a text
+/// that is not known is empty. The six lists `ribbonColorNames` to `ribbonTensions` have one entry
+/// for each entry of `ribbonSkus`. `ribbonTypes` has exactly two entries when a service returns it,
+/// ribbon 1 first; it is empty in a default record.
 class VX_PRINTERSTATUS_EXPORT SupplyInformation
 {
     Q_GADGET

@@ -8,22 +8,22 @@
 #include <QtCore/QMap>
 #include <QtCore/QString>
 
-/// The printer-controller service: each printer's last reported status and, for everything else,
-/// fixed answers.
+/// The printer-controller service: the status of each printer when it was found, and fixed answers
+/// to everything else.
 ///
-/// `PrinterStatusController` creates one, which `getm4Controller()` hands out; other processes of
-/// the same user reach its slots under the names and argument names below.
+/// `PrinterStatusController` creates the service, and `getm4Controller()` returns it. Other
+/// processes of the same user call its slots by the names and argument names below.
 ///
-/// The service is a placeholder on purpose. It reaches no printer: every command answers true and
-/// does nothing, every flag is true, every measured number is 1 except where said otherwise.
+/// The service is deliberately a placeholder and reaches no printer. Every command does nothing and
+/// returns true; every flag is true; every reading is 1 unless its comment says otherwise.
 ///
 /// @code
 /// VXIPCM4Controller* printers = controller.getm4Controller();
-/// const int status = printers->getPrinterStatus(printerName); // 255 when never reported
+/// const int status = printers->getPrinterStatus(printerName);
 /// @endcode
 ///
-/// Nothing is locked: all of it is for the thread that made the endpoint. The endpoint has no
-/// signals.
+/// There are no locks: call all members on the thread that created the service, on which the calls
+/// of other processes are answered too. The service has no signals.
 class VX_PRINTERSTATUS_EXPORT VXIPCM4Controller : public IVXIPCM4
 {
     Q_OBJECT
@@ -43,11 +43,12 @@ public Q_SLOTS:
     bool emitError(int value) override;
     /// Emits nothing.
     bool emitAlert(int value) override;
-    /// The status code last given to `onStatusChanged` for exactly this printer name; 255 when none
-    /// was.
+    /// The status code that `onStatusChanged` stored last for exactly this printer name;
+    /// `VXPrinting::StatusCodes::unknown` when there is none.
     int getPrinterStatus(QString printerName) override;
-    /// Keeps a printer's status code, any number. The controller calls it once for a printer, when
-    /// it records it; later changes of status do not come here.
+    /// Stores a printer's status code, which may be any number. The controller calls it once for
+    /// each printer, when the printer gets its record; it does not pass on later changes of the
+    /// status.
     void onStatusChanged(int status, const QString& printerName);
     /// @}
 

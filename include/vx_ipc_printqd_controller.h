@@ -9,16 +9,17 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-/// The print-queue service, for a host that wants to serve it; the library itself never creates
+/// The print-queue service, for a host that wants to offer it. The library itself never creates
 /// one.
 ///
-/// It is a placeholder on purpose: no job is kept, every command answers true and does nothing.
+/// The service is deliberately a placeholder: it stores no job, and every command does nothing and
+/// returns true.
 ///
 /// @code
-/// VXIPCPRINTQDController printQueue; // published to other processes while it lives
+/// VXIPCPRINTQDController printQueue; // other processes can call it while it exists
 /// @endcode
 ///
-/// All of it is for the thread that made the endpoint. The endpoint has no signals.
+/// Call all members on the thread that created the service. The service has no signals.
 class VX_PRINTERSTATUS_EXPORT VXIPCPRINTQDController : public IVXIPCPRINTQD
 {
     Q_OBJECT
@@ -31,12 +32,12 @@ public:
 public Q_SLOTS:
     bool printQueueFull(uint value) override;
     bool printQueueComplete(uint value) override;
-    /// Accepted without effect: the job is not kept.
+    /// Has no effect: the job is not stored.
     void addJob(QString GUID, QString jobName, QString appName, int copies,
                 int mergeIndex = -1) override;
     /// Always empty.
     QStringList getJobList() override;
-    /// Always a default record, whatever the GUID.
+    /// Always a default record, for any GUID.
     PrintJobMetaData getJobInfo(QString GUID) override;
     bool reprintPrintJob() override;
     bool retryPrintJob() override;

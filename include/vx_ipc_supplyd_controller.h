@@ -12,11 +12,11 @@
 
 class VXSupplyDatabase;
 
-/// The supply-database service: what a supply or a ribbon is, asked by its SKU or by the printer
-/// that it is loaded in.
+/// The supply-database service: what a supply or a ribbon is, by its SKU or by the printer in which
+/// it is loaded.
 ///
-/// `PrinterStatusController` creates one, which `getSupplyIdController()` hands out; other
-/// processes of the same user reach its slots under the names and argument names below.
+/// `PrinterStatusController` creates the service, and `getSupplyIdController()` returns it. Other
+/// processes of the same user call its slots by the names and argument names below.
 ///
 /// @code
 /// VXIPCSUPPLYDController* supplies = controller.getSupplyIdController();
@@ -25,18 +25,19 @@ class VXSupplyDatabase;
 /// const SupplyInformation loaded = supplies->supplyInformation(printerName);
 /// @endcode
 ///
-/// Answers come from the file "roll.db" beside the application's executable, in the language that
-/// the system had when the endpoint was made. Each printer that was added has a database object of
-/// its own, which remembers what is loaded in that printer; questions that name no printer go to a
-/// shared one. A printer that was never added shares the shared one, and so does the empty printer
-/// name, except where said otherwise.
+/// The answers come from the file "roll.db" beside the application's executable. Names are in the
+/// application's language at the time at which the service was created. Each printer that was added
+/// has its own database object, which stores what is loaded in that printer. Queries without a
+/// printer's name go to a shared database object; so do those with the name of a printer that was
+/// never added and, unless a comment says otherwise, those with an empty name.
 ///
-/// An unknown SKU, or a file that is missing or cannot be read, gives empty texts and lists and the
-/// numbers that `SupplyInformation` has for what is not known. The identifier "-1" means that
-/// nothing is loaded. Colours are 0xRRGGBB numbers, lengths and widths inches.
+/// For an unknown SKU, and when the file is missing or cannot be read, texts and lists are empty
+/// and numbers are those that `SupplyInformation` has for what is not known. The identifier
+/// `VXPrinting::nothingLoaded` stands for a place where nothing is loaded. Colours are 0xRRGGBB
+/// numbers, lengths and widths are in inches.
 ///
-/// Nothing is locked: all of it is for the thread that made the endpoint, on which the calls of
-/// other processes are answered too. The endpoint has no signals.
+/// There are no locks: call all members on the thread that created the service, on which the calls
+/// of other processes are answered too. The service has no signals.
 class VX_PRINTERSTATUS_EXPORT VXIPCSUPPLYDController : public IVXIPCSUPPLYD
 {
     Q_OBJECT
@@ -46,8 +47,8 @@ public:
     ~VXIPCSUPPLYDController() override;
     Q_DISABLE_COPY_MOVE(VXIPCSUPPLYDController)
 
-    /// Gives a printer a database object of its own. A printer that has one keeps it, with what it
-    /// remembers. A printer is never forgotten while the endpoint lives.
+    /// Creates a database object for a printer. Has no effect for a printer that has one already.
+    /// The object exists until the service is destroyed.
     void addNewPrinter(const QString& printerName);
 
 public Q_SLOTS:
@@ -67,36 +68,39 @@ public Q_SLOTS:
     /// @name What is loaded in a printer
     /// @{
 
-    /// Always "-1": the identifier is not handed out without a printer's name.
+    /// Always `VXPrinting::nothingLoaded`.
     QString supplyId() override;
-    /// The SKU of the supply that `setSupplyId` reported; "-1" for an empty printer name.
+    /// The SKU of the supply that was set by `setSupplyId`; `VXPrinting::nothingLoaded` for an
+    /// empty printer name.
     QString supplySKUCached(QString printerName) override;
-    /// The SKUs of the ribbons that `setRibbonIds` reported, ribbon 1 first.
+    /// The SKUs of the ribbons that were set by `setRibbonIds`, ribbon 1 first;
+    /// `VXPrinting::nothingLoaded` for an empty place.
     QStringList supplyRibbonSKUsCached(QString printerName) override;
-    /// Always 0.0: what is left is known to `PrinterStatusInformation` only, as are the two below.
+    /// This and the two below are always 0.0: see the percentages in `PrinterStatusInformation`.
     double supplySupplyPercent() override;
     double supplyRibbon1Percent() override;
     double supplyRibbon2Percent() override;
-    /// The colour of the loaded supply as text.
+    /// The colour of the loaded supply, as decimal text.
     QString supplySupplyRGB(QString printerName) override;
-    /// The colours of the panels of the loaded ribbon 1, and below of ribbon 2, as texts.
+    /// The colours of the panels of the loaded ribbon 1, as decimal texts; below, those of
+    /// ribbon 2.
     QStringList supplyRibbon1RGBs(QString printerName) override;
     QStringList supplyRibbon2RGBs(QString printerName) override;
-    /// Always "-1", as are the two below.
+    /// This and the two below are always `VXPrinting::nothingLoaded`.
     QString supplySupplyUID() override;
     QString supplyRibbon1UID() override;
     QString supplyRibbon2UID() override;
-    /// The record of what is loaded in the printer: `supplyInformationBySKUs` of its SKUs.
+    /// The record of what is loaded in the printer: `supplyInformationBySKUs` for its SKUs.
     SupplyInformation supplyInformation(QString printerName) override;
     /// @}
 
     /// @name A supply or ribbon by its SKU
-    /// Those with a printer's name ask that printer's database object, all others the shared one.
-    /// Heat, heat offset, speed and tension belong to the pair of a ribbon's panel and a supply.
+    /// Functions with a printer's name query that printer's database object, all others the shared
+    /// one. Heat, heat offset, speed and tension depend on both the ribbon's panel and the supply.
     /// @{
 
     /// The record of a supply and the ribbons used with it. The first two entries of `ribbonSkus`
-    /// are ribbon 1 and ribbon 2; an absent one is asked for with a null SKU.
+    /// are ribbon 1 and ribbon 2; an absent one counts as an unknown SKU.
     SupplyInformation supplyInformationBySKUs(QString supplySku, QStringList ribbonSkus,
                                               QString printerName) override;
     QString supplyMaterialName(QString sku, QString printerName) override;
@@ -104,19 +108,19 @@ public Q_SLOTS:
     int supplyColorRGB(QString sku, QString printerName) override;
     QString supplyColorName(QString sku, QString printerName) override;
     double supplyWidth(QString sku, QString printerName) override;
-    /// 1 when labels are printed in landscape, otherwise 0.
+    /// 1 when labels are printed in landscape format, otherwise 0; 1 also when that is not known.
     int supplyIsLandscape(QString sku) override;
-    /// The background picture as the bytes of an image file.
+    /// The background picture, as the content of an image file.
     QByteArray supplyBackgroundImage(QString sku) override;
-    /// The length of one label of a supply that is not continuous.
+    /// The length of one label, for a supply that is not continuous.
     double supplyNonContinuousLength(QString sku, QString printerName) override;
-    /// The place of the supply's type in the list of the types that the printer takes.
+    /// The index of the supply's type in the list of types that the printer accepts, from 0.
     int supplyTypeIndex(QString sku, QString printerName) override;
-    /// How many panels a ribbon has.
+    /// The number of panels of a ribbon.
     int supplyRibbonPanels(QString ribbonSku) override;
     double supplyRibbonWidth(QString ribbonSku) override;
     double supplyRibbonLength(QString ribbonSku) override;
-    /// The colour of a ribbon's panel; panels are counted from 1.
+    /// The colour of a ribbon's panel. Panels are numbered from 1.
     QString supplyRibbonColorName(QString ribbonSku, int panel = 1) override;
     int supplyRibbonColorRGB(QString ribbonSku, int panel = 1) override;
     int supplyRibbonHeat(QString ribbonSku, int panel, QString supplySku) override;
@@ -135,22 +139,23 @@ public Q_SLOTS:
     /// @}
 
     /// @name What a printer reports
-    /// An empty printer name changes nothing.
+    /// Calls with an empty printer name have no effect.
     /// @{
 
-    /// The identifier of the supply loaded in the printer, as its driver publishes it.
+    /// Sets the identifier of the supply that is loaded in the printer, as its driver publishes it.
     void setSupplyId(const QString& id, const QString& printerName);
-    /// The identifiers of its ribbons, ribbon 1 first.
+    /// Sets the identifiers of the ribbons that are loaded in the printer, ribbon 1 first.
     void setRibbonIds(const QStringList& ids, const QString& printerName);
     /// @}
 
 private:
     VXSupplyDatabase* openDatabase(const QString& connectionName) const;
     VXSupplyDatabase* databaseForPrinter(const QString& printerName) const;
+    VXSupplyDatabase* databaseAskedFor(const QString& printerName) const;
     VXSupplyDatabase* sharedDatabase() const;
 
     qint32 languageId = 0;
-    // Owns its values; the entry "-" is the shared database.
+    // Owns the database objects. The entry "-" is the shared one.
     QMap<QString, VXSupplyDatabase*> databases;
     VXSupplyDatabase* defaultDatabase = nullptr;
 };

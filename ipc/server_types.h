@@ -2,7 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
-/// The numbers that the services are published and found under.
+/// The numbers of the services, by which clients find them.
 enum ServerType : int
 {
     SupplyDatabaseServer = 0,

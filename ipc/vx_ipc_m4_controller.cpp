@@ -3,12 +3,11 @@
 #include "vx_ipc_m4_controller.h"
 
 #include "server_types.h"
+#include "status_codes.h"
 
 namespace {
 
-constexpr int neverReported = 255;
-
-// What the placeholder answers: clients were written against exactly these.
+// The placeholder's answers, which clients rely on.
 constexpr bool succeeded = true;
 constexpr bool yes = true;
 constexpr int reading = 1;
@@ -23,7 +22,7 @@ VXIPCM4Controller::~VXIPCM4Controller() = default;
 
 int VXIPCM4Controller::getPrinterStatus(QString printerName)
 {
-    return printerStatuses.value(printerName, neverReported);
+    return printerStatuses.value(printerName, VXPrinting::StatusCodes::unknown);
 }
 
 void VXIPCM4Controller::onStatusChanged(int status, const QString& printerName)
@@ -31,7 +30,7 @@ void VXIPCM4Controller::onStatusChanged(int status, const QString& printerName)
     printerStatuses.insert(printerName, status);
 }
 
-// One line an answer.
+// One line for each function.
 // clang-format off
 int     VXIPCM4Controller::getError()                           { return reading; }
 int     VXIPCM4Controller::getAlert()                           { return reading; }

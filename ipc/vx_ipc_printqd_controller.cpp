@@ -16,7 +16,7 @@ VXIPCPRINTQDController::VXIPCPRINTQDController(QObject* parent)
 
 VXIPCPRINTQDController::~VXIPCPRINTQDController() = default;
 
-// One line an answer.
+// One line for each function.
 // clang-format off
 bool             VXIPCPRINTQDController::printQueueFull(uint)                           { return succeeded; }
 bool             VXIPCPRINTQDController::printQueueComplete(uint)                       { return succeeded; }

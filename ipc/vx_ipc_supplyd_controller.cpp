@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "vx_ipc_supplyd_controller.h"
 
+#include "printer_types.h"
 #include "server_types.h"
 
 #include <vxlocalelanguages.h>
@@ -11,17 +12,16 @@
 #include <QtCore/QStringBuilder>
 #include <QtCore/QtAlgorithms>
 
+using VXPrinting::nothingLoaded;
+
 namespace {
 
-// Stands for no particular printer.
-const QString SharedKey = QStringLiteral("-");
-
-// What an identifier reads when nothing is loaded or none is given away.
-const QString NoIdentifier = QStringLiteral("-1");
+// The shared database's entry, which belongs to no printer.
+const QString sharedKey = QStringLiteral("-");
 
 const QString& orShared(const QString& printerName)
 {
-    return printerName.isEmpty() ? SharedKey : printerName;
+    return printerName.isEmpty() ? sharedKey : printerName;
 }
 
 QString databasePath()
@@ -38,7 +38,7 @@ VXIPCSUPPLYDController::VXIPCSUPPLYDController()
     VXLocaleLanguages languages;
     languageId = languages.getCurrentLanguageId();
     defaultDatabase = openDatabase(QStringLiteral("SUPPLY_INFO_QT_SQL_CONNECTION_NAME"));
-    databases.insert(SharedKey, defaultDatabase);
+    databases.insert(sharedKey, defaultDatabase);
 }
 
 VXIPCSUPPLYDController::~VXIPCSUPPLYDController()
@@ -66,84 +66,51 @@ VXSupplyDatabase* VXIPCSUPPLYDController::databaseForPrinter(const QString& prin
     return databases.value(printerName, defaultDatabase);
 }
 
+VXSupplyDatabase* VXIPCSUPPLYDController::databaseAskedFor(const QString& printerName) const
+{
+    return databaseForPrinter(orShared(printerName));
+}
+
 VXSupplyDatabase* VXIPCSUPPLYDController::sharedDatabase() const
 {
-    return databases.value(SharedKey);
+    return databases.value(sharedKey);
 }
 
 void VXIPCSUPPLYDController::setSupplyId(const QString& id, const QString& printerName)
 {
-    if (printerName.isEmpty()) // must not reach the shared database, as queries do
+    if (printerName.isEmpty()) // unlike a query, it must not reach the shared database
         return;
     databaseForPrinter(printerName)->setSupplyId(id);
 }
 
 void VXIPCSUPPLYDController::setRibbonIds(const QStringList& ids, const QString& printerName)
 {
-    if (printerName.isEmpty()) // must not reach the shared database, as queries do
+    if (printerName.isEmpty()) // unlike a query, it must not reach the shared database
         return;
     databaseForPrinter(printerName)->setRibbonIds(ids);
 }
 
 QString VXIPCSUPPLYDController::supplySKUCached(QString printerName)
 {
-    // Alone among the queries this one does not ask the shared database for an empty name.
+    // The only query that does not go to the shared database for an empty name.
     if (printerName.isEmpty())
-        return NoIdentifier;
+        return nothingLoaded;
     return databaseForPrinter(printerName)->supplySKU();
 }
 
-// Asked by printer: the argument names one.
-
-QStringList VXIPCSUPPLYDController::supplyRibbonSKUsCached(QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyRibbonSKUs();
-}
-
-QString VXIPCSUPPLYDController::supplySupplyRGB(QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplySupplyRGB();
-}
-
-QStringList VXIPCSUPPLYDController::supplyRibbon1RGBs(QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyRibbon1RGBs();
-}
-
-QStringList VXIPCSUPPLYDController::supplyRibbon2RGBs(QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyRibbon2RGBs();
-}
-
-QString VXIPCSUPPLYDController::supplyMaterialName(QString sku, QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyMaterialName(sku);
-}
-
-QString VXIPCSUPPLYDController::supplyFormatName(QString sku, QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyFormatName(sku);
-}
-
-int VXIPCSUPPLYDController::supplyColorRGB(QString sku, QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyColorRGB(sku);
-}
-
-QString VXIPCSUPPLYDController::supplyColorName(QString sku, QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyColorName(sku);
-}
-
-double VXIPCSUPPLYDController::supplyWidth(QString sku, QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyWidth(sku);
-}
-
-double VXIPCSUPPLYDController::supplyNonContinuousLength(QString sku, QString printerName)
-{
-    return databaseForPrinter(orShared(printerName))->supplyNonContinuousLength(sku);
-}
+// Queries with a printer's name, which go to that printer's database object.
+// clang-format off
+QStringList VXIPCSUPPLYDController::supplyRibbonSKUsCached(QString printerName)                 { return databaseAskedFor(printerName)->supplyRibbonSKUs(); }
+QString     VXIPCSUPPLYDController::supplySupplyRGB(QString printerName)                        { return databaseAskedFor(printerName)->supplySupplyRGB(); }
+QStringList VXIPCSUPPLYDController::supplyRibbon1RGBs(QString printerName)                      { return databaseAskedFor(printerName)->supplyRibbon1RGBs(); }
+QStringList VXIPCSUPPLYDController::supplyRibbon2RGBs(QString printerName)                      { return databaseAskedFor(printerName)->supplyRibbon2RGBs(); }
+QString     VXIPCSUPPLYDController::supplyMaterialName(QString sku, QString printerName)        { return databaseAskedFor(printerName)->supplyMaterialName(sku); }
+QString     VXIPCSUPPLYDController::supplyFormatName(QString sku, QString printerName)          { return databaseAskedFor(printerName)->supplyFormatName(sku); }
+int         VXIPCSUPPLYDController::supplyColorRGB(QString sku, QString printerName)            { return databaseAskedFor(printerName)->supplyColorRGB(sku); }
+QString     VXIPCSUPPLYDController::supplyColorName(QString sku, QString printerName)           { return databaseAskedFor(printerName)->supplyColorName(sku); }
+double      VXIPCSUPPLYDController::supplyWidth(QString sku, QString printerName)               { return databaseAskedFor(printerName)->supplyWidth(sku); }
+double      VXIPCSUPPLYDController::supplyNonContinuousLength(QString sku, QString printerName) { return databaseAskedFor(printerName)->supplyNonContinuousLength(sku); }
+// clang-format on
 
 int VXIPCSUPPLYDController::supplyTypeIndex(QString sku, QString printerName)
 {
@@ -169,7 +136,7 @@ SupplyInformation VXIPCSUPPLYDController::supplyInformationBySKUs(QString supply
     const QString ribbon2Sku = ribbonSkus.value(1);
 
     SupplyInformation record;
-    record.supplyId = database->supplyId(); // what is loaded, which need not be what is asked about
+    record.supplyId = database->supplyId(); // of the loaded supply, which may be another one
     record.supplySku = supplySku;
     record.ribbonSkus = ribbonSkus;
     record.secColorWidth = static_cast<float>(database->supplySecColorWidth(supplySku));
@@ -210,94 +177,33 @@ SupplyInformation VXIPCSUPPLYDController::supplyInformationBySKUs(QString supply
     return record;
 }
 
-// Asked of the shared database, even where the caller knows the printer: no argument names one.
-
-QStringList VXIPCSUPPLYDController::supplySKUList()
-{
-    return sharedDatabase()->supplySKUList();
-}
-
-QStringList VXIPCSUPPLYDController::supplyRibbonSKUList()
-{
-    return sharedDatabase()->supplyRibbonSKUList();
-}
-
-QVariantHash VXIPCSUPPLYDController::supplyColorHash()
-{
-    return sharedDatabase()->supplyColorHash();
-}
-
-QVariantHash VXIPCSUPPLYDController::supplyRibbonColorHash()
-{
-    return sharedDatabase()->supplyRibbonColorHash();
-}
-
-int VXIPCSUPPLYDController::supplyIsLandscape(QString sku)
-{
-    return sharedDatabase()->supplyIsLandscape(sku);
-}
-
-QByteArray VXIPCSUPPLYDController::supplyBackgroundImage(QString sku)
-{
-    return sharedDatabase()->supplyBackgroundImage(sku);
-}
-
-int VXIPCSUPPLYDController::supplyRibbonPanels(QString ribbonSku)
-{
-    return sharedDatabase()->supplyRibbonPanels(ribbonSku);
-}
-
-double VXIPCSUPPLYDController::supplyRibbonWidth(QString ribbonSku)
-{
-    return sharedDatabase()->supplyRibbonWidth(ribbonSku);
-}
-
-double VXIPCSUPPLYDController::supplyRibbonLength(QString ribbonSku)
-{
-    return sharedDatabase()->supplyRibbonLength(ribbonSku);
-}
-
-QString VXIPCSUPPLYDController::supplyRibbonColorName(QString ribbonSku, int panel)
-{
-    return sharedDatabase()->supplyRibbonColorName(ribbonSku, panel);
-}
-
-int VXIPCSUPPLYDController::supplyRibbonColorRGB(QString ribbonSku, int panel)
-{
-    return sharedDatabase()->supplyRibbonColorRGB(ribbonSku, panel);
-}
-
-int VXIPCSUPPLYDController::supplyRibbonHeat(QString ribbonSku, int panel, QString supplySku)
-{
-    return sharedDatabase()->supplyRibbonHeat(ribbonSku, panel, supplySku);
-}
-
-int VXIPCSUPPLYDController::supplyRibbonHeatOffset(QString ribbonSku, int panel, QString supplySku)
-{
-    return sharedDatabase()->supplyRibbonHeatOffset(ribbonSku, panel, supplySku);
-}
-
-int VXIPCSUPPLYDController::supplyRibbonMaxSpeed(QString ribbonSku, int panel, QString supplySku)
-{
-    return sharedDatabase()->supplyRibbonMaxSpeed(ribbonSku, panel, supplySku);
-}
-
-int VXIPCSUPPLYDController::supplyRibbonTension(QString ribbonSku, int panel, QString supplySku)
-{
-    return sharedDatabase()->supplyRibbonTension(ribbonSku, panel, supplySku);
-}
-
-QString VXIPCSUPPLYDController::supplyRibbonType(QString ribbonSku)
-{
-    return sharedDatabase()->supplyRibbonType(ribbonSku);
-}
-
-// Answered without any database: the interface's placeholders.
+// Queries without a printer's name, which go to the shared database object, also where the caller
+// knows the printer.
 // clang-format off
-QString VXIPCSUPPLYDController::supplyId()             { return NoIdentifier; }
-QString VXIPCSUPPLYDController::supplySupplyUID()      { return NoIdentifier; }
-QString VXIPCSUPPLYDController::supplyRibbon1UID()     { return NoIdentifier; }
-QString VXIPCSUPPLYDController::supplyRibbon2UID()     { return NoIdentifier; }
+QStringList  VXIPCSUPPLYDController::supplySKUList()                                                         { return sharedDatabase()->supplySKUList(); }
+QStringList  VXIPCSUPPLYDController::supplyRibbonSKUList()                                                   { return sharedDatabase()->supplyRibbonSKUList(); }
+QVariantHash VXIPCSUPPLYDController::supplyColorHash()                                                       { return sharedDatabase()->supplyColorHash(); }
+QVariantHash VXIPCSUPPLYDController::supplyRibbonColorHash()                                                 { return sharedDatabase()->supplyRibbonColorHash(); }
+int          VXIPCSUPPLYDController::supplyIsLandscape(QString sku)                                          { return sharedDatabase()->supplyIsLandscape(sku); }
+QByteArray   VXIPCSUPPLYDController::supplyBackgroundImage(QString sku)                                      { return sharedDatabase()->supplyBackgroundImage(sku); }
+int          VXIPCSUPPLYDController::supplyRibbonPanels(QString ribbonSku)                                   { return sharedDatabase()->supplyRibbonPanels(ribbonSku); }
+double       VXIPCSUPPLYDController::supplyRibbonWidth(QString ribbonSku)                                    { return sharedDatabase()->supplyRibbonWidth(ribbonSku); }
+double       VXIPCSUPPLYDController::supplyRibbonLength(QString ribbonSku)                                   { return sharedDatabase()->supplyRibbonLength(ribbonSku); }
+QString      VXIPCSUPPLYDController::supplyRibbonColorName(QString ribbonSku, int panel)                     { return sharedDatabase()->supplyRibbonColorName(ribbonSku, panel); }
+int          VXIPCSUPPLYDController::supplyRibbonColorRGB(QString ribbonSku, int panel)                      { return sharedDatabase()->supplyRibbonColorRGB(ribbonSku, panel); }
+int          VXIPCSUPPLYDController::supplyRibbonHeat(QString ribbonSku, int panel, QString supplySku)       { return sharedDatabase()->supplyRibbonHeat(ribbonSku, panel, supplySku); }
+int          VXIPCSUPPLYDController::supplyRibbonHeatOffset(QString ribbonSku, int panel, QString supplySku) { return sharedDatabase()->supplyRibbonHeatOffset(ribbonSku, panel, supplySku); }
+int          VXIPCSUPPLYDController::supplyRibbonMaxSpeed(QString ribbonSku, int panel, QString supplySku)   { return sharedDatabase()->supplyRibbonMaxSpeed(ribbonSku, panel, supplySku); }
+int          VXIPCSUPPLYDController::supplyRibbonTension(QString ribbonSku, int panel, QString supplySku)    { return sharedDatabase()->supplyRibbonTension(ribbonSku, panel, supplySku); }
+QString      VXIPCSUPPLYDController::supplyRibbonType(QString ribbonSku)                                     { return sharedDatabase()->supplyRibbonType(ribbonSku); }
+// clang-format on
+
+// Placeholders of the interface, which need no database.
+// clang-format off
+QString VXIPCSUPPLYDController::supplyId()             { return nothingLoaded; }
+QString VXIPCSUPPLYDController::supplySupplyUID()      { return nothingLoaded; }
+QString VXIPCSUPPLYDController::supplyRibbon1UID()     { return nothingLoaded; }
+QString VXIPCSUPPLYDController::supplyRibbon2UID()     { return nothingLoaded; }
 double  VXIPCSUPPLYDController::supplySupplyPercent()  { return 0.0; }
 double  VXIPCSUPPLYDController::supplyRibbon1Percent() { return 0.0; }
 double  VXIPCSUPPLYDController::supplyRibbon2Percent() { return 0.0; }

@@ -7,13 +7,13 @@
 /// The log lines of the monitoring thread and of the controller.
 namespace log_lines {
 
-// The monitoring thread's; %s is the monitored printer.
+// Lines of the monitoring thread. %s is the monitored printer.
 inline constexpr char threadFile[] = "printer_status_thread";
 inline constexpr char initPrinterHandles[] =
     "bool PrinterStatusThread::initPrinterHandles(PHANDLE, PHANDLE)";
 inline constexpr LogLine openingFailed{threadFile, 198, initPrinterHandles,
                                        "%s: Failed to open printer"};
-// What fails is the change notification; the wording is older than it.
+// The failure is that of the change notification, although the text speaks of event objects.
 inline constexpr LogLine notificationFailed{threadFile, 208, initPrinterHandles,
                                             "%s: Failed to create event objects"};
 inline constexpr LogLine fullAccessFailed{
@@ -22,7 +22,7 @@ inline constexpr LogLine fullAccessFailed{
     "QString&, QString&, QString&, QString&, QString&, QString&, QString&, QString&, QString&)",
     "%s: Failed to open printer with PRINTER_ALL_ACCESS"};
 
-// The controller's; %s is a printer, and in evaluatingPrinter the second its driver.
+// Lines of the controller. %s is a printer; the second one of evaluatingPrinter is its driver.
 inline constexpr char controllerFile[] = "printer_status_controller";
 inline constexpr LogLine evaluatingPrinter{
     controllerFile, 141, "void PrinterStatusController::checkForNewPrinter(AvailablePrinters)",

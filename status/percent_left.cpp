@@ -15,8 +15,8 @@ constexpr double inchesPerFoot = 12.0;
 constexpr double newRibbonInches = 4725.0;
 constexpr qsizetype identifierCharacters = 24;
 
-/// Truncates toward zero and lets only a percentage through. Asked before converting, because a
-/// number that an int cannot hold, and what is not a number, must not be converted.
+/// Truncates towards zero; 0 for everything that is not a percentage. The range is checked before
+/// the conversion, because converting a NaN or a number beyond the range of int is undefined.
 int truncatedPercentage(double value)
 {
     if (!(value > -1.0 && value < 101.0))
@@ -24,7 +24,7 @@ int truncatedPercentage(double value)
     return static_cast<int>(value);
 }
 
-/// `newLength` is what the mileage reads on a new roll, in inches.
+/// `newLength` is the mileage of a new roll, in inches.
 int leftOf(double mileage, double newLength, double length)
 {
     const double used = mileage * inchesPerMillimetre - newLength;
@@ -46,8 +46,7 @@ int percent_left::ofPercentage(double percentage)
 
 int percent_left::ofSupply(double mileage, float length, const QString& supplyIdentifier)
 {
-    // A supply's length is unusable at 0 and at the -1 of "not known"; a ribbon's, below, at 0
-    // and 1.
+    // A supply's length is unusable when it is 0 or -1 (not known), a ribbon's when it is 0 or 1.
     const float rounded = std::round(length);
     if (mileage == unknownMileage || rounded == 0.0F || rounded == -1.0F)
         return 0;

@@ -19,18 +19,18 @@
 #include <exception>
 #include <utility>
 
+using VXPrinting::nothingLoaded;
 using VXPrinting::PrinterType;
 
 namespace {
 
 namespace StatusCodes = VXPrinting::StatusCodes;
 
-const QString nothingLoaded = QStringLiteral("-1");
-/// What the driver publishes when no supply is loaded.
+/// The identifier that the driver publishes when no supply is loaded.
 const QString blankSupplyIdentifier = QString(20, QLatin1Char('0'));
 
 constexpr int lastUnsupportedType = 100;
-/// A ribbon is named by the colour of its first panel, ribbon 2 too.
+/// The panel whose colour stands for the whole ribbon; it is the first also for ribbon 2.
 constexpr int firstPanel = 1;
 
 bool hasSecondRibbon(PrinterType type)
@@ -38,8 +38,7 @@ bool hasSecondRibbon(PrinterType type)
     return type == PrinterType::Alder || type == PrinterType::AlderMax;
 }
 
-/// The spooler's printers; none when it lists one that has no name, which cannot be told apart from
-/// the others.
+/// All printers of the spooler; none when one of them lacks its name, port or driver.
 QList<AvailablePrinters> spoolerPrinters()
 {
     try {
@@ -86,8 +85,8 @@ PrinterStatusController::~PrinterStatusController()
 
 void PrinterStatusController::endThreads()
 {
-    // A thread that is still in its first read has no stop event to be told by, so all are told
-    // again until each has ended. None is waited for before all have been told.
+    // stop() has no effect on a thread that is still in its first read, so it is called again until
+    // each thread has ended. The destructor has called it for all threads before.
     constexpr unsigned long patience = 10; // milliseconds
     const auto threads = statusThreads.values();
     for (qsizetype ended = 0; ended < threads.size();) {
@@ -125,7 +124,7 @@ QVariantList PrinterStatusController::getAvailablePrinters() const
 
 void PrinterStatusController::checkForPrinters()
 {
-    // A slot of the host's may run an event loop in which the controller is deleted.
+    // A slot of the host may run an event loop in which the controller is deleted.
     const QPointer controller(this);
     const QList<AvailablePrinters> printers = spoolerPrinters();
     for (const AvailablePrinters& printer : printers) {
@@ -141,7 +140,7 @@ void PrinterStatusController::checkForNewPrinter(AvailablePrinters printer)
     if (ignoredPrinters.contains(name) || printerStatusMap.contains(name))
         return;
 
-    // A printer that stays offline is evaluated at every call and logged at the first.
+    // A printer that stays offline is evaluated at every call, but logged only once.
     if (!offlinePrinters.contains(name))
         log_lines::print(log_lines::evaluatingPrinter, name.toLocal8Bit().constData(),
                          printer.driverName.toLocal8Bit().constData());
@@ -234,8 +233,8 @@ void PrinterStatusController::initializeDefaultPrinter()
 
 void PrinterStatusController::chooseFromRecords()
 {
-    // Whether online is not asked: a printer that is switched off for the moment is still the one
-    // to work with. Where all are network printers the last of them stays.
+    // Offline printers are chosen too: users go on working with a printer that is switched off for
+    // a while. When all are network printers, the last one is chosen.
     for (auto entry = printerStatusMap.cbegin(); entry != printerStatusMap.cend(); ++entry) {
         m_activeDefaultPrinter = entry.key();
         if (!entry->printerRemote)
@@ -270,14 +269,14 @@ void PrinterStatusController::updateDefaultPrinter()
 
 void PrinterStatusController::onPrinterStatusChanged(QString printerName, QString status)
 {
-    // Found afresh after each signal: a slot of the host's may have changed the map.
+    // Looked up again after each signal, because a slot of the host may have changed the map.
     const auto record = [&]() -> PrinterStatusInformation& {
         return printerStatusMap[printerName];
     };
     if (record().printerRemote)
         return;
 
-    // And after each signal the controller may be gone, deleted in an event loop that a slot runs.
+    // The controller may also have been deleted, in an event loop that a slot ran.
     const QPointer controller(this);
     bool readable = false;
     record().statusEnum = status.toInt(&readable);
@@ -322,7 +321,7 @@ void PrinterStatusController::onPrinterStatusChanged(QString printerName, QStrin
 
 bool PrinterStatusController::shouldBecomeActive(const QString& printerName)
 {
-    // Windows is asked for its default printer at every report, whatever else decides.
+    // The Windows default printer is queried at every report, also when it does not matter.
     const bool isWindowsDefault = WindowsPrinterInfo::getDefaultPrinterName() == printerName;
     return ((isWindowsDefault && printerName != m_activeDefaultPrinter) ||
             m_activeDefaultPrinter.isEmpty()) &&
@@ -343,8 +342,8 @@ void PrinterStatusController::raiseErrorState()
 {
     if (!noPrinterInError)
         return;
-    // Before the signal: in its slot the host may ask for the same again, or for the opposite, and
-    // reports that come in an event loop of its own may end the error.
+    // Set before the signal: a slot may call updateCachedStatus(), and reports that arrive in an
+    // event loop of the slot may clear the error state.
     noPrinterInError = false;
     Q_EMIT printerErrorChangedSignal(true);
 }
@@ -354,9 +353,9 @@ void PrinterStatusController::reevaluateErrorState()
     if (noPrinterInError)
         return;
 
-    // A report of 0 or of a negative code raises the error state, but does not hold it: what holds
-    // it is a code above ready of a printer that is there, one that has not reported yet and one
-    // that is not managed among them.
+    // A report of 0 or of a negative code raises the error state, but such a record does not
+    // maintain it. Records that do are those of online local printers with a code above "ready",
+    // which includes printers that have not reported yet and printers that are not managed.
     const auto isInError = [](const PrinterStatusInformation& record) {
         return record.statusEnum > StatusCodes::ready && record.printerOnline &&
                !record.printerRemote;
@@ -402,7 +401,7 @@ void PrinterStatusController::onSupplyIdChanged(QString printerName, QString id)
     const QString colorName = supplyIdController->supplyColorName(sku, printerName);
     const QString materialName = supplyIdController->supplyMaterialName(sku, printerName);
 
-    // The percentage stays that of the old supply until the new one's mileage comes.
+    // The percentage remains that of the old supply until the new supply's mileage is reported.
     PrinterStatusInformation& record = printerStatusMap[printerName];
     record.supplySKU = sku;
     record.supplyColorHex = hexOf(static_cast<uint>(rgb));
@@ -427,8 +426,8 @@ void PrinterStatusController::onRibbonIdsChanged(QString printerName, QStringLis
     if (skus.isEmpty())
         return;
 
-    // A ribbon that was taken out stays in the record: hosts go on showing what the printer last
-    // printed with.
+    // A ribbon that was removed stays in the record: hosts go on showing the one that was used
+    // last.
     PrinterStatusInformation& record = printerStatusMap[printerName];
     const QString& ribbon1 = skus.first();
     if (ribbon1 != nothingLoaded) {
@@ -436,7 +435,7 @@ void PrinterStatusController::onRibbonIdsChanged(QString printerName, QStringLis
         record.ribbon1ColorHex = hexOfFirst(supplyIdController->supplyRibbon1RGBs(printerName));
         record.ribbon1ColorName = supplyIdController->supplyRibbonColorName(ribbon1, firstPanel);
     }
-    const QString ribbon2 = skus.value(1, nothingLoaded);
+    const QString ribbon2 = skus.value(1, QString(nothingLoaded));
     if (ribbon2 != nothingLoaded) {
         record.ribbon2SKU = ribbon2;
         record.ribbon2ColorHex = hexOfFirst(supplyIdController->supplyRibbon2RGBs(printerName));
@@ -504,8 +503,8 @@ QString PrinterStatusController::getPrinterSoftwareVersion(QString printerName)
 
 void PrinterStatusController::sendCommandToPrinter(QString command, QString printerName)
 {
-    // All of these lines stay at debug level: a host that tries printers one by one expects some
-    // to fail.
+    // These lines are at debug level as well: a host that tries one printer after another expects
+    // failures.
     switch (sendRawPrintJob(command, printerName)) {
     case RawPrintJobResult::Sent:
         break;

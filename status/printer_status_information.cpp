@@ -6,8 +6,8 @@
 
 namespace {
 
-/// Known by name as soon as the library is loaded: hosts look the types up before they make a
-/// controller, in QML and when they call a slot through the meta-object.
+/// Registered when the library is loaded, because hosts may look up the types by name before they
+/// create a controller: in QML, and when they call a slot through the meta-object.
 [[maybe_unused]] const int registeredTypes[] = {
     qRegisterMetaType<PrinterStatusInformation>("PrinterStatusInformation"),
     qRegisterMetaType<VXPrinting::PrinterType>("VXPrinting::PrinterType"),

@@ -4,44 +4,60 @@
 
 #include "log_lines.h"
 #include "printer_values.h"
-#include "spooler_block.h"
+#include "spooler_record.h"
+#include "status_codes.h"
 #include "wide_text.h"
 #include "windows_handles.h"
 
-#include <algorithm>
 #include <array>
 
 namespace {
 
 constexpr DWORD spoolerPollInterval = 5000;      // milliseconds without a notification
-constexpr DWORD everyPrinterChange = 0x7777FFFF; // PRINTER_CHANGE_ALL, that of every kind
-const QString spoolerDownStatus = QStringLiteral("254");
-/// While a printer says this it is read through a handle opened afresh with full access.
-const QString unreadableStatus = QStringLiteral("255");
+constexpr DWORD everyPrinterChange = 0x7777FFFF; // PRINTER_CHANGE_ALL: every kind of change
 
-/// The printer and its change notification while the loop runs.
-struct WatchedHandles
+/// Whether a variable holds a change notification. The printer is open for watching when it does,
+/// and only then: a printer whose notification failed is closed at once.
+bool isWatching(HANDLE change)
 {
-    HANDLE printer = INVALID_HANDLE_VALUE;
-    HANDLE change = INVALID_HANDLE_VALUE;
+    return change != ChangeNotificationHandleTraits::invalid();
+}
 
-    WatchedHandles() = default;
-    ~WatchedHandles()
+/// Closes the change notification, then the printer. Both calls are made whatever the variables
+/// hold, even where nothing is open.
+void closeWatch(void** printer, void** change)
+{
+    FindClosePrinterChangeNotification(*change);
+    *change = ChangeNotificationHandleTraits::invalid();
+    ClosePrinter(*printer);
+    *printer = WatchedPrinterHandleTraits::invalid();
+}
+
+/// Everything that the loop opens for as long as it runs.
+struct LoopHandles
+{
+    WatchedPrinterHandle printer;
+    ChangeNotificationHandle change;
+    EventHandle stopEvent;
+    ServiceHandle manager;
+    ServiceHandle spooler;
+
+    LoopHandles() = default;
+    ~LoopHandles()
     {
-        if (isWatching(change))
-            close(&printer, &change);
+        // Without a notification the printer is closed already; the variable only keeps its value.
+        if (!change.isValid())
+            printer.release();
     }
-    Q_DISABLE_COPY_MOVE(WatchedHandles)
+    Q_DISABLE_COPY_MOVE(LoopHandles)
 
-    /// The two are open together or not at all: a printer whose notification failed is closed.
-    static bool isWatching(HANDLE change) { return change != INVALID_HANDLE_VALUE; }
-
-    static void close(void** printer, void** change)
+    /// Closes everything, in the order in which a stopped loop has to.
+    void close()
     {
-        FindClosePrinterChangeNotification(*change);
-        *change = INVALID_HANDLE_VALUE;
-        ClosePrinter(*printer);
-        *printer = INVALID_HANDLE_VALUE;
+        stopEvent.close();
+        closeWatch(printer.address(), change.address());
+        spooler.close();
+        manager.close();
     }
 };
 
@@ -84,8 +100,9 @@ void PrinterStatusThread::setMonitoredPrinterName(const QString& name)
 
 void PrinterStatusThread::stop()
 {
-    // Whoever takes the event out of the member is the one to signal it. The loop ends, and closes
-    // the event, only after that, so a second call finds nothing and never meets a closed handle.
+    // Only the call that takes the event out of the member signals it. The loop closes the event
+    // only after it was signalled, so a second call finds no event and never signals a closed
+    // handle.
     const HANDLE event = m_stopEvent.exchange(nullptr);
     if (event && !SetEvent(event))
         m_stopEvent.store(event);
@@ -148,18 +165,9 @@ QString PrinterStatusThread::getEthernetConfig(void* printerHandle)
 
 QString PrinterStatusThread::getPrinterNameFromHandle(void* printerHandle)
 {
-    DWORD needed = 0;
-    if (!GetPrinterW(printerHandle, 1, nullptr, 0, &needed) &&
-        GetLastError() != ERROR_INSUFFICIENT_BUFFER)
-        return {};
-
-    const SpoolerBlock block(std::max<DWORD>(needed, sizeof(PRINTER_INFO_1W)));
-    if (block.isNull())
-        return {};
-
-    // Not asked whether it worked: the block was zeroed, and a name is there or not.
-    GetPrinterW(printerHandle, 1, block.bytes(), block.size(), &needed);
-    return fromWide(block.as<PRINTER_INFO_1W>()->pName);
+    // Whether the filling failed is not asked: the name is then null and the text empty.
+    const auto record = SpoolerRecord<PRINTER_INFO_1W, 1>::ofPrinter(printerHandle);
+    return record.get() ? fromWide(record.get()->pName) : QString();
 }
 
 bool PrinterStatusThread::initPrinterHandles(void** printerHandle, void** changeHandle)
@@ -176,7 +184,7 @@ bool PrinterStatusThread::initPrinterHandles(void** printerHandle, void** change
     *printerHandle = printer.get();
     *changeHandle =
         FindFirstPrinterChangeNotification(*printerHandle, everyPrinterChange, 0, nullptr);
-    if (*changeHandle == INVALID_HANDLE_VALUE) {
+    if (!isWatching(*changeHandle)) {
         log(log_lines::notificationFailed);
         return false;
     }
@@ -191,11 +199,11 @@ bool PrinterStatusThread::printSpoolerStatusChanged(SC_HANDLE service, unsigned 
     if (state == lastState)
         return false;
 
-    // Closed even where nothing is open, when the service goes from one stopped state to another.
-    // It can also come to be running with the handles still live, when an earlier query failed:
-    // opening the printer afresh would leak them.
-    if (state != SERVICE_RUNNING || WatchedHandles::isWatching(*changeHandle))
-        WatchedHandles::close(printerHandle, changeHandle);
+    // The handles are closed even when nothing is open, which is so when the service changes from
+    // one state that is not running to another. When an earlier query failed, the service can also
+    // change to running while the handles are open: opening the printer again would leak them.
+    if (state != SERVICE_RUNNING || isWatching(*changeHandle))
+        closeWatch(printerHandle, changeHandle);
     if (state == SERVICE_RUNNING)
         initPrinterHandles(printerHandle, changeHandle);
 
@@ -221,7 +229,7 @@ void PrinterStatusThread::getLatestPrinterData(bool useGivenHandle, void* printe
                              m_monitoredPrinterName.toLocal8Bit().constData());
     }
 
-    // The order of reading and the order of reporting below differ, and hosts rely on the second.
+    // Hosts rely on the order of the reports below, which differs from the order of reading.
     const QString newSupplyId = getSupplyId(printerHandle);
     const QString newRibbon1Id = getRibbon1Id(printerHandle);
     const QString newRibbon2Id = getRibbon2Id(printerHandle);
@@ -262,56 +270,60 @@ void PrinterStatusThread::getLatestPrinterData(bool useGivenHandle, void* printe
 
 void PrinterStatusThread::run()
 {
-    WatchedHandles handles;
+    // Texts, because the driver publishes the status as a text, and the signal carries it.
+    const QString spoolerDownStatus = QString::number(VXPrinting::StatusCodes::spoolerDown);
+    const QString unknownStatus = QString::number(VXPrinting::StatusCodes::unknown);
+
+    LoopHandles handles;
     LastSeen seen;
     const auto readValues = [&](bool useGivenHandle) {
-        getLatestPrinterData(useGivenHandle, handles.printer, seen.supplyId, seen.ribbon1Id,
+        getLatestPrinterData(useGivenHandle, handles.printer.get(), seen.supplyId, seen.ribbon1Id,
                              seen.ribbon2Id, seen.supplyMileage, seen.ribbon1Mileage,
                              seen.ribbon2Mileage, seen.status, seen.printerName,
                              seen.softwareVersion, seen.updateProgress, seen.updateError,
                              seen.ethernetConfig);
     };
 
-    if (initPrinterHandles(&handles.printer, &handles.change))
+    if (initPrinterHandles(handles.printer.address(), handles.change.address()))
         readValues(false);
 
-    const HANDLE stopEvent = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-    if (!stopEvent)
+    handles.stopEvent = EventHandle(CreateEventW(nullptr, TRUE, FALSE, nullptr));
+    if (!handles.stopEvent.isValid())
         return;
-    m_stopEvent.store(stopEvent);
+    m_stopEvent.store(handles.stopEvent.get());
 
-    const ServiceHandle manager(OpenSCManagerW(nullptr, nullptr, 0));
-    // Neither handle is looked at: a manager or a service that could not be opened answers every
-    // question with a failure, which is a state of its own.
-    const ServiceHandle spooler(
-        OpenServiceW(manager.get(), wide(u"Spooler"), SERVICE_QUERY_STATUS));
-    unsigned long spoolerState = serviceState(spooler.get());
+    // Neither handle is checked: every query of a manager or service that could not be opened
+    // fails, which is a state of its own.
+    handles.manager = ServiceHandle(OpenSCManagerW(nullptr, nullptr, 0));
+    handles.spooler =
+        ServiceHandle(OpenServiceW(handles.manager.get(), wide(u"Spooler"), SERVICE_QUERY_STATUS));
+    unsigned long spoolerState = serviceState(handles.spooler.get());
 
     for (;;) {
-        // Without a notification there is the stop event alone to wait for. INVALID_HANDLE_VALUE
-        // must not stand in for one: it is the pseudo handle of the process, and a wait for several
-        // objects fails at once when one of them is a pseudo handle.
-        const std::array<HANDLE, 2> objects{stopEvent, handles.change};
-        const DWORD count = WatchedHandles::isWatching(handles.change) ? 2 : 1;
+        // Without a notification the loop waits for the stop event alone. INVALID_HANDLE_VALUE must
+        // not take the notification's place: it is the pseudo handle of the process, and a wait for
+        // several objects fails at once when one of them is a pseudo handle.
+        const std::array<HANDLE, 2> objects{handles.stopEvent.get(), handles.change.get()};
+        const DWORD count = handles.change.isValid() ? 2 : 1;
         switch (WaitForMultipleObjects(count, objects.data(), FALSE, spoolerPollInterval)) {
         case WAIT_OBJECT_0:
             m_stopEvent.store(nullptr);
-            CloseHandle(stopEvent);
-            WatchedHandles::close(&handles.printer, &handles.change);
+            handles.close();
             return;
 
         case WAIT_OBJECT_0 + 1: {
             DWORD changes = 0;
-            FindNextPrinterChangeNotification(handles.change, &changes, nullptr, nullptr);
-            readValues(seen.status != unreadableStatus);
+            FindNextPrinterChangeNotification(handles.change.get(), &changes, nullptr, nullptr);
+            // A printer whose status is not known is read through a new handle with full access.
+            readValues(seen.status != unknownStatus);
             break;
         }
 
         case WAIT_TIMEOUT:
-            if (!printSpoolerStatusChanged(spooler.get(), spoolerState, &handles.printer,
-                                           &handles.change))
+            if (!printSpoolerStatusChanged(handles.spooler.get(), spoolerState,
+                                           handles.printer.address(), handles.change.address()))
                 break;
-            if (!WatchedHandles::isWatching(handles.change)) {
+            if (!handles.change.isValid()) {
                 seen.status = spoolerDownStatus;
                 Q_EMIT printerStatusChanged(m_monitoredPrinterName, spoolerDownStatus);
                 break;

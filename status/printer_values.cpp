@@ -12,7 +12,7 @@ namespace printer_values {
 
 namespace {
 
-/// REG_SZ, or REG_BINARY: drivers publish texts as plain bytes too.
+/// REG_SZ or REG_BINARY, because drivers may publish a text as plain bytes.
 bool isText(DWORD type)
 {
     constexpr DWORD binaryBit = 2;
@@ -31,12 +31,13 @@ struct Answer
     DWORD needed = 0;
 };
 
-/// Asks for a value. A failed call is told by what it left: type and buffer are as they were.
+/// Queries a value. When the call fails, type and buffer are unchanged: that is how the callers
+/// recognise it.
 Answer ask(HANDLE printer, const char* name, BYTE* buffer, DWORD capacity)
 {
     Answer answer;
-    // The name is not written to, though its type would allow it; a copy of it would be one for
-    // each value of each notification.
+    // GetPrinterDataA does not write to the name, though the parameter's type allows it. A copy
+    // would be needed for every value at every notification.
     GetPrinterDataA(printer, const_cast<char*>(name), &answer.type, buffer, capacity,
                     &answer.needed);
     return answer;
@@ -49,7 +50,7 @@ QString read(HANDLE printer, const TextValue& value)
     std::array<char, largestCapacity> buffer{};
     const Answer answer =
         ask(printer, value.name, reinterpret_cast<BYTE*>(buffer.data()), value.capacity);
-    // A text that is longer than the buffer is not one, whatever of it the buffer holds.
+    // A text that is longer than the buffer is invalid, whatever the buffer contains.
     if (!isText(answer.type) || answer.needed < value.leastBytes || answer.needed > value.capacity)
         return {};
     return QString::fromUtf8(buffer.data(),
@@ -60,12 +61,12 @@ QString read(HANDLE printer, const NumberValue& value)
 {
     std::array<BYTE, sizeof(quint32)> buffer{};
     const Answer answer = ask(printer, value.name, buffer.data(), sizeof(quint32));
-    // More bytes than a word are not a number: the word would be what the buffer held before.
+    // A value of more bytes than a word does not fit, and the buffer would still contain zeros.
     if (!isNumber(answer.type) || answer.needed > sizeof(quint32))
         return {};
     const auto word = qFromLittleEndian<quint32>(buffer.data());
-    // Signed here and unsigned below, both on purpose: a word with the top bit set is plausible to
-    // the driver's makers and is reported whole.
+    // Deliberately signed here and unsigned below: a word with the top bit set passes for plausible
+    // and is reported as it is.
     if (static_cast<qint32>(word) > value.ceiling)
         return {};
     return QString::number(word);

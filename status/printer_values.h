@@ -8,22 +8,21 @@
 
 #include <windows.h>
 
-/// The values that the maker's driver publishes for each printer, and how each is read. What is
-/// written here is the driver's side of the bargain: names, sizes and limits are not ours to even
-/// out.
+/// The values that the maker's driver publishes for each printer, and how each is read. The driver
+/// defines the names, sizes and limits, also where they are not consistent.
 namespace printer_values {
 
 struct TextValue
 {
     const char* name;
-    DWORD capacity;   ///< bytes offered, and the most that the value may take
-    DWORD leastBytes; ///< the least that the value may take
+    DWORD capacity;   ///< size of the buffer, and the largest size of a valid value, in bytes
+    DWORD leastBytes; ///< the smallest size of a valid value, in bytes
 };
 
 struct NumberValue
 {
     const char* name;
-    LONG ceiling; ///< a larger number, read as signed, is not plausible
+    LONG ceiling; ///< the largest plausible number, compared as signed
 };
 
 inline constexpr LONG noCeiling = std::numeric_limits<LONG>::max();
@@ -36,16 +35,16 @@ inline constexpr DWORD largestCapacity = statusCode.capacity;
 
 inline constexpr NumberValue ribbon1Id{"Ribbon1Identifier", 100000};
 inline constexpr NumberValue ribbon2Id{"Ribbon2Identifier", 100000};
-// The supply's mileage has no prefix while the ribbons' have, and the three ceilings differ: rolls
-// and ribbons are of different lengths.
+// The name of the supply's mileage has no prefix, unlike the ribbons'. The three ceilings differ
+// because rolls and ribbons have different lengths.
 inline constexpr NumberValue supplyMileage{"Mileage", 152400};
 inline constexpr NumberValue ribbon1Mileage{"Ribbon1Mileage", 130000};
 inline constexpr NumberValue ribbon2Mileage{"Ribbon2Mileage", 120700};
 inline constexpr NumberValue updateProgress{"UpdateProgress", noCeiling};
 inline constexpr NumberValue updateError{"UpdateError", noCeiling};
 
-/// The value's text up to its first zero; empty when it is absent, of another type or out of
-/// bounds.
+/// The value's text up to its first zero byte; empty when it is absent, of another type or of an
+/// invalid size.
 QString read(HANDLE printer, const TextValue& value);
 
 /// The value as unsigned decimal text; empty when it is absent, of another type or not plausible.

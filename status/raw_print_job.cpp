@@ -7,20 +7,22 @@
 
 namespace {
 
-/// The command's bytes. Cut at a zero byte: printers take their commands as zero-terminated text.
+/// The command as bytes, up to its first zero byte: printers read commands as zero-terminated text.
 QByteArray payloadOf(const QString& command)
 {
     const QByteArray text = (command + QLatin1String("\r\n")).toLocal8Bit();
     return text.constData();
 }
 
-/// The spooler's records take texts that it does not write to as pointers to writable ones.
+/// The spooler's records declare their texts as writable, though the spooler does not write to
+/// them.
 WCHAR* writable(const WCHAR* text)
 {
     return const_cast<WCHAR*>(text);
 }
 
-/// A document that was started is ended when this goes; a page likewise, below.
+/// Starts a document, and ends it on destruction if it could be started. Page does the same for a
+/// page.
 class Document
 {
 public:
@@ -83,7 +85,7 @@ RawPrintJobResult sendRawPrintJob(const QString& command, const QString& printer
     if (!page.isStarted())
         return RawPrintJobResult::PageNotStarted;
 
-    // How much was written is not compared: a spooler that takes a part says so by failing.
+    // The number of bytes written is not checked: a spooler that accepts only a part fails.
     DWORD written = 0;
     if (!WritePrinter(printer.get(), payload.data(), static_cast<DWORD>(payload.size()), &written))
         return RawPrintJobResult::DataNotAccepted;

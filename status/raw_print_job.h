@@ -4,7 +4,7 @@
 
 #include <QtCore/QString>
 
-/// What became of a raw print job.
+/// The result of a raw print job: sent, or the step that failed.
 enum class RawPrintJobResult
 {
     Sent,
@@ -14,6 +14,7 @@ enum class RawPrintJobResult
     DataNotAccepted,
 };
 
-/// Sends a command text with a line end as a raw print job of one page, which is named after the
-/// command. Whatever the outcome, everything that was opened or started has been ended on return.
+/// Sends a command text, with a line end added, as a raw print job of one page. The job has the
+/// command as its name. On return everything that was opened or started has been ended, also when a
+/// step failed.
 RawPrintJobResult sendRawPrintJob(const QString& command, const QString& printerName);

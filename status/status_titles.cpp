@@ -15,7 +15,7 @@ namespace {
 
 namespace StatusCodes = VXPrinting::StatusCodes;
 
-/// Translators find a text by its context and by the remark that goes with it.
+/// A text is looked up in the translations by its context and this remark.
 struct Text
 {
     const char* source;

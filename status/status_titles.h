@@ -4,6 +4,6 @@
 
 #include <QtCore/QString>
 
-/// The title of a status code in the application's language: a text of our own for the codes that
-/// hosts show most, and the status-messages library's for every other one. Never empty.
+/// The title of a status code in the application's language. The codes that hosts show most have
+/// titles here; all others have those of the status-messages library. Never empty.
 QString statusTitle(int statusCode);

@@ -9,77 +9,52 @@
 
 namespace virtualwindows {
 
-const char* functionName(Function function)
-{
-    static constexpr std::array<const char*, functionCount> names{
-        "ClosePrinter",
-        "CloseHandle",
-        "CloseServiceHandle",
-        "CreateEventW",
-        "DeletePrinter",
-        "AddPrinterW",
-        "EndDocPrinter",
-        "EndPagePrinter",
-        "EnumPrintersW",
-        "FindClosePrinterChangeNotification",
-        "FindFirstPrinterChangeNotification",
-        "FindNextPrinterChangeNotification",
-        "GetDefaultPrinterW",
-        "GetPrinterDataA",
-        "GetPrinterDataW",
-        "GetPrinterW",
-        "OpenPrinterA",
-        "OpenPrinterW",
-        "OpenSCManagerW",
-        "OpenServiceW",
-        "QueryServiceStatus",
-        "RegistryKey",
-        "ResetEvent",
-        "SetDefaultPrinterW",
-        "SetEvent",
-        "SetPrinterDataA",
-        "SetPrinterDataW",
-        "SetPrinterW",
-        "StartDocPrinterW",
-        "StartPagePrinter",
-        "WaitForMultipleObjects",
-        "WaitForSingleObject",
-        "WritePrinter",
-    };
-    return names[static_cast<std::size_t>(function)];
-}
-
-QString text(HANDLE handle)
+QString textOf(HANDLE handle)
 {
     return QStringLiteral("0x") + QString::number(reinterpret_cast<quintptr>(handle), 16);
 }
 
-QString text(LPCWSTR wideText)
+void ArgumentTexts::add(LPCWSTR wideText)
 {
-    return wideText ? QString::fromUtf16(wideText) : QStringLiteral("null");
+    m_texts.append(wideText ? QString::fromUtf16(wideText) : QStringLiteral("null"));
+}
+
+void ArgumentTexts::add(LPCSTR narrowText)
+{
+    m_texts.append(narrowText ? QString::fromLocal8Bit(narrowText) : QStringLiteral("null"));
+}
+
+void ArgumentTexts::add(const DWORD* number)
+{
+    m_texts.append(number ? QString::number(*number) : QStringLiteral("null"));
+}
+
+void ArgumentTexts::add(std::span<const HANDLE> handles)
+{
+    for (const HANDLE handle : handles)
+        add(handle);
 }
 
 namespace {
 
-/// A name that no function has is a mistake in the test, which must not pass for it.
-std::size_t indexOf(const QString& function)
+/// A name that is not in the table is a mistake in the test, which must not go unnoticed.
+std::size_t indexOfName(const QString& function)
 {
-    for (std::size_t index = 0; index < functionCount; ++index) {
-        if (function == QLatin1String(functionName(static_cast<Function>(index))))
-            return index;
-    }
-    qFatal("virtualwindows: there is no function %s", qPrintable(function));
+    const auto* const found = std::find(functionNames.begin(), functionNames.end(), function);
+    if (found == functionNames.end())
+        qFatal("virtualwindows: there is no function %s", qPrintable(function));
+    return static_cast<std::size_t>(found - functionNames.begin());
 }
 
 } // namespace
 
 DWORD Machine::Private::beginWatched(Function function, int number, const QStringList& arguments)
 {
-    Call call{QString::fromLatin1(functionName(function)), arguments, QThread::currentThreadId()};
+    Call call{nameOf(function), arguments, QThread::currentThreadId()};
     std::function<void(const Call&)> calledHook;
     {
         const std::lock_guard guard(lock);
-        for (const FailurePlan& plan : failures[static_cast<std::size_t>(function)]) {
+        for (const FailurePlan& plan : failures[indexOf(function)]) {
             if (number == plan.from || (plan.onwards && number > plan.from))
                 call.plannedError = plan.error;
         }
@@ -109,13 +84,13 @@ void Machine::recordCalls(bool record)
 QList<Call> Machine::calls() const
 {
     const std::lock_guard guard(d->lock);
-    // A list of its own: sharing one with threads that go on appending to it is a data race.
+    // A deep copy: sharing the list with threads that append to it would be a data race.
     return {d->calls.cbegin(), d->calls.cend()};
 }
 
 QList<Call> Machine::calls(const QString& function) const
 {
-    indexOf(function);
+    indexOfName(function);
     const std::lock_guard guard(d->lock);
     QList<Call> found;
     std::copy_if(d->calls.cbegin(), d->calls.cend(), std::back_inserter(found),
@@ -138,7 +113,7 @@ void Machine::setCallHook(std::function<void(const Call&)> hook)
 
 void Machine::failCall(const QString& function, int nth, quint32 error)
 {
-    const std::size_t index = indexOf(function);
+    const std::size_t index = indexOfName(function);
     const std::lock_guard guard(d->lock);
     d->failures[index].append({d->counts[index] + nth, false, error});
     d->updateAttention();
@@ -146,7 +121,7 @@ void Machine::failCall(const QString& function, int nth, quint32 error)
 
 void Machine::failCallsFrom(const QString& function, int nth, quint32 error)
 {
-    const std::size_t index = indexOf(function);
+    const std::size_t index = indexOfName(function);
     const std::lock_guard guard(d->lock);
     d->failures[index].append({d->counts[index] + nth, true, error});
     d->updateAttention();
@@ -161,17 +136,16 @@ void Machine::clearFailures()
 
 int Machine::callCount(const QString& function) const
 {
-    return d->counts[indexOf(function)];
+    return d->counts[indexOfName(function)];
 }
 
 QList<QPair<QString, int>> Machine::callCounts() const
 {
     QList<QPair<QString, int>> found;
-    for (std::size_t index = 0; index < functionCount; ++index) {
+    for (std::size_t index = 0; index < functionNames.size(); ++index) {
         if (const int count = d->counts[index])
-            found.append({QString::fromLatin1(functionName(static_cast<Function>(index))), count});
+            found.append({functionNames[index], count});
     }
-    std::sort(found.begin(), found.end());
     return found;
 }
 

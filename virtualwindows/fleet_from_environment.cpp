@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// Printers for programs that know nothing of virtual ones, which every host is: when a program
-// starts and VX_VIRTUAL_FLEET is set, the machine is filled before the program can look at it.
+// Virtual printers for programs without any code for them, such as hosts: if VX_VIRTUAL_FLEET is
+// set when a program starts, the machine is filled before the program can use it.
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -22,14 +22,14 @@ QString folderOfThisLibrary()
     return QFileInfo(QFile::decodeName(info.dli_fname)).absolutePath();
 }
 
-void takeFleetFromEnvironment()
+void loadFleetFromEnvironment()
 {
     if (qEnvironmentVariableIsEmpty("VX_VIRTUAL_FLEET"))
         return;
-    // A library of its own, which programs without a fleet do without, and without its JSON reader.
+    // A separate library, so that programs without a fleet load neither it nor its JSON parser.
     QLibrary library(folderOfThisLibrary() + QStringLiteral("/libvirtualwindows_fleet"));
-    if (const QFunctionPointer take = library.resolve("virtualwindowsTakeFleetFromEnvironment")) {
-        take();
+    if (const QFunctionPointer load = library.resolve("virtualwindowsLoadFleetFromEnvironment")) {
+        load();
         return;
     }
     std::fprintf(stderr, "virtualwindows: VX_VIRTUAL_FLEET: %s\n",
@@ -39,4 +39,4 @@ void takeFleetFromEnvironment()
 
 } // namespace
 
-Q_COREAPP_STARTUP_FUNCTION(takeFleetFromEnvironment)
+Q_COREAPP_STARTUP_FUNCTION(loadFleetFromEnvironment)

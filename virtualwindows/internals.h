@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "functions.h"
 #include "virtualwindows/machine.h"
 
 #include <QtCore/QHash>
@@ -12,6 +13,7 @@
 #include <condition_variable>
 #include <memory>
 #include <mutex>
+#include <span>
 #include <unordered_map>
 #include <vector>
 
@@ -21,50 +23,10 @@
 
 namespace virtualwindows {
 
-/// Every function that can be recorded, counted and made to fail.
-enum class Function
-{
-    ClosePrinter,
-    CloseHandle,
-    CloseServiceHandle,
-    CreateEventW,
-    DeletePrinter,
-    AddPrinterW,
-    EndDocPrinter,
-    EndPagePrinter,
-    EnumPrintersW,
-    FindClosePrinterChangeNotification,
-    FindFirstPrinterChangeNotification,
-    FindNextPrinterChangeNotification,
-    GetDefaultPrinterW,
-    GetPrinterDataA,
-    GetPrinterDataW,
-    GetPrinterW,
-    OpenPrinterA,
-    OpenPrinterW,
-    OpenSCManagerW,
-    OpenServiceW,
-    QueryServiceStatus,
-    RegistryKey,
-    ResetEvent,
-    SetDefaultPrinterW,
-    SetEvent,
-    SetPrinterDataA,
-    SetPrinterDataW,
-    SetPrinterW,
-    StartDocPrinterW,
-    StartPagePrinter,
-    WaitForMultipleObjects,
-    WaitForSingleObject,
-    WritePrinter,
-    Count
-};
-inline constexpr std::size_t functionCount = static_cast<std::size_t>(Function::Count);
-const char* functionName(Function function);
-
+class ApiCall;
 struct Printer;
 
-/// What a handle stands for.
+/// The object behind a handle.
 struct Object
 {
     enum class Kind
@@ -106,7 +68,7 @@ struct Event final : Waitable
     {}
 };
 
-/// A change notification: signalled from the first change that it is asked to tell until it is
+/// A change notification. It is signalled from the first change that matches its filter until it is
 /// re-armed. Changes in between are collected, so none is lost between the wake-up and the
 /// re-arming.
 struct ChangeNotification final : Waitable
@@ -115,23 +77,23 @@ struct ChangeNotification final : Waitable
         : Waitable(Kind::ChangeNotification, Function::FindFirstPrinterChangeNotification)
     {}
 
-    std::shared_ptr<Printer> printer; ///< null: of the whole spooler
+    std::shared_ptr<Printer> printer; ///< null: all printers of the spooler
     DWORD filter = 0;
     DWORD changes = 0;
-    bool dead = false; ///< the printer handle or the spooler it was registered with is gone
+    bool dead = false; ///< its printer handle was closed, or the spooler was stopped
 };
 
 struct Value
 {
     DWORD type = REG_NONE;
-    QByteArray narrow; ///< as the 8-bit calls see it
-    QByteArray wide;   ///< as the wide calls see it
+    QByteArray narrow; ///< as the 8-bit functions return it
+    QByteArray wide;   ///< as the wide functions return it
 
     static Value fromNarrow(DWORD type, const QByteArray& data);
     static Value fromWide(DWORD type, const QByteArray& data);
 };
 
-/// A printer of the spooler; lives on while handles to it are open.
+/// A printer of the spooler. It exists as long as it is listed or handles to it are open.
 struct Printer
 {
     PrinterSetup setup;
@@ -139,7 +101,7 @@ struct Printer
     QString location;
     QString shareName;
     bool deleted = false;
-    QMap<QByteArray, Value> values; ///< by lower-case name: registry names have no letter case
+    QMap<QByteArray, Value> values; ///< by lower-case name, because registry names ignore case
     QList<PrintJob> jobs;
 };
 
@@ -163,8 +125,8 @@ struct ServiceObject final : Object
     DWORD access = 0;
 };
 
-/// A thread that waits. Whoever satisfies it does the whole of its wait, under the lock, and wakes
-/// it: so a thread that has been woken is waiting no more, whether it has run yet or not.
+/// A waiting thread. The thread that satisfies its wait completes the wait under the lock and wakes
+/// it. So a woken thread is no longer waiting, whether it has run yet or not.
 struct Waiter
 {
     std::vector<std::shared_ptr<Waitable>> objects; ///< null for an object that is never signalled
@@ -179,7 +141,7 @@ struct Waiter
 
 struct FailurePlan
 {
-    int from = 0; ///< the call with this number, counted since the last reset
+    int from = 0; ///< the number of the call since the last reset
     bool onwards = false;
     DWORD error = 0;
 };
@@ -188,7 +150,7 @@ struct DeviceClass
 {
     QString guid;
     QList<DeviceSetup> devices;
-    /// Places in the list by case-folded key name.
+    /// Indices in the list by case-folded key name.
     QHash<QString, qsizetype> places;
 };
 
@@ -211,12 +173,13 @@ struct Machine::Private
     QList<DeviceClass> deviceClasses;
 
     // Calls.
-    std::array<std::atomic<int>, functionCount> counts{};
-    std::atomic<bool> attention = false; ///< recording, a hook or a planned failure
+    std::array<std::atomic<int>, functionNames.size()> counts{};
+    /// Calls are recorded, a hook is set or a failure is planned.
+    std::atomic<bool> attention = false;
     bool recording = false;
     QList<Call> calls;
     std::function<void(const Call&)> hook;
-    std::array<QList<FailurePlan>, functionCount> failures;
+    std::array<QList<FailurePlan>, functionNames.size()> failures;
 
     // Time and waits.
     bool driven = false;
@@ -225,62 +188,59 @@ struct Machine::Private
     std::condition_variable waitingChanged;
     int watchers = 0; ///< threads in waitForWaitingThreads()
 
-    /// Counts and records a call that begins. Not zero: the call is planned to fail with this
-    /// error.
-    template <typename Arguments>
-    DWORD begin(Function function, Arguments&& arguments)
-    {
-        const int number = ++counts[static_cast<std::size_t>(function)];
-        if (!attention.load(std::memory_order_acquire))
-            return 0;
-        return beginWatched(function, number, arguments());
-    }
+    /// Records a counted call and runs the hook. Returns the error that the call is planned to fail
+    /// with, or 0.
     DWORD beginWatched(Function function, int number, const QStringList& arguments);
     void updateAttention();
 
     // With the lock held, all of them.
     HANDLE open(const std::shared_ptr<Object>& object);
-    /// The object of a handle, or null: the last error is then set, and it is entered as a misuse
-    /// unless the handle is INVALID_HANDLE_VALUE, which programs use for having none.
+    /// The object of a handle. Null: the last error is set, and a misuse is recorded unless the
+    /// handle is INVALID_HANDLE_VALUE, which programs use for "no handle".
     template <typename Wanted>
-    std::shared_ptr<Wanted> find(HANDLE handle, Object::Kind kind, Function function)
+    std::shared_ptr<Wanted> find(HANDLE handle, Object::Kind kind, const ApiCall& call)
     {
-        return std::static_pointer_cast<Wanted>(findObject(handle, kind, function));
+        return std::static_pointer_cast<Wanted>(findObject(handle, kind, call));
     }
-    std::shared_ptr<Object> findObject(HANDLE handle, Object::Kind kind, Function function);
-    /// Takes a handle out of the table; null as above.
-    std::shared_ptr<Object> close(HANDLE handle, Object::Kind kind, Function function);
-    void enterMisuse(HandleMisuse::Kind kind, HANDLE handle, Function function, const char* what);
+    std::shared_ptr<Object> findObject(HANDLE handle, Object::Kind kind, const ApiCall& call);
+    /// Removes a handle from the table. Null as above.
+    template <typename Wanted = Object>
+    std::shared_ptr<Wanted> close(HANDLE handle, Object::Kind kind, const ApiCall& call)
+    {
+        return std::static_pointer_cast<Wanted>(closeObject(handle, kind, call));
+    }
+    std::shared_ptr<Object> closeObject(HANDLE handle, Object::Kind kind, const ApiCall& call);
+    void recordMisuse(HandleMisuse::Kind kind, HANDLE handle, const ApiCall& call,
+                      const char* what);
 
     void signal(Waitable& object);
     bool trySatisfy(Waiter& waiter);
     void finish(Waiter& waiter, DWORD result);
-    DWORD wait(const HANDLE* handles, DWORD count, bool all, DWORD milliseconds, Function function);
+    DWORD wait(std::span<const HANDLE> handles, bool all, DWORD milliseconds, const ApiCall& call);
 
     std::shared_ptr<Printer> printerNamed(const QString& name) const;
     void add(const std::shared_ptr<Printer>& printer);
-    void enterName(const std::shared_ptr<Printer>& printer);
-    /// After a printer was renamed or removed.
-    void enterNames();
+    void addName(const std::shared_ptr<Printer>& printer);
+    /// To be called after a printer was renamed or removed.
+    void rebuildNames();
     void notify(const Printer* printer, DWORD change);
     void removePrinter(Printer& printer);
     void setSpoolerState(DWORD state);
     bool isSpoolerRunning() const { return spoolerState == SERVICE_RUNNING; }
-    /// What a handle of a spooler that is gone is answered, while it is gone and afterwards.
+    /// The error for handles from before the spooler was stopped, which changes when it runs again.
     DWORD errorOfDeadHandles() const
     {
         return isSpoolerRunning() ? ERROR_INVALID_HANDLE : RPC_S_SERVER_UNAVAILABLE;
     }
 };
 
-/// What the implementation of a call begins with.
 inline Machine::Private& machine()
 {
     return Machine::instance().internals();
 }
 
-/// A failing call's last error and return value in one expression. Calls that succeed leave the
-/// last error alone: nothing here sets it but on the way to a failure.
+/// Sets the last error and returns the result of a failing call. Calls that succeed leave the last
+/// error alone, so it is set only where a call fails.
 template <typename Result>
 Result failWith(DWORD error, Result result)
 {
@@ -294,16 +254,60 @@ inline QString fromWide(LPCWSTR wideText)
     return wideText ? QString::fromUtf16(wideText) : QString();
 }
 
-// Arguments as the log of calls has them.
-QString text(HANDLE handle);
-QString text(LPCWSTR wideText);
-inline QString text(LPCSTR narrowText)
+QString textOf(HANDLE handle);
+
+/// The arguments of a call as the log shows them.
+class ArgumentTexts
 {
-    return narrowText ? QString::fromLocal8Bit(narrowText) : QStringLiteral("null");
-}
-inline QString text(DWORD number)
+public:
+    void add(HANDLE handle) { m_texts.append(textOf(handle)); }
+    void add(LPCWSTR wideText);
+    void add(LPCSTR narrowText);
+    void add(DWORD number) { m_texts.append(QString::number(number)); }
+    void add(const DWORD* number); ///< the number that is pointed to
+    void add(const QString& text) { m_texts.append(text); }
+    void add(std::span<const HANDLE> handles); ///< an argument each
+
+    const QStringList& texts() const { return m_texts; }
+
+private:
+    QStringList m_texts;
+};
+
+/// One call of a stand-in function. Constructed as the first thing in the function, it counts the
+/// call, records it, runs the hook (which may hold the calling thread) and looks up whether the
+/// call is planned to fail. Without recording, a hook or planned failures, it only counts.
+class ApiCall
 {
-    return QString::number(number);
-}
+public:
+    template <typename... Arguments>
+    explicit ApiCall(Function function, const Arguments&... arguments)
+        : m_function(function)
+    {
+        Machine::Private& windows = machine();
+        const int number = ++windows.counts[indexOf(function)];
+        if (!windows.attention.load(std::memory_order_acquire))
+            return;
+        ArgumentTexts texts;
+        (texts.add(arguments), ...);
+        m_plannedError = windows.beginWatched(function, number, texts.texts());
+    }
+    Q_DISABLE_COPY_MOVE(ApiCall)
+    ~ApiCall() = default;
+
+    Function function() const { return m_function; }
+    bool isPlannedToFail() const { return m_plannedError != ERROR_SUCCESS; }
+    /// True: the call is planned to fail, and its error is now the last error.
+    bool failsAsPlanned() const
+    {
+        if (isPlannedToFail())
+            SetLastError(m_plannedError);
+        return isPlannedToFail();
+    }
+
+private:
+    Function m_function;
+    DWORD m_plannedError = ERROR_SUCCESS;
+};
 
 } // namespace virtualwindows

@@ -11,7 +11,7 @@ namespace {
 thread_local DWORD lastError = 0;
 std::atomic<DWORD> nextThreadId = 4;
 
-/// The calling process and the calling thread, neither of which ends during its own wait.
+/// The calling process or the calling thread, neither of which can end during its own wait.
 bool isPseudoHandle(HANDLE handle)
 {
     const auto number = reinterpret_cast<qintptr>(handle);
@@ -26,7 +26,7 @@ bool hasDuplicates(std::vector<std::shared_ptr<Waitable>> objects)
 
 } // namespace
 
-// What waits and who wakes them.
+// Waits, and what ends them.
 namespace virtualwindows {
 
 bool Machine::Private::trySatisfy(Waiter& waiter)
@@ -40,7 +40,7 @@ bool Machine::Private::trySatisfy(Waiter& waiter)
     };
 
     if (waiter.all) {
-        // All or nothing: no object is taken before every one of them can be.
+        // No object is taken until all of them can be.
         if (!std::all_of(waiter.objects.begin(), waiter.objects.end(), isSignalled))
             return false;
         for (const auto& object : waiter.objects)
@@ -72,7 +72,7 @@ void Machine::Private::finish(Waiter& waiter, DWORD result)
 void Machine::Private::signal(Waitable& object)
 {
     object.signalled = true;
-    // First come, first served; an object that resets itself goes to one of them.
+    // In the order in which they began to wait. An auto-reset object satisfies only one of them.
     const std::vector<Waiter*> waiters = object.waiters;
     for (Waiter* waiter : waiters) {
         if (!object.signalled)
@@ -81,30 +81,29 @@ void Machine::Private::signal(Waitable& object)
     }
 }
 
-DWORD Machine::Private::wait(const HANDLE* handles, DWORD count, bool all, DWORD milliseconds,
-                             Function function)
+DWORD Machine::Private::wait(std::span<const HANDLE> handles, bool all, DWORD milliseconds,
+                             const ApiCall& call)
 {
-    // Good for a wait for one object alone.
-    if (function == Function::WaitForMultipleObjects &&
-        std::any_of(handles, handles + count, isPseudoHandle))
+    // Only a wait for a single object takes pseudo handles.
+    if (call.function() == Function::WaitForMultipleObjects &&
+        std::any_of(handles.begin(), handles.end(), isPseudoHandle))
         return failWith(ERROR_INVALID_HANDLE, WAIT_FAILED);
 
     std::unique_lock guard(lock);
 
     Waiter waiter;
     waiter.all = all;
-    waiter.objects.reserve(count);
-    for (DWORD index = 0; index < count; ++index) {
-        if (isPseudoHandle(handles[index])) {
+    waiter.objects.reserve(handles.size());
+    for (const HANDLE handle : handles) {
+        if (isPseudoHandle(handle)) {
             waiter.objects.emplace_back();
             continue;
         }
-        const auto found = objects.find(reinterpret_cast<quintptr>(handles[index]));
+        const auto found = objects.find(reinterpret_cast<quintptr>(handle));
         const bool isNotification =
             found != objects.end() && found->second->kind == Object::Kind::ChangeNotification;
         auto object = find<Waitable>(
-            handles[index], isNotification ? Object::Kind::ChangeNotification : Object::Kind::Event,
-            function);
+            handle, isNotification ? Object::Kind::ChangeNotification : Object::Kind::Event, call);
         if (!object)
             return WAIT_FAILED;
         waiter.objects.push_back(std::move(object));
@@ -145,7 +144,7 @@ void Machine::driveTime(bool driven)
     if (d->driven == driven)
         return;
     d->driven = driven;
-    // Waits that are under way keep what is left of their time.
+    // Current waits keep their remaining time.
     const auto now = std::chrono::steady_clock::now();
     for (Waiter* waiter : d->waiting) {
         if (driven)
@@ -210,12 +209,10 @@ DWORD WINAPI GetCurrentThreadId()
 HANDLE WINAPI CreateEventW(LPSECURITY_ATTRIBUTES /*lpEventAttributes*/, BOOL bManualReset,
                            BOOL bInitialState, LPCWSTR lpName)
 {
-    const DWORD planned = machine().begin(Function::CreateEventW, [&] {
-        return QStringList{text(DWORD(bManualReset)), text(DWORD(bInitialState)), text(lpName)};
-    });
-    if (planned)
-        return failWith<HANDLE>(planned, nullptr);
-    // Names are shared between processes, and this machine ends with its own.
+    const ApiCall call(Function::CreateEventW, DWORD(bManualReset), DWORD(bInitialState), lpName);
+    if (call.failsAsPlanned())
+        return nullptr;
+    // Named events are shared between processes, but this machine exists in one only.
     if (lpName)
         return failWith<HANDLE>(ERROR_INVALID_PARAMETER, nullptr);
 
@@ -231,10 +228,11 @@ namespace {
 template <typename Change>
 BOOL changeEvent(HANDLE handle, Function function, Change change)
 {
-    if (const DWORD planned = machine().begin(function, [&] { return QStringList{text(handle)}; }))
-        return failWith(planned, FALSE);
+    const ApiCall call(function, handle);
+    if (call.failsAsPlanned())
+        return FALSE;
     const std::lock_guard guard(machine().lock);
-    const auto event = machine().find<Event>(handle, Object::Kind::Event, function);
+    const auto event = machine().find<Event>(handle, Object::Kind::Event, call);
     if (!event)
         return FALSE;
     change(*event);
@@ -255,46 +253,37 @@ BOOL WINAPI ResetEvent(HANDLE hEvent)
 
 DWORD WINAPI WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds)
 {
-    const DWORD planned = machine().begin(Function::WaitForSingleObject, [&] {
-        return QStringList{text(hHandle), text(dwMilliseconds)};
-    });
-    if (planned)
-        return failWith(planned, WAIT_FAILED);
-    return machine().wait(&hHandle, 1, false, dwMilliseconds, Function::WaitForSingleObject);
+    const ApiCall call(Function::WaitForSingleObject, hHandle, dwMilliseconds);
+    if (call.failsAsPlanned())
+        return WAIT_FAILED;
+    return machine().wait({&hHandle, 1}, false, dwMilliseconds, call);
 }
 
 DWORD WINAPI WaitForMultipleObjects(DWORD nCount, const HANDLE* lpHandles, BOOL bWaitAll,
                                     DWORD dwMilliseconds)
 {
-    const DWORD planned = machine().begin(Function::WaitForMultipleObjects, [&] {
-        QStringList arguments{text(nCount)};
-        for (DWORD index = 0; lpHandles && index < nCount; ++index)
-            arguments.append(text(lpHandles[index]));
-        return arguments << text(DWORD(bWaitAll)) << text(dwMilliseconds);
-    });
-    if (planned)
-        return failWith(planned, WAIT_FAILED);
+    const std::span handles(lpHandles, lpHandles ? nCount : 0);
+    const ApiCall call(Function::WaitForMultipleObjects, nCount, handles, DWORD(bWaitAll),
+                       dwMilliseconds);
+    if (call.failsAsPlanned())
+        return WAIT_FAILED;
     if (nCount == 0 || nCount > MAXIMUM_WAIT_OBJECTS)
         return failWith(ERROR_INVALID_PARAMETER, WAIT_FAILED);
     if (!lpHandles)
         return failWith(ERROR_NOACCESS, WAIT_FAILED);
-    return machine().wait(lpHandles, nCount, bWaitAll != FALSE, dwMilliseconds,
-                          Function::WaitForMultipleObjects);
+    return machine().wait(handles, bWaitAll != FALSE, dwMilliseconds, call);
 }
 
 BOOL WINAPI CloseHandle(HANDLE hObject)
 {
-    const DWORD planned =
-        machine().begin(Function::CloseHandle, [&] { return QStringList{text(hObject)}; });
-    // The process' own pseudo handle needs no closing, and closing it does nothing.
-    if (!planned && hObject == INVALID_HANDLE_VALUE)
+    const ApiCall call(Function::CloseHandle, hObject);
+    // This is also the pseudo handle of the process, which may be closed to no effect.
+    if (hObject == INVALID_HANDLE_VALUE && !call.isPlannedToFail())
         return TRUE;
     const std::lock_guard guard(machine().lock);
-    // A closing that is planned to fail closes all the same: nobody calls it again, and what fails
-    // is the answer.
-    if (!machine().close(hObject, Object::Kind::Event, Function::CloseHandle))
+    // A call that closes a handle does so even when it is planned to fail: callers do not call it
+    // a second time, so only its result is a failure.
+    if (!machine().close(hObject, Object::Kind::Event, call) || call.failsAsPlanned())
         return FALSE;
-    if (planned)
-        return failWith(planned, FALSE);
     return TRUE;
 }

@@ -39,7 +39,7 @@ bool isClosing(Function function)
     }
 }
 
-/// The service manager and its services are closed by the same function.
+/// Handles of the service manager and of services are closed by the same function.
 bool accepts(Object::Kind wanted, Object::Kind kind, Function function)
 {
     if (wanted == kind)
@@ -52,52 +52,52 @@ bool accepts(Object::Kind wanted, Object::Kind kind, Function function)
 HANDLE Machine::Private::open(const std::shared_ptr<Object>& object)
 {
     const quintptr value = nextHandle;
-    nextHandle += handleStep; // never handed out again, so that late uses are known as such
+    nextHandle += handleStep; // never reused, so that uses after closing can be recognised
     objects.emplace(value, object);
     return reinterpret_cast<HANDLE>(value);
 }
 
-void Machine::Private::enterMisuse(HandleMisuse::Kind kind, HANDLE handle, Function function,
-                                   const char* what)
+void Machine::Private::recordMisuse(HandleMisuse::Kind kind, HANDLE handle, const ApiCall& call,
+                                    const char* what)
 {
-    const QString name = QString::fromLatin1(functionName(function));
+    const QString name = nameOf(call.function());
     misuses.append({kind, reinterpret_cast<quintptr>(handle), name,
-                    QStringLiteral("%1 was handed %2, %3")
-                        .arg(name, text(handle), QString::fromLatin1(what))});
+                    QStringLiteral("%1 was called with %2, %3")
+                        .arg(name, textOf(handle), QLatin1String(what))});
 }
 
 std::shared_ptr<Object> Machine::Private::findObject(HANDLE handle, Object::Kind kind,
-                                                     Function function)
+                                                     const ApiCall& call)
 {
     const auto value = reinterpret_cast<quintptr>(handle);
     const auto found = objects.find(value);
-    if (found != objects.end() && accepts(kind, found->second->kind, function))
+    if (found != objects.end() && accepts(kind, found->second->kind, call.function()))
         return found->second;
 
     SetLastError(ERROR_INVALID_HANDLE);
-    // Programs keep this value for having no handle and may well close it; it fails, and harms no
-    // other handle.
+    // Programs use this value for "no handle" and may close it. That fails, but harms no other
+    // handle.
     if (handle == INVALID_HANDLE_VALUE)
         return {};
 
     if (found != objects.end()) {
-        enterMisuse(HandleMisuse::Kind::NotAHandle, handle, function,
-                    kindName(found->second->kind));
+        recordMisuse(HandleMisuse::Kind::NotAHandle, handle, call, kindName(found->second->kind));
         return {};
     }
-    const bool wasHandedOut = value >= firstHandle && value < nextHandle && value % handleStep == 0;
-    if (!wasHandedOut)
-        enterMisuse(HandleMisuse::Kind::NotAHandle, handle, function, "which was never handed out");
-    else if (isClosing(function))
-        enterMisuse(HandleMisuse::Kind::ClosedTwice, handle, function, "which is closed already");
+    const bool wasOpened = value >= firstHandle && value < nextHandle && value % handleStep == 0;
+    if (!wasOpened)
+        recordMisuse(HandleMisuse::Kind::NotAHandle, handle, call, "which was never opened");
+    else if (isClosing(call.function()))
+        recordMisuse(HandleMisuse::Kind::ClosedTwice, handle, call, "which is already closed");
     else
-        enterMisuse(HandleMisuse::Kind::UsedAfterClose, handle, function, "which is closed");
+        recordMisuse(HandleMisuse::Kind::UsedAfterClose, handle, call, "which is closed");
     return {};
 }
 
-std::shared_ptr<Object> Machine::Private::close(HANDLE handle, Object::Kind kind, Function function)
+std::shared_ptr<Object> Machine::Private::closeObject(HANDLE handle, Object::Kind kind,
+                                                      const ApiCall& call)
 {
-    std::shared_ptr<Object> object = findObject(handle, kind, function);
+    std::shared_ptr<Object> object = findObject(handle, kind, call);
     if (object)
         objects.erase(reinterpret_cast<quintptr>(handle));
     return object;
@@ -120,10 +120,10 @@ QList<HandleMisuse> Machine::settle() const
     const std::lock_guard guard(d->lock);
     QList<HandleMisuse> entries = d->misuses;
     for (const auto& [value, object] : d->objects) {
-        const QString function = QString::fromLatin1(functionName(object->openedBy));
+        const QString function = nameOf(object->openedBy);
         entries.append({HandleMisuse::Kind::Leaked, value, function,
                         QStringLiteral("%1, %2 that %3 opened, was never closed")
-                            .arg(text(reinterpret_cast<HANDLE>(value)),
+                            .arg(textOf(reinterpret_cast<HANDLE>(value)),
                                  QString::fromLatin1(kindName(object->kind)), function)});
     }
     return entries;

@@ -34,7 +34,7 @@ Machine::~Machine() = default;
 
 Machine& Machine::instance()
 {
-    // Never destroyed: threads may still be in a call while the process ends.
+    // Never destroyed, because threads may still be in a call while the process ends.
     static Machine& machine = *new Machine;
     return machine;
 }
@@ -64,8 +64,8 @@ void Machine::reset()
 
 std::shared_ptr<Printer> Machine::Private::printerNamed(const QString& name) const
 {
-    // The spooler knows no letter case in names; a machine set up with names that differ in nothing
-    // else still tells them apart.
+    // The spooler ignores case in names. If a machine is set up with names that differ only in
+    // case, an exact match is preferred.
     if (const auto found = byName.constFind(name); found != byName.constEnd())
         return *found;
     const auto isNamed = [&](const std::shared_ptr<Printer>& printer) {
@@ -79,21 +79,21 @@ std::shared_ptr<Printer> Machine::Private::printerNamed(const QString& name) con
 void Machine::Private::add(const std::shared_ptr<Printer>& printer)
 {
     printers.append(printer);
-    enterName(printer);
+    addName(printer);
 }
 
-void Machine::Private::enterName(const std::shared_ptr<Printer>& printer)
+void Machine::Private::addName(const std::shared_ptr<Printer>& printer)
 {
     const QString& name = printer->setup.name;
     if (!name.isNull() && !byName.contains(name))
         byName.insert(name, printer);
 }
 
-void Machine::Private::enterNames()
+void Machine::Private::rebuildNames()
 {
     byName.clear();
     for (const auto& printer : std::as_const(printers))
-        enterName(printer);
+        addName(printer);
 }
 
 void Machine::Private::notify(const Printer* printer, DWORD change)
@@ -101,11 +101,11 @@ void Machine::Private::notify(const Printer* printer, DWORD change)
     std::erase_if(notifications, [](const auto& notification) { return notification.expired(); });
     for (const auto& entry : notifications) {
         const std::shared_ptr<ChangeNotification> notification = entry.lock();
-        const bool isAsked = !notification->printer || notification->printer.get() == printer;
-        const DWORD told = change & notification->filter;
-        if (!isAsked || !told || notification->dead)
+        const bool isWatched = !notification->printer || notification->printer.get() == printer;
+        const DWORD changes = change & notification->filter;
+        if (!isWatched || !changes || notification->dead)
             continue;
-        notification->changes |= told;
+        notification->changes |= changes;
         signal(*notification);
     }
 }
@@ -115,7 +115,7 @@ void Machine::Private::setSpoolerState(DWORD state)
     spoolerState = state;
     if (isSpoolerRunning())
         return;
-    // Whatever the service had handed out died with it.
+    // All handles from the service end with it.
     for (const auto& [value, object] : objects) {
         if (object->kind == Object::Kind::Printer) {
             static_cast<PrinterHandleObject&>(*object).dead = true;
@@ -142,8 +142,8 @@ quint32 Machine::spoolerState() const
 
 namespace {
 
-/// A printer that a test or a story names; that it is not there is a mistake of theirs, which must
-/// not pass unseen.
+/// The printer that a test or a story names. If it does not exist, that is a mistake in the test,
+/// which must not go unnoticed.
 Printer& existing(Machine::Private& machine, const QString& name)
 {
     const std::shared_ptr<Printer> printer = machine.printerNamed(name);
@@ -185,7 +185,7 @@ void Machine::Private::removePrinter(Printer& printer)
     printer.deleted = true;
     notify(&printer, PRINTER_CHANGE_DELETE_PRINTER);
     printers.removeIf([&](const auto& entry) { return entry.get() == &printer; });
-    enterNames();
+    rebuildNames();
 }
 
 void Machine::renamePrinter(const QString& name, const QString& newName)
@@ -194,7 +194,7 @@ void Machine::renamePrinter(const QString& name, const QString& newName)
         if (d->defaultPrinter == printer.setup.name)
             d->defaultPrinter = newName;
         printer.setup.name = newName;
-        d->enterNames();
+        d->rebuildNames();
     });
 }
 

@@ -8,19 +8,18 @@ namespace virtualwindows {
 
 namespace {
 
-constexpr QLatin1String
-    rootKey("HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control\\DeviceClasses");
+constexpr QLatin1String rootKey(R"(HKEY_LOCAL_MACHINE\SYSTEM\ControlSet001\Control\DeviceClasses)");
 constexpr QStringView instanceKey(u"#");
 constexpr QStringView parametersKey(u"Device Parameters");
 
-/// Names of keys are compared without letter case.
+/// The registry ignores case in the names of keys.
 bool isSame(QStringView left, QStringView right)
 {
     return left.compare(right, Qt::CaseInsensitive) == 0;
 }
 
-/// The names of a path below the root; nothing when the path does not start there. Names of keys
-/// hold every character but the backslash.
+/// The names in a path below the root; an empty list when the path does not start there. The name
+/// of a key may contain any character but the backslash.
 QStringList namesBelowRoot(const QString& path, bool& startsAtRoot)
 {
     startsAtRoot = path.startsWith(rootKey, Qt::CaseInsensitive) &&
@@ -61,7 +60,7 @@ void Machine::addDevice(const DeviceSetup& device)
         d->deviceClasses.begin(), d->deviceClasses.end(),
         [&](const DeviceClass& entry) { return isSame(entry.guid, device.classGuid); });
     const QString key = device.interfaceKey.toCaseFolded();
-    // A key is in the registry once.
+    // The registry has no two keys of the same name.
     if (found->places.contains(key))
         return;
     found->places.insert(key, found->devices.size());
@@ -72,7 +71,8 @@ namespace registry {
 
 QStringList childGroups(const QString& path)
 {
-    if (machine().begin(Function::RegistryKey, [&] { return QStringList{path}; }))
+    const ApiCall call(Function::RegistryKey, path);
+    if (call.isPlannedToFail())
         return {};
     bool startsAtRoot = false;
     const QStringList names = namesBelowRoot(path, startsAtRoot);
@@ -105,7 +105,8 @@ QStringList childGroups(const QString& path)
 
 QVariant value(const QString& path, const QString& valueName)
 {
-    if (machine().begin(Function::RegistryKey, [&] { return QStringList{path, valueName}; }))
+    const ApiCall call(Function::RegistryKey, path, valueName);
+    if (call.isPlannedToFail())
         return {};
     bool startsAtRoot = false;
     const QStringList names = namesBelowRoot(path, startsAtRoot);

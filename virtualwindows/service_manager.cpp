@@ -25,22 +25,20 @@ bool isNamed(LPCWSTR name, const char16_t* wanted)
 SC_HANDLE WINAPI OpenSCManagerW(LPCWSTR lpMachineName, LPCWSTR lpDatabaseName,
                                 DWORD dwDesiredAccess)
 {
-    const DWORD planned = machine().begin(Function::OpenSCManagerW, [&] {
-        return QStringList{text(lpMachineName), text(lpDatabaseName), text(dwDesiredAccess)};
-    });
-    if (planned)
-        return failWith<SC_HANDLE>(planned, nullptr);
+    const ApiCall call(Function::OpenSCManagerW, lpMachineName, lpDatabaseName, dwDesiredAccess);
+    if (call.failsAsPlanned())
+        return nullptr;
     if (lpMachineName && *lpMachineName)
         return failWith<SC_HANDLE>(RPC_S_SERVER_UNAVAILABLE, nullptr);
     if (lpDatabaseName && !isNamed(lpDatabaseName, activeDatabase)) {
-        // The one other name that there is has no database behind it.
+        // This name is valid, but has no database.
         const bool isKnown = isNamed(lpDatabaseName, failedDatabase);
         return failWith<SC_HANDLE>(isKnown ? ERROR_DATABASE_DOES_NOT_EXIST : ERROR_INVALID_NAME,
                                    nullptr);
     }
 
     const auto manager =
-        std::make_shared<ServiceObject>(Object::Kind::ServiceManager, Function::OpenSCManagerW);
+        std::make_shared<ServiceObject>(Object::Kind::ServiceManager, call.function());
     manager->access = dwDesiredAccess;
     const std::lock_guard guard(machine().lock);
     return asServiceHandle(machine().open(manager));
@@ -48,15 +46,13 @@ SC_HANDLE WINAPI OpenSCManagerW(LPCWSTR lpMachineName, LPCWSTR lpDatabaseName,
 
 SC_HANDLE WINAPI OpenServiceW(SC_HANDLE hSCManager, LPCWSTR lpServiceName, DWORD dwDesiredAccess)
 {
-    const DWORD planned = machine().begin(Function::OpenServiceW, [&] {
-        return QStringList{text(HANDLE(hSCManager)), text(lpServiceName), text(dwDesiredAccess)};
-    });
-    if (planned)
-        return failWith<SC_HANDLE>(planned, nullptr);
+    const ApiCall call(Function::OpenServiceW, hSCManager, lpServiceName, dwDesiredAccess);
+    if (call.failsAsPlanned())
+        return nullptr;
 
     const std::lock_guard guard(machine().lock);
-    const auto manager = machine().find<ServiceObject>(hSCManager, Object::Kind::ServiceManager,
-                                                       Function::OpenServiceW);
+    const auto manager =
+        machine().find<ServiceObject>(hSCManager, Object::Kind::ServiceManager, call);
     if (!manager)
         return nullptr;
     if (!lpServiceName)
@@ -64,22 +60,19 @@ SC_HANDLE WINAPI OpenServiceW(SC_HANDLE hSCManager, LPCWSTR lpServiceName, DWORD
     if (!isNamed(lpServiceName, spoolerService))
         return failWith<SC_HANDLE>(ERROR_SERVICE_DOES_NOT_EXIST, nullptr);
 
-    const auto service =
-        std::make_shared<ServiceObject>(Object::Kind::Service, Function::OpenServiceW);
+    const auto service = std::make_shared<ServiceObject>(Object::Kind::Service, call.function());
     service->access = dwDesiredAccess;
     return asServiceHandle(machine().open(service));
 }
 
 BOOL WINAPI QueryServiceStatus(SC_HANDLE hService, LPSERVICE_STATUS lpServiceStatus)
 {
-    const DWORD planned = machine().begin(Function::QueryServiceStatus,
-                                          [&] { return QStringList{text(HANDLE(hService))}; });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::QueryServiceStatus, hService);
+    if (call.failsAsPlanned())
+        return FALSE;
 
     const std::lock_guard guard(machine().lock);
-    const auto service = machine().find<ServiceObject>(hService, Object::Kind::Service,
-                                                       Function::QueryServiceStatus);
+    const auto service = machine().find<ServiceObject>(hService, Object::Kind::Service, call);
     if (!service)
         return FALSE;
     if (!lpServiceStatus)
@@ -96,12 +89,9 @@ BOOL WINAPI QueryServiceStatus(SC_HANDLE hService, LPSERVICE_STATUS lpServiceSta
 
 BOOL WINAPI CloseServiceHandle(SC_HANDLE hSCObject)
 {
-    const DWORD planned = machine().begin(Function::CloseServiceHandle,
-                                          [&] { return QStringList{text(HANDLE(hSCObject))}; });
+    const ApiCall call(Function::CloseServiceHandle, hSCObject);
     const std::lock_guard guard(machine().lock);
-    if (!machine().close(hSCObject, Object::Kind::ServiceManager, Function::CloseServiceHandle))
+    if (!machine().close(hSCObject, Object::Kind::ServiceManager, call) || call.failsAsPlanned())
         return FALSE;
-    if (planned)
-        return failWith(planned, FALSE);
     return TRUE;
 }

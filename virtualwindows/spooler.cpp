@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -44,9 +45,9 @@ Value Value::fromWide(DWORD type, const QByteArray& data)
     return {type, wideText.toLocal8Bit(), data};
 }
 
-std::shared_ptr<PrinterHandleObject> livePrinterHandle(HANDLE handle, Function function)
+std::shared_ptr<PrinterHandleObject> livePrinterHandle(HANDLE handle, const ApiCall& call)
 {
-    auto object = machine().find<PrinterHandleObject>(handle, Object::Kind::Printer, function);
+    auto object = machine().find<PrinterHandleObject>(handle, Object::Kind::Printer, call);
     if (!object)
         return {};
     if (object->dead) {
@@ -60,10 +61,10 @@ std::shared_ptr<PrinterHandleObject> livePrinterHandle(HANDLE handle, Function f
     return object;
 }
 
-std::shared_ptr<PrinterHandleObject> handleOfPrinter(HANDLE handle, Function function,
+std::shared_ptr<PrinterHandleObject> handleOfPrinter(HANDLE handle, const ApiCall& call,
                                                      ACCESS_MASK access)
 {
-    auto object = livePrinterHandle(handle, function);
+    auto object = livePrinterHandle(handle, call);
     if (!object)
         return {};
     if (!object->printer) {
@@ -83,20 +84,47 @@ namespace {
 
 constexpr ACCESS_MASK rightsOfAdministrators = PRINTER_ACCESS_ADMINISTER | DELETE | 0x000C0000U;
 
-BOOL openPrinter(Function function, bool hasName, const QString& name, LPHANDLE result,
+/// Names as a caller gives them: none for a null pointer, which is not the same as an empty one.
+std::optional<QString> nameFrom(LPCWSTR name)
+{
+    return name ? std::optional(QString::fromUtf16(name)) : std::nullopt;
+}
+std::optional<QString> nameFrom(LPCSTR name)
+{
+    return name ? std::optional(QString::fromLocal8Bit(name)) : std::nullopt;
+}
+std::optional<QByteArray> valueNameFrom(LPCWSTR name)
+{
+    return name ? std::optional(QString::fromUtf16(name).toLocal8Bit().toLower()) : std::nullopt;
+}
+std::optional<QByteArray> valueNameFrom(LPCSTR name)
+{
+    return name ? std::optional(QByteArray(name).toLower()) : std::nullopt;
+}
+
+/// The access that a caller asks for.
+template <typename Defaults>
+ACCESS_MASK accessOf(const Defaults* defaults)
+{
+    return defaults ? defaults->DesiredAccess : 0;
+}
+
+BOOL openPrinter(const ApiCall& call, const std::optional<QString>& name, LPHANDLE result,
                  ACCESS_MASK access)
 {
+    if (call.failsAsPlanned())
+        return FALSE;
     if (!result)
         return failWith(ERROR_INVALID_PARAMETER, FALSE);
-    auto object = std::make_shared<PrinterHandleObject>(function);
+    auto object = std::make_shared<PrinterHandleObject>(call.function());
     object->access = access ? access : PRINTER_ACCESS_USE;
 
     const std::lock_guard guard(machine().lock);
     if (!machine().isSpoolerRunning())
         return failWith(RPC_S_SERVER_UNAVAILABLE, FALSE);
-    // Without a name it is the print server; an empty name is nobody's.
-    if (hasName) {
-        object->printer = machine().printerNamed(name);
+    // Without a name it is the print server; no printer has an empty name.
+    if (name) {
+        object->printer = machine().printerNamed(*name);
         if (!object->printer)
             return failWith(ERROR_INVALID_PRINTER_NAME, FALSE);
         if (!object->printer->setup.administrable && (access & rightsOfAdministrators))
@@ -106,63 +134,82 @@ BOOL openPrinter(Function function, bool hasName, const QString& name, LPHANDLE 
     return TRUE;
 }
 
-/// The answer of a call that reports what went wrong as its result.
-DWORD answer(DWORD error)
+/// Sets the last error and returns it, for calls whose result is the error code.
+DWORD fail(DWORD error)
 {
-    if (error)
-        SetLastError(error);
+    SetLastError(error);
     return error;
 }
 
-/// `name` is in lower case.
-DWORD getPrinterData(Function function, HANDLE handle, bool hasName, const QByteArray& name,
-                     QByteArray Value::*form, LPDWORD type, LPBYTE data, DWORD size, LPDWORD needed)
+/// Where GetPrinterDataA and GetPrinterDataW write a value.
+struct ValueBuffer
 {
+    LPDWORD type;
+    LPBYTE data;
+    DWORD size;
+    LPDWORD needed;
+};
+
+DWORD getPrinterData(const ApiCall& call, HANDLE handle, const std::optional<QByteArray>& name,
+                     QByteArray Value::*form, const ValueBuffer& buffer)
+{
+    if (call.failsAsPlanned())
+        return GetLastError();
     const std::lock_guard guard(machine().lock);
-    const auto object = livePrinterHandle(handle, function);
+    const auto object = livePrinterHandle(handle, call);
     if (!object)
         return GetLastError();
     if (!object->printer)
-        return answer(ERROR_INVALID_HANDLE);
-    if (!needed)
-        return answer(RPC_X_NULL_REF_POINTER);
-    if (!hasName || (size && !data))
-        return answer(ERROR_INVALID_PARAMETER);
+        return fail(ERROR_INVALID_HANDLE);
+    if (!buffer.needed)
+        return fail(RPC_X_NULL_REF_POINTER);
+    if (!name || (buffer.size && !buffer.data))
+        return fail(ERROR_INVALID_PARAMETER);
 
-    const auto found = object->printer->values.constFind(name);
+    const auto found = object->printer->values.constFind(*name);
     if (found == object->printer->values.constEnd()) {
-        *needed = 0;
-        return answer(ERROR_FILE_NOT_FOUND);
+        *buffer.needed = 0;
+        return fail(ERROR_FILE_NOT_FOUND);
     }
     const QByteArray& bytes = (*found).*form;
-    if (type)
-        *type = found->type;
-    *needed = static_cast<DWORD>(bytes.size());
-    if (size < *needed)
-        return answer(ERROR_MORE_DATA);
+    if (buffer.type)
+        *buffer.type = found->type;
+    *buffer.needed = static_cast<DWORD>(bytes.size());
+    if (buffer.size < *buffer.needed)
+        return fail(ERROR_MORE_DATA);
     if (!bytes.isEmpty())
-        std::memcpy(data, bytes.constData(), static_cast<std::size_t>(bytes.size()));
+        std::memcpy(buffer.data, bytes.constData(), static_cast<std::size_t>(bytes.size()));
     return ERROR_SUCCESS;
 }
 
-DWORD setPrinterData(Function function, HANDLE handle, bool hasName, const QByteArray& name,
-                     LPBYTE data, DWORD size, Value (*convert)(DWORD, const QByteArray&),
-                     DWORD type)
+/// A value as SetPrinterDataA and SetPrinterDataW are given it.
+struct GivenValue
 {
+    DWORD type;
+    LPBYTE data;
+    DWORD size;
+};
+
+DWORD setPrinterData(const ApiCall& call, HANDLE handle, const std::optional<QByteArray>& name,
+                     Value (*convert)(DWORD, const QByteArray&), const GivenValue& value)
+{
+    if (call.failsAsPlanned())
+        return GetLastError();
     const std::lock_guard guard(machine().lock);
-    const auto object = handleOfPrinter(handle, function, PRINTER_ACCESS_ADMINISTER);
+    const auto object = handleOfPrinter(handle, call, PRINTER_ACCESS_ADMINISTER);
     if (!object)
         return GetLastError();
-    if (!hasName || (size && !data))
-        return answer(ERROR_INVALID_PARAMETER);
+    if (!name || (value.size && !value.data))
+        return fail(ERROR_INVALID_PARAMETER);
 
-    const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    object->printer->values.insert(name.toLower(), convert(type, bytes));
+    const QByteArray bytes(reinterpret_cast<const char*>(value.data),
+                           static_cast<qsizetype>(value.size));
+    object->printer->values.insert(*name, convert(value.type, bytes));
     machine().notify(object->printer.get(), PRINTER_CHANGE_SET_PRINTER);
     return ERROR_SUCCESS;
 }
 
-/// A block of records: the records first, then the texts that they point to.
+/// A block with records, followed by the texts that they point to.
 class RecordBlock
 {
 public:
@@ -171,7 +218,7 @@ public:
         , m_used(sizeOfRecords)
     {}
 
-    /// Room for the texts as one; without a block their room is only counted.
+    /// Appends the texts as one. Without a block, only their size is counted.
     template <typename... Texts>
     LPWSTR add(const Texts&... texts)
     {
@@ -180,7 +227,7 @@ public:
         append(QStringView(u"\0", 1));
         return reinterpret_cast<LPWSTR>(place);
     }
-    /// A text that may be missing.
+    /// The same for a text that may be null.
     LPWSTR addIfAny(const QString& text) { return text.isNull() ? nullptr : add(text); }
 
     DWORD used() const { return static_cast<DWORD>(m_used); }
@@ -205,7 +252,7 @@ DWORD waitingJobs(const Printer& printer)
                                             [](const PrintJob& job) { return !job.finished; }));
 }
 
-/// What listings of level 1 by name begin with; this machine has the one for its own printers.
+/// A listing of level 1 by name lists print providers. This machine has one, for its own printers.
 struct PrintProvider
 {
     QString name = QStringLiteral("Windows NT Local Print Providor"); // Windows spells it so
@@ -281,7 +328,7 @@ PRINTER_INFO_7W describe(const Printer& /*printer*/, RecordBlock& /*block*/, PRI
     return {nullptr, DSPRINT_UNPUBLISH};
 }
 
-/// Sizes or fills a block with one record for each source, a printer or a print provider.
+/// Sizes or fills a block with one record for each source: a printer or a print provider.
 template <typename Record, typename Source>
 BOOL fill(std::span<const Source* const> sources, LPBYTE start, DWORD size, LPDWORD needed)
 {
@@ -306,11 +353,11 @@ BOOL fill(std::span<const Source* const> sources, LPBYTE start, DWORD size, LPDW
 struct RecordLevel
 {
     DWORD level;
-    bool isListed; ///< EnumPrintersW knows it
+    bool isListed; ///< EnumPrintersW has this level too
     BOOL(*fill)
     (std::span<const Printer* const> printers, LPBYTE start, DWORD size, LPDWORD needed);
 };
-/// Levels 3, 8 and 9 are for what this machine has not: security descriptors and device modes.
+/// Levels 3, 8 and 9 hold security descriptors and device modes, which this machine does not have.
 constexpr std::array recordLevels{
     RecordLevel{1, true, &fill<PRINTER_INFO_1W, Printer>},
     RecordLevel{2, true, &fill<PRINTER_INFO_2W, Printer>},
@@ -320,7 +367,7 @@ constexpr std::array recordLevels{
     RecordLevel{7, false, &fill<PRINTER_INFO_7W, Printer>},
 };
 
-/// Null for a level that is not known.
+/// Null for an unknown level.
 const RecordLevel* findLevel(DWORD level)
 {
     const auto* const found =
@@ -359,7 +406,7 @@ BOOL controlPrinter(Printer& printer, DWORD command, LPBYTE argument)
         change = PRINTER_CHANGE_DELETE_JOB;
         break;
     case PRINTER_CONTROL_SET_STATUS:
-        // The status takes the place of the pointer.
+        // The status is passed in place of the pointer.
         printer.setup.status = static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(argument));
         break;
     default:
@@ -379,7 +426,7 @@ BOOL changePrinter(Printer& printer, const PRINTER_INFO_2W& info)
         if (machine().defaultPrinter == printer.setup.name)
             machine().defaultPrinter = name;
         printer.setup.name = name;
-        machine().enterNames();
+        machine().rebuildNames();
     }
     if (info.pPortName)
         printer.setup.port = fromWide(info.pPortName);
@@ -397,43 +444,31 @@ BOOL changePrinter(Printer& printer, const PRINTER_INFO_2W& info)
 
 BOOL WINAPI OpenPrinterA(LPSTR pPrinterName, LPHANDLE phPrinter, LPPRINTER_DEFAULTSA pDefault)
 {
-    const ACCESS_MASK access = pDefault ? pDefault->DesiredAccess : 0;
-    const DWORD planned = machine().begin(Function::OpenPrinterA, [&] {
-        return QStringList{text(LPCSTR(pPrinterName)), text(DWORD(access))};
-    });
-    if (planned)
-        return failWith(planned, FALSE);
-    return openPrinter(Function::OpenPrinterA, pPrinterName != nullptr,
-                       QString::fromLocal8Bit(pPrinterName), phPrinter, access);
+    const ACCESS_MASK access = accessOf(pDefault);
+    const ApiCall call(Function::OpenPrinterA, pPrinterName, access);
+    return openPrinter(call, nameFrom(pPrinterName), phPrinter, access);
 }
 
 BOOL WINAPI OpenPrinterW(LPWSTR pPrinterName, LPHANDLE phPrinter, LPPRINTER_DEFAULTSW pDefault)
 {
-    const ACCESS_MASK access = pDefault ? pDefault->DesiredAccess : 0;
-    const DWORD planned = machine().begin(Function::OpenPrinterW, [&] {
-        return QStringList{text(LPCWSTR(pPrinterName)), text(DWORD(access))};
-    });
-    if (planned)
-        return failWith(planned, FALSE);
-    return openPrinter(Function::OpenPrinterW, pPrinterName != nullptr, fromWide(pPrinterName),
-                       phPrinter, access);
+    const ACCESS_MASK access = accessOf(pDefault);
+    const ApiCall call(Function::OpenPrinterW, pPrinterName, access);
+    return openPrinter(call, nameFrom(pPrinterName), phPrinter, access);
 }
 
 BOOL WINAPI ClosePrinter(HANDLE hPrinter)
 {
-    const DWORD planned =
-        machine().begin(Function::ClosePrinter, [&] { return QStringList{text(hPrinter)}; });
+    const ApiCall call(Function::ClosePrinter, hPrinter);
     const std::lock_guard guard(machine().lock);
-    const auto object = std::static_pointer_cast<PrinterHandleObject>(
-        machine().close(hPrinter, Object::Kind::Printer, Function::ClosePrinter));
+    const auto object = machine().close<PrinterHandleObject>(hPrinter, Object::Kind::Printer, call);
     if (!object)
         return FALSE;
     for (const auto& entry : object->notifications) {
         if (const std::shared_ptr<ChangeNotification> notification = entry.lock())
             notification->dead = true;
     }
-    if (planned)
-        return failWith(planned, FALSE);
+    if (call.failsAsPlanned())
+        return FALSE;
     if (object->dead)
         return failWith(machine().errorOfDeadHandles(), FALSE);
     endDocument(*object);
@@ -443,65 +478,44 @@ BOOL WINAPI ClosePrinter(HANDLE hPrinter)
 DWORD WINAPI GetPrinterDataA(HANDLE hPrinter, LPSTR pValueName, LPDWORD pType, LPBYTE pData,
                              DWORD nSize, LPDWORD pcbNeeded)
 {
-    const DWORD planned = machine().begin(Function::GetPrinterDataA, [&] {
-        return QStringList{text(hPrinter), text(LPCSTR(pValueName)), text(nSize)};
-    });
-    if (planned)
-        return answer(planned);
-    return getPrinterData(Function::GetPrinterDataA, hPrinter, pValueName != nullptr,
-                          QByteArray(pValueName).toLower(), &Value::narrow, pType, pData, nSize,
-                          pcbNeeded);
+    const ApiCall call(Function::GetPrinterDataA, hPrinter, pValueName, nSize);
+    return getPrinterData(call, hPrinter, valueNameFrom(pValueName), &Value::narrow,
+                          {pType, pData, nSize, pcbNeeded});
 }
 
 DWORD WINAPI GetPrinterDataW(HANDLE hPrinter, LPWSTR pValueName, LPDWORD pType, LPBYTE pData,
                              DWORD nSize, LPDWORD pcbNeeded)
 {
-    const DWORD planned = machine().begin(Function::GetPrinterDataW, [&] {
-        return QStringList{text(hPrinter), text(LPCWSTR(pValueName)), text(nSize)};
-    });
-    if (planned)
-        return answer(planned);
-    return getPrinterData(Function::GetPrinterDataW, hPrinter, pValueName != nullptr,
-                          fromWide(pValueName).toLocal8Bit().toLower(), &Value::wide, pType, pData,
-                          nSize, pcbNeeded);
+    const ApiCall call(Function::GetPrinterDataW, hPrinter, pValueName, nSize);
+    return getPrinterData(call, hPrinter, valueNameFrom(pValueName), &Value::wide,
+                          {pType, pData, nSize, pcbNeeded});
 }
 
 DWORD WINAPI SetPrinterDataA(HANDLE hPrinter, LPSTR pValueName, DWORD Type, LPBYTE pData,
                              DWORD cbData)
 {
-    const DWORD planned = machine().begin(Function::SetPrinterDataA, [&] {
-        return QStringList{text(hPrinter), text(LPCSTR(pValueName)), text(Type), text(cbData)};
-    });
-    if (planned)
-        return answer(planned);
-    return setPrinterData(Function::SetPrinterDataA, hPrinter, pValueName != nullptr,
-                          QByteArray(pValueName), pData, cbData, &Value::fromNarrow, Type);
+    const ApiCall call(Function::SetPrinterDataA, hPrinter, pValueName, Type, cbData);
+    return setPrinterData(call, hPrinter, valueNameFrom(pValueName), &Value::fromNarrow,
+                          {Type, pData, cbData});
 }
 
 DWORD WINAPI SetPrinterDataW(HANDLE hPrinter, LPWSTR pValueName, DWORD Type, LPBYTE pData,
                              DWORD cbData)
 {
-    const DWORD planned = machine().begin(Function::SetPrinterDataW, [&] {
-        return QStringList{text(hPrinter), text(LPCWSTR(pValueName)), text(Type), text(cbData)};
-    });
-    if (planned)
-        return answer(planned);
-    return setPrinterData(Function::SetPrinterDataW, hPrinter, pValueName != nullptr,
-                          fromWide(pValueName).toLocal8Bit(), pData, cbData, &Value::fromWide,
-                          Type);
+    const ApiCall call(Function::SetPrinterDataW, hPrinter, pValueName, Type, cbData);
+    return setPrinterData(call, hPrinter, valueNameFrom(pValueName), &Value::fromWide,
+                          {Type, pData, cbData});
 }
 
 BOOL WINAPI GetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD cbBuf,
                         LPDWORD pcbNeeded)
 {
-    const DWORD planned = machine().begin(Function::GetPrinterW, [&] {
-        return QStringList{text(hPrinter), text(Level), text(cbBuf)};
-    });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::GetPrinterW, hPrinter, Level, cbBuf);
+    if (call.failsAsPlanned())
+        return FALSE;
 
     const std::lock_guard guard(machine().lock);
-    const auto object = handleOfPrinter(hPrinter, Function::GetPrinterW, 0);
+    const auto object = handleOfPrinter(hPrinter, call, 0);
     if (!object)
         return FALSE;
     if (!pcbNeeded)
@@ -517,14 +531,12 @@ BOOL WINAPI GetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD cbB
 
 BOOL WINAPI SetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD Command)
 {
-    const DWORD planned = machine().begin(Function::SetPrinterW, [&] {
-        return QStringList{text(hPrinter), text(Level), text(Command)};
-    });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::SetPrinterW, hPrinter, Level, Command);
+    if (call.failsAsPlanned())
+        return FALSE;
 
     const std::lock_guard guard(machine().lock);
-    const auto object = handleOfPrinter(hPrinter, Function::SetPrinterW, PRINTER_ACCESS_ADMINISTER);
+    const auto object = handleOfPrinter(hPrinter, call, PRINTER_ACCESS_ADMINISTER);
     if (!object)
         return FALSE;
     BOOL done = FALSE;
@@ -542,13 +554,11 @@ BOOL WINAPI SetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD Com
 BOOL WINAPI EnumPrintersW(DWORD Flags, LPWSTR Name, DWORD Level, LPBYTE pPrinterEnum, DWORD cbBuf,
                           LPDWORD pcbNeeded, LPDWORD pcReturned)
 {
-    const DWORD planned = machine().begin(Function::EnumPrintersW, [&] {
-        return QStringList{text(Flags), text(LPCWSTR(Name)), text(Level), text(cbBuf)};
-    });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::EnumPrintersW, Flags, Name, Level, cbBuf);
+    if (call.failsAsPlanned())
+        return FALSE;
 
-    // The level is looked at before the spooler is asked, and before anything is written.
+    // The level is checked before the spooler is called and before anything is written.
     const RecordLevel* const level = findLevel(Level);
     if (!level || !level->isListed)
         return failWith(ERROR_INVALID_LEVEL, FALSE);
@@ -566,7 +576,7 @@ BOOL WINAPI EnumPrintersW(DWORD Flags, LPWSTR Name, DWORD Level, LPBYTE pPrinter
         const PrintProvider provider;
         const QString name = fromWide(Name);
         if (!name.isEmpty() && name.compare(provider.name, Qt::CaseInsensitive) != 0)
-            return failWith(ERROR_INVALID_NAME, FALSE); // this machine knows no other
+            return failWith(ERROR_INVALID_NAME, FALSE); // there is no other provider
         if (name.isEmpty() && Level == 1) {
             const PrintProvider* const only = &provider;
             if (!fill<PRINTER_INFO_1W, PrintProvider>({&only, 1}, pPrinterEnum, cbBuf, pcbNeeded))
@@ -590,13 +600,11 @@ BOOL WINAPI EnumPrintersW(DWORD Flags, LPWSTR Name, DWORD Level, LPBYTE pPrinter
 
 BOOL WINAPI GetDefaultPrinterW(LPWSTR pszBuffer, LPDWORD pcchBuffer)
 {
-    const DWORD planned = machine().begin(Function::GetDefaultPrinterW, [&] {
-        return QStringList{pcchBuffer ? text(*pcchBuffer) : QStringLiteral("null")};
-    });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::GetDefaultPrinterW, pcchBuffer);
+    if (call.failsAsPlanned())
+        return FALSE;
 
-    // The choice is kept with the user's settings; the spooler is not asked for it.
+    // The choice is stored in the user's settings, so it does not need the spooler.
     if (!pcchBuffer)
         return failWith(ERROR_INVALID_PARAMETER, FALSE);
     const std::lock_guard guard(machine().lock);
@@ -615,10 +623,9 @@ BOOL WINAPI GetDefaultPrinterW(LPWSTR pszBuffer, LPDWORD pcchBuffer)
 
 BOOL WINAPI SetDefaultPrinterW(LPCWSTR pszPrinter)
 {
-    const DWORD planned = machine().begin(Function::SetDefaultPrinterW,
-                                          [&] { return QStringList{text(pszPrinter)}; });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::SetDefaultPrinterW, pszPrinter);
+    if (call.failsAsPlanned())
+        return FALSE;
 
     const std::lock_guard guard(machine().lock);
     if (!machine().isSpoolerRunning())
@@ -630,7 +637,7 @@ BOOL WINAPI SetDefaultPrinterW(LPCWSTR pszPrinter)
         machine().defaultPrinter = printer->setup.name;
         return TRUE;
     }
-    // Without a name the system chooses, unless a choice was made before.
+    // Without a name, the system chooses a printer, unless one was chosen before.
     if (machine().defaultPrinter.isNull()) {
         if (machine().printers.isEmpty())
             return failWith(ERROR_INVALID_PRINTER_NAME, FALSE);
@@ -641,11 +648,9 @@ BOOL WINAPI SetDefaultPrinterW(LPCWSTR pszPrinter)
 
 HANDLE WINAPI AddPrinterW(LPWSTR pName, DWORD Level, LPBYTE pPrinter)
 {
-    const DWORD planned = machine().begin(Function::AddPrinterW, [&] {
-        return QStringList{text(LPCWSTR(pName)), text(Level)};
-    });
-    if (planned)
-        return failWith<HANDLE>(planned, nullptr);
+    const ApiCall call(Function::AddPrinterW, pName, Level);
+    if (call.failsAsPlanned())
+        return nullptr;
 
     const std::lock_guard guard(machine().lock);
     if (!machine().isSpoolerRunning())
@@ -677,7 +682,7 @@ HANDLE WINAPI AddPrinterW(LPWSTR pName, DWORD Level, LPBYTE pPrinter)
     machine().add(printer);
     machine().notify(printer.get(), PRINTER_CHANGE_ADD_PRINTER);
 
-    auto object = std::make_shared<PrinterHandleObject>(Function::AddPrinterW);
+    auto object = std::make_shared<PrinterHandleObject>(call.function());
     object->printer = printer;
     object->access = PRINTER_ALL_ACCESS;
     return machine().open(object);
@@ -685,14 +690,12 @@ HANDLE WINAPI AddPrinterW(LPWSTR pName, DWORD Level, LPBYTE pPrinter)
 
 BOOL WINAPI DeletePrinter(HANDLE hPrinter)
 {
-    const DWORD planned =
-        machine().begin(Function::DeletePrinter, [&] { return QStringList{text(hPrinter)}; });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::DeletePrinter, hPrinter);
+    if (call.failsAsPlanned())
+        return FALSE;
 
     const std::lock_guard guard(machine().lock);
-    const auto object =
-        handleOfPrinter(hPrinter, Function::DeletePrinter, PRINTER_ACCESS_ADMINISTER);
+    const auto object = handleOfPrinter(hPrinter, call, PRINTER_ACCESS_ADMINISTER);
     if (!object)
         return FALSE;
     Printer& printer = *object->printer;
@@ -705,18 +708,16 @@ BOOL WINAPI DeletePrinter(HANDLE hPrinter)
 HANDLE WINAPI FindFirstPrinterChangeNotification(HANDLE hPrinter, DWORD fdwFilter, DWORD fdwOptions,
                                                  LPVOID pPrinterNotifyOptions)
 {
-    const DWORD planned = machine().begin(Function::FindFirstPrinterChangeNotification, [&] {
-        return QStringList{text(hPrinter), text(fdwFilter), text(fdwOptions),
-                           text(HANDLE(pPrinterNotifyOptions))};
-    });
-    if (planned)
-        return failWith(planned, INVALID_HANDLE_VALUE);
+    const ApiCall call(Function::FindFirstPrinterChangeNotification, hPrinter, fdwFilter,
+                       fdwOptions, pPrinterNotifyOptions);
+    if (call.failsAsPlanned())
+        return INVALID_HANDLE_VALUE;
 
     const std::lock_guard guard(machine().lock);
-    const auto object = livePrinterHandle(hPrinter, Function::FindFirstPrinterChangeNotification);
+    const auto object = livePrinterHandle(hPrinter, call);
     if (!object)
         return INVALID_HANDLE_VALUE;
-    // Changes told in detail (the options) are not offered here, so the filter has to ask for some.
+    // Detailed notifications (the options) are not supported here, so a filter is required.
     if (!fdwFilter || pPrinterNotifyOptions)
         return failWith(ERROR_INVALID_PARAMETER, INVALID_HANDLE_VALUE);
 
@@ -733,16 +734,14 @@ BOOL WINAPI FindNextPrinterChangeNotification(HANDLE hChange, LPDWORD pdwChange,
                                               LPVOID pPrinterNotifyOptions,
                                               LPVOID* ppPrinterNotifyInfo)
 {
-    const DWORD planned = machine().begin(Function::FindNextPrinterChangeNotification, [&] {
-        return QStringList{text(hChange), text(HANDLE(pPrinterNotifyOptions)),
-                           text(HANDLE(ppPrinterNotifyInfo))};
-    });
-    if (planned)
-        return failWith(planned, FALSE);
+    const ApiCall call(Function::FindNextPrinterChangeNotification, hChange, pPrinterNotifyOptions,
+                       HANDLE(ppPrinterNotifyInfo));
+    if (call.failsAsPlanned())
+        return FALSE;
 
     const std::lock_guard guard(machine().lock);
-    const auto notification = machine().find<ChangeNotification>(
-        hChange, Object::Kind::ChangeNotification, Function::FindNextPrinterChangeNotification);
+    const auto notification =
+        machine().find<ChangeNotification>(hChange, Object::Kind::ChangeNotification, call);
     if (!notification)
         return FALSE;
     if (notification->dead)
@@ -758,15 +757,12 @@ BOOL WINAPI FindNextPrinterChangeNotification(HANDLE hChange, LPDWORD pdwChange,
 
 BOOL WINAPI FindClosePrinterChangeNotification(HANDLE hChange)
 {
-    const DWORD planned = machine().begin(Function::FindClosePrinterChangeNotification,
-                                          [&] { return QStringList{text(hChange)}; });
+    const ApiCall call(Function::FindClosePrinterChangeNotification, hChange);
     const std::lock_guard guard(machine().lock);
-    const auto object = std::static_pointer_cast<ChangeNotification>(machine().close(
-        hChange, Object::Kind::ChangeNotification, Function::FindClosePrinterChangeNotification));
-    if (!object)
+    const auto object =
+        machine().close<ChangeNotification>(hChange, Object::Kind::ChangeNotification, call);
+    if (!object || call.failsAsPlanned())
         return FALSE;
-    if (planned)
-        return failWith(planned, FALSE);
     if (object->dead)
         return failWith(machine().errorOfDeadHandles(), FALSE);
     return TRUE;

@@ -10,7 +10,7 @@ using namespace virtualwindows;
 
 namespace {
 
-/// The job being written; null also when it was taken out of the queue meanwhile.
+/// The job being written. Null when there is none or it was removed from the queue meanwhile.
 PrintJob* findOpenJob(const PrinterHandleObject& handle)
 {
     if (!handle.openJob)
@@ -21,7 +21,7 @@ PrintJob* findOpenJob(const PrinterHandleObject& handle)
     return found == jobs.end() ? nullptr : &*found;
 }
 
-/// The job being written; null: the last error says why.
+/// The job being written. Null: the last error says why.
 PrintJob* openJob(const PrinterHandleObject& handle)
 {
     PrintJob* job = findOpenJob(handle);
@@ -30,14 +30,14 @@ PrintJob* openJob(const PrinterHandleObject& handle)
     return job;
 }
 
-/// What the four calls on an open document share: step is done with the handle and its job.
+/// The part that the four calls on an open document share: step gets the handle and its job.
 template <typename Step>
-BOOL inDocument(HANDLE handle, Function function, const QStringList& arguments, Step step)
+BOOL inDocument(const ApiCall& call, HANDLE handle, Step step)
 {
-    if (const DWORD planned = machine().begin(function, [&] { return arguments; }))
-        return failWith(planned, FALSE);
+    if (call.failsAsPlanned())
+        return FALSE;
     const std::lock_guard guard(machine().lock);
-    const auto object = handleOfPrinter(handle, function, PRINTER_ACCESS_USE);
+    const auto object = handleOfPrinter(handle, call, PRINTER_ACCESS_USE);
     PrintJob* job = object ? openJob(*object) : nullptr;
     if (!job || !step(*object, *job))
         return FALSE;
@@ -59,14 +59,12 @@ void virtualwindows::endDocument(PrinterHandleObject& handle)
 
 DWORD WINAPI StartDocPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pDocInfo)
 {
-    const DWORD planned = machine().begin(Function::StartDocPrinterW, [&] {
-        return QStringList{text(hPrinter), text(Level)};
-    });
-    if (planned)
-        return failWith<DWORD>(planned, 0);
+    const ApiCall call(Function::StartDocPrinterW, hPrinter, Level);
+    if (call.failsAsPlanned())
+        return 0;
 
     const std::lock_guard guard(machine().lock);
-    const auto object = handleOfPrinter(hPrinter, Function::StartDocPrinterW, PRINTER_ACCESS_USE);
+    const auto object = handleOfPrinter(hPrinter, call, PRINTER_ACCESS_USE);
     if (!object)
         return 0;
     if (Level != 1)
@@ -90,7 +88,7 @@ DWORD WINAPI StartDocPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pDocInfo)
 
 BOOL WINAPI StartPagePrinter(HANDLE hPrinter)
 {
-    return inDocument(hPrinter, Function::StartPagePrinter, {text(hPrinter)},
+    return inDocument(ApiCall(Function::StartPagePrinter, hPrinter), hPrinter,
                       [](PrinterHandleObject& handle, PrintJob& job) {
                           job.pages.append(QByteArray());
                           handle.pageOpen = true;
@@ -102,13 +100,13 @@ BOOL WINAPI WritePrinter(HANDLE hPrinter, LPVOID pBuf, DWORD cbBuf, LPDWORD pcWr
 {
     if (pcWritten)
         *pcWritten = 0;
-    return inDocument(hPrinter, Function::WritePrinter, {text(hPrinter), text(cbBuf)},
+    return inDocument(ApiCall(Function::WritePrinter, hPrinter, cbBuf), hPrinter,
                       [&](PrinterHandleObject& handle, PrintJob& job) {
                           if (!pcWritten || (cbBuf && !pBuf)) {
                               SetLastError(ERROR_INVALID_PARAMETER);
                               return false;
                           }
-                          // Bytes outside of a page are the spooler's to pass on all the same.
+                          // The spooler also passes on bytes outside of a page.
                           if (job.pages.isEmpty())
                               job.pages.append(QByteArray());
                           job.pages.last().append(static_cast<const char*>(pBuf),
@@ -121,7 +119,7 @@ BOOL WINAPI WritePrinter(HANDLE hPrinter, LPVOID pBuf, DWORD cbBuf, LPDWORD pcWr
 
 BOOL WINAPI EndPagePrinter(HANDLE hPrinter)
 {
-    return inDocument(hPrinter, Function::EndPagePrinter, {text(hPrinter)},
+    return inDocument(ApiCall(Function::EndPagePrinter, hPrinter), hPrinter,
                       [](PrinterHandleObject& handle, PrintJob& /*job*/) {
                           if (!handle.pageOpen) {
                               SetLastError(ERROR_INVALID_PRINTER_STATE);
@@ -134,7 +132,7 @@ BOOL WINAPI EndPagePrinter(HANDLE hPrinter)
 
 BOOL WINAPI EndDocPrinter(HANDLE hPrinter)
 {
-    return inDocument(hPrinter, Function::EndDocPrinter, {text(hPrinter)},
+    return inDocument(ApiCall(Function::EndDocPrinter, hPrinter), hPrinter,
                       [](PrinterHandleObject& handle, PrintJob& /*job*/) {
                           endDocument(handle);
                           return true;

@@ -6,16 +6,17 @@
 
 namespace virtualwindows {
 
-// With the machine's lock held; null: the last error says why, and a misuse is in the ledger.
+// To be called with the machine's lock held. Null: the last error says why, and a misuse is
+// recorded.
 
-/// A printer handle, the print server's included, that the running spooler knows.
-std::shared_ptr<PrinterHandleObject> livePrinterHandle(HANDLE handle, Function function);
+/// The object of a valid handle of a printer or of the print server.
+std::shared_ptr<PrinterHandleObject> livePrinterHandle(HANDLE handle, const ApiCall& call);
 
-/// The handle of a printer that was opened with these rights.
-std::shared_ptr<PrinterHandleObject> handleOfPrinter(HANDLE handle, Function function,
+/// The object of a valid handle of a printer that was opened with this access.
+std::shared_ptr<PrinterHandleObject> handleOfPrinter(HANDLE handle, const ApiCall& call,
                                                      ACCESS_MASK access);
 
-/// Finishes the job that is being written through the handle, if there is one.
+/// Finishes the job that is being written through the handle, if any.
 void endDocument(PrinterHandleObject& handle);
 
 } // namespace virtualwindows

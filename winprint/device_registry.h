@@ -6,16 +6,16 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
-/// The device registry, read through the one place that knows where it is kept: the build chooses
-/// the source file that implements this.
+/// Reads the device registry: that of Windows, or that of the virtual machine. The build chooses
+/// the source file that implements these functions.
 namespace device_registry {
 
-/// Names of the keys right below a key, in the registry's order; empty when there is no such key.
-/// The key is that of the device classes or one below it that a listing has just named.
+/// The names of the keys directly below a key, in the registry's order; empty when there is no such
+/// key. `path` must be `deviceClassesKey`, or a key below it that this function has just listed.
 QStringList childKeys(const QString& path);
 
-/// The parameters of a device interface that a listing has just named; a value that is absent is
-/// invalid.
+/// The parameters of a device interface; an absent value is an invalid QVariant. `devicePath` must
+/// be a key that `childKeys` has just listed.
 struct DeviceParameters
 {
     QVariant portNumber;

@@ -6,10 +6,10 @@
 
 namespace device_registry {
 
-/// Control set 001 itself, not the current one: it is where the maker's driver is looked for.
+/// Deliberately control set 001 and not the current one: this is where the maker's driver is.
 inline constexpr QLatin1String
-    deviceClassesKey("HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control\\DeviceClasses\\");
-inline constexpr QLatin1String parametersSuffix("\\#\\Device Parameters");
+    deviceClassesKey(R"(HKEY_LOCAL_MACHINE\SYSTEM\ControlSet001\Control\DeviceClasses\)");
+inline constexpr QLatin1String parametersSuffix(R"(\#\Device Parameters)");
 inline constexpr QLatin1String portNumberValue("Port Number");
 inline constexpr QLatin1String serialNumberValue("Serial Number");
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// Opened through QSettings, a key that is not there is made, where the user has the right to. So a
+// QSettings creates a key that it opens and that does not exist, if the user has the right to. So a
 // key is opened only when the key above lists it.
 #include "device_registry.h"
 
@@ -18,15 +18,15 @@ constexpr QLatin1Char separator('\\');
 QStringList childrenOf(const QString& path)
 {
     QStringList names = QSettings(path, QSettings::NativeFormat).childGroups();
-    // A slash in a key's name comes as a backslash, which no name has; in a path it would lead
-    // elsewhere.
+    // QSettings returns a slash in a key's name as a backslash, which no name contains. In a path
+    // it would separate two keys.
     for (QString& name : names)
         name.replace(separator, QLatin1Char('/'));
     return names;
 }
 
-/// Whether the names lead from a key that is there to another, each listed by the one above.
-bool leadsOn(QString path, const QStringList& names)
+/// Whether each of the names is listed by the key above it, starting at the existing key `path`.
+bool exists(QString path, const QStringList& names)
 {
     for (const QString& name : names) {
         if (!childrenOf(path).contains(name, Qt::CaseInsensitive))
@@ -43,7 +43,7 @@ QStringList childKeys(const QString& path)
     if (path == deviceClassesKey) {
         QStringList names = path.split(separator, Qt::SkipEmptyParts);
         const QString hive = names.takeFirst();
-        if (!leadsOn(hive, names))
+        if (!exists(hive, names))
             return {};
     }
     return childrenOf(path);
@@ -51,7 +51,7 @@ QStringList childKeys(const QString& path)
 
 DeviceParameters deviceParameters(const QString& devicePath)
 {
-    if (!leadsOn(devicePath, QString(parametersSuffix).split(separator, Qt::SkipEmptyParts)))
+    if (!exists(devicePath, QString(parametersSuffix).split(separator, Qt::SkipEmptyParts)))
         return {};
     const QSettings key(devicePath + parametersSuffix, QSettings::NativeFormat);
     return {key.value(portNumberValue), key.value(serialNumberValue)};

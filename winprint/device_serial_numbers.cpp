@@ -35,7 +35,7 @@ DeviceSerialNumbers::DeviceSerialNumbers()
     if (guid.isEmpty())
         return;
 
-    // Every device of the class counts, whoever made it: only the class is the maker's.
+    // All devices of the class count, also those of other makers.
     const QString classKey = deviceClassesKey + guid;
     const QStringList devices = childKeys(classKey);
     for (const QString& device : devices) {

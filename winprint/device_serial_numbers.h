@@ -5,22 +5,20 @@
 #include <QtCore/QHash>
 #include <QtCore/QString>
 
-/// The serial numbers of the USB devices of the maker's device class by port, as the device
-/// registry held them when this object was made: the registry is read once, however many ports are
-/// asked for.
+/// The serial numbers of the USB devices of the maker's device class, by port. The device registry
+/// is read once, when this object is created.
 class DeviceSerialNumbers
 {
 public:
     DeviceSerialNumbers();
 
-    /// The device-interface class that the maker's devices are registered under; empty when there
-    /// is none.
+    /// The device-interface class of the maker's devices; empty when there is no such device.
     static QString driverGuid();
 
     struct Answer
     {
         QString serialNumber;
-        bool onPort = false; ///< the device is on the port; otherwise it is the last one listed
+        bool onPort = false; ///< false when it is not on the port, but the last device listed
     };
     Answer onPort(unsigned short port) const;
 

@@ -9,10 +9,10 @@
 
 /// How the library writes the fixed lines of its log.
 ///
-/// People who support printers search logs for these lines, by text and by place, and compare logs
-/// of many versions. The place that a line names is therefore its identity: it is kept with the
-/// line and does not follow the source. Every line is written at debug level, the "ERROR:" ones
-/// too. The lines themselves are in `printer_info_log_lines.h` and in `log_lines.h` of `status/`.
+/// People who support printers search logs for these lines by text and by place, and compare the
+/// logs of different versions. So the file, number and function of a line are fixed and do not
+/// follow the source. Every line is written at debug level, also those that begin with "ERROR:".
+/// The lines themselves are in `printer_info_log_lines.h` and, for `status/`, in `log_lines.h`.
 namespace log_lines {
 
 struct LogLine
@@ -20,25 +20,29 @@ struct LogLine
     const char* file;
     int number;
     const char* function;
-    const char* message; ///< printf-style; null for the lines that are streamed
+    const char* message; ///< printf-style; null for lines whose text is passed
 };
 
 /// Writes a line whose message is printf-style, with 8-bit text.
 template <typename... Text>
 void print(const LogLine& line, const Text&... text)
 {
-    CuteMessageLogger(VX_GLOBAL_LOGGER(), Logger::Debug, line.file, line.number, line.function)
-        .write(line.message, static_cast<const char*>(text)...);
+    const CuteMessageLogger logger(VX_GLOBAL_LOGGER(), Logger::Debug, line.file, line.number,
+                                   line.function);
+    if constexpr (sizeof...(text) == 0)
+        logger.write("%s", line.message);
+    else
+        logger.write(line.message, static_cast<const char*>(text)...);
 }
 
-/// Writes a text as it stands.
+/// Writes a text without any formatting.
 inline void write(const LogLine& line, const QString& text)
 {
     CuteMessageLogger(VX_GLOBAL_LOGGER(), Logger::Debug, line.file, line.number, line.function)
         .write(text);
 }
 
-/// Writes a line item by item: `items` streams them, each of which is followed by a blank.
+/// Writes the text that `items` streams; the stream adds a blank after each item.
 template <typename Items>
 void stream(const LogLine& line, Items&& items)
 {

@@ -4,7 +4,7 @@
 
 #include "log_line.h"
 
-/// The log lines of the printer information.
+/// The log lines of WindowsPrinterInfo.
 namespace log_lines {
 
 inline constexpr char infoFile[] = "windows_printer_info";

@@ -25,8 +25,8 @@ void PrinterSerialFile::record(const QString& serialNumber)
     if (!m_settings) {
         m_settings = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
                                                  companyName, applicationName);
-        // A serial number that only an organisation-wide or system-wide file knows is new to this
-        // one.
+        // Without fallbacks: a serial number that only the organisation's or the system's file
+        // contains is to be recorded in this one too.
         m_settings->setFallbacksEnabled(false);
     }
     if (m_settings->contains(groupName + QLatin1Char('/') + serialNumber))

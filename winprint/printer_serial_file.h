@@ -8,8 +8,8 @@
 
 class QSettings;
 
-/// The user's file of printer serial numbers, each with the moment it was first seen. It is opened
-/// when the first serial number comes and written when this object goes.
+/// The user's file of printer serial numbers, each with the time at which it was first seen. It is
+/// opened at the first call of `record` and written when this object is destroyed.
 class PrinterSerialFile
 {
 public:

@@ -8,11 +8,12 @@
 
 #include <windows.h>
 
-/// A block that the spooler fills: allocated with malloc after a sizing call, because whoever gets
-/// it in the end may have to release it with free.
+/// A block that the spooler fills. It is allocated with malloc and zeroed, because a caller of the
+/// library may have to release it with free. `SpoolerRecord` reads into it.
 class SpoolerBlock
 {
 public:
+    SpoolerBlock() = default;
     explicit SpoolerBlock(DWORD bytes)
         : m_data(std::malloc(bytes))
         , m_bytes(bytes)
@@ -45,7 +46,7 @@ public:
         return static_cast<Record*>(m_data);
     }
 
-    /// Hands the block to the caller, who releases it with free.
+    /// Passes the ownership of the block to the caller, who releases it with free.
     template <typename Record>
     Record* release()
     {
@@ -54,6 +55,6 @@ public:
     }
 
 private:
-    void* m_data;
-    DWORD m_bytes;
+    void* m_data = nullptr;
+    DWORD m_bytes = 0;
 };

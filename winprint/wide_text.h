@@ -6,7 +6,8 @@
 
 #include <windows.h>
 
-/// WCHAR and char16_t are both 16-bit UTF-16 units but not the same type everywhere.
+/// Text as Windows takes it. WCHAR and char16_t are both UTF-16 units, but on some systems they are
+/// different types.
 inline const WCHAR* wide(const char16_t* text)
 {
     return reinterpret_cast<const WCHAR*>(text);

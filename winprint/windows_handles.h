@@ -11,7 +11,8 @@
 #include <winspool.h>
 #include <winsvc.h>
 
-/// Owns a handle of the kind that Traits describes; null stands for none.
+/// Owns a handle of the kind that Traits describes: its type, its invalid value and how it is
+/// closed.
 template <typename Traits>
 class UniqueHandle
 {
@@ -35,35 +36,69 @@ public:
     UniqueHandle(const UniqueHandle&) = delete;
     UniqueHandle& operator=(const UniqueHandle&) = delete;
 
-    bool isValid() const { return m_handle != nullptr; }
+    bool isValid() const { return m_handle != Traits::invalid(); }
     Handle get() const { return m_handle; }
-    Handle release() { return std::exchange(m_handle, nullptr); }
+    /// The variable that holds the handle, for functions that open or close it through a pointer.
+    Handle* address() { return &m_handle; }
+    Handle release() { return std::exchange(m_handle, Traits::invalid()); }
     void close()
     {
-        if (m_handle)
-            Traits::close(std::exchange(m_handle, nullptr));
+        if (isValid())
+            Traits::close(release());
     }
 
 private:
-    Handle m_handle = nullptr;
+    Handle m_handle = Traits::invalid();
 };
 
-struct PrinterHandleTraits
+/// For the functions that return or store null when they fail.
+template <typename HandleType>
+struct InvalidIsNull
+{
+    using Handle = HandleType;
+    static Handle invalid() { return nullptr; }
+};
+
+/// For the functions that return INVALID_HANDLE_VALUE when they fail.
+struct InvalidIsMinusOne
 {
     using Handle = HANDLE;
+    static Handle invalid() { return INVALID_HANDLE_VALUE; }
+};
+
+struct PrinterHandleTraits : InvalidIsNull<HANDLE>
+{
     static void close(Handle handle) { ClosePrinter(handle); }
 };
 
-struct ServiceHandleTraits
+struct ChangeNotificationHandleTraits : InvalidIsMinusOne
 {
-    using Handle = SC_HANDLE;
+    static void close(Handle handle) { FindClosePrinterChangeNotification(handle); }
+};
+
+/// A printer that is watched: its handle has the same invalid value as its change notification's.
+struct WatchedPrinterHandleTraits : InvalidIsMinusOne
+{
+    static void close(Handle handle) { ClosePrinter(handle); }
+};
+
+struct ServiceHandleTraits : InvalidIsNull<SC_HANDLE>
+{
     static void close(Handle handle) { CloseServiceHandle(handle); }
 };
 
-using PrinterHandle = UniqueHandle<PrinterHandleTraits>;
-using ServiceHandle = UniqueHandle<ServiceHandleTraits>;
+struct EventHandleTraits : InvalidIsNull<HANDLE>
+{
+    static void close(Handle handle) { CloseHandle(handle); }
+};
 
-/// Opens a printer, without defaults with default access; invalid when that fails.
+using PrinterHandle = UniqueHandle<PrinterHandleTraits>;
+using WatchedPrinterHandle = UniqueHandle<WatchedPrinterHandleTraits>;
+using ChangeNotificationHandle = UniqueHandle<ChangeNotificationHandleTraits>;
+using ServiceHandle = UniqueHandle<ServiceHandleTraits>;
+using EventHandle = UniqueHandle<EventHandleTraits>;
+
+/// Opens a printer, with default access when `defaults` is null; invalid when that fails.
 inline PrinterHandle openPrinter(const QString& name, PRINTER_DEFAULTSA* defaults = nullptr)
 {
     HANDLE handle = nullptr;

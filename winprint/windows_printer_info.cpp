@@ -3,10 +3,9 @@
 #include "windows_printer_info.h"
 
 #include "device_serial_numbers.h"
-#include "printer_enumeration.h"
 #include "printer_info_log_lines.h"
 #include "printer_serial_file.h"
-#include "spooler_block.h"
+#include "spooler_record.h"
 #include "wide_text.h"
 #include "windows_handles.h"
 
@@ -14,9 +13,9 @@
 
 #include <QtCore/QDebug>
 
-#include <algorithm>
 #include <memory>
 #include <stdexcept>
+#include <string>
 
 using VXPrinting::PrinterType;
 
@@ -45,7 +44,7 @@ bool isOffline(const PRINTER_INFO_2W& info)
            (info.Status & PRINTER_STATUS_OFFLINE);
 }
 
-/// What is asked once for a whole enumeration.
+/// What is read or opened once for a whole enumeration.
 struct Lookups
 {
     DeviceSerialNumbers serialNumbers;
@@ -60,8 +59,8 @@ struct Lookups
     }
 };
 
-/// Everything of a record that follows from the port and the flags; `portName` holds the spooler's
-/// name of the port.
+/// Fills everything of a record that depends on the port and the flags. `portName` must hold the
+/// port's name in the spooler.
 void fillFromPortAndFlags(AvailablePrinters& printer, const PRINTER_INFO_2W& info, Lookups& lookups)
 {
     printer.portName.remove(QLatin1String("USB"));
@@ -76,49 +75,56 @@ void fillFromPortAndFlags(AvailablePrinters& printer, const PRINTER_INFO_2W& inf
     printer.isOffline = isOffline(info);
 }
 
-/// What `getPrinterInfo2` hands out.
+using PrinterRecord = SpoolerRecord<PRINTER_INFO_2W, 2>;
+
+/// Owns what `getPrinterInfo2` returns.
 struct RecordDeleter
 {
     void operator()(PRINTER_INFO_2W* info) const { std::free(info); }
 };
 using OwnedRecord = std::unique_ptr<PRINTER_INFO_2W, RecordDeleter>;
 
-/// Code and text of a Windows error as the log shows them.
+/// Which of the texts that every record must have is absent: "name", "port" or "driver"; null when
+/// none is.
+const char* missingText(const PRINTER_INFO_2W& info)
+{
+    if (!info.pPrinterName)
+        return "name";
+    if (!info.pPortName)
+        return "port";
+    return info.pDriverName ? nullptr : "driver";
+}
+
+/// Writes the code and the text of a Windows error as the log shows them.
 void streamError(QDebug& stream, DWORD error)
 {
-    stream.noquote() << error << WindowsErrors::winError(error);
+    stream.noquote() << error << windows_errors::winError(error);
 }
 
 } // namespace
 
 PRINTER_INFO_2W* WindowsPrinterInfo::getPrinterInfo2(HANDLE printer)
 {
-    DWORD needed = 0;
-    if (!GetPrinterW(printer, 2, nullptr, 0, &needed)) {
-        const DWORD error = GetLastError();
-        if (error != ERROR_INSUFFICIENT_BUFFER) {
-            log_lines::stream(log_lines::printerInfoSizing,
-                              [&](QDebug& line) { streamError(line, error); });
-            return nullptr;
-        }
-    }
-
-    SpoolerBlock block(std::max<DWORD>(needed, sizeof(PRINTER_INFO_2W)));
-    if (block.isNull()) {
+    auto record = PrinterRecord::ofPrinter(printer);
+    switch (record.failure()) {
+    case SpoolerRecordFailure::None:
+        break;
+    case SpoolerRecordFailure::Sizing:
+        log_lines::stream(log_lines::printerInfoSizing,
+                          [&](QDebug& line) { streamError(line, record.error()); });
+        return nullptr;
+    case SpoolerRecordFailure::Allocation:
         log_lines::stream(log_lines::printerInfoMemory,
                           [](QDebug& line) { line << "Failure to allocate memory."; });
         return nullptr;
-    }
-
-    if (!GetPrinterW(printer, 2, block.bytes(), block.size(), &needed)) {
-        const DWORD error = GetLastError();
+    case SpoolerRecordFailure::Filling:
         log_lines::stream(log_lines::printerInfoReading, [&](QDebug& line) {
             line << "Failure to access the printer ";
-            streamError(line, error);
+            streamError(line, record.error());
         });
         return nullptr;
     }
-    return block.release<PRINTER_INFO_2W>();
+    return record.release();
 }
 
 bool WindowsPrinterInfo::isPrinterOffline(PRINTER_INFO_2W* info)
@@ -173,14 +179,15 @@ PrinterType WindowsPrinterInfo::printerType(const QString& name)
 
 QList<AvailablePrinters> WindowsPrinterInfo::getAvailablePrinters()
 {
-    const PrinterEnumeration spooler;
-    if (spooler.printers().empty())
+    constexpr DWORD localAndConnected = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
+    const auto records = PrinterRecord::ofPrinters(localAndConnected);
+    if (records.all().empty())
         return {};
 
     QList<AvailablePrinters> printers;
-    printers.reserve(static_cast<qsizetype>(spooler.printers().size()));
+    printers.reserve(static_cast<qsizetype>(records.all().size()));
     Lookups lookups;
-    for (const PRINTER_INFO_2W& info : spooler.printers()) {
+    for (const PRINTER_INFO_2W& info : records.all()) {
         if (const char* const missing = missingText(info))
             throw std::logic_error(std::string("the print spooler lists a printer without a ") +
                                    missing);

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// A host in one file: prints the maker's label printers and whatever happens to them, until it is
-// interrupted or for so many seconds. Usage: minimal_host [--log FILE] [SECONDS]
+// A host in one file. It prints the maker's label printers, and prints them again at every change,
+// until it is interrupted or for the given number of seconds.
+//
+// Usage: minimal_host [--log FILE] [SECONDS]
+//
+// Each example is complete, so that you can copy it: all of them contain keepLog and the lines that
+// load the titles.
 #include <ConsoleAppender.h>
 #include <FileAppender.h>
 #include <Logger.h>
@@ -17,7 +22,7 @@
 #include <cstring>
 
 static QTextStream out(stdout);
-static int outputError = 0; // why the output could not be written
+static int outputError = 0; // errno of the first failed write
 
 static void keepLog(const QString& fileName)
 {
@@ -79,7 +84,7 @@ int main(int argc, char* argv[])
         QTimer::singleShot(std::chrono::seconds(seconds), qApp, &QCoreApplication::quit);
     if (outputError == 0)
         QCoreApplication::exec();
-    // Who closes the pipe that this writes to has read all that he wants.
+    // A reader that closes the pipe has read all it wants, so that is no error.
     if (outputError == 0 || outputError == EPIPE)
         return 0;
     QTextStream(stderr) << "minimal_host: standard output could not be written: "

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// The host with a window. Usage: widgets_host [--log FILE]
+// A host with a window.
+//
+// Usage: widgets_host [--log FILE]
+//
+// Each example is complete, so that you can copy it: all of them contain keepLog and the lines that
+// load the titles.
 #include "printer_window.h"
 
 #include <ConsoleAppender.h>

@@ -2,17 +2,20 @@
 // Copyright The VxPrinterStatus authors
 #include "printer_window.h"
 
+#include <printer_types.h>
+
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace {
 
-/// What is loaded, with its colour beside it; empty where nothing is, or nothing has been reported.
+/// A table cell for a supply or a ribbon, with its colour beside the text. The cell is empty if
+/// nothing is loaded or nothing has been reported yet.
 QTableWidgetItem* loadedItem(const QString& sku, const QString& name, const QString& colorHex,
                              int percentage)
 {
-    if (sku.isEmpty() || sku == QStringLiteral("-1"))
+    if (sku.isEmpty() || sku == VXPrinting::nothingLoaded)
         return new QTableWidgetItem;
     auto* item = new QTableWidgetItem(QStringLiteral("%1, %2 %").arg(name).arg(percentage));
     item->setData(Qt::DecorationRole, QColor(colorHex));
@@ -47,7 +50,7 @@ PrinterWindow::PrinterWindow(QWidget* parent)
     connect(&m_printers, &Controller::activeDefaultPrinterSetSignal, this,
             &PrinterWindow::showPrinters);
     connect(&m_printers, &Controller::printerErrorChangedSignal, &m_warning, &QLabel::setVisible);
-    // A printer that is found is told of when it first reports, and some never do.
+    // A new printer causes no signal before its first report, and some never report.
     connect(search, &QPushButton::clicked, this, [this] {
         m_printers.checkForPrinters();
         showPrinters();

@@ -8,7 +8,7 @@
 #include <QtWidgets/QTableWidget>
 #include <QtWidgets/QWidget>
 
-/// A window with the maker's label printers, as they are at the moment.
+/// A window with a table of the maker's label printers, which is updated at every change.
 class PrinterWindow : public QWidget
 {
     Q_OBJECT

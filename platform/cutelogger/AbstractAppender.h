@@ -8,7 +8,7 @@
 
 #include <atomic>
 
-/// A place that records go to. Records of several threads reach it one at a time.
+/// A destination for records. It gets one record at a time, even from several threads.
 class CUTELOGGERSHARED_EXPORT AbstractAppender
 {
 public:
@@ -16,7 +16,7 @@ public:
     virtual ~AbstractAppender();
     Q_DISABLE_COPY_MOVE(AbstractAppender)
 
-    /// The least level that is taken; `Debug` unless set.
+    /// The lowest level that is written. The default is `Debug`.
     Logger::LogLevel detailsLevel() const;
     void setDetailsLevel(Logger::LogLevel level);
     void setDetailsLevel(const QString& level);
@@ -30,7 +30,7 @@ protected:
                         int line, const char* function, const QString& category,
                         const QString& message) = 0;
 
-    /// The record as the appenders of this library write it, with its line end.
+    /// The record as one line of text, in the format of this library's appenders.
     static QString formatted(const QDateTime& timeStamp, Logger::LogLevel logLevel,
                              const char* file, int line, const char* function,
                              const QString& category, const QString& message);

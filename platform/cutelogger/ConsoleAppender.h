@@ -4,7 +4,7 @@
 
 #include "AbstractAppender.h"
 
-/// Writes records to standard error, a line each.
+/// Writes each record to standard error as one line.
 class CUTELOGGERSHARED_EXPORT ConsoleAppender : public AbstractAppender
 {
 protected:

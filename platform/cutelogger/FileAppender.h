@@ -6,8 +6,8 @@
 
 #include <QtCore/QFile>
 
-/// Appends records to a file in UTF-8, a line each, which are in the file when the call returns. A
-/// file that cannot be written loses them, with one warning.
+/// Appends each record to a file as one line in UTF-8, and flushes the file before it returns. If
+/// the file cannot be written, records are lost, with one warning.
 class CUTELOGGERSHARED_EXPORT FileAppender : public AbstractAppender
 {
 public:
@@ -16,7 +16,7 @@ public:
     Q_DISABLE_COPY_MOVE(FileAppender)
 
     QString fileName() const;
-    /// Closes the file and goes on in another.
+    /// Closes the file and continues with another one.
     void setFileName(const QString& fileName);
 
 protected:

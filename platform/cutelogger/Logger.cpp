@@ -27,7 +27,7 @@ struct Logger::Private
     /// Deletes all appenders.
     void clear();
     QMutex remarksMutex;
-    QSet<QString> remarks; ///< made already
+    QSet<QString> remarks; ///< that have been printed
     void remarkOnce(const QString& remark);
 };
 
@@ -36,43 +36,28 @@ namespace {
 constexpr std::array<const char*, 6> levelNames{"Trace",   "Debug", "Info",
                                                 "Warning", "Error", "Fatal"};
 
-/// The time that the clock on the wall shows. How far that is from universal time is asked once a
-/// second and not for every line: the system looks at its time zone's file for it, which takes
-/// longer than all the rest of a line.
-QDateTime wallClock()
+/// The local time. Its offset from UTC is queried once a second and not for every line: the system
+/// looks into its time zone's file for it, which takes longer than the rest of a line.
+QDateTime localTime()
 {
     struct Offset
     {
-        quint32 second = 0; ///< in which it was asked
-        qint32 seconds = 0; ///< east of universal time
+        quint32 queriedAt = 0;     ///< in seconds
+        qint32 secondsFromUtc = 0; ///< positive to the east
     };
-    static std::atomic<Offset> kept{Offset{}};
+    static std::atomic<Offset> cached{Offset{}};
 
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
     const auto second = static_cast<quint32>(now / 1000);
-    Offset offset = kept.load(std::memory_order_relaxed);
-    if (offset.second != second) {
+    Offset offset = cached.load(std::memory_order_relaxed);
+    if (offset.queriedAt != second) {
         offset = {second, QDateTime::fromMSecsSinceEpoch(now).offsetFromUtc()};
-        kept.store(offset, std::memory_order_relaxed);
+        cached.store(offset, std::memory_order_relaxed);
     }
-    return QDateTime::fromMSecsSinceEpoch(now, Qt::OffsetFromUTC, offset.seconds);
+    return QDateTime::fromMSecsSinceEpoch(now, Qt::OffsetFromUTC, offset.secondsFromUtc);
 }
 
-/// As QString::vasprintf, which composes a text of its pieces and takes several times as long.
-QString formatted(const char* message, va_list arguments)
-{
-    va_list again;
-    va_copy(again, arguments);
-    std::array<char, 512> text;
-    const int length = std::vsnprintf(text.data(), text.size(), message, arguments);
-    const bool fits = length >= 0 && static_cast<std::size_t>(length) < text.size();
-    const QString result =
-        fits ? QString::fromUtf8(text.data(), length) : QString::vasprintf(message, again);
-    va_end(again);
-    return result;
-}
-
-void say(const QString& text)
+void printLine(const QString& text)
 {
     std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
     std::fflush(stderr);
@@ -102,7 +87,7 @@ void writeQtMessage(QtMsgType type, const QMessageLogContext& context, const QSt
                                     hasCategory ? context.category : nullptr, message);
 }
 
-/// Whether the global logger is set up for the application object that there is, or will be.
+/// Whether the global logger is set up for the current application object or the next one.
 std::atomic<bool> isSetUp = false;
 
 } // namespace
@@ -110,7 +95,7 @@ std::atomic<bool> isSetUp = false;
 void Logger::Private::clear()
 {
     const QWriteLocker guard(&lock);
-    // One that is registered for several purposes is deleted once.
+    // An appender that is registered more than once must be deleted once.
     QSet<AbstractAppender*> all(appenders.cbegin(), appenders.cend());
     for (AbstractAppender* appender : std::as_const(categoryAppenders))
         all.insert(appender);
@@ -126,7 +111,7 @@ void Logger::Private::remarkOnce(const QString& remark)
     if (remarks.contains(remark))
         return;
     remarks.insert(remark);
-    say(remark);
+    printLine(remark);
 }
 
 Logger::Logger()
@@ -140,8 +125,8 @@ Logger::~Logger()
 
 Logger* Logger::globalInstance()
 {
-    // Never destroyed: threads and destructors of static objects may log until the very end.
-    static Logger* const logger = new Logger;
+    // Never destroyed: threads and static destructors may log until the process ends.
+    static auto* const logger = new Logger;
     if (!isSetUp.load(std::memory_order_acquire) && !isSetUp.exchange(true)) {
         qInstallMessageHandler(writeQtMessage);
         qAddPostRoutine([] {
@@ -171,7 +156,7 @@ void Logger::registerAppender(AbstractAppender* appender)
 {
     const QWriteLocker guard(&d->lock);
     if (d->appenders.contains(appender))
-        say(QStringLiteral("log: an appender was registered that is registered already"));
+        printLine(QStringLiteral("log: the same appender was registered twice"));
     else
         d->appenders.append(appender);
 }
@@ -180,7 +165,7 @@ void Logger::registerCategoryAppender(const QString& category, AbstractAppender*
 {
     const QWriteLocker guard(&d->lock);
     if (d->categoryAppenders.values().contains(appender))
-        say(QStringLiteral("log: an appender was registered that is registered already"));
+        printLine(QStringLiteral("log: the same appender was registered twice"));
     else
         d->categoryAppenders.insert(category, appender);
 }
@@ -202,39 +187,40 @@ void Logger::logToGlobalInstance(const QString& category, bool isLinked)
         global->d->linkedCategories.remove(category);
 }
 
-bool Logger::hand(const QDateTime& timeStamp, LogLevel level, const char* file, int line,
-                  const char* function, const QString& category, const QString& message)
+bool Logger::dispatch(const QDateTime& timeStamp, LogLevel level, const char* file, int line,
+                      const char* function, const QString& category, const QString& message)
 {
     const QReadLocker guard(&d->lock);
-    bool isTaken = false;
-    const auto handTo = [&](const QList<AbstractAppender*>& appenders) {
+    bool isWritten = false;
+    const auto writeTo = [&](const QList<AbstractAppender*>& appenders) {
         for (AbstractAppender* appender : appenders)
             appender->write(timeStamp, level, file, line, function, category, message);
-        isTaken = isTaken || !appenders.isEmpty();
+        isWritten = isWritten || !appenders.isEmpty();
     };
     if (!category.isNull())
-        handTo(d->categoryAppenders.values(category));
+        writeTo(d->categoryAppenders.values(category));
     if (category.isNull() || d->linkedCategories.contains(category))
-        handTo(d->appenders);
-    return isTaken;
+        writeTo(d->appenders);
+    return isWritten;
 }
 
 void Logger::write(const QDateTime& timeStamp, LogLevel level, const char* file, int line,
                    const char* function, const char* category, const QString& message)
 {
     const QString categoryText = category ? QString::fromUtf8(category) : QString();
-    bool isTaken = hand(timeStamp, level, file, line, function, categoryText, message);
-    // What has a category reaches the global logger from any other.
+    bool isWritten = dispatch(timeStamp, level, file, line, function, categoryText, message);
+    // Every other logger passes records with a category on to the global one as well.
     if (category && this != globalInstance()) {
-        globalInstance()->hand(timeStamp, level, file, line, function, categoryText, message);
-        isTaken = true;
+        globalInstance()->dispatch(timeStamp, level, file, line, function, categoryText, message);
+        isWritten = true;
     }
-    if (!isTaken) {
+    if (!isWritten) {
         d->remarkOnce(category
                           ? QStringLiteral("log: no appender is registered for the category \"%1\"")
                                 .arg(categoryText)
                           : QStringLiteral("log: no appender is registered"));
-        say(QStringLiteral("%1 <%2> %3")
+        printLine(
+            QStringLiteral("%1 <%2> %3")
                 .arg(levelToString(level).leftJustified(7), QString::fromUtf8(function), message));
     }
     if (level == Fatal)
@@ -244,7 +230,7 @@ void Logger::write(const QDateTime& timeStamp, LogLevel level, const char* file,
 void Logger::write(LogLevel level, const char* file, int line, const char* function,
                    const char* category, const QString& message)
 {
-    write(wallClock(), level, file, line, function, category, message);
+    write(localTime(), level, file, line, function, category, message);
 }
 
 CuteMessageLogger::CuteMessageLogger(Logger* logger, Logger::LogLevel level, const char* file,
@@ -265,9 +251,18 @@ CuteMessageLogger::~CuteMessageLogger()
 
 void CuteMessageLogger::write(const char* message, ...) const
 {
+    // QString::vasprintf() builds the text piece by piece and takes several times as long.
+    std::array<char, 512> buffer;
     va_list arguments;
     va_start(arguments, message);
-    const QString text = formatted(message, arguments);
+    const int length = std::vsnprintf(buffer.data(), buffer.size(), message, arguments);
+    va_end(arguments);
+    if (length >= 0 && static_cast<std::size_t>(length) < buffer.size()) {
+        write(QString::fromUtf8(buffer.data(), length));
+        return;
+    }
+    va_start(arguments, message);
+    const QString text = QString::vasprintf(message, arguments);
     va_end(arguments);
     write(text);
 }

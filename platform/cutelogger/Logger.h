@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// A stand-in for CuteLogger where that library is not installed: the same names and the same
-// behaviour, so that a host can have either.
+// A replacement for CuteLogger where that library is not installed. It has the same names and the
+// same behaviour, so that a host can use either.
 #pragma once
 
 #include "CuteLogger_global.h"
@@ -15,11 +15,11 @@
 
 class AbstractAppender;
 
-/// Hands records to appenders. May be used on any thread.
+/// Passes records to appenders. Thread-safe.
 ///
-/// A record that no appender is registered for goes to standard error, with one remark the first
-/// time; one below the level of the registered appenders goes nowhere. A fatal record ends the
-/// process once it is written.
+/// A record without a registered appender goes to standard error, the first time with a remark. A
+/// record below the level of the registered appenders is dropped. A fatal record ends the process
+/// after it has been written.
 class CUTELOGGERSHARED_EXPORT Logger
 {
 public:
@@ -38,23 +38,24 @@ public:
     ~Logger();
     Q_DISABLE_COPY_MOVE(Logger)
 
-    /// The logger of the whole process. From the first use on Qt's own messages are records too,
-    /// and when the application object ends its appenders are deleted.
+    /// The logger of the process. From its first use, Qt's own messages become records too. Its
+    /// appenders are deleted with the application object.
     static Logger* globalInstance();
 
     static QString levelToString(LogLevel level);
-    /// The level of a name, in any letter case and with surrounding blanks; `Debug` for any other
+    /// The level with a name, ignoring case and surrounding white space; `Debug` for any other
     /// text.
     static LogLevel levelFromString(const QString& name);
 
-    /// Takes the appender over, for records without a category; a second registration of the same
-    /// one is refused with a remark on standard error.
+    /// Takes ownership of an appender for records without a category. Registering it again is
+    /// refused with a remark on standard error.
     void registerAppender(AbstractAppender* appender);
-    /// The same for records of a category.
+    /// The same for records with a category.
     void registerCategoryAppender(const QString& category, AbstractAppender* appender);
-    /// Gives the appender back to the caller; one that is not registered is left alone.
+    /// Returns the ownership of an appender to the caller. Does nothing if it is not registered.
     void removeAppender(AbstractAppender* appender);
-    /// Whether records of the category reach the global logger's other appenders as well.
+    /// Sets whether records with a category also go to the global logger's appenders for records
+    /// without one.
     void logToGlobalInstance(const QString& category, bool isLinked = false);
 
     void write(const QDateTime& timeStamp, LogLevel level, const char* file, int line,
@@ -63,28 +64,28 @@ public:
                const char* category, const QString& message);
 
 private:
-    /// Writes a record, and answers whether an appender was there to take it.
-    bool hand(const QDateTime& timeStamp, LogLevel level, const char* file, int line,
-              const char* function, const QString& category, const QString& message);
+    /// Passes a record to its appenders. Returns whether there was one.
+    bool dispatch(const QDateTime& timeStamp, LogLevel level, const char* file, int line,
+                  const char* function, const QString& category, const QString& message);
 
     struct Private;
     std::unique_ptr<Private> d;
 };
 
-/// One record in the making: its place and level, and three ways to give its message.
+/// A record without its message: its place and level, and three ways to add the message.
 class CUTELOGGERSHARED_EXPORT CuteMessageLogger
 {
 public:
     CuteMessageLogger(Logger* logger, Logger::LogLevel level, const char* file, int line,
                       const char* function, const char* category = nullptr);
-    /// Writes what was streamed, if anything was.
+    /// Writes what was streamed, if anything.
     ~CuteMessageLogger();
     Q_DISABLE_COPY_MOVE(CuteMessageLogger)
 
-    /// printf-style, with 8-bit text.
+    /// A message in the style of printf(), with 8-bit text.
     void write(const char* message, ...) const Q_ATTRIBUTE_FORMAT_PRINTF(2, 3);
     void write(const QString& message) const;
-    /// A stream for the message, written when this object ends.
+    /// A stream for the message, which is written when this object is destroyed.
     QDebug write() const;
 
 private:
@@ -97,6 +98,6 @@ private:
     mutable std::unique_ptr<QString> m_streamed;
 };
 
-/// The global logger, under the names that older and newer releases give it.
+/// The global logger, under its names in older and newer releases.
 CUTELOGGERSHARED_EXPORT Logger* loggerInstance();
 CUTELOGGERSHARED_EXPORT Logger* cuteLoggerInstance();

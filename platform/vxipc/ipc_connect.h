@@ -8,8 +8,7 @@
 
 class QLocalSocket;
 
-/// Connects `socket` to the user's own endpoint `name`, which takes `limit` at most. A socket that
-/// is not connected then has not been: the text says why where there is more to say than that
-/// nobody answers.
+/// Connects `socket` to the user's own endpoint `name`, within `limit`. If the socket is not
+/// connected afterwards, the returned text says why, unless simply no endpoint answers.
 QString connectToEndpoint(QLocalSocket& socket, const QString& name,
                           std::chrono::milliseconds limit);

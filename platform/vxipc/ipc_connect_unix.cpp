@@ -9,9 +9,9 @@
 QString connectToEndpoint(QLocalSocket& socket, const QString& name,
                           std::chrono::milliseconds limit)
 {
-    if (const QString obstacle = IpcScope::distrust(name); !obstacle.isEmpty())
+    if (const QString obstacle = ipc_scope::distrust(name); !obstacle.isEmpty())
         return obstacle;
-    socket.connectToServer(IpcScope::address(name));
+    socket.connectToServer(ipc_scope::address(name));
     if (!socket.waitForConnected(static_cast<int>(limit.count())))
         socket.abort();
     return {};

@@ -12,21 +12,20 @@
 
 namespace {
 
-using WindowsSecurity::OwnedHandle;
+using windows_security::OwnedHandle;
 
-/// Waits for an end of the pipe to be free. Null with Windows' reason in GetLastError().
+/// Waits for a free instance of the pipe. Null on failure, with the reason in GetLastError().
 OwnedHandle openPipe(const QString& path, std::chrono::milliseconds limit)
 {
     const QDeadlineTimer end(limit);
     for (;;) {
-        // The other end may learn who this is and nothing else: by default it could act as this
-        // user.
-        OwnedHandle pipe = WindowsSecurity::owned(CreateFileW(
+        // The server may identify this user, but not impersonate him, which it could by default.
+        OwnedHandle pipe = windows_security::owned(CreateFileW(
             qUtf16Printable(path), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
             FILE_FLAG_OVERLAPPED | SECURITY_SQOS_PRESENT | SECURITY_IDENTIFICATION, nullptr));
         if (pipe || GetLastError() != ERROR_PIPE_BUSY || end.hasExpired())
             return pipe;
-        // 0 stands for the pipe's own time.
+        // 0 would stand for the pipe's own default time-out.
         WaitNamedPipeW(qUtf16Printable(path),
                        static_cast<DWORD>(std::max<qint64>(end.remainingTime(), 1)));
     }
@@ -37,7 +36,7 @@ OwnedHandle openPipe(const QString& path, std::chrono::milliseconds limit)
 QString connectToEndpoint(QLocalSocket& socket, const QString& name,
                           std::chrono::milliseconds limit)
 {
-    const QString path = QLatin1String(R"(\\.\pipe\)") + IpcScope::address(name);
+    const QString path = QLatin1String(R"(\\.\pipe\)") + ipc_scope::address(name);
     OwnedHandle pipe = openPipe(path, limit);
     if (!pipe) {
         const DWORD error = GetLastError();
@@ -45,8 +44,8 @@ QString connectToEndpoint(QLocalSocket& socket, const QString& name,
                    ? QString()
                    : QStringLiteral("%1: %2").arg(path, qt_error_string(static_cast<int>(error)));
     }
-    const QString user = WindowsSecurity::userOfProcess();
-    if (user.isEmpty() || WindowsSecurity::ownerOfPipe(pipe.get()) != user)
+    const QString user = windows_security::userOfProcess();
+    if (user.isEmpty() || windows_security::ownerOfPipe(pipe.get()) != user)
         return QStringLiteral("%1 belongs to another user").arg(path);
     if (socket.setSocketDescriptor(reinterpret_cast<qintptr>(pipe.get())))
         pipe.release();

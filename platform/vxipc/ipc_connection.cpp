@@ -19,7 +19,7 @@ constexpr auto turnTime = 250us;
 /// Parsing a line up to here takes about a turn.
 constexpr qsizetype shortLine = qsizetype{16} << 10;
 constexpr qsizetype readChunk = qsizetype{64} << 10;
-/// How long a client that is refused has to take the answer that says so, and to close.
+/// How long a refused client has to read the answer that says so, and to disconnect.
 constexpr auto farewell = 1s;
 
 } // namespace
@@ -30,7 +30,7 @@ IpcConnection::IpcConnection(QLocalSocket* socket, IpcDispatcher& dispatcher, QO
     , m_dispatcher(dispatcher)
 {
     m_socket->setParent(this);
-    // What a client sends faster than it is worked on waits on the client's side.
+    // What a client sends faster than it is handled waits on the client's side.
     m_socket->setReadBufferSize(readChunk);
     connect(m_socket, &QLocalSocket::readyRead, this, &IpcConnection::onReadyRead);
     connect(m_socket, &QLocalSocket::disconnected, this, &IpcConnection::onDisconnected);
@@ -41,9 +41,9 @@ IpcConnection::~IpcConnection()
 {
     m_socket->disconnect(this);
     dropWork();
-    if (!m_isInTurn)
+    if (m_work != Work::InTurn)
         return;
-    // The socket is telling that it is readable and needs to outlive what that led to.
+    // The socket may be emitting readyRead, and has to outlive that.
     m_socket->setParent(nullptr);
     m_socket->abort();
     m_socket->deleteLater();
@@ -51,50 +51,43 @@ IpcConnection::~IpcConnection()
 
 void IpcConnection::takeTurn()
 {
-    m_isTurnWanted = false;
     work();
 }
 
 std::optional<std::chrono::steady_clock::time_point> IpcConnection::silentSince() const
 {
-    if (m_isParsing || m_message.size > 0)
+    if (m_work == Work::Parsing || m_message.size > 0)
         return std::nullopt;
     return m_lastRequest;
 }
 
 void IpcConnection::onReadyRead()
 {
-    // Together, many that each take a whole turn would keep those waiting who take little.
-    if (m_tookWholeTurn)
-        wantTurn();
-    else
+    if (m_work == Work::Idle)
         work();
+    else if (m_work == Work::Resting)
+        wantTurn();
 }
 
 void IpcConnection::onDisconnected()
 {
-    m_isDisconnected = true;
-    // What arrived before the client left still counts.
+    m_client = isRefused() ? Client::Gone : Client::Left;
+    // What arrived before the client left is still handled.
     onReadyRead();
 }
 
 void IpcConnection::onParsed()
 {
-    // Of a line that was dropped since.
-    if (!m_isParsing)
+    // The line has been dropped since.
+    if (m_work != Work::Parsing)
         return;
-    m_isParsing = false;
     startMessage(m_parsing.future().takeResult());
     wantTurn();
 }
 
 void IpcConnection::work()
 {
-    // A slot that runs an event loop of its own ends up here; the others go on when it is their
-    // turn, or the line is parsed.
-    if (m_isInTurn || m_isParsing || m_isTurnWanted)
-        return;
-    m_isInTurn = true;
+    m_work = Work::InTurn;
     const QPointer<IpcConnection> self(this);
     const QDeadlineTimer end(turnTime, Qt::PreciseTimer);
     bool isIdle = false;
@@ -108,42 +101,41 @@ void IpcConnection::work()
         } else {
             takeLine();
         }
-    } while (!isIdle && !m_isParsing && !end.hasExpired());
+    } while (!isIdle && m_work == Work::InTurn && !end.hasExpired());
     m_socket->flush();
-    m_isInTurn = false;
-    m_tookWholeTurn = end.hasExpired();
 
-    if (m_isParsing)
+    if (m_work == Work::Parsing)
         return;
-    if (!isIdle)
+    if (!isIdle) {
         wantTurn();
-    else if (m_isDisconnected)
+        return;
+    }
+    m_work = end.hasExpired() ? Work::Resting : Work::Idle;
+    if (!isConnected())
         Q_EMIT finished();
 }
 
 void IpcConnection::wantTurn()
 {
-    if (m_isTurnWanted)
-        return;
-    m_isTurnWanted = true;
+    m_work = Work::Queued;
     Q_EMIT turnWanted();
 }
 
 bool IpcConnection::fetchLine()
 {
-    while (!m_received.hasLine() && m_received.lineSize() <= JsonRpc::maximumLine) {
+    while (!m_received.hasLine() && m_received.lineSize() <= json_rpc::maximumLine) {
         if (m_socket->bytesAvailable() == 0)
             return false;
-        if (m_isRefused) {
+        if (isRefused()) {
             m_socket->read(readChunk);
             continue;
         }
         m_received.appendFrom(*m_socket, readChunk);
     }
-    if (m_received.lineSize() <= JsonRpc::maximumLine)
+    if (m_received.lineSize() <= json_rpc::maximumLine)
         return true;
-    refuse({JsonRpc::LineTooLong,
-            QStringLiteral("Line too long: at most %1 bytes are read").arg(JsonRpc::maximumLine),
+    refuse({json_rpc::LineTooLong,
+            QStringLiteral("Line too long: at most %1 bytes are read").arg(json_rpc::maximumLine),
             {}});
     return false;
 }
@@ -157,8 +149,8 @@ void IpcConnection::takeLine()
         startMessage(IpcDispatcher::parse(line));
         return;
     }
-    m_isParsing = true;
-    m_parsing.setFuture(m_dispatcher.parseAside(line.toByteArray()));
+    m_work = Work::Parsing;
+    m_parsing.setFuture(m_dispatcher.parseInBackground(line.toByteArray()));
 }
 
 void IpcConnection::startMessage(IpcDispatcher::Message message)
@@ -193,8 +185,8 @@ void IpcConnection::answer(const QByteArray& line)
     }
     m_answers += m_answers.isEmpty() ? '[' : ',';
     m_answers += QByteArrayView(line).chopped(1);
-    // Already more than the client may have waiting for it.
-    if (m_answers.size() > JsonRpc::maximumAnswers)
+    // More than a client may leave unread.
+    if (m_answers.size() > json_rpc::maximumAnswers)
         closeOverflowing();
 }
 
@@ -207,14 +199,14 @@ void IpcConnection::endMessage()
 
 void IpcConnection::write(const QByteArray& bytes)
 {
-    if (m_isDisconnected)
+    if (!isConnected())
         return;
-    if (m_socket->bytesToWrite() + bytes.size() > JsonRpc::maximumAnswers)
+    if (m_socket->bytesToWrite() + bytes.size() > json_rpc::maximumAnswers)
         m_socket->flush();
-    if (m_socket->bytesToWrite() + bytes.size() > JsonRpc::maximumAnswers)
+    if (m_socket->bytesToWrite() + bytes.size() > json_rpc::maximumAnswers)
         closeOverflowing();
     else if (m_received.hasLine())
-        // The next answers can go with this one.
+        // The answer to the next line can be sent together with this one.
         m_socket->write(bytes);
     else
         sendNow(*m_socket, bytes);
@@ -222,26 +214,27 @@ void IpcConnection::write(const QByteArray& bytes)
 
 void IpcConnection::closeOverflowing()
 {
-    // Without an answer: a client that does not take its answers would not take this one either.
+    // Without an answer: a client that does not read its answers would not read this one either.
     dropWork();
-    m_isRefused = true;
+    m_client = isConnected() ? Client::Refused : Client::Gone;
     m_socket->abort();
 }
 
-void IpcConnection::refuse(const JsonRpc::Error& error)
+void IpcConnection::refuse(const json_rpc::Error& error)
 {
     dropWork();
-    m_isRefused = true;
-    write(JsonRpc::failure(QJsonValue::Null, error));
+    m_client = isConnected() ? Client::Refused : Client::Gone;
+    write(json_rpc::failure(QJsonValue::Null, error));
     m_socket->flush();
-    // Not at once: the answer is lost to a client whose sending fails before it reads.
+    // Not at once: a client that is still sending would fail to send and never read the answer.
     QTimer::singleShot(farewell, m_socket, &QLocalSocket::abort);
 }
 
 void IpcConnection::dropWork()
 {
     m_received.clear();
-    m_isParsing = false;
+    if (m_work == Work::Parsing)
+        m_work = Work::Idle;
     m_parsing.setFuture({});
     dropMessage();
     m_answers.clear();
@@ -251,6 +244,6 @@ void IpcConnection::dropMessage()
 {
     m_nextRequest = 0;
     if (m_message.isLong)
-        m_dispatcher.discardAside(std::move(m_message));
+        m_dispatcher.discardInBackground(std::move(m_message));
     m_message = {};
 }

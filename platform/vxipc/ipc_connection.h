@@ -14,12 +14,12 @@
 
 class QLocalSocket;
 
-/// One client of an endpoint, for as long as it is connected and after that until what it sent is
-/// done.
+/// One client of an endpoint. Lives until the client has disconnected and everything that it sent
+/// is handled.
 ///
-/// Works in turns of a fraction of a millisecond, so that no client keeps the others, or the thread
-/// that the endpoint shares with its host, waiting for all it has sent. Long lines are parsed on
-/// another thread meanwhile.
+/// Works in turns of a fraction of a millisecond, so that a client that sends a lot delays neither
+/// the other clients nor the thread that the endpoint shares with its host. Long lines are parsed
+/// on another thread.
 class IpcConnection : public QObject
 {
     Q_OBJECT
@@ -30,32 +30,78 @@ public:
     ~IpcConnection() override;
     Q_DISABLE_COPY_MOVE(IpcConnection)
 
-    /// Handles requests until the turn's time is over. May end with the connection destroyed, by
-    /// what a request called.
+    /// Handles requests until the turn's time is up, in answer to turnWanted(). A request may call
+    /// something that destroys the connection.
     void takeTurn();
 
-    /// Answers why nothing more of the client's is done, and ends the connection soon after unless
-    /// the client does.
-    void refuse(const JsonRpc::Error& error);
-    bool isRefused() const { return m_isRefused; }
+    /// Tells the client why it is no longer served, and closes the connection soon after unless the
+    /// client does so first.
+    void refuse(const json_rpc::Error& error);
+    bool isRefused() const { return m_client == Client::Refused || m_client == Client::Gone; }
 
-    /// When the client asked last, or came; nothing while something it asked is being done.
+    /// When the client's last request was handled, or when it connected if there was none. Nothing
+    /// while one of its requests is in progress.
     std::optional<std::chrono::steady_clock::time_point> silentSince() const;
 
 Q_SIGNALS:
-    /// There is more to do than the client's turn had time for.
+    /// There is more to do; the connection waits for takeTurn().
     void turnWanted();
-    /// The client is gone and everything it sent is done.
+    /// The client has disconnected and everything it sent is handled.
     void finished();
 
 private:
+    /// What the connection does about the client's requests.
+    ///
+    ///     Idle      the client sends or leaves               -> InTurn
+    ///     Resting   the client sends or leaves               -> Queued
+    ///     Queued    takeTurn()                               -> InTurn
+    ///     InTurn    everything is done                       -> Idle
+    ///               everything is done in the whole time     -> Resting
+    ///               the time is up, but there is more to do  -> Queued
+    ///               a long line arrives                      -> Parsing
+    ///     Parsing   the line is parsed                       -> Queued
+    ///               the line is dropped                      -> Idle
+    enum class Work : quint8
+    {
+        /// Nothing is to be done. What the client sends next is handled at once.
+        Idle,
+        /// Nothing is to be done, but the last turn took all its time. What the client sends next
+        /// waits for a turn: clients that each take whole turns would delay those that need little.
+        Resting,
+        /// The connection has asked for a turn.
+        Queued,
+        /// Requests are being handled, perhaps by a slot that runs an event loop of its own. What
+        /// arrives meanwhile is handled when the slot returns.
+        InTurn,
+        /// A long line is being parsed on another thread.
+        Parsing,
+    };
+
+    /// What the client may still expect.
+    ///
+    ///     Served    refuse(), or too many unread answers     -> Refused
+    ///               the client disconnects                   -> Left
+    ///     Refused   the client disconnects, or is made to    -> Gone
+    ///     Left      refuse(), or too long answers            -> Gone
+    enum class Client : quint8
+    {
+        /// Its requests are handled and answered.
+        Served,
+        /// It is connected, but what it sends is dropped.
+        Refused,
+        /// It has disconnected. What it sent before is still handled, but not answered.
+        Left,
+        /// It was refused and has disconnected.
+        Gone,
+    };
+
     void onReadyRead();
     void onDisconnected();
     void onParsed();
     void work();
     void wantTurn();
 
-    /// Whether the next line is there; reads what has arrived when it is not yet.
+    /// Whether the next line is complete; reads what has arrived if it is not.
     bool fetchLine();
     void takeLine();
     void startMessage(IpcDispatcher::Message message);
@@ -67,22 +113,20 @@ private:
     void dropWork();
     void dropMessage();
 
+    bool isConnected() const { return m_client == Client::Served || m_client == Client::Refused; }
+
     QLocalSocket* m_socket;
     IpcDispatcher& m_dispatcher;
 
     LineBuffer m_received;
     QFutureWatcher<IpcDispatcher::Message> m_parsing;
-    bool m_isParsing = false;
 
-    /// The message in work, and the answers it has so far.
+    /// The message in progress, and its answers so far.
     IpcDispatcher::Message m_message;
     qsizetype m_nextRequest = 0;
     QByteArray m_answers;
     std::chrono::steady_clock::time_point m_lastRequest = std::chrono::steady_clock::now();
 
-    bool m_isInTurn = false;
-    bool m_isTurnWanted = false;
-    bool m_tookWholeTurn = false;
-    bool m_isDisconnected = false;
-    bool m_isRefused = false;
+    Work m_work = Work::Idle;
+    Client m_client = Client::Served;
 };

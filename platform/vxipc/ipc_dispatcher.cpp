@@ -15,7 +15,7 @@ namespace {
 bool canBeId(const QJsonValue& id)
 {
     return id.isDouble() || id.isNull() ||
-           (id.isString() && id.toString().size() <= JsonRpc::maximumText);
+           (id.isString() && id.toString().size() <= json_rpc::maximumText);
 }
 
 /// A request's members, each looked up once.
@@ -33,7 +33,7 @@ Request readRequest(const QJsonObject& object)
             object.value(QLatin1String("params")), object.value(QLatin1String("id"))};
 }
 
-/// Why `request` is none, or an empty text.
+/// Why `request` is invalid; empty if it is valid.
 QString defectOf(const Request& request)
 {
     if (request.version.toString() != QLatin1String("2.0"))
@@ -42,38 +42,38 @@ QString defectOf(const Request& request)
         return QStringLiteral("\"method\" must be a text");
     if (!request.id.isUndefined() && !canBeId(request.id))
         return QStringLiteral("\"id\" must be a text of at most %1 characters, a number or null")
-            .arg(JsonRpc::maximumText);
+            .arg(json_rpc::maximumText);
     if (!request.parameters.isUndefined() && !request.parameters.isArray() &&
         !request.parameters.isObject())
         return QStringLiteral("\"params\" must be a list or an object");
     return {};
 }
 
-/// Whether there are more values in `line` than are read, those in others included. Of a line that
-/// is no JSON the answer may be either.
+/// Whether `line` holds more values than an endpoint reads, nested ones included. For a line that
+/// is not JSON the answer may be either.
 bool hasTooManyValues(QByteArrayView line)
 {
-    if (line.size() <= JsonRpc::maximumLineValues)
+    if (line.size() <= json_rpc::maximumLineValues)
         return false;
     qsizetype values = 1;
     bool isInText = false;
     for (qsizetype i = 0; i < line.size(); ++i) {
         const char character = line[i];
         if (isInText && character == '\\')
-            ++i; // the next one is part of the text, even a quotation mark
+            ++i; // the next character is part of the text, even a quotation mark
         else if (character == '"')
             isInText = !isInText;
         else if (!isInText && (character == ',' || character == '[' || character == '{'))
             ++values;
     }
-    return values > JsonRpc::maximumLineValues;
+    return values > json_rpc::maximumLineValues;
 }
 
 QByteArray invalidRequest(const QJsonValue& id, const QString& defect)
 {
-    return JsonRpc::failure(
+    return json_rpc::failure(
         canBeId(id) ? id : QJsonValue(QJsonValue::Null),
-        {JsonRpc::InvalidRequest, QStringLiteral("Invalid Request: ") + defect, {}});
+        {json_rpc::InvalidRequest, QStringLiteral("Invalid Request: ") + defect, {}});
 }
 
 } // namespace
@@ -82,14 +82,15 @@ IpcDispatcher::IpcDispatcher(QObject& object, const QMetaObject& base, QString t
     : m_methods(object, base)
     , m_title(std::move(title))
 {
-    // One, so that clients who send much get no more of the machine by being many.
-    m_aside.setMaxThreadCount(1);
-    m_aside.setThreadPriority(QThread::LowPriority);
+    // A single thread, so that many clients that send long lines get no more of the machine than
+    // one.
+    m_background.setMaxThreadCount(1);
+    m_background.setThreadPriority(QThread::LowPriority);
 }
 
 IpcDispatcher::~IpcDispatcher()
 {
-    m_aside.clear();
+    m_background.clear();
 }
 
 IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
@@ -98,7 +99,7 @@ IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
     if (hasTooManyValues(line)) {
         message.failure = invalidRequest(
             QJsonValue::Null,
-            QStringLiteral("the line holds more than %1 values").arg(JsonRpc::maximumLineValues));
+            QStringLiteral("the line holds more than %1 values").arg(json_rpc::maximumLineValues));
         return message;
     }
     QJsonParseError error;
@@ -106,11 +107,11 @@ IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
         QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), line.size()), &error);
     if (error.error != QJsonParseError::NoError) {
         message.failure =
-            JsonRpc::failure(QJsonValue::Null, {JsonRpc::ParseError,
-                                                QStringLiteral("Parse error: %1 at byte %2")
-                                                    .arg(error.errorString())
-                                                    .arg(error.offset),
-                                                {}});
+            json_rpc::failure(QJsonValue::Null, {json_rpc::ParseError,
+                                                 QStringLiteral("Parse error: %1 at byte %2")
+                                                     .arg(error.errorString())
+                                                     .arg(error.offset),
+                                                 {}});
     } else if (document.isObject()) {
         message.content = document.object();
         message.size = 1;
@@ -123,12 +124,12 @@ IpcDispatcher::Message IpcDispatcher::parse(QByteArrayView line)
     return message;
 }
 
-QFuture<IpcDispatcher::Message> IpcDispatcher::parseAside(QByteArray line)
+QFuture<IpcDispatcher::Message> IpcDispatcher::parseInBackground(QByteArray line)
 {
     // Shared, because the pool wants to be able to copy what it runs.
     const auto promise = std::make_shared<QPromise<Message>>();
     promise->start();
-    m_aside.start([promise, line = std::move(line)] {
+    m_background.start([promise, line = std::move(line)] {
         Message message = parse(line);
         message.isLong = true;
         promise->addResult(std::move(message));
@@ -137,9 +138,9 @@ QFuture<IpcDispatcher::Message> IpcDispatcher::parseAside(QByteArray line)
     return promise->future();
 }
 
-void IpcDispatcher::discardAside(Message message)
+void IpcDispatcher::discardInBackground(Message message)
 {
-    m_aside.start([message = std::move(message)] { Q_UNUSED(message) });
+    m_background.start([message = std::move(message)] { Q_UNUSED(message) });
 }
 
 std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& value) const
@@ -153,14 +154,14 @@ std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& value) const
     const IpcMethodTable::Outcome outcome = call(request.method.toString(), request.parameters);
     if (request.id.isUndefined())
         return std::nullopt;
-    QByteArray answer = outcome.error ? JsonRpc::failure(request.id, *outcome.error)
-                                      : JsonRpc::success(request.id, outcome.result);
-    if (answer.size() <= JsonRpc::maximumAnswers)
+    QByteArray answer = outcome.error ? json_rpc::failure(request.id, *outcome.error)
+                                      : json_rpc::success(request.id, outcome.result);
+    if (answer.size() <= json_rpc::maximumAnswers)
         return answer;
-    return JsonRpc::failure(
+    return json_rpc::failure(
         request.id,
-        {JsonRpc::AnswerTooLong,
-         QStringLiteral("Answer too long: at most %1 bytes are sent").arg(JsonRpc::maximumAnswers),
+        {json_rpc::AnswerTooLong,
+         QStringLiteral("Answer too long: at most %1 bytes are sent").arg(json_rpc::maximumAnswers),
          {}});
 }
 

@@ -13,11 +13,11 @@
 
 #include <optional>
 
-/// What JSON-RPC 2.0 makes of a request to an object, apart from how it got here.
+/// Handles JSON-RPC 2.0 requests to an object, whatever the transport.
 class IpcDispatcher
 {
 public:
-    /// `title` is the name the object is known by.
+    /// `title` is the name that rpc.discover reports.
     IpcDispatcher(QObject& object, const QMetaObject& base, QString title);
     ~IpcDispatcher();
     Q_DISABLE_COPY_MOVE(IpcDispatcher)
@@ -28,9 +28,9 @@ public:
         /// The request, or the list that they are in.
         QJsonValue content;
         qsizetype size = 0;
-        /// The answer to a line that holds no request, as a line.
+        /// The answer, as a line, to a line that holds no request.
         std::optional<QByteArray> failure;
-        /// Parsed aside, so that freeing it takes long too.
+        /// Parsed in the background because it is long; freeing it takes long, too.
         bool isLong = false;
 
         bool isBatch() const { return content.isArray(); }
@@ -39,16 +39,16 @@ public:
 
     static Message parse(QByteArrayView line);
 
-    /// The same on another thread, one line after the other: a mebibyte of small values takes tens
-    /// of milliseconds, which the object's thread has better uses for.
-    QFuture<Message> parseAside(QByteArray line);
-    /// Frees such a message there too, which takes a third of the time again.
-    void discardAside(Message message);
+    /// The same on another thread, one line after the other. A mebibyte of small values takes tens
+    /// of milliseconds, too long for the object's thread.
+    QFuture<Message> parseInBackground(QByteArray line);
+    /// Frees such a message on that thread, too, which takes a third as long as parsing it.
+    void discardInBackground(Message message);
 
-    /// The answer to one request of a message, as a line, or nothing to a notification. An answer
-    /// that is too long to be sent is one that says so.
+    /// Handles one request of a message. Returns the answer as a line, or nothing for a
+    /// notification. An answer that is too long to send is replaced by an error.
     ///
-    /// The method that it calls may do anything, to the extent of destroying this dispatcher.
+    /// The called method may do anything, even destroy this dispatcher.
     std::optional<QByteArray> handle(const QJsonValue& value) const;
 
 private:
@@ -57,5 +57,5 @@ private:
 
     IpcMethodTable m_methods;
     QString m_title;
-    QThreadPool m_aside;
+    QThreadPool m_background;
 };

@@ -25,7 +25,7 @@ IpcListener::IpcListener(QObject* parent)
     , m_pauseTime(firstPause)
 {
     m_pause.setSingleShot(true);
-    connect(&m_pause, &QTimer::timeout, this, &IpcListener::letIn);
+    connect(&m_pause, &QTimer::timeout, this, &IpcListener::acceptWaiting);
 }
 
 QLocalSocket* IpcListener::nextClient()
@@ -52,7 +52,7 @@ bool IpcListener::accept(qintptr descriptor)
 void IpcListener::pause(const QString& what, const QString& why)
 {
     if (m_pauseTime == firstPause) {
-        qCWarning(vxIpc, "%s lets nobody in until this is over: %s", qUtf8Printable(what),
+        qCWarning(vxIpc, "%s cannot accept clients for now: %s", qUtf8Printable(what),
                   qUtf8Printable(why));
     }
     m_pause.start(m_pauseTime);

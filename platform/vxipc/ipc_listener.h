@@ -13,8 +13,8 @@
 
 class QLocalSocket;
 
-/// Listens under a name and lets in the user's own processes alone. A client that cannot be let in
-/// at the moment, because the process has no descriptor or handle left, waits until it can be.
+/// Listens under a name and accepts only the user's own processes. While the process has no
+/// descriptor or handle left for a client, the client waits.
 class IpcListener : public QObject
 {
     Q_OBJECT
@@ -23,37 +23,39 @@ public:
     enum class Outcome : quint8
     {
         Listening,
-        /// Somebody else has the name, or it cannot be told that nobody has.
+        /// Another process has the name, or may have it.
         NameTaken,
-        /// No other name would do either. errorString() says why.
+        /// Any other name would fail, too. errorString() says why.
         Failed,
     };
 
     explicit IpcListener(QObject* parent);
-    /// This system's.
+    ~IpcListener() override = default;
+    /// Creates the listener of this system.
     static std::unique_ptr<IpcListener> create(QObject* parent);
     Q_DISABLE_COPY_MOVE(IpcListener)
 
-    /// Called until it succeeds, and no more then. Waits until `end` at most for another process
-    /// that is taking a name at the same moment.
+    /// Is called until it succeeds, and not after that. Waits until `end` at the latest for another
+    /// process that is taking a name at the same time.
     virtual Outcome listen(const QString& name, QDeadlineTimer end) = 0;
     QString errorString() const { return m_errorString; }
 
-    /// The next client that was let in, a child of this object until it is given another parent;
-    /// null when there is none.
+    /// The next accepted client, a child of this object until it is given another parent; null when
+    /// there is none.
     QLocalSocket* nextClient();
 
 Q_SIGNALS:
     void newClient();
 
 protected:
-    /// Lets in who waits, as far as it can be.
-    virtual void letIn() = 0;
+    /// Accepts the clients that are waiting, as far as possible.
+    virtual void acceptWaiting() = 0;
 
     Outcome failed(const QString& what, const QString& why);
-    /// Makes a client of what is connected. False when that fails, which leaves it the caller's.
+    /// Takes over a connected descriptor as a client. On failure, when it returns false, the
+    /// descriptor stays the caller's.
     bool accept(qintptr descriptor);
-    /// Calls letIn() again in a while, with every call in a row a longer one.
+    /// Calls acceptWaiting() again after a while, which grows with each call in a row.
     void pause(const QString& what, const QString& why);
 
 private:

@@ -21,8 +21,8 @@
 
 namespace {
 
-/// Those over the limit have to be let in to be told so.
-constexpr int backlog = static_cast<int>(2 * JsonRpc::maximumClients);
+/// Clients beyond the limit are accepted as well, to be told that there are too many.
+constexpr int backlog = static_cast<int>(2 * json_rpc::maximumClients);
 
 /// Nothing when the path is too long for a socket.
 std::optional<sockaddr_un> socketAddress(const QByteArray& path)
@@ -45,14 +45,14 @@ OwnedDescriptor newSocket()
     return OwnedDescriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
 }
 
-/// What is in a new endpoint's place.
+/// What is found at the path of a new endpoint.
 enum class Found : quint8
 {
     Nothing,
     /// The socket of a process that died.
     DeadSocket,
-    Somebody,
-    /// errno says why it cannot be told, of this name or any other.
+    Occupied,
+    /// It cannot be determined, for this name or any other. errno says why.
     Unknown,
 };
 
@@ -62,14 +62,14 @@ Found lookAt(const QByteArray& path, const sockaddr_un& address)
     if (lstat(path.constData(), &entry) != 0)
         return errno == ENOENT ? Found::Nothing : Found::Unknown;
     if (!S_ISSOCK(entry.st_mode))
-        return Found::Somebody;
+        return Found::Occupied;
     const OwnedDescriptor probe = newSocket();
     if (!probe.isValid())
         return Found::Unknown;
-    // The system answers for a process that is busy or stopped.
+    // The system accepts connections even for a process that is busy or stopped.
     if (connect(probe.get(), generic(address), sizeof(address)) != 0 && errno == ECONNREFUSED)
         return Found::DeadSocket;
-    return Found::Somebody;
+    return Found::Occupied;
 }
 
 class SocketListener final : public IpcListener
@@ -82,7 +82,7 @@ public:
     Outcome listen(const QString& name, QDeadlineTimer end) override;
 
 protected:
-    void letIn() override;
+    void acceptWaiting() override;
 
 private:
     Outcome bindTo(const QByteArray& path, const sockaddr_un& address);
@@ -90,7 +90,7 @@ private:
 
     OwnedDescriptor m_socket;
     std::unique_ptr<QSocketNotifier> m_notifier;
-    /// Which entry of which folder is this endpoint's.
+    /// Where the socket is, and which file it is there.
     QByteArray m_path;
     struct stat m_entry = {};
 };
@@ -99,26 +99,24 @@ SocketListener::~SocketListener()
 {
     m_notifier.reset();
     struct stat entry = {};
-    // Somebody may have put another in its place. While this one is open its number is not given to
-    // another, and nobody takes it for dead and replaces it.
-    if (m_socket.isValid() && lstat(m_path.constData(), &entry) == 0 &&
-        entry.st_dev == m_entry.st_dev && entry.st_ino == m_entry.st_ino) {
+    // Somebody may have put another file in its place. While this socket is open, its inode number
+    // is not reused, and nobody takes it for dead and replaces it.
+    if (m_socket.isValid() && lstat(m_path.constData(), &entry) == 0 && isSameFile(entry, m_entry))
         unlink(m_path.constData());
-    }
 }
 
 IpcListener::Outcome SocketListener::listen(const QString& name, QDeadlineTimer end)
 {
-    if (const QString obstacle = IpcScope::prepare(); !obstacle.isEmpty())
+    if (const QString obstacle = ipc_scope::prepare(); !obstacle.isEmpty())
         return failed(name, obstacle);
-    const QString file = IpcScope::address(name);
+    const QString file = ipc_scope::address(name);
     const QByteArray path = QFile::encodeName(file);
     const std::optional<sockaddr_un> address = socketAddress(path);
     if (!address)
         return failed(file, QStringLiteral("the path is too long for a socket"));
 
-    // Between finding a dead endpoint's socket and replacing it, another process must not do the
-    // same. Who does not get to look leaves the name alone.
+    // No two processes may find the socket of a dead endpoint and replace it at the same time.
+    // Without the lock, the name is left alone.
     IpcNameLock lock(path + ".lock");
     switch (lock.lock(end)) {
     case IpcNameLock::Outcome::Locked:
@@ -134,7 +132,7 @@ IpcListener::Outcome SocketListener::listen(const QString& name, QDeadlineTimer 
     case Found::DeadSocket:
         unlink(path.constData());
         break;
-    case Found::Somebody:
+    case Found::Occupied:
         return Outcome::NameTaken;
     case Found::Unknown:
         return systemFailed(path, errno);
@@ -149,7 +147,7 @@ IpcListener::Outcome SocketListener::bindTo(const QByteArray& path, const sockad
         return systemFailed(path, errno);
     if (bind(socket.get(), generic(address), sizeof(address)) != 0)
         return errno == EADDRINUSE ? Outcome::NameTaken : systemFailed(path, errno);
-    // Nobody can connect before the socket listens, and from then on only the user.
+    // Nobody can connect before the socket listens, and after that only the user can.
     if (chmod(path.constData(), S_IRUSR | S_IWUSR) != 0 || lstat(path.constData(), &m_entry) != 0 ||
         ::listen(socket.get(), backlog) != 0) {
         const int error = errno;
@@ -159,7 +157,7 @@ IpcListener::Outcome SocketListener::bindTo(const QByteArray& path, const sockad
     m_path = path;
     m_socket = std::move(socket);
     m_notifier = std::make_unique<QSocketNotifier>(m_socket.get(), QSocketNotifier::Read, this);
-    connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] { letIn(); });
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] { acceptWaiting(); });
     return Outcome::Listening;
 }
 
@@ -168,7 +166,7 @@ IpcListener::Outcome SocketListener::systemFailed(const QByteArray& path, int er
     return failed(QFile::decodeName(path), qt_error_string(error));
 }
 
-void SocketListener::letIn()
+void SocketListener::acceptWaiting()
 {
     m_notifier->setEnabled(true);
     OwnedDescriptor client(accept4(m_socket.get(), nullptr, nullptr, SOCK_CLOEXEC));
@@ -178,11 +176,11 @@ void SocketListener::letIn()
         Q_EMIT newClient();
         return;
     }
-    // One that has left again is no reason to wait.
+    // A client that has disconnected again is no reason to wait.
     if (errno == EAGAIN || errno == EINTR || errno == ECONNABORTED)
         return;
     const int error = errno;
-    // It would go on telling that somebody waits.
+    // It would be activated again and again, as the client is still waiting.
     m_notifier->setEnabled(false);
     pause(QFile::decodeName(m_path), qt_error_string(error));
 }

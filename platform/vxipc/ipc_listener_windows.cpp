@@ -17,12 +17,12 @@ Q_DECLARE_LOGGING_CATEGORY(vxIpc)
 
 namespace {
 
-using WindowsSecurity::OwnedHandle;
+using windows_security::OwnedHandle;
 
-/// Each client needs an end that waits for it. Those over the limit have to be let in to be told
-/// so.
-constexpr std::size_t waitingEnds = 2 * JsonRpc::maximumClients;
-/// What a pipe holds of bytes that are not read yet.
+/// Each client needs a server end that waits for it. Clients beyond the limit are accepted as well,
+/// to be told that there are too many.
+constexpr std::size_t waitingEnds = 2 * json_rpc::maximumClients;
+/// How many unread bytes a pipe holds.
 constexpr DWORD bufferSize = 4096;
 constexpr DWORD defaultWait = 3000;
 
@@ -41,9 +41,9 @@ public:
     ~PipeEnd() { stopWaiting(); }
     Q_DISABLE_COPY_MOVE(PipeEnd)
 
-    /// `event` is set when a client comes.
+    /// `event` is set when a client connects.
     void wait(OwnedHandle pipe, HANDLE event);
-    void sendAway(HANDLE event);
+    void disconnectClient(HANDLE event);
     State state();
     HANDLE handle() const { return m_pipe.get(); }
     OwnedHandle release() { return std::move(m_pipe); }
@@ -64,7 +64,7 @@ void PipeEnd::wait(OwnedHandle pipe, HANDLE event)
     wait(event);
 }
 
-void PipeEnd::sendAway(HANDLE event)
+void PipeEnd::disconnectClient(HANDLE event)
 {
     stopWaiting();
     DisconnectNamedPipe(m_pipe.get());
@@ -84,7 +84,7 @@ void PipeEnd::wait(HANDLE event)
         SetEvent(event);
     } else {
         m_state = State::Idle;
-        // To be sent away: a client that has left again.
+        // A client has connected and left again; the end has to be disconnected from it.
         if (error == ERROR_NO_DATA)
             SetEvent(event);
     }
@@ -95,8 +95,8 @@ void PipeEnd::stopWaiting()
     if (m_state != State::Waiting)
         return;
     m_state = State::Idle;
-    // Windows writes to the record until then. The event, which all ends have in common, would not
-    // tell which of them is meant.
+    // Windows writes to the record until then. Waiting for the event would not do, as all ends
+    // share it.
     CancelIoEx(m_pipe.get(), &m_overlapped);
     while (!HasOverlappedIoCompleted(&m_overlapped))
         SwitchToThread();
@@ -118,7 +118,7 @@ QString errorText(DWORD error)
     return qt_error_string(static_cast<int>(error));
 }
 
-/// For Wine, which takes no notice of FILE_FLAG_FIRST_PIPE_INSTANCE.
+/// For Wine, which ignores FILE_FLAG_FIRST_PIPE_INSTANCE.
 bool hasOtherEnds(HANDLE pipe)
 {
     DWORD ends = 1;
@@ -133,38 +133,39 @@ public:
     Outcome listen(const QString& name, QDeadlineTimer end) override;
 
 protected:
-    void letIn() override;
+    void acceptWaiting() override;
 
 private:
     OwnedHandle newPipe(DWORD flags = 0) const;
-    /// To be called after an end began to wait. Windows resets the event then, also when the client
-    /// of another end had just set it.
+    /// Is called after an end began to wait: Windows resets the event then, even if the client of
+    /// another end had just set it.
     void lookAgain() { SetEvent(m_event.get()); }
     bool isUsers(HANDLE pipe) const;
 
     QString m_path;
     QString m_user;
-    WindowsSecurity::LocalMemory<void> m_descriptor;
+    windows_security::LocalMemory<void> m_descriptor;
     OwnedHandle m_event;
-    /// As long as there is one, nobody else can make a pipe of this name.
+    /// As long as there is one, no other user can create a pipe of this name.
     std::vector<std::unique_ptr<PipeEnd>> m_ends;
     std::unique_ptr<QWinEventNotifier> m_notifier;
 };
 
 IpcListener::Outcome PipeListener::listen(const QString& name, QDeadlineTimer /*end*/)
 {
-    if (const QString obstacle = IpcScope::prepare(); !obstacle.isEmpty())
+    if (const QString obstacle = ipc_scope::prepare(); !obstacle.isEmpty())
         return failed(name, obstacle);
-    m_path = QLatin1String(R"(\\.\pipe\)") + IpcScope::address(name);
-    m_user = WindowsSecurity::userOfProcess();
-    m_descriptor = WindowsSecurity::ownedByUserAlone(m_user);
+    m_path = QLatin1String(R"(\\.\pipe\)") + ipc_scope::address(name);
+    m_user = windows_security::userOfProcess();
+    m_descriptor = windows_security::ownedByUserAlone(m_user);
     if (!m_descriptor)
         return failed(m_path, errorText(GetLastError()));
-    m_event = WindowsSecurity::owned(CreateEventW(nullptr, TRUE, FALSE, nullptr));
+    m_event = windows_security::owned(CreateEventW(nullptr, TRUE, FALSE, nullptr));
     if (!m_event)
         return failed(m_path, errorText(GetLastError()));
 
-    // Whoever made a pipe decides about all its ends. So it has to be this process that makes it.
+    // The process that creates a pipe first decides on the rights of all its instances, so it has
+    // to be this one.
     OwnedHandle pipe = newPipe(FILE_FLAG_FIRST_PIPE_INSTANCE);
     if (!pipe) {
         const DWORD error = GetLastError();
@@ -181,7 +182,7 @@ IpcListener::Outcome PipeListener::listen(const QString& name, QDeadlineTimer /*
     }
     lookAgain();
     m_notifier = std::make_unique<QWinEventNotifier>(m_event.get(), this);
-    connect(m_notifier.get(), &QWinEventNotifier::activated, this, [this] { letIn(); });
+    connect(m_notifier.get(), &QWinEventNotifier::activated, this, [this] { acceptWaiting(); });
     return Outcome::Listening;
 }
 
@@ -190,15 +191,15 @@ OwnedHandle PipeListener::newPipe(DWORD flags) const
     SECURITY_ATTRIBUTES attributes = {};
     attributes.nLength = sizeof(attributes);
     attributes.lpSecurityDescriptor = m_descriptor.get();
-    return WindowsSecurity::owned(CreateNamedPipeW(
+    return windows_security::owned(CreateNamedPipeW(
         qUtf16Printable(m_path), PIPE_ACCESS_DUPLEX | FILE_FLAG_OVERLAPPED | flags,
         PIPE_TYPE_BYTE | PIPE_READMODE_BYTE | PIPE_WAIT | PIPE_REJECT_REMOTE_CLIENTS,
         PIPE_UNLIMITED_INSTANCES, bufferSize, bufferSize, defaultWait, &attributes));
 }
 
-void PipeListener::letIn()
+void PipeListener::acceptWaiting()
 {
-    // Before the ends are looked at: one that is looked at too early sets it again.
+    // Before the ends are checked: a client that connects after its end was checked sets it again.
     ResetEvent(m_event.get());
     bool didBeginToWait = false;
     for (const std::unique_ptr<PipeEnd>& end : m_ends) {
@@ -206,14 +207,15 @@ void PipeListener::letIn()
         if (state == PipeEnd::State::Waiting)
             continue;
         if (state == PipeEnd::State::Idle || !isUsers(end->handle())) {
-            end->sendAway(m_event.get());
+            end->disconnectClient(m_event.get());
             didBeginToWait = true;
             continue;
         }
-        // First, as the name is lost with the last end. Until one can be made, the client waits.
+        // The next end comes first, as the name is lost with the last one. Until it can be created,
+        // the client waits.
         OwnedHandle next = newPipe();
         if (!next) {
-            // All ends are looked at again after the pause.
+            // All ends are checked again after the pause.
             pause(m_path, errorText(GetLastError()));
             didBeginToWait = false;
             break;
@@ -229,10 +231,11 @@ void PipeListener::letIn()
     Q_EMIT newClient();
 }
 
-/// The pipe's rights have kept others out already. This is about who has more rights than they say.
+/// The pipe's access list has already kept other users out. This is for users whom it does not
+/// bind.
 bool PipeListener::isUsers(HANDLE pipe) const
 {
-    const QString client = WindowsSecurity::clientOfPipe(pipe);
+    const QString client = windows_security::clientOfPipe(pipe);
     if (client.isEmpty() || client == m_user)
         return true;
     qCWarning(vxIpc, "%s refuses a client of another user, %s", qUtf8Printable(m_path),

@@ -13,18 +13,18 @@
 
 namespace {
 
-JsonRpc::Error invalidParams(const QString& message, const QJsonObject& data = {})
+json_rpc::Error invalidParams(const QString& message, const QJsonObject& data = {})
 {
-    return {JsonRpc::InvalidParams, QStringLiteral("Invalid params: ") + message, data};
+    return {json_rpc::InvalidParams, QStringLiteral("Invalid params: ") + message, data};
 }
 
-/// As much of a name that a client sent as an error message repeats.
+/// The part of a name from a client that an error message repeats.
 QString excerpt(const QString& name)
 {
     constexpr qsizetype longestShown = 100;
     if (name.size() <= longestShown)
         return name;
-    // No half of a character that takes two.
+    // Keep surrogate pairs whole.
     return name.first(name.at(longestShown - 1).isHighSurrogate() ? longestShown - 1
                                                                   : longestShown) +
            QStringLiteral("…");
@@ -68,7 +68,7 @@ IpcMethodTable::IpcMethodTable(QObject& object, const QMetaObject& base)
 std::optional<IpcMethodTable::Method> IpcMethodTable::readMethod(const QMetaMethod& slot)
 {
     const QMetaType result = slot.returnMetaType();
-    if (!isVoid(result) && !IpcValues::isSupported(result))
+    if (!isVoid(result) && !ipc_values::isSupported(result))
         return std::nullopt;
 
     Method method{
@@ -77,7 +77,7 @@ std::optional<IpcMethodTable::Method> IpcMethodTable::readMethod(const QMetaMeth
     const QList<QByteArray> names = slot.parameterNames();
     for (int i = 0; i < slot.parameterCount(); ++i) {
         const QMetaType type = slot.parameterMetaType(i);
-        if (!IpcValues::isSupported(type))
+        if (!ipc_values::isSupported(type))
             return std::nullopt;
         const QByteArray& name = names.at(i);
         method.parameters.append(
@@ -90,7 +90,7 @@ std::optional<IpcMethodTable::Method> IpcMethodTable::readMethod(const QMetaMeth
 void IpcMethodTable::add(const Method& method)
 {
     QList<qsizetype>& overloads = m_overloads[QString::fromUtf8(method.slot.name())];
-    // A class that overrides a slot lists it once more; the first is the service's own, and the
+    // A class that overrides a slot lists it once more. The first entry is the interface's own; the
     // call is virtual either way.
     const bool isListed = std::any_of(overloads.cbegin(), overloads.cend(), [&](qsizetype listed) {
         return m_methods.at(listed).slot.methodSignature() == method.slot.methodSignature();
@@ -118,8 +118,9 @@ IpcMethodTable::Outcome IpcMethodTable::call(const QString& name,
     if (const VXIPCServer::CallCheck& check = chosen.method->check) {
         const QVariantList arguments(chosen.arguments.cbegin(), chosen.arguments.cend());
         if (const QString objection = check(arguments); !objection.isEmpty())
-            return {{},
-                    JsonRpc::Error{JsonRpc::Refused, QStringLiteral("Refused: ") + objection, {}}};
+            return {
+                {},
+                json_rpc::Error{json_rpc::Refused, QStringLiteral("Refused: ") + objection, {}}};
     }
 
     const QMetaType resultType = chosen.method->result;
@@ -136,7 +137,7 @@ IpcMethodTable::Outcome IpcMethodTable::call(const QString& name,
     if (!result.isValid())
         return {};
     JsonWriter json;
-    IpcValues::write(json, result);
+    ipc_values::write(json, result);
     return {json.json(), std::nullopt};
 }
 
@@ -146,13 +147,14 @@ IpcMethodTable::Match IpcMethodTable::choose(const QString& name,
     const auto overloads = m_overloads.constFind(name);
     if (overloads == m_overloads.cend()) {
         Match none;
-        none.error = {
-            JsonRpc::MethodNotFound, QStringLiteral("Method not found: %1").arg(excerpt(name)), {}};
+        none.error = {json_rpc::MethodNotFound,
+                      QStringLiteral("Method not found: %1").arg(excerpt(name)),
+                      {}};
         return none;
     }
-    // Of those that fit, the best; of those that do not, the one that came closest says why.
+    // The overload that fits best is chosen. If none fits, the closest one says why.
     const auto rank = [](const Match& each) {
-        return std::tuple(!each.error.has_value(), each.isOfRightCount, each.fit);
+        return std::tuple(!each.error.has_value(), each.arityMatches, each.fit);
     };
     Match best = match(m_methods.at(overloads->first()), parameters);
     for (qsizetype i = 1; i < overloads->size(); ++i) {
@@ -224,7 +226,7 @@ IpcMethodTable::Match IpcMethodTable::matchArguments(const Method& method,
 {
     Match match;
     match.method = &method;
-    match.isOfRightCount = true;
+    match.arityMatches = true;
     for (qsizetype i = 0; const QJsonValue& argument : given) {
         const Parameter& parameter = method.parameters.at(i++);
         const auto misfit = [&](const QString& expected, const QString& got) {
@@ -233,13 +235,13 @@ IpcMethodTable::Match IpcMethodTable::matchArguments(const Method& method,
                                  {{QStringLiteral("argument"), parameter.name},
                                   {QStringLiteral("expected"), expected}});
         };
-        if (const auto excess = IpcValues::excessOf(argument)) {
+        if (const auto excess = ipc_values::excessOf(argument)) {
             match.error = misfit(excess->expected, QString::number(excess->found));
             return match;
         }
-        IpcValues::Converted converted = IpcValues::fromJson(argument, parameter.type);
-        if (converted.fit == IpcValues::Fit::None) {
-            match.error = misfit(converted.expected, IpcValues::kindOf(argument));
+        ipc_values::Converted converted = ipc_values::fromJson(argument, parameter.type);
+        if (converted.fit == ipc_values::Fit::None) {
+            match.error = misfit(converted.expected, ipc_values::kindOf(argument));
             return match;
         }
         match.fit += static_cast<int>(converted.fit);
@@ -268,13 +270,13 @@ QJsonObject IpcMethodTable::describe(const Method& method, QJsonObject& records)
         parameters.append(
             QJsonObject{{QStringLiteral("name"), parameter.name},
                         {QStringLiteral("required"), i < method.required},
-                        {QStringLiteral("schema"), IpcValues::schema(parameter.type, records)},
+                        {QStringLiteral("schema"), ipc_values::schema(parameter.type, records)},
                         {QStringLiteral("x-type"), QLatin1String(parameter.type.name())}});
     }
     const QMetaType result = method.result;
     const QJsonObject resultSchema =
         isVoid(result) ? QJsonObject{{QStringLiteral("type"), QStringLiteral("null")}}
-                       : IpcValues::schema(result, records);
+                       : ipc_values::schema(result, records);
     return {{QStringLiteral("name"), QString::fromUtf8(method.slot.name())},
             {QStringLiteral("paramStructure"), QStringLiteral("either")},
             {QStringLiteral("params"), parameters},

@@ -17,24 +17,24 @@
 #include <optional>
 #include <span>
 
-/// The slots of an object that other processes may call, made from its meta-object.
+/// The slots of an object that other processes may call, according to its meta-object.
 class IpcMethodTable
 {
 public:
-    /// Takes the public slots of `object` that were declared below the class `base`. Everything
-    /// that `base` and its own bases have stays out of reach.
+    /// Lists the public slots of `object` that classes derived from `base` declare. What `base` and
+    /// its own bases declare cannot be called.
     IpcMethodTable(QObject& object, const QMetaObject& base);
 
     struct Outcome
     {
         /// As JSON, null for a slot without a result.
         QByteArray result = QByteArrayLiteral("null");
-        std::optional<JsonRpc::Error> error;
+        std::optional<json_rpc::Error> error;
     };
 
     /// Calls the slot that `parameters`, a list or an object, fit best.
     ///
-    /// The slot may do anything, to the extent of destroying the object and this table with it.
+    /// The slot may do anything, even destroy the object and this table with it.
     Outcome call(const QString& name, const QJsonValue& parameters) const;
 
     /// The methods and records of an OpenRPC document.
@@ -52,26 +52,26 @@ private:
         QMetaMethod slot;
         QMetaType result;
         QList<Parameter> parameters;
-        /// How many of the parameters have no default. Only the first entry of a slot knows.
+        /// How many of the parameters have no default. Correct only in the first entry of a slot.
         qsizetype required = 0;
-        /// Whether this is a shorter way to call the entry before, leaving a default argument out.
+        /// Whether this is the entry before without its last default argument.
         bool isShortened = false;
-        /// What the object has to say on each call; may be empty.
+        /// The object's check of each call; may be empty.
         VXIPCServer::CallCheck check;
     };
 
-    /// Room for so many saves calls from allocating it.
+    /// Calls with no more arguments than these need no memory from the heap for their list.
     static constexpr qsizetype usualArguments = 6;
 
-    /// How far the arguments of a call fit a method.
+    /// How well the arguments of a call fit a method.
     struct Match
     {
         const Method* method = nullptr;
         QVarLengthArray<QVariant, usualArguments> arguments;
         /// The sum over the arguments.
         int fit = 0;
-        std::optional<JsonRpc::Error> error;
-        bool isOfRightCount = false;
+        std::optional<json_rpc::Error> error;
+        bool arityMatches = false;
     };
 
     static std::optional<Method> readMethod(const QMetaMethod& slot);

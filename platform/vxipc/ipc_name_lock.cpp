@@ -19,11 +19,6 @@ namespace {
 
 constexpr auto retryPause = 5ms;
 
-bool isSameFile(const struct stat& one, const struct stat& other)
-{
-    return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
-}
-
 } // namespace
 
 IpcNameLock::IpcNameLock(QByteArray path)
@@ -50,8 +45,8 @@ IpcNameLock::Outcome IpcNameLock::tryToLock()
 {
     struct stat entry = {};
     const bool isThere = lstat(m_path.constData(), &entry) == 0;
-    // Before it is opened: opening a pipe waits for its other end, and opening a device may start
-    // whatever the device does.
+    // Checked before it is opened: opening a pipe waits for its other end, and opening a device may
+    // have side effects.
     if (isThere && !S_ISREG(entry.st_mode)) {
         errno = EINVAL;
         return Outcome::Denied;
@@ -63,7 +58,7 @@ IpcNameLock::Outcome IpcNameLock::tryToLock()
         return isThere && errno == EACCES ? Outcome::Denied : Outcome::Failed;
     if (flock(file.get(), LOCK_EX | LOCK_NB) != 0)
         return errno == EWOULDBLOCK ? Outcome::Denied : Outcome::Failed;
-    // Who held the lock until now has removed its file, and somebody may have made a new one.
+    // The previous holder has removed its file, and another process may have created a new one.
     struct stat locked = {};
     if (fstat(file.get(), &locked) != 0 || lstat(m_path.constData(), &entry) != 0 ||
         !isSameFile(locked, entry)) {

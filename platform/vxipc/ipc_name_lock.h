@@ -15,7 +15,7 @@ public:
     enum class Outcome : quint8
     {
         Locked,
-        /// Somebody holds the lock, or what is in its place is no file that can be locked.
+        /// Another process holds the lock, or what is at the path is not a file that can be locked.
         Denied,
         /// errno says why.
         Failed,
@@ -24,10 +24,9 @@ public:
     explicit IpcNameLock(QByteArray path);
     /// Removes the file of a lock that is held.
     ~IpcNameLock();
-    IpcNameLock(const IpcNameLock&) = delete;
-    IpcNameLock& operator=(const IpcNameLock&) = delete;
+    Q_DISABLE_COPY_MOVE(IpcNameLock)
 
-    /// Waits until `end` for a process that is taking the name; tries once when that has passed.
+    /// Tries until `end`, but at least once, while another process holds the lock.
     Outcome lock(QDeadlineTimer end);
 
 private:

@@ -18,12 +18,12 @@ Q_LOGGING_CATEGORY(vxIpc, "vx.ipc", QtWarningMsg)
 
 namespace {
 
-/// How many clients over the limit may be about to read that they are; any more are just closed.
+/// How many refused clients may stay connected to read why. Any more are disconnected at once.
 constexpr qsizetype maximumRefused = 64;
 /// How many names with the process id are tried.
 constexpr int maximumOwnNames = 16;
-/// Taking a name is a matter of a millisecond. All names together may take this long, and only at
-/// the first attempt: later ones find time again.
+/// Taking a name takes about a millisecond. This is how long all names together may take at the
+/// first attempt. Later attempts do not wait.
 constexpr auto lockTime = 500ms;
 constexpr std::chrono::milliseconds firstRetry = 100ms;
 constexpr std::chrono::milliseconds lastRetry = 10s;
@@ -47,10 +47,10 @@ IpcPublisher::IpcPublisher(QObject& object, const QMetaObject& base)
 IpcPublisher::~IpcPublisher()
 {
     if (!m_name.isEmpty())
-        IpcScope::withdraw(m_name);
+        ipc_scope::withdraw(m_name);
     for (IpcConnection* connection : std::as_const(m_connections))
         connection->disconnect(this);
-    // While the dispatcher they use is there.
+    // Before the dispatcher that they use is destroyed.
     qDeleteAll(m_connections);
 }
 
@@ -64,7 +64,7 @@ void IpcPublisher::tryToPublish(QDeadlineTimer end)
 {
     const IpcListener::Outcome outcome = listen(end);
     if (outcome == IpcListener::Outcome::Listening) {
-        IpcScope::announce(m_name);
+        ipc_scope::announce(m_name);
         return;
     }
     if (m_retryInterval == firstRetry) {
@@ -72,8 +72,8 @@ void IpcPublisher::tryToPublish(QDeadlineTimer end)
             outcome == IpcListener::Outcome::NameTaken
                 ? QStringLiteral("the name and %1 more like it are taken").arg(maximumOwnNames)
                 : m_listener->errorString();
-        qCWarning(vxIpc, "%s is not published: %s (it is tried again)",
-                  qUtf8Printable(m_wantedName), qUtf8Printable(obstacle));
+        qCWarning(vxIpc, "%s is not published: %s (retrying)", qUtf8Printable(m_wantedName),
+                  qUtf8Printable(obstacle));
     }
     m_retry.start(m_retryInterval);
     m_retryInterval = std::min(2 * m_retryInterval, lastRetry);
@@ -99,7 +99,7 @@ void IpcPublisher::onNewConnection()
     if (!m_dispatcher)
         m_dispatcher = std::make_unique<IpcDispatcher>(m_object, m_base, m_name);
     while (QLocalSocket* socket = m_listener->nextClient()) {
-        if (m_connections.size() >= JsonRpc::maximumClients + maximumRefused) {
+        if (m_connections.size() >= json_rpc::maximumClients + maximumRefused) {
             delete socket;
             continue;
         }
@@ -111,23 +111,23 @@ void IpcPublisher::onNewConnection()
         const auto served =
             std::count_if(m_connections.cbegin(), m_connections.cend(),
                           [](const IpcConnection* each) { return !each->isRefused(); });
-        IpcConnection* silent = served >= JsonRpc::maximumClients ? longestSilent() : nullptr;
+        IpcConnection* silent = served >= json_rpc::maximumClients ? longestSilent() : nullptr;
         m_connections.append(connection);
         if (silent) {
-            silent->refuse({JsonRpc::TooManyClients,
+            silent->refuse({json_rpc::TooManyClients,
                             QStringLiteral("Too many clients: another takes the place of this one, "
                                            "which has asked nothing for a while"),
                             {}});
-        } else if (served >= JsonRpc::maximumClients) {
-            connection->refuse({JsonRpc::TooManyClients,
+        } else if (served >= json_rpc::maximumClients) {
+            connection->refuse({json_rpc::TooManyClients,
                                 QStringLiteral("Too many clients: at most %1 are served at a time")
-                                    .arg(JsonRpc::maximumClients),
+                                    .arg(json_rpc::maximumClients),
                                 {}});
         }
     }
 }
 
-/// The client that may be let go when another waits, if there is one.
+/// The client that may be disconnected in favour of another, if there is one.
 IpcConnection* IpcPublisher::longestSilent() const
 {
     IpcConnection* longest = nullptr;
@@ -166,8 +166,8 @@ void IpcPublisher::giveTurn()
     if (m_waiting.isEmpty())
         return;
     IpcConnection* next = m_waiting.takeFirst();
-    // Asked for before the turn, which may run an event loop of its own or be this object's last.
-    // In between, the thread's other events and the other clients' small requests have theirs.
+    // Requested before the turn, which may run an event loop of its own or destroy this object.
+    // Between two turns, the thread handles other events and the other clients' small requests.
     if (!m_waiting.isEmpty())
         requestTurn();
     next->takeTurn();

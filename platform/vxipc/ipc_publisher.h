@@ -16,7 +16,7 @@
 
 class IpcConnection;
 
-/// Makes an object reachable under a name and shares the object's thread out among the clients.
+/// Publishes an object under a name and divides the time of the object's thread among its clients.
 class IpcPublisher : public QObject
 {
     Q_OBJECT
@@ -27,15 +27,15 @@ public:
     ~IpcPublisher() override;
     Q_DISABLE_COPY_MOVE(IpcPublisher)
 
-    /// Takes `name`, or when another living endpoint has it, `name` with the process id added. When
-    /// that fails, it is tried again, at growing intervals, until it succeeds.
+    /// Takes `name`, or, when another living endpoint has it, `name` with the process id added.
+    /// Retries at growing intervals until it succeeds.
     void publish(const QString& name);
 
     /// Empty while nothing is published.
     QString name() const { return m_name; }
 
-    /// How long a client may ask nothing, a minute unless set, before it is let go when another one
-    /// waits for its place.
+    /// How long a client may send no request, a minute unless set, before it may be disconnected in
+    /// favour of a new one.
     void setPatience(std::chrono::milliseconds limit) { m_patience = limit; }
 
 private:
@@ -56,7 +56,7 @@ private:
     std::chrono::milliseconds m_patience = std::chrono::minutes(1);
     QTimer m_retry;
     std::chrono::milliseconds m_retryInterval;
-    /// Made with the first client, when the object is surely whole.
+    /// Created with the first client, when the object is fully constructed.
     std::unique_ptr<IpcDispatcher> m_dispatcher;
     QList<IpcConnection*> m_connections;
     /// Those that have more to do, in the order of their turns.

@@ -7,23 +7,24 @@
 
 /// Where the endpoints of the user who runs this process are found: names are the user's own, other
 /// users' endpoints of the same name are elsewhere.
-namespace IpcScope {
+namespace ipc_scope {
 
-/// What QLocalSocket and QLocalServer know the endpoint `name` by.
+/// The name by which QLocalSocket and QLocalServer find the endpoint `name`.
 QString address(const QString& name);
 
-/// Makes what addresses stand on. Empty when that succeeded, else why no endpoint can be published.
+/// Creates what addresses rely on, such as their folder. Empty on success, otherwise the reason why
+/// no endpoint can be published.
 QString prepare();
 
-/// Why the endpoint `name`, or without one any endpoint, may be somebody else's although it is
-/// where the user's own is expected. Empty where nothing speaks against it, also where nothing is.
+/// Why the endpoint `name`, or any endpoint when no name is given, may belong to another user.
+/// Empty when it can be trusted or does not exist.
 QString distrust(const QString& name = {});
 
-/// Makes a published name one of names(), and ends that.
+/// Add a published name to names(), and remove it.
 void announce(const QString& name);
 void withdraw(const QString& name);
 
 /// The names that begin with `prefix` and may be reachable; some may belong to dead processes.
 QStringList names(const QString& prefix);
 
-} // namespace IpcScope
+} // namespace ipc_scope

@@ -10,12 +10,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace IpcScope {
+namespace ipc_scope {
 namespace {
 
-/// The folder that the session gave the user, or one of our own where there is no session. A
-/// relative path would mean another folder in each working directory, so it is ignored, as the XDG
-/// rules for base directories demand.
+/// The runtime folder of the user's session, or a folder of our own where there is no session. A
+/// relative path would mean a different folder for each working directory; it is ignored, as the
+/// XDG Base Directory Specification requires.
 QString directory()
 {
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
@@ -33,7 +33,7 @@ enum class Kind : quint8
     Socket,
 };
 
-/// Why what is at `path` is not the user's own; empty when it is, or nothing is there.
+/// Why what is at `path` is not the user's own; empty when it is, or when nothing is there.
 QString fault(const QString& path, Kind kind)
 {
     struct stat entry = {};
@@ -61,8 +61,8 @@ QString address(const QString& name)
 QString prepare()
 {
     const QString path = directory();
-    // Fails where the folder exists, which is what the check is for: in a folder that everybody
-    // writes to, anybody may have made it.
+    // The folder may exist already. Where everybody can write, anybody may have created it, so it
+    // is checked.
     if (mkdir(QFile::encodeName(path).constData(), S_IRWXU) != 0 && errno != EEXIST)
         return QStringLiteral("%1: %2").arg(path, qt_error_string(errno));
     return fault(path, Kind::Folder);
@@ -71,11 +71,11 @@ QString prepare()
 QString distrust(const QString& name)
 {
     const QString obstacle = fault(directory(), Kind::Folder);
-    // In a folder that only the user writes to, a socket stays what it is found to be.
+    // In a folder that only the user can write to, nobody else can replace the socket afterwards.
     return obstacle.isEmpty() && !name.isEmpty() ? fault(address(name), Kind::Socket) : obstacle;
 }
 
-// The socket's own entry in the folder says that it is there.
+// The socket's entry in the folder announces it.
 void announce(const QString& /*name*/) {}
 void withdraw(const QString& /*name*/) {}
 
@@ -84,4 +84,4 @@ QStringList names(const QString& prefix)
     return QDir(directory()).entryList({prefix + QLatin1Char('*')}, QDir::System, QDir::Name);
 }
 
-} // namespace IpcScope
+} // namespace ipc_scope

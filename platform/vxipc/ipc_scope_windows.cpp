@@ -7,14 +7,14 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 
-namespace IpcScope {
+namespace ipc_scope {
 namespace {
 
-/// All users of the machine share one folder of pipes, so each has an ending of his own: the
-/// security identifier, as users of two domains may have the same name.
+/// All users of the machine share one namespace of pipes, so each user's names have an ending of
+/// their own. It is the security identifier, as users of two domains may have the same name.
 QString ending()
 {
-    const QString user = WindowsSecurity::userOfProcess();
+    const QString user = windows_security::userOfProcess();
     return user.isEmpty() ? QString() : QLatin1Char('@') + user;
 }
 
@@ -33,11 +33,12 @@ QString address(const QString& name)
 
 QString prepare()
 {
-    return ending().isEmpty() ? QStringLiteral("the user is not known: %1").arg(qt_error_string())
-                              : QString();
+    return ending().isEmpty()
+               ? QStringLiteral("the user cannot be determined: %1").arg(qt_error_string())
+               : QString();
 }
 
-// A pipe says itself whose it is, to those who have opened it.
+// connectToEndpoint() asks the open pipe for its owner.
 QString distrust(const QString& /*name*/)
 {
     return {};
@@ -60,4 +61,4 @@ QStringList names(const QString& prefix)
     return announcements().entryList({prefix + QLatin1Char('*')}, QDir::Files, QDir::Name);
 }
 
-} // namespace IpcScope
+} // namespace ipc_scope

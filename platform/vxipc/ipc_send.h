@@ -6,7 +6,8 @@
 
 class QLocalSocket;
 
-/// Sends what the system takes at once and leaves the rest to the socket. For a message that none
-/// follows soon: the socket gathers what is written to it until its event loop runs, and waking
-/// that takes more system calls than a message alone does. Errors come later, from the socket.
+/// Sends what the system accepts at once and leaves the rest to the socket. Meant for a message
+/// that no other follows soon: the socket buffers what is written to it until the event loop runs,
+/// and waking that takes more system calls than sending the message. The socket reports errors
+/// later.
 void sendNow(QLocalSocket& socket, const QByteArray& bytes);

@@ -12,7 +12,8 @@
 void sendNow(QLocalSocket& socket, const QByteArray& bytes)
 {
     qsizetype sent = 0;
-    // Not past what waits in the socket. What fails here fails once more there, where it is told.
+    // Not ahead of what the socket still buffers. What fails here fails again in the socket, which
+    // reports it.
     if (socket.bytesToWrite() == 0) {
         const ssize_t taken =
             send(static_cast<int>(socket.socketDescriptor()), bytes.constData(),

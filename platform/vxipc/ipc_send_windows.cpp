@@ -6,6 +6,6 @@
 
 void sendNow(QLocalSocket& socket, const QByteArray& bytes)
 {
-    // Writing to a pipe ends later, which only the socket hears of; it begins at once.
+    // A write to a pipe starts at once. Only the socket is notified when it completes.
     socket.write(bytes);
 }

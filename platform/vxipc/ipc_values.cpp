@@ -16,10 +16,10 @@
 #include <limits>
 #include <optional>
 
-namespace IpcValues {
+namespace ipc_values {
 namespace {
 
-/// Beyond these a reader that knows only double, as most do, would see another number.
+/// Beyond this, readers whose only numbers are doubles, as most are, would see another number.
 constexpr qint64 largestSafeInteger = (Q_INT64_C(1) << 53) - 1;
 
 Converted fitting(QVariant value, Fit fit = Fit::Exact)
@@ -37,7 +37,7 @@ QJsonObject schemaOf(const char* type)
     return {{QStringLiteral("type"), QLatin1String(type)}};
 }
 
-/// The number as it was written, if it is a whole one that a 64-bit integer holds.
+/// The number, if it is whole and fits a 64-bit integer.
 std::optional<qint64> wholeNumber(const QJsonValue& json)
 {
     if (!json.isDouble())
@@ -74,7 +74,8 @@ Integer integerFromText(const QString& text, bool* ok)
         return static_cast<Integer>(text.toULongLong(ok));
 }
 
-/// Most languages' JSON numbers end at 53 bits, so a 64-bit one may also come as decimal text.
+/// JSON numbers have 53 bits in most languages, so a 64-bit integer may also be sent as decimal
+/// text.
 template <typename Integer>
 Converted wideIntegerFromJson(const QJsonValue& json, QMetaType type)
 {
@@ -264,7 +265,7 @@ void writeMember(JsonWriter& json, bool isFirst, const QString& name, const QVar
     write(json, value);
 }
 
-/// Hashes too, in the order of their keys: the same hash is the same text each time.
+/// For hashes, too, in the order of their keys, so that equal hashes are written as equal texts.
 void writeMap(JsonWriter& json, const QVariant& value)
 {
     const QVariantMap map = value.toMap();
@@ -308,7 +309,7 @@ constexpr Kind narrow = {integerFromJson<Integer>, writeInteger<Integer>, intege
 template <typename Integer>
 constexpr Kind wideInteger = {wideIntegerFromJson<Integer>, writeWideInteger<Integer>,
                               wideIntegerSchema};
-/// A long is as wide as the system makes it.
+/// The width of a long depends on the system.
 template <typename Integer>
 constexpr const Kind& nativeKind()
 {
@@ -391,7 +392,7 @@ QJsonObject recordSchema(QMetaType type, QJsonObject& records)
 {
     const QString name = QString::fromLatin1(type.name());
     if (!records.contains(name)) {
-        // Entered before its members are looked at, which may name the record again.
+        // Inserted before its members are described, as these may refer to the record again.
         records.insert(name, QJsonObject());
         QJsonObject members;
         for (int i = 0; i < type.metaObject()->propertyCount(); ++i) {
@@ -413,7 +414,7 @@ std::optional<Excess> beyond(qsizetype found, qsizetype most, const QString& exp
 
 std::optional<Excess> excessOfText(const QString& text)
 {
-    return beyond(text.size(), JsonRpc::maximumText,
+    return beyond(text.size(), json_rpc::maximumText,
                   QStringLiteral("a text of at most %1 characters"));
 }
 
@@ -421,7 +422,7 @@ std::optional<Excess> excessOf(const QJsonValue& json, qsizetype& values);
 
 std::optional<Excess> excessOfList(const QJsonArray& array, qsizetype& values)
 {
-    auto excess = beyond(array.size(), JsonRpc::maximumEntries,
+    auto excess = beyond(array.size(), json_rpc::maximumEntries,
                          QStringLiteral("a list of at most %1 entries"));
     for (auto entry = array.begin(); !excess && entry != array.end(); ++entry)
         excess = excessOf(*entry, values);
@@ -430,7 +431,7 @@ std::optional<Excess> excessOfList(const QJsonArray& array, qsizetype& values)
 
 std::optional<Excess> excessOfObject(const QJsonObject& object, qsizetype& values)
 {
-    auto excess = beyond(object.size(), JsonRpc::maximumEntries,
+    auto excess = beyond(object.size(), json_rpc::maximumEntries,
                          QStringLiteral("an object of at most %1 members"));
     for (auto member = object.begin(); !excess && member != object.end(); ++member) {
         excess = excessOfText(member.key());
@@ -440,10 +441,10 @@ std::optional<Excess> excessOfObject(const QJsonObject& object, qsizetype& value
     return excess;
 }
 
-/// `values` counts those that have been looked at so far.
+/// `values` counts those checked so far.
 std::optional<Excess> excessOf(const QJsonValue& json, qsizetype& values)
 {
-    if (auto excess = beyond(++values, JsonRpc::maximumValues,
+    if (auto excess = beyond(++values, json_rpc::maximumValues,
                              QStringLiteral("at most %1 values, nested ones included")))
         return excess;
     if (json.isString())
@@ -521,4 +522,4 @@ QString kindOf(const QJsonValue& json)
     return QStringLiteral("nothing");
 }
 
-} // namespace IpcValues
+} // namespace ipc_values

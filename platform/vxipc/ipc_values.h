@@ -12,14 +12,14 @@
 
 class JsonWriter;
 
-/// How the values of slots cross as JSON.
-namespace IpcValues {
+/// Converts the arguments and results of slots from and to JSON.
+namespace ipc_values {
 
-/// How well a JSON value fits a type; the better fit decides between overloads.
+/// How well a JSON value fits a type. The best fit selects the overload.
 enum class Fit : int
 {
     None,
-    /// Fits through a second form, such as an integer as decimal text.
+    /// Fits in an alternative form, such as an integer as decimal text.
     Lenient,
     Exact,
 };
@@ -27,28 +27,28 @@ enum class Fit : int
 struct Converted
 {
     Fit fit = Fit::None;
-    /// Holds the type that was asked for, unless nothing fitted.
+    /// Of the requested type; invalid if the JSON value does not fit.
     QVariant value;
-    /// What would have fitted, for the error message; empty when something did.
+    /// What is expected instead, for the error message; empty if the JSON value fits.
     QString expected;
 };
 
 /// A bound that a value exceeds.
 struct Excess
 {
-    /// What is within the bound, and how many of what it counts there are instead.
+    /// What the bound allows, for the error message, and the size that was found.
     QString expected;
     qsizetype found = 0;
 };
 
-/// The first bound on what another process may send as an argument that `json` exceeds.
+/// The first of the bounds on arguments from other processes that `json` exceeds.
 std::optional<Excess> excessOf(const QJsonValue& json);
 
-/// Whether values of `type` can cross: as an argument too, or as a result.
+/// Whether values of `type` can be passed, as arguments or as results.
 bool isSupported(QMetaType type);
 
 Converted fromJson(const QJsonValue& json, QMetaType type);
-/// Appends `value`; as null when its type cannot cross.
+/// Appends `value`, or null if its type is not supported.
 void write(JsonWriter& json, const QVariant& value);
 
 /// The JSON Schema of `type`. Records are named by reference, and their own schema is added to
@@ -58,4 +58,4 @@ QJsonObject schema(QMetaType type, QJsonObject& records);
 /// The kind of value in words, for error messages: "a text", "a number", …
 QString kindOf(const QJsonValue& json);
 
-} // namespace IpcValues
+} // namespace ipc_values

@@ -16,13 +16,13 @@ IVXIPCM4::IVXIPCM4(int serverType, QObject* parent)
     : VXIPCServer(serverType, parent)
 {
     checkCalls(QByteArrayLiteral("onStatusChanged"), [this](const QVariantList& arguments) {
-        return objectionToKeeping(arguments.value(1).toString());
+        return objectionToStoring(arguments.value(1).toString());
     });
 }
 
 IVXIPCM4::~IVXIPCM4() = default;
 
-QString IVXIPCM4::objectionToKeeping(const QString& printerName)
+QString IVXIPCM4::objectionToStoring(const QString& printerName)
 {
     if (printerName.size() > maximumNameLength) {
         return QStringLiteral("a printer's name has at most %1 characters, got %2")

@@ -7,15 +7,15 @@
 #include <QtCore/QSet>
 #include <QtCore/QString>
 
-/// The printer-controller service: a printer's controller board as other processes may ask and
-/// command it.
+/// The printer-controller service: queries and commands for a printer's controller board.
 ///
-/// The order of the slots, their argument names and their default arguments are the service's
-/// method table, which its clients are built for.
+/// The order of the slots, their argument names and their default arguments form the service's
+/// method table, which clients rely on.
 ///
-/// An endpoint may have a slot `onStatusChanged(int status, QString printerName)` besides, and keep
-/// each name for as long as it lives. So other processes may report 4096 names to it, each as long
-/// as a printer's can be on Windows (478 characters with its print server's), and no more.
+/// An endpoint may also have a slot `onStatusChanged(int status, QString printerName)` and store
+/// each name for as long as it lives. Other processes may therefore report at most 4096 names to
+/// it, of at most 478 characters, which is the longest a printer's name can be on Windows with its
+/// print server's.
 class IVXIPCM4 : public VXIPCServer
 {
     Q_OBJECT
@@ -108,7 +108,7 @@ public Q_SLOTS:
     virtual void printJobAdded(uint addr) = 0;
 
 private:
-    QString objectionToKeeping(const QString& printerName);
+    QString objectionToStoring(const QString& printerName);
 
     /// Those that other processes have reported.
     QSet<QString> m_reportedPrinters;

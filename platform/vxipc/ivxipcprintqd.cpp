@@ -8,6 +8,6 @@ IVXIPCPRINTQD::IVXIPCPRINTQD(int serverType, QObject* parent)
 
 IVXIPCPRINTQD::~IVXIPCPRINTQD() = default;
 
-// Here rather than in one object with the library's other classes: a program that is only a client
-// then links without the records that the interfaces name.
+// Included here rather than compiled with the meta-objects of the other classes, so that a program
+// that is only a client links without the records that the interfaces name.
 #include "moc_ivxipcprintqd.cpp"

@@ -10,8 +10,8 @@
 
 /// The print-queue service: the jobs that wait for the printer.
 ///
-/// The order of the slots, their argument names and their default arguments are the service's
-/// method table, which its clients are built for.
+/// The order of the slots, their argument names and their default arguments form the service's
+/// method table, which clients rely on.
 class IVXIPCPRINTQD : public VXIPCServer
 {
     Q_OBJECT

@@ -12,8 +12,8 @@
 
 /// The supply-database service: what other processes may ask about supplies and ribbons.
 ///
-/// The order of the slots, their argument names and their default arguments are the service's
-/// method table, which its clients are built for.
+/// The order of the slots, their argument names and their default arguments form the service's
+/// method table, which clients rely on.
 class IVXIPCSUPPLYD : public VXIPCServer
 {
     Q_OBJECT

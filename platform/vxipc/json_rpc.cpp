@@ -4,7 +4,7 @@
 
 #include "json_writer.h"
 
-namespace JsonRpc {
+namespace json_rpc {
 
 QByteArray request(const QString& method, const QJsonValue& parameters, std::optional<qint64> id)
 {
@@ -51,4 +51,4 @@ QByteArray failure(const QJsonValue& id, const Error& error)
     return line.json();
 }
 
-} // namespace JsonRpc
+} // namespace json_rpc

@@ -10,8 +10,8 @@
 
 #include <optional>
 
-/// What both ends of JSON-RPC 2.0 have in common.
-namespace JsonRpc {
+/// What endpoints and clients share about JSON-RPC 2.0.
+namespace json_rpc {
 
 enum ErrorCode : int
 {
@@ -27,7 +27,7 @@ enum ErrorCode : int
 };
 
 inline constexpr qsizetype maximumLine = qsizetype{1} << 20;
-/// Small values take up to 40 times as much memory as their line does.
+/// Once parsed, small values take up to 40 times as much memory as their line.
 inline constexpr qsizetype maximumLineValues = 65536;
 inline constexpr qsizetype maximumClients = 64;
 inline constexpr qsizetype maximumAnswers = qsizetype{4} << 20;
@@ -45,7 +45,7 @@ struct Error
     QJsonObject data;
 };
 
-/// Messages, each as the line that it is sent as.
+/// Messages, each as the line that is sent.
 
 /// Without an id it is a notification. Parameters that are neither list nor object are left out.
 QByteArray request(const QString& method, const QJsonValue& parameters, std::optional<qint64> id);
@@ -53,4 +53,4 @@ QByteArray request(const QString& method, const QJsonValue& parameters, std::opt
 QByteArray success(const QJsonValue& id, QByteArrayView result);
 QByteArray failure(const QJsonValue& id, const Error& error);
 
-} // namespace JsonRpc
+} // namespace json_rpc

@@ -12,15 +12,15 @@
 
 namespace {
 
-/// Whether a character stands for itself in JSON. Half a surrogate pair, which UTF-8 cannot have,
-/// does not.
+/// Whether a character is certainly written as it is. Half a surrogate pair is not, as UTF-8 cannot
+/// encode it.
 bool isPlain(QChar character)
 {
     return character >= u' ' && character != u'"' && character != u'\\' && !character.isSurrogate();
 }
 
-/// What Qt makes of a value that this writer has no short way for.
-QByteArray thoroughly(const QJsonValue& value)
+/// The JSON that Qt writes for a value that this writer has no faster way for.
+QByteArray writtenByQt(const QJsonValue& value)
 {
     return QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).mid(1).chopped(1);
 }
@@ -30,7 +30,7 @@ QByteArray thoroughly(const QJsonValue& value)
 void JsonWriter::text(QStringView text)
 {
     if (!std::ranges::all_of(text, isPlain)) {
-        raw(thoroughly(text.toString()));
+        raw(writtenByQt(text.toString()));
         return;
     }
     QStringEncoder encoder(QStringEncoder::Utf8);
@@ -43,7 +43,7 @@ void JsonWriter::text(QStringView text)
 
 char* JsonWriter::room(qsizetype size)
 {
-    // Twice as much as there was: a little at a time, a long list would be copied again and again.
+    // At least double the capacity: with smaller steps, a long list would be copied too often.
     if (m_json.capacity() < m_json.size() + size)
         m_json.reserve(std::max(m_json.size() + size, 2 * m_json.capacity()));
     return m_json.data() + m_json.size();
@@ -52,7 +52,7 @@ char* JsonWriter::room(qsizetype size)
 template <typename Number>
 void JsonWriter::digits(Number number)
 {
-    // More than any number takes.
+    // No number is longer.
     constexpr qsizetype longestNumber = 32;
     char* begin = room(longestNumber);
     const auto [end, error] = std::to_chars(begin, begin + longestNumber, number);
@@ -90,13 +90,13 @@ void JsonWriter::value(const QJsonValue& value)
         text(value.toString());
         return;
     case QJsonValue::Double:
-        // Whole ones may have more digits than a double holds.
+        // A whole number may have more digits than a double holds.
         if (const qint64 whole = value.toInteger(0); whole != 0 && std::isfinite(value.toDouble()))
             number(whole);
         else
             number(value.toDouble());
         return;
     default:
-        raw(thoroughly(value));
+        raw(writtenByQt(value));
     }
 }

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-/// Bytes as they arrive, to be taken out a line at a time.
+/// Collects bytes as they arrive and returns them line by line.
 class LineBuffer
 {
 public:
@@ -28,7 +28,7 @@ public:
         m_bytes.resize(size + std::max<qint64>(read, 0));
     }
 
-    /// Whether the next line is there to its end.
+    /// Whether the next line is complete.
     bool hasLine()
     {
         if (m_end < 0) {
@@ -38,10 +38,10 @@ public:
         return m_end >= 0;
     }
 
-    /// The length of the next line, or of what is there of it.
+    /// The length of the next line, or of the part of it that has arrived.
     qsizetype lineSize() const { return (m_end < 0 ? m_bytes.size() : m_end) - m_begin; }
 
-    /// The next line without its end, good until something is appended. Only when there is one.
+    /// The next line without its line end, valid until something is appended. Requires hasLine().
     QByteArrayView takeLine()
     {
         const QByteArrayView line = QByteArrayView(m_bytes).sliced(m_begin, lineSize());

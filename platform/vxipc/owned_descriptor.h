@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 /// Owns a file descriptor; negative stands for none.
@@ -39,3 +40,9 @@ public:
 private:
     int m_descriptor = -1;
 };
+
+/// Whether two descriptions, of open files or of entries in folders, are of the same file.
+inline bool isSameFile(const struct stat& one, const struct stat& other)
+{
+    return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}

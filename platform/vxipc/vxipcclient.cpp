@@ -3,6 +3,7 @@
 #include "vxipcclient.h"
 
 #include "ipc_connect.h"
+#include "ipc_names.h"
 #include "ipc_scope.h"
 #include "ipc_send.h"
 #include "json_rpc.h"
@@ -13,6 +14,7 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QPointer>
+#include <QtCore/QQueue>
 #include <QtCore/QTimer>
 #include <QtNetwork/QLocalSocket>
 
@@ -24,12 +26,12 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr std::chrono::milliseconds defaultTimeout = 30s;
-/// A living endpoint takes a connection at once, even when its process is busy.
+/// A living endpoint accepts a connection at once, even when its process is busy.
 constexpr std::chrono::milliseconds connectTime = 1s;
 constexpr std::chrono::milliseconds firstRetry = 100ms;
 constexpr std::chrono::milliseconds lastRetry = 5s;
-/// An endpoint's longest answer and what surrounds it in a batch.
-constexpr qsizetype maximumLine = 2 * JsonRpc::maximumAnswers;
+/// The longest answer of an endpoint, and what surrounds it in a batch.
+constexpr qsizetype maximumLine = 2 * json_rpc::maximumAnswers;
 
 VXIPCReply failed(VXIPCError::Code code, const QString& message)
 {
@@ -43,7 +45,7 @@ struct Answer
     VXIPCReply reply;
 };
 
-/// Nothing when the line is no answer to a client that numbers its calls.
+/// Nothing when the line is not an answer to a numbered call.
 std::optional<Answer> readAnswer(QByteArrayView line)
 {
     const QJsonObject object =
@@ -87,20 +89,38 @@ private:
     struct Call
     {
         QDeadlineTimer deadline;
-        /// Who gets the outcome: a caller with a callback, or one that waits.
+        /// Where the outcome goes: to a callback, or to the function that waits for it.
         Callback done;
         std::optional<VXIPCReply>* awaited = nullptr;
     };
 
-    /// Why the request cannot be sent, if it cannot; sends it otherwise.
+    /// The outcome of a call with a callback, which is still to be called.
+    struct Outcome
+    {
+        Callback done;
+        VXIPCReply reply;
+    };
+
+    /// Sends the request. The reply says why it cannot be sent, if it cannot.
     std::optional<VXIPCReply> send(const QByteArray& line, std::chrono::milliseconds limit);
     void onReadyRead();
-    void onLine(QByteArrayView line);
     void onDisconnected();
+    void onLateness();
+
+    /// These end calls, but call no callbacks. deliver() does that afterwards.
+    void readAnswers();
+    bool takeAnswer(QByteArrayView line);
     void finish(qint64 id, const VXIPCReply& reply);
     void finishAll(const VXIPCReply& reply);
-    void finishLate();
-    void deliverLater(Callback done, const VXIPCReply& reply);
+    void giveUp(const QString& reason);
+
+    /// Calls the callbacks. Each of them may make further calls, wait, or destroy the client.
+    void deliver();
+    /// Has the event loop do it.
+    void deliverLater();
+    /// Does it now, or later if a call is being waited for.
+    void deliverUnlessWaiting();
+
     void watch(const QDeadlineTimer& deadline);
     void retryLater();
     VXIPCReply timedOut() const;
@@ -108,7 +128,7 @@ private:
 
     VXIPCClient& q;
     QLocalSocket* m_socket;
-    /// What spoke against the endpoint when it was last to be connected to.
+    /// Why the endpoint was not trusted at the last attempt to connect; empty when it was.
     QString m_obstacle;
     QTimer m_lateness;
     QTimer m_reconnect;
@@ -117,10 +137,13 @@ private:
     LineBuffer m_received;
     qint64 m_lastId = 0;
     QHash<qint64, Call> m_calls;
+    QQueue<Outcome> m_outcomes;
+    bool m_isDeliveryQueued = false;
     QDeadlineTimer m_nextLate{QDeadlineTimer::Forever};
-    /// How many waits, and how many looks at what arrived, are being made within each other.
+    /// How many calls are waited for, each from a callback of the one before.
     int m_waits = 0;
-    int m_readings = 0;
+    /// How many signals of the socket are being handled, each within the one before.
+    int m_socketSignals = 0;
 };
 
 VXIPCClient::Private::Private(VXIPCClient& client, QString name)
@@ -135,17 +158,16 @@ VXIPCClient::Private::Private(VXIPCClient& client, QString name)
     m_reconnect.setSingleShot(true);
     connect(m_socket, &QLocalSocket::readyRead, &q, [this] { onReadyRead(); });
     connect(m_socket, &QLocalSocket::disconnected, &q, [this] { onDisconnected(); });
-    connect(&m_lateness, &QTimer::timeout, &q, [this] { finishLate(); });
+    connect(&m_lateness, &QTimer::timeout, &q, [this] { onLateness(); });
     connect(&m_reconnect, &QTimer::timeout, &q, [this] { connectNow(); });
 }
 
 VXIPCClient::Private::~Private()
 {
     m_socket->disconnect(&q);
-    if (m_readings == 0)
+    if (m_socketSignals == 0)
         return;
-    // A callback destroys the client. The socket, which is telling that it is readable, needs to
-    // outlive that.
+    // A signal of the socket led to the client's destruction. The socket has to outlive the signal.
     m_socket->setParent(nullptr);
     m_socket->abort();
     m_socket->deleteLater();
@@ -169,8 +191,10 @@ bool VXIPCClient::Private::connectNow(std::chrono::milliseconds limit)
 
 void VXIPCClient::Private::disconnectNow()
 {
+    const QPointer<VXIPCClient> alive(&q);
     m_socket->abort();
-    m_reconnect.stop();
+    if (alive)
+        m_reconnect.stop();
 }
 
 void VXIPCClient::Private::retryLater()
@@ -182,8 +206,10 @@ void VXIPCClient::Private::retryLater()
 void VXIPCClient::Private::call(const QString& method, const QJsonValue& parameters, Callback done)
 {
     const qint64 id = ++m_lastId;
-    if (const auto failure = send(JsonRpc::request(method, parameters, id), timeout)) {
-        deliverLater(std::move(done), *failure);
+    if (const auto failure = send(json_rpc::request(method, parameters, id), timeout)) {
+        if (done)
+            m_outcomes.enqueue({std::move(done), *failure});
+        deliverLater();
         return;
     }
     const QDeadlineTimer deadline(timeout);
@@ -196,15 +222,16 @@ VXIPCReply VXIPCClient::Private::callAndWait(const QString& method, const QJsonV
 {
     const QDeadlineTimer deadline(limit);
     const qint64 id = ++m_lastId;
-    if (const auto failure = send(JsonRpc::request(method, parameters, id), limit))
+    if (const auto failure = send(json_rpc::request(method, parameters, id), limit))
         return *failure;
     std::optional<VXIPCReply> outcome;
     m_calls.insert(id, {deadline, {}, &outcome});
     m_socket->flush();
     ++m_waits;
     while (!outcome) {
-        // Asked for here too: a wait within what readyRead led to is not told by it.
-        onReadyRead();
+        // readyRead is not emitted again for a wait within a callback that it led to.
+        readAnswers();
+        deliverLater();
         if (outcome)
             break;
         if (!isConnected())
@@ -220,7 +247,7 @@ VXIPCReply VXIPCClient::Private::callAndWait(const QString& method, const QJsonV
 
 bool VXIPCClient::Private::notify(const QString& method, const QJsonValue& parameters)
 {
-    const bool isSent = !send(JsonRpc::request(method, parameters, std::nullopt), timeout);
+    const bool isSent = !send(json_rpc::request(method, parameters, std::nullopt), timeout);
     m_socket->flush();
     return isSent;
 }
@@ -228,19 +255,19 @@ bool VXIPCClient::Private::notify(const QString& method, const QJsonValue& param
 std::optional<VXIPCReply> VXIPCClient::Private::send(const QByteArray& line,
                                                      std::chrono::milliseconds limit)
 {
-    if (line.size() > JsonRpc::maximumLine + 1) {
+    if (line.size() > json_rpc::maximumLine + 1) {
         return VXIPCReply{QJsonValue::Null,
-                          VXIPCError{JsonRpc::LineTooLong,
+                          VXIPCError{json_rpc::LineTooLong,
                                      QStringLiteral("Line too long: at most %1 bytes can be sent")
-                                         .arg(JsonRpc::maximumLine),
+                                         .arg(json_rpc::maximumLine),
                                      {}}};
     }
     if (!connectNow(limit)) {
-        const QString nobody = QStringLiteral("no endpoint answers under %1").arg(serverName);
+        const QString reason = m_obstacle.isEmpty() ? QString() : QLatin1String(": ") + m_obstacle;
         return failed(VXIPCError::NotReachable,
-                      m_obstacle.isEmpty() ? nobody : nobody + QLatin1String(": ") + m_obstacle);
+                      QStringLiteral("no endpoint answers under %1").arg(serverName) + reason);
     }
-    // Calls that come together go together, with the event loop.
+    // Calls that follow each other closely are sent together, from the event loop.
     if (m_calls.isEmpty())
         sendNow(*m_socket, line);
     else
@@ -251,81 +278,29 @@ std::optional<VXIPCReply> VXIPCClient::Private::send(const QByteArray& line,
 void VXIPCClient::Private::onReadyRead()
 {
     const QPointer<VXIPCClient> alive(&q);
-    ++m_readings;
-    while (m_socket->bytesAvailable() > 0 || m_received.hasLine()) {
-        if (m_received.hasLine()) {
-            onLine(m_received.takeLine());
-            if (!alive)
-                return;
-            continue;
-        }
-        m_received.appendFrom(*m_socket, m_socket->bytesAvailable());
-        if (m_received.lineSize() > maximumLine && !m_received.hasLine()) {
-            finishAll(failed(VXIPCError::BadAnswer, QStringLiteral("the answer has no end")));
-            if (!alive)
-                return;
-            m_socket->abort();
-            break;
-        }
-    }
-    --m_readings;
-}
-
-void VXIPCClient::Private::onLine(QByteArrayView line)
-{
-    const std::optional<Answer> answer = readAnswer(line);
-    if (!answer) {
-        const QPointer<VXIPCClient> alive(&q);
-        finishAll(failed(VXIPCError::BadAnswer, QStringLiteral("the answer is no JSON-RPC 2.0")));
-        if (alive)
-            m_socket->abort();
-        return;
-    }
-    if (answer->id.isNull())
-        finishAll(answer->reply);
-    else
-        finish(answer->id.toInteger(), answer->reply);
+    ++m_socketSignals;
+    readAnswers();
+    if (alive)
+        deliverUnlessWaiting();
+    if (alive)
+        --m_socketSignals;
 }
 
 void VXIPCClient::Private::onDisconnected()
 {
     const QPointer<VXIPCClient> alive(&q);
+    ++m_socketSignals;
     retryLater();
+    // Before the signal: a call that it leads to is made over another connection.
+    finishAll(connectionLost());
+    deliverLater();
     Q_EMIT q.disconnected();
     if (alive)
-        finishAll(connectionLost());
+        --m_socketSignals;
 }
 
-void VXIPCClient::Private::finish(qint64 id, const VXIPCReply& reply)
+void VXIPCClient::Private::onLateness()
 {
-    const auto found = m_calls.find(id);
-    // The answer to a call that was given up.
-    if (found == m_calls.end())
-        return;
-    const Call call = std::move(*found);
-    m_calls.erase(found);
-    if (call.awaited)
-        *call.awaited = reply;
-    else if (m_waits > 0)
-        deliverLater(call.done, reply);
-    else if (call.done)
-        call.done(reply);
-}
-
-void VXIPCClient::Private::finishAll(const VXIPCReply& reply)
-{
-    const QPointer<VXIPCClient> alive(&q);
-    QList<qint64> ids = m_calls.keys();
-    std::sort(ids.begin(), ids.end());
-    for (const qint64 id : std::as_const(ids)) {
-        if (alive)
-            finish(id, reply);
-    }
-}
-
-void VXIPCClient::Private::finishLate()
-{
-    const QPointer<VXIPCClient> alive(&q);
     QList<qint64> late;
     QDeadlineTimer next(QDeadlineTimer::Forever);
     for (auto call = m_calls.cbegin(); call != m_calls.cend(); ++call) {
@@ -339,18 +314,103 @@ void VXIPCClient::Private::finishLate()
     m_nextLate = QDeadlineTimer(QDeadlineTimer::Forever);
     watch(next);
     std::sort(late.begin(), late.end());
-    for (const qint64 id : std::as_const(late)) {
-        if (alive)
-            finish(id, timedOut());
+    for (const qint64 id : std::as_const(late))
+        finish(id, timedOut());
+    deliverUnlessWaiting();
+}
+
+void VXIPCClient::Private::readAnswers()
+{
+    while (m_socket->bytesAvailable() > 0 || m_received.hasLine()) {
+        if (m_received.hasLine()) {
+            if (takeAnswer(m_received.takeLine()))
+                continue;
+            giveUp(QStringLiteral("the response is not JSON-RPC 2.0"));
+            return;
+        }
+        m_received.appendFrom(*m_socket, m_socket->bytesAvailable());
+        if (m_received.lineSize() > maximumLine && !m_received.hasLine()) {
+            giveUp(QStringLiteral("the response exceeds the limit"));
+            return;
+        }
     }
 }
 
-void VXIPCClient::Private::deliverLater(Callback done, const VXIPCReply& reply)
+/// False when the line is not an answer.
+bool VXIPCClient::Private::takeAnswer(QByteArrayView line)
 {
-    if (!done)
+    const std::optional<Answer> answer = readAnswer(line);
+    if (!answer)
+        return false;
+    if (answer->id.isNull())
+        finishAll(answer->reply);
+    else
+        finish(answer->id.toInteger(), answer->reply);
+    return true;
+}
+
+void VXIPCClient::Private::finish(qint64 id, const VXIPCReply& reply)
+{
+    const auto found = m_calls.find(id);
+    // The call timed out before its answer came.
+    if (found == m_calls.end())
         return;
-    QMetaObject::invokeMethod(
-        &q, [done = std::move(done), reply] { done(reply); }, Qt::QueuedConnection);
+    Call call = std::move(*found);
+    m_calls.erase(found);
+    if (call.awaited)
+        *call.awaited = reply;
+    else if (call.done)
+        m_outcomes.enqueue({std::move(call.done), reply});
+}
+
+void VXIPCClient::Private::finishAll(const VXIPCReply& reply)
+{
+    QList<qint64> ids = m_calls.keys();
+    std::sort(ids.begin(), ids.end());
+    for (const qint64 id : std::as_const(ids))
+        finish(id, reply);
+}
+
+/// Ends the connection to an endpoint that sends something other than answers.
+void VXIPCClient::Private::giveUp(const QString& reason)
+{
+    finishAll(failed(VXIPCError::BadAnswer, reason));
+    m_received.clear();
+    m_socket->abort();
+}
+
+void VXIPCClient::Private::deliver()
+{
+    const QPointer<VXIPCClient> alive(&q);
+    // A callback may run an event loop, which then delivers the others.
+    if (m_outcomes.size() > 1)
+        deliverLater();
+    // Only those that are there now: a callback whose new call fails at once would get the next
+    // outcome here, and the event loop would never run again.
+    for (qsizetype rest = m_outcomes.size(); alive && rest > 0 && !m_outcomes.isEmpty(); --rest) {
+        const Outcome next = m_outcomes.dequeue();
+        next.done(next.reply);
+    }
+}
+
+void VXIPCClient::Private::deliverLater()
+{
+    if (m_isDeliveryQueued || m_outcomes.isEmpty())
+        return;
+    m_isDeliveryQueued = true;
+    const auto deliverQueued = [this] {
+        m_isDeliveryQueued = false;
+        deliver();
+    };
+    QMetaObject::invokeMethod(&q, deliverQueued, Qt::QueuedConnection);
+}
+
+void VXIPCClient::Private::deliverUnlessWaiting()
+{
+    if (m_waits > 0)
+        deliverLater();
+    else
+        deliver();
 }
 
 void VXIPCClient::Private::watch(const QDeadlineTimer& deadline)
@@ -374,7 +434,7 @@ VXIPCReply VXIPCClient::Private::connectionLost() const
 }
 
 VXIPCClient::VXIPCClient(int serverType, QObject* parent)
-    : VXIPCClient(QStringLiteral("vxipc-%1").arg(serverType), parent)
+    : VXIPCClient(endpointNamePrefix + QString::number(serverType), parent)
 {}
 
 VXIPCClient::VXIPCClient(QString serverName, QObject* parent)
@@ -438,7 +498,7 @@ bool VXIPCClient::notify(const QString& method, const QJsonValue& parameters)
 QStringList VXIPCClient::runningServers()
 {
     QStringList running;
-    for (const QStringList names = IpcScope::names(QStringLiteral("vxipc-"));
+    for (const QStringList names = ipc_scope::names(endpointNamePrefix);
          const QString& name : names) {
         QLocalSocket probe;
         connectToEndpoint(probe, name, connectTime);
@@ -450,10 +510,10 @@ QStringList VXIPCClient::runningServers()
 
 QString VXIPCClient::distrust()
 {
-    return IpcScope::distrust();
+    return ipc_scope::distrust();
 }
 
 QString VXIPCClient::address(const QString& serverName)
 {
-    return IpcScope::address(serverName);
+    return ipc_scope::address(serverName);
 }

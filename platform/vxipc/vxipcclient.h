@@ -25,7 +25,7 @@ struct VXIPCError
         ConnectionLost = 2,
         /// No answer came in time. The call may still be made.
         TimedOut = 3,
-        /// What came back is no JSON-RPC 2.0.
+        /// The response is not JSON-RPC 2.0.
         BadAnswer = 4,
     };
 
@@ -39,7 +39,7 @@ struct VXIPCError
 /// The outcome of a call.
 struct VXIPCReply
 {
-    /// Null for a method without a result, and where there is an error.
+    /// Null for a method without a result, and on an error.
     QJsonValue result;
     std::optional<VXIPCError> error;
 
@@ -58,8 +58,8 @@ struct VXIPCReply
 /// \endcode
 ///
 /// Parameters are a QJsonArray, by position, or a QJsonObject, by name; docs/ipc.md says how each
-/// type is written. A client connects with its first call. After a lost connection it connects
-/// again by itself, at growing intervals, and each call tries at once.
+/// type is written. A client connects with its first call. When the connection is lost, it
+/// reconnects by itself, at growing intervals; a call tries to reconnect at once.
 ///
 /// Lives in one thread, which the blocking form blocks; the other forms need its event loop.
 class VXIPCClient : public QObject
@@ -80,40 +80,42 @@ public:
     QString serverName() const;
     bool isConnected() const;
 
-    /// How long a call waits for its answer, 30 s unless set. Counts for calls made from then on.
+    /// How long a call waits for its answer, 30 s unless set. Applies to later calls.
     void setTimeout(std::chrono::milliseconds timeout);
     std::chrono::milliseconds timeout() const;
 
-    /// Connects if it is not connected. False when no endpoint of this user answers under the name;
-    /// others are not asked.
+    /// Connects unless it is connected. False when no endpoint of this user answers under the name;
+    /// endpoints of other users do not count.
     bool connectToServer();
-    /// Ends the connection, and the attempts to have one. Calls in flight end with ConnectionLost.
+    /// Closes the connection and stops reconnecting. Calls in flight end with ConnectionLost.
     void disconnectFromServer();
 
-    /// Makes a call and returns. `done` gets its outcome later, exactly once and never from within
-    /// this function; not at all when the client is destroyed before.
+    /// Makes a call and returns. `done` is called with the outcome later, exactly once and never
+    /// from within this function; not at all if the client is destroyed before. It may make calls,
+    /// wait for them, run an event loop and destroy the client.
     void call(const QString& method, const QJsonValue& parameters, Callback done);
 
-    /// Makes a call and waits for its outcome, up to timeout() or the time given. Other calls'
-    /// outcomes are kept for the event loop.
+    /// Makes a call and waits for its outcome, up to timeout() or the time given. The outcomes of
+    /// other calls are delivered later, from the event loop.
     VXIPCReply callAndWait(const QString& method, const QJsonValue& parameters = {});
     VXIPCReply callAndWait(const QString& method, const QJsonValue& parameters,
                            std::chrono::milliseconds timeout);
 
-    /// Makes a call that is not answered. False when no endpoint answers under the name.
+    /// Sends a notification, a call without an answer. False when no endpoint answers under the
+    /// name.
     bool notify(const QString& method, const QJsonValue& parameters = {});
 
     /// The names of the user's endpoints that answer now.
     static QStringList runningServers();
-    /// Why no endpoint is believed: where the user's are expected, other users may have put theirs.
-    /// Empty where nothing speaks against them.
+    /// Why endpoints are not trusted: other users may have put theirs where the user's are
+    /// expected. Empty when they are trusted.
     static QString distrust();
     /// Where the endpoint of that name listens: a socket's path, a pipe's name on Windows.
     static QString address(const QString& serverName);
 
 Q_SIGNALS:
     void connected();
-    /// The connection ended; the calls in flight are told after this.
+    /// The connection has ended. The calls in flight get their outcomes after this.
     void disconnected();
 
 private:

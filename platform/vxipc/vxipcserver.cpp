@@ -2,17 +2,18 @@
 // Copyright The VxPrinterStatus authors
 #include "vxipcserver.h"
 
+#include "ipc_names.h"
 #include "ipc_publisher.h"
 
 VXIPCServer::VXIPCServer(int serverType, QObject* parent)
     : QObject(parent)
 {
-    // Later, when the derived object is whole and its thread is ready for sockets.
+    // Later, when the derived object is fully constructed and its thread is ready for sockets.
     QMetaObject::invokeMethod(
         this,
         [this, serverType] {
             m_publisher = new IpcPublisher(*this, VXIPCServer::staticMetaObject);
-            m_publisher->publish(QStringLiteral("vxipc-%1").arg(serverType));
+            m_publisher->publish(endpointNamePrefix + QString::number(serverType));
         },
         Qt::QueuedConnection);
 }
@@ -29,5 +30,5 @@ QString VXIPCServer::serverName() const
 
 void VXIPCServer::checkCalls(const QByteArray& slotName, CallCheck check)
 {
-    m_callChecks.insert(slotName, std::move(check));
+    m_callChecks[slotName] = std::move(check);
 }

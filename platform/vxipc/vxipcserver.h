@@ -15,12 +15,13 @@ class IpcPublisher;
 /// Base of every endpoint: publishes the slots of the object to other processes of the same user.
 ///
 /// Every public slot that a derived class declares can be called as a method of JSON-RPC 2.0, by
-/// its name and with its argument names, as long as its types can cross (docs/ipc.md has the
-/// table). Signals, private and protected slots and everything that QObject has cannot.
+/// its name and with its argument names, if its types are supported (docs/ipc.md has the table).
+/// Signals, private and protected slots and everything that QObject declares cannot.
 ///
 /// Calls are made on the thread that the endpoint lives in, from its event loop. Clients that send
-/// too much or take no answers are closed; the endpoint never waits for one. What an argument may
-/// hold is bounded; an endpoint that keeps arguments bounds with checkCalls() what it keeps.
+/// too much or do not read their answers are disconnected; the endpoint never waits for a client.
+/// The size of arguments is bounded. An endpoint that stores arguments bounds with checkCalls() how
+/// much it stores.
 class VXIPCServer : public QObject
 {
     Q_OBJECT
@@ -32,17 +33,17 @@ public:
     ~VXIPCServer() override;
     Q_DISABLE_COPY_MOVE(VXIPCServer)
 
-    /// The name that clients find the endpoint by. Empty before it is published, and when that
-    /// failed, which leaves the endpoint working in its own process.
+    /// The name under which clients find the endpoint. Empty until it is published; until then the
+    /// endpoint works within its own process only.
     QString serverName() const;
 
 protected:
     /// Why a call with these arguments is refused, or an empty text.
     using CallCheck = std::function<QString(const QVariantList& arguments)>;
 
-    /// Has `check` decide on each call of the slots of that name that comes from another process,
-    /// before it is made. Calls within this process are not looked at. For the constructor of an
-    /// endpoint: a check counts if it is there when the first client comes.
+    /// Has `check` decide on each call that another process makes to the slots of that name. Calls
+    /// within this process are not checked. Meant for the constructor of an endpoint: a check takes
+    /// effect if it is set before the first client connects.
     void checkCalls(const QByteArray& slotName, CallCheck check);
 
 private:

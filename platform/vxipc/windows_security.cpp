@@ -8,7 +8,7 @@
 #include <aclapi.h>
 #include <sddl.h>
 
-namespace WindowsSecurity {
+namespace windows_security {
 namespace {
 
 QString text(PSID identifier)
@@ -52,7 +52,7 @@ QString ownerOfPipe(HANDLE pipe)
                         nullptr, nullptr, &raw) != ERROR_SUCCESS) {
         return {};
     }
-    // The owner is a part of it.
+    // `owner` points into it.
     const LocalMemory<void> descriptor(raw);
     return owner ? text(owner) : QString();
 }
@@ -62,20 +62,20 @@ QString clientOfPipe(HANDLE serverEnd)
     if (!ImpersonateNamedPipeClient(serverEnd))
         return {};
     HANDLE token = nullptr;
-    // As this process itself: clients that let themselves be identified, but not be acted for, have
-    // no rights here.
+    // With the rights of this process: the identity of a client that allows identification only
+    // cannot be used to open the token.
     if (!OpenThreadToken(GetCurrentThread(), TOKEN_QUERY, TRUE, &token))
         token = nullptr;
     const OwnedHandle client = owned(token);
     if (!RevertToSelf())
-        qFatal("The thread cannot go back to its own user");
+        qFatal("The thread cannot revert to its own user");
     return client ? userOf(client.get()) : QString();
 }
 
 LocalMemory<void> ownedByUserAlone(const QString& user)
 {
-    // The owner is named, because that of an elevated process's objects is the administrators'
-    // group otherwise.
+    // The owner is named, because by default the administrators' group owns the objects of an
+    // elevated process.
     const QString form = QStringLiteral("O:%1D:P(A;;FA;;;%1)").arg(user);
     PSECURITY_DESCRIPTOR descriptor = nullptr;
     if (!ConvertStringSecurityDescriptorToSecurityDescriptorW(
@@ -85,4 +85,4 @@ LocalMemory<void> ownedByUserAlone(const QString& user)
     return LocalMemory<void>(descriptor);
 }
 
-} // namespace WindowsSecurity
+} // namespace windows_security

@@ -8,8 +8,8 @@
 
 #include <windows.h>
 
-/// What is asked of Windows about who is who. Users are told by their security identifiers as text.
-namespace WindowsSecurity {
+/// Users and access rights in Windows. A user is given by the security identifier as text.
+namespace windows_security {
 
 struct HandleCloser
 {
@@ -17,7 +17,7 @@ struct HandleCloser
 };
 using OwnedHandle = std::unique_ptr<void, HandleCloser>;
 
-/// Null stands for none, also where Windows has another value for that.
+/// INVALID_HANDLE_VALUE becomes null.
 OwnedHandle owned(HANDLE handle);
 
 struct LocalMemoryFreer
@@ -27,18 +27,18 @@ struct LocalMemoryFreer
 template <typename T>
 using LocalMemory = std::unique_ptr<T, LocalMemoryFreer>;
 
-/// The user whom this process runs for, elevated or not. Empty when Windows does not tell.
+/// The user whom this process runs as, elevated or not. Empty when Windows does not say.
 QString userOfProcess();
 
-/// The owner of a pipe that either end is open of. Empty when Windows does not tell.
+/// The owner of a pipe, by a handle of either end. Empty when Windows does not say.
 QString ownerOfPipe(HANDLE pipe);
 
-/// The user at the other end of a pipe's server end. Empty when Windows does not tell, as before
-/// the first bytes of a client that lets its identity be looked up for each message.
+/// The user of the client that is connected to a pipe's server end. Empty when Windows does not
+/// say, as for a client with dynamic identity tracking before its first bytes are read.
 QString clientOfPipe(HANDLE serverEnd);
 
-/// Describes something that belongs to the user, and that no other user has any right to. Null when
-/// it cannot be made.
+/// A security descriptor for what belongs to the user, with no rights for anybody else. Null on
+/// failure.
 LocalMemory<void> ownedByUserAlone(const QString& user);
 
-} // namespace WindowsSecurity
+} // namespace windows_security

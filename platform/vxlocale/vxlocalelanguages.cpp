@@ -13,7 +13,7 @@ namespace {
 struct Language
 {
     QLocale::Language language;
-    QLocale::Script script; ///< `AnyScript` where the language is one, however it is written.
+    QLocale::Script script; ///< `AnyScript` if the script does not matter.
     qint32 id;
 };
 
@@ -56,8 +56,8 @@ VXLocaleLanguages::~VXLocaleLanguages() = default;
 
 qint32 VXLocaleLanguages::getCurrentLanguageId() const
 {
-    // The default locale is the system's until the application sets another, and then it has the
-    // languages of the system's user in their order.
+    // Until the application sets a default locale it is the system's, which lists the languages of
+    // the user in order of preference.
     return languageId(QLocale().uiLanguages());
 }
 

@@ -5,7 +5,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
 
-/// The languages that names in the supply database can be had in, by their numbers.
+/// The numbers of the languages that names in the supply database can have.
 ///
 /// | id | language | id | language |
 /// |---|---|---|---|
@@ -16,8 +16,8 @@
 /// | 4 | Japanese | 10 | Korean |
 /// | 5 | Italian | 11 | Chinese, traditional |
 ///
-/// The numbers are stored in databases and never change; new languages are added at the end. A
-/// database need not have names in each of them.
+/// The numbers are stored in databases and never change. New languages are added at the end. A
+/// database may lack names in some of the languages.
 class VXLocaleLanguages : public QObject
 {
     Q_OBJECT
@@ -27,12 +27,12 @@ public:
     ~VXLocaleLanguages() override;
     Q_DISABLE_COPY_MOVE(VXLocaleLanguages)
 
-    /// The number of the language of the running application: the first listed one among those that
-    /// its default locale (`QLocale()`) names. That is the locale that `QLocale::setDefault` was
-    /// called with, and otherwise the system's, with its user's languages in order of preference.
+    /// The number of the application's language: the first listed one among the languages of the
+    /// default locale (`QLocale()`). That is the locale set with `QLocale::setDefault`, or
+    /// otherwise the system's, which has the user's languages in order of preference.
     qint32 getCurrentLanguageId() const;
 
-    /// The number of the first listed language among locale names such as "de-CH" or "zh_TW"; 0
-    /// when none of them is listed.
+    /// The number of the first listed language among locale names such as "de-CH" or "zh_TW"; 0 if
+    /// none of them is listed.
     static qint32 languageId(const QStringList& localeNames);
 };

@@ -15,8 +15,8 @@ struct VXError
     qint32 code;
 };
 
-/// What a status code means, in a few words for the user. Never empty: a code without a text of its
-/// own is named by its number.
+/// A short description of a status code for the user. Never empty: for a code without a description
+/// the text contains the number.
 ///
-/// The texts are translatable in the context "VXError".
+/// The texts are translated in the context "VXError".
 QString getErrorDescription(const VXError& error);

@@ -5,11 +5,11 @@
 #include <QtCore/QString>
 
 /// Texts for the error codes of Windows calls.
-namespace WindowsErrors {
+namespace windows_errors {
 
-/// What the code that `GetLastError` gave means, on one line. On Windows the system's own text in
-/// the user's language; elsewhere an English text for the codes that printing meets. Never empty: a
-/// code without a text is named by its number.
+/// The description of a code from `GetLastError`, on one line. On Windows it is the system's own
+/// text in the user's language; elsewhere there are English texts for the codes that occur in
+/// printing. Never empty: for a code without a description the text contains the number.
 QString winError(unsigned long code);
 
-} // namespace WindowsErrors
+} // namespace windows_errors

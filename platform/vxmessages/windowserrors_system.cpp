@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// The texts as Windows itself has them.
+// The descriptions from Windows itself.
 #include "windowserrors.h"
 
 #include <windows.h>
@@ -16,13 +16,13 @@ QString systemText(unsigned long code)
         nullptr, code, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
     const QString copy = QString::fromWCharArray(text, static_cast<qsizetype>(length));
     LocalFree(text);
-    // Windows ends its texts, and breaks long ones, with line ends.
+    // Windows ends its texts with a line break, and wraps long ones.
     return copy.simplified();
 }
 
 } // namespace
 
-QString WindowsErrors::winError(unsigned long code)
+QString windows_errors::winError(unsigned long code)
 {
     const QString text = systemText(code);
     return text.isEmpty() ? QStringLiteral("Windows error %1").arg(code) : text;

@@ -13,7 +13,7 @@ constexpr qsizetype lengthDigits = 8;
 constexpr qsizetype kindDigits = 6;
 constexpr qsizetype rollDigits = 6;
 
-// Signs, spaces and prefixes, which the conversion alone would let through, are no digits.
+// Accepts digits only: toUInt() alone would also accept signs, spaces and prefixes.
 std::optional<quint32> number(QStringView digits, int base)
 {
     const bool allDigits = std::ranges::all_of(digits, [base](QChar character) {

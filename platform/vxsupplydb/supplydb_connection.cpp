@@ -15,7 +15,7 @@
 
 namespace {
 
-// What SQLite's file format has in the first bytes of every file.
+// The header that begins every file in SQLite's format.
 constexpr char magic[] = "SQLite format 3"; // with its NUL
 constexpr qsizetype fileHeaderSize = 100;
 constexpr qsizetype writeVersionOffset = 18;
@@ -29,7 +29,7 @@ quint32 numberAt(const QByteArray& header, qsizetype offset)
     return qFromBigEndian<quint32>(header.constData() + offset);
 }
 
-// Asking whether a name is free and taking it must not be parted by another thread.
+// Makes checking whether a name is free and taking it one step.
 Q_CONSTINIT QBasicMutex namesMutex;
 
 QSqlDatabase addConnection(const QString& wantedName)
@@ -45,66 +45,66 @@ QString headerFault(const QByteArray& header)
 {
     if (header.size() < fileHeaderSize || !header.startsWith(QByteArray(magic, sizeof(magic))))
         return QStringLiteral("not an SQLite database");
-    if (numberAt(header, applicationIdOffset) != SupplyDbSchema::applicationId)
+    if (numberAt(header, applicationIdOffset) != supplydb_schema::applicationId)
         return QStringLiteral("an SQLite database, but not a supply database");
     const quint32 version = numberAt(header, userVersionOffset);
-    if (version != SupplyDbSchema::schemaVersion)
-        return QStringLiteral("of schema version %1, where version %2 can be read")
+    if (version != supplydb_schema::schemaVersion)
+        return QStringLiteral("schema version %1; only version %2 can be read")
             .arg(version)
-            .arg(SupplyDbSchema::schemaVersion);
-    // SQLite makes files beside one with a write-ahead log, even to read it.
+            .arg(supplydb_schema::schemaVersion);
+    // SQLite creates files beside a database with a write-ahead log, even to read it.
     if (header.at(writeVersionOffset) != rollbackJournal ||
         header.at(readVersionOffset) != rollbackJournal)
-        return QStringLiteral("kept with a write-ahead log, which cannot be read without writing");
+        return QStringLiteral("uses a write-ahead log, which cannot be read without writing");
     return {};
 }
 
-/// What the pages of a file were found to be like, by what tells it from the file before it and
-/// after it: SQLite counts its changes in the header.
-struct Finding
+/// The result of checking a file's pages, with what identifies that state of the file. The header
+/// contains SQLite's change counter.
+struct CheckedFile
 {
     qint64 size = -1;
     qint64 modified = 0;
     QByteArray header{};
     QString fault{};
 
-    bool isOf(const Finding& file) const
+    bool isSameAs(const CheckedFile& file) const
     {
         return size == file.size && modified == file.modified && header == file.header;
     }
 };
-Q_CONSTINIT QBasicMutex findingsMutex;
-constexpr qsizetype maxFindings = 16;
-// A file that has just been written may be written again without its time being another.
+Q_CONSTINIT QBasicMutex checkedFilesMutex;
+constexpr qsizetype maxCheckedFiles = 16;
+// In milliseconds. A file that was written more recently may change again without a new time stamp.
 constexpr qint64 modifiedLongAgo = 2000;
 
-QHash<QString, Finding>& findings()
+QHash<QString, CheckedFile>& checkedFiles()
 {
-    static QHash<QString, Finding> all;
+    static QHash<QString, CheckedFile> all;
     return all;
 }
 
-// A host opens the same file for each of its printers.
-QString pagesFault(QFile& file, const Finding& asItIs)
+// Checks the pages only if the file has changed: a host opens the same file for each printer.
+QString pagesFault(QFile& file, const CheckedFile& current)
 {
     {
-        const QMutexLocker locker(&findingsMutex);
-        const auto found = findings().constFind(file.fileName());
-        if (found != findings().constEnd() && found->isOf(asItIs))
+        const QMutexLocker locker(&checkedFilesMutex);
+        const auto found = checkedFiles().constFind(file.fileName());
+        if (found != checkedFiles().constEnd() && found->isSameAs(current))
             return found->fault;
     }
-    Finding finding = asItIs;
-    finding.fault = SupplyDbPages::fault(file);
-    if (QDateTime::currentMSecsSinceEpoch() - finding.modified > modifiedLongAgo) {
-        const QMutexLocker locker(&findingsMutex);
-        if (findings().size() >= maxFindings)
-            findings().clear();
-        findings().insert(file.fileName(), finding);
+    CheckedFile checked = current;
+    checked.fault = supplydb_pages::fault(file);
+    if (QDateTime::currentMSecsSinceEpoch() - checked.modified > modifiedLongAgo) {
+        const QMutexLocker locker(&checkedFilesMutex);
+        if (checkedFiles().size() >= maxCheckedFiles)
+            checkedFiles().clear();
+        checkedFiles().insert(file.fileName(), checked);
     }
-    return finding.fault;
+    return checked.fault;
 }
 
-// Why a file is no supply database that can be read here; empty when it is in order.
+// Why a file is not a supply database that can be read; empty if it is one.
 QString fileFault(const QString& path)
 {
     const QFileInfo info(path);
@@ -161,7 +161,7 @@ QString SupplyDbConnection::tryToOpen()
     if (!fault.isEmpty())
         return fault;
     m_database = addConnection(m_name);
-    // LockPatience has SQLite's part in waiting, which knows one statement only.
+    // LockWaiter waits instead of SQLite, which would apply its timeout to each statement.
     m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=0"));
     m_database.setDatabaseName(m_path);
     if (!m_database.open())

@@ -8,26 +8,26 @@
 
 #include <chrono>
 
-/// A supply database's file, open for reading. Nothing is ever written, beside the file neither.
+/// A connection for reading a supply database. It never writes to the file or creates files beside
+/// it.
 class SupplyDbConnection
 {
 public:
-    /// A file that cannot be used may be there, or in order, a moment later. To look at it for each
-    /// question would cost more than the answers of one that is in order.
+    /// How long an unusable file is left alone. It may become usable later, but checking it before
+    /// every query would take longer than querying a usable file.
     static constexpr std::chrono::milliseconds retryInterval{1000};
 
     SupplyDbConnection() = default;
     ~SupplyDbConnection();
     Q_DISABLE_COPY_MOVE(SupplyDbConnection)
 
-    /// Says which file to open. Neither is it looked at nor is the connection made yet.
+    /// Sets the file to open. Does not access the file or create the connection yet.
     void setUp(const QString& path, const QString& connectionName);
-    /// Opens the file that was set up, on a connection of the name that was given, or of the name
-    /// with a number behind it where another connection of the process has it. False when the file
-    /// cannot be used: fault() says why then, and the file is left alone until `retryInterval` has
-    /// passed.
+    /// Opens the file if it is not open. If another connection in the process has the name, a
+    /// number is appended to it. Returns false if the file cannot be used: fault() then gives the
+    /// reason, and the next attempt is made after `retryInterval`.
     bool open();
-    /// Statements made on the connection must be gone before.
+    /// All statements on the connection must be destroyed first.
     void close();
 
     const QSqlDatabase& database() const { return m_database; }

@@ -19,23 +19,23 @@
 
 namespace {
 
-using SupplyDbSchema::Entry;
-using SupplyDbSchema::maxFileBytes;
+using supplydb_schema::Entry;
+using supplydb_schema::maxFileBytes;
 
 // The file's header, which is the beginning of page 1.
 constexpr qsizetype fileHeaderSize = 100;
 constexpr qsizetype pageSizeOffset = 16;
 constexpr qsizetype reservedOffset = 20;
 constexpr qsizetype encodingOffset = 56;
-constexpr quint32 largestPageSize = 65536; // written as 1, which is what fits
+constexpr quint32 largestPageSize = 65536; // written as 1: the field has 16 bits
 constexpr quint32 smallestPageSize = 512;
 constexpr quint32 smallestUsableSize = 480;
 constexpr quint32 utf8 = 1;
 
 constexpr quint32 schemaPage = 1;
 
-// A page of a tree: its kind, the number of its cells, the page behind its last cell, and then the
-// places of the cells.
+// The header of a tree page: its type, the number of its cells, the page of the last child, and
+// then the offsets of the cells.
 constexpr qsizetype cellCountOffset = 3;
 constexpr qsizetype lastChildOffset = 8;
 constexpr qsizetype leafHeaderSize = 8;
@@ -44,7 +44,7 @@ constexpr qsizetype cellPlaceSize = 2;
 constexpr qsizetype pageNumberSize = 4;
 constexpr qsizetype smallestCellSize = 4;
 
-/// The kinds of a tree's pages. SQLite keeps a table without row ids as it keeps an index.
+/// The page types of a tree. SQLite stores a table without row ids like an index.
 struct TreeKind
 {
     quint8 inner;
@@ -59,7 +59,7 @@ Number numberAt(const QByteArray& bytes, qsizetype offset)
     return qFromBigEndian<Number>(bytes.constData() + offset);
 }
 
-/// Reads numbers of one to nine bytes, seven bits in each, one after the other.
+/// Reads consecutive variable-length integers of one to nine bytes.
 class VarintReader
 {
 public:
@@ -101,7 +101,7 @@ struct SchemaRow
     QString sql;
 };
 
-// What is written before the columns of a row says the type of each, and so its size.
+// The size of a column by its type code in the row's header.
 std::optional<qsizetype> columnSize(quint64 type, quint64 most)
 {
     constexpr std::array<qsizetype, 10> sizes{0, 1, 2, 3, 4, 6, 8, 8, 0, 0};
@@ -149,7 +149,7 @@ public:
     {
         if (readHeader() && readSchema()) {
             for (const SchemaRow& row : m_schema) {
-                if (!walk(row.root, *SupplyDbSchema::entry(row.name), nullptr))
+                if (!walk(row.root, *supplydb_schema::entry(row.name), nullptr))
                     break;
             }
         }
@@ -157,7 +157,7 @@ public:
     }
 
 private:
-    /// A row as it lies on a page, without the page's number that may be in front of it.
+    /// A row on a page, without the child page number that may precede it.
     struct Cell
     {
         quint64 payload = 0;
@@ -192,7 +192,7 @@ private:
         const quint32 reserved = numberAt<quint8>(header, reservedOffset);
         if (m_pageSize < smallestPageSize || (m_pageSize & (m_pageSize - 1)) != 0 ||
             m_pageSize < smallestUsableSize + reserved)
-            return damaged(schemaPage, "has no size that a page can have");
+            return damaged(schemaPage, "has an invalid size");
         m_usableSize = static_cast<qsizetype>(m_pageSize - reserved);
         if (numberAt<quint32>(header, encodingOffset) != utf8)
             return refuse(QStringLiteral("its texts are not UTF-8"));
@@ -203,7 +203,7 @@ private:
     bool readSchema()
     {
         QList<QByteArray> rows;
-        if (!walk(schemaPage, SupplyDbSchema::schemaTable(), &rows))
+        if (!walk(schemaPage, supplydb_schema::schemaTable(), &rows))
             return false;
         for (const QByteArray& bytes : rows) {
             std::optional<SchemaRow> row = schemaRow(bytes);
@@ -213,16 +213,16 @@ private:
         }
         return isOurSchema() ||
                refuse(QStringLiteral("its tables are not those of schema version %1")
-                          .arg(SupplyDbSchema::schemaVersion));
+                          .arg(supplydb_schema::schemaVersion));
     }
 
     bool isOurSchema() const
     {
         QSet<QString> names;
-        return m_schema.size() == SupplyDbSchema::entries().size() &&
+        return m_schema.size() == supplydb_schema::entries().size() &&
                std::ranges::all_of(m_schema,
                                    [&names](const SchemaRow& row) {
-                                       const Entry* entry = SupplyDbSchema::entry(row.name);
+                                       const Entry* entry = supplydb_schema::entry(row.name);
                                        names.insert(row.name);
                                        return entry && row.type == entry->type &&
                                               row.table == entry->table && row.sql == entry->sql;
@@ -230,7 +230,7 @@ private:
                names.size() == m_schema.size();
     }
 
-    /// A page may be used once, or a small file could have more rows than can be counted.
+    /// Each page may be used once. Otherwise a small file could contain any number of rows.
     bool take(quint32 number)
     {
         if (number == 0 || number >= m_isTaken.size())
@@ -249,7 +249,7 @@ private:
                damaged(number, "is cut off");
     }
 
-    /// Goes through a tree, page by page. The rows are read where somebody wants them.
+    /// Checks a tree page by page. Appends its rows to `rows` unless that is null.
     bool walk(quint32 root, const Entry& entry, QList<QByteArray>* rows)
     {
         if (!take(root))
@@ -273,26 +273,26 @@ private:
         const qsizetype start = number == schemaPage ? fileHeaderSize : 0;
         const auto type = numberAt<quint8>(page, start);
         if (type != kind.inner && type != kind.leaf)
-            return damaged(number, "is of a kind that does not belong there");
+            return damaged(number, "is not of the expected type");
         const bool isInner = type == kind.inner;
         const qsizetype places = start + (isInner ? innerHeaderSize : leafHeaderSize);
         const qsizetype cells = numberAt<quint16>(page, start + cellCountOffset);
         qsizetype room = m_usableSize - places - cells * (cellPlaceSize + smallestCellSize);
         if (room < 0)
-            return damaged(number, "holds more than fits");
+            return damaged(number, "holds more than fits on it");
         for (qsizetype i = 0; i < cells; ++i) {
             const qsizetype place = numberAt<quint16>(page, places + i * cellPlaceSize);
             if (isInner && !takeChild(number, page, place))
                 return false;
             if (isInner && entry.hasRowIds)
-                continue; // a row id, and no row
+                continue; // the cell has only a row id
             const std::optional<Cell> cell =
                 cellAt(page, place + (isInner ? pageNumberSize : 0), entry.hasRowIds);
             if (!cell)
-                return damaged(number, "has a row outside of it");
+                return damaged(number, "has a row outside its bounds");
             room -= std::max<qsizetype>(0, cell->end - place - smallestCellSize);
             if (room < 0)
-                return damaged(number, "holds more than fits");
+                return damaged(number, "holds more than fits on it");
             if (!checkRow(page, *cell, entry, rows))
                 return false;
         }
@@ -322,7 +322,7 @@ private:
     bool takeChild(quint32 number, const QByteArray& page, qsizetype place)
     {
         if (place + pageNumberSize > m_usableSize)
-            return damaged(number, "has a row outside of it");
+            return damaged(number, "has a row outside its bounds");
         m_waiting.push_back(numberAt<quint32>(page, place));
         return take(m_waiting.back());
     }
@@ -342,7 +342,7 @@ private:
         return cell;
     }
 
-    // How much of a row is on the page itself, as SQLite's file format has it.
+    // How many bytes of a row are on the page itself, by the formula in SQLite's file format.
     qsizetype localSize(quint64 payload, bool hasRowId) const
     {
         const auto usable = static_cast<quint64>(m_usableSize);
@@ -354,7 +354,7 @@ private:
         return static_cast<qsizetype>(wanted <= most ? wanted : least);
     }
 
-    /// The rest of a row is in a chain of pages, each of which begins with the number of the next.
+    /// The rest of a row is in a chain of pages. Each begins with the number of the next page.
     bool readRest(const QByteArray& page, const Cell& cell, QByteArray& row)
     {
         auto left = static_cast<qsizetype>(cell.payload) - cell.local;
@@ -375,7 +375,7 @@ private:
     quint32 m_pageSize = 0;
     qsizetype m_usableSize = 0;
     std::vector<bool> m_isTaken;
-    std::vector<quint32> m_waiting; ///< the pages of a tree that are still to be looked at
+    std::vector<quint32> m_waiting; ///< the pages of the tree that remain to be checked
     qsizetype m_rowCount = 0;
     QList<SchemaRow> m_schema;
     QString m_fault;
@@ -383,7 +383,7 @@ private:
 
 } // namespace
 
-QString SupplyDbPages::fault(QIODevice& file)
+QString supplydb_pages::fault(QIODevice& file)
 {
     return Pages(file).fault();
 }

@@ -6,20 +6,20 @@
 
 class QIODevice;
 
-/// Looks at a file as SQLite would, before SQLite does.
+/// Checks the structure of an untrusted file before SQLite opens it.
 ///
-/// SQLite follows whatever a file says: a view in the place of a table may have no end, a page may
-/// be its own child, and a name may be as long as the file. Nothing could end a statement that is
-/// caught in that. What has passed here can be read in bounded time and memory: the file has the
-/// tables and indices of a supply database and nothing else, each of its pages is used once, and
-/// the tables that are read in whole, and all rows, are of bounded size.
+/// SQLite follows whatever a file contains: a view in place of a table may produce endless rows, a
+/// page may be its own child, and a name may be as long as the file. A statement that runs into
+/// this cannot be stopped. A file that passes this check can be read in bounded time and memory: it
+/// has exactly the tables and indices of a supply database, uses each page once, and has no row and
+/// no completely read table above the limits.
 ///
-/// Only what bounds the reading is looked at. Contents that no supply database has may be left, and
-/// damage that SQLite finds itself.
-namespace SupplyDbPages {
+/// The check covers only what keeps reading bounded. The file may still have invalid values, or
+/// damage that SQLite itself detects.
+namespace supplydb_pages {
 
-/// Why a file that begins with the header of a supply database is not to be read; empty when it is
-/// in order.
+/// Why a file that begins with the header of a supply database must not be read; empty if it may be
+/// read.
 QString fault(QIODevice& file);
 
-} // namespace SupplyDbPages
+} // namespace supplydb_pages

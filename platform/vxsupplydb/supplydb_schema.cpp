@@ -7,10 +7,10 @@
 
 namespace {
 
-// Sizes are inches. Where NULL is let through, it means that a supply has no such thing; -1 is what
-// a reader answers then, so no column has -1 for a value.
+// Sizes are in inches. NULL means that a supply does not have the property. Readers return -1 for
+// that, so no column may contain -1.
 // clang-format off
-constexpr const char* Tables[] = {
+constexpr const char* tables[] = {
 R"(CREATE TABLE language (
     id INTEGER PRIMARY KEY CHECK (id >= 0),
     tag TEXT NOT NULL UNIQUE CHECK (length(tag) BETWEEN 2 AND 20)
@@ -119,20 +119,20 @@ R"(CREATE TABLE printer_format (
 };
 // clang-format on
 
-// The indices that SQLite makes for what is to be unique and is not the key of the table itself.
-constexpr const char* Indices[][2] = {
+// The indices that SQLite creates for UNIQUE constraints that are not the key of the table itself.
+constexpr const char* indices[][2] = {
     {"sqlite_autoindex_language_1", "language"},
     {"sqlite_autoindex_colour_1", "colour"},
     {"sqlite_autoindex_background_1", "background"},
     {"sqlite_autoindex_printer_format_2", "printer_format"},
 };
 
-// The longest of a row's texts have 200 characters of at most four bytes.
+// The longest texts in a row have 200 characters of at most four bytes.
 constexpr qsizetype maxRowBytes = 2048;
-// Bounded by the file's size, where rows are never read in whole.
+// For tables that are never read completely. Only the size of the file limits them.
 constexpr qsizetype anyNumber = std::numeric_limits<qsizetype>::max();
 
-// Of the list of tables and indices: enough to see that a file has others than ours.
+// For the list of tables and indices: enough to notice that there are unknown ones.
 constexpr qsizetype maxEntries = 64;
 
 QString tableName(const QString& statement)
@@ -144,26 +144,26 @@ qsizetype maxRowsOf(const QString& table)
 {
     const bool isListed = table == QLatin1String("supply") || table == QLatin1String("ribbon") ||
                           table == QLatin1String("printer_format");
-    return isListed ? SupplyDbSchema::maxListedRows : anyNumber;
+    return isListed ? supplydb_schema::maxListedRows : anyNumber;
 }
 
 qsizetype maxRowBytesOf(const QString& table)
 {
-    return table == QLatin1String("background") ? SupplyDbSchema::maxImageBytes + maxRowBytes
+    return table == QLatin1String("background") ? supplydb_schema::maxImageBytes + maxRowBytes
                                                 : maxRowBytes;
 }
 
-QList<SupplyDbSchema::Entry> makeEntries()
+QList<supplydb_schema::Entry> makeEntries()
 {
-    QList<SupplyDbSchema::Entry> all;
-    for (const char* table : Tables) {
+    QList<supplydb_schema::Entry> all;
+    for (const char* table : tables) {
         const QString sql = QString::fromLatin1(table);
         const QString name = tableName(sql);
         all.append({QStringLiteral("table"), name, name, sql,
                     !sql.endsWith(QLatin1String("WITHOUT ROWID")), maxRowsOf(name),
                     maxRowBytesOf(name)});
     }
-    for (const auto& [index, table] : Indices) {
+    for (const auto& [index, table] : indices) {
         all.append({QStringLiteral("index"), QString::fromLatin1(index), QString::fromLatin1(table),
                     QString(), false, anyNumber, maxRowBytes});
     }
@@ -172,19 +172,19 @@ QList<SupplyDbSchema::Entry> makeEntries()
 
 } // namespace
 
-const QList<SupplyDbSchema::Entry>& SupplyDbSchema::entries()
+const QList<supplydb_schema::Entry>& supplydb_schema::entries()
 {
     static const QList<Entry> all = makeEntries();
     return all;
 }
 
-const SupplyDbSchema::Entry* SupplyDbSchema::entry(const QString& name)
+const supplydb_schema::Entry* supplydb_schema::entry(const QString& name)
 {
     const auto found = std::ranges::find(entries(), name, &Entry::name);
     return found == entries().end() ? nullptr : &*found;
 }
 
-const SupplyDbSchema::Entry& SupplyDbSchema::schemaTable()
+const supplydb_schema::Entry& supplydb_schema::schemaTable()
 {
     static const Entry table{QStringLiteral("table"),
                              QStringLiteral("sqlite_schema"),
@@ -196,18 +196,18 @@ const SupplyDbSchema::Entry& SupplyDbSchema::schemaTable()
     return table;
 }
 
-QStringList SupplyDbSchema::statements()
+QStringList supplydb_schema::statements()
 {
     QStringList all{
         QStringLiteral("PRAGMA application_id = %1").arg(applicationId),
         QStringLiteral("PRAGMA user_version = %1").arg(schemaVersion),
     };
-    for (const char* table : Tables)
+    for (const char* table : tables)
         all.append(QString::fromLatin1(table));
     return all;
 }
 
-bool SupplyDbSchema::isSku(const QString& text)
+bool supplydb_schema::isSku(const QString& text)
 {
     const auto isAlphanumeric = [](QChar character) {
         const auto lower = static_cast<char16_t>(character.unicode() | 0x20U);

@@ -11,7 +11,7 @@
 
 #include <memory>
 
-/// What a supply database knows, and what is loaded in one printer.
+/// Reads a supply database, and holds what is loaded in one printer.
 ///
 /// @code
 /// VXSupplyDatabase database;
@@ -22,20 +22,20 @@
 /// const QString colour = database.supplyColorName(sku);
 /// @endcode
 ///
-/// The file is described in docs/supply-database.md. It is only read, through a connection of the
-/// object's own. An object without a usable file (none was set up, it is missing, damaged, foreign
-/// or of a newer schema) knows no SKU and no identifier.
+/// docs/supply-database.md describes the file. It is opened for reading only, through a connection
+/// of the object's own. Without a usable file (not set up, missing, damaged, of another application
+/// or of another schema version) every SKU and identifier is unknown.
 ///
-/// Sizes are inches, colours 0xRRGGBB numbers. Of a SKU that is not known (a null text, an empty
-/// one and "-1" among them), of a panel that a ribbon does not have, and of a thing that a supply
-/// does not have, the answer is an empty text, list or byte array, -1 or -1.0, but 1 from
-/// `supplyIsLandscape` and `supplyMultiUpCount`.
+/// Sizes are in inches and colours are 0xRRGGBB numbers. For an unknown SKU (including a null or
+/// empty text and "-1"), a panel that a ribbon does not have, and a property that a supply does not
+/// have, the functions return an empty text, list or byte array, -1 or -1.0. Only
+/// `supplyIsLandscape` and `supplyMultiUpCount` return 1.
 ///
-/// Names are in the language that was set, or in English where the file has none in it.
+/// Names are in the language that was set, or in English if there is no translation.
 ///
-/// Answers are kept, a bounded number of each kind, and the file is not looked at again for them:
-/// a changed file is noticed by the next `setup`. Nothing is locked; all calls belong on the thread
-/// of the latest `setup`.
+/// A limited number of answers of each kind is cached, and the file is not read again for them. A
+/// changed file is noticed at the next `setup`. The class is not thread-safe: all calls must come
+/// from the thread of the latest `setup`.
 class VXSupplyDatabase : public QObject
 {
     Q_OBJECT
@@ -45,45 +45,43 @@ public:
     ~VXSupplyDatabase() override;
     Q_DISABLE_COPY_MOVE(VXSupplyDatabase)
 
-    /// Names the file that is read from now on, in place of the one before. It is opened, for
-    /// reading only, when it is first needed, and never created. Objects with different connection
-    /// names have nothing in common; one that takes a name in use gets a connection under a name
-    /// made from it. What is loaded and the language stay.
+    /// Sets the file to read, in place of the previous one. It is opened at the first query, for
+    /// reading only, and never created. If the connection name is in use, a number is appended to
+    /// it, so objects are always independent. The language and what is loaded stay as they are.
     void setup(const QString& databasePath, const QString& connectionName);
 
-    /// Sets the language of names by its number in `VXLocaleLanguages`; English (0) at first.
+    /// Sets the language of names by its number in `VXLocaleLanguages`. The default is English (0).
     void setLanguageId(int languageId);
 
     /// @name What is loaded
     /// @{
 
     /// Stores the identifier of the loaded supply (see `SupplyC`). "-1", an empty text and twenty
-    /// zeros mean that none is loaded, which is also so at first.
+    /// zeros mean that none is loaded, which is the default.
     void setSupplyId(const QString& id);
     /// Stores the identifiers of the loaded ribbons, ribbon 1 first: their numbers in decimal
-    /// digits. "-1", "4294967295" (the same as the printer's driver has it), "0" and an empty text
-    /// mean that none is loaded in that place.
+    /// digits. "-1", "4294967295" (-1 as the printer's driver publishes it), "0" and an empty text
+    /// mean that none is loaded in that position.
     void setRibbonIds(const QStringList& ids);
 
-    /// The identifier that was stored, as it was; at first empty.
+    /// The stored identifier, unchanged. Empty by default.
     QString supplyId() const;
-    /// The SKU of the loaded supply: "-1" when none is loaded, empty when the identifier is not
-    /// known.
+    /// The SKU of the loaded supply: "-1" if none is loaded, empty if the identifier is unknown.
     QString supplySKU() const;
-    /// The SKU for each stored ribbon identifier: "-1" where none is loaded, empty where the
-    /// identifier is not known. At first an empty list.
+    /// The SKU for each stored ribbon identifier: "-1" if none is loaded, empty if the identifier
+    /// is unknown. The list is empty by default.
     QStringList supplyRibbonSKUs() const;
-    /// The colour of the loaded supply as a decimal number; empty when it is not known.
+    /// The colour of the loaded supply as a decimal number; empty if it is unknown.
     QString supplySupplyRGB() const;
     /// The colours of the panels of ribbon 1, and of ribbon 2, as decimal numbers.
     QStringList supplyRibbon1RGBs() const;
     QStringList supplyRibbon2RGBs() const;
     /// @}
 
-    /// @name What the database holds
+    /// @name The content of the database
     /// @{
 
-    /// All SKUs, in the order of their characters' codes.
+    /// All SKUs, sorted by character code.
     QStringList supplySKUList() const;
     QStringList supplyRibbonSKUList() const;
     /// The colour (`int`) of each supply, and of panel 1 of each ribbon, by SKU.
@@ -113,24 +111,25 @@ public:
     double supplyLength(const QString& sku) const;
     /// The length of one label; -1.0 for a continuous supply.
     double supplyNonContinuousLength(const QString& sku) const;
-    /// The width of what parts two labels.
+    /// The width of the separator between two labels.
     double supplySeparatorWidth(const QString& sku) const;
-    /// 1 when labels are printed in landscape or the SKU is not known, otherwise 0.
+    /// 1 if labels are printed in landscape or the SKU is unknown, otherwise 0.
     int supplyIsLandscape(const QString& sku) const;
-    /// How many labels lie side by side, and the gap between them: -1.0 where there is one.
+    /// The number of labels side by side, and the gap between them: -1.0 if there is only one.
     int supplyMultiUpCount(const QString& sku) const;
     double supplyMultiUpGapSize(const QString& sku) const;
-    /// A picture of the label as the bytes of an image file.
+    /// A picture of the label: the content of an image file.
     QByteArray supplyBackgroundImage(const QString& sku) const;
-    /// The place, from 0, of the supply's format in the list of the formats that the printer's
-    /// model takes; -1 when it does not take it. The model is the longest one that the printer's
-    /// name contains in any case; a name without one, such as "-", has the list of all others.
+    /// The position, from 0, of the supply's format in the list of formats that the printer's model
+    /// accepts; -1 if it is not in the list. The model is the longest one that the printer's name
+    /// contains, regardless of case. Names without a model, such as "-", use the list for all other
+    /// printers.
     int supplyTypeIndex(const QString& sku, const QString& printerName) const;
     /// @}
 
     /// @name A ribbon
-    /// Panels are counted from 1. Heat, heat offset, speed and tension belong to a panel together
-    /// with the supply that it prints on.
+    /// Panels are numbered from 1. Heat, heat offset, speed and tension depend on the panel and on
+    /// the supply that it prints on.
     /// @{
 
     QString supplyRibbonType(const QString& ribbonSku) const;
@@ -146,7 +145,7 @@ public:
     /// @}
 
     /// @name Several ribbons
-    /// One entry for each SKU, in their order: the answer for panel 1 of that ribbon. The numbers
+    /// One entry for each SKU, in the same order: the value for panel 1 of that ribbon. The numbers
     /// are `int`.
     /// @{
 

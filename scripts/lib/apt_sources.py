@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
-"""Prints the distribution's own package sources as deb-src lines, whichever way they are written.
+"""Prints the distribution's own package sources as deb-src lines, from both file formats of apt.
 
-Only entries that are signed with the distribution's keyring, or with none given, count: what else a
-machine has does not carry the sources that are wanted.
+Only entries that are signed with the distribution's keyring, or that do not name a keyring, are printed:
+other repositories on the machine do not contain the distribution's source packages.
 """
 import glob
 import re

@@ -4,11 +4,11 @@
 
 Usage: check_rooms.py [ROOT]
 
-A row of the table names one or more rooms (folders or single headers) in its first column and, in its
-last, what these may use: rooms and Windows headers in backticks, other libraries by name. A file
-belongs to the row that names the longest leading part of its path, and may always use its own row.
-Prints one line for each include that the table does not allow, for each circle among the rooms, and for
-each file that belongs to no row; the exit status is then 1.
+The first column of a row names one or more rooms (folders or single headers). The last column says what
+these may use: rooms and Windows headers in backticks, other libraries by name. A file belongs to the row
+that names the longest prefix of its path, and may always use its own row. Prints one line for each
+include that the table does not allow, for each cycle among the rooms, and for each file that belongs to
+no row. If there is one, the exit status is 1.
 """
 import collections
 import pathlib
@@ -21,7 +21,7 @@ HEADING = "## Rooms"
 SOURCES = ("*.h", "*.cpp", "*.h.in")
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^>"\n]+)[>"]', re.MULTILINE)
 
-# Headers that are not ours, by how their names begin, and what the table calls their library.
+# The beginnings of other libraries' header names, and the name of each library in the table.
 LIBRARIES = {
     "Qt": "Qt",
     "json/": "JsonCpp",
@@ -58,19 +58,20 @@ def read_table(root):
         if line.startswith("|") and len(cells) == 3 and rooms:
             rows.append(Row(rooms, re.findall(r"`([^`]+)`", cells[2]), cells[2]))
     if not rows:
-        sys.exit(f"check_rooms: {DOCUMENT} has no table of rooms below \"{HEADING}\"")
+        sys.exit(f"check_rooms: {DOCUMENT} has no table of rooms under \"{HEADING}\"")
     return rows
 
 
 def row_of(rows, path):
-    """The row that names the longest leading part of the path; None when no row does."""
+    """Returns the row that names the longest prefix of the path, or None if no row names one."""
     matches = [(len(room), row) for row in rows for room in row.rooms
                if path == room or (room.endswith("/") and path.startswith(room))]
     return max(matches, key=lambda match: match[0])[1] if matches else None
 
 
 def is_used(row, target, target_row):
-    """Naming a room of a row names the whole row, but no room that has a row of its own further in."""
+    """Whether a row may use a file: using one room of a row allows all its rooms, but no subfolder that
+    has its own row."""
     return target in row.uses or any(used in target_row.rooms for used in row.uses)
 
 
@@ -81,7 +82,8 @@ def tracked(root):
 
 
 def find_included(path, name, by_name):
-    """Which of our files an include means: one in the same folder first, as the compiler does."""
+    """Returns the files of the tree that an include may refer to. Like the compiler, prefers one in the
+    same folder."""
     beside = str(pathlib.PurePosixPath(path).parent / name)
     candidates = by_name.get(pathlib.PurePosixPath(name).name, [])
     if beside in candidates:
@@ -92,7 +94,7 @@ def find_included(path, name, by_name):
 def check_file(path, text, rows, by_name):
     row = row_of(rows, path)
     if not row:
-        return [f"{path}:1: belongs to no room of the table in {DOCUMENT}"]
+        return [f"{path}:1: does not belong to any room in the table of {DOCUMENT}"]
     if row.may_use_everything():
         return []
     findings = []
@@ -115,8 +117,8 @@ def check_file(path, text, rows, by_name):
     return findings
 
 
-def find_circles(rows):
-    """Pairs of rows of which each reaches the other through what the table allows."""
+def find_cycles(rows):
+    """Reports pairs of rows that the table allows to use each other, directly or indirectly."""
     reached = {}
     for row in rows:
         todo, seen = [row], set()
@@ -139,7 +141,7 @@ def main():
     by_name = collections.defaultdict(list)
     for path in paths:
         by_name[pathlib.PurePosixPath(path).name.removesuffix(".in")].append(path.removesuffix(".in"))
-    findings = find_circles(rows)
+    findings = find_cycles(rows)
     for path in paths:
         file = root / path
         if file.exists():

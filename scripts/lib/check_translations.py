@@ -4,9 +4,9 @@
 
 Usage: check_translations.py LUPDATE FOLDER...
 
-Qt's lupdate reads the folders and brings copies of translations/*.ts up to date; what is new, unfinished
-or empty in a copy is printed, one line each, and so is what a .ts file holds that no source has any more.
-The exit status is then 1. The .ts files themselves stay as they are.
+Qt's lupdate reads the folders and updates copies of translations/*.ts. Each text that is new, unfinished
+or empty in a copy is printed on a line, and so is each text of a .ts file that is no longer in any source.
+If there is one, the exit status is 1. The .ts files themselves are not changed.
 """
 import pathlib
 import shutil
@@ -28,7 +28,7 @@ def findings_of(name, copy):
         state = translation.get("type", "")
         forms = [form.text for form in translation.iter("numerusform")] or [translation.text]
         if state in ("vanished", "obsolete"):
-            yield f"{name}: \"{source}\" is in no source any more; remove it (lupdate -no-obsolete)"
+            yield f"{name}: \"{source}\" is no longer in any source; remove it (lupdate -no-obsolete)"
         elif state == "unfinished" or not all(form and form.strip() for form in forms):
             yield f"{name}: \"{source}\" is not translated"
 
@@ -39,7 +39,7 @@ def main():
     lupdate, *folders = sys.argv[1:]
     catalogues = sorted(pathlib.Path("translations").glob("*.ts"))
     if not catalogues:
-        sys.exit("check_translations: there is no translations/*.ts")
+        sys.exit("check_translations: no file matches translations/*.ts")
     findings = []
     with tempfile.TemporaryDirectory() as copies:
         for catalogue in catalogues:

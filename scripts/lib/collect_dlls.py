@@ -1,12 +1,12 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
-"""Copies the DLLs that the programs of a folder need, found by walking their import tables.
+"""Copies the DLLs that the programs in a folder need, which it finds through their import tables.
 
 Usage: collect_dlls.py FOLDER QT_PREFIX IMPORT_LIBRARIES DLL_FOLDER...
 
-What is found nowhere has to come with Windows: MinGW has an import library for each DLL that does,
-and IMPORT_LIBRARIES is the folder they are in. Sets of functions that Windows names like DLLs have
-none of their own.
+A DLL that is in neither QT_PREFIX nor a DLL_FOLDER has to be part of Windows. MinGW has an import library
+in the folder IMPORT_LIBRARIES for each DLL of Windows, except for API sets (api-ms-win-*), which are named
+like DLLs.
 """
 import pathlib
 import re
@@ -16,7 +16,8 @@ import sys
 
 OBJDUMP = "x86_64-w64-mingw32-objdump"
 
-# Plugins are loaded by name and are in no import table: what each Qt library cannot do without.
+# The plugins that each Qt library requires. Import tables do not contain them, because Qt loads plugins
+# by name.
 PLUGINS = {
     "qt6gui.dll": ["platforms/qwindows.dll", "imageformats/*.dll"],
     "qt6sql.dll": ["sqldrivers/qsqlite.dll"],
@@ -35,12 +36,12 @@ def comes_with_windows(name, import_libraries):
 
 
 def copy_plugins(plugins, patterns, folder):
-    """The copies; those of a kind are together in a folder of its name, where Qt looks for them."""
+    """Copies plugins into a subfolder per kind, where Qt looks for them, and returns the copies."""
     copies = []
     for pattern in patterns:
         found = sorted(plugins.glob(pattern))
         if not found:
-            sys.exit(f"collect_dlls: there is no plugin {plugins}/{pattern}")
+            sys.exit(f"collect_dlls: no plugin matches {plugins}/{pattern}")
         for plugin in found:
             target = folder / plugin.parent.name
             target.mkdir(exist_ok=True)
@@ -73,7 +74,7 @@ def main():
             queue.append(pathlib.Path(shutil.copy2(available[name], folder)))
             queue += copy_plugins(qt / "plugins", PLUGINS.get(name, []), folder)
     if missing:
-        sys.exit("collect_dlls: found nowhere: " + ", ".join(sorted(missing)))
+        sys.exit("collect_dlls: DLLs not found: " + ", ".join(sorted(missing)))
     print(f"collect_dlls: {sum(1 for _ in folder.rglob('*.dll'))} DLLs in {folder}", file=sys.stderr)
 
 

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
 #
-# Sourced by the scripts of this folder: where things are, what is said, and how packages come.
+# Sourced by all shell scripts: paths, messages, packages, builds and Wine.
 # shellcheck shell=bash
 
 set -euo pipefail
@@ -33,8 +33,8 @@ as_root() {
 
 installed() { dpkg-query -W -f '${Status}\n' "$1" 2>/dev/null | grep -q ' installed$'; }
 
-# need_packages NAME...: installs those that are missing and says which; does nothing, quickly, when
-# none is.
+# need_packages NAME...: installs missing packages and prints their names. Returns quickly if none is
+# missing.
 need_packages() {
     local missing=() package
     for package in "$@"; do
@@ -42,12 +42,12 @@ need_packages() {
     done
     [ ${#missing[@]} = 0 ] && return
     command -v apt-get >/dev/null ||
-        fail "these packages are missing, and without apt-get they have to be installed by hand: ${missing[*]}"
-    say "installing the packages that are missing: ${missing[*]}"
+        fail "apt-get was not found; install these packages by hand: ${missing[*]}"
+    say "installing missing packages: ${missing[*]}"
     local quiet=(-qq -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=600)
     mkdir -p "$cache"
     {
-        # Two runs at once take turns: apt-get itself does not wait for lists that are being fetched.
+        # Only one run at a time: apt-get does not wait while another run fetches the lists.
         flock 8
         as_root apt-get "${quiet[@]}" update
         as_root env DEBIAN_FRONTEND=noninteractive apt-get "${quiet[@]}" install -y \
@@ -62,8 +62,8 @@ native_packages=(ca-certificates ccache cmake g++ libgl1-mesa-dev libjsoncpp-dev
 
 seconds_since() { echo $((SECONDS - $1)); }
 
-# follow_build PID LOG: waits for a build whose output goes to a file, and tells every half minute how
-# far it is; the exit status is the build's.
+# follow_build PID LOG: waits for a build whose output goes to a file, and prints its progress every 30
+# seconds. Returns the build's exit status.
 follow_build() {
     local pid=$1 log=$2 began=$SECONDS next=30
     while kill -0 "$pid" 2>/dev/null; do
@@ -76,14 +76,14 @@ follow_build() {
     wait "$pid"
 }
 
-# build_preset NAME [TARGETS [HOW_LONG]]: configures and builds, telling how far it is and how long it
-# usually takes; the whole output is shown only when it fails. CMake gets configure_options too. Several
-# targets are one text with blanks between.
+# build_preset NAME [TARGETS [HOW_LONG]]: configures and builds, and prints the progress and how long it
+# usually takes. The complete output is shown only if it fails. configure_options are passed to CMake.
+# TARGETS is one argument with names separated by spaces.
 configure_options=()
 build_preset() {
     local preset=$1 targets usual=${3:-} began=$SECONDS log
     read -ra targets <<<"${2:-all}"
-    # Clones in other folders find in the compiler's cache what this one has compiled.
+    # Clones in other folders can reuse what this one has compiled, through ccache.
     export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
     log=$(mktemp)
     say "configuring $preset"
@@ -106,13 +106,13 @@ build_preset() {
     say "built $preset in $(seconds_since $began) s"
 }
 
-build_windows() { build_preset windows all "about 6 minutes on two cores, less what ccache has"; }
+build_windows() { build_preset windows all "about 6 minutes on two cores, less with a filled ccache"; }
 
 # shellcheck disable=SC2034 # the scripts that source this file use it
 windows_packages=(ca-certificates ccache cmake g++-mingw-w64-x86-64-posix ninja-build python3
     qt6-base-dev qt6-base-dev-tools qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
 
-# Where MinGW's run-time DLLs are: GCC's and the threads'.
+# Prints the folders of MinGW's run-time DLLs: those of GCC and of its thread library.
 mingw_dll_folders() {
     local name
     for name in libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll; do
@@ -120,7 +120,8 @@ mingw_dll_folders() {
     done | sort -u
 }
 
-# use_wine PREFIX: makes a Wine prefix if there is none, and lets Windows programs find the DLLs.
+# use_wine PREFIX: creates the Wine prefix if it does not exist, and sets the path on which Windows
+# programs find their DLLs.
 use_wine() {
     export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
     export QT_FORCE_STDERR_LOGGING=1
@@ -128,41 +129,42 @@ use_wine() {
     mapfile -t dll_folders < <(mingw_dll_folders)
     WINEPATH=$(windows_paths "$root/build/windows/bin" "$VX_QT_MINGW/bin" "${dll_folders[@]}")
     export WINEPATH
-    # What a run that was killed left running: its services would be in a state of their own.
+    # A run that was killed may have left its services running, in an unknown state.
     end_wine
-    # A service that is started holds on to the outputs of who started it, and these may be a pipe.
+    # A service keeps the outputs of the program that started it open. If these were a pipe, its reader
+    # would wait forever.
     if [ ! -f "$WINEPREFIX/ready" ]; then
-        say "making a Wine prefix (about 5 seconds)"
+        say "creating a Wine prefix (about 5 seconds)"
         mkdir -p "$WINEPREFIX"
         wine wineboot -i >/dev/null 2>&1 </dev/null ||
-            fail "wine could not make a prefix in $WINEPREFIX"
-        # On Windows always there, and what the current control set is a link to.
+            fail "wine could not create a prefix in $WINEPREFIX"
+        # This key always exists on Windows, where CurrentControlSet is a link to ControlSet001.
         wine reg add 'HKLM\System\ControlSet001\Control\DeviceClasses' /f >/dev/null 2>&1 </dev/null ||
             fail "wine could not add a key to its registry"
         wineserver -w
         touch "$WINEPREFIX/ready"
     fi
-    # Kept up for all the tests: each would otherwise start Wine's services anew.
+    # The server stays up for all tests; otherwise each test would start Wine's services again.
     wineserver -p >/dev/null 2>&1 </dev/null || fail "wine could not start its server"
 }
 
-# While Wine starts its own services it refuses to start any other.
+# Tries repeatedly, because Wine refuses to start a service while it starts its own.
 start_spooler() {
     local try
     for try in {1..30}; do
         wine net start Spooler >/dev/null 2>&1 </dev/null && return
         sleep 1
     done
-    fail "wine could not start its print spooler in $try s"
+    fail "wine could not start its print spooler within $try s"
 }
 
-# Without a server there is nothing to end.
+# Errors are ignored, because there may be no server to end.
 end_wine() {
     wineserver -k 2>/dev/null || true
     wineserver -w 2>/dev/null || true
 }
 
-# windows_paths FOLDER...: as Windows programs under Wine see them.
+# windows_paths FOLDER...: prints the folders as a Windows PATH for programs under Wine.
 windows_paths() {
     local folder paths=()
     for folder in "$@"; do paths+=("Z:${folder//\//\\}"); done

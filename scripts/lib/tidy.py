@@ -4,10 +4,12 @@
 
 Usage: tidy.py [--all] BUILD CACHE
 
-BUILD has been built with Ninja: it knows the headers that each source includes. CACHE keeps one empty file
-for each source that was found clean, named after a hash of everything that the result depends on: the
-source, our headers that it includes, how it is compiled, the configuration and clang-tidy itself. --all
-checks every source again. Findings are printed; the exit status is 1 when there are any.
+BUILD has been built with Ninja: it knows the headers that each source includes. Each source is checked
+without precompiled headers: clang cannot read another compiler's, and a source that includes too little
+is found that way. CACHE keeps one empty file for each source that was found clean, named after a hash of
+everything that the result depends on: the source, our headers that it includes, how it is compiled, the
+configuration and clang-tidy itself. --all checks every source again. Findings are printed; the exit
+status is 1 when there are any.
 """
 import argparse
 import concurrent.futures
@@ -15,8 +17,10 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import subprocess
 import sys
+import tempfile
 import time
 
 PATIENCE = 600  # seconds that one source may take
@@ -36,6 +40,15 @@ def dependencies(build):
     return found
 
 
+def configuration(root):
+    """What all .clang-tidy files of the tree say, without their comments."""
+    files = subprocess.run(["git", "-C", str(root), "ls-files", "-z", "*.clang-tidy"], check=True,
+                           capture_output=True, text=True).stdout.split("\0")
+    lines = [line for file in sorted(filter(None, files))
+             for line in [f"{file}:", *(root / file).read_text(encoding="utf-8").splitlines()]]
+    return "\n".join(line for line in lines if not line.startswith("#")).encode()
+
+
 class Hashes:
     """Hashes of files, each read once."""
 
@@ -52,9 +65,16 @@ def key_of(entry, inputs, root, common, hashes):
     key = hashlib.sha256(common)
     key.update(entry["command"].replace(str(root), "").encode())
     for path in sorted(set(inputs)):
-        if path.is_relative_to(root) and path.exists():
+        if path.is_relative_to(root) and not path.name.startswith("cmake_pch") and path.exists():
             key.update(f"{path.relative_to(root)}={hashes.of(path)}\n".encode())
     return key.hexdigest()
+
+
+def without_precompiled_headers(entries, folder):
+    """Writes the compile commands without precompiled headers."""
+    plain = [{**entry, "command": re.sub(r"-Winvalid-pch|-fpch-preprocess|-include \S*/cmake_pch\.hxx", "",
+                                         entry["command"])} for entry in entries]
+    (folder / "compile_commands.json").write_text(json.dumps(plain), encoding="utf-8")
 
 
 def check(source, build):
@@ -74,16 +94,15 @@ def main():
     arguments.cache.mkdir(parents=True, exist_ok=True)
 
     version = subprocess.run(["clang-tidy", "--version"], check=True, capture_output=True).stdout
-    common = version + (root / ".clang-tidy").read_bytes()
+    common = version + configuration(root)
     recorded, hashes = dependencies(build), Hashes()
     todo = []
-    for entry in json.loads((build / "compile_commands.json").read_text(encoding="utf-8")):
+    entries = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
+    for entry in entries:
         source = pathlib.Path(entry["directory"], entry["file"]).resolve()
         if not source.is_relative_to(root) or source.is_relative_to(build):
             continue
-        inputs = recorded.get(entry.get("output", ""))
-        if inputs is None:
-            inputs = recorded.get(os.path.relpath(entry.get("output", ""), build), [])
+        inputs = recorded[re.search(r" -o (\S+)", entry["command"])[1]]
         stamp = arguments.cache / key_of(entry, [source, *inputs], root, common, hashes)
         if arguments.all or not stamp.exists():
             todo.append((source, stamp))
@@ -91,8 +110,10 @@ def main():
     print(f"tidy: {len(todo)} sources to check", file=sys.stderr)
 
     began, told, clean = time.monotonic(), time.monotonic(), True
-    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        runs = {pool.submit(check, source, build): stamp for source, stamp in todo}
+    with (tempfile.TemporaryDirectory() as commands,
+          concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool):
+        without_precompiled_headers(entries, pathlib.Path(commands))
+        runs = {pool.submit(check, source, commands): stamp for source, stamp in todo}
         for count, run in enumerate(concurrent.futures.as_completed(runs), 1):
             passed, output = run.result()
             if passed:

@@ -1,12 +1,13 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
-"""What a run of tests left in a Wine prefix: keys and values of the registry, files, processes.
+"""Finds what a test run left in a Wine prefix: keys and values of the registry, files, processes.
 
 Usage: wine_leftovers.py before FILE
        wine_leftovers.py after FILE
 
-`before` writes down what is there. `after` compares, prints what has come or gone, and then its exit
-status is 1. WINEPREFIX names the prefix, whose Wine server has to be up.
+`before` records the current state in FILE. `after` compares the state with FILE and prints what was added
+(+) or removed (-); if anything was, the exit status is 1. WINEPREFIX is the prefix, whose Wine server has to
+be running.
 """
 import json
 import os
@@ -18,10 +19,9 @@ import tempfile
 
 prefix = pathlib.Path(os.environ["WINEPREFIX"])
 
-# What comes and goes whoever runs in a prefix: Wine counts the starts of services, writes down the
-# screens it finds, and makes the keys that drivers and printers are under with the first of them. And
-# the library's own: the folder in which endpoints of several processes tell of each other, and there
-# those of a process that a test has killed and that could not take leave.
+# Changes that any run causes. Wine counts the starts of services, records the screens that it finds, and
+# creates the parent keys of drivers and printers with the first of them. The library creates the folder in
+# which processes publish their endpoints; a process that a test has killed leaves its entry there.
 EXPECTED = re.compile(
     r"\[HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Control\\(ServiceCurrent|Video)\b"
     r"|\\Print\\Environments\\Windows x64\\Drivers(\\Version-3)?\] ?$"
@@ -30,7 +30,7 @@ EXPECTED = re.compile(
 
 
 def registry():
-    """A line for each key and each value, with the key's path before it."""
+    """Returns a line for each key and for each value; a value's line begins with the path of its key."""
     with tempfile.TemporaryDirectory() as folder:
         export = pathlib.Path(folder) / "all.reg"
         subprocess.run(["wine", "regedit", "/E", "Z:" + str(export).replace("/", "\\")], check=True,
@@ -50,7 +50,7 @@ def files():
 
 
 def processes():
-    """The programs that run in the prefix, Wine's own left out."""
+    """Returns the programs that run in the prefix, except for Wine's own."""
     names = []
     for folder in pathlib.Path("/proc").glob("[0-9]*"):
         try:
@@ -81,7 +81,7 @@ def main():
     differences = [f"+ {line}" for line in sorted(after - before)]
     differences += [f"- {line}" for line in sorted(before - after)]
     if differences:
-        print("wine_leftovers: the tests left their traces:", *differences, sep="\n")
+        print("wine_leftovers: the tests have changed the prefix:", *differences, sep="\n")
         sys.exit(1)
 
 

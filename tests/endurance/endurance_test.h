@@ -6,6 +6,7 @@
 #include "patience.h"
 
 #include "printer_status_controller.h"
+#include "status_codes.h"
 
 #include <QtCore/QPointer>
 
@@ -18,7 +19,7 @@ using namespace std::chrono_literals;
 using virtualwindows::Call;
 using virtualwindows::PrinterValue;
 
-/// A thread that gets no notification asks for the spooler's state this often.
+/// How often a thread that gets no notification queries the spooler's state.
 inline constexpr auto spoolerPoll = 5000ms;
 
 /// A label printer of a test.
@@ -30,25 +31,25 @@ struct LabelPrinter
     QString driver() const;
 };
 
-/// A moment in a printer's life: everything that its driver publishes then, and the record that
-/// follows from it. In neighbouring moments every value differs.
+/// One numbered state of a printer: everything that its driver publishes in it, and the record that
+/// the controller should then have. Every value differs between consecutive numbers.
 struct Moment
 {
     QList<PrinterValue> values;
     PrinterStatusInformation record;
 };
 Moment moment(const LabelPrinter& printer, int number);
-/// The same but for the values that the printer's mileages are computed from.
+/// The values without those that the printer's percentages are computed from.
 QList<PrinterValue> withoutMileages(const QList<PrinterValue>& values);
 
-/// What two records differ in, for people to read; empty when it is nothing. `printerDefault` is
-/// left out: it tells of the past.
+/// The differences between two records as a readable text; empty when there are none.
+/// `printerDefault` is ignored, because it depends on earlier events.
 QString difference(const PrinterStatusInformation& actual,
                    const PrinterStatusInformation& expected);
 
 inline constexpr qint64 mebibyte = 1024 * 1024;
 
-/// What the process has of things that a host must not be left with.
+/// The resources that the process holds and that a controller must not leave behind.
 struct Footprint
 {
     int threads = 0;
@@ -62,21 +63,21 @@ struct Footprint
     QString memory() const;
 };
 
-/// Holds the printers' threads as they call a function, until they are let go.
+/// Holds the printers' threads when they call a function, until they are released.
 class HeldCalls
 {
 public:
     HeldCalls(virtualwindows::Machine& machine, const char* function);
-    /// Lets everybody go. Threads may still be on their way out of the hold, so the object has to
-    /// live until they have ended.
+    /// Releases all threads. They may still be inside the hook then, so the object has to live
+    /// until they have ended.
     ~HeldCalls();
     Q_DISABLE_COPY_MOVE(HeldCalls)
 
     bool waitUntilHeld(int threads);
-    void letGo();
+    void release();
 
 private:
-    void meet(const Call& call);
+    void hold(const Call& call);
 
     virtualwindows::Machine& m_machine;
     const QString m_function;
@@ -87,8 +88,8 @@ private:
     bool m_isOver = false;
 };
 
-/// Base of the tests that run the whole controller, with the sample catalogue beside them and
-/// endpoints that nobody else sees.
+/// Base of the tests that run the whole controller, with the sample catalogue in their folder and
+/// endpoints that no other process sees.
 class EnduranceTest : public MachineTest
 {
     Q_OBJECT
@@ -100,23 +101,27 @@ protected:
     void addPrinter(const LabelPrinter& printer, const QString& port = QStringLiteral("USB001"));
     void publish(const LabelPrinter& printer, const Moment& moment);
 
-    /// A number from the environment, or the one of the short form.
+    /// The number in the environment variable, or `shortForm` if it is not set.
     static int fromEnvironment(const char* variable, int shortForm);
 
-    /// Waits until so many threads have done their work, and lets the host have their reports.
+    /// Waits until that many threads have done their work and wait again, then delivers their
+    /// reports to the host. False when that takes too long.
     [[nodiscard]] bool settle(int watchingThreads);
-    /// Time without a notification passes until every thread asks for the spooler's state.
+    /// Advances the time until every thread queries the spooler's state, then settles.
     [[nodiscard]] bool letThreadsPoll(int watchingThreads);
 
-    /// How many printers a controller has a thread for.
+    /// The number of printers for which the controller has a thread.
     static int watchedPrinters(const PrinterStatusController& controller);
     static std::optional<PrinterStatusInformation>
     recordOf(const PrinterStatusController& controller, const QString& name);
-    /// What keeps a printer's record from being that moment's; empty when nothing does.
+    /// How a printer's record differs from the one of that moment; empty when it does not.
     static QString mismatch(const PrinterStatusController& controller, const LabelPrinter& printer,
                             const Moment& moment);
-    /// Fails when a process that has come to do the same over and over uses more memory for it.
-    static void checkMemoryIsFlat(const Footprint& before, const Footprint& after);
+    /// How much more memory the process uses after repeating the same work; empty when it is no
+    /// more than the tolerance.
+    static QString memoryGrowth(const Footprint& before, const Footprint& after);
+    /// What the controller's threads still hold after its end; empty when there is nothing.
+    static QString leftBehind();
     /// The endpoints that other processes can find.
     static QStringList publishedEndpoints();
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What a host may do inside a slot that one of the controller's signals called: everything but an
-// outright delete of the controller, from every place that a signal is emitted at.
+// What a host may do in a slot connected to a signal of the controller: everything except deleting
+// the controller directly, wherever the signal is emitted.
 #include "endurance_test.h"
 #include "vx_ipc_m4_controller.h"
 #include "vx_ipc_supplyd_controller.h"
@@ -17,17 +17,18 @@
 #include <winspool.h>
 
 using VXPrinting::PrinterType;
+namespace StatusCodes = VXPrinting::StatusCodes;
 
 namespace {
 
 const LabelPrinter alder{QStringLiteral("Alder at the window"), PrinterType::Alder};
-/// The Windows default printer, and so the active one.
+/// The Windows default printer, and therefore the active one.
 const LabelPrinter alderMax{QStringLiteral("AlderMax at the door"), PrinterType::AlderMax};
-/// That comes later, where it comes at all.
+// Added later, by some of the occasions and actions.
 const LabelPrinter birchMax{QStringLiteral("BirchMax, new"), PrinterType::BirchMax};
 const LabelPrinter cedarMax{QStringLiteral("CedarMax, new"), PrinterType::CedarMax};
 const LabelPrinter laser{QStringLiteral("Laser"), PrinterType::Unknown};
-/// Listed last, so that the controller still has to look at it when the slots are done.
+/// Listed last, so that the controller has yet to examine it when the slots return.
 const LabelPrinter plotter{QStringLiteral("Plotter"), PrinterType::Unknown};
 
 constexpr int firstMoment = 0;
@@ -42,12 +43,12 @@ class ControllerInSlotsTest : public EnduranceTest
     Q_OBJECT
 
 private:
-    /// A place that emits a signal.
+    /// An event that makes the controller emit a signal.
     struct Occasion
     {
         const char* name;
         const char* signal;
-        void (ControllerInSlotsTest::*prepare)(); ///< null: nothing has to be
+        bool (ControllerInSlotsTest::*prepare)(); ///< may be null
         void (ControllerInSlotsTest::*happen)();
     };
     /// What the host does in the slot.
@@ -55,16 +56,17 @@ private:
     {
         const char* name;
         void (ControllerInSlotsTest::*act)();
-        void (ControllerInSlotsTest::*check)(); ///< once the slot is over; null: only the usual
+        /// After the slot; may be null. Returns what is wrong, or an empty text.
+        QString (ControllerInSlotsTest::*fault)();
     };
     static const QList<Occasion> occasions;
     static const QList<Action> actions;
 
 private Q_SLOTS:
-    void everySignalHasItsOccasions();
-    void actsInSlot_data();
-    void actsInSlot();
-    void hostThatAnswersEveryErrorWithOne();
+    void everySignalHasAnOccasion();
+    void hostMayActInSlot_data();
+    void hostMayActInSlot();
+    void errorStateSetInItsOwnSlotIsNotReportedAgain();
 
 protected Q_SLOTS:
     void init() override;
@@ -77,8 +79,8 @@ private:
         machine().publish(printer.name, PrinterValue::text("StatusCode", code));
     }
 
-    void prepareError();
-    void prepareHostsError();
+    bool prepareError();
+    bool prepareHostsError();
     void versionChanges();
     void mileageChanges();
     void statusChanges();
@@ -97,23 +99,23 @@ private:
 
     void lookForPrinters();
     void readRecords();
-    void askEverything();
+    void queryEverything();
     void sendCommand();
     void raiseError();
     void clearError();
-    void giveToDeleteLater();
-    void giveToDeleteLaterAndRunEventLoop();
-    void giveToDeleteLaterInEventLoop();
+    void callDeleteLater();
+    void deleteLaterAndRunEventLoop();
+    void deleteLaterInEventLoop();
     void runEventLoop();
 
-    void checkFound();
-    void checkCommand();
-    void checkDeleted();
-    void checkMomentInSlot();
-
-    void checkRecordsAfterwards();
-    /// The error state that the host was told of never came twice in a row.
-    void checkErrorSignals();
+    // Each returns what is wrong, or an empty text.
+    QString faultOfDiscovery();
+    QString faultOfCommand();
+    QString faultOfDeletion();
+    QString faultOfMomentInSlot();
+    QString faultOfRecordsAfterwards();
+    /// The host must never be notified of the same error state twice in a row.
+    QString faultOfErrorSignals() const;
 
     QPointer<PrinterStatusController> m_controller;
     std::unique_ptr<QSignalSpy> m_errorSignals;
@@ -156,21 +158,20 @@ const QList<ControllerInSlotsTest::Occasion> ControllerInSlotsTest::occasions{
 
 const QList<ControllerInSlotsTest::Action> ControllerInSlotsTest::actions{
     {"look for printers", &ControllerInSlotsTest::lookForPrinters,
-     &ControllerInSlotsTest::checkFound},
+     &ControllerInSlotsTest::faultOfDiscovery},
     {"read the records", &ControllerInSlotsTest::readRecords, nullptr},
-    {"ask everything", &ControllerInSlotsTest::askEverything, nullptr},
-    {"send a command", &ControllerInSlotsTest::sendCommand, &ControllerInSlotsTest::checkCommand},
-    {"tell of an error", &ControllerInSlotsTest::raiseError, nullptr},
-    {"tell of an error's end", &ControllerInSlotsTest::clearError, nullptr},
+    {"query everything", &ControllerInSlotsTest::queryEverything, nullptr},
+    {"send a command", &ControllerInSlotsTest::sendCommand, &ControllerInSlotsTest::faultOfCommand},
+    {"report an error", &ControllerInSlotsTest::raiseError, nullptr},
+    {"report the end of an error", &ControllerInSlotsTest::clearError, nullptr},
     {"run an event loop", &ControllerInSlotsTest::runEventLoop,
-     &ControllerInSlotsTest::checkMomentInSlot},
-    {"delete later", &ControllerInSlotsTest::giveToDeleteLater,
-     &ControllerInSlotsTest::checkDeleted},
-    {"delete later, then run an event loop",
-     &ControllerInSlotsTest::giveToDeleteLaterAndRunEventLoop,
-     &ControllerInSlotsTest::checkDeleted},
-    {"delete later in an event loop", &ControllerInSlotsTest::giveToDeleteLaterInEventLoop,
-     &ControllerInSlotsTest::checkDeleted},
+     &ControllerInSlotsTest::faultOfMomentInSlot},
+    {"delete later", &ControllerInSlotsTest::callDeleteLater,
+     &ControllerInSlotsTest::faultOfDeletion},
+    {"delete later, then run an event loop", &ControllerInSlotsTest::deleteLaterAndRunEventLoop,
+     &ControllerInSlotsTest::faultOfDeletion},
+    {"delete later in an event loop", &ControllerInSlotsTest::deleteLaterInEventLoop,
+     &ControllerInSlotsTest::faultOfDeletion},
 };
 
 void ControllerInSlotsTest::init()
@@ -183,7 +184,7 @@ void ControllerInSlotsTest::init()
     machine().setDefaultPrinter(alderMax.name);
     m_controller = new PrinterStatusController;
     QVERIFY(settle(2));
-    // Before the slot that acts, which may have the state change once more.
+    // Connected before the slot under test, which may change the state once more.
     m_errorSignals = std::make_unique<QSignalSpy>(
         m_controller, &PrinterStatusController::printerErrorChangedSignal);
     m_acted = 0;
@@ -199,15 +200,16 @@ void ControllerInSlotsTest::cleanup()
 
 // The occasions //////////////////////////////////////////////////////////////////////////////////
 
-void ControllerInSlotsTest::prepareError()
+bool ControllerInSlotsTest::prepareError()
 {
     publishStatus(alderMax, "42");
-    QVERIFY(settle(2));
+    return settle(2);
 }
 
-void ControllerInSlotsTest::prepareHostsError()
+bool ControllerInSlotsTest::prepareHostsError()
 {
     m_controller->updateCachedStatus(true);
+    return true;
 }
 
 void ControllerInSlotsTest::versionChanges()
@@ -310,20 +312,21 @@ void ControllerInSlotsTest::readRecords()
         m_seenInSlot = QStringLiteral("a printer has no record");
 }
 
-void ControllerInSlotsTest::askEverything()
+void ControllerInSlotsTest::queryEverything()
 {
-    const auto expect = [this](bool holds, const char* otherwise) {
+    const auto expect = [this](bool holds, const char* fault) {
         if (!holds)
-            m_seenInSlot = QString::fromLatin1(otherwise);
+            m_seenInSlot = QString::fromLatin1(fault);
     };
-    expect(m_controller->getPrinterTypeEnum(alder.name) == PrinterType::Alder, "another type");
-    expect(!m_controller->getStatusTitle(257).isEmpty(), "no title");
+    expect(m_controller->getPrinterTypeEnum(alder.name) == PrinterType::Alder, "wrong type");
+    expect(!m_controller->getStatusTitle(StatusCodes::offline).isEmpty(), "no title");
     expect(m_controller->getPrinterSoftwareVersion(alderMax.name) == QLatin1String("4.0.0"),
-           "another version");
+           "wrong version");
     expect(!m_controller->activeDefaultPrinter().isEmpty(), "no active printer");
-    expect(m_controller->vxDefaultActivePrinter(), "an active printer of another maker");
-    expect(m_controller->getSupplyIdController()->parent() == nullptr, "another endpoint");
-    expect(m_controller->getm4Controller()->getPrinterStatus(alder.name) == 255, "another status");
+    expect(m_controller->vxDefaultActivePrinter(), "the active printer is of another maker");
+    expect(m_controller->getSupplyIdController()->parent() == nullptr, "wrong endpoint");
+    expect(m_controller->getm4Controller()->getPrinterStatus(alder.name) == StatusCodes::unknown,
+           "wrong status");
     m_controller->sendToLogger(QStringLiteral("in a slot"));
 }
 
@@ -342,22 +345,22 @@ void ControllerInSlotsTest::clearError()
     m_controller->updateCachedStatus(false);
 }
 
-void ControllerInSlotsTest::giveToDeleteLater()
+void ControllerInSlotsTest::callDeleteLater()
 {
     m_controller->deleteLater();
 }
 
-void ControllerInSlotsTest::giveToDeleteLaterAndRunEventLoop()
+void ControllerInSlotsTest::deleteLaterAndRunEventLoop()
 {
-    // Deleted in the loop where the host itself called what emitted the signal, outside of any
-    // event loop, and afterwards where it was a report.
+    // The controller is deleted in this loop if the host's own call emitted the signal, because no
+    // other event loop runs then. If a report emitted it, the controller is deleted afterwards.
     m_controller->deleteLater();
     QEventLoop loop;
     QTimer::singleShot(0, &loop, &QEventLoop::quit);
     loop.exec();
 }
 
-void ControllerInSlotsTest::giveToDeleteLaterInEventLoop()
+void ControllerInSlotsTest::deleteLaterInEventLoop()
 {
     QEventLoop loop;
     connect(m_controller, &QObject::destroyed, &loop, &QEventLoop::quit);
@@ -365,7 +368,7 @@ void ControllerInSlotsTest::giveToDeleteLaterInEventLoop()
     QTimer::singleShot(0, m_controller, &QObject::deleteLater);
     loop.exec();
     if (m_controller)
-        m_seenInSlot = QStringLiteral("the event loop does not delete the controller");
+        m_seenInSlot = QStringLiteral("the event loop did not delete the controller");
 }
 
 void ControllerInSlotsTest::runEventLoop()
@@ -382,7 +385,7 @@ void ControllerInSlotsTest::runEventLoop()
             loop.quit();
     });
     QTimer::singleShot(patience, &loop, [&] {
-        m_seenInSlot = QStringLiteral("what is published in the slot does not come");
+        m_seenInSlot = QStringLiteral("the values published in the slot were not reported");
         loop.quit();
     });
     for (const LabelPrinter& printer : {alder, alderMax})
@@ -390,58 +393,67 @@ void ControllerInSlotsTest::runEventLoop()
     loop.exec();
 }
 
-// What became of them ////////////////////////////////////////////////////////////////////////////
+// The faults /////////////////////////////////////////////////////////////////////////////////////
 
-void ControllerInSlotsTest::checkFound()
+QString ControllerInSlotsTest::faultOfDiscovery()
 {
-    QCOMPARE(mismatch(*m_controller, birchMax, moment(birchMax, firstMoment)), QString());
+    return mismatch(*m_controller, birchMax, moment(birchMax, firstMoment));
 }
 
-void ControllerInSlotsTest::checkCommand()
+QString ControllerInSlotsTest::faultOfCommand()
 {
     const QList<virtualwindows::PrintJob> jobs = machine().jobs(alder.name);
-    QCOMPARE(jobs.size(), 1);
-    QCOMPARE(jobs.first().pages, QList<QByteArray>{"~JC\r\n"});
+    const bool isPrinted = jobs.size() == 1 && jobs.first().pages == QList<QByteArray>{"~JC\r\n"};
+    return isPrinted ? QString() : QStringLiteral("the command was not printed once");
 }
 
-void ControllerInSlotsTest::checkMomentInSlot()
+QString ControllerInSlotsTest::faultOfMomentInSlot()
 {
-    for (const LabelPrinter& printer : {alder, alderMax})
-        QCOMPARE(mismatch(*m_controller, printer, moment(printer, momentInSlot)), QString());
+    for (const LabelPrinter& printer : {alder, alderMax}) {
+        const QString fault = mismatch(*m_controller, printer, moment(printer, momentInSlot));
+        if (!fault.isEmpty())
+            return fault;
+    }
+    return {};
 }
 
-void ControllerInSlotsTest::checkDeleted()
+QString ControllerInSlotsTest::faultOfDeletion()
 {
-    QTRY_VERIFY_WITH_TIMEOUT(!m_controller, patience);
-    QCOMPARE(machine().waitingThreads(), 0);
-    QCOMPARE(machine().openHandles(), 0);
+    const bool isDeleted = QTest::qWaitFor([this] { return !m_controller; }, patience);
+    return isDeleted ? leftBehind() : QStringLiteral("the controller was not deleted");
 }
 
-void ControllerInSlotsTest::checkRecordsAfterwards()
+QString ControllerInSlotsTest::faultOfRecordsAfterwards()
 {
+    QList<LabelPrinter> printers{alder, alderMax, birchMax, cedarMax};
+    printers.removeIf([this](const LabelPrinter& printer) {
+        return !machine().printers().contains(printer.name);
+    });
     machine().setStatus(alderMax.name, 0);
     for (const int number : lastMoments) {
-        for (const LabelPrinter& printer : {alder, alderMax, birchMax, cedarMax}) {
-            if (machine().printers().contains(printer.name))
-                publish(printer, moment(printer, number));
-        }
-        QVERIFY(settle(watchedPrinters(*m_controller)));
-        for (const LabelPrinter& printer : {alder, alderMax, birchMax, cedarMax}) {
-            if (machine().printers().contains(printer.name))
-                QCOMPARE(mismatch(*m_controller, printer, moment(printer, number)), QString());
+        for (const LabelPrinter& printer : std::as_const(printers))
+            publish(printer, moment(printer, number));
+        if (!settle(watchedPrinters(*m_controller)))
+            return QStringLiteral("the threads did not settle");
+        for (const LabelPrinter& printer : std::as_const(printers)) {
+            const QString fault = mismatch(*m_controller, printer, moment(printer, number));
+            if (!fault.isEmpty())
+                return fault;
         }
     }
+    return {};
 }
 
-void ControllerInSlotsTest::checkErrorSignals()
+QString ControllerInSlotsTest::faultOfErrorSignals() const
 {
     bool last = false;
     for (const QList<QVariant>& arguments : std::as_const(*m_errorSignals)) {
-        QVERIFY2(arguments.first().toBool() != last, "the same error state was told of twice");
+        if (arguments.first().toBool() == last)
+            return QStringLiteral("the same error state was reported twice in a row");
         last = !last;
     }
     // All printers are ready by now.
-    QVERIFY2(!last, "the end of the error was not told");
+    return last ? QStringLiteral("the end of the error was not reported") : QString();
 }
 
 void ControllerInSlotsTest::onSignal()
@@ -450,12 +462,12 @@ void ControllerInSlotsTest::onSignal()
         (this->*m_action->act)();
 }
 
-void ControllerInSlotsTest::everySignalHasItsOccasions()
+void ControllerInSlotsTest::everySignalHasAnOccasion()
 {
     const QMetaObject& type = PrinterStatusController::staticMetaObject;
     for (int index = type.methodOffset(); index < type.methodCount(); ++index) {
         const QMetaMethod method = type.method(index);
-        // That one is never emitted.
+        // This signal is never emitted.
         if (method.methodType() != QMetaMethod::Signal || method.name() == "softwareVersionUpdated")
             continue;
         QVERIFY2(std::ranges::any_of(
@@ -465,7 +477,7 @@ void ControllerInSlotsTest::everySignalHasItsOccasions()
     }
 }
 
-void ControllerInSlotsTest::actsInSlot_data()
+void ControllerInSlotsTest::hostMayActInSlot_data()
 {
     QTest::addColumn<int>("occasion");
     QTest::addColumn<int>("action");
@@ -478,14 +490,13 @@ void ControllerInSlotsTest::actsInSlot_data()
     }
 }
 
-void ControllerInSlotsTest::actsInSlot()
+void ControllerInSlotsTest::hostMayActInSlot()
 {
     QFETCH(const int, occasion);
     QFETCH(const int, action);
     const Occasion& place = occasions[occasion];
     m_action = &actions[action];
-    if (place.prepare)
-        (this->*place.prepare)();
+    QVERIFY(!place.prepare || (this->*place.prepare)());
 
     const QMetaObject& type = PrinterStatusController::staticMetaObject;
     for (int index = type.methodOffset(); index < type.methodCount(); ++index) {
@@ -501,15 +512,15 @@ void ControllerInSlotsTest::actsInSlot()
 
     if (m_controller)
         QVERIFY(settle(watchedPrinters(*m_controller)));
-    if (m_action->check)
-        (this->*m_action->check)();
+    if (m_action->fault)
+        QCOMPARE((this->*m_action->fault)(), QString());
     if (!m_controller)
         return;
-    checkRecordsAfterwards();
-    checkErrorSignals();
+    QCOMPARE(faultOfRecordsAfterwards(), QString());
+    QCOMPARE(faultOfErrorSignals(), QString());
 }
 
-void ControllerInSlotsTest::hostThatAnswersEveryErrorWithOne()
+void ControllerInSlotsTest::errorStateSetInItsOwnSlotIsNotReportedAgain()
 {
     connect(m_controller, &PrinterStatusController::printerErrorChangedSignal, this,
             [this](bool inError) { m_controller->updateCachedStatus(inError); });
@@ -518,7 +529,7 @@ void ControllerInSlotsTest::hostThatAnswersEveryErrorWithOne()
     publishStatus(alder, "1");
     QVERIFY(settle(2));
     QCOMPARE(m_errorSignals->size(), 2);
-    checkErrorSignals();
+    QCOMPARE(faultOfErrorSignals(), QString());
 }
 
 QTEST_GUILESS_MAIN(ControllerInSlotsTest)

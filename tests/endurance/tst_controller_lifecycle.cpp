@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// How a controller ends, whenever that comes: with its threads anywhere on their way, in order and
-// at random, and with nothing left behind.
+// A controller can be destroyed at any time, at chosen and at random moments of its threads, and
+// leaves nothing behind.
 #include "endurance_test.h"
 #include "log_recorder.h"
 #include "vx_ipc_m4_controller.h"
 
 #include <QtCore/QRandomGenerator>
-#include <QtCore/QSemaphore>
 
 #include <algorithm>
 #include <array>
@@ -38,45 +37,45 @@ int pick(Random& random, int below)
     return std::uniform_int_distribution(0, below - 1)(random);
 }
 
-/// What drivers, users and the system do to the printers, one thing after the other, until it is
-/// over.
+/// A thread on which drivers, users and the system change the printers at random, until the object
+/// is destroyed.
 ///
-/// It goes ahead of the host by so many things only. Qt's queue of events keeps the room that it
-/// once needed, and on a busy machine the host can stand still for a second in which the world
-/// would fill the queue with a hundred thousand reports.
-class World
+/// It stays at most a fixed number of changes ahead of the host. Qt's event queue never shrinks,
+/// and on a busy machine the host can stand still for a second, in which the queue would be filled
+/// with a hundred thousand reports.
+class RandomChanges
 {
 public:
-    World(virtualwindows::Machine& machine, unsigned seed)
+    RandomChanges(virtualwindows::Machine& machine, unsigned seed)
         : m_machine(machine)
         , m_random(seed)
         , m_thread([this] {
             while (!m_isOver) {
-                happen();
-                if (++m_ahead == mostAhead)
-                    m_ahead.wait(mostAhead);
+                makeChange();
+                if (++m_ahead == maxAhead)
+                    m_ahead.wait(maxAhead);
             }
         })
     {}
-    ~World()
+    ~RandomChanges()
     {
         m_isOver = true;
-        goOn();
+        hostCaughtUp();
         m_thread.join();
     }
-    Q_DISABLE_COPY_MOVE(World)
+    Q_DISABLE_COPY_MOVE(RandomChanges)
 
-    /// The host has handled all that it was told.
-    void goOn()
+    /// To be called when the host has handled all reports.
+    void hostCaughtUp()
     {
         m_ahead = 0;
         m_ahead.notify_one();
     }
 
 private:
-    static constexpr int mostAhead = 200;
+    static constexpr int maxAhead = 200;
 
-    void happen()
+    void makeChange()
     {
         const LabelPrinter& printer =
             labelPrinters[static_cast<std::size_t>(pick(m_random, printerCount))];
@@ -103,7 +102,7 @@ private:
             m_machine.advance(spoolerPoll);
             break;
         case 8:
-            // Uninstalled and installed again, without the jobs that it had.
+            // Uninstalled and installed again, which also discards its jobs.
             m_machine.removePrinter(printer.name);
             m_machine.addPrinter({.name = printer.name, .driver = printer.driver()});
             break;
@@ -111,7 +110,7 @@ private:
             m_machine.publish(printer.name, moment(printer, pick(m_random, 1000)).values);
             break;
         }
-        // Nothing is to be gained from a world that is faster than those who look at it.
+        // Changes that are faster than the threads see them would add nothing to the test.
         m_machine.waitForWaitingThreads(1, 1ms);
     }
 
@@ -129,17 +128,17 @@ class ControllerLifecycleTest : public EnduranceTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void threadsThatCannotBeToldYet_data();
-    void threadsThatCannotBeToldYet();
-    void rightAfterConstruction();
-    void spoolerIsDown();
-    void printersThatCouldNotBeOpened_data();
-    void printersThatCouldNotBeOpened();
-    void allThreadsAreToldBeforeOneIsWaitedFor();
-    void reportsUnderWayAreDropped();
-    void destroyedByItsParent();
-    void destroyedByDeleteLater();
-    void endpointsAreWithdrawn();
+    void endsWhileThreadsAreStarting_data();
+    void endsWhileThreadsAreStarting();
+    void endsRightAfterConstruction();
+    void endsWhileTheSpoolerIsStopped();
+    void endsWithPrintersThatCouldNotBeOpened_data();
+    void endsWithPrintersThatCouldNotBeOpened();
+    void allThreadsAreStoppedBeforeOneIsWaitedFor();
+    void queuedReportsAreDropped();
+    void canBeDestroyedByItsParent();
+    void canBeDestroyedByDeleteLater();
+    void endWithdrawsTheEndpoints();
     void randomMoments();
 
 protected Q_SLOTS:
@@ -147,7 +146,9 @@ protected Q_SLOTS:
 
 private:
     std::unique_ptr<PrinterStatusController> watch();
-    void runARound(Random& random, World& world);
+    /// Runs one controller from its construction to its destruction, which comes after a random
+    /// number of value reads, or of steps. Returns what is wrong afterwards, or an empty text.
+    QString runRound(Random& random, RandomChanges& changes);
 };
 
 void ControllerLifecycleTest::init()
@@ -169,67 +170,66 @@ std::unique_ptr<PrinterStatusController> ControllerLifecycleTest::watch()
     return controller;
 }
 
-void ControllerLifecycleTest::threadsThatCannotBeToldYet_data()
+void ControllerLifecycleTest::endsWhileThreadsAreStarting_data()
 {
     QTest::addColumn<QByteArray>("function");
-    QTest::addColumn<int>("told");
-    // None of them has an event to be told by.
+    QTest::addColumn<int>("stopped");
+    // None of the threads has its stop event yet.
     QTest::newRow("opening the printer") << QByteArray("OpenPrinterA") << 0;
-    QTest::newRow("asking for the notification")
+    QTest::newRow("registering for notifications")
         << QByteArray("FindFirstPrinterChangeNotification") << 0;
     QTest::newRow("first read") << QByteArray("GetPrinterDataA") << 0;
-    QTest::newRow("making the event") << QByteArray("CreateEventW") << 0;
-    // All of them have.
-    QTest::newRow("asking for the spooler") << QByteArray("OpenSCManagerW") << printerCount;
+    QTest::newRow("creating the stop event") << QByteArray("CreateEventW") << 0;
+    // All of the threads have it.
+    QTest::newRow("opening the service manager") << QByteArray("OpenSCManagerW") << printerCount;
     QTest::newRow("first wait") << QByteArray("WaitForMultipleObjects") << printerCount;
 }
 
-void ControllerLifecycleTest::threadsThatCannotBeToldYet()
+void ControllerLifecycleTest::endsWhileThreadsAreStarting()
 {
     QFETCH(const QByteArray, function);
-    QFETCH(const int, told);
+    QFETCH(const int, stopped);
     HeldCalls held(machine(), function.constData());
     auto controller = std::make_unique<PrinterStatusController>();
     QVERIFY(held.waitUntilHeld(printerCount));
 
-    // The endpoints go when all threads have been told for the first time.
-    int toldAtFirst = -1;
+    // The endpoints are deleted after the first attempt to stop all threads.
+    int stoppedAtFirst = -1;
     connect(
         controller->getm4Controller(), &QObject::destroyed, this,
         [&] {
-            toldAtFirst = machine().callCount(QStringLiteral("SetEvent"));
-            held.letGo();
+            stoppedAtFirst = machine().callCount(QStringLiteral("SetEvent"));
+            held.release();
         },
         Qt::DirectConnection);
     controller.reset();
-    QCOMPARE(toldAtFirst, told);
+    QCOMPARE(stoppedAtFirst, stopped);
     QCOMPARE(machine().callCount(QStringLiteral("SetEvent")), printerCount);
-    QCOMPARE(machine().waitingThreads(), 0);
-    QCOMPARE(machine().openHandles(), 0);
+    QCOMPARE(leftBehind(), QString());
 }
 
-void ControllerLifecycleTest::rightAfterConstruction()
+void ControllerLifecycleTest::endsRightAfterConstruction()
 {
     for (int round = 0; round < 20; ++round) {
         delete new PrinterStatusController;
-        QCOMPARE(machine().waitingThreads(), 0);
-        QCOMPARE(machine().openHandles(), 0);
+        QCOMPARE(leftBehind(), QString());
     }
 }
 
-void ControllerLifecycleTest::spoolerIsDown()
+void ControllerLifecycleTest::endsWhileTheSpoolerIsStopped()
 {
     auto controller = watch();
     QVERIFY(controller);
     machine().stopSpooler();
     QVERIFY(letThreadsPoll(printerCount));
     for (const LabelPrinter& printer : labelPrinters)
-        QCOMPARE(recordOf(*controller, printer.name)->statusEnum, 254);
+        QCOMPARE(recordOf(*controller, printer.name)->statusEnum,
+                 VXPrinting::StatusCodes::spoolerDown);
     controller.reset();
     QCOMPARE(machine().openHandles(), 0);
 }
 
-void ControllerLifecycleTest::printersThatCouldNotBeOpened_data()
+void ControllerLifecycleTest::endsWithPrintersThatCouldNotBeOpened_data()
 {
     QTest::addColumn<QByteArray>("function");
     QTest::addColumn<bool>("afterARestart");
@@ -239,7 +239,7 @@ void ControllerLifecycleTest::printersThatCouldNotBeOpened_data()
     }
 }
 
-void ControllerLifecycleTest::printersThatCouldNotBeOpened()
+void ControllerLifecycleTest::endsWithPrintersThatCouldNotBeOpened()
 {
     QFETCH(const QByteArray, function);
     QFETCH(const bool, afterARestart);
@@ -260,7 +260,7 @@ void ControllerLifecycleTest::printersThatCouldNotBeOpened()
         if (isNotification) {
             failThreads();
         } else {
-            // The host opens each printer too, to see whether it may administer it.
+            // The host opens each printer too, to check whether it may administer it.
             const auto host = QThread::currentThreadId();
             machine().setCallHook([this, host](const Call& call) {
                 if (call.function == QLatin1String("OpenPrinterA") && call.thread != host)
@@ -273,12 +273,12 @@ void ControllerLifecycleTest::printersThatCouldNotBeOpened()
     }
     machine().clearFailures();
 
-    // Nothing but the poll happens, and it happens once each time.
+    // The threads do nothing but poll, and each polls once per interval.
     for (int poll = 0; poll < 3; ++poll) {
-        const int asked = machine().callCount(QStringLiteral("QueryServiceStatus"));
+        const int queries = machine().callCount(QStringLiteral("QueryServiceStatus"));
         const int waits = machine().callCount(QStringLiteral("WaitForMultipleObjects"));
         QVERIFY(letThreadsPoll(printerCount));
-        QCOMPARE(machine().callCount(QStringLiteral("QueryServiceStatus")), asked + printerCount);
+        QCOMPARE(machine().callCount(QStringLiteral("QueryServiceStatus")), queries + printerCount);
         QCOMPARE(machine().callCount(QStringLiteral("WaitForMultipleObjects")),
                  waits + printerCount);
     }
@@ -286,42 +286,40 @@ void ControllerLifecycleTest::printersThatCouldNotBeOpened()
     for (int printer = 0; isNotification && printer < printerCount; ++printer)
         allowMisuse(Kind::ClosedTwice, QStringLiteral("ClosePrinter"));
     controller.reset();
-    QCOMPARE(machine().waitingThreads(), 0);
-    QCOMPARE(machine().openHandles(), 0);
+    QCOMPARE(leftBehind(), QString());
 }
 
-void ControllerLifecycleTest::allThreadsAreToldBeforeOneIsWaitedFor()
+void ControllerLifecycleTest::allThreadsAreStoppedBeforeOneIsWaitedFor()
 {
     auto controller = watch();
     QVERIFY(controller);
 
-    // Each is in the middle of reading a notification, in a call of the spooler that takes long.
+    // Each thread is reading after a notification, in a call of the spooler that takes long.
     HeldCalls held(machine(), "GetPrinterDataA");
     for (const LabelPrinter& printer : labelPrinters)
         publish(printer, moment(printer, 1));
     QVERIFY(held.waitUntilHeld(printerCount));
 
-    // They are let go when all are told. A controller that waits for the first before it tells the
-    // second would never come to that.
-    QSemaphore allTold;
+    // The threads are released when all of them have been told to stop. A controller that waits for
+    // the first before it stops the second would never get there.
     std::atomic<bool> isOver = false;
-    bool wereAllTold = false;
+    bool wereAllStopped = false;
     std::thread spooler([&] {
         QDeadlineTimer limit(patience);
         while (machine().callCount(QStringLiteral("SetEvent")) < printerCount &&
                !limit.hasExpired())
             std::this_thread::yield();
-        wereAllTold = machine().callCount(QStringLiteral("SetEvent")) == printerCount && !isOver;
-        held.letGo();
+        wereAllStopped = machine().callCount(QStringLiteral("SetEvent")) == printerCount && !isOver;
+        held.release();
     });
     controller.reset();
     isOver = true;
     spooler.join();
-    QVERIFY(wereAllTold);
+    QVERIFY(wereAllStopped);
     QCOMPARE(machine().openHandles(), 0);
 }
 
-void ControllerLifecycleTest::reportsUnderWayAreDropped()
+void ControllerLifecycleTest::queuedReportsAreDropped()
 {
     auto controller = watch();
     QVERIFY(controller);
@@ -345,18 +343,17 @@ void ControllerLifecycleTest::reportsUnderWayAreDropped()
     QCOMPARE(called, 0);
 }
 
-void ControllerLifecycleTest::destroyedByItsParent()
+void ControllerLifecycleTest::canBeDestroyedByItsParent()
 {
     auto parent = std::make_unique<QObject>();
     const QPointer<PrinterStatusController> controller = new PrinterStatusController(parent.get());
     QVERIFY(settle(printerCount));
     parent.reset();
     QVERIFY(!controller);
-    QCOMPARE(machine().waitingThreads(), 0);
-    QCOMPARE(machine().openHandles(), 0);
+    QCOMPARE(leftBehind(), QString());
 }
 
-void ControllerLifecycleTest::destroyedByDeleteLater()
+void ControllerLifecycleTest::canBeDestroyedByDeleteLater()
 {
     const QPointer<PrinterStatusController> controller = watch().release();
     QVERIFY(controller);
@@ -364,11 +361,10 @@ void ControllerLifecycleTest::destroyedByDeleteLater()
         publish(printer, moment(printer, 1));
     controller->deleteLater();
     QTRY_VERIFY_WITH_TIMEOUT(!controller, patience);
-    QCOMPARE(machine().waitingThreads(), 0);
-    QCOMPARE(machine().openHandles(), 0);
+    QCOMPARE(leftBehind(), QString());
 }
 
-void ControllerLifecycleTest::endpointsAreWithdrawn()
+void ControllerLifecycleTest::endWithdrawsTheEndpoints()
 {
     auto controller = watch();
     QVERIFY(controller);
@@ -378,21 +374,21 @@ void ControllerLifecycleTest::endpointsAreWithdrawn()
     QCOMPARE(publishedEndpoints(), QStringList());
 }
 
-/// From one controller's making to its end, which comes after so many reads of values, or when
-/// nothing is read.
-void ControllerLifecycleTest::runARound(Random& random, World& world)
+QString ControllerLifecycleTest::runRound(Random& random, RandomChanges& changes)
 {
-    const auto catchUp = [&world] {
+    const auto catchUp = [&changes] {
         QCoreApplication::processEvents();
-        world.goOn();
+        changes.hostCaughtUp();
     };
     const QString reads = QStringLiteral("GetPrinterDataA");
     const int end = machine().callCount(reads) + pick(random, 300);
     const int turns = pick(random, 30);
 
     auto parent = std::make_unique<QObject>();
-    const QPointer<PrinterStatusController> controller =
-        new PrinterStatusController(pick(random, 2) ? parent.get() : nullptr);
+    auto* const controller = new PrinterStatusController(pick(random, 2) ? parent.get() : nullptr);
+    bool isDestroyed = false;
+    const QObject scope; // the connection ends with this function
+    connect(controller, &QObject::destroyed, &scope, [&isDestroyed] { isDestroyed = true; });
     for (int turn = 0; turn < turns && machine().callCount(reads) < end; ++turn) {
         switch (pick(random, 8)) {
         case 0:
@@ -424,11 +420,14 @@ void ControllerLifecycleTest::runARound(Random& random, World& world)
     } else {
         delete controller;
     }
-    QVERIFY(!controller);
-    QCOMPARE(machine().waitingThreads(), 0);
-    QCOMPARE(machine().openHandles(), 0);
-    QCOMPARE(publishedEndpoints(), QStringList());
+    if (!isDestroyed)
+        return QStringLiteral("the controller was not destroyed");
+    if (const QString left = leftBehind(); !left.isEmpty())
+        return left;
+    if (!publishedEndpoints().isEmpty())
+        return QStringLiteral("an endpoint is still published");
     catchUp();
+    return {};
 }
 
 void ControllerLifecycleTest::randomMoments()
@@ -438,32 +437,30 @@ void ControllerLifecycleTest::randomMoments()
         "VX_LIFECYCLE_SEED", static_cast<int>(QRandomGenerator::global()->bounded(1, 1000000))));
     qInfo("%d rounds, VX_LIFECYCLE_SEED=%u", rounds, seed);
 
-    // What is made once and kept for the process is there after some rounds.
+    // Whatever is created once and kept for the process is there after some rounds.
     const int warmUp = std::max(30, rounds / 10);
     Random random(seed);
     LogRecorder log;
     Footprint before;
     int threads = std::numeric_limits<int>::max();
     qsizetype refusedNotifications = 0;
-    // What lists have room for comes and goes by half a mebibyte, with the machine that runs beside
-    // the controllers too. What is lost is never low again.
-    constexpr qint64 farMore = std::numeric_limits<qint64>::max();
-    qint64 leastUsedAtFirst = farMore;
-    qint64 leastUsedAtLast = farMore;
+    // The capacity of lists, the virtual machine's included, makes the memory in use go up and down
+    // by half a mebibyte. The minimum rises only if memory is lost.
+    constexpr qint64 noMinimum = std::numeric_limits<qint64>::max();
+    qint64 leastUsedAtFirst = noMinimum;
+    qint64 leastUsedAtLast = noMinimum;
     {
-        World world(machine(), seed + 1);
+        RandomChanges changes(machine(), seed + 1);
         for (int round = 0; round < warmUp + rounds; ++round) {
             if (round == warmUp)
                 before = Footprint::now();
-            runARound(random, world);
-            // A thread that was waited for may still be on its way out of the system's table, but
-            // not after every round.
+            const QString fault = runRound(random, changes);
+            QVERIFY2(fault.isEmpty(),
+                     qPrintable(QStringLiteral("round %1: %2").arg(round).arg(fault)));
+            // A thread that has ended may still be in the system's table for a while, but not after
+            // every round.
             if (round < warmUp)
-                threads = std::min(threads, Footprint::now().threads - 1); // without the world's
-            if (QTest::currentTestFailed()) {
-                qWarning("in round %d", round);
-                return;
-            }
+                threads = std::min(threads, Footprint::now().threads - 1); // without the changes'
             const QList<LogRecord> records = log.records();
             refusedNotifications += std::ranges::count_if(records, [](const LogRecord& record) {
                 return record.message.endsWith(QLatin1String(": Failed to create event objects"));
@@ -476,8 +473,8 @@ void ControllerLifecycleTest::randomMoments()
         }
     }
     before.usedBytes = leastUsedAtFirst;
-    // A spooler that stops between the opening of a printer and the asking for its notification
-    // leaves a printer that is closed twice.
+    // If the spooler stops after a thread opened its printer and before it registered its
+    // notification, the thread closes the printer twice.
     const QList<virtualwindows::HandleMisuse> misuses = machine().misuses();
     QVERIFY(misuses.size() <= refusedNotifications);
     for (qsizetype count = 0; count < misuses.size(); ++count)
@@ -491,7 +488,7 @@ void ControllerLifecycleTest::randomMoments()
     qInfo("%d rounds: %d threads, %d open files, %d objects, %s before; %d, %d, %d, %s after",
           rounds, threads, before.openFiles, before.objects, qPrintable(before.memory()),
           after.threads, after.openFiles, after.objects, qPrintable(after.memory()));
-    checkMemoryIsFlat(before, after);
+    QCOMPARE(memoryGrowth(before, after), QString());
 }
 
 QTEST_GUILESS_MAIN(ControllerLifecycleTest)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// The built-in story told over and over, for hours of a time that only the test lets pass, with the
-// print spooler restarted every hour.
+// The built-in story repeated for hours of driven time, with the print spooler restarted every
+// hour.
 #include "endurance_test.h"
 
 #include "virtualwindows/fleet.h"
@@ -9,7 +9,6 @@
 #include <algorithm>
 
 using namespace virtualwindows;
-using VXPrinting::PrinterType;
 
 namespace {
 
@@ -22,17 +21,17 @@ class DayTest : public EnduranceTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void day();
+    void repeatedStoriesLeaveNothingBehind();
 
 private:
     [[nodiscard]] bool pass(PrinterStatusController& controller, std::chrono::milliseconds time);
-    [[nodiscard]] bool tellStory(PrinterStatusController& controller, const Fleet& fleet);
+    [[nodiscard]] bool playStory(PrinterStatusController& controller, const Fleet& fleet);
     [[nodiscard]] bool restartSpooler(PrinterStatusController& controller);
 
     std::chrono::milliseconds m_now{};
 };
 
-/// Lets time pass in steps that no thread sleeps through.
+/// Advances the time in steps short enough for every thread to wake up in each.
 bool DayTest::pass(PrinterStatusController& controller, std::chrono::milliseconds time)
 {
     while (time > 0ms) {
@@ -46,18 +45,18 @@ bool DayTest::pass(PrinterStatusController& controller, std::chrono::millisecond
     return true;
 }
 
-bool DayTest::tellStory(PrinterStatusController& controller, const Fleet& fleet)
+bool DayTest::playStory(PrinterStatusController& controller, const Fleet& fleet)
 {
-    std::chrono::milliseconds told{};
+    std::chrono::milliseconds now{};
     for (const StoryEvent& event : fleet.story) {
-        if (!pass(controller, event.at - told))
+        if (!pass(controller, event.at - now))
             return false;
-        told = event.at;
+        now = event.at;
         event.happen(machine());
         if (!settle(watchedPrinters(controller)))
             return false;
     }
-    // A printer that was switched on meanwhile is found.
+    // Finds the printers that were switched on meanwhile.
     controller.checkForPrinters();
     return settle(watchedPrinters(controller));
 }
@@ -71,7 +70,7 @@ bool DayTest::restartSpooler(PrinterStatusController& controller)
     return pass(controller, spoolerPoll);
 }
 
-void DayTest::day()
+void DayTest::repeatedStoriesLeaveNothingBehind()
 {
     const int hours = fromEnvironment("VX_DAY_HOURS", 2);
     const Fleet fleet = builtInFleet();
@@ -84,10 +83,10 @@ void DayTest::day()
     Footprint last;
     for (int count = 0; count < hours; ++count) {
         while (m_now < (count + 1) * hour)
-            QVERIFY(tellStory(*controller, fleet));
+            QVERIFY(playStory(*controller, fleet));
         QVERIFY(restartSpooler(*controller));
 
-        // In the first hour comes what is made once and kept.
+        // Whatever is created once and kept is created in the first hour.
         last = Footprint::now();
         if (count == 0) {
             before = last;
@@ -97,14 +96,14 @@ void DayTest::day()
         QCOMPARE(last.threads, before.threads);
         QCOMPARE(last.openFiles, before.openFiles);
         QCOMPARE(last.objects, before.objects);
-        checkMemoryIsFlat(before, last);
+        QCOMPARE(memoryGrowth(before, last), QString());
     }
     qInfo("%d hours: %d handles, %d threads, %d open files, %d objects after the first and each "
           "following; %s after the first, %s after the last",
           hours, handlesBefore, before.threads, before.openFiles, before.objects,
           qPrintable(before.memory()), qPrintable(last.memory()));
 
-    // As the day left them, the records are those of a controller that has just come.
+    // At the end of the day, the records are the same as those of a new controller.
     auto fresh = std::make_unique<PrinterStatusController>();
     const int watched = watchedPrinters(*controller);
     QCOMPARE(watchedPrinters(*fresh), watched);
@@ -120,7 +119,7 @@ void DayTest::day()
     }
     fresh.reset();
 
-    // And every printer that is watched still tells of everything.
+    // Every watched printer still reports all of its changes.
     for (const QVariant& entry : records) {
         const auto record = entry.value<PrinterStatusInformation>();
         if (record.printerRemote || record.printerNonAdmin)

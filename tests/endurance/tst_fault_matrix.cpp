@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 // Every Windows call fails once, at each of its uses, while a controller finds three printers, sees
-// their values change, loses the print spooler and has it back, sends a command, looks for printers
+// their values change, loses and regains the print spooler, sends a command, looks for printers
 // again and is destroyed.
 //
-// VX_FAULT_PART=1/3 is the first of three parts, which can run beside each other.
+// VX_FAULT_PART=1/3 runs the first of three parts, which can run at the same time.
 //
-// The printers' threads run beside each other, so which of them makes the n-th call of a function
-// differs from run to run. The test takes it as it comes: it sees whose call failed, and expects
-// what such a failure has for consequence.
+// The printers' threads run concurrently, so which of them makes the n-th call of a function
+// differs from run to run. The test therefore records whose call failed, and expects the
+// consequence of that failure.
 #include "endurance_test.h"
 #include "log_recorder.h"
 
@@ -23,6 +23,7 @@
 #include <winspool.h>
 
 using VXPrinting::PrinterType;
+namespace StatusCodes = VXPrinting::StatusCodes;
 
 namespace {
 
@@ -50,13 +51,13 @@ enum class Access
     Full, ///< PRINTER_ALL_ACCESS
 };
 
-/// When a change of a printer reaches its record once nothing fails any more.
+/// When a change of a printer reaches its record after the failures have ended.
 enum class Arrival
 {
     AtOnce,
-    AfterPoll,    ///< the thread has asked for the spooler's state again
-    AfterRestart, ///< the spooler has been down and is running again
-    Never,        ///< nothing in this controller watches the printer any more
+    AfterPoll,    ///< when the thread has queried the spooler's state again
+    AfterRestart, ///< when the spooler has been stopped and started again
+    Never,        ///< this controller no longer watches the printer
 };
 
 /// The one call that was made to fail.
@@ -66,10 +67,11 @@ struct Failure
     Phase phase = Phase::Start;
     Caller caller = Caller::Host;
     Access access = Access::Any;
-    QString printer; ///< that the call was about; empty for the host's that name none
+    QString printer; ///< the printer of the call; empty if a call of the host names none
 };
 
-/// What a failure has for consequence, where it is another than none: the first that fits counts.
+/// The consequence of a failure. The first entry that matches applies; without one, the failure has
+/// no lasting effect.
 struct Consequence
 {
     const char* function;
@@ -77,30 +79,33 @@ struct Consequence
     Access access;
     std::optional<Phase> phase;
     Arrival arrival;
-    int status;         ///< what the record says until then; 0 where it stays as it was
-    const char* logged; ///< with the printer's name before it
+    int status;         ///< the status in the record until then, or `unchanged`
+    const char* logged; ///< the log line after the printer's name, or null
     const char* reason;
 };
-constexpr int unchanged = 0;
+constexpr int unchanged = -1;
 constexpr std::array consequences{
-    Consequence{"OpenPrinterA", Caller::Host, Access::Full, Phase::Start, Arrival::Never, 258,
-                nullptr, "a printer that the user may not administer is listed and not watched"},
+    Consequence{"OpenPrinterA", Caller::Host, Access::Full, Phase::Start, Arrival::Never,
+                StatusCodes::notManaged, nullptr,
+                "a printer that the user may not administer is listed and not watched"},
     Consequence{"OpenPrinterA", Caller::Thread, Access::Plain, Phase::SpoolerRuns,
-                Arrival::AfterRestart, 254, ": Failed to open printer",
+                Arrival::AfterRestart, StatusCodes::spoolerDown, ": Failed to open printer",
                 "opening a printer is not repeated before the spooler restarts"},
     Consequence{"FindFirstPrinterChangeNotification", Caller::Thread, Access::Any,
-                Phase::SpoolerRuns, Arrival::AfterRestart, 254, ": Failed to create event objects",
-                "neither is asking for its notification"},
+                Phase::SpoolerRuns, Arrival::AfterRestart, StatusCodes::spoolerDown,
+                ": Failed to create event objects",
+                "registering for its notifications is not repeated either"},
     Consequence{"QueryServiceStatus", Caller::Thread, Access::Any, Phase::SpoolerRuns,
-                Arrival::AfterPoll, 254, nullptr,
-                "a spooler that does not tell its state counts as stopped until it does"},
+                Arrival::AfterPoll, StatusCodes::spoolerDown, nullptr,
+                "a spooler whose state cannot be queried counts as stopped"},
     Consequence{"CreateEventW", Caller::Thread, Access::Any, std::nullopt, Arrival::Never,
-                unchanged, nullptr,
-                "a thread that could not be told to end does not begin to watch"},
+                unchanged, nullptr, "a thread that could not be stopped does not start watching"},
     Consequence{"OpenSCManagerW", Caller::Thread, Access::Any, std::nullopt, Arrival::Never,
-                unchanged, nullptr, "without the service a thread cannot see the spooler restart"},
+                unchanged, nullptr,
+                "without the service, a thread does not notice a restart of the spooler"},
     Consequence{"OpenServiceW", Caller::Thread, Access::Any, std::nullopt, Arrival::Never,
-                unchanged, nullptr, "the same"},
+                unchanged, nullptr,
+                "without the service, a thread does not notice a restart of the spooler"},
 };
 
 /// Errors that these functions are known to fail with.
@@ -123,34 +128,34 @@ quint32 plausibleError(const QString& function)
     return plausibleErrors.value(function, ERROR_INVALID_HANDLE);
 }
 
-/// What the log says of a command that did not reach the printer.
-struct CommandLine
+/// The log line about a command that failed in a function.
+struct CommandFailure
 {
     const char* function;
     const char* logged;
 };
-constexpr std::array commandLines{
-    CommandLine{"OpenPrinterA", "Alder at the window: OpenPrinter call failed"},
-    CommandLine{"StartDocPrinterW", "ERROR: failed to start print job"},
-    CommandLine{"StartPagePrinter", "ERROR: failed to start new (virtual) page"},
-    CommandLine{"WritePrinter", "ERROR: printer does not accept (all) data\n"},
+constexpr std::array commandFailures{
+    CommandFailure{"OpenPrinterA", "Alder at the window: OpenPrinter call failed"},
+    CommandFailure{"StartDocPrinterW", "ERROR: failed to start print job"},
+    CommandFailure{"StartPagePrinter", "ERROR: failed to start new (virtual) page"},
+    CommandFailure{"WritePrinter", "ERROR: printer does not accept (all) data\n"},
 };
 
 const LabelPrinter alder{QStringLiteral("Alder at the window"), PrinterType::Alder};
 const LabelPrinter alderMax{QStringLiteral("AlderMax at the door"), PrinterType::AlderMax};
 const LabelPrinter cedarMax{QStringLiteral("CedarMax upstairs"), PrinterType::CedarMax};
 const std::array labelPrinters{alder, alderMax, cedarMax};
-/// Not the first by name, which is the one that is chosen when there is no default printer.
+/// Not the first by name, which becomes the active one if there is no default printer.
 const LabelPrinter& windowsDefault = alderMax;
 
-/// A printer whose notification could not be had is closed at once, and, as its handle is kept,
-/// once more when the spooler stops or the thread ends.
+/// A printer whose notification could not be registered is closed at once. Its handle is kept, so
+/// it is closed again when the spooler stops or the thread ends.
 const QString printerClosedTwice = QStringLiteral("a printer was closed twice");
 
 constexpr int firstMoment = 0;
 constexpr int lastMoment = 11;
 
-/// Sees which thread watches which printer, and whose call fails.
+/// Records which thread watches which printer, and whose call fails.
 class Observer
 {
 public:
@@ -188,7 +193,7 @@ private:
         const QMutexLocker guard(&m_mutex);
         const bool opensPrinter = call.function == QLatin1String("OpenPrinterA");
         const bool isHosts = call.thread == m_host;
-        // The first thing that a thread does is to open its printer.
+        // Each thread begins by opening its printer.
         if (opensPrinter && !isHosts)
             m_printers.insert(call.thread, call.arguments.first());
         if (!call.plannedError)
@@ -229,9 +234,10 @@ const Consequence* consequenceOf(const std::optional<Failure>& failure)
     return found == consequences.end() ? nullptr : &*found;
 }
 
-/// A service, or its manager, that could not be opened is asked all the same.
-bool isOfTheServiceThatIsMissing(const std::optional<Failure>& failure,
-                                 const virtualwindows::HandleMisuse& misuse)
+/// When the service or its manager could not be opened, the thread uses the null handle all the
+/// same.
+bool isUseOfMissingService(const std::optional<Failure>& failure,
+                           const virtualwindows::HandleMisuse& misuse)
 {
     if (!failure)
         return false;
@@ -260,10 +266,10 @@ class FaultMatrixTest : public EnduranceTest
 
 private Q_SLOTS:
     void initTestCase();
-    void callFails_data();
-    void callFails();
-    void callFailsAtTheEnd_data();
-    void callFailsAtTheEnd();
+    void eachCallMayFail_data();
+    void eachCallMayFail();
+    void eachCallMayFailDuringDestruction_data();
+    void eachCallMayFailDuringDestruction();
 
 private:
     struct Run
@@ -271,13 +277,13 @@ private:
         std::unique_ptr<Observer> observer;
         std::unique_ptr<LogRecorder> log;
         std::unique_ptr<PrinterStatusController> controller;
-        int deadThreads = 0; ///< that cannot have their stop event
-        QString trouble;     ///< the first thing that is not as it should be
+        int deadThreads = 0; ///< threads that ended because they got no stop event
+        QString fault;       ///< the first thing that went wrong
 
-        void check(bool holds, const QString& otherwise)
+        void check(bool holds, const QString& message)
         {
-            if (!holds && trouble.isEmpty())
-                trouble = otherwise;
+            if (!holds && fault.isEmpty())
+                fault = message;
         }
     };
 
@@ -289,11 +295,12 @@ private:
     void checkCommand(Run& run);
     void checkAfterwards(Run& run);
     void end(Run& run);
-    /// The whole way with the n-th use of a function failing; says what went wrong, if anything.
+    /// Runs all phases with the n-th use of a function failing. Returns what went wrong, or an
+    /// empty text.
     QString runWithFailure(const QString& function, int nth, bool& hasFailed);
     QString runWithFailureAtTheEnd(const QString& function, int nth, bool& hasFailed);
 
-    /// A row for each function with those of its uses that this part of the matrix tries.
+    /// Adds a row for each function, with the uses that belong to this part of the matrix.
     void addRows(const QList<QPair<QString, int>>& uses) const;
 
     int m_part = 1;
@@ -310,13 +317,13 @@ int FaultMatrixTest::watchingThreads(const Run& run)
 void FaultMatrixTest::settle(Run& run, const char* after)
 {
     run.check(EnduranceTest::settle(watchingThreads(run)),
-              QStringLiteral("the threads did not come to rest after ") + QLatin1String(after));
+              QStringLiteral("the threads did not settle after ") + QLatin1String(after));
 }
 
 void FaultMatrixTest::letThreadsPoll(Run& run, const char* after)
 {
     run.check(EnduranceTest::letThreadsPoll(watchingThreads(run)),
-              QStringLiteral("the threads did not come to rest after ") + QLatin1String(after));
+              QStringLiteral("the threads did not settle after ") + QLatin1String(after));
 }
 
 FaultMatrixTest::Run FaultMatrixTest::begin(const QString& function, int nth)
@@ -339,10 +346,10 @@ FaultMatrixTest::Run FaultMatrixTest::begin(const QString& function, int nth)
     run.controller = std::make_unique<PrinterStatusController>();
     if (nth > 0 && function == QLatin1String("CreateEventW")) {
         run.deadThreads = 1;
-        // It is not among those that are waited for below: they may all wait before it has read its
+        // settle() does not wait for this thread: the others may all wait before it has read its
         // printer.
         run.check(run.observer->waitUntilFailed(),
-                  QStringLiteral("no thread asked for its stop event"));
+                  QStringLiteral("no thread created its stop event"));
     }
     settle(run, "the start");
     return run;
@@ -357,8 +364,10 @@ void FaultMatrixTest::work(Run& run)
     enter(Phase::Change);
     publish(alder, moment(alder, 1));
     settle(run, "a change of everything");
-    // One that says 255 is looked for, and read through a handle of its own at its next change.
-    machine().publish(alderMax.name, PrinterValue::text("StatusCode", "255"));
+    // After the status "unknown", the printer is looked for, and read through a new handle at its
+    // next change.
+    machine().publish(alderMax.name,
+                      PrinterValue::text("StatusCode", QByteArray::number(StatusCodes::unknown)));
     settle(run, "a printer that cannot be read");
     machine().publish(alderMax.name, PrinterValue::text("StatusCode", "42"));
     settle(run, "a printer that can be read again");
@@ -384,16 +393,16 @@ void FaultMatrixTest::checkCommand(Run& run)
 {
     const std::optional<Failure> failure = run.observer->failure();
     if (failure && failure->phase == Phase::Command && failure->caller == Caller::Host) {
-        const auto line = std::ranges::find_if(commandLines, [&](const CommandLine& entry) {
+        const auto line = std::ranges::find_if(commandFailures, [&](const CommandFailure& entry) {
             return failure->function == QLatin1String(entry.function);
         });
-        if (line != commandLines.end()) {
+        if (line != commandFailures.end()) {
             const QList<LogRecord> records = run.log->records();
             run.check(std::ranges::any_of(records,
                                           [&](const LogRecord& record) {
                                               return record.message == QLatin1String(line->logged);
                                           }),
-                      QStringLiteral("the log does not say that the command failed"));
+                      QStringLiteral("the failure of the command is not in the log"));
             return;
         }
     }
@@ -419,7 +428,7 @@ void FaultMatrixTest::checkAfterwards(Run& run)
             else
                 run.check(!wrong.isEmpty(), printer.name +
                                                 QLatin1String(" has a change that cannot "
-                                                              "have come, for ") +
+                                                              "have arrived: ") +
                                                 QLatin1String(consequence->reason));
         }
     };
@@ -430,9 +439,9 @@ void FaultMatrixTest::checkAfterwards(Run& run)
     settle(run, "a change after the failure");
     checkArrivals(Arrival::AtOnce, "at once");
 
-    // Where the default printer cannot be managed there is none to take the place of the first.
-    const bool isDefaultManaged =
-        !consequence || consequence->status != 258 || failure->printer != windowsDefault.name;
+    // If the default printer cannot be managed, the first printer stays the active one.
+    const bool isDefaultManaged = !consequence || consequence->status != StatusCodes::notManaged ||
+                                  failure->printer != windowsDefault.name;
     run.check(
         run.controller->activeDefaultPrinter() ==
             (isDefaultManaged ? windowsDefault.name : alder.name),
@@ -443,7 +452,7 @@ void FaultMatrixTest::checkAfterwards(Run& run)
     const auto record = recordOf(*run.controller, failure->printer);
     run.check(record &&
                   (consequence->status == unchanged || record->statusEnum == consequence->status),
-              failure->printer + QLatin1String(" does not say what is wrong"));
+              failure->printer + QLatin1String(" has another status"));
     if (consequence->logged) {
         const QList<LogRecord> records = run.log->records();
         run.check(std::ranges::any_of(records,
@@ -452,7 +461,7 @@ void FaultMatrixTest::checkAfterwards(Run& run)
                                                  failure->printer +
                                                      QLatin1String(consequence->logged);
                                       }),
-                  QStringLiteral("the log does not say what is wrong"));
+                  QStringLiteral("the failure is not in the log"));
     }
 
     letThreadsPoll(run, "a poll after the failure");
@@ -471,7 +480,7 @@ void FaultMatrixTest::end(Run& run)
     const std::optional<Failure> failure = run.observer->failure();
     QStringList misuses;
     for (const virtualwindows::HandleMisuse& misuse : machine().settle()) {
-        if (misuse.handle == 0 && isOfTheServiceThatIsMissing(failure, misuse))
+        if (misuse.handle == 0 && isUseOfMissingService(failure, misuse))
             continue;
         const bool isClosedTwice =
             misuse.kind == Kind::ClosedTwice && misuse.function == QLatin1String("ClosePrinter");
@@ -493,8 +502,8 @@ QString FaultMatrixTest::runWithFailure(const QString& function, int nth, bool& 
     const std::optional<Failure> failure = run.observer->failure();
     end(run);
     machine().reset();
-    return run.trouble.isEmpty() ? QString()
-                                 : run.trouble + QStringLiteral(" (%1)").arg(describe(failure));
+    return run.fault.isEmpty() ? QString()
+                               : run.fault + QStringLiteral(" (%1)").arg(describe(failure));
 }
 
 QString FaultMatrixTest::runWithFailureAtTheEnd(const QString& function, int nth, bool& hasFailed)
@@ -507,7 +516,7 @@ QString FaultMatrixTest::runWithFailureAtTheEnd(const QString& function, int nth
     hasFailed = failure.has_value();
     machine().clearFailures();
 
-    // The next controller has the printers as if nothing had been.
+    // The failure does not affect the next controller.
     run.controller = std::make_unique<PrinterStatusController>();
     settle(run, "another start");
     for (const LabelPrinter& printer : labelPrinters) {
@@ -516,8 +525,8 @@ QString FaultMatrixTest::runWithFailureAtTheEnd(const QString& function, int nth
     }
     end(run);
     machine().reset();
-    return run.trouble.isEmpty() ? QString()
-                                 : run.trouble + QStringLiteral(" (%1)").arg(describe(failure));
+    return run.fault.isEmpty() ? QString()
+                               : run.fault + QStringLiteral(" (%1)").arg(describe(failure));
 }
 
 void FaultMatrixTest::initTestCase()
@@ -527,18 +536,18 @@ void FaultMatrixTest::initTestCase()
     m_part = part.first().toInt();
     m_parts = part.last().toInt();
     QVERIFY2(part.size() == 2 && m_part >= 1 && m_part <= m_parts,
-             "VX_FAULT_PART: expected a part and how many there are, such as 1/3");
+             "VX_FAULT_PART: expected a part and the number of parts, such as 1/3");
 
     init();
     bool hasFailed = false;
-    const QString trouble = runWithFailure({}, 0, hasFailed);
-    QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
+    const QString fault = runWithFailure({}, 0, hasFailed);
+    QVERIFY2(fault.isEmpty(), qPrintable(fault));
 
     Run run = begin({}, 0);
     work(run);
     m_uses = machine().callCounts();
     end(run);
-    QVERIFY2(run.trouble.isEmpty(), qPrintable(run.trouble));
+    QVERIFY2(run.fault.isEmpty(), qPrintable(run.fault));
 
     run = begin({}, 0);
     const QList<QPair<QString, int>> before = machine().callCounts();
@@ -569,41 +578,41 @@ void FaultMatrixTest::addRows(const QList<QPair<QString, int>>& uses) const
     }
 }
 
-void FaultMatrixTest::callFails_data()
+void FaultMatrixTest::eachCallMayFail_data()
 {
     addRows(m_uses);
 }
 
-void FaultMatrixTest::callFails()
+void FaultMatrixTest::eachCallMayFail()
 {
     QFETCH(const QString, function);
     QFETCH(const QList<int>, uses);
     int failed = 0;
     for (const int nth : uses) {
         bool hasFailed = false;
-        const QString trouble = runWithFailure(function, nth, hasFailed);
-        QVERIFY2(trouble.isEmpty(), qPrintable(QStringLiteral("use %1: %2").arg(nth).arg(trouble)));
+        const QString fault = runWithFailure(function, nth, hasFailed);
+        QVERIFY2(fault.isEmpty(), qPrintable(QStringLiteral("use %1: %2").arg(nth).arg(fault)));
         failed += hasFailed ? 1 : 0;
     }
-    // How often a thread reads while a command is printed is a matter of chance, so that the last
-    // uses need not occur in every run.
+    // How often a thread reads while a command is printed depends on chance, so the last uses need
+    // not occur in every run.
     qInfo("%d of %d uses failed", failed, static_cast<int>(uses.size()));
     QVERIFY(failed > 0);
 }
 
-void FaultMatrixTest::callFailsAtTheEnd_data()
+void FaultMatrixTest::eachCallMayFailDuringDestruction_data()
 {
     addRows(m_usesAtTheEnd);
 }
 
-void FaultMatrixTest::callFailsAtTheEnd()
+void FaultMatrixTest::eachCallMayFailDuringDestruction()
 {
     QFETCH(const QString, function);
     QFETCH(const QList<int>, uses);
     for (const int nth : uses) {
         bool hasFailed = false;
-        const QString trouble = runWithFailureAtTheEnd(function, nth, hasFailed);
-        QVERIFY2(trouble.isEmpty(), qPrintable(QStringLiteral("use %1: %2").arg(nth).arg(trouble)));
+        const QString fault = runWithFailureAtTheEnd(function, nth, hasFailed);
+        QVERIFY2(fault.isEmpty(), qPrintable(QStringLiteral("use %1: %2").arg(nth).arg(fault)));
         QVERIFY2(hasFailed, qPrintable(QStringLiteral("use %1 did not occur").arg(nth)));
     }
     qInfo("%d uses failed", static_cast<int>(uses.size()));

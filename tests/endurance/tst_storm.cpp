@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 // Two hundred printers that all change ten times a second: the host sees the last of every value,
-// and its event loop goes on meanwhile. Prints what a report costs the host's thread.
+// and its event loop keeps running. Prints the time that a report takes on the host's thread.
 #include "endurance_test.h"
 #include "supply_information.h"
 #include "vx_ipc_supplyd_controller.h"
@@ -24,22 +24,22 @@ using VXPrinting::PrinterType;
 namespace {
 
 constexpr int printerCount = 200;
-constexpr int changesASecond = 10;
-/// Reports to the controller that a change of everything makes, one for each connected signal.
-constexpr int reportsAChange = 7;
-/// A slow machine needs minutes for a storm, and what says nothing for so long is taken for hung.
-constexpr qint64 reportsAWord = 5000;
+constexpr int changesPerSecond = 10;
+/// A change of all values causes this many reports to the controller, one per connected signal.
+constexpr int reportsPerChange = 7;
+/// A slow machine needs minutes for a storm, and a test without output for that long is taken for
+/// hung. So progress is printed once per this many reports.
+constexpr qint64 reportsPerProgressLine = 5000;
 
-/// Time that the calling thread has spent computing: what other programs take from it meanwhile is
-/// not in it.
-double ownMicroseconds()
+/// The processor time of the calling thread, which does not include that of other programs.
+double threadMicroseconds()
 {
     timespec time{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
     return double(time.tv_sec) * 1e6 + double(time.tv_nsec) / 1e3;
 }
 
-/// The kinds of reports, told apart by what the controller does for them.
+/// The kinds of reports, distinguished by what the controller does on them.
 enum class Kind
 {
     Status,
@@ -65,8 +65,8 @@ struct Cost
     double mean() const { return count ? total / count : 0; }
 };
 
-/// The host's application. It watches its own event loop: what each report to the controller takes,
-/// what everything else does, and who else has work there.
+/// The host's application. It measures its own event loop: the time for each report to the
+/// controller, the time for all other events, and which objects receive those.
 class Host : public QCoreApplication
 {
 public:
@@ -90,14 +90,14 @@ public:
         connect(controller, &Controller::availablePrintersUpdated, this, [this] { ++m_updates; });
     }
 
-    /// An object of the test's own gets events on the host's thread.
-    void expectEventsFor(const QObject* testsOwn) { m_testsOwn.append(testsOwn); }
+    /// Excludes an object of the test from `strangers`.
+    void expectEventsFor(const QObject* object) { m_expected.append(object); }
 
     std::array<Cost, kindNames.size()> reports;
-    Cost others;                       ///< events that are none
+    Cost others;                       ///< events that are not reports
     std::atomic<qint64> delivered = 0; ///< reports
     bool handledTwo = false;           ///< more than one report in one event
-    QStringList strangers;             ///< who got others, by class, but for the test's own
+    QStringList strangers;             ///< classes of unexpected receivers of other events
     std::atomic<bool> isInReport = false;
 
     bool notify(QObject* receiver, QEvent* event) override
@@ -105,23 +105,23 @@ public:
         if (!m_controller || QThread::currentThread() != thread() || m_depth > 0)
             return QCoreApplication::notify(receiver, event);
         const bool isReport = receiver == m_controller && event->type() == QEvent::MetaCall;
-        if (!isReport && !m_testsOwn.contains(receiver))
+        if (!isReport && !m_expected.contains(receiver))
             strangers.append(QString::fromLatin1(receiver->metaObject()->className()));
         m_kind = Kind::Firmware;
         m_updates = 0;
         const int listings = callsOfListing();
         ++m_depth;
         isInReport = isReport;
-        const double begin = ownMicroseconds();
+        const double begin = threadMicroseconds();
         const bool result = QCoreApplication::notify(receiver, event);
-        const double taken = ownMicroseconds() - begin;
+        const double taken = threadMicroseconds() - begin;
         isInReport = false;
         --m_depth;
         if (!isReport) {
             others.add(taken);
             return result;
         }
-        if (++delivered % reportsAWord == 0)
+        if (++delivered % reportsPerProgressLine == 0)
             qInfo("%lld reports so far", static_cast<long long>(delivered));
         handledTwo = handledTwo || m_updates > 1;
         const Kind kind = callsOfListing() != listings ? Kind::Mileage : m_kind;
@@ -136,13 +136,13 @@ private:
     }
 
     QPointer<PrinterStatusController> m_controller;
-    QList<const QObject*> m_testsOwn;
+    QList<const QObject*> m_expected;
     Kind m_kind = Kind::Firmware;
     int m_updates = 0;
     int m_depth = 0;
 };
 
-/// How late a timer of the host's comes, and how many reports were delivered before it.
+/// A timer in the host's event loop that measures how long the loop is busy between two beats.
 class Heartbeat
 {
 public:
@@ -155,35 +155,35 @@ public:
         m_timer.setInterval(interval);
         QObject::connect(&m_timer, &QTimer::timeout, [this] { beat(); });
         m_timer.start();
-        m_lastOwn = ownMicroseconds();
+        m_lastOwn = threadMicroseconds();
         m_sinceLast.start();
     }
 
-    /// What came since the last beat counts too.
+    /// Includes the time since the last beat.
     void end()
     {
         m_timer.stop();
         beat();
     }
 
-    /// The most that the loop computed between two beats, in microseconds, and for how many
-    /// reports.
+    /// The longest processor time of the loop between two beats, in microseconds, and the number of
+    /// reports in it.
     double longest = 0;
     qint64 reportsInLongest = 0;
-    /// Milliseconds on the wall, other programs' among them.
-    qint64 longestOnTheWall = 0;
+    /// The longest elapsed time between two beats, in milliseconds.
+    qint64 longestElapsed = 0;
 
 private:
     void beat()
     {
-        const double own = ownMicroseconds();
+        const double own = threadMicroseconds();
         if (own - m_lastOwn > longest) {
             longest = own - m_lastOwn;
             reportsInLongest = m_host.delivered - m_lastDelivered;
         }
         m_lastOwn = own;
         m_lastDelivered = m_host.delivered;
-        longestOnTheWall = std::max(longestOnTheWall, m_sinceLast.restart());
+        longestElapsed = std::max(longestElapsed, m_sinceLast.restart());
     }
 
     const Host& m_host;
@@ -205,27 +205,27 @@ class StormTest : public EnduranceTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void hostWaitsInReportsAlone();
-    void storm_data();
-    void storm();
+    void hostCallsTheSystemOnlyInReports();
+    void hostSeesTheLastOfEveryValue_data();
+    void hostSeesTheLastOfEveryValue();
 
 private:
     void addPrinters(int count, bool withMileages);
     QList<PrinterValue> valuesOf(const LabelPrinter& printer, int number) const;
-    /// Changes every printer so many times, ten times a second and evenly, as far as this machine
-    /// goes along.
+    /// Changes every printer `rounds` times, evenly spread at ten times a second if this machine is
+    /// fast enough.
     void changePrinters(int firstNumber, int rounds);
-    /// How things stand at the moment at which the printers have stopped changing.
+    /// The state at the end of the changes.
     struct Aftermath
     {
-        double seconds = 0; ///< that they took
+        double seconds = 0; ///< duration of the changes
         qint64 delivered = 0;
         Footprint footprint;
     };
     /// Runs the host's event loop while the printers change.
-    Aftermath letStormPass(int firstNumber, int rounds);
+    Aftermath runStorm(int firstNumber, int rounds);
     QString firstMismatch(const PrinterStatusController& controller, int number) const;
-    static void makeRoomForEvents(int count);
+    static void reserveEventQueue(int count);
     static void printCosts();
     static void printMileageParts(PrinterStatusController& controller, const QString& printer);
 
@@ -262,7 +262,7 @@ QList<PrinterValue> StormTest::valuesOf(const LabelPrinter& printer, int number)
 void StormTest::changePrinters(int firstNumber, int rounds)
 {
     using Clock = std::chrono::steady_clock;
-    const auto step = std::chrono::nanoseconds(1s) / (changesASecond * m_printers.size());
+    const auto step = std::chrono::nanoseconds(1s) / (changesPerSecond * m_printers.size());
     auto next = Clock::now();
     for (int round = 0; round < rounds; ++round) {
         for (const LabelPrinter& printer : m_printers) {
@@ -294,9 +294,9 @@ QString StormTest::firstMismatch(const PrinterStatusController& controller, int 
     return {};
 }
 
-/// Qt's queue of events keeps the room that it once needed, and how much a storm needs depends on
-/// how far the host falls behind. With room for twice the storm's events it never asks for more.
-void StormTest::makeRoomForEvents(int count)
+/// Qt's event queue never shrinks, and how long it gets in a storm depends on how far the host
+/// falls behind. With a capacity for twice the events of a storm, it does not grow during the test.
+void StormTest::reserveEventQueue(int count)
 {
     QObject receiver;
     for (int posted = 0; posted < 2 * count; ++posted)
@@ -320,20 +320,20 @@ void StormTest::printMileageParts(PrinterStatusController& controller, const QSt
 {
     constexpr int calls = 50;
     const auto time = [](const std::function<void()>& call) {
-        const double begin = ownMicroseconds();
+        const double begin = threadMicroseconds();
         for (int count = 0; count < calls; ++count)
             call();
-        return (ownMicroseconds() - begin) / calls;
+        return (threadMicroseconds() - begin) / calls;
     };
     const double listing = time([&] { controller.getPrinterTypeEnum(printer); });
     const double database =
         time([&] { controller.getSupplyIdController()->supplyInformation(printer); });
-    qInfo("of a mileage report: listing %d printers for one's type %.1f us, asking the supply "
+    qInfo("of a mileage report: listing %d printers for one's type %.1f us, querying the supply "
           "database %.1f us",
           printerCount, listing, database);
 }
 
-StormTest::Aftermath StormTest::letStormPass(int firstNumber, int rounds)
+StormTest::Aftermath StormTest::runStorm(int firstNumber, int rounds)
 {
     QElapsedTimer clock;
     clock.start();
@@ -350,16 +350,16 @@ StormTest::Aftermath StormTest::letStormPass(int firstNumber, int rounds)
     return aftermath;
 }
 
-void StormTest::storm_data()
+void StormTest::hostSeesTheLastOfEveryValue_data()
 {
     QTest::addColumn<bool>("withMileages");
     QTest::addColumn<int>("rounds");
-    const int rounds = fromEnvironment("VX_STORM_SECONDS", 3) * changesASecond;
+    const int rounds = fromEnvironment("VX_STORM_SECONDS", 3) * changesPerSecond;
     QTest::newRow("status, supply, ribbons, firmware") << false << rounds;
     QTest::newRow("everything") << true << rounds;
 }
 
-void StormTest::storm()
+void StormTest::hostSeesTheLastOfEveryValue()
 {
     QFETCH(const bool, withMileages);
     QFETCH(const int, rounds);
@@ -367,10 +367,10 @@ void StormTest::storm()
     auto controller = std::make_unique<PrinterStatusController>();
     QVERIFY(settle(printerCount));
 
-    // What is kept for good, and the allocator's pools, are there after a while of storm.
-    constexpr int warmUp = changesASecond;
-    makeRoomForEvents(printerCount * rounds * reportsAChange);
-    letStormPass(1, warmUp);
+    // After a short storm, everything that is kept for good has been allocated.
+    constexpr int warmUp = changesPerSecond;
+    reserveEventQueue(printerCount * rounds * reportsPerChange);
+    runStorm(1, warmUp);
     QVERIFY(settle(printerCount));
     QCOMPARE(firstMismatch(*controller, warmUp), QString());
     const Footprint before = Footprint::now();
@@ -380,7 +380,7 @@ void StormTest::storm()
     const int last = warmUp + rounds;
     QElapsedTimer clock;
     clock.start();
-    const Aftermath aftermath = letStormPass(warmUp + 1, rounds);
+    const Aftermath aftermath = runStorm(warmUp + 1, rounds);
     QVERIFY(settle(printerCount));
     const double passed = double(clock.elapsed()) / 1000;
     heartbeat.end();
@@ -391,23 +391,24 @@ void StormTest::storm()
           "time and all after %.1f s",
           printerCount, rounds, aftermath.seconds, static_cast<long long>(host().delivered),
           static_cast<long long>(aftermath.delivered), passed);
-    qInfo("%s before; %s at the storm's end; %s when all was delivered",
+    qInfo("%s before; %s at the end of the storm; %s when all reports were delivered",
           qPrintable(before.memory()), qPrintable(aftermath.footprint.memory()),
           qPrintable(after.memory()));
     printCosts();
-    qInfo("between two beats of a timer of the host's the loop computed at most %.1f us, for %lld "
-          "reports, and at most %lld ms passed",
-          heartbeat.longest, static_cast<long long>(heartbeat.reportsInLongest),
-          static_cast<long long>(heartbeat.longestOnTheWall));
+    qInfo(
+        "between two beats of a timer, the host's loop used at most %.1f us of processor time, for "
+        "%lld reports, and at most %lld ms passed",
+        heartbeat.longest, static_cast<long long>(heartbeat.reportsInLongest),
+        static_cast<long long>(heartbeat.longestElapsed));
     printMileageParts(*controller, m_printers.back().name);
 
-    checkMemoryIsFlat(before, after);
-    // Nothing but the reports has work in the loop, and each of them is an event of its own.
+    QCOMPARE(memoryGrowth(before, after), QString());
+    // The reports are the only work in the loop, and each is an event of its own.
     QVERIFY(!host().handledTwo);
     QCOMPARE(host().strangers, QStringList());
 }
 
-void StormTest::hostWaitsInReportsAlone()
+void StormTest::hostCallsTheSystemOnlyInReports()
 {
     constexpr int few = 20;
     addPrinters(few, true);
@@ -415,7 +416,7 @@ void StormTest::hostWaitsInReportsAlone()
     QVERIFY(settle(few));
     host().watch(controller.get());
 
-    // On the host's thread a call of the system is what can take long.
+    // On the host's thread, only calls of the system can take long.
     std::mutex mutex;
     QStringList outside;
     machine().setCallHook([&, hostThread = QThread::currentThreadId()](const Call& call) {

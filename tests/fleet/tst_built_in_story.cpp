@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// The built-in fleet and the sample catalogue fit together: what its printers hold, from the
-// beginning and in the course of the story, the database knows.
+// The built-in fleet matches the sample catalogue: the database knows every supply and ribbon that
+// its printers hold at the start and during the story.
 #include "virtualwindows/fleet.h"
 
 #include <supplyc.h>
@@ -26,13 +26,13 @@ class BuiltInStoryTest : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void supplies_data();
-    void supplies();
-    void ribbons_data();
-    void ribbons();
+    void databaseKnowsEverySupply_data();
+    void databaseKnowsEverySupply();
+    void databaseKnowsEveryRibbon_data();
+    void databaseKnowsEveryRibbon();
 
 private:
-    /// All values that printers publish, with the moment for a name.
+    /// All values that printers publish, each set with the name of its time in the story.
     QList<QPair<QString, QJsonObject>> m_published;
     VXSupplyDatabase m_database;
 };
@@ -51,7 +51,7 @@ void BuiltInStoryTest::initTestCase()
     const QJsonObject fleet = QJsonDocument::fromJson(virtualwindows::builtInFleetText()).object();
     const QJsonArray printers = fleet.value(QStringLiteral("printers")).toArray();
     for (const QJsonValue& printer : printers)
-        take(printer[QStringLiteral("name")].toString() + QStringLiteral(" at first"),
+        take(printer[QStringLiteral("name")].toString() + QStringLiteral(" at the start"),
              printer.toObject());
     const QJsonArray timeline = fleet.value(QStringLiteral("timeline")).toArray();
     for (const QJsonValue& event : timeline) {
@@ -63,7 +63,7 @@ void BuiltInStoryTest::initTestCase()
     QVERIFY(m_published.size() > 10);
 }
 
-void BuiltInStoryTest::supplies_data()
+void BuiltInStoryTest::databaseKnowsEverySupply_data()
 {
     QTest::addColumn<QString>("identifier");
     for (const auto& [moment, values] : std::as_const(m_published)) {
@@ -73,7 +73,7 @@ void BuiltInStoryTest::supplies_data()
     }
 }
 
-void BuiltInStoryTest::supplies()
+void BuiltInStoryTest::databaseKnowsEverySupply()
 {
     QFETCH(const QString, identifier);
     m_database.setSupplyId(identifier);
@@ -81,11 +81,11 @@ void BuiltInStoryTest::supplies()
     QVERIFY2(!sku.isEmpty() && sku != QLatin1String("-1"), qPrintable(identifier));
     QVERIFY(!m_database.supplyColorName(sku).isEmpty());
     QVERIFY(!m_database.supplyMaterialName(sku).isEmpty());
-    // What is left of a supply in percent makes sense only so.
+    // Otherwise the percentage left of the supply would be wrong.
     QCOMPARE(SupplyC(identifier).lengthInFeet * 12.0, m_database.supplyLength(sku));
 }
 
-void BuiltInStoryTest::ribbons_data()
+void BuiltInStoryTest::databaseKnowsEveryRibbon_data()
 {
     QTest::addColumn<QString>("identifier");
     for (const auto& [moment, values] : std::as_const(m_published)) {
@@ -97,14 +97,14 @@ void BuiltInStoryTest::ribbons_data()
     }
 }
 
-void BuiltInStoryTest::ribbons()
+void BuiltInStoryTest::databaseKnowsEveryRibbon()
 {
     QFETCH(const QString, identifier);
     m_database.setRibbonIds({identifier});
     const QString sku = m_database.supplyRibbonSKUs().value(0);
     QVERIFY2(!sku.isEmpty() && sku != QLatin1String("-1"), qPrintable(identifier));
     QVERIFY(!m_database.supplyRibbonColorName(sku, 1).isEmpty());
-    // The length that is taken for every new ribbon.
+    // The length that is assumed for every new ribbon.
     QCOMPARE(m_database.supplyRibbonLength(sku), 4725.0);
 }
 

@@ -1,10 +1,11 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
 #
-# Installs a build into a scratch folder and builds hosts against what is there, as somebody
-# does who has the package only. Expects BUILD (what is installed), SCRATCH, EXAMPLES (folders), FIND_BY
-# (the variable that leads to packages) and OPTIONS (for configuring the examples). LOGGER is the library
-# of the installed CuteLogger that the build has, and empty where it has the stand-in.
+# Installs a build into a scratch folder and builds hosts against the installed package alone.
+#
+# Expects BUILD (the build to install), SCRATCH, EXAMPLES (folders), FIND_BY (the variable with the paths
+# of packages) and OPTIONS (for configuring the examples). LOGGER is the library of the installed
+# CuteLogger that the build uses; it is empty if the build uses the stand-in.
 
 function(run what)
     message(STATUS "${what}")
@@ -24,7 +25,7 @@ foreach(example IN LISTS EXAMPLES)
     run("building ${name}" "${CMAKE_COMMAND}" --build "${SCRATCH}/${name}")
 endforeach()
 
-# The package says what to set when the CuteLogger that it was built with is not there any more.
+# If the CuteLogger that the package was built with is missing, configuring fails and says what to set.
 if(LOGGER)
     file(GLOB_RECURSE config "${SCRATCH}/installed/*/VxPrinterStatusConfig.cmake")
     file(READ "${config}" text)
@@ -37,7 +38,7 @@ if(LOGGER)
     execute_process(COMMAND ${configure} -B "${SCRATCH}/without logger"
         RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
     if(result EQUAL 0 OR NOT output MATCHES "CuteLogger_ROOT")
-        message(FATAL_ERROR "expected to be told of CuteLogger_ROOT: ${result}\n${output}")
+        message(FATAL_ERROR "expected a message about CuteLogger_ROOT: ${result}\n${output}")
     endif()
     cmake_path(GET LOGGER PARENT_PATH folder)
     cmake_path(GET folder PARENT_PATH prefix)

@@ -12,14 +12,14 @@
 #include <QtCore/QProcess>
 #include <QtTest/QtTest>
 
-/// What another process is told when it calls an endpoint of this one. The process is the tool for
-/// it; this one's event loop runs meanwhile, as a host's does.
+/// Calls an endpoint of this process from another process and returns the result. The other process
+/// runs vxipc; meanwhile the event loop of this one runs, as a host's does.
 ///
-/// Undefined when the call fails; the reason is in the test's output.
-inline QJsonValue askFromOutside(const VXIPCServer& endpoint, const QString& method,
-                                 const QStringList& arguments)
+/// Undefined if the call fails; the reason is printed.
+inline QJsonValue callFromOtherProcess(const VXIPCServer& endpoint, const QString& method,
+                                       const QStringList& arguments)
 {
-    // Published by the event loop.
+    // The event loop publishes the endpoint.
     if (!QTest::qWaitFor([&endpoint] { return !endpoint.serverName().isEmpty(); }, patience))
         return QJsonValue::Undefined;
     QProcess process;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// A file of its own: the catalogue and the Windows headers have names in common.
+// In a file of its own, because the catalogue and the Windows headers define the same names.
 #include "sample_database.h"
 
 #include <catalogue.h>

@@ -4,6 +4,6 @@
 
 #include <QtCore/QString>
 
-/// Puts the sample catalogue's supplies and ribbons into a folder, as the file that the library
-/// looks for beside its host.
+/// Writes roll.db, with the supplies and ribbons of the sample catalogue, into a folder. The
+/// library looks for it beside its host.
 void writeSampleDatabase(const QString& folder);

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
-"""Holds the guide and the README to the code: what they show is compiled, what they name is there.
+"""Checks the guide and the README against the code: what they show is compiled, and what they name exists.
 
 Usage: test_host_guide.py ROOT
 """
@@ -12,7 +12,7 @@ import unittest
 ROOT = pathlib.Path(sys.argv.pop(1))
 GUIDE = ROOT / "docs/host-guide.md"
 README = ROOT / "README.md"
-# Every one of them is compiled by a test.
+# A test compiles each of these.
 SOURCES = [
     *sorted(ROOT.glob("examples/*/*")),
     *sorted(ROOT.glob("tests/host/logging_host/*")),
@@ -83,7 +83,7 @@ class HostGuide(unittest.TestCase):
         anchors = {re.sub(r"[^\w -]", "", text.lower()).replace(" ", "-") for text in headings}
         self.assertEqual(set(re.findall(r"\]\(#([^)]+)\)", guide)) - anchors, set())
 
-    def test_links_to_what_is_there(self):
+    def test_links_to_existing_files(self):
         prose = re.sub(r"^```.*?^```$", "", GUIDE.read_text(), flags=re.M | re.S)
         targets = re.findall(r"\]\(([^)#]+)\)", prose)
         self.assertGreater(len(targets), 4)

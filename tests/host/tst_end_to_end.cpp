@@ -1,18 +1,23 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// The whole way of an event: a printer's driver publishes a value, a host reads what has become of
-// it in a record, and another process is told the same by the host's endpoints.
+// The whole way of an event: a printer's driver publishes a value, the host reads the result in a
+// record, and another process gets the same from the host's endpoints.
 //
 // The library opens roll.db beside the host's executable, so this test has a folder of its own.
 #include "controller_test.h"
 #include "other_process.h"
+#include "run_in_english.h"
 #include "sample_database.h"
 
+#include "printer_types.h"
+#include "status_codes.h"
 #include "vx_ipc_m4_controller.h"
 #include "vx_ipc_supplyd_controller.h"
 
 #include <QtCore/QJsonObject>
+
+namespace StatusCodes = VXPrinting::StatusCodes;
 
 namespace {
 
@@ -30,13 +35,13 @@ private Q_SLOTS:
 
     void newRibbonReachesHostAndOtherProcess();
     void newSupplyReachesHostAndOtherProcess();
-    void ribbonTakenOutStaysForTheHostOnly();
-    void eachPrinterHasAnswersOfItsOwn();
-    void wholeRecordsAreTheSameOutside();
-    void statusOutsideIsThatOfDiscovery();
-    void changeWhileTheSpoolerIsDown();
-    void commandArrivesAtThePrinter();
-    void nobodyAnswersAfterTheController();
+    void removedRibbonStaysInTheRecordButNotInTheEndpoint();
+    void eachPrinterHasItsOwnValues();
+    void otherProcessGetsTheWholeRecord();
+    void otherProcessGetsTheStatusOfDiscovery();
+    void changeWhileTheSpoolerIsDownIsReportedAfterwards();
+    void commandReachesThePrinter();
+    void endpointEndsWithTheController();
 
 private:
     void addWatchedPrinter(const QString& name, quint32 ribbon1, quint32 ribbon2)
@@ -49,21 +54,29 @@ private:
                                  PrinterValue::number("Ribbon2Identifier", ribbon2),
                                  PrinterValue::text("SoftwareVersion", "4.1.3,boot 1.7")});
     }
-    void publish(const QString& printer, const PrinterValue& value, int watched = 1)
+    /// Starts a host that watches one printer. True when the host has the printer's values.
+    [[nodiscard]] bool startWithOnePrinter(quint32 ribbon1 = 2001, quint32 ribbon2 = 2004)
+    {
+        addWatchedPrinter(packing, ribbon1, ribbon2);
+        makeController();
+        return settle(1);
+    }
+    /// Publishes a value. True when the host has it.
+    [[nodiscard]] bool publish(const QString& printer, const PrinterValue& value, int watched = 1)
     {
         takeSignals();
         machine().publish(printer, value);
-        settle(watched);
+        return settle(watched);
     }
     QJsonValue askSupplies(const char* method, const QStringList& arguments)
     {
-        return askFromOutside(*controller().getSupplyIdController(), QString::fromLatin1(method),
-                              arguments);
+        return callFromOtherProcess(*controller().getSupplyIdController(),
+                                    QString::fromLatin1(method), arguments);
     }
     QJsonValue askPrinters(const char* method, const QStringList& arguments)
     {
-        return askFromOutside(*controller().getm4Controller(), QString::fromLatin1(method),
-                              arguments);
+        return callFromOtherProcess(*controller().getm4Controller(), QString::fromLatin1(method),
+                                    arguments);
     }
 };
 
@@ -74,12 +87,10 @@ void EndToEndTest::initTestCase()
 
 void EndToEndTest::newRibbonReachesHostAndOtherProcess()
 {
-    addWatchedPrinter(packing, 2001, 2004);
-    makeController();
-    settle(1);
+    QVERIFY(startWithOnePrinter());
     QCOMPARE(record(packing).ribbon1ColorName, QStringLiteral("Black"));
 
-    publish(packing, PrinterValue::number("Ribbon1Identifier", 2006));
+    QVERIFY(publish(packing, PrinterValue::number("Ribbon1Identifier", 2006)));
 
     QCOMPARE(takeSignals(), (QStringList{QStringLiteral("ribbonIdsChangedSignal(%1)").arg(packing),
                                          QStringLiteral("availablePrintersUpdated()")}));
@@ -100,13 +111,11 @@ void EndToEndTest::newRibbonReachesHostAndOtherProcess()
 
 void EndToEndTest::newSupplyReachesHostAndOtherProcess()
 {
-    addWatchedPrinter(packing, 2001, 2004);
-    makeController();
-    settle(1);
+    QVERIFY(startWithOnePrinter());
     QCOMPARE(record(packing).supplyColorName, QStringLiteral("White"));
     QCOMPARE(record(packing).supplyPercentage, 50); // 15240 mm of 100 feet
 
-    publish(packing, PrinterValue::text("SupplyIdentifier", "000000641000050000B1"));
+    QVERIFY(publish(packing, PrinterValue::text("SupplyIdentifier", "000000641000050000B1")));
 
     QCOMPARE(takeSignals(), (QStringList{QStringLiteral("supplyIdChangedSignal(%1)").arg(packing),
                                          QStringLiteral("availablePrintersUpdated()")}));
@@ -124,26 +133,24 @@ void EndToEndTest::newSupplyReachesHostAndOtherProcess()
     QCOMPARE(askSupplies("supplyColorRGB", {printer.supplySKU, packing}).toInt(), 0x0057b8);
 }
 
-void EndToEndTest::ribbonTakenOutStaysForTheHostOnly()
+void EndToEndTest::removedRibbonStaysInTheRecordButNotInTheEndpoint()
 {
-    addWatchedPrinter(packing, 2001, 2004);
-    makeController();
-    settle(1);
+    QVERIFY(startWithOnePrinter());
     machine().unpublish(packing, "Ribbon1Identifier");
-    settle(1);
+    QVERIFY(settle(1));
     QCOMPARE(record(packing).ribbon1SKU, QStringLiteral("RS-43-BK"));
     QCOMPARE(askSupplies("supplyRibbonSKUsCached", {packing}),
-             QJsonValue(QJsonArray{QStringLiteral("-1"), QStringLiteral("RS-43-RD")}));
+             QJsonValue(QJsonArray{VXPrinting::nothingLoaded, QStringLiteral("RS-43-RD")}));
 }
 
-void EndToEndTest::eachPrinterHasAnswersOfItsOwn()
+void EndToEndTest::eachPrinterHasItsOwnValues()
 {
     addWatchedPrinter(packing, 2001, 2004);
     addWatchedPrinter(returns, 2018, 2019);
     makeController();
-    settle(2);
-    publish(packing, PrinterValue::number("Ribbon2Identifier", 2005), 2);
-    publish(returns, PrinterValue::number("Ribbon1Identifier", 2007), 2);
+    QVERIFY(settle(2));
+    QVERIFY(publish(packing, PrinterValue::number("Ribbon2Identifier", 2005), 2));
+    QVERIFY(publish(returns, PrinterValue::number("Ribbon1Identifier", 2007), 2));
     QCOMPARE(askSupplies("supplyRibbonSKUsCached", {packing}),
              QJsonValue(QJsonArray{QStringLiteral("RS-43-BK"), QStringLiteral("RS-43-BL")}));
     QCOMPARE(askSupplies("supplyRibbonSKUsCached", {returns}),
@@ -152,11 +159,9 @@ void EndToEndTest::eachPrinterHasAnswersOfItsOwn()
     QCOMPARE(record(returns).ribbon1ColorName, QStringLiteral("Yellow"));
 }
 
-void EndToEndTest::wholeRecordsAreTheSameOutside()
+void EndToEndTest::otherProcessGetsTheWholeRecord()
 {
-    addWatchedPrinter(packing, 2020, 2004);
-    makeController();
-    settle(1);
+    QVERIFY(startWithOnePrinter(2020, 2004));
     const PrinterStatusInformation printer = record(packing);
     const QJsonValue loaded = askSupplies("supplyInformation", {packing});
     QCOMPARE(loaded[QStringLiteral("supplySku")].toString(), printer.supplySKU);
@@ -175,47 +180,46 @@ void EndToEndTest::wholeRecordsAreTheSameOutside()
         loaded);
 }
 
-void EndToEndTest::statusOutsideIsThatOfDiscovery()
+void EndToEndTest::otherProcessGetsTheStatusOfDiscovery()
 {
     addWatchedPrinter(packing, 2001, 2004);
     addNetworkPrinter(QStringLiteral("Branch"));
     addUnmanagedPrinter(QStringLiteral("Laboratory"));
     makeController();
-    settle(1);
-    publish(packing, PrinterValue::text("StatusCode", "4"));
+    QVERIFY(settle(1));
+    QVERIFY(publish(packing, PrinterValue::text("StatusCode", "4")));
     QCOMPARE(record(packing).statusEnum, 4);
 
-    QCOMPARE(askPrinters("getPrinterStatus", {packing}).toInt(), 255);
-    QCOMPARE(askPrinters("getPrinterStatus", {QStringLiteral("Branch")}).toInt(), 256);
-    QCOMPARE(askPrinters("getPrinterStatus", {QStringLiteral("Laboratory")}).toInt(), 258);
-    QCOMPARE(askPrinters("getPrinterStatus", {QStringLiteral("Nowhere")}).toInt(), 255);
+    QCOMPARE(askPrinters("getPrinterStatus", {packing}).toInt(), StatusCodes::unknown);
+    QCOMPARE(askPrinters("getPrinterStatus", {QStringLiteral("Branch")}).toInt(),
+             StatusCodes::networkPrinter);
+    QCOMPARE(askPrinters("getPrinterStatus", {QStringLiteral("Laboratory")}).toInt(),
+             StatusCodes::notManaged);
+    QCOMPARE(askPrinters("getPrinterStatus", {QStringLiteral("Nowhere")}).toInt(),
+             StatusCodes::unknown);
 }
 
-void EndToEndTest::changeWhileTheSpoolerIsDown()
+void EndToEndTest::changeWhileTheSpoolerIsDownIsReportedAfterwards()
 {
-    addWatchedPrinter(packing, 2001, 2004);
-    makeController();
-    settle(1);
+    QVERIFY(startWithOnePrinter());
     machine().stopSpooler();
     machine().advance(5000ms);
-    settle(1);
-    QCOMPARE(record(packing).statusEnum, 254);
+    QVERIFY(settle(1));
+    QCOMPARE(record(packing).statusEnum, StatusCodes::spoolerDown);
 
     machine().publish(packing, PrinterValue::number("Ribbon1Identifier", 2003));
     machine().startSpooler();
     machine().advance(5000ms);
-    settle(1);
-    QCOMPARE(record(packing).statusEnum, 1);
+    QVERIFY(settle(1));
+    QCOMPARE(record(packing).statusEnum, StatusCodes::ready);
     QCOMPARE(record(packing).ribbon1ColorName, QStringLiteral("White"));
     QCOMPARE(askSupplies("supplyRibbonSKUsCached", {packing})[0].toString(),
              QStringLiteral("RS-43-WH"));
 }
 
-void EndToEndTest::commandArrivesAtThePrinter()
+void EndToEndTest::commandReachesThePrinter()
 {
-    addWatchedPrinter(packing, 2001, 2004);
-    makeController();
-    settle(1);
+    QVERIFY(startWithOnePrinter());
     controller().sendCommandToPrinter(QStringLiteral("FEED 3"), packing);
     const QList<virtualwindows::PrintJob> jobs = machine().jobs(packing);
     QCOMPARE(jobs.size(), 1);
@@ -225,11 +229,9 @@ void EndToEndTest::commandArrivesAtThePrinter()
     QVERIFY(jobs.first().finished);
 }
 
-void EndToEndTest::nobodyAnswersAfterTheController()
+void EndToEndTest::endpointEndsWithTheController()
 {
-    addWatchedPrinter(packing, 2001, 2004);
-    makeController();
-    settle(1);
+    QVERIFY(startWithOnePrinter());
     QCOMPARE(askSupplies("supplySKUCached", {packing}).toString(), QStringLiteral("VT-400-WH"));
     const QString name = controller().getSupplyIdController()->serverName();
     endController();
@@ -244,11 +246,6 @@ void EndToEndTest::nobodyAnswersAfterTheController()
 
 int main(int argc, char* argv[])
 {
-    // Names come in the language of the system, which a test must not depend on.
-    qputenv("LC_ALL", "C.UTF-8");
-    qputenv("LANGUAGE", "en");
-    QCoreApplication application(argc, argv);
-    EndToEndTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runInEnglish<QCoreApplication, EndToEndTest>(argc, argv);
 }
 #include "tst_end_to_end.moc"

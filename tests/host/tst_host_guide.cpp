@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// The pieces of code that docs/host-guide.md shows besides those of the examples: they compile, and
-// do what the guide says.
+// The code that docs/host-guide.md shows, apart from that of the examples: it compiles and does
+// what the guide says.
 #include "controller_test.h"
 #include "patience.h"
 #include "vx_ipc_supplyd_controller.h"
@@ -51,12 +51,12 @@ class HostGuideTest : public ControllerTest
 
 private Q_SLOTS:
     void recordsAreReadByName();
-    void slowWorkGoesElsewhere();
-    void modalDialogsWaitForTheirTurn();
+    void slowWorkRunsInAnotherThread();
+    void modalDialogsOpenAfterTheReport();
     void controllerIsDeletedLater();
     void commandsGoToTheActivePrinter();
-    void detailsComeFromTheService();
-    void otherProcessesAsk();
+    void serviceGivesDetails();
+    void otherProcessesCanCallTheService();
 
 private:
     /// A host that has found one printer, which is ready.
@@ -65,15 +65,14 @@ private:
         addPrinter(packing, QStringLiteral("Stratamark AlderMax"));
         machine().publish(packing, PrinterValue::text("StatusCode", "1"));
         makeController();
-        [this] {
-            settle(1);
-        }();
+        if (!settle(1))
+            qFatal("the printer was not read");
         return controller();
     }
-    void reportError()
+    [[nodiscard]] bool reportError()
     {
         machine().publish(packing, PrinterValue::text("StatusCode", "4"));
-        settle(1);
+        return settle(1);
     }
 };
 
@@ -93,7 +92,7 @@ void HostGuideTest::recordsAreReadByName()
     QCOMPARE(properties.at(1), QStringLiteral("statusEnum=1"));
 }
 
-void HostGuideTest::slowWorkGoesElsewhere()
+void HostGuideTest::slowWorkRunsInAnotherThread()
 {
     PrinterStatusController& printers = hostWithOnePrinter();
     reports.storeRelaxed(0);
@@ -103,12 +102,12 @@ void HostGuideTest::slowWorkGoesElsewhere()
             [records = printers.getAvailablePrinters()] { writeReport(records); });
     });
 
-    reportError();
+    QVERIFY(reportError());
     QVERIFY(QThreadPool::globalInstance()->waitForDone(patience));
     QCOMPARE(reports.loadRelaxed(), 1);
 }
 
-void HostGuideTest::modalDialogsWaitForTheirTurn()
+void HostGuideTest::modalDialogsOpenAfterTheReport()
 {
     PrinterStatusController& printers = hostWithOnePrinter();
     QStringList shown;
@@ -121,8 +120,8 @@ void HostGuideTest::modalDialogsWaitForTheirTurn()
             Qt::QueuedConnection);
 
     takeSignals();
-    reportError();
-    QCOMPARE(shown, QStringList()); // the report has been told of in full by then
+    QVERIFY(reportError());
+    QCOMPARE(shown, QStringList()); // by then all signals of the report have been emitted
     QCoreApplication::processEvents();
     QCOMPARE(shown, (QStringList{QStringLiteral("dialog"),
                                  QStringLiteral("printerErrorChangedSignal(true)"),
@@ -158,7 +157,7 @@ void HostGuideTest::commandsGoToTheActivePrinter()
     QCOMPARE(machine().jobs(packing).first().pages, QList<QByteArray>{"FEED 3\r\n"});
 }
 
-void HostGuideTest::detailsComeFromTheService()
+void HostGuideTest::serviceGivesDetails()
 {
     PrinterStatusController& printers = hostWithOnePrinter();
     const QString printerName = packing;
@@ -171,12 +170,12 @@ void HostGuideTest::detailsComeFromTheService()
     QCOMPARE(inches, -1.0);
 }
 
-void HostGuideTest::otherProcessesAsk()
+void HostGuideTest::otherProcessesCanCallTheService()
 {
     PrinterStatusController& printers = hostWithOnePrinter();
     QTRY_COMPARE(printers.getSupplyIdController()->serverName(), QStringLiteral("vxipc-0"));
     answer = QJsonValue::Undefined;
-    // As another process does, while this one's event loop runs.
+    // Like another process, the client runs while the event loop of this thread does.
     const std::unique_ptr<QThread> client(QThread::create([] { askForRibbons(packing); }));
     client->start();
     QTRY_VERIFY(client->isFinished());

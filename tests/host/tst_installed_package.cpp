@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// Hosts that were built against the installed package and know nothing of tests or virtual
-// printers.
+// Hosts that were built against the installed package, with no code for tests or virtual printers.
 #include "patience.h"
 #include "sample_database.h"
 #include "start_process.h"
@@ -24,11 +23,11 @@ const QString host = QStringLiteral(VX_MINIMAL_HOST);
 QProcessEnvironment environment()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // Names and titles come in the language of the system.
+    // Names and titles are in the language of the system.
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
 #ifdef Q_OS_WIN
-    // The library is found as any DLL is; what it stands on is where the tests have theirs.
+    // The library is found on the PATH, like any DLL. The DLLs that it needs are already there.
     environment.insert(QStringLiteral("PATH"),
                        QDir::toNativeSeparators(QStringLiteral(VX_INSTALLED_DLLS)) +
                            QLatin1Char(';') + environment.value(QStringLiteral("PATH")));
@@ -80,27 +79,27 @@ class InstalledPackageTest : public InstalledPackageTestBase
 private Q_SLOTS:
     void initTestCase();
 
-    void withoutPrinters();
-    void outputThatCannotBeWritten();
-    void wrongArgument_data();
-    void wrongArgument();
-    void hostThatKeepsTheLog();
+    void hostWithoutPrintersSaysSo();
+    void outputThatCannotBeWrittenIsReported();
+    void wrongArgumentIsRefused_data();
+    void wrongArgumentIsRefused();
+    void hostWritesTheLogToAFile();
     void logOfAHostWithoutAnAppenderGoesToStandardError();
 #ifdef Q_OS_WIN
-    void printersOfTheSystem();
+    void hostPrintsThePrintersOfTheSystem();
 #else
-    void printersOfAFleet();
-    void examplesShowNothingOfTheLog();
-    void examplesLogIntoAFile_data();
-    void examplesLogIntoAFile();
-    void titlesInTheUsersLanguage();
-    void brokenFleet_data();
-    void brokenFleet();
+    void hostPrintsThePrintersOfAFleet();
+    void examplesPrintNothingOfTheLog();
+    void examplesLogToAFile_data();
+    void examplesLogToAFile();
+    void titlesAreInTheUsersLanguage();
+    void brokenFleetIsRefused_data();
+    void brokenFleetIsRefused();
 
 private:
     QString fleetFile(const QByteArray& text);
-    /// Runs the host on a fleet until it has printed the line, and says whether it did.
-    bool printsOn(const QString& fleet, const QByteArray& line, const QString& language);
+    /// Runs the host with a fleet until it prints the line. False if it does not.
+    bool printsWithFleet(const QString& fleet, const QByteArray& line, const QString& language);
 
     QTemporaryDir m_folder;
 #endif
@@ -108,12 +107,12 @@ private:
 
 void InstalledPackageTest::initTestCase()
 {
-    QVERIFY2(QFileInfo::exists(host), "the test \"installed_package\" builds it");
-    // Where the library looks for it: beside the host.
+    QVERIFY2(QFileInfo::exists(host), "the host is built by the test \"installed_package\"");
+    // The library looks for the database beside the host.
     writeSampleDatabase(QFileInfo(host).path());
 }
 
-void InstalledPackageTest::withoutPrinters()
+void InstalledPackageTest::hostWithoutPrintersSaysSo()
 {
     const Result result = run(host, {QStringLiteral("0")});
     QCOMPARE(result.exitStatus, 0);
@@ -121,11 +120,11 @@ void InstalledPackageTest::withoutPrinters()
     QCOMPARE(result.errors, QByteArray());
 }
 
-void InstalledPackageTest::outputThatCannotBeWritten()
+void InstalledPackageTest::outputThatCannotBeWrittenIsReported()
 {
     QFile full(QStringLiteral("/dev/full"));
     if (!full.exists())
-        QSKIP("there is no device here that is always full");
+        QSKIP("this system has no /dev/full");
     const Result result =
         run(QStringLiteral("/bin/sh"),
             {QStringLiteral("-c"), QStringLiteral("exec \"$0\" > /dev/full"), host});
@@ -134,14 +133,14 @@ void InstalledPackageTest::outputThatCannotBeWritten()
                                        "No space left on device\n"));
 }
 
-void InstalledPackageTest::wrongArgument_data()
+void InstalledPackageTest::wrongArgumentIsRefused_data()
 {
     QTest::addColumn<QString>("argument");
     for (const char* argument : {"soon", "-1", "1.5", ""})
         QTest::newRow(*argument ? argument : "empty") << QString::fromLatin1(argument);
 }
 
-void InstalledPackageTest::wrongArgument()
+void InstalledPackageTest::wrongArgumentIsRefused()
 {
     QFETCH(const QString, argument);
     const Result result = run(host, {argument});
@@ -150,7 +149,7 @@ void InstalledPackageTest::wrongArgument()
     QCOMPARE(result.errors.trimmed(), QByteArray("minimal_host: expected a number of seconds"));
 }
 
-void InstalledPackageTest::hostThatKeepsTheLog()
+void InstalledPackageTest::hostWritesTheLogToAFile()
 {
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("printers.log"));
@@ -171,7 +170,7 @@ void InstalledPackageTest::logOfAHostWithoutAnAppenderGoesToStandardError()
 
 #ifdef Q_OS_WIN
 
-void InstalledPackageTest::printersOfTheSystem()
+void InstalledPackageTest::hostPrintsThePrintersOfTheSystem()
 {
     QVERIFY(fixture::setSpoolerRunning(true));
     const QString printer = fixture::uniqueName(QStringLiteral("Label Printer"));
@@ -198,8 +197,8 @@ QString InstalledPackageTest::fleetFile(const QByteArray& text)
     return name;
 }
 
-bool InstalledPackageTest::printsOn(const QString& fleet, const QByteArray& line,
-                                    const QString& language)
+bool InstalledPackageTest::printsWithFleet(const QString& fleet, const QByteArray& line,
+                                           const QString& language)
 {
     QProcessEnvironment variables = environment();
     variables.insert(QStringLiteral("VX_VIRTUAL_FLEET"), fleet);
@@ -219,7 +218,7 @@ bool InstalledPackageTest::printsOn(const QString& fleet, const QByteArray& line
     return output.contains(line);
 }
 
-void InstalledPackageTest::printersOfAFleet()
+void InstalledPackageTest::hostPrintsThePrintersOfAFleet()
 {
     const QString fleet = fleetFile(R"({
         "printers": [
@@ -234,18 +233,21 @@ void InstalledPackageTest::printersOfAFleet()
         ]
     })");
     const QByteArray active = "active printer: Packing\n";
-    QVERIFY(printsOn(fleet,
-                     "Packing: Unable To Retrieve Printer Info. (Code 255), supply  0 %, ribbon "
-                     " 0 %\n" +
-                         active,
-                     QStringLiteral("en")));
-    QVERIFY(printsOn(fleet, "Packing: Ready, supply VT-400-WH 50 %, ribbon Black 49 %\n" + active,
-                     QStringLiteral("en")));
-    QVERIFY(printsOn(fleet, "Packing: Ready, supply VT-400-WH 50 %, ribbon Green 49 %\n" + active,
-                     QStringLiteral("en")));
+    QVERIFY(
+        printsWithFleet(fleet,
+                        "Packing: Unable To Retrieve Printer Info. (Code 255), supply  0 %, ribbon "
+                        " 0 %\n" +
+                            active,
+                        QStringLiteral("en")));
+    QVERIFY(printsWithFleet(fleet,
+                            "Packing: Ready, supply VT-400-WH 50 %, ribbon Black 49 %\n" + active,
+                            QStringLiteral("en")));
+    QVERIFY(printsWithFleet(fleet,
+                            "Packing: Ready, supply VT-400-WH 50 %, ribbon Green 49 %\n" + active,
+                            QStringLiteral("en")));
 }
 
-void InstalledPackageTest::examplesShowNothingOfTheLog()
+void InstalledPackageTest::examplesPrintNothingOfTheLog()
 {
     QProcessEnvironment variables = environment();
     variables.insert(QStringLiteral("VX_VIRTUAL_FLEET"), QStringLiteral("built-in"));
@@ -255,7 +257,7 @@ void InstalledPackageTest::examplesShowNothingOfTheLog()
     QCOMPARE(result.errors, QByteArray());
 }
 
-void InstalledPackageTest::examplesLogIntoAFile_data()
+void InstalledPackageTest::examplesLogToAFile_data()
 {
     QTest::addColumn<QString>("program");
     QTest::newRow("minimal_host") << host;
@@ -263,7 +265,7 @@ void InstalledPackageTest::examplesLogIntoAFile_data()
         QTest::newRow("widgets_host") << QStringLiteral(VX_WIDGETS_HOST);
 }
 
-void InstalledPackageTest::examplesLogIntoAFile()
+void InstalledPackageTest::examplesLogToAFile()
 {
     QFETCH(const QString, program);
     const QTemporaryDir folder;
@@ -276,18 +278,20 @@ void InstalledPackageTest::examplesLogIntoAFile()
     QTRY_VERIFY_WITH_TIMEOUT(contents(log).contains("Evaluating Printer: Warehouse"), patience);
     process.kill();
     QVERIFY(process.waitForFinished(patience));
-    // Not empty: Qt's plugin for no screen may have a warning.
+    // Qt may print warnings when there is no screen.
     const QByteArray errors = process.readAllStandardError();
     QVERIFY2(!errors.contains("Evaluating Printer"), errors.constData());
 }
 
-void InstalledPackageTest::titlesInTheUsersLanguage()
+void InstalledPackageTest::titlesAreInTheUsersLanguage()
 {
-    QVERIFY(printsOn(QStringLiteral("built-in"), "Warehouse: Bereit, ", QStringLiteral("de")));
-    QVERIFY(printsOn(QStringLiteral("built-in"), "Warehouse: Lista, ", QStringLiteral("es")));
+    QVERIFY(
+        printsWithFleet(QStringLiteral("built-in"), "Warehouse: Bereit, ", QStringLiteral("de")));
+    QVERIFY(
+        printsWithFleet(QStringLiteral("built-in"), "Warehouse: Lista, ", QStringLiteral("es")));
 }
 
-void InstalledPackageTest::brokenFleet_data()
+void InstalledPackageTest::brokenFleetIsRefused_data()
 {
     QTest::addColumn<QString>("fleet");
     QTest::addColumn<QString>("speed");
@@ -308,7 +312,7 @@ void InstalledPackageTest::brokenFleet_data()
                "VX_VIRTUAL_SPEED: expected a number above 0 and up to 1000, found \"0\"");
 }
 
-void InstalledPackageTest::brokenFleet()
+void InstalledPackageTest::brokenFleetIsRefused()
 {
     QFETCH(const QString, fleet);
     QFETCH(const QString, speed);

@@ -3,6 +3,7 @@
 // The titles of status codes in every language that the library carries.
 #include "patience.h"
 #include "printer_status_controller.h"
+#include "status_codes.h"
 
 #ifdef VX_HAS_OWN_LANGUAGES
 #include <vxlocalelanguages.h>
@@ -22,6 +23,8 @@
 #include <cstdio>
 #include <memory>
 
+namespace StatusCodes = VXPrinting::StatusCodes;
+
 namespace {
 
 struct Title
@@ -31,22 +34,23 @@ struct Title
 };
 
 constexpr std::array titles{
-    Title{0, "Disconnected"},
-    Title{1, "Ready"},
-    Title{255, "Unable To Retrieve Printer Info. (Code 255)"},
-    Title{256, "Printer Is Remotely Connected.\nUnable to retrieve printer info."},
-    Title{257, "Disconnected"},
-    Title{258, "Printer Is Not Managed.\nUnable to retrieve printer info."},
+    Title{StatusCodes::disconnected, "Disconnected"},
+    Title{StatusCodes::ready, "Ready"},
+    Title{StatusCodes::unknown, "Unable To Retrieve Printer Info. (Code 255)"},
+    Title{StatusCodes::networkPrinter,
+          "Printer Is Remotely Connected.\nUnable to retrieve printer info."},
+    Title{StatusCodes::offline, "Disconnected"},
+    Title{StatusCodes::notManaged, "Printer Is Not Managed.\nUnable to retrieve printer info."},
 };
 
-/// Codes whose title the status-messages library has, and codes that it does not list.
+/// Codes that the status-messages library has a title for, and codes that it does not list.
 constexpr std::array faultCodes{2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13,
                                 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 254};
 constexpr std::array unlistedCodes{259, -5, 4711};
 
 const QStringList languages = QStringLiteral(VX_LANGUAGES).split(QLatin1Char(' '));
 
-/// Makes this program print the title of a ready printer and end.
+/// With this argument the program only prints the title of a ready printer.
 constexpr char printReadyTitle[] = "--print-ready-title";
 
 struct Message
@@ -63,7 +67,7 @@ QString fileOf(const QString& language)
     return QStringLiteral(VX_TRANSLATIONS "/vxprinterstatus_%1.ts").arg(language);
 }
 
-/// The messages of a translator's file; empty when it is none.
+/// The messages of a translation file. Empty if the file cannot be read.
 QList<Message> messagesOf(const QString& fileName)
 {
     QFile file(fileName);
@@ -92,7 +96,7 @@ QList<Message> messagesOf(const QString& fileName)
     return reader.hasError() ? QList<Message>() : messages;
 }
 
-/// What is translated, whatever it is translated to.
+/// The texts to be translated, without their translations.
 QStringList keysOf(const QList<Message>& messages)
 {
     QStringList keys;
@@ -103,7 +107,14 @@ QStringList keysOf(const QList<Message>& messages)
     return keys;
 }
 
-/// A translator of the status messages, which are not the library's own titles.
+/// Loads the library's translation for a locale, as hosts do. False if there is none.
+bool load(QTranslator& translator, const QLocale& locale)
+{
+    return translator.load(locale, QStringLiteral("vxprinterstatus"), QStringLiteral("_"),
+                           QStringLiteral(":/vxprinterstatus/translations"));
+}
+
+/// Translates the status messages, but not the library's own titles.
 class StatusMessageTranslator : public QTranslator
 {
 public:
@@ -124,28 +135,28 @@ class TranslationsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { m_controller = std::make_unique<PrinterStatusController>(); }
-    void cleanupTestCase() { m_controller.reset(); }
+    void initTestCase();
+    void cleanupTestCase();
 
-    void everyLanguageIsThere();
+    void everyLanguageIsEmbedded();
     void everyEntryIsFinished_data();
     void everyEntryIsFinished();
     void everyTitleOfTheSourceIsInEveryFile_data();
     void everyTitleOfTheSourceIsInEveryFile();
-    void everyTitleChanges_data();
-    void everyTitleChanges();
-    void localesFindTheirLanguage_data();
-    void localesFindTheirLanguage();
-    void localesWithoutALanguageStayEnglish_data();
-    void localesWithoutALanguageStayEnglish();
-    void englishRepeatsTheSources();
-    void firstOfTheUsersLanguagesIsTaken_data();
-    void firstOfTheUsersLanguagesIsTaken();
+    void everyTitleIsTranslated_data();
+    void everyTitleIsTranslated();
+    void localesFindTheirTranslation_data();
+    void localesFindTheirTranslation();
+    void localesWithoutATranslationStayEnglish_data();
+    void localesWithoutATranslationStayEnglish();
+    void englishRepeatsTheSourceTexts();
+    void firstOfTheUsersLanguagesIsUsed_data();
+    void firstOfTheUsersLanguagesIsUsed();
     void titlesAndNamesAreInOneLanguage_data();
     void titlesAndNamesAreInOneLanguage();
     void faultsAreTranslated_data();
     void faultsAreTranslated();
-    void otherTitlesAreTranslatableOnTheirOwn();
+    void ownTitlesAndStatusMessagesAreTranslatedSeparately();
 
 private:
     QString title(int code) { return m_controller->getStatusTitle(code); }
@@ -155,17 +166,21 @@ private:
         for (const QString& language : languages)
             QTest::newRow(qPrintable(language)) << language;
     }
-    static bool load(QTranslator& translator, const QString& locale)
-    {
-        return translator.load(QLocale(locale), QStringLiteral("vxprinterstatus"),
-                               QStringLiteral("_"),
-                               QStringLiteral(":/vxprinterstatus/translations"));
-    }
 
     std::unique_ptr<PrinterStatusController> m_controller;
 };
 
-void TranslationsTest::everyLanguageIsThere()
+void TranslationsTest::initTestCase()
+{
+    m_controller = std::make_unique<PrinterStatusController>();
+}
+
+void TranslationsTest::cleanupTestCase()
+{
+    m_controller.reset();
+}
+
+void TranslationsTest::everyLanguageIsEmbedded()
 {
     QCOMPARE(languages, QStringLiteral("de es fr it ja zh_CN").split(QLatin1Char(' ')));
     QStringList files;
@@ -184,7 +199,8 @@ void TranslationsTest::everyEntryIsFinished()
 {
     QFETCH(const QString, language);
     const QList<Message> messages = messagesOf(fileOf(language));
-    // Two of the library's six titles read the same. One text covers all codes that are not listed.
+    // Two of the library's six titles are the same text. One text covers all codes that are not
+    // listed.
     QCOMPARE(messages.size(), 5 + 29 + 1);
     for (const Message& message : messages) {
         QCOMPARE(message.state, QString());
@@ -221,11 +237,11 @@ void TranslationsTest::everyTitleOfTheSourceIsInEveryFile()
     QVERIFY(!expected.isEmpty());
     QCOMPARE(keysOf(messagesOf(fileOf(language))), expected);
 #else
-    QSKIP("translators' tools run on the machine that builds");
+    QSKIP("lupdate runs only on the machine that builds");
 #endif
 }
 
-void TranslationsTest::everyTitleChanges_data()
+void TranslationsTest::everyTitleIsTranslated_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("code");
@@ -237,7 +253,7 @@ void TranslationsTest::everyTitleChanges_data()
     }
 }
 
-void TranslationsTest::everyTitleChanges()
+void TranslationsTest::everyTitleIsTranslated()
 {
     QFETCH(const QString, language);
     QFETCH(const int, code);
@@ -251,7 +267,7 @@ void TranslationsTest::everyTitleChanges()
     QCOMPARE(title(code), english);
     {
         QTranslator translator;
-        QVERIFY(load(translator, language));
+        QVERIFY(load(translator, QLocale(language)));
         QVERIFY(QCoreApplication::installTranslator(&translator));
         QCOMPARE(title(code), message->translation);
         QVERIFY(title(code) != english);
@@ -259,7 +275,7 @@ void TranslationsTest::everyTitleChanges()
     QCOMPARE(title(code), english);
 }
 
-void TranslationsTest::localesFindTheirLanguage_data()
+void TranslationsTest::localesFindTheirTranslation_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("ready");
@@ -278,31 +294,31 @@ void TranslationsTest::localesFindTheirLanguage_data()
     row("zh_CN", "就绪");
 }
 
-void TranslationsTest::localesFindTheirLanguage()
+void TranslationsTest::localesFindTheirTranslation()
 {
     QFETCH(const QString, locale);
     QTranslator translator;
-    QVERIFY(load(translator, locale));
+    QVERIFY(load(translator, QLocale(locale)));
     QVERIFY(QCoreApplication::installTranslator(&translator));
-    QTEST(title(1), "ready");
+    QTEST(title(StatusCodes::ready), "ready");
 }
 
-void TranslationsTest::localesWithoutALanguageStayEnglish_data()
+void TranslationsTest::localesWithoutATranslationStayEnglish_data()
 {
     QTest::addColumn<QString>("locale");
     for (const char* locale : {"pt_BR", "zh_TW", "C"})
         QTest::newRow(locale) << QString::fromLatin1(locale);
 }
 
-void TranslationsTest::localesWithoutALanguageStayEnglish()
+void TranslationsTest::localesWithoutATranslationStayEnglish()
 {
     QFETCH(const QString, locale);
     QTranslator translator;
-    QVERIFY(!load(translator, locale));
-    QCOMPARE(title(1), QStringLiteral("Ready"));
+    QVERIFY(!load(translator, QLocale(locale)));
+    QCOMPARE(title(StatusCodes::ready), QStringLiteral("Ready"));
 }
 
-void TranslationsTest::englishRepeatsTheSources()
+void TranslationsTest::englishRepeatsTheSourceTexts()
 {
     const QList<Message> messages = messagesOf(fileOf(QStringLiteral("en")));
     QCOMPARE(keysOf(messages), keysOf(messagesOf(fileOf(QStringLiteral("de")))));
@@ -310,7 +326,7 @@ void TranslationsTest::englishRepeatsTheSources()
         QCOMPARE(message.translation, message.source);
 }
 
-void TranslationsTest::firstOfTheUsersLanguagesIsTaken_data()
+void TranslationsTest::firstOfTheUsersLanguagesIsUsed_data()
 {
     QTest::addColumn<QString>("userLanguages");
     QTest::addColumn<QByteArray>("ready");
@@ -321,13 +337,13 @@ void TranslationsTest::firstOfTheUsersLanguagesIsTaken_data()
         << QStringLiteral("en_GB:fr") << QByteArray("Ready");
 }
 
-void TranslationsTest::firstOfTheUsersLanguagesIsTaken()
+void TranslationsTest::firstOfTheUsersLanguagesIsUsed()
 {
 #ifdef Q_OS_WIN
-    QSKIP("Windows keeps the user's languages in its settings, which a test leaves alone");
+    QSKIP("on Windows the user's languages are system settings, which a test must not change");
 #endif
     QFETCH(const QString, userLanguages);
-    // In a process of its own: the system's locale is read once.
+    // This needs another process, because a process reads the system's locale only once.
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
@@ -340,12 +356,12 @@ void TranslationsTest::firstOfTheUsersLanguagesIsTaken()
 
 void TranslationsTest::titlesAndNamesAreInOneLanguage_data()
 {
-    localesFindTheirLanguage_data();
+    localesFindTheirTranslation_data();
     for (const char* locale : {"en_US", "sv_SE", "C"})
         QTest::newRow(locale) << QString::fromLatin1(locale) << QStringLiteral("Ready");
 }
 
-// As a host does that follows the guide, on a system of whatever language.
+// Loads the titles as the guide says, on systems of various languages.
 void TranslationsTest::titlesAndNamesAreInOneLanguage()
 {
 #ifdef VX_HAS_OWN_LANGUAGES
@@ -354,15 +370,14 @@ void TranslationsTest::titlesAndNamesAreInOneLanguage()
     QLocale::setDefault(QLocale(locale));
     const qint32 languageOfNames = VXLocaleLanguages().getCurrentLanguageId();
     QTranslator translator;
-    if (translator.load(QLocale(), QStringLiteral("vxprinterstatus"), QStringLiteral("_"),
-                        QStringLiteral(":/vxprinterstatus/translations")))
+    if (load(translator, QLocale()))
         QCoreApplication::installTranslator(&translator);
     QLocale::setDefault(before);
-    QTEST(title(1), "ready");
+    QTEST(title(StatusCodes::ready), "ready");
     const QString language = translator.isEmpty() ? QStringLiteral("en") : translator.language();
     QCOMPARE(languageOfNames, VXLocaleLanguages::languageId({language}));
 #else
-    QSKIP("the languages of names are those of another library");
+    QSKIP("another library decides the language of names");
 #endif
 }
 
@@ -382,7 +397,7 @@ void TranslationsTest::faultsAreTranslated()
         english.append(title(code));
 
     QTranslator translator;
-    QVERIFY(load(translator, language));
+    QVERIFY(load(translator, QLocale(language)));
     QVERIFY(QCoreApplication::installTranslator(&translator));
     for (qsizetype i = 0; i < english.size(); ++i) {
         QVERIFY2(!translations.value(english[i]).isEmpty(), qPrintable(english[i]));
@@ -395,12 +410,12 @@ void TranslationsTest::faultsAreTranslated()
     }
 }
 
-void TranslationsTest::otherTitlesAreTranslatableOnTheirOwn()
+void TranslationsTest::ownTitlesAndStatusMessagesAreTranslatedSeparately()
 {
     StatusMessageTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
     QCOMPARE(title(4), QStringLiteral("<The cover is open>"));
-    QCOMPARE(title(254), QStringLiteral("<The print spooler is not running>"));
+    QCOMPARE(title(StatusCodes::spoolerDown), QStringLiteral("<The print spooler is not running>"));
     QCOMPARE(title(4711), QStringLiteral("<Printer error 4711>"));
     for (const Title& own : titles)
         QCOMPARE(title(own.code), QString::fromLatin1(own.text));
@@ -411,11 +426,11 @@ int main(int argc, char* argv[])
     QCoreApplication application(argc, argv);
     if (argc > 1 && qstrcmp(argv[1], printReadyTitle) == 0) {
         QTranslator translator;
-        if (translator.load(QLocale(), QStringLiteral("vxprinterstatus"), QStringLiteral("_"),
-                            QStringLiteral(":/vxprinterstatus/translations")))
+        if (load(translator, QLocale()))
             QCoreApplication::installTranslator(&translator);
         PrinterStatusController controller;
-        return std::fputs(qUtf8Printable(controller.getStatusTitle(1)), stdout) < 0;
+        return std::fputs(qUtf8Printable(controller.getStatusTitle(StatusCodes::ready)), stdout) <
+               0;
     }
     TranslationsTest test;
     return QTest::qExec(&test, argc, argv);

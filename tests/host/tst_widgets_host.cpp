@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// The example with a window, on virtual printers. With VX_PICTURE=FILE in the environment it also
-// makes the guide's picture of it.
+// The example with a window, on virtual printers. With VX_PICTURE=FILE in the environment the test
+// also saves the picture of the window that the guide shows.
 #include "machine_test.h"
 #include "printer_window.h"
+#include "run_in_english.h"
 #include "sample_database.h"
 
 #include <QtWidgets/QPushButton>
@@ -20,19 +21,20 @@ private Q_SLOTS:
     void init() override;
 
     void showsPrintersAtTheStart();
-    void showsWhatIsLoaded();
-    void showsWhatChanges();
+    void showsLoadedSuppliesAndRibbons();
+    void showsChanges();
     void warnsOfErrors();
     void findsPrintersWhenAsked();
-    void lastsWithoutPrinters();
+    void showsAnEmptyTableWithoutPrinters();
 
 private:
     void addPrinters();
-    /// Waits until so many threads have read their printer, and shows what they reported.
-    void settle(int count)
+    /// True when `count` threads have read their printer; the window then shows what they reported.
+    [[nodiscard]] bool settle(int count)
     {
-        QVERIFY(machine().waitForWaitingThreads(count));
+        const bool areWaiting = machine().waitForWaitingThreads(count);
         QCoreApplication::processEvents();
+        return areWaiting;
     }
     static QStringList row(const PrinterWindow& window, int number)
     {
@@ -107,15 +109,15 @@ void WidgetsHostTest::showsPrintersAtTheStart()
                           {},
                           {},
                           {}}));
-    settle(2);
+    QVERIFY(settle(2));
 }
 
-void WidgetsHostTest::showsWhatIsLoaded()
+void WidgetsHostTest::showsLoadedSuppliesAndRibbons()
 {
     addPrinters();
     PrinterWindow window;
     window.show();
-    settle(2);
+    QVERIFY(settle(2));
     QCOMPARE(row(window, 1),
              (QStringList{QStringLiteral("Packing"), QStringLiteral("Ready"),
                           QStringLiteral("Vinyl Blue, 75 %"), QStringLiteral("Black, 74 %"),
@@ -133,22 +135,22 @@ void WidgetsHostTest::showsWhatIsLoaded()
 
     // An error, so that the picture shows one.
     machine().publish(QStringLiteral("Returns"), PrinterValue::text("StatusCode", "3"));
-    settle(2);
+    QVERIFY(settle(2));
     if (const QString picture = qEnvironmentVariable("VX_PICTURE"); !picture.isEmpty())
         QVERIFY(window.grab().save(picture));
 }
 
-void WidgetsHostTest::showsWhatChanges()
+void WidgetsHostTest::showsChanges()
 {
     addPrinters();
     const PrinterWindow window;
-    settle(2);
+    QVERIFY(settle(2));
     machine().publish(QStringLiteral("Packing"), PrinterValue::number("Ribbon1Identifier", 2006));
-    settle(2);
+    QVERIFY(settle(2));
     QCOMPARE(row(window, 1).at(3), QStringLiteral("Green, 74 %"));
     machine().publish(QStringLiteral("Packing"),
                       PrinterValue::text("SupplyIdentifier", "00000000000000000000"));
-    settle(2);
+    QVERIFY(settle(2));
     QCOMPARE(row(window, 1).at(2), QString());
 }
 
@@ -160,14 +162,14 @@ void WidgetsHostTest::warnsOfErrors()
     PrinterWindow window;
     window.show();
     const auto* warning = window.findChild<QLabel*>();
-    settle(1);
+    QVERIFY(settle(1));
     QVERIFY(!warning->isVisible());
     machine().publish(QStringLiteral("Packing"), PrinterValue::text("StatusCode", "4"));
-    settle(1);
+    QVERIFY(settle(1));
     QVERIFY(warning->isVisible());
     QCOMPARE(row(window, 0).at(1), QStringLiteral("The cover is open"));
     machine().publish(QStringLiteral("Packing"), PrinterValue::text("StatusCode", "1"));
-    settle(1);
+    QVERIFY(settle(1));
     QVERIFY(!warning->isVisible());
 }
 
@@ -178,11 +180,11 @@ void WidgetsHostTest::findsPrintersWhenAsked()
     addPrinters();
     window.findChild<QPushButton*>()->click();
     QCOMPARE(rows(window), 3);
-    settle(2);
+    QVERIFY(settle(2));
     QCOMPARE(row(window, 1).at(1), QStringLiteral("Ready"));
 }
 
-void WidgetsHostTest::lastsWithoutPrinters()
+void WidgetsHostTest::showsAnEmptyTableWithoutPrinters()
 {
     PrinterWindow window;
     window.show();
@@ -194,11 +196,6 @@ void WidgetsHostTest::lastsWithoutPrinters()
 
 int main(int argc, char* argv[])
 {
-    // Names come in the language of the system, which a test must not depend on.
-    qputenv("LC_ALL", "C.UTF-8");
-    qputenv("LANGUAGE", "en");
-    QApplication application(argc, argv);
-    WidgetsHostTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runInEnglish<QApplication, WidgetsHostTest>(argc, argv);
 }
 #include "tst_widgets_host.moc"

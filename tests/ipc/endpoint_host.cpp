@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// A host application that serves all three endpoints, for tests that call them from outside.
+// A host application that serves all three endpoints, for tests that call them from another
+// process.
 //
 //     endpoint_host [PRINTER]...
 //
-// prints the names that the supply database, the printer controller and the print queue are
-// published under, and serves them until its standard input ends. Each PRINTER has a supply
-// database of its own. The database is the file roll.db beside this program.
+// prints the names of the endpoints of the supply database, the printer controller and the print
+// queue, and serves them until its standard input ends. Each PRINTER has its own database object.
+// The database is the file roll.db beside this program.
 #include "ipc_host_main.h"
 
 #include <vx_ipc_m4_controller.h>

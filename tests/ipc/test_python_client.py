@@ -1,11 +1,11 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
-"""Asks the endpoints of a host application as any program without the library can: with the client
-that the documentation shows.
+"""Calls the endpoints of a host application without the library, with the client that the documentation
+shows.
 
 test_python_client.py HOST ROLLDB CATALOGUE DOCUMENT
 
-The host opens the database beside itself, so a copy of it lies in a folder of its own.
+The host opens the database beside itself, so the test copies the host into its own folder.
 """
 import csv
 import os

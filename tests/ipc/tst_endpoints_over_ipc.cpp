@@ -36,19 +36,19 @@ enum Service : int
     ServiceCount,
 };
 
-const QString Idle = QStringLiteral("Idle printer"); // nothing is ever reported of it
-const QString Loaded = QStringLiteral("Loaded CedarMax 4");
-const QString NeverAdded = QStringLiteral("AlderMax that was never added");
+const QString idlePrinter = QStringLiteral("Idle printer"); // no value of it is ever reported
+const QString loadedPrinter = QStringLiteral("Loaded CedarMax 4");
+const QString neverAddedPrinter = QStringLiteral("AlderMax that was never added");
 
-const QString ConnectionName = QStringLiteral("expected answers");
+const QString connectionName = QStringLiteral("expected answers");
 
 QString databasePath()
 {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/roll.db");
 }
 
-/// The method tables. A question mark is behind an argument that may be left out.
-const std::array<QStringList, ServiceCount> MethodTables{
+/// The method tables. A question mark follows an optional argument.
+const std::array<QStringList, ServiceCount> methodTables{
     QStringList{
         QStringLiteral("QStringList supplySKUList()"),
         QStringLiteral("QStringList supplyRibbonSKUList()"),
@@ -195,7 +195,7 @@ const std::array<QStringList, ServiceCount> MethodTables{
     },
 };
 
-/// What a method answers to the same arguments at any time.
+/// A method whose answer to the same arguments is always the same.
 struct FixedAnswer
 {
     Service service;
@@ -204,14 +204,15 @@ struct FixedAnswer
     QJsonValue answer;
 };
 
-/// What rows of the database say: the columns are the arguments of a call, and last its answer.
+/// Calls whose answers are in the database. The columns of a row are the arguments and, last, the
+/// answer.
 struct DatabaseAnswer
 {
     const char* method;
     QString sql;
 };
 
-const QJsonObject IdleRecord{
+const QJsonObject idleRecord{
     {QStringLiteral("supplyId"), QStringLiteral("")},
     {QStringLiteral("supplySku"), QStringLiteral("-1")},
     {QStringLiteral("ribbonSkus"), QJsonArray()},
@@ -251,7 +252,7 @@ const QJsonObject IdleRecord{
     {QStringLiteral("multiUpGapSize"), -1},
 };
 
-const QJsonObject UnknownJob{
+const QJsonObject unknownJob{
     {QStringLiteral("queuePosition"), 0},
     {QStringLiteral("guid"), QStringLiteral("")},
     {QStringLiteral("jobName"), QStringLiteral("")},
@@ -276,25 +277,25 @@ QList<FixedAnswer> fixedAnswers()
     const QJsonValue nothing = QJsonValue::Null;
     const QJsonArray text{QStringLiteral("text")};
     const QJsonArray unknown{QStringLiteral("NO-SUCH-SKU")};
-    const QJsonArray unknownOfIdle{QStringLiteral("NO-SUCH-SKU"), Idle};
+    const QJsonArray unknownOfIdle{QStringLiteral("NO-SUCH-SKU"), idlePrinter};
     const QJsonArray unknownPair{QStringLiteral("NO-SUCH-SKU"), 1, QStringLiteral("NO-SUCH-SKU")};
     // clang-format off
     return {
         {Supplies, "supplyId", {}, QStringLiteral("-1")},
         {Supplies, "supplySKUCached", {QStringLiteral("")}, QStringLiteral("-1")},
-        {Supplies, "supplySKUCached", {Idle}, QStringLiteral("-1")},
-        {Supplies, "supplyRibbonSKUsCached", {Idle}, QJsonArray()},
+        {Supplies, "supplySKUCached", {idlePrinter}, QStringLiteral("-1")},
+        {Supplies, "supplyRibbonSKUsCached", {idlePrinter}, QJsonArray()},
         {Supplies, "supplySupplyPercent", {}, 0},
         {Supplies, "supplyRibbon1Percent", {}, 0},
         {Supplies, "supplyRibbon2Percent", {}, 0},
-        {Supplies, "supplySupplyRGB", {Idle}, QStringLiteral("")},
-        {Supplies, "supplyRibbon1RGBs", {Idle}, QJsonArray()},
-        {Supplies, "supplyRibbon2RGBs", {Idle}, QJsonArray()},
+        {Supplies, "supplySupplyRGB", {idlePrinter}, QStringLiteral("")},
+        {Supplies, "supplyRibbon1RGBs", {idlePrinter}, QJsonArray()},
+        {Supplies, "supplyRibbon2RGBs", {idlePrinter}, QJsonArray()},
         {Supplies, "supplySupplyUID", {}, QStringLiteral("-1")},
         {Supplies, "supplyRibbon1UID", {}, QStringLiteral("-1")},
         {Supplies, "supplyRibbon2UID", {}, QStringLiteral("-1")},
-        {Supplies, "supplyInformation", {Idle}, IdleRecord},
-        {Supplies, "supplyInformationBySKUs", {QStringLiteral("-1"), QJsonArray(), Idle}, IdleRecord},
+        {Supplies, "supplyInformation", {idlePrinter}, idleRecord},
+        {Supplies, "supplyInformationBySKUs", {QStringLiteral("-1"), QJsonArray(), idlePrinter}, idleRecord},
         {Supplies, "supplyMaterialName", unknownOfIdle, QStringLiteral("")},
         {Supplies, "supplyFormatName", unknownOfIdle, QStringLiteral("")},
         {Supplies, "supplyColorRGB", unknownOfIdle, -1},
@@ -326,7 +327,7 @@ QList<FixedAnswer> fixedAnswers()
         {Printers, "isPrinterReady", {}, true},
         {Printers, "emitError", {7}, true},
         {Printers, "emitAlert", {-7}, true},
-        {Printers, "getPrinterStatus", {Idle}, 255},
+        {Printers, "getPrinterStatus", {idlePrinter}, 255},
         {Printers, "onStatusChanged", {3, QStringLiteral("printer of the table")}, nothing},
         {Printers, "resetCutter", {}, true},
         {Printers, "resetPrinter", {}, true},
@@ -410,7 +411,7 @@ QList<FixedAnswer> fixedAnswers()
         {PrintQueue, "addJob", {QStringLiteral("guid"), QStringLiteral("job"), QStringLiteral("application"), 2}, nothing},
         {PrintQueue, "addJob", {QStringLiteral("guid"), QStringLiteral("job"), QStringLiteral("application"), 2, 5}, nothing},
         {PrintQueue, "getJobList", {}, QJsonArray()},
-        {PrintQueue, "getJobInfo", {QStringLiteral("guid")}, UnknownJob},
+        {PrintQueue, "getJobInfo", {QStringLiteral("guid")}, unknownJob},
         {PrintQueue, "reprintPrintJob", {}, true},
         {PrintQueue, "retryPrintJob", {}, true},
         {PrintQueue, "clearPrintJob", {}, true},
@@ -419,7 +420,7 @@ QList<FixedAnswer> fixedAnswers()
     // clang-format on
 }
 
-/// An SQL expression for the name of what `alias` stands for, in the host's language.
+/// An SQL expression for the name of the entity `alias`, in the host's language.
 QString named(const QString& alias)
 {
     return QStringLiteral("coalesce((SELECT text FROM translation WHERE name_id = %1.name_id AND "
@@ -443,14 +444,14 @@ QString typeIndex(const QString& printer)
 
 QList<DatabaseAnswer> databaseAnswers()
 {
-    // Each supply, asked for by every kind of printer name.
+    // Each supply, with every kind of printer name.
     const QString supplies =
         QStringLiteral(
             " FROM supply s, (SELECT '' AS printer UNION SELECT '-' UNION SELECT '%1' UNION SELECT "
             u"'%2'"
             " UNION SELECT '%3') JOIN material m ON m.id = s.material_id"
             " JOIN format f ON f.id = s.format_id JOIN colour c ON c.id = s.colour_id")
-            .arg(Idle, Loaded, NeverAdded);
+            .arg(idlePrinter, loadedPrinter, neverAddedPrinter);
     const QString panels =
         QStringLiteral(" FROM ribbon_panel p JOIN colour c ON c.id = p.colour_id");
     const QString setting =
@@ -500,7 +501,7 @@ QList<DatabaseAnswer> databaseAnswers()
     };
 }
 
-/// The methods whose rows have their answer as the text of a JSON list or object.
+/// The methods whose answer is in the row as the text of a JSON list or object.
 bool answersJson(const QString& method)
 {
     return method.endsWith(QStringLiteral("List")) || method.endsWith(QStringLiteral("Hash"));
@@ -513,7 +514,7 @@ QJsonValue toJson(const QVariant& value)
     return QJsonValue::fromVariant(value);
 }
 
-/// As it is after it has crossed: a number has one form.
+/// A value as the client receives it: all numbers have one form.
 QJsonValue crossed(const QJsonValue& value)
 {
     return QJsonDocument::fromJson(QJsonDocument(QJsonArray{value}).toJson()).array().first();
@@ -524,7 +525,7 @@ QByteArray shown(const QJsonValue& value)
     return QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
 }
 
-/// `int sum(int left, int right?)` has the names `left` and `right`.
+/// The names of the arguments: `left` and `right` for `int sum(int left, int right?)`.
 QStringList argumentNames(const QString& signature)
 {
     QStringList names;
@@ -543,7 +544,7 @@ QString methodName(const QString& signature)
 /// The arguments as an object, for a call by name.
 QJsonObject byName(Service service, const QString& method, const QJsonArray& arguments)
 {
-    const QStringList& table = MethodTables.at(service);
+    const QStringList& table = methodTables.at(service);
     const auto signature = std::ranges::find_if(table, [&](const QString& each) {
         return methodName(each) == method && argumentNames(each).size() >= arguments.size();
     });
@@ -591,20 +592,20 @@ private Q_SLOTS:
 
     void describesItsMethods_data();
     void describesItsMethods();
-    void everyFormOfEveryMethodIsInATable();
-    void givesItsFixedAnswers_data();
-    void givesItsFixedAnswers();
-    void answersWhatTheDatabaseHas_data();
-    void answersWhatTheDatabaseHas();
-    void readsBackTheLoadedSupply();
-    void readsBackTheLoadedRibbons();
-    void gathersWhatIsLoaded();
-    void gathersWhatIsAskedFor_data();
-    void gathersWhatIsAskedFor();
-    void sharesOneDatabaseAmongPrintersNeverAdded();
-    void keepsTheStatusOfPrinters();
-    void keepsAsManyStatusesForOthersAsThereMayBe();
-    void keepsNoJob();
+    void tablesCoverEveryFormOfEveryMethod();
+    void fixedAnswersAreGiven_data();
+    void fixedAnswersAreGiven();
+    void answersMatchTheDatabase_data();
+    void answersMatchTheDatabase();
+    void loadedSupplyIsReadBack();
+    void loadedRibbonsAreReadBack();
+    void recordOfTheLoadedSupplyMatchesTheDatabase();
+    void recordOfAnySupplyMatchesTheDatabase_data();
+    void recordOfAnySupplyMatchesTheDatabase();
+    void printersNeverAddedShareOneDatabase();
+    void statusesOfPrintersAreStored();
+    void statusesStoredForOtherProcessesAreLimited();
+    void storesNoJob();
 
 private:
     QJsonValue call(Service service, const QString& method, const QJsonValue& arguments);
@@ -612,7 +613,7 @@ private:
     {
         return call(Supplies, method, arguments);
     }
-    /// The rows that SQL gives; a failed test and no rows when it cannot be run.
+    /// The rows that an SQL query returns; ends the test program when the query fails.
     QList<QSqlRecord> rows(const QString& sql);
     QJsonArray column(const QString& sql);
     QJsonObject expectedRecord(const QString& supplySku, const QStringList& ribbonSkus,
@@ -626,13 +627,14 @@ private:
 void EndpointsOverIpcTest::initTestCase()
 {
     writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), databasePath());
-    m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), ConnectionName);
+    m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connectionName);
     m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
     m_database.setDatabaseName(databasePath());
     QVERIFY(m_database.open());
 
-    m_host = std::make_unique<HostProcess>(QStringLiteral("endpoint_host"),
-                                           QStringList{Idle, Loaded}, int(ServiceCount));
+    m_host =
+        std::make_unique<HostProcess>(QStringLiteral("endpoint_host"),
+                                      QStringList{idlePrinter, loadedPrinter}, int(ServiceCount));
     QVERIFY(m_host->processId() != QCoreApplication::applicationPid());
     for (int service = 0; service < ServiceCount; ++service) {
         const QString name = m_host->serverName(service);
@@ -647,7 +649,7 @@ void EndpointsOverIpcTest::cleanupTestCase()
         client.reset();
     m_host.reset();
     m_database = QSqlDatabase();
-    QSqlDatabase::removeDatabase(ConnectionName);
+    QSqlDatabase::removeDatabase(connectionName);
     QVERIFY(QFile::remove(databasePath()));
 }
 
@@ -663,11 +665,8 @@ QJsonValue EndpointsOverIpcTest::call(Service service, const QString& method,
 QList<QSqlRecord> EndpointsOverIpcTest::rows(const QString& sql)
 {
     QSqlQuery query(m_database);
-    if (!query.exec(sql)) {
-        QTest::qFail(qPrintable(sql + QStringLiteral(": ") + query.lastError().text()), __FILE__,
-                     __LINE__);
-        return {};
-    }
+    if (!query.exec(sql))
+        qFatal("%s: %s", qPrintable(sql), qPrintable(query.lastError().text()));
     QList<QSqlRecord> records;
     while (query.next())
         records.append(query.record());
@@ -696,14 +695,14 @@ void EndpointsOverIpcTest::describesItsMethods()
     const QJsonObject document =
         call(static_cast<Service>(service), QStringLiteral("rpc.discover"), QJsonArray())
             .toObject();
-    QCOMPARE(described(document), MethodTables.at(static_cast<size_t>(service)));
+    QCOMPARE(described(document), methodTables.at(static_cast<size_t>(service)));
     QCOMPARE(document[QStringLiteral("info")][QStringLiteral("x-process")].toInteger(),
              m_host->processId());
     QCOMPARE(document[QStringLiteral("info")][QStringLiteral("x-application")].toString(),
              QStringLiteral("endpoint_host"));
 }
 
-void EndpointsOverIpcTest::everyFormOfEveryMethodIsInATable()
+void EndpointsOverIpcTest::tablesCoverEveryFormOfEveryMethod()
 {
     const auto form = [](int service, const QString& method, qsizetype arguments) {
         return QStringLiteral("%1 %2/%3").arg(service).arg(method).arg(arguments);
@@ -719,7 +718,7 @@ void EndpointsOverIpcTest::everyFormOfEveryMethodIsInATable()
     }
     QSet<QString> all;
     for (size_t service = 0; service < ServiceCount; ++service) {
-        for (const QString& signature : MethodTables.at(service)) {
+        for (const QString& signature : methodTables.at(service)) {
             const qsizetype most = argumentNames(signature).size();
             for (qsizetype i = most - signature.count(u'?'); i <= most; ++i)
                 all.insert(form(static_cast<int>(service), methodName(signature), i));
@@ -728,7 +727,7 @@ void EndpointsOverIpcTest::everyFormOfEveryMethodIsInATable()
     QCOMPARE(called, all);
 }
 
-void EndpointsOverIpcTest::givesItsFixedAnswers_data()
+void EndpointsOverIpcTest::fixedAnswersAreGiven_data()
 {
     QTest::addColumn<int>("service");
     QTest::addColumn<QString>("method");
@@ -741,7 +740,7 @@ void EndpointsOverIpcTest::givesItsFixedAnswers_data()
     }
 }
 
-void EndpointsOverIpcTest::givesItsFixedAnswers()
+void EndpointsOverIpcTest::fixedAnswersAreGiven()
 {
     QFETCH(int, service);
     QFETCH(QString, method);
@@ -752,7 +751,7 @@ void EndpointsOverIpcTest::givesItsFixedAnswers()
     QCOMPARE(call(of, method, byName(of, method, arguments)), crossed(answer));
 }
 
-void EndpointsOverIpcTest::answersWhatTheDatabaseHas_data()
+void EndpointsOverIpcTest::answersMatchTheDatabase_data()
 {
     QTest::addColumn<QString>("method");
     QTest::addColumn<QString>("sql");
@@ -762,7 +761,7 @@ void EndpointsOverIpcTest::answersWhatTheDatabaseHas_data()
     }
 }
 
-void EndpointsOverIpcTest::answersWhatTheDatabaseHas()
+void EndpointsOverIpcTest::answersMatchTheDatabase()
 {
     QFETCH(QString, method);
     QFETCH(QString, sql);
@@ -786,7 +785,7 @@ void EndpointsOverIpcTest::answersWhatTheDatabaseHas()
     QCOMPARE(call(Supplies, method, byName(Supplies, method, arguments)), crossed(expected));
 }
 
-void EndpointsOverIpcTest::readsBackTheLoadedSupply()
+void EndpointsOverIpcTest::loadedSupplyIsReadBack()
 {
     const QList<QSqlRecord> kinds = rows(
         QStringLiteral("SELECT printf('%08X%06d%06X', 500, k.kind, 167), k.supply_sku, c.rgb || ''"
@@ -794,21 +793,23 @@ void EndpointsOverIpcTest::readsBackTheLoadedSupply()
                        " JOIN colour c ON c.id = s.colour_id"));
     QVERIFY(kinds.size() >= 40);
     for (const QSqlRecord& kind : kinds) {
-        QVERIFY(ask(QStringLiteral("setSupplyId"), {kind.value(0).toString(), Loaded}).isNull());
-        QCOMPARE(ask(QStringLiteral("supplySKUCached"), {Loaded}), toJson(kind.value(1)));
-        QCOMPARE(ask(QStringLiteral("supplySupplyRGB"), {Loaded}), toJson(kind.value(2)));
+        QVERIFY(
+            ask(QStringLiteral("setSupplyId"), {kind.value(0).toString(), loadedPrinter}).isNull());
+        QCOMPARE(ask(QStringLiteral("supplySKUCached"), {loadedPrinter}), toJson(kind.value(1)));
+        QCOMPARE(ask(QStringLiteral("supplySupplyRGB"), {loadedPrinter}), toJson(kind.value(2)));
     }
     for (const auto& [id, sku] : {std::pair(QStringLiteral("-1"), QStringLiteral("-1")),
                                   std::pair(QStringLiteral(""), QStringLiteral("-1")),
                                   std::pair(QStringLiteral("odd"), QStringLiteral(""))}) {
-        QVERIFY(ask(QStringLiteral("setSupplyId"), {id, Loaded}).isNull());
-        QCOMPARE(ask(QStringLiteral("supplySKUCached"), {Loaded}).toString(), sku);
-        QCOMPARE(ask(QStringLiteral("supplySupplyRGB"), {Loaded}).toString(), QString());
+        QVERIFY(ask(QStringLiteral("setSupplyId"), {id, loadedPrinter}).isNull());
+        QCOMPARE(ask(QStringLiteral("supplySKUCached"), {loadedPrinter}).toString(), sku);
+        QCOMPARE(ask(QStringLiteral("supplySupplyRGB"), {loadedPrinter}).toString(), QString());
     }
-    QCOMPARE(ask(QStringLiteral("supplySKUCached"), {Idle}).toString(), QStringLiteral("-1"));
+    QCOMPARE(ask(QStringLiteral("supplySKUCached"), {idlePrinter}).toString(),
+             QStringLiteral("-1"));
 }
 
-void EndpointsOverIpcTest::readsBackTheLoadedRibbons()
+void EndpointsOverIpcTest::loadedRibbonsAreReadBack()
 {
     const QList<QSqlRecord> numbers =
         rows(QStringLiteral("SELECT number || '', ribbon_sku FROM ribbon_number ORDER BY number"));
@@ -820,21 +821,21 @@ void EndpointsOverIpcTest::readsBackTheLoadedRibbons()
         const QSqlRecord& first = numbers.at(i);
         const QSqlRecord& second = numbers.at(i - 1);
         const QJsonArray ids{toJson(first.value(0)), toJson(second.value(0))};
-        QVERIFY(ask(QStringLiteral("setRibbonIds"), {ids, Loaded}).isNull());
-        QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {Loaded}).toArray(),
+        QVERIFY(ask(QStringLiteral("setRibbonIds"), {ids, loadedPrinter}).isNull());
+        QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {loadedPrinter}).toArray(),
                  (QJsonArray{toJson(first.value(1)), toJson(second.value(1))}));
-        QCOMPARE(ask(QStringLiteral("supplyRibbon1RGBs"), {Loaded}).toArray(),
+        QCOMPARE(ask(QStringLiteral("supplyRibbon1RGBs"), {loadedPrinter}).toArray(),
                  column(rgbs.arg(first.value(1).toString())));
-        QCOMPARE(ask(QStringLiteral("supplyRibbon2RGBs"), {Loaded}).toArray(),
+        QCOMPARE(ask(QStringLiteral("supplyRibbon2RGBs"), {loadedPrinter}).toArray(),
                  column(rgbs.arg(second.value(1).toString())));
     }
     const QJsonArray odd{QStringLiteral("-1"), QStringLiteral("4294967295"), QStringLiteral("0"),
                          QStringLiteral(""), QStringLiteral("odd")};
-    QVERIFY(ask(QStringLiteral("setRibbonIds"), {odd, Loaded}).isNull());
-    QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {Loaded}).toArray(),
+    QVERIFY(ask(QStringLiteral("setRibbonIds"), {odd, loadedPrinter}).isNull());
+    QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {loadedPrinter}).toArray(),
              (QJsonArray{QStringLiteral("-1"), QStringLiteral("-1"), QStringLiteral("-1"),
                          QStringLiteral("-1"), QStringLiteral("")}));
-    QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {Idle}).toArray(), QJsonArray());
+    QCOMPARE(ask(QStringLiteral("supplyRibbonSKUsCached"), {idlePrinter}).toArray(), QJsonArray());
 }
 
 QJsonObject EndpointsOverIpcTest::expectedRecord(const QString& supplySku,
@@ -866,7 +867,7 @@ QJsonObject EndpointsOverIpcTest::expectedRecord(const QString& supplySku,
             " WHERE s.sku = '%1'")
             .arg(supplySku));
 
-    QJsonObject record = IdleRecord;
+    QJsonObject record = idleRecord;
     const auto set = [&record](const QString& member, const QVariant& value) {
         // Sizes are single-precision in the record.
         record.insert(member, value.typeId() == QMetaType::Double
@@ -913,9 +914,9 @@ QJsonObject EndpointsOverIpcTest::expectedRecord(const QString& supplySku,
     return crossed(record).toObject();
 }
 
-void EndpointsOverIpcTest::gathersWhatIsLoaded()
+void EndpointsOverIpcTest::recordOfTheLoadedSupplyMatchesTheDatabase()
 {
-    // Each supply with two ribbons that have a setting for it.
+    // Each supply, with two ribbons that have a print setting for it.
     const QList<QSqlRecord> loads =
         rows(QStringLiteral("WITH load AS (SELECT k.kind, k.supply_sku, min(n.number) AS least,"
                             " max(n.number) AS most FROM supply_kind k"
@@ -928,20 +929,20 @@ void EndpointsOverIpcTest::gathersWhatIsLoaded()
     QVERIFY(loads.size() >= 20);
     for (const QSqlRecord& load : loads) {
         const QString id = load.value(0).toString();
-        QVERIFY(ask(QStringLiteral("setSupplyId"), {id, Loaded}).isNull());
+        QVERIFY(ask(QStringLiteral("setSupplyId"), {id, loadedPrinter}).isNull());
         QVERIFY(ask(QStringLiteral("setRibbonIds"),
-                    {QJsonArray{toJson(load.value(2)), toJson(load.value(4))}, Loaded})
+                    {QJsonArray{toJson(load.value(2)), toJson(load.value(4))}, loadedPrinter})
                     .isNull());
         const QJsonObject expected =
             expectedRecord(load.value(1).toString(),
-                           {load.value(3).toString(), load.value(5).toString()}, Loaded, id);
+                           {load.value(3).toString(), load.value(5).toString()}, loadedPrinter, id);
         QVERIFY(expected[QStringLiteral("ribbonHeats")][0].toInt() >= 0);
         QCOMPARE(expected.size(), 37);
-        QCOMPARE(ask(QStringLiteral("supplyInformation"), {Loaded}).toObject(), expected);
+        QCOMPARE(ask(QStringLiteral("supplyInformation"), {loadedPrinter}).toObject(), expected);
     }
 }
 
-void EndpointsOverIpcTest::gathersWhatIsAskedFor_data()
+void EndpointsOverIpcTest::recordOfAnySupplyMatchesTheDatabase_data()
 {
     QTest::addColumn<int>("ribbons");
     QTest::newRow("no ribbon") << 0;
@@ -950,7 +951,7 @@ void EndpointsOverIpcTest::gathersWhatIsAskedFor_data()
     QTest::newRow("three ribbons") << 3;
 }
 
-void EndpointsOverIpcTest::gathersWhatIsAskedFor()
+void EndpointsOverIpcTest::recordOfAnySupplyMatchesTheDatabase()
 {
     QFETCH(int, ribbons);
     QStringList ribbonSkus;
@@ -960,52 +961,55 @@ void EndpointsOverIpcTest::gathersWhatIsAskedFor()
     QCOMPARE(ribbonSkus.size(), ribbons);
     for (const QSqlRecord& supply : rows(QStringLiteral("SELECT sku FROM supply"))) {
         const QString sku = supply.value(0).toString();
-        const QJsonArray arguments{sku, QJsonArray::fromStringList(ribbonSkus), Idle};
-        const QJsonObject expected = expectedRecord(sku, ribbonSkus, Idle, {});
+        const QJsonArray arguments{sku, QJsonArray::fromStringList(ribbonSkus), idlePrinter};
+        const QJsonObject expected = expectedRecord(sku, ribbonSkus, idlePrinter, {});
         QCOMPARE(ask(QStringLiteral("supplyInformationBySKUs"), arguments).toObject(), expected);
     }
 }
 
-void EndpointsOverIpcTest::sharesOneDatabaseAmongPrintersNeverAdded()
+void EndpointsOverIpcTest::printersNeverAddedShareOneDatabase()
 {
     const QSqlRecord kind = rows(QStringLiteral("SELECT printf('%08X%06d%06X', 500, kind, 167), "
                                                 "supply_sku FROM supply_kind LIMIT 1"))
                                 .at(0);
     const QString id = kind.value(0).toString();
     const QString sku = kind.value(1).toString();
-    QVERIFY(ask(QStringLiteral("setSupplyId"), {id, NeverAdded}).isNull());
+    QVERIFY(ask(QStringLiteral("setSupplyId"), {id, neverAddedPrinter}).isNull());
     QCOMPARE(
         ask(QStringLiteral("supplySKUCached"), {QStringLiteral("Another never added")}).toString(),
         sku);
     QCOMPARE(ask(QStringLiteral("supplySKUCached"), {QStringLiteral("-")}).toString(), sku);
     QCOMPARE(ask(QStringLiteral("supplySKUCached"), {QStringLiteral("")}).toString(),
              QStringLiteral("-1"));
-    QCOMPARE(ask(QStringLiteral("supplySKUCached"), {Idle}).toString(), QStringLiteral("-1"));
+    QCOMPARE(ask(QStringLiteral("supplySKUCached"), {idlePrinter}).toString(),
+             QStringLiteral("-1"));
     QCOMPARE(ask(QStringLiteral("supplyInformation"), {QStringLiteral("")}),
              ask(QStringLiteral("supplyInformation"), {QStringLiteral("-")}));
-    QCOMPARE(ask(QStringLiteral("supplyInformation"), {NeverAdded}).toObject(),
-             expectedRecord(sku, {}, NeverAdded, id));
+    QCOMPARE(ask(QStringLiteral("supplyInformation"), {neverAddedPrinter}).toObject(),
+             expectedRecord(sku, {}, neverAddedPrinter, id));
 }
 
-void EndpointsOverIpcTest::keepsTheStatusOfPrinters()
+void EndpointsOverIpcTest::statusesOfPrintersAreStored()
 {
     const auto status = [this](const QString& printer) {
         return call(Printers, QStringLiteral("getPrinterStatus"), QJsonArray{printer}).toInt();
     };
-    QCOMPARE(status(Loaded), 255);
-    QVERIFY(call(Printers, QStringLiteral("onStatusChanged"), QJsonArray{7, Loaded}).isNull());
-    QCOMPARE(status(Loaded), 7);
-    QCOMPARE(status(Loaded.toUpper()), 255);
-    QVERIFY(call(Printers, QStringLiteral("onStatusChanged"), QJsonArray{-1, Loaded}).isNull());
-    QCOMPARE(status(Loaded), -1);
+    QCOMPARE(status(loadedPrinter), 255);
+    QVERIFY(
+        call(Printers, QStringLiteral("onStatusChanged"), QJsonArray{7, loadedPrinter}).isNull());
+    QCOMPARE(status(loadedPrinter), 7);
+    QCOMPARE(status(loadedPrinter.toUpper()), 255);
+    QVERIFY(
+        call(Printers, QStringLiteral("onStatusChanged"), QJsonArray{-1, loadedPrinter}).isNull());
+    QCOMPARE(status(loadedPrinter), -1);
     QVERIFY(call(Printers, QStringLiteral("onStatusChanged"), QJsonArray{3, QStringLiteral("")})
                 .isNull());
     QCOMPARE(status({}), 3);
 }
 
-void EndpointsOverIpcTest::keepsAsManyStatusesForOthersAsThereMayBe()
+void EndpointsOverIpcTest::statusesStoredForOtherProcessesAreLimited()
 {
-    // A host of its own, as the names stay.
+    // This test has its own host, because the names are stored until the host ends.
     HostProcess host(QStringLiteral("endpoint_host"), {}, int(ServiceCount));
     VXIPCClient client(host.serverName(Printers));
     const auto report = [&](int status, const QString& printer) {
@@ -1038,7 +1042,7 @@ void EndpointsOverIpcTest::keepsAsManyStatusesForOthersAsThereMayBe()
              QStringLiteral("-32003 Refused: 4096 printers were reported by other processes, and "
                             "no more are kept"));
     QCOMPARE(status(QStringLiteral("one more")), 255);
-    // Those that are kept still change.
+    // Statuses that are stored already can still change.
     QCOMPARE(status(QStringLiteral("printer 4095")), 4095);
     QCOMPARE(report(7, QStringLiteral("printer 4095")), QString());
     QCOMPARE(status(QStringLiteral("printer 4095")), 7);
@@ -1046,7 +1050,7 @@ void EndpointsOverIpcTest::keepsAsManyStatusesForOthersAsThereMayBe()
     QCOMPARE(status(longestName), 8);
 }
 
-void EndpointsOverIpcTest::keepsNoJob()
+void EndpointsOverIpcTest::storesNoJob()
 {
     QVERIFY(call(PrintQueue, QStringLiteral("addJob"),
                  QJsonArray{QStringLiteral("{1}"), QStringLiteral("labels"),
@@ -1055,12 +1059,12 @@ void EndpointsOverIpcTest::keepsNoJob()
     QCOMPARE(call(PrintQueue, QStringLiteral("getJobList"), QJsonArray()).toArray(), QJsonArray());
     QCOMPARE(call(PrintQueue, QStringLiteral("getJobInfo"), QJsonArray{QStringLiteral("{1}")})
                  .toObject(),
-             UnknownJob);
+             unknownJob);
 }
 
 int main(int argc, char* argv[])
 {
-    // Names in another language than the one they fall back to, where the system can be told so.
+    // Names in another language than English, which is the fallback, where the system has it.
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("LANGUAGE", "de");
     QCoreApplication application(argc, argv);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// The printer controller and the print queue as a host has them in its own process.
+// The printer-controller and print-queue services, called in their own process.
 #include "vx_ipc_m4_controller.h"
 #include "vx_ipc_printqd_controller.h"
 
@@ -13,19 +13,19 @@ class PlaceholderEndpointsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void knowsNoStatusThatWasNotReported();
-    void keepsTheLastStatusOfEachName();
-    void keepsStatusesApart();
-    void keepsWhateverItsOwnProcessReports();
+    void statusThatWasNeverReportedIsUnknown();
+    void storesTheLastStatusOfEachName();
+    void endpointsStoreStatusesSeparately();
+    void ownProcessMayReportAnyNameAndStatus();
     void answersAMessageWithAndWithoutItsValue();
-    void keepsNoJob();
+    void storesNoJob();
 
     void registersTheJobRecord();
-    void aJobRecordBeginsEmpty();
+    void jobRecordIsEmptyByDefault();
     void aJobRecordHasItsTextsInRuns();
 };
 
-void PlaceholderEndpointsTest::knowsNoStatusThatWasNotReported()
+void PlaceholderEndpointsTest::statusThatWasNeverReportedIsUnknown()
 {
     VXIPCM4Controller printers;
     QCOMPARE(printers.parent(), nullptr);
@@ -37,7 +37,7 @@ void PlaceholderEndpointsTest::knowsNoStatusThatWasNotReported()
     QCOMPARE(printers.getPrinterStatus(QString()), 255);
 }
 
-void PlaceholderEndpointsTest::keepsTheLastStatusOfEachName()
+void PlaceholderEndpointsTest::storesTheLastStatusOfEachName()
 {
     VXIPCM4Controller printers;
     for (const int status : {7, -1, 0, 255, 258}) {
@@ -49,7 +49,7 @@ void PlaceholderEndpointsTest::keepsTheLastStatusOfEachName()
     QCOMPARE(printers.getPrinterStatus(QStringLiteral("CedarMax")), 258);
 }
 
-void PlaceholderEndpointsTest::keepsStatusesApart()
+void PlaceholderEndpointsTest::endpointsStoreStatusesSeparately()
 {
     VXIPCM4Controller first;
     VXIPCM4Controller second;
@@ -57,9 +57,9 @@ void PlaceholderEndpointsTest::keepsStatusesApart()
     QCOMPARE(second.getPrinterStatus(QStringLiteral("CedarMax")), 255);
 }
 
-void PlaceholderEndpointsTest::keepsWhateverItsOwnProcessReports()
+void PlaceholderEndpointsTest::ownProcessMayReportAnyNameAndStatus()
 {
-    // More names, and longer ones, than other processes may leave.
+    // More names, and longer ones, than other processes may store.
     VXIPCM4Controller printers;
     constexpr int nameCount = 5000;
     for (int i = 0; i < nameCount; ++i)
@@ -82,7 +82,7 @@ void PlaceholderEndpointsTest::answersAMessageWithAndWithoutItsValue()
         QVERIFY2(printers.metaObject()->indexOfSlot(signature) >= 0, signature);
 }
 
-void PlaceholderEndpointsTest::keepsNoJob()
+void PlaceholderEndpointsTest::storesNoJob()
 {
     VXIPCPRINTQDController queue;
     const QString id = QStringLiteral("{1}");
@@ -104,7 +104,7 @@ void PlaceholderEndpointsTest::registersTheJobRecord()
     QVERIFY(!type.isEqualityComparable());
 }
 
-void PlaceholderEndpointsTest::aJobRecordBeginsEmpty()
+void PlaceholderEndpointsTest::jobRecordIsEmptyByDefault()
 {
     VXIPCPRINTQDController queue;
     const PrintJobMetaData record = queue.getJobInfo(QStringLiteral("{1}"));

@@ -19,7 +19,8 @@ public:
         : HostProcess(QStringLiteral("ipc_test_host"), {QString::number(serverType)}, 1)
     {}
 
-    /// A program beside this one. Starts it and waits until it has published so many services.
+    /// A program in the folder of this one. Starts it and waits until it has published that many
+    /// services.
     HostProcess(const QString& program, const QStringList& arguments, int services)
     {
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -44,7 +45,7 @@ public:
     QString serverName(int service = 0) const { return m_names.at(service); }
     qint64 processId() const { return m_process.processId(); }
 
-    /// Ends it in the middle of whatever it is doing.
+    /// Ends the process in the middle of its work.
     void kill()
     {
         m_process.kill();

@@ -20,7 +20,18 @@ inline int newServerType()
     return static_cast<int>(QCoreApplication::applicationPid() % 2'000'000) * 1000 + ++count;
 }
 
-/// A client without manners: it sends and receives bytes.
+/// The name under which a service is published, and the one with the process id that it takes when
+/// the first is in use.
+inline QString nameOf(int serverType)
+{
+    return QStringLiteral("vxipc-%1").arg(serverType);
+}
+inline QString ownNameOf(int serverType)
+{
+    return QStringLiteral("vxipc-%1-%2").arg(serverType).arg(QCoreApplication::applicationPid());
+}
+
+/// A client that sends and receives bytes as they are.
 class RawClient
 {
 public:
@@ -56,7 +67,7 @@ public:
         return receive();
     }
 
-    /// Calls with parameters written as JSON, and answers the whole answer.
+    /// Calls a method with parameters written as JSON, and returns the whole answer.
     QJsonObject call(const QByteArray& method, const QByteArray& parameters = "[]")
     {
         return QJsonDocument::fromJson(exchange(R"({"jsonrpc":"2.0","id":1,"method":")" + method +

@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "ipc_test_record.h"
 #include "vxipcserver.h"
 
 #include <QtCore/QByteArray>
@@ -13,29 +14,6 @@
 
 #include <algorithm>
 #include <limits>
-
-/// A record with a member of each kind.
-class TestRecord
-{
-    Q_GADGET
-    Q_PROPERTY(QString name MEMBER name)
-    Q_PROPERTY(int count MEMBER count)
-    Q_PROPERTY(float width MEMBER width)
-    Q_PROPERTY(bool isLoaded MEMBER isLoaded)
-    Q_PROPERTY(QByteArray image MEMBER image)
-    Q_PROPERTY(QStringList panels MEMBER panels)
-    Q_PROPERTY(QVariantList heats MEMBER heats)
-
-public:
-    QString name;
-    int count = -1;
-    float width = -1.0F;
-    bool isLoaded = false;
-    QByteArray image;
-    QStringList panels;
-    QVariantList heats;
-};
-Q_DECLARE_METATYPE(TestRecord)
 
 /// The interface of a service, as an endpoint derives from it.
 class TestInterface : public VXIPCServer
@@ -50,7 +28,7 @@ public Q_SLOTS:
     virtual int scale(int value, int factor = 10) = 0;
 };
 
-/// An endpoint with a slot for everything that can cross, and some that must not be reachable.
+/// An endpoint with a slot for every supported type, and some that must not be callable.
 class TestService : public TestInterface
 {
     Q_OBJECT
@@ -106,11 +84,11 @@ public Q_SLOTS:
     void note(QString entry) { log.append(entry); }
     QStringList notes() { return log; }
 
-    /// Other processes may call it twice.
+    /// Other processes may call this twice.
     void keep(QString entry) { kept.append(entry); }
 
     QByteArray zeroes(int count) { return {count, '\0'}; }
-    /// Takes calls while it is being called, until `release` is.
+    /// Runs an event loop, in which other calls are handled, until `release` is called.
     QString wait()
     {
         QEventLoop loop;
@@ -122,7 +100,7 @@ public Q_SLOTS:
     }
     bool isWaiting() { return m_isWaiting; }
     void release() { Q_EMIT released(); }
-    /// Keeps the thread for a while, as a slot that computes does.
+    /// Blocks the thread for a while, as a slot that computes does.
     void block(int milliseconds);
     void destroy() { delete this; }
     void quit();

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
-"""Gives a test that imports setUpModule a folder of its own for its endpoints."""
+"""Gives each test that imports setUpModule its own folder for endpoints."""
 import os
 import tempfile
 import unittest

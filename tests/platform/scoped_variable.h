@@ -6,7 +6,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QString>
 
-/// Gives a variable of the environment another value for a while.
+/// Sets an environment variable, and restores its previous value at the end of the scope.
 class ScopedVariable
 {
 public:

@@ -9,8 +9,7 @@
 #include <QtCore/QHash>
 #include <QtCore/QString>
 
-/// A catalogue that can be taken in at one look, as the files it is read from. A test changes what
-/// it is about.
+/// The files of a catalogue that is small enough to know by heart. Tests change parts of it.
 struct SmallCatalogue
 {
     QHash<QString, QByteArray> files{
@@ -63,7 +62,7 @@ struct SmallCatalogue
     }
     void write(const QString& path) const { writeDatabase(read(), path); }
 
-    /// Puts a text in the place of one that is there.
+    /// Replaces a text that the file contains.
     void replace(const char* file, const QByteArray& before, const QByteArray& after)
     {
         QByteArray& text = files[QString::fromLatin1(file)];

@@ -23,7 +23,7 @@ def documented_client():
     with open(DOCUMENT, encoding="utf-8") as document:
         code = re.search(r"```python\n(.*?)```", document.read(), re.DOTALL).group(1)
     lines = [line for line in code.splitlines() if line]
-    assert len(lines) <= 20, "the document promises twenty lines"
+    assert len(lines) <= 20, "the document announces twenty lines"
     names = {}
     exec(compile(code, DOCUMENT, "exec"), names)
     return names["endpoint"], names["call"]
@@ -87,7 +87,7 @@ class PythonClient(unittest.TestCase):
         self.assertEqual(json.loads(self.stream.readline())["error"]["code"], -32700)
         self.assertEqual(self.call("scale", 1)["result"], 10)
 
-    def test_refuses_what_others_may_have_put_there(self):
+    def test_refuses_what_may_belong_to_others(self):
         folder = os.environ["XDG_RUNTIME_DIR"]
         for path, mode, restored in [
                 (folder, 0o703, 0o700), (folder, 0o730, 0o700),

@@ -97,7 +97,7 @@ class Tool(unittest.TestCase):
         self.check_complaint(["call", nobody, "echo", "a"], 1, "no endpoint answers")
         self.check_complaint(["describe", nobody], 1, "no endpoint answers")
 
-    def test_believes_no_folder_that_others_write_to(self):
+    def test_trusts_no_folder_that_others_may_write_to(self):
         folder = os.environ["XDG_RUNTIME_DIR"]
         os.chmod(folder, 0o703)
         self.addCleanup(os.chmod, folder, 0o700)

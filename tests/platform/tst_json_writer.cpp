@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "json_writer.h"
 
+#include <QtCore/QByteArrayList>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
@@ -11,15 +12,26 @@
 
 namespace {
 
-/// What a reader makes of the JSON; undefined when it is none.
+/// What a reader makes of the JSON; undefined when it is not valid.
 QJsonValue read(const JsonWriter& json)
 {
     return QJsonDocument::fromJson('[' + json.json() + ']').array().at(0);
 }
 
+/// The JSON of a number, written as a number and as a value.
+template <typename Number>
+QByteArrayList written(Number number)
+{
+    JsonWriter writer;
+    writer.number(number);
+    JsonWriter value;
+    value.value(number);
+    return {writer.json(), value.json()};
+}
+
 } // namespace
 
-class tst_JsonWriter : public QObject
+class JsonWriterTest : public QObject
 {
     Q_OBJECT
 
@@ -32,10 +44,10 @@ private Q_SLOTS:
     void writesNumbers();
     void writesValues_data();
     void writesValues();
-    void putsPiecesTogether();
+    void writesManyPieces();
 };
 
-void tst_JsonWriter::writesTexts_data()
+void JsonWriterTest::writesTexts_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QByteArray>("json");
@@ -60,7 +72,7 @@ void tst_JsonWriter::writesTexts_data()
         '"' + QByteArray("\xe2\x82\xac").repeated(100'000) + '"');
 }
 
-void tst_JsonWriter::writesTexts()
+void JsonWriterTest::writesTexts()
 {
     QFETCH(const QString, text);
     QFETCH(const QByteArray, json);
@@ -71,7 +83,7 @@ void tst_JsonWriter::writesTexts()
     QCOMPARE(writer.size(), json.size());
 }
 
-void tst_JsonWriter::writesWholeNumbers_data()
+void JsonWriterTest::writesWholeNumbers_data()
 {
     QTest::addColumn<qint64>("number");
     QTest::addColumn<QByteArray>("json");
@@ -84,20 +96,15 @@ void tst_JsonWriter::writesWholeNumbers_data()
                               << QByteArray("9223372036854775807");
 }
 
-void tst_JsonWriter::writesWholeNumbers()
+void JsonWriterTest::writesWholeNumbers()
 {
     QFETCH(const qint64, number);
     QFETCH(const QByteArray, json);
 
-    JsonWriter writer;
-    writer.number(number);
-    QCOMPARE(writer.json(), json);
-    JsonWriter value;
-    value.value(number);
-    QCOMPARE(value.json(), json);
+    QCOMPARE(written(number), (QByteArrayList{json, json}));
 }
 
-void tst_JsonWriter::writesNumbers_data()
+void JsonWriterTest::writesNumbers_data()
 {
     QTest::addColumn<double>("number");
     QTest::addColumn<QByteArray>("json");
@@ -112,20 +119,15 @@ void tst_JsonWriter::writesNumbers_data()
     QTest::newRow("none") << std::numeric_limits<double>::quiet_NaN() << QByteArray("null");
 }
 
-void tst_JsonWriter::writesNumbers()
+void JsonWriterTest::writesNumbers()
 {
     QFETCH(const double, number);
     QFETCH(const QByteArray, json);
 
-    JsonWriter writer;
-    writer.number(number);
-    QCOMPARE(writer.json(), json);
-    JsonWriter value;
-    value.value(number);
-    QCOMPARE(value.json(), json);
+    QCOMPARE(written(number), (QByteArrayList{json, json}));
 }
 
-void tst_JsonWriter::writesValues_data()
+void JsonWriterTest::writesValues_data()
 {
     QTest::addColumn<QByteArray>("json");
 
@@ -138,7 +140,7 @@ void tst_JsonWriter::writesValues_data()
     QTest::newRow("object") << QByteArray(R"({"a":[{"b":"\n"}],"c":-1.5})");
 }
 
-void tst_JsonWriter::writesValues()
+void JsonWriterTest::writesValues()
 {
     QFETCH(const QByteArray, json);
 
@@ -147,9 +149,9 @@ void tst_JsonWriter::writesValues()
     QCOMPARE(writer.json(), json);
 }
 
-void tst_JsonWriter::putsPiecesTogether()
+void JsonWriterTest::writesManyPieces()
 {
-    // Past the room that it begins with, by pieces of all sizes.
+    // Beyond the initial capacity, with pieces of all sizes.
     QJsonArray expected;
     JsonWriter writer;
     writer.raw("[");
@@ -167,5 +169,5 @@ void tst_JsonWriter::putsPiecesTogether()
     QCOMPARE(read(writer).toArray(), expected);
 }
 
-QTEST_GUILESS_MAIN(tst_JsonWriter)
+QTEST_GUILESS_MAIN(JsonWriterTest)
 #include "tst_json_writer.moc"

@@ -1,25 +1,21 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
+#include "failure_of.h"
 #include "patience.h"
+#include "run_statement.h"
 #include "small_catalogue.h"
 #include "start_process.h"
+#include "test_files.h"
 
-#include <csv_table.h>
 #include <database_check.h>
-#include <fault.h>
 #include <file_replacement.h>
 #include <sku_report.h>
-#include <visible_text.h>
-#include <vxsupplydatabase.h>
 
-#include <QtCore/QDataStream>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtSql/QSqlDatabase>
-#include <QtSql/QSqlError>
-#include <QtSql/QSqlQuery>
 #include <QtTest/QtTest>
 
 #include <memory>
@@ -33,52 +29,8 @@
 
 namespace {
 
-// With a drive where there are drives: the tool may run on another one.
-const QString SampleCatalogue = QDir(QStringLiteral(VX_SAMPLE_CATALOGUE)).absolutePath();
-
-/// The fault that a job is given up with; null when it is done.
-template <typename Job>
-QString faultOf(Job job)
-{
-    try {
-        job();
-    } catch (const Fault& fault) {
-        return fault.message();
-    }
-    return {};
-}
-
-bool runOn(const QString& path, const QByteArray& statement)
-{
-    const QString name = QStringLiteral("change");
-    bool isDone = false;
-    {
-        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-        database.setDatabaseName(path);
-        database.open();
-        QSqlQuery query(database);
-        isDone = query.exec(QString::fromUtf8(statement));
-        if (!isDone)
-            qWarning("%s", qPrintable(query.lastError().text()));
-    }
-    QSqlDatabase::removeDatabase(name);
-    return isDone;
-}
-
-/// All that a bitmap's file says of its size, and no pixels.
-QByteArray bitmapHeader(qint32 width, qint32 height)
-{
-    constexpr quint32 headerSize = 54;
-    constexpr quint32 infoSize = 40;
-    QByteArray header;
-    QDataStream stream(&header, QIODevice::WriteOnly);
-    stream.setByteOrder(QDataStream::LittleEndian);
-    stream << quint8{'B'} << quint8{'M'} << headerSize << quint32{0} << headerSize << infoSize
-           << width << height << quint16{1} << quint16{24};
-    for (int i = 0; i < 6; ++i)
-        stream << quint32{0};
-    return header;
-}
+// An absolute path, because on Windows the tool may run on another drive.
+const QString sampleCatalogue = QDir(QStringLiteral(VX_SAMPLE_CATALOGUE)).absolutePath();
 
 } // namespace
 
@@ -87,784 +39,31 @@ class RollDbTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(m_folder->isValid());
-    }
-    void cleanup()
-    {
-        m_folder.reset();
-        QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
-    }
-
-    void refusesABadRow_data()
-    {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QByteArray>("after");
-        QTest::addColumn<QString>("fault");
-
-        const auto row = [](const char* name, const char* file, const char* before,
-                            const char* after, const char* fault) {
-            QTest::newRow(name) << QString::fromLatin1(file) << QByteArray(before)
-                                << QByteArray(after) << QString::fromUtf8(fault);
-        };
-        const char* const colours = "colours.csv";
-        row("a colour without a mark", colours, "#ffffff", "ffffff",
-            "colours.csv:2, column 2 (rgb): \"ffffff\" is no colour of the form #RRGGBB");
-        row("a colour of other digits", colours, "#ffffff", "#fffffg",
-            "colours.csv:2, column 2 (rgb): \"#fffffg\" is no colour of the form #RRGGBB");
-        row("a short colour", colours, "#ffffff", "#fff",
-            "colours.csv:2, column 2 (rgb): \"#fff\" is no colour of the form #RRGGBB");
-        row("a colour twice", colours, "red,#C8102E", "white,#C8102E",
-            "colours.csv:3, column 1 (colour): \"white\" is there twice");
-        row("a colour without a key", colours, "red,#C8102E", ",#C8102E",
-            "colours.csv:3, column 1 (colour): empty");
-        row("a space in a key", colours, "teal,", "dark teal,",
-            "colours.csv:5, column 1 (colour): a space in a colour's key");
-        row("no English name", colours, "Teal,,", ",Petrol,",
-            "colours.csv:5, column 3 (en): empty");
-        row("a field too many", colours, "Teal,,", "Teal,,,,x",
-            "colours.csv:5: 7 fields, where there are 5 columns");
-        row("a field too few", colours, "Teal,,", "Teal,",
-            "colours.csv:5: 4 fields, where there are 5 columns");
-        row("an unknown column", colours, "en,de,ja", "en,de,color",
-            "colours.csv:1, column 5 (color): neither a column of this table nor a language that "
-            "names can be had in");
-        row("a column twice", colours, "en,de,ja", "en,de,de",
-            "colours.csv:1, column 5 (de): the column is there twice");
-        row("a column without a name", colours, "en,de,ja", "en,,ja",
-            "colours.csv:1, column 4 (): a column without a name");
-        row("a language twice", colours, "en,de,ja", "en,de,de-CH",
-            "colours.csv:1, column 5 (de-CH): the same language as the column de");
-        row("no column of English names", colours, "en,de,ja", "de,fr,ja",
-            "colours.csv: the column en is missing");
-        row("a missing column", colours, "colour,rgb", "colour,es",
-            "colours.csv: the column rgb is missing");
-        row("an open quotation mark", colours, "Teal", "\"Teal",
-            "colours.csv:5: a quotation mark that is never closed");
-        row("text behind a quotation mark", colours, "Teal", "\"Te\"al",
-            "colours.csv:5: text after a closing quotation mark");
-        row("a quotation mark inside", colours, "Teal", "Te\"al",
-            "colours.csv:5: a quotation mark inside a field that is not quoted");
-        row("a carriage return", colours, "Teal", "Te\ral",
-            "colours.csv:5: a carriage return without a line feed");
-        row("bytes that are no text", colours, "Teal",
-            "T\xe9"
-            "al",
-            "colours.csv:5: not UTF-8 text");
-        row("half a character at the end", colours, "Teal,,\n", "Teal,,\xe7",
-            "colours.csv:5: not UTF-8 text");
-
-        row("a material that is no number", "materials.csv", "7,Vinyl", "vinyl,Vinyl",
-            "materials.csv:2, column 1 (material): \"vinyl\" is no whole number from 0 to 999999");
-        row("a material below zero", "materials.csv", "7,Vinyl", "-1,Vinyl",
-            "materials.csv:2, column 1 (material): \"-1\" is no whole number from 0 to 999999");
-        row("a material twice", "materials.csv", "0,Paper", "7,Paper",
-            "materials.csv:3, column 1 (material): material 7 is there twice");
-        row("a type that is none", "formats.csv", "continuous", "endless",
-            "formats.csv:2, column 2 (type): \"endless\" is none of continuous, die-cut, sleeve, "
-            "tag");
-        row("a format twice", "formats.csv", "2,die-cut", "1,die-cut",
-            "formats.csv:3, column 1 (format): format 1 is there twice");
-
-        const char* const supplies = "supplies.csv";
-        row("no SKU", supplies, "TAPE-1,100042", "-1,100042",
-            "supplies.csv:2, column 1 (sku): \"-1\" is no SKU: at most 40 letters from A to Z, "
-            "digits, dots, underscores and hyphens, a letter or digit first");
-        row("a SKU of two lines", supplies, "SPARE-1", "\"SPARE\n\x1b[2J\"",
-            "supplies.csv:4, column 1 (sku): \"SPARE\\u000a\\u001b[2J\" is no SKU: at most 40 "
-            "letters from A to Z, digits, dots, underscores and hyphens, a letter or digit first");
-        row("a SKU twice", supplies, "SPARE-1", "TAPE-1",
-            "supplies.csv:4, column 1 (sku): TAPE-1 is there twice");
-        row("a kind twice", supplies, "100050", "100043",
-            "supplies.csv:3, column 2 (kinds): 100043 is there twice");
-        row("a kind of no roll", supplies, "100050", "0",
-            "supplies.csv:3, column 2 (kinds): \"0\" is no whole number from 1 to 999999");
-        row("a kind of seven digits", supplies, "100050", "1000500",
-            "supplies.csv:3, column 2 (kinds): \"1000500\" is no whole number from 1 to 999999");
-        row("an unknown material", supplies, ",7,1,white", ",8,1,white",
-            "supplies.csv:2, column 3 (material): material 8 is not in materials.csv");
-        row("an unknown format", supplies, ",7,1,white", ",7,3,white",
-            "supplies.csv:2, column 4 (format): format 3 is not in formats.csv");
-        row("an unknown colour", supplies, "1,white", "1,snow",
-            "supplies.csv:2, column 5 (colour): \"snow\" is not in colours.csv");
-        row("a second colour without a width", supplies, "red,1.25", "red,",
-            "supplies.csv:2, column 7 (second_colour_width): a second colour and its width come "
-            "together or not at all");
-        row("a stripe wider than the supply", supplies, "red,1.25", "red,4.5",
-            "supplies.csv:2, column 7 (second_colour_width): \"4.5\" is no number from 0 to 4");
-        row("no width", supplies, "1.25,4,6000", "1.25,,6000",
-            "supplies.csv:2, column 8 (width): \"\" is no number from 0 to 100");
-        row("a width of zero", supplies, "1.25,4,6000", "1.25,0,6000",
-            "supplies.csv:2, column 8 (width): \"0\" is not above 0");
-        row("a width with a decimal comma", supplies, "1.25,4,6000", "1.25,\"4,5\",6000",
-            "supplies.csv:2, column 8 (width): \"4,5\" is no number from 0 to 100");
-        row("an endless length", supplies, "1.25,4,6000", "1.25,4,inf",
-            "supplies.csv:2, column 9 (length): \"inf\" is no number from 0 to 100000");
-        row("a length that is no number", supplies, "1.25,4,6000", "1.25,4,nan",
-            "supplies.csv:2, column 9 (length): \"nan\" is no number from 0 to 100000");
-        row("a label of a continuous supply", supplies, "6000,,", "6000,2,",
-            "supplies.csv:2, column 10 (label_length): a label's length, where the format is "
-            "continuous");
-        row("labels of no length", supplies, "1500,1.5,", "1500,,",
-            "supplies.csv:3, column 10 (label_length): empty, where the format is not continuous");
-        row("labels longer than the roll", supplies, "1500,1.5,", "1500,1501,",
-            "supplies.csv:3, column 10 (label_length): \"1501\" is no number from 0 to 1500");
-        row("a separator below zero", supplies, "1.5,0.125", "1.5,-0.125",
-            "supplies.csv:3, column 11 (separator_width): \"-0.125\" is no number from 0 to 100");
-        row("neither yes nor no", supplies, "yes,dot.png", "true,dot.png",
-            "supplies.csv:2, column 12 (landscape): \"true\" is neither yes nor no");
-        row("a picture that is missing", supplies, "dot.png", "spot.png",
-            "supplies.csv:2, column 13 (background): backgrounds/spot.png cannot be read");
-        row("a picture from elsewhere", supplies, "dot.png", "../dot.png",
-            "supplies.csv:2, column 13 (background): \"../dot.png\" is no plain file name");
-        row("a picture from the root", supplies, "dot.png", "/dot.png",
-            "supplies.csv:2, column 13 (background): \"/dot.png\" is no plain file name");
-        row("no picture", "backgrounds/dot.png", "PNG", "GNP",
-            "supplies.csv:2, column 13 (background): backgrounds/dot.png is no image that can be "
-            "read");
-        row("no label at all", supplies, ",3,0.1", ",0,0.1",
-            "supplies.csv:3, column 14 (multi_up_count): \"0\" is no whole number from 1 to 100");
-        row("labels without a gap", supplies, ",3,0.1", ",3,",
-            "supplies.csv:3, column 15 (multi_up_gap): empty, where labels lie side by side");
-        row("a gap beside one label", supplies, ",3,0.1", ",1,0.1",
-            "supplies.csv:3, column 15 (multi_up_gap): a gap, where one label lies alone");
-
-        const char* const ribbons = "ribbons.csv";
-        row("a ribbon twice", ribbons, "RIBBON-T", "RIBBON-K",
-            "ribbons.csv:4, column 1 (sku): RIBBON-K is there twice");
-        row("a ribbon with a supply's SKU", ribbons, "RIBBON-T", "TAPE-1",
-            "ribbons.csv:4, column 1 (sku): TAPE-1 is a supply's SKU");
-        row("a ribbon's number twice", ribbons, "2003", "2001",
-            "ribbons.csv:3, column 2 (numbers): 2001 is there twice");
-        row("a number no driver publishes", ribbons, "2003", "100001",
-            "ribbons.csv:3, column 2 (numbers): \"100001\" is no whole number from 1 to 100000");
-        row("no panels", ribbons, ",red black", ",",
-            "ribbons.csv:3, column 6 (panels): 0 panels, where 1 to 16 can be");
-        row("too many panels", ribbons, ",red black",
-            ",red red red red red red red red red red red red red red red red red",
-            "ribbons.csv:3, column 6 (panels): 17 panels, where 1 to 16 can be");
-        row("a panel of an unknown colour", ribbons, "red black", "red blue",
-            "ribbons.csv:3, column 6 (panels): \"blue\" is not in colours.csv");
-
-        const char* const settings = "print_settings.csv";
-        row("a setting of no ribbon", settings, "RIBBON-K,1,LABEL-1", "RIBBON-X,1,LABEL-1",
-            "print_settings.csv:5, column 1 (ribbon): \"RIBBON-X\" is not in ribbons.csv");
-        row("a setting of no panel", settings, "RIBBON-K,1,LABEL-1", "RIBBON-K,2,LABEL-1",
-            "print_settings.csv:5, column 2 (panel): \"2\" is no whole number from 1 to 1");
-        row("a setting of no supply", settings, "RIBBON-K,1,LABEL-1", "RIBBON-K,1,RIBBON-K",
-            "print_settings.csv:5, column 3 (supply): \"RIBBON-K\" is not in supplies.csv");
-        row("a setting twice", settings, "RIBBON-K,1,LABEL-1", "RIBBON-K,1,TAPE-1",
-            "print_settings.csv:5, column 1 (ribbon): panel 1 of RIBBON-K with TAPE-1 is there "
-            "twice");
-        row("an offset below zero", settings, "44,0,8", "44,-1,8",
-            "print_settings.csv:5, column 5 (heat_offset): \"-1\" is no whole number from 0 to "
-            "1000");
-        row("no speed", settings, "44,0,8", "44,0,0",
-            "print_settings.csv:5, column 6 (max_speed): \"0\" is no whole number from 1 to 1000");
-        row("a fraction", settings, "44,0,8", "44.5,0,8",
-            "print_settings.csv:5, column 4 (heat): \"44.5\" is no whole number from 0 to 1000");
-
-        row("a model twice", "printer_formats.csv", "AlderMax,1", "alderMAX,1",
-            "printer_formats.csv:4, column 1 (model): \"alderMAX\" is the same model as "
-            "\"AlderMax\"");
-        row("a format twice in a list", "printer_formats.csv", "AlderMax,1", "AlderMax,2",
-            "printer_formats.csv:4, column 2 (format): format 2 is there twice for AlderMax");
-        row("a list of an unknown format", "printer_formats.csv", "AlderMax,1", "AlderMax,9",
-            "printer_formats.csv:4, column 2 (format): format 9 is not in formats.csv");
-        row("a list of no model", "printer_formats.csv", "AlderMax,1", ",1",
-            "printer_formats.csv:4, column 1 (model): empty");
-    }
-    void refusesABadRow()
-    {
-        QFETCH(QString, file);
-        QFETCH(QByteArray, before);
-        QFETCH(QByteArray, after);
-        SmallCatalogue catalogue;
-        QVERIFY(catalogue.files.value(file).contains(before));
-        catalogue.files[file].replace(before, after);
-        const QString fault = faultOf([&catalogue] { catalogue.read(); });
-        QTEST(fault, "fault");
-    }
-
-    void refusesCharactersThatCannotBeSeen_data()
-    {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("place");
-
-        const auto row = [](const char* name, const char* file, const char* text,
-                            const char* place) {
-            QTest::newRow(name) << QString::fromLatin1(file) << QByteArray(text)
-                                << QString::fromLatin1(place);
-        };
-        row("an English name", "colours.csv", "Teal", "colours.csv:5, column 3 (en)");
-        row("a translation", "colours.csv", "Schwarz", "colours.csv:4, column 4 (de)");
-        row("a colour's key", "colours.csv", "teal", "colours.csv:5, column 1 (colour)");
-        row("a material", "materials.csv", "Vinyl", "materials.csv:2, column 2 (en)");
-        row("a format", "formats.csv", "Etiketten", "formats.csv:3, column 4 (de)");
-        row("a ribbon's type", "ribbons.csv", "wax", "ribbons.csv:2, column 3 (type)");
-        row("a model", "printer_formats.csv", "Alder,", "printer_formats.csv:2, column 1 (model)");
-        row("a picture's file", "supplies.csv", "dot.png",
-            "supplies.csv:2, column 13 (background)");
-    }
-    void refusesCharactersThatCannotBeSeen()
-    {
-        QFETCH(QString, file);
-        QFETCH(QByteArray, text);
-        QFETCH(QString, place);
-        SmallCatalogue catalogue;
-        QByteArray& table = catalogue.files[file];
-        QVERIFY(table.contains(text));
-        table.insert(table.indexOf(text) + 1, "\u202e");
-        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 place + QStringLiteral(": the character U+202E cannot be seen; take it out"));
-    }
-
-    void knowsWhichCharactersCannotBeSeen()
-    {
-        for (const char32_t character :
-             {U'\0',           U'\a',     U'\t',         U'\n',         U'\r',
-              U'\x1b',         U'\x7f',   U'\x9b',       U'\xad',       U'\u061c',
-              U'\u200b',       U'\u200c', U'\u200d',     U'\u200e',     U'\u2028',
-              U'\u2029',       U'\u202e', U'\u2066',     U'\ufeff',     U'\ufffe',
-              U'\uffff',       U'\ufdd0', U'\U000e0041', U'\U0010ffff', char32_t{0xd800},
-              char32_t{0xdfff}}) {
-            QString text = QStringLiteral("a");
-            if (QChar::requiresSurrogates(character))
-                text += QChar(QChar::highSurrogate(character));
-            text += QChar::requiresSurrogates(character) ? QChar(QChar::lowSurrogate(character))
-                                                         : QChar(static_cast<char16_t>(character));
-            QCOMPARE(invisibleCharacter(text + QStringLiteral("b")), character);
-        }
-        for (const QString& text :
-             {QString(), QStringLiteral("Weiß, matt"), QStringLiteral("白 / 赤"),
-              QStringLiteral("no-break\u00a0space"), QStringLiteral("é by a combining e\u0301"),
-              QStringLiteral("葛\U000e0100"), QStringLiteral("😀"),
-              QStringLiteral("\ue000 of private use")})
-            QVERIFY2(!invisibleCharacter(text), qPrintable(text));
-    }
-
-    void refusesAPictureOfTooManyPixels_data()
-    {
-        QTest::addColumn<QByteArray>("image");
-        QTest::addColumn<QString>("fault");
-
-        const QString place =
-            QStringLiteral("supplies.csv:2, column 13 (background): backgrounds/dot.png has ");
-        QTest::newRow("as many as can be") << bitmapHeader(4096, 4096) << QString();
-        QTest::newRow("wide") << bitmapHeader(4097, 1)
-                              << place +
-                                     QStringLiteral("4097 by 1 pixels, where 4096 by 4096 can be");
-        QTest::newRow("high") << bitmapHeader(1, 4097)
-                              << place +
-                                     QStringLiteral("1 by 4097 pixels, where 4096 by 4096 can be");
-        QTest::newRow("a few bytes of 60,000 by 60,000")
-            << QByteArray::fromBase64("iVBORw0KGgoAAAANSUhEUgAA6mAAAOpgCAIAAAAPsOIVAAAA"
-                                      "CElEQVR4nAMAAAAAAUgGidIAAAAASUVORK5CYII=")
-            << place + QStringLiteral("60000 by 60000 pixels, where 4096 by 4096 can be");
-    }
-    void refusesAPictureOfTooManyPixels()
-    {
-        QFETCH(QByteArray, image);
-        SmallCatalogue catalogue;
-        catalogue.files[QStringLiteral("backgrounds/dot.png")] = image;
-        QTEST(faultOf([&catalogue] { catalogue.read(); }), "fault");
-    }
-
-    void takesAsManyPanelsAsThereMayBe()
-    {
-        SmallCatalogue catalogue;
-        catalogue.replace("ribbons.csv", ",red black", ',' + QByteArray("red ").repeated(16));
-        catalogue.write(path());
-        const QString report = skuReport(path(), QStringLiteral("RIBBON-RK"), 0);
-        QCOMPARE(report.count(QStringLiteral("panel: ")), 16);
-    }
-
-    void refusesMoreRowsThanAReaderTakes()
-    {
-        SmallCatalogue catalogue;
-        QByteArray& supplies = catalogue.files[QStringLiteral("supplies.csv")];
-        for (int i = 3; i < 16384; ++i)
-            supplies += "S" + QByteArray::number(i) + ",,0,2,black,,,2,300,1,0,yes,,1,\n";
-        QCOMPARE(catalogue.read().supplies.size(), 16384);
-        supplies += "S16384,,0,2,black,,,2,300,1,0,yes,,1,\n";
-        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 QStringLiteral("supplies.csv: more than 16384 rows"));
-    }
-
-    void refusesAMissingTable_data()
-    {
-        QTest::addColumn<QString>("file");
-        for (const char* file : {"colours.csv", "materials.csv", "formats.csv", "supplies.csv",
-                                 "ribbons.csv", "print_settings.csv", "printer_formats.csv"})
-            QTest::newRow(file) << QString::fromLatin1(file);
-    }
-    void refusesAMissingTable()
-    {
-        QFETCH(QString, file);
-        SmallCatalogue catalogue;
-        catalogue.files.remove(file);
-        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 file + QStringLiteral(": no such file, or it cannot be read"));
-        catalogue.files.insert(file, "\n \n");
-        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 file + QStringLiteral(": empty, where a line of column names was expected"));
-    }
-
-    void refusesWhatIsTooLarge()
-    {
-        SmallCatalogue catalogue;
-        catalogue.replace("colours.csv", "Teal", QByteArray(201, 'x'));
-        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 QStringLiteral("colours.csv:5, column 3 (en): longer than 200 characters"));
-
-        catalogue = {};
-        catalogue.replace("colours.csv", "Teal", QByteArray(5000, 'x'));
-        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 QStringLiteral("colours.csv:5: a field of more than 4096 characters"));
-
-        catalogue = {};
-        catalogue.files[QStringLiteral("backgrounds/dot.png")].append(QByteArray(256 * 1024, '\0'));
-        QCOMPARE(
-            faultOf([&catalogue] { catalogue.read(); }),
-            QStringLiteral(
-                "supplies.csv:2, column 13 (background): backgrounds/dot.png is larger than 256 "
-                "KiB"));
-
-        catalogue = {};
-        catalogue.files[QStringLiteral("colours.csv")] = QByteArray(16 * 1024 * 1024 + 1, '\n');
-        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 QStringLiteral("colours.csv: larger than 16 MiB"));
-
-        catalogue = {};
-        catalogue.files[QStringLiteral("colours.csv")] = QByteArray("a,").repeated(100);
-        QCOMPARE(faultOf([&catalogue] { catalogue.read(); }),
-                 QStringLiteral("colours.csv:1: more than 64 columns"));
-    }
-
-    void readsATableHoweverASpreadsheetWritesIt_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-
-        QTest::newRow("plain") << QByteArray("key,size\na,1.5\nb,2\n");
-        QTest::newRow("no line feed at the end") << QByteArray("key,size\na,1.5\nb,2");
-        QTest::newRow("carriage returns") << QByteArray("key,size\r\na,1.5\r\nb,2\r\n");
-        QTest::newRow("a byte order mark") << QByteArray("\xef\xbb\xbfkey,size\na,1.5\nb,2\n");
-        QTest::newRow("quotation marks")
-            << QByteArray("\"key\",\"size\"\n\"a\",\"1.5\"\n\"b\",2\n");
-        QTest::newRow("spaces") << QByteArray(" key , size\n a,\t1.5 \n \"b\" , 2\n");
-        QTest::newRow("empty rows") << QByteArray("\nkey,size\n\na,1.5\n,\n  \nb,2\n\n");
-        QTest::newRow("empty columns") << QByteArray("key,size,,\na,1.5,,\nb,2,,\n");
-    }
-    void readsATableHoweverASpreadsheetWritesIt()
-    {
-        QFETCH(QByteArray, text);
-        const CsvTable table = CsvTable::parse(QStringLiteral("t.csv"), text);
-        QCOMPARE(table.columns(), (QStringList{QStringLiteral("key"), QStringLiteral("size")}));
-        QCOMPARE(table.rowCount(), 2);
-        QCOMPARE(table.field(0, QStringLiteral("key")).text, QStringLiteral("a"));
-        QCOMPARE(table.field(0, QStringLiteral("size")).text, QStringLiteral("1.5"));
-        QCOMPARE(table.field(1, QStringLiteral("key")).text, QStringLiteral("b"));
-        QCOMPARE(table.field(1, QStringLiteral("size")).text, QStringLiteral("2"));
-    }
-
-    void readsQuotedFields()
-    {
-        const CsvTable table = CsvTable::parse(
-            QStringLiteral("t.csv"), "key,name\na,\"one, \"\"two\"\"\nthree\"\nb,\"\"\nc,x\n");
-        QCOMPARE(table.rowCount(), 3);
-        QCOMPARE(table.field(0, QStringLiteral("name")).text,
-                 QStringLiteral("one, \"two\"\nthree"));
-        QCOMPARE(table.field(1, QStringLiteral("name")).text, QString());
-        QCOMPARE(table.field(2, QStringLiteral("name")).place(),
-                 QStringLiteral("t.csv:5, column 2 (name)"));
-    }
-
-    void takesSemicolonsAndDecimalCommas()
-    {
-        SmallCatalogue catalogue;
-        QByteArray& supplies = catalogue.files[QStringLiteral("supplies.csv")];
-        supplies.replace(',', ';').replace('.', ',').replace("dot,png", "dot.png");
-        QCOMPARE(catalogue.read().supplies.at(0).secondColourWidth, std::optional(1.25));
-        supplies.replace("1,25", "1.25");
-        QCOMPARE(catalogue.read().supplies.at(0).secondColourWidth, std::optional(1.25));
-    }
-
-    void buildsTheSampleCatalogue()
-    {
-        writeDatabase(readCatalogueDirectory(SampleCatalogue), path());
-        const DatabaseCounts counts = checkDatabase(path());
-        QVERIFY(counts.supplies >= 40);
-        QVERIFY(counts.ribbons >= 20);
-        QVERIFY(counts.settings > counts.supplies);
-        QCOMPARE(counts.languages, 5);
-    }
-
-    void theSampleCatalogueHasEveryNameInEachLanguage()
-    {
-        const Catalogue catalogue = readCatalogueDirectory(SampleCatalogue);
-        QCOMPARE(catalogue.languages.values(),
-                 (QStringList{QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("fr"),
-                              QStringLiteral("es"), QStringLiteral("ja")}));
-        const QList<int> others{1, 2, 3, 4};
-        for (const Catalogue::Colour& colour : catalogue.colours)
-            QCOMPARE(colour.name.translations.keys(), others);
-        for (const Catalogue::Material& material : catalogue.materials)
-            QCOMPARE(material.name.translations.keys(), others);
-        for (const Catalogue::Format& format : catalogue.formats)
-            QCOMPARE(format.name.translations.keys(), others);
-    }
-
-    void everySupplyOfTheSampleCatalogueCanBePrinted()
-    {
-        const Catalogue catalogue = readCatalogueDirectory(SampleCatalogue);
-        QSet<QString> printed;
-        for (const Catalogue::PrintSetting& setting : catalogue.settings)
-            printed.insert(setting.supplySku);
-        for (const Catalogue::Supply& supply : catalogue.supplies) {
-            QVERIFY2(printed.contains(supply.sku), qPrintable(supply.sku));
-            QVERIFY2(!supply.kinds.isEmpty(), qPrintable(supply.sku));
-        }
-    }
-
-    void theSameTablesGiveTheSameFile()
-    {
-        const QString second = m_folder->filePath(QStringLiteral("second.db"));
-        SmallCatalogue().write(path());
-        SmallCatalogue().write(second);
-        QVERIFY(!readFile(path()).isEmpty());
-        QCOMPARE(readFile(path()), readFile(second));
-    }
-
-    void takesThePlaceOfTheOldFile()
-    {
-        writeFile(path(), "old");
-        SmallCatalogue().write(path());
-        QCOMPARE(checkDatabase(path()).supplies, 3);
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files),
-                 QStringList{QStringLiteral("roll.db")});
-    }
-
-    void leavesTheOldFileWholeWhenARowIsBad()
-    {
-        SmallCatalogue().write(path());
-        const QByteArray before = readFile(path());
-        SmallCatalogue bad;
-        bad.replace("ribbons.csv", "2003", "x");
-        QVERIFY(!faultOf([&] { bad.write(path()); }).isNull());
-        QCOMPARE(readFile(path()), before);
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files),
-                 QStringList{QStringLiteral("roll.db")});
-    }
-
-    // The schema has the last word: what slips through the tables' reader must not get into a file.
-    void leavesTheOldFileWholeWhenTheSchemaRefuses()
-    {
-        SmallCatalogue().write(path());
-        const QByteArray before = readFile(path());
-        Catalogue catalogue = SmallCatalogue().read();
-        catalogue.settings[0].heatOffset = -1;
-        QVERIFY(faultOf([&] {
-                    writeDatabase(catalogue, path());
-                }).contains(QStringLiteral("heat_offset")));
-        catalogue = SmallCatalogue().read();
-        catalogue.supplies[0].material = 99;
-        QVERIFY(faultOf([&] {
-                    writeDatabase(catalogue, path());
-                }).contains(QStringLiteral("FOREIGN KEY")));
-        QCOMPARE(readFile(path()), before);
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files),
-                 QStringList{QStringLiteral("roll.db")});
-    }
-
-    void saysWhereItCannotWrite()
-    {
-        const QString nowhere = m_folder->filePath(QStringLiteral("missing/roll.db"));
-        const QString fault = faultOf([&] { SmallCatalogue().write(nowhere); });
-        QVERIFY2(fault.startsWith(nowhere + QStringLiteral(": ")), qPrintable(fault));
-        QVERIFY(!QDir(m_folder->filePath(QStringLiteral("missing"))).exists());
-    }
-
+    void init();
+    void cleanup();
+    void acceptsAsManyPanelsAsAreAllowed();
+    void buildsTheSampleCatalogue();
+    void theSameTablesGiveTheSameFile();
+    void replacesTheOldFile();
+    void keepsTheOldFileWhenARowIsInvalid();
+    void keepsTheOldFileWhenTheSchemaRefusesARow();
+    void namesThePathThatItCannotWrite();
 #ifdef Q_OS_UNIX
-    void leavesAPipeInItsPlace_data()
-    {
-        QTest::addColumn<QString>("target");
-
-        QTest::newRow("the pipe itself") << QStringLiteral("pipe");
-        QTest::newRow("a link to it") << QStringLiteral("link");
-    }
-    // A device is left alone for the same reason; only the super-user could make one here.
-    void leavesAPipeInItsPlace()
-    {
-        QFETCH(QString, target);
-        const QString pipe = m_folder->filePath(QStringLiteral("pipe"));
-        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-        QVERIFY(QFile::link(pipe, m_folder->filePath(QStringLiteral("link"))));
-        target = m_folder->filePath(target);
-        QCOMPARE(faultOf([&target] { SmallCatalogue().write(target); }),
-                 target + QStringLiteral(": not a file, so nothing is put in its place"));
-        struct stat status = {};
-        QCOMPARE(stat(QFile::encodeName(pipe).constData(), &status), 0);
-        QVERIFY(S_ISFIFO(status.st_mode));
-    }
-
-    void doesNotWaitForAPipe_data()
-    {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("fault");
-
-        QTest::newRow("a table") << QStringLiteral("ribbons.csv")
-                                 << QStringLiteral("ribbons.csv is not a file");
-        QTest::newRow("a picture")
-            << QStringLiteral("backgrounds/dot.png")
-            << QStringLiteral(
-                   "supplies.csv:2, column 13 (background): backgrounds/dot.png is not a file");
-    }
-    void doesNotWaitForAPipe()
-    {
-        QFETCH(QString, file);
-        QFETCH(QString, fault);
-        QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("backgrounds")));
-        const SmallCatalogue catalogue;
-        for (auto entry = catalogue.files.begin(); entry != catalogue.files.end(); ++entry)
-            writeFile(m_folder->filePath(entry.key()), entry.value());
-        const QByteArray pipe = QFile::encodeName(m_folder->filePath(file));
-        QVERIFY(QFile::remove(m_folder->filePath(file)));
-        QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
-        QProcess tool;
-        tool.start(QStringLiteral(VX_ROLLDB), {QStringLiteral("build"), m_folder->path(), path()});
-        QVERIFY2(tool.waitForFinished(), qPrintable(tool.errorString()));
-        QCOMPARE(tool.exitCode(), 1);
-        QCOMPARE(QString::fromUtf8(tool.readAllStandardError()),
-                 QStringLiteral("rolldb: ") + fault + u'\n');
-        QVERIFY(!QFile::exists(path()));
-    }
-
-    // A bound on a file's size ends a write in its midst, as a full disk does.
-    void saysWhyBytesCannotBeWritten()
-    {
-        writeFile(path(), "old");
-        rlimit before = {};
-        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
-        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit small{.rlim_cur = 50000, .rlim_max = before.rlim_max};
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
-        const QString fault = faultOf([this] { replaceFile(path(), QByteArray(100000, 'x')); });
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
-        std::signal(SIGXFSZ, handler);
-        QCOMPARE(fault, path() + QStringLiteral(": ") + qt_error_string(EFBIG));
-        QCOMPARE(readFile(path()), QByteArray("old"));
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files),
-                 QStringList{QStringLiteral("roll.db")});
-    }
+    void doesNotReplaceAPipe_data();
+    void doesNotReplaceAPipe();
+    void doesNotWaitForAPipe_data();
+    void doesNotWaitForAPipe();
+    void reportsWhyAFileCannotBeWritten();
 #endif
-
-    void findsWhatIsWrong_data()
-    {
-        QTest::addColumn<QByteArray>("change");
-        QTest::addColumn<QString>("fault");
-
-        QTest::newRow("nothing") << QByteArray("VACUUM") << QString();
-        QTest::newRow("statistics")
-            << QByteArray("ANALYZE name")
-            << QStringLiteral("its tables are not those of schema version 1");
-        QTest::newRow("another schema version")
-            << QByteArray("PRAGMA user_version = 9")
-            << QStringLiteral("of schema version 9, where version 1 can be read");
-        QTest::newRow("another application")
-            << QByteArray("PRAGMA application_id = 1")
-            << QStringLiteral("an SQLite database, but not a supply database");
-        QTest::newRow("another table")
-            << QByteArray("CREATE TABLE note (text TEXT)")
-            << QStringLiteral("its tables are not those of schema version 1");
-        QTest::newRow("a trigger")
-            << QByteArray("CREATE TRIGGER gone AFTER DELETE ON supply BEGIN SELECT 1; END")
-            << QStringLiteral("its tables are not those of schema version 1");
-        QTest::newRow("a missing table")
-            << QByteArray("DROP TABLE print_setting")
-            << QStringLiteral("its tables are not those of schema version 1");
-        QTest::newRow("a row that refers to nothing")
-            << QByteArray("DELETE FROM material WHERE id = 7")
-            << QStringLiteral("a row of supply refers to nothing");
-        QTest::newRow("a missing panel")
-            << QByteArray("DELETE FROM ribbon_panel WHERE ribbon_sku = 'RIBBON-T'")
-            << QStringLiteral("the panels of ribbon RIBBON-T are not numbered from 1 on");
-        QTest::newRow("a ribbon that is a supply")
-            << QByteArray(
-                   "UPDATE ribbon_panel SET ribbon_sku = 'TAPE-1' WHERE ribbon_sku = 'RIBBON-T'")
-            << QStringLiteral("a row of ribbon_panel refers to nothing");
-        QTest::newRow("a continuous label")
-            << QByteArray("UPDATE supply SET label_length = 1")
-            << QStringLiteral(
-                   "supply TAPE-1 has a label length and a continuous format, or neither");
-        QTest::newRow("a gap in a printer's list")
-            << QByteArray("DELETE FROM printer_format WHERE model = 'AlderMax' AND position = 0")
-            << QStringLiteral(
-                   "the formats of the printer model \"AlderMax\" are not numbered from 0 on");
-        QTest::newRow("another first language")
-            << QByteArray("UPDATE language SET tag = 'eo' WHERE id = 0")
-            << QStringLiteral("the language 0 is \"eo\", not English");
-        QTest::newRow("no English") << QByteArray("DELETE FROM language WHERE id = 0")
-                                    << QStringLiteral("English is missing");
-    }
-    void findsWhatIsWrong()
-    {
-        QFETCH(QByteArray, change);
-        QFETCH(QString, fault);
-        SmallCatalogue().write(path());
-        QVERIFY(runOn(path(), change));
-        const QString found = faultOf([this] { checkDatabase(path()); });
-        QCOMPARE(found, fault.isEmpty() ? QString() : path() + QStringLiteral(": ") + fault);
-    }
-
-    void findsDamage()
-    {
-        SmallCatalogue().write(path());
-        QByteArray bytes = readFile(path());
-        bytes.replace(4096, 4096, QByteArray(4096, '\xff'));
-        writeFile(path(), bytes);
-        const QString found = faultOf([this] { checkDatabase(path()); });
-        QVERIFY2(found.startsWith(path() + QStringLiteral(": damaged: ")), qPrintable(found));
-        QVERIFY(!found.contains(u'\n'));
-    }
-
-    void reportsASupply()
-    {
-        SmallCatalogue().write(path());
-        QCOMPARE(
-            skuReport(path(), QStringLiteral("TAPE-1"), 1),
-            QStringLiteral(
-                "supply:          TAPE-1\n"
-                "material:        7 Vinylfolie\n"
-                "format:          1 Band\n"
-                "type:            continuous\n"
-                "colour:          #ffffff Weiß\n"
-                "second colour:   #c8102e Rot\n"
-                "stripe:          1.25 in\n"
-                "width:           4 in\n"
-                "length:          6000 in\n"
-                "landscape:       yes\n"
-                "side by side:    1\n"
-                "background:      69 bytes\n"
-                "printed with:    RIBBON-K panel 1: heat 52, offset 0, speed 4, tension 30\n"
-                "printed with:    RIBBON-RK panel 1: heat 58, offset 2, speed 3, tension 32\n"
-                "printed with:    RIBBON-RK panel 2: heat 55, offset 1, speed 4, tension 33\n"));
-    }
-
-    void reportsARibbon()
-    {
-        SmallCatalogue().write(path());
-        QCOMPARE(skuReport(path(), QStringLiteral("RIBBON-RK"), 0),
-                 QStringLiteral("ribbon:          RIBBON-RK\n"
-                                "type:            resin\n"
-                                "width:           4.33 in\n"
-                                "length:          2360 in\n"
-                                "panel:           #c8102e Red\n"
-                                "panel:           #000000 Black\n"));
-    }
-
-    void reportsNoUnknownSku()
-    {
-        SmallCatalogue().write(path());
-        QCOMPARE(faultOf([this] { skuReport(path(), QStringLiteral("NO-SUCH"), 0); }),
-                 path() + QStringLiteral(": knows no supply or ribbon \"NO-SUCH\""));
-    }
-
-    void theToolEndsAsItShould_data()
-    {
-        // "@" stands for the test's folder.
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("output");
-        QTest::addColumn<QString>("error");
-
-        const QString usage = QStringLiteral(" (see rolldb --help)\n");
-        QTest::newRow("build")
-            << QStringList{QStringLiteral("build"), SampleCatalogue, QStringLiteral("@new.db")} << 0
-            << QStringLiteral("@new.db: 46 supplies, 22 ribbons, 894 print settings, 5 languages\n")
-            << QString();
-        QTest::newRow("check")
-            << QStringList{QStringLiteral("check"), QStringLiteral("@roll.db")} << 0
-            << QStringLiteral(
-                   "@roll.db: in order, 3 supplies, 3 ribbons, 4 print settings, 3 languages\n")
-            << QString();
-        QTest::newRow("show")
-            << QStringList{QStringLiteral("show"), QStringLiteral("--language"),
-                           QStringLiteral("de"), QStringLiteral("@roll.db"),
-                           QStringLiteral("RIBBON-T")}
-            << 0
-            << QStringLiteral(
-                   "ribbon:          RIBBON-T\ntype:            resin\nwidth:           2.4 in\n"
-                   "length:          4725 in\npanel:           #008080 Teal\n")
-            << QString();
-        QTest::newRow("no verb") << QStringList{} << 2 << QString()
-                                 << QStringLiteral("rolldb: expected build, check or show") + usage;
-        QTest::newRow("another verb")
-            << QStringList{QStringLiteral("fix")} << 2 << QString()
-            << QStringLiteral("rolldb: \"fix\" is none of build, check and show") + usage;
-        QTest::newRow("too few arguments")
-            << QStringList{QStringLiteral("build"), QStringLiteral("x")} << 2 << QString()
-            << QStringLiteral("rolldb: build takes 2 arguments, not 1") + usage;
-        QTest::newRow("another option")
-            << QStringList{QStringLiteral("check"), QStringLiteral("--fix"),
-                           QStringLiteral("@roll.db")}
-            << 2 << QString() << QStringLiteral("rolldb: Unknown option 'fix'.") + usage;
-        QTest::newRow("another language")
-            << QStringList{QStringLiteral("show"), QStringLiteral("--language"),
-                           QStringLiteral("xx"), QStringLiteral("@roll.db"),
-                           QStringLiteral("TAPE-1")}
-            << 2 << QString()
-            << QStringLiteral("rolldb: \"xx\" is no language that names are had in") + usage;
-        QTest::newRow("no directory")
-            << QStringList{QStringLiteral("build"), QStringLiteral("@nowhere"),
-                           QStringLiteral("@new.db")}
-            << 1 << QString() << QStringLiteral("rolldb: @nowhere: no such directory\n");
-        QTest::newRow("no tables")
-            << QStringList{QStringLiteral("build"), QStringLiteral("@"), QStringLiteral("@new.db")}
-            << 1 << QString()
-            << QStringLiteral("rolldb: colours.csv: no such file, or it cannot be read\n");
-        QTest::newRow("no file") << QStringList{QStringLiteral("check"), QStringLiteral("@none.db")}
-                                 << 1 << QString()
-                                 << QStringLiteral("rolldb: @none.db: no such file\n");
-        QTest::newRow("no database")
-            << QStringList{QStringLiteral("show"), QStringLiteral("@text.db"),
-                           QStringLiteral("TAPE-1")}
-            << 1 << QString() << QStringLiteral("rolldb: @text.db: not an SQLite database\n");
-    }
-    void theToolEndsAsItShould()
-    {
-        QFETCH(QStringList, arguments);
-        QFETCH(QString, output);
-        QFETCH(QString, error);
-        const QString folder = m_folder->path() + u'/';
-        SmallCatalogue().write(path());
-        writeFile(m_folder->filePath(QStringLiteral("text.db")), "not a database");
-        QProcess tool;
-        startProcess(tool, QStringLiteral(VX_ROLLDB),
-                     arguments.replaceInStrings(QStringLiteral("@"), folder));
-        QVERIFY2(tool.waitForFinished(patience), qPrintable(tool.errorString()));
-        QCOMPARE(tool.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(QString::fromUtf8(tool.readAllStandardError()).remove(u'\r'),
-                 error.replace(QStringLiteral("@"), folder));
-        QCOMPARE(QString::fromUtf8(tool.readAllStandardOutput()).remove(u'\r'),
-                 output.replace(QStringLiteral("@"), folder));
-        QTEST(tool.exitCode(), "status");
-    }
-
-    void theToolExplainsItself()
-    {
-        QProcess tool;
-        startProcess(tool, QStringLiteral(VX_ROLLDB), {QStringLiteral("--help")});
-        QVERIFY2(tool.waitForFinished(patience), qPrintable(tool.errorString()));
-        QCOMPARE(tool.exitCode(), 0);
-        const QString help = QString::fromUtf8(tool.readAllStandardOutput());
-        for (const auto& verb : {QStringLiteral("rolldb build"), QStringLiteral("rolldb check"),
-                                 QStringLiteral("rolldb show")})
-            QVERIFY2(help.contains(verb), qPrintable(verb));
-    }
+    void findsInvalidContent_data();
+    void findsInvalidContent();
+    void findsDamage();
+    void reportsASupply();
+    void reportsARibbon();
+    void refusesToReportAnUnknownSku();
+    void theToolReturnsItsResultAndExitStatus_data();
+    void theToolReturnsItsResultAndExitStatus();
+    void theToolPrintsItsHelp();
 
 private:
     QString path() const
@@ -872,20 +71,369 @@ private:
         return m_folder->filePath(QStringLiteral("roll.db"));
     }
 
-    static QByteArray readFile(const QString& name)
-    {
-        QFile file(name);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    static void writeFile(const QString& name, const QByteArray& content)
-    {
-        QFile file(name);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), content.size());
-    }
-
     std::unique_ptr<QTemporaryDir> m_folder;
 };
+
+void RollDbTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+}
+
+void RollDbTest::cleanup()
+{
+    m_folder.reset();
+    QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
+}
+
+void RollDbTest::acceptsAsManyPanelsAsAreAllowed()
+{
+    SmallCatalogue catalogue;
+    catalogue.replace("ribbons.csv", ",red black", ',' + QByteArray("red ").repeated(16));
+    catalogue.write(path());
+    const QString report = skuReport(path(), QStringLiteral("RIBBON-RK"), 0);
+    QCOMPARE(report.count(QStringLiteral("panel: ")), 16);
+}
+
+void RollDbTest::buildsTheSampleCatalogue()
+{
+    writeDatabase(readCatalogueDirectory(sampleCatalogue), path());
+    const DatabaseCounts counts = checkDatabase(path());
+    QVERIFY(counts.supplies >= 40);
+    QVERIFY(counts.ribbons >= 20);
+    QVERIFY(counts.settings > counts.supplies);
+    QCOMPARE(counts.languages, 5);
+}
+
+void RollDbTest::theSameTablesGiveTheSameFile()
+{
+    const QString second = m_folder->filePath(QStringLiteral("second.db"));
+    SmallCatalogue().write(path());
+    SmallCatalogue().write(second);
+    QVERIFY(!contentOf(path()).isEmpty());
+    QCOMPARE(contentOf(path()), contentOf(second));
+}
+
+void RollDbTest::replacesTheOldFile()
+{
+    QVERIFY(writeFile(path(), "old"));
+    SmallCatalogue().write(path());
+    QCOMPARE(checkDatabase(path()).supplies, 3);
+    QCOMPARE(filesIn(m_folder->path()), QStringList{QStringLiteral("roll.db")});
+}
+
+void RollDbTest::keepsTheOldFileWhenARowIsInvalid()
+{
+    SmallCatalogue().write(path());
+    const QByteArray before = contentOf(path());
+    SmallCatalogue bad;
+    bad.replace("ribbons.csv", "2003", "x");
+    QVERIFY(!failureOf([&] { bad.write(path()); }).isNull());
+    QCOMPARE(contentOf(path()), before);
+    QCOMPARE(filesIn(m_folder->path()), QStringList{QStringLiteral("roll.db")});
+}
+
+// The schema is the last line of defence: what the reader of the tables misses must not get into a
+// file.
+void RollDbTest::keepsTheOldFileWhenTheSchemaRefusesARow()
+{
+    SmallCatalogue().write(path());
+    const QByteArray before = contentOf(path());
+    Catalogue catalogue = SmallCatalogue().read();
+    catalogue.settings[0].heatOffset = -1;
+    QVERIFY(failureOf([&] {
+                writeDatabase(catalogue, path());
+            }).contains(QStringLiteral("heat_offset")));
+    catalogue = SmallCatalogue().read();
+    catalogue.supplies[0].material = 99;
+    QVERIFY(failureOf([&] {
+                writeDatabase(catalogue, path());
+            }).contains(QStringLiteral("FOREIGN KEY")));
+    QCOMPARE(contentOf(path()), before);
+    QCOMPARE(filesIn(m_folder->path()), QStringList{QStringLiteral("roll.db")});
+}
+
+void RollDbTest::namesThePathThatItCannotWrite()
+{
+    const QString nowhere = m_folder->filePath(QStringLiteral("missing/roll.db"));
+    const QString fault = failureOf([&] { SmallCatalogue().write(nowhere); });
+    QVERIFY2(fault.startsWith(nowhere + QStringLiteral(": ")), qPrintable(fault));
+    QVERIFY(!QDir(m_folder->filePath(QStringLiteral("missing"))).exists());
+}
+
+#ifdef Q_OS_UNIX
+
+void RollDbTest::doesNotReplaceAPipe_data()
+{
+    QTest::addColumn<QString>("target");
+
+    QTest::newRow("the pipe itself") << QStringLiteral("pipe");
+    QTest::newRow("a link to it") << QStringLiteral("link");
+}
+
+// The same code protects devices, which only the superuser could create here.
+void RollDbTest::doesNotReplaceAPipe()
+{
+    QFETCH(QString, target);
+    const QString pipe = m_folder->filePath(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QVERIFY(QFile::link(pipe, m_folder->filePath(QStringLiteral("link"))));
+    target = m_folder->filePath(target);
+    QCOMPARE(failureOf([&target] { SmallCatalogue().write(target); }),
+             target + QStringLiteral(": not a file, so it is not replaced"));
+    struct stat status = {};
+    QCOMPARE(stat(QFile::encodeName(pipe).constData(), &status), 0);
+    QVERIFY(S_ISFIFO(status.st_mode));
+}
+
+void RollDbTest::doesNotWaitForAPipe_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("fault");
+
+    QTest::newRow("a table") << QStringLiteral("ribbons.csv")
+                             << QStringLiteral("ribbons.csv is not a file");
+    QTest::newRow("a picture")
+        << QStringLiteral("backgrounds/dot.png")
+        << QStringLiteral(
+               "supplies.csv:2, column 13 (background): backgrounds/dot.png is not a file");
+}
+
+void RollDbTest::doesNotWaitForAPipe()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, fault);
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("backgrounds")));
+    const SmallCatalogue catalogue;
+    for (auto entry = catalogue.files.begin(); entry != catalogue.files.end(); ++entry)
+        QVERIFY(writeFile(m_folder->filePath(entry.key()), entry.value()));
+    const QByteArray pipe = QFile::encodeName(m_folder->filePath(file));
+    QVERIFY(QFile::remove(m_folder->filePath(file)));
+    QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
+    QProcess tool;
+    tool.start(QStringLiteral(VX_ROLLDB), {QStringLiteral("build"), m_folder->path(), path()});
+    QVERIFY2(tool.waitForFinished(), qPrintable(tool.errorString()));
+    QCOMPARE(tool.exitCode(), 1);
+    QCOMPARE(QString::fromUtf8(tool.readAllStandardError()),
+             QStringLiteral("rolldb: ") + fault + u'\n');
+    QVERIFY(!QFile::exists(path()));
+}
+
+// A limit on the file size interrupts a write like a full disk.
+void RollDbTest::reportsWhyAFileCannotBeWritten()
+{
+    QVERIFY(writeFile(path(), "old"));
+    rlimit before = {};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{.rlim_cur = 50000, .rlim_max = before.rlim_max};
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+    const QString fault = failureOf([this] { replaceFile(path(), QByteArray(100000, 'x')); });
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, handler);
+    QCOMPARE(fault, path() + QStringLiteral(": ") + qt_error_string(EFBIG));
+    QCOMPARE(contentOf(path()), QByteArray("old"));
+    QCOMPARE(filesIn(m_folder->path()), QStringList{QStringLiteral("roll.db")});
+}
+
+#endif
+
+void RollDbTest::findsInvalidContent_data()
+{
+    QTest::addColumn<QByteArray>("change");
+    QTest::addColumn<QString>("fault");
+
+    QTest::newRow("nothing") << QByteArray("VACUUM") << QString();
+    QTest::newRow("statistics") << QByteArray("ANALYZE name")
+                                << QStringLiteral("its tables are not those of schema version 1");
+    QTest::newRow("another schema version")
+        << QByteArray("PRAGMA user_version = 9")
+        << QStringLiteral("schema version 9; only version 1 can be read");
+    QTest::newRow("another application")
+        << QByteArray("PRAGMA application_id = 1")
+        << QStringLiteral("an SQLite database, but not a supply database");
+    QTest::newRow("another table")
+        << QByteArray("CREATE TABLE note (text TEXT)")
+        << QStringLiteral("its tables are not those of schema version 1");
+    QTest::newRow("a trigger")
+        << QByteArray("CREATE TRIGGER gone AFTER DELETE ON supply BEGIN SELECT 1; END")
+        << QStringLiteral("its tables are not those of schema version 1");
+    QTest::newRow("a missing table")
+        << QByteArray("DROP TABLE print_setting")
+        << QStringLiteral("its tables are not those of schema version 1");
+    QTest::newRow("a row that refers to a missing row")
+        << QByteArray("DELETE FROM material WHERE id = 7")
+        << QStringLiteral("a row of supply refers to a missing row");
+    QTest::newRow("a missing panel")
+        << QByteArray("DELETE FROM ribbon_panel WHERE ribbon_sku = 'RIBBON-T'")
+        << QStringLiteral("the panels of ribbon RIBBON-T are not numbered consecutively from 1");
+    QTest::newRow("a ribbon that is a supply")
+        << QByteArray("UPDATE ribbon_panel SET ribbon_sku = 'TAPE-1' WHERE ribbon_sku = 'RIBBON-T'")
+        << QStringLiteral("a row of ribbon_panel refers to a missing row");
+    QTest::newRow("a continuous label")
+        << QByteArray("UPDATE supply SET label_length = 1")
+        << QStringLiteral("supply TAPE-1 has a label length and a continuous format, or neither");
+    QTest::newRow("a gap in a printer's list")
+        << QByteArray("DELETE FROM printer_format WHERE model = 'AlderMax' AND position = 0")
+        << QStringLiteral("the formats of the printer model \"AlderMax\" are not numbered "
+                          "consecutively from 0");
+    QTest::newRow("another first language")
+        << QByteArray("UPDATE language SET tag = 'eo' WHERE id = 0")
+        << QStringLiteral("the language 0 is \"eo\", not English");
+    QTest::newRow("no English") << QByteArray("DELETE FROM language WHERE id = 0")
+                                << QStringLiteral("English is missing");
+}
+
+void RollDbTest::findsInvalidContent()
+{
+    QFETCH(QByteArray, change);
+    QFETCH(QString, fault);
+    SmallCatalogue().write(path());
+    QVERIFY(runStatement(path(), change));
+    const QString found = failureOf([this] { checkDatabase(path()); });
+    QCOMPARE(found, fault.isEmpty() ? QString() : path() + QStringLiteral(": ") + fault);
+}
+
+void RollDbTest::findsDamage()
+{
+    SmallCatalogue().write(path());
+    QByteArray bytes = contentOf(path());
+    bytes.replace(4096, 4096, QByteArray(4096, '\xff'));
+    QVERIFY(writeFile(path(), bytes));
+    const QString found = failureOf([this] { checkDatabase(path()); });
+    QVERIFY2(found.startsWith(path() + QStringLiteral(": damaged: ")), qPrintable(found));
+    QVERIFY(!found.contains(u'\n'));
+}
+
+void RollDbTest::reportsASupply()
+{
+    SmallCatalogue().write(path());
+    QCOMPARE(skuReport(path(), QStringLiteral("TAPE-1"), 1),
+             QStringLiteral(
+                 "supply:          TAPE-1\n"
+                 "material:        7 Vinylfolie\n"
+                 "format:          1 Band\n"
+                 "type:            continuous\n"
+                 "colour:          #ffffff Weiß\n"
+                 "second colour:   #c8102e Rot\n"
+                 "stripe:          1.25 in\n"
+                 "width:           4 in\n"
+                 "length:          6000 in\n"
+                 "landscape:       yes\n"
+                 "side by side:    1\n"
+                 "background:      69 bytes\n"
+                 "printed with:    RIBBON-K panel 1: heat 52, offset 0, speed 4, tension 30\n"
+                 "printed with:    RIBBON-RK panel 1: heat 58, offset 2, speed 3, tension 32\n"
+                 "printed with:    RIBBON-RK panel 2: heat 55, offset 1, speed 4, tension 33\n"));
+}
+
+void RollDbTest::reportsARibbon()
+{
+    SmallCatalogue().write(path());
+    QCOMPARE(skuReport(path(), QStringLiteral("RIBBON-RK"), 0),
+             QStringLiteral("ribbon:          RIBBON-RK\n"
+                            "type:            resin\n"
+                            "width:           4.33 in\n"
+                            "length:          2360 in\n"
+                            "panel:           #c8102e Red\n"
+                            "panel:           #000000 Black\n"));
+}
+
+void RollDbTest::refusesToReportAnUnknownSku()
+{
+    SmallCatalogue().write(path());
+    QCOMPARE(failureOf([this] { skuReport(path(), QStringLiteral("NO-SUCH"), 0); }),
+             path() + QStringLiteral(": no supply or ribbon \"NO-SUCH\""));
+}
+
+void RollDbTest::theToolReturnsItsResultAndExitStatus_data()
+{
+    // "@" is replaced with the test's folder.
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("output");
+    QTest::addColumn<QString>("error");
+
+    const QString usage = QStringLiteral(" (see rolldb --help)\n");
+    QTest::newRow("build")
+        << QStringList{QStringLiteral("build"), sampleCatalogue, QStringLiteral("@new.db")} << 0
+        << QStringLiteral("@new.db: 46 supplies, 22 ribbons, 894 print settings, 5 languages\n")
+        << QString();
+    QTest::newRow("check")
+        << QStringList{QStringLiteral("check"), QStringLiteral("@roll.db")} << 0
+        << QStringLiteral("@roll.db: ok, 3 supplies, 3 ribbons, 4 print settings, 3 languages\n")
+        << QString();
+    QTest::newRow("show")
+        << QStringList{QStringLiteral("show"), QStringLiteral("--language"), QStringLiteral("de"),
+                       QStringLiteral("@roll.db"), QStringLiteral("RIBBON-T")}
+        << 0
+        << QStringLiteral(
+               "ribbon:          RIBBON-T\ntype:            resin\nwidth:           2.4 in\n"
+               "length:          4725 in\npanel:           #008080 Teal\n")
+        << QString();
+    QTest::newRow("no command") << QStringList{} << 2 << QString()
+                                << QStringLiteral("rolldb: expected build, check or show") + usage;
+    QTest::newRow("an unknown command")
+        << QStringList{QStringLiteral("fix")} << 2 << QString()
+        << QStringLiteral("rolldb: unknown command \"fix\"; expected build, check or show") + usage;
+    QTest::newRow("too few arguments")
+        << QStringList{QStringLiteral("build"), QStringLiteral("x")} << 2 << QString()
+        << QStringLiteral("rolldb: build takes 2 arguments, not 1") + usage;
+    QTest::newRow("another option")
+        << QStringList{QStringLiteral("check"), QStringLiteral("--fix"), QStringLiteral("@roll.db")}
+        << 2 << QString() << QStringLiteral("rolldb: Unknown option 'fix'.") + usage;
+    QTest::newRow("another language")
+        << QStringList{QStringLiteral("show"), QStringLiteral("--language"), QStringLiteral("xx"),
+                       QStringLiteral("@roll.db"), QStringLiteral("TAPE-1")}
+        << 2 << QString() << QStringLiteral("rolldb: \"xx\" is not a known language") + usage;
+    QTest::newRow("no directory") << QStringList{QStringLiteral("build"),
+                                                 QStringLiteral("@nowhere"),
+                                                 QStringLiteral("@new.db")}
+                                  << 1 << QString()
+                                  << QStringLiteral("rolldb: @nowhere: no such directory\n");
+    QTest::newRow("no tables")
+        << QStringList{QStringLiteral("build"), QStringLiteral("@"), QStringLiteral("@new.db")} << 1
+        << QString() << QStringLiteral("rolldb: colours.csv: no such file, or it cannot be read\n");
+    QTest::newRow("no file") << QStringList{QStringLiteral("check"), QStringLiteral("@none.db")}
+                             << 1 << QString()
+                             << QStringLiteral("rolldb: @none.db: no such file\n");
+    QTest::newRow("no database") << QStringList{QStringLiteral("show"), QStringLiteral("@text.db"),
+                                                QStringLiteral("TAPE-1")}
+                                 << 1 << QString()
+                                 << QStringLiteral("rolldb: @text.db: not an SQLite database\n");
+}
+
+void RollDbTest::theToolReturnsItsResultAndExitStatus()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, output);
+    QFETCH(QString, error);
+    const QString folder = m_folder->path() + u'/';
+    SmallCatalogue().write(path());
+    QVERIFY(writeFile(m_folder->filePath(QStringLiteral("text.db")), "not a database"));
+    QProcess tool;
+    startProcess(tool, QStringLiteral(VX_ROLLDB),
+                 arguments.replaceInStrings(QStringLiteral("@"), folder));
+    QVERIFY2(tool.waitForFinished(patience), qPrintable(tool.errorString()));
+    QCOMPARE(tool.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(QString::fromUtf8(tool.readAllStandardError()).remove(u'\r'),
+             error.replace(QStringLiteral("@"), folder));
+    QCOMPARE(QString::fromUtf8(tool.readAllStandardOutput()).remove(u'\r'),
+             output.replace(QStringLiteral("@"), folder));
+    QTEST(tool.exitCode(), "status");
+}
+
+void RollDbTest::theToolPrintsItsHelp()
+{
+    QProcess tool;
+    startProcess(tool, QStringLiteral(VX_ROLLDB), {QStringLiteral("--help")});
+    QVERIFY2(tool.waitForFinished(patience), qPrintable(tool.errorString()));
+    QCOMPARE(tool.exitCode(), 0);
+    const QString help = QString::fromUtf8(tool.readAllStandardOutput());
+    for (const auto& command : {QStringLiteral("rolldb build"), QStringLiteral("rolldb check"),
+                                QStringLiteral("rolldb show")})
+        QVERIFY2(help.contains(command), qPrintable(command));
+}
 
 QTEST_GUILESS_MAIN(RollDbTest)
 #include "tst_rolldb.moc"

@@ -7,6 +7,7 @@
 #include "vxipcclient.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QEventLoop>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 #include <QtCore/QPointer>
@@ -21,11 +22,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-QString nameOf(int serverType)
-{
-    return QStringLiteral("vxipc-%1").arg(serverType);
-}
-
 /// A server that answers every connection's lines with the same bytes.
 class OddServer : public QLocalServer
 {
@@ -33,7 +29,7 @@ public:
     OddServer(const QString& name, const QByteArray& answer)
     {
         setSocketOptions(UserAccessOption);
-        // The folder is made by endpoints, the first of which this process has had by then.
+        // An endpoint of this process has created the folder by now.
         listen(VXIPCClient::address(name));
         connect(this, &QLocalServer::newConnection, this, [this, answer] {
             QLocalSocket* socket = nextPendingConnection();
@@ -65,7 +61,7 @@ private:
     {
         while (socket.canReadLine()) {
             const QJsonValue id = QJsonDocument::fromJson(socket.readLine())[QStringLiteral("id")];
-            const QByteArray line = JsonRpc::success(id, QByteArray::number(id.toInteger()));
+            const QByteArray line = json_rpc::success(id, QByteArray::number(id.toInteger()));
             if (std::exchange(m_isFirst, false)) {
                 socket.write(line.first(line.size() / 2));
                 socket.disconnectFromServer();
@@ -80,7 +76,7 @@ private:
 
 } // namespace
 
-class tst_VXIPCClient : public QObject
+class VXIPCClientTest : public QObject
 {
     Q_OBJECT
 
@@ -90,31 +86,35 @@ private Q_SLOTS:
     void waitsForAResult();
     void waitsForAnError();
     void callsByName();
-    void tellsWhenNobodyIsThere();
+    void reportsThatNoEndpointAnswers();
     void givesUpWaitingInTime();
-    void takesNoLateAnswerForAnother();
-    void losesACallWithItsProcess();
-    void forgetsHalfAnAnswerOfAServerThatDied();
+    void ignoresLateAnswers();
+    void reportsCallsLostWithTheProcess();
+    void discardsHalfAnAnswerOfAServerThatDied();
     void refusesToSendALineThatIsTooLong();
 
     void callsWithoutWaiting();
-    void answersLaterThanTheCall();
+    void callsBackLaterThanTheCall();
     void keepsManyCallsInFlight();
-    void tellsLateCallsInTheirOrder();
+    void reportsLateCallsInOrder();
     void givesUpEachCallInItsTime();
-    void keepsOthersOutcomesWhileItWaits();
+    void deliversOtherOutcomesAfterAWait();
     void waitsWithinACallback();
+    void runsAnEventLoopInACallback();
     void mayBeDestroyedInACallback();
+    void mayBeDestroyedWhenTheConnectionIsLost_data();
+    void mayBeDestroyedWhenTheConnectionIsLost();
+    void answersACallMadeWhenTheConnectionIsLost();
     void forgetsItsCallsWhenDestroyed();
     void sendsNotifications();
 
-    void tellsOfConnections();
+    void reportsConnections();
     void connectsAgain();
-    void staysAwayWhenToldTo();
+    void staysDisconnectedOnRequest();
     void findsAnEndpointThatComesLater();
-    void readsWhatIsNoAnswer_data();
-    void readsWhatIsNoAnswer();
-    void readsThatThereAreTooManyClients();
+    void refusesInvalidAnswers_data();
+    void refusesInvalidAnswers();
+    void reportsTooManyClients();
     void listsRunningServers();
 
 private:
@@ -123,7 +123,7 @@ private:
     QString m_name;
 };
 
-void tst_VXIPCClient::initTestCase()
+void VXIPCClientTest::initTestCase()
 {
     const int serverType = newServerType();
     m_host = std::make_unique<HostProcess>(serverType);
@@ -131,7 +131,7 @@ void tst_VXIPCClient::initTestCase()
     QCOMPARE(m_name, nameOf(serverType));
 }
 
-void tst_VXIPCClient::waitsForAResult()
+void VXIPCClientTest::waitsForAResult()
 {
     VXIPCClient client(m_name);
     QCOMPARE(client.serverName(), m_name);
@@ -144,7 +144,7 @@ void tst_VXIPCClient::waitsForAResult()
     QVERIFY(nothing.result.isNull());
 }
 
-void tst_VXIPCClient::waitsForAnError()
+void VXIPCClientTest::waitsForAnError()
 {
     VXIPCClient client(m_name);
     const VXIPCReply unknown = client.callAndWait(QStringLiteral("nothing"));
@@ -158,7 +158,7 @@ void tst_VXIPCClient::waitsForAnError()
     QVERIFY(client.isConnected());
 }
 
-void tst_VXIPCClient::callsByName()
+void VXIPCClientTest::callsByName()
 {
     VXIPCClient client(m_name);
     const VXIPCReply reply =
@@ -168,7 +168,7 @@ void tst_VXIPCClient::callsByName()
     QCOMPARE(reply.result.toInt(), 8);
 }
 
-void tst_VXIPCClient::tellsWhenNobodyIsThere()
+void VXIPCClientTest::reportsThatNoEndpointAnswers()
 {
     VXIPCClient client(newServerType());
     const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"));
@@ -185,7 +185,7 @@ void tst_VXIPCClient::tellsWhenNobodyIsThere()
     QCOMPARE(later->error->code, int(VXIPCError::NotReachable));
 }
 
-void tst_VXIPCClient::givesUpWaitingInTime()
+void VXIPCClientTest::givesUpWaitingInTime()
 {
     VXIPCClient client(m_name);
     QElapsedTimer timer;
@@ -201,7 +201,7 @@ void tst_VXIPCClient::givesUpWaitingInTime()
              int(VXIPCError::TimedOut));
 }
 
-void tst_VXIPCClient::takesNoLateAnswerForAnother()
+void VXIPCClientTest::ignoresLateAnswers()
 {
     VXIPCClient client(m_name);
     QVERIFY(!client.callAndWait(QStringLiteral("block"), QJsonArray{100}, 1ms).isOk());
@@ -210,13 +210,13 @@ void tst_VXIPCClient::takesNoLateAnswerForAnother()
     QCOMPARE(reply.result.toInt(), 10);
 }
 
-void tst_VXIPCClient::losesACallWithItsProcess()
+void VXIPCClientTest::reportsCallsLostWithTheProcess()
 {
     HostProcess host(newServerType());
     VXIPCClient client(host.serverName());
     std::optional<VXIPCReply> lost;
     client.call(QStringLiteral("wait"), {}, [&](const VXIPCReply& outcome) { lost = outcome; });
-    // The endpoint is in the call when this is answered.
+    // When this is answered, the endpoint is within the call.
     VXIPCClient other(host.serverName());
     QTRY_VERIFY(other.callAndWait(QStringLiteral("isWaiting")).result.toBool());
     host.kill();
@@ -229,10 +229,10 @@ void tst_VXIPCClient::losesACallWithItsProcess()
     QLocalServer::removeServer(VXIPCClient::address(host.serverName()));
 }
 
-void tst_VXIPCClient::forgetsHalfAnAnswerOfAServerThatDied()
+void VXIPCClientTest::discardsHalfAnAnswerOfAServerThatDied()
 {
     const int serverType = newServerType();
-    // Makes the folder that endpoints live in, where there is none yet.
+    // Creates the folder that endpoints live in, where there is none yet.
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
     const DyingServer server(nameOf(serverType));
@@ -249,22 +249,22 @@ void tst_VXIPCClient::forgetsHalfAnAnswerOfAServerThatDied()
     QCOMPARE(second->result.toInt(), 2);
 }
 
-void tst_VXIPCClient::refusesToSendALineThatIsTooLong()
+void VXIPCClientTest::refusesToSendALineThatIsTooLong()
 {
     VXIPCClient client(m_name);
-    // A line of the greatest length that an endpoint reads, its end not counted, and one byte more.
-    // The calls have numbers of one digit.
-    const QByteArray bare = JsonRpc::request(QString(), QJsonArray(), 1);
-    const QString longest(JsonRpc::maximumLine + 1 - bare.size(), QLatin1Char('x'));
+    // The longest line that an endpoint reads, not counting the line end, and one byte more. The
+    // ids of both calls have one digit.
+    const QByteArray bare = json_rpc::request(QString(), QJsonArray(), 1);
+    const QString longest(json_rpc::maximumLine + 1 - bare.size(), QLatin1Char('x'));
     QCOMPARE(client.callAndWait(longest, QJsonArray()).error->code, -32601);
     QCOMPARE(client.callAndWait(longest + QLatin1Char('x'), QJsonArray()).error->code, -32000);
-    // It was not sent: the endpoint would have ended the connection.
+    // It was not sent, or the endpoint would have closed the connection.
     QSignalSpy disconnected(&client, &VXIPCClient::disconnected);
     QCOMPARE(client.callAndWait(QStringLiteral("scale"), QJsonArray{1}).result.toInt(), 10);
     QVERIFY(disconnected.isEmpty());
 }
 
-void tst_VXIPCClient::callsWithoutWaiting()
+void VXIPCClientTest::callsWithoutWaiting()
 {
     VXIPCClient client(m_name);
     std::optional<VXIPCReply> good;
@@ -279,7 +279,7 @@ void tst_VXIPCClient::callsWithoutWaiting()
     QCOMPARE(bad->error->code, -32601);
 }
 
-void tst_VXIPCClient::answersLaterThanTheCall()
+void VXIPCClientTest::callsBackLaterThanTheCall()
 {
     VXIPCClient client(m_name);
     bool isAnswered = false;
@@ -290,7 +290,7 @@ void tst_VXIPCClient::answersLaterThanTheCall()
     QTRY_VERIFY(isAnswered);
 }
 
-void tst_VXIPCClient::keepsManyCallsInFlight()
+void VXIPCClientTest::keepsManyCallsInFlight()
 {
     constexpr int callCount = 2000;
     VXIPCClient client(m_name);
@@ -304,7 +304,7 @@ void tst_VXIPCClient::keepsManyCallsInFlight()
         QCOMPARE(results.at(i), i);
 }
 
-void tst_VXIPCClient::tellsLateCallsInTheirOrder()
+void VXIPCClientTest::reportsLateCallsInOrder()
 {
     VXIPCClient client(m_name);
     client.setTimeout(20ms);
@@ -324,9 +324,9 @@ void tst_VXIPCClient::tellsLateCallsInTheirOrder()
                                  QStringLiteral("third answered")}));
 }
 
-void tst_VXIPCClient::givesUpEachCallInItsTime()
+void VXIPCClientTest::givesUpEachCallInItsTime()
 {
-    // Makes the folder that endpoints live in, where there is none yet.
+    // Creates the folder that endpoints live in, where there is none yet.
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
     const QString name = nameOf(newServerType());
@@ -343,7 +343,7 @@ void tst_VXIPCClient::givesUpEachCallInItsTime()
     }
 }
 
-void tst_VXIPCClient::keepsOthersOutcomesWhileItWaits()
+void VXIPCClientTest::deliversOtherOutcomesAfterAWait()
 {
     VXIPCClient client(m_name);
     QList<int> results;
@@ -358,7 +358,7 @@ void tst_VXIPCClient::keepsOthersOutcomesWhileItWaits()
     QCOMPARE(results.last(), 99);
 }
 
-void tst_VXIPCClient::waitsWithinACallback()
+void VXIPCClientTest::waitsWithinACallback()
 {
     VXIPCClient client(m_name);
     int inner = 0;
@@ -371,7 +371,33 @@ void tst_VXIPCClient::waitsWithinACallback()
     QTRY_VERIFY(isSecondAnswered);
 }
 
-void tst_VXIPCClient::mayBeDestroyedInACallback()
+void VXIPCClientTest::runsAnEventLoopInACallback()
+{
+    // Creates the folder that endpoints live in, where there is none yet.
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QString name = nameOf(newServerType());
+    // Both answers arrive at once, and nothing after them.
+    const OddServer server(name, json_rpc::success(1, "1") + json_rpc::success(2, "2"));
+    QVERIFY(server.isListening());
+    VXIPCClient client(name);
+    QEventLoop loop;
+    bool isFirstDone = false;
+    std::optional<VXIPCReply> second;
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply&) {
+        loop.exec();
+        isFirstDone = true;
+    });
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) {
+        second = reply;
+        loop.quit();
+    });
+    QTRY_VERIFY(isFirstDone);
+    QVERIFY2(second->isOk(), qPrintable(second->error.value_or(VXIPCError()).message));
+    QCOMPARE(second->result.toInt(), 2);
+}
+
+void VXIPCClientTest::mayBeDestroyedInACallback()
 {
     auto* client = new VXIPCClient(m_name);
     const QPointer<VXIPCClient> alive(client);
@@ -386,7 +412,54 @@ void tst_VXIPCClient::mayBeDestroyedInACallback()
     QCOMPARE(answers, 1);
 }
 
-void tst_VXIPCClient::forgetsItsCallsWhenDestroyed()
+void VXIPCClientTest::mayBeDestroyedWhenTheConnectionIsLost_data()
+{
+    QTest::addColumn<bool>("isLostByTheServer");
+
+    QTest::newRow("by the server") << true;
+    QTest::newRow("by the client") << false;
+}
+
+void VXIPCClientTest::mayBeDestroyedWhenTheConnectionIsLost()
+{
+    QFETCH(const bool, isLostByTheServer);
+
+    // Creates the folder that endpoints live in, where there is none yet.
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QString name = nameOf(newServerType());
+    const DyingServer server(name);
+    QVERIFY(server.isListening());
+    auto* client = new VXIPCClient(name);
+    const QPointer<VXIPCClient> alive(client);
+    client->call(QStringLiteral("notes"), {}, [client](const VXIPCReply&) { delete client; });
+    if (!isLostByTheServer)
+        client->disconnectFromServer();
+    QTRY_VERIFY(!alive);
+}
+
+void VXIPCClientTest::answersACallMadeWhenTheConnectionIsLost()
+{
+    // Creates the folder that endpoints live in, where there is none yet.
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QString name = nameOf(newServerType());
+    const DyingServer server(name);
+    QVERIFY(server.isListening());
+    VXIPCClient client(name);
+    std::optional<VXIPCReply> first;
+    std::optional<VXIPCReply> second;
+    connect(&client, &VXIPCClient::disconnected, this, [&] {
+        client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) { second = reply; });
+    });
+    client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) { first = reply; });
+    QTRY_VERIFY(first && second);
+    QCOMPARE(first->error->code, int(VXIPCError::ConnectionLost));
+    QVERIFY2(second->isOk(), qPrintable(second->error.value_or(VXIPCError()).message));
+    QCOMPARE(second->result.toInt(), 2);
+}
+
+void VXIPCClientTest::forgetsItsCallsWhenDestroyed()
 {
     bool isAnswered = false;
     const auto remember = [&](const VXIPCReply&) {
@@ -395,8 +468,8 @@ void tst_VXIPCClient::forgetsItsCallsWhenDestroyed()
     {
         VXIPCClient client(m_name);
         client.call(QStringLiteral("notes"), {}, remember);
-        VXIPCClient nobodys(newServerType());
-        nobodys.call(QStringLiteral("notes"), {}, remember);
+        VXIPCClient unreachable(newServerType());
+        unreachable.call(QStringLiteral("notes"), {}, remember);
     }
     VXIPCClient client(m_name);
     QVERIFY(client.callAndWait(QStringLiteral("notes")).isOk());
@@ -404,17 +477,17 @@ void tst_VXIPCClient::forgetsItsCallsWhenDestroyed()
     QVERIFY(!isAnswered);
 }
 
-void tst_VXIPCClient::sendsNotifications()
+void VXIPCClientTest::sendsNotifications()
 {
     HostProcess host(newServerType());
     VXIPCClient client(host.serverName());
-    QVERIFY(client.notify(QStringLiteral("note"), QJsonArray{QStringLiteral("told")}));
+    QVERIFY(client.notify(QStringLiteral("note"), QJsonArray{QStringLiteral("sent")}));
     QVERIFY(client.notify(QStringLiteral("nothing")));
     QCOMPARE(client.callAndWait(QStringLiteral("notes")).result,
-             QJsonValue(QJsonArray{QStringLiteral("told")}));
+             QJsonValue(QJsonArray{QStringLiteral("sent")}));
 }
 
-void tst_VXIPCClient::tellsOfConnections()
+void VXIPCClientTest::reportsConnections()
 {
     VXIPCClient client(m_name);
     QSignalSpy connected(&client, &VXIPCClient::connected);
@@ -435,7 +508,7 @@ void tst_VXIPCClient::tellsOfConnections()
     QVERIFY(client.callAndWait(QStringLiteral("notes")).isOk());
 }
 
-void tst_VXIPCClient::connectsAgain()
+void VXIPCClientTest::connectsAgain()
 {
     const int serverType = newServerType();
     auto host = std::make_unique<HostProcess>(serverType);
@@ -456,7 +529,7 @@ void tst_VXIPCClient::connectsAgain()
     QVERIFY(client.callAndWait(QStringLiteral("notes")).isOk());
 }
 
-void tst_VXIPCClient::staysAwayWhenToldTo()
+void VXIPCClientTest::staysDisconnectedOnRequest()
 {
     VXIPCClient client(m_name);
     QSignalSpy connected(&client, &VXIPCClient::connected);
@@ -467,7 +540,7 @@ void tst_VXIPCClient::staysAwayWhenToldTo()
     QVERIFY(!client.isConnected());
 }
 
-void tst_VXIPCClient::findsAnEndpointThatComesLater()
+void VXIPCClientTest::findsAnEndpointThatComesLater()
 {
     const int serverType = newServerType();
     VXIPCClient client(serverType);
@@ -477,7 +550,7 @@ void tst_VXIPCClient::findsAnEndpointThatComesLater()
     QTRY_COMPARE_WITH_TIMEOUT(connected.size(), 1, patience);
 }
 
-void tst_VXIPCClient::readsWhatIsNoAnswer_data()
+void VXIPCClientTest::refusesInvalidAnswers_data()
 {
     QTest::addColumn<QByteArray>("answer");
 
@@ -491,12 +564,12 @@ void tst_VXIPCClient::readsWhatIsNoAnswer_data()
     QTest::newRow("empty object") << QByteArray("{}\n");
 }
 
-void tst_VXIPCClient::readsWhatIsNoAnswer()
+void VXIPCClientTest::refusesInvalidAnswers()
 {
     QFETCH(const QByteArray, answer);
 
     const int serverType = newServerType();
-    // Makes the folder that endpoints live in, where there is none yet.
+    // Creates the folder that endpoints live in, where there is none yet.
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
     const OddServer server(nameOf(serverType), answer);
@@ -507,11 +580,11 @@ void tst_VXIPCClient::readsWhatIsNoAnswer()
     client.call(QStringLiteral("notes"), {}, [&](const VXIPCReply& reply) { outcome = reply; });
     QTRY_VERIFY(outcome);
     QCOMPARE(outcome->error->code, int(VXIPCError::BadAnswer));
-    // Whatever else comes from there is of no use, and there may be no end of it.
+    // Whatever else arrives is useless, and may never end.
     QTRY_VERIFY(!partings.isEmpty());
 }
 
-void tst_VXIPCClient::readsThatThereAreTooManyClients()
+void VXIPCClientTest::reportsTooManyClients()
 {
     HostProcess host(newServerType());
     std::vector<std::unique_ptr<VXIPCClient>> clients;
@@ -523,12 +596,12 @@ void tst_VXIPCClient::readsThatThereAreTooManyClients()
     QCOMPARE(tooMany.callAndWait(QStringLiteral("notes")).error->code, -32001);
 }
 
-void tst_VXIPCClient::listsRunningServers()
+void VXIPCClientTest::listsRunningServers()
 {
     const QString name = nameOf(newServerType());
     QVERIFY(VXIPCClient::runningServers().contains(m_name));
     QVERIFY(!VXIPCClient::runningServers().contains(name));
 }
 
-QTEST_GUILESS_MAIN(tst_VXIPCClient)
+QTEST_GUILESS_MAIN(VXIPCClientTest)
 #include "tst_vxipc_client.moc"

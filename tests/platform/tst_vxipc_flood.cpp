@@ -22,20 +22,20 @@ namespace {
 
 constexpr auto floodTime = 10s;
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-/// What the sanitizers put into the endpoint's code makes it five to ten times as slow, and as
-/// many times as much is what another client's megabyte takes then.
+/// The sanitizers make the endpoint five to ten times as slow, so the megabyte of another client
+/// takes as many times longer.
 constexpr auto slowestOfAHundred = 500ms;
 #else
 constexpr auto slowestOfAHundred = 50ms;
 #endif
 
-/// One kind of bad client: what it sends, and whether it takes what is answered.
+/// One kind of bad client.
 struct Badness
 {
     const char* name;
     QByteArray bytes;
-    bool takesAnswers;
-    /// Whether it leaves after each time it sent.
+    bool readsAnswers;
+    /// Whether it disconnects each time it has sent its bytes.
     bool leaves;
 };
 
@@ -61,7 +61,7 @@ std::vector<Badness> badnesses()
     };
 }
 
-/// Sends as fast as the endpoint takes it, connecting again whenever it is thrown out.
+/// Sends as fast as the endpoint reads, and reconnects whenever it is disconnected.
 class BadClient : public QObject
 {
 public:
@@ -70,8 +70,8 @@ public:
         , m_badness(std::move(badness))
         , m_socket(this)
     {
-        // What is not taken stays with the system, where it stops the endpoint's sending.
-        if (!m_badness.takesAnswers)
+        // Unread answers fill the system's buffer, until the endpoint can send no more.
+        if (!m_badness.readsAnswers)
             m_socket.setReadBufferSize(1);
         connect(&m_socket, &QLocalSocket::connected, this, &BadClient::send);
         connect(&m_socket, &QLocalSocket::bytesWritten, this, &BadClient::onBytesWritten);
@@ -104,7 +104,7 @@ private:
 
     void onReadyRead()
     {
-        if (m_badness.takesAnswers)
+        if (m_badness.readsAnswers)
             m_socket.readAll();
     }
 
@@ -113,8 +113,8 @@ private:
     QLocalSocket m_socket;
 };
 
-/// The bad clients, on one thread: together they still send more than the endpoint takes, and do
-/// not take the processors away from the two that are measured.
+/// The bad clients, on one thread: together they still send more than the endpoint can read, and
+/// leave a processor to the endpoint and the client that are measured.
 class Flood
 {
 public:
@@ -143,8 +143,8 @@ private:
     std::vector<std::unique_ptr<BadClient>> m_clients;
 };
 
-/// How long threads that could have run had to wait for a processor so far, which is the machine's
-/// doing and nobody else's. Nothing where the system does not tell.
+/// How long runnable threads have waited for a processor so far. That depends on the machine's load
+/// only, and some systems do not report it.
 class ProcessorWaits
 {
 public:
@@ -191,15 +191,15 @@ std::chrono::nanoseconds quantile(std::vector<std::chrono::nanoseconds> times, d
 
 } // namespace
 
-class tst_VXIPCFlood : public QObject
+class VXIPCFloodTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void leavesAGoodClientServed();
+    void servesAGoodClientDuringAFlood();
 };
 
-void tst_VXIPCFlood::leavesAGoodClientServed()
+void VXIPCFloodTest::servesAGoodClientDuringAFlood()
 {
     HostProcess host(newServerType());
     QVERIFY(!host.serverName().isEmpty());
@@ -218,7 +218,7 @@ void tst_VXIPCFlood::leavesAGoodClientServed()
         timer.start();
         const VXIPCReply reply =
             good.callAndWait(QStringLiteral("echo"), QJsonArray{QStringLiteral("good")});
-        times.push_back(std::chrono::nanoseconds(timer.nsecsElapsed()));
+        times.emplace_back(timer.nsecsElapsed());
         timesOfTheirOwn.push_back(times.back() - (waits.all() - waitedBefore));
         isServed = reply.isOk() && reply.result == QStringLiteral("good");
     }
@@ -226,19 +226,19 @@ void tst_VXIPCFlood::leavesAGoodClientServed()
 
     QVERIFY(isServed);
     QVERIFY(!times.empty());
-    // What endpoint and client took for themselves, working or blocked: on a busy machine both wait
-    // for a processor besides, along with the bad clients and whatever else runs.
+    // The time that endpoint and client took themselves, working or blocked. On a busy machine both
+    // also wait for a processor, as do the bad clients and whatever else runs.
     const std::chrono::nanoseconds p99 = quantile(timesOfTheirOwn, 0.99);
     qInfo("%zu calls: median %.2f ms, p99 %.2f ms, of which endpoint and client took p99 %.2f ms",
           times.size(), milliseconds(quantile(times, 0.5)), milliseconds(quantile(times, 0.99)),
           milliseconds(p99));
     if (!waits.isKnown())
-        QSKIP("The system does not tell how long threads wait for a processor");
+        QSKIP("The system does not report how long threads wait for a processor");
     QVERIFY(p99 < slowestOfAHundred);
-    // It is still there for the next one.
+    // The endpoint still serves new clients.
     VXIPCClient next(host.serverName());
     QTRY_VERIFY(next.callAndWait(QStringLiteral("notes")).isOk());
 }
 
-QTEST_GUILESS_MAIN(tst_VXIPCFlood)
+QTEST_GUILESS_MAIN(VXIPCFloodTest)
 #include "tst_vxipc_flood.moc"

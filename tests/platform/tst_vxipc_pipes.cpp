@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// How endpoints get their pipes on Windows, and which pipes clients believe.
+// How endpoints obtain their pipes on Windows, and which pipes clients trust.
 //
-// Shown here: the name, the owner and the rights of a pipe, that a name is taken once, whose pipes
-// are believed, and for how long is waited. Not shown under Wine, which has one user, looks at no
-// rights when a pipe is opened, takes no clients from other machines, and has its server
-// impersonate the server's own process whoever the client is (wine/server/named_pipe.c,
-// FSCTL_PIPE_IMPERSONATE): that other users and machines are kept out, and what a client lets be
-// done in its name.
+// Tested here: the name, the owner and the rights of a pipe, that a name is taken only once, whose
+// pipes are trusted, and how long clients wait. Not tested under Wine: that other users and
+// machines are kept out, and what a server may do in a client's name. Wine has one user, checks no
+// rights when a pipe is opened, accepts no clients from other machines, and has a server
+// impersonate its own process whoever the client is (wine/server/named_pipe.c,
+// FSCTL_PIPE_IMPERSONATE).
 #include "ipc_host_process.h"
 #include "ipc_raw_client.h"
 #include "ipc_test_service.h"
+#include "is_wine.h"
 #include "vxipcclient.h"
 
 #include <QtCore/QElapsedTimer>
@@ -51,11 +52,6 @@ OwnedHandle owned(HANDLE handle)
     return OwnedHandle(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
 }
 
-bool isWine()
-{
-    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-}
-
 QString text(PSID identifier)
 {
     wchar_t* text = nullptr;
@@ -78,16 +74,6 @@ QString userOfProcess()
     return text(reinterpret_cast<const TOKEN_USER*>(user.data())->User.Sid);
 }
 
-QString nameOf(int serverType)
-{
-    return QStringLiteral("vxipc-%1").arg(serverType);
-}
-
-QString ownNameOf(int serverType)
-{
-    return QStringLiteral("vxipc-%1-%2").arg(serverType).arg(QCoreApplication::applicationPid());
-}
-
 QString pathOf(const QString& name)
 {
     return QStringLiteral(R"(\\.\pipe\)") + VXIPCClient::address(name);
@@ -99,8 +85,8 @@ OwnedHandle openPipe(const QString& path)
                              OPEN_EXISTING, 0, nullptr));
 }
 
-/// A pipe of the test's own under the path, with as many ends as it gets clients. `rights` is in
-/// the language of security descriptors.
+/// A pipe of the test itself at the path, of which up to `ends` instances may exist. `rights` is a
+/// security descriptor in string form.
 OwnedHandle makePipe(const QString& path, const QString& rights, DWORD ends = 1)
 {
     PSECURITY_DESCRIPTOR descriptor = nullptr;
@@ -116,7 +102,7 @@ OwnedHandle makePipe(const QString& path, const QString& rights, DWORD ends = 1)
                                   PIPE_TYPE_BYTE, ends, 4096, 4096, 0, &attributes));
 }
 
-/// The rights of a pipe as the user's own endpoints have them.
+/// The rights that the pipes of the user's own endpoints have.
 QString usersOwn()
 {
     return QStringLiteral("O:%1D:P(A;;FA;;;%1)").arg(userOfProcess());
@@ -131,15 +117,15 @@ class tst_VXIPCPipes : public QObject
 private Q_SLOTS:
     void isNamedAfterTheUser();
     void belongsToTheUser();
-    void takesNoNameThatSomebodyHas();
-    void takesNoNameThatIsBusy();
+    void takesNoNameThatIsInUse();
+    void takesNoNameOfABusyPipe();
     void isPublishedOnceAnyNameIsFree();
-    void keepsItsNameWhenItsClientsGo();
-    void staysAwayFromOtherMachines();
+    void keepsItsNameWhenItsClientsLeave();
+    void refusesOtherMachines();
 
-    void believesOnlyTheUsersOwn_data();
-    void believesOnlyTheUsersOwn();
-    void letsItselfBeIdentifiedAndNoMore();
+    void trustsOnlyTheUsersOwn_data();
+    void trustsOnlyTheUsersOwn();
+    void allowsIdentificationOnly();
     void waitsForAConnectionNoLongerThanForTheAnswer();
 };
 
@@ -173,9 +159,9 @@ void tst_VXIPCPipes::belongsToTheUser()
     QCOMPARE(text(&entry->SidStart), userOfProcess());
 }
 
-void tst_VXIPCPipes::takesNoNameThatSomebodyHas()
+void tst_VXIPCPipes::takesNoNameThatIsInUse()
 {
-    // A pipe that would let more ends be made, which Windows gives to whoever asks with the rights.
+    // Its rights let anybody create further instances of this pipe.
     const int serverType = newServerType();
     const OwnedHandle pipe = makePipe(pathOf(nameOf(serverType)), QStringLiteral("D:P(A;;FA;;;WD)"),
                                       PIPE_UNLIMITED_INSTANCES);
@@ -189,7 +175,7 @@ void tst_VXIPCPipes::takesNoNameThatSomebodyHas()
     QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
 }
 
-void tst_VXIPCPipes::takesNoNameThatIsBusy()
+void tst_VXIPCPipes::takesNoNameOfABusyPipe()
 {
     constexpr int services = 6;
     QElapsedTimer timer;
@@ -204,7 +190,7 @@ void tst_VXIPCPipes::takesNoNameThatIsBusy()
         TestService service(serverType);
         QTRY_COMPARE(service.serverName(), ownNameOf(serverType));
     }
-    // Five seconds for each, for which a client may wait for an end that is free, would be more
+    // With five seconds for each, for which a client may wait for a free instance, it would be more
     // than twice that.
     QVERIFY2(timer.elapsed() < services * 2000, qPrintable(QString::number(timer.elapsed())));
 }
@@ -227,16 +213,16 @@ void tst_VXIPCPipes::isPublishedOnceAnyNameIsFree()
     QCoreApplication::sendPostedEvents(&service);
     QCOMPARE(service.serverName(), QString());
     first.reset();
-    // On a busy machine the intervals have grown by now.
+    // On a busy machine the retry intervals have grown by now.
     QTRY_COMPARE_WITH_TIMEOUT(service.serverName(), nameOf(serverType), 30000);
 }
 
-void tst_VXIPCPipes::keepsItsNameWhenItsClientsGo()
+void tst_VXIPCPipes::keepsItsNameWhenItsClientsLeave()
 {
     const int serverType = newServerType();
     TestService service(serverType);
     QTRY_COMPARE(service.serverName(), nameOf(serverType));
-    // More than wait for clients at a time.
+    // More clients than server ends that wait at a time.
     for (int i = 0; i < 300; ++i) {
         RawClient client(service.serverName());
         QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
@@ -247,7 +233,7 @@ void tst_VXIPCPipes::keepsItsNameWhenItsClientsGo()
     QVERIFY(client.isConnected());
 }
 
-void tst_VXIPCPipes::staysAwayFromOtherMachines()
+void tst_VXIPCPipes::refusesOtherMachines()
 {
     if (isWine())
         QSKIP("Wine opens no pipes through the network");
@@ -260,17 +246,17 @@ void tst_VXIPCPipes::staysAwayFromOtherMachines()
     QCOMPARE(error, DWORD{ERROR_ACCESS_DENIED});
 }
 
-void tst_VXIPCPipes::believesOnlyTheUsersOwn_data()
+void tst_VXIPCPipes::trustsOnlyTheUsersOwn_data()
 {
     QTest::addColumn<QString>("rights");
     QTest::addColumn<bool>("isBelieved");
 
     QTest::newRow("the user's") << usersOwn() << true;
-    // Who may name them as the owner is an administrator, so this is what there is of other users.
+    // Stands for other users: an administrator may name this group as the owner.
     QTest::newRow("the administrators'") << QStringLiteral("O:BAD:P(A;;FA;;;WD)") << false;
 }
 
-void tst_VXIPCPipes::believesOnlyTheUsersOwn()
+void tst_VXIPCPipes::trustsOnlyTheUsersOwn()
 {
     QFETCH(const QString, rights);
     QFETCH(const bool, isBelieved);
@@ -279,7 +265,7 @@ void tst_VXIPCPipes::believesOnlyTheUsersOwn()
     const QString path = pathOf(nameOf(serverType));
     const OwnedHandle pipe = makePipe(path, rights);
     if (!pipe && GetLastError() == ERROR_INVALID_OWNER)
-        QSKIP("Only an administrator can make it");
+        QSKIP("Only an administrator can create this pipe");
     QVERIFY2(pipe, qPrintable(qt_error_string()));
     VXIPCClient client(serverType);
     QCOMPARE(client.connectToServer(), isBelieved);
@@ -296,17 +282,17 @@ void tst_VXIPCPipes::believesOnlyTheUsersOwn()
              qPrintable(reply.error->message));
 }
 
-void tst_VXIPCPipes::letsItselfBeIdentifiedAndNoMore()
+void tst_VXIPCPipes::allowsIdentificationOnly()
 {
     if (isWine())
-        QSKIP("Wine does not keep what a client allows");
+        QSKIP("Wine ignores the impersonation level that a client sets");
     const int serverType = newServerType();
     const OwnedHandle pipe = makePipe(pathOf(nameOf(serverType)), usersOwn());
     QVERIFY2(pipe, qPrintable(qt_error_string()));
     VXIPCClient client(serverType);
     QVERIFY(client.connectToServer());
     QVERIFY(client.notify(QStringLiteral("notes")));
-    // The level counts of what was read last.
+    // The level is that of the message read last.
     std::array<char, 1> byte = {};
     DWORD size = 0;
     OVERLAPPED overlapped = {};
@@ -340,7 +326,7 @@ void tst_VXIPCPipes::waitsForAConnectionNoLongerThanForTheAnswer()
         const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"), {}, 1ms);
         QCOMPARE(reply.error->code, int(VXIPCError::NotReachable));
     }
-    // Five seconds for each would be more than twice that.
+    // With five seconds for each, it would be more than twice that.
     QVERIFY2(timer.elapsed() < callCount * 2000, qPrintable(QString::number(timer.elapsed())));
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// How endpoints get their sockets and keep them, and which sockets clients believe.
+// How endpoints obtain and keep their sockets, and which sockets clients trust.
 #include "ipc_name_lock.h"
 #include "ipc_raw_client.h"
 #include "ipc_test_service.h"
@@ -44,17 +44,19 @@ namespace {
 constexpr auto runtimeFolder = "XDG_RUNTIME_DIR";
 constexpr uid_t nobody = 65534;
 
-QString nameOf(int serverType)
+/// Takes the name of a service and the first `count` names with the process id. False when one
+/// could not be taken.
+bool takeNames(const QDir& folder, int serverType, int count)
 {
-    return QStringLiteral("vxipc-%1").arg(serverType);
+    bool areTaken = folder.mkdir(nameOf(serverType)) && folder.mkdir(ownNameOf(serverType));
+    for (int i = 2; i <= count; ++i) {
+        areTaken =
+            folder.mkdir(ownNameOf(serverType) + QLatin1Char('-') + QString::number(i)) && areTaken;
+    }
+    return areTaken;
 }
 
-QString ownNameOf(int serverType)
-{
-    return QStringLiteral("vxipc-%1-%2").arg(serverType).arg(QCoreApplication::applicationPid());
-}
-
-/// Collects what endpoints complain of.
+/// Collects the complaints of endpoints.
 class Complaints
 {
 public:
@@ -84,7 +86,7 @@ private:
     QtMessageHandler m_before;
 };
 
-/// Takes every file descriptor that this process may still have.
+/// Uses up all file descriptors that this process may open.
 class NoDescriptors
 {
 public:
@@ -114,7 +116,7 @@ private:
     bool m_areNone = false;
 };
 
-/// Holds this thread to the permissions of files even when root runs the test.
+/// Makes file permissions bind this thread even when root runs the test.
 class BoundByPermissions
 {
 public:
@@ -148,7 +150,7 @@ private:
     bool m_isBound = false;
 };
 
-/// How often something that belongs to the object has been tried again.
+/// Counts the time-outs of the timers that belong to an object, which are its retries.
 class Retries
 {
 public:
@@ -170,7 +172,7 @@ private:
     std::vector<std::unique_ptr<QSignalSpy>> m_spies;
 };
 
-/// A socket of the test's own.
+/// A socket of the test itself.
 class PlainSocket
 {
 public:
@@ -185,7 +187,7 @@ public:
         const sockaddr_un name = address(path);
         return connect(m_descriptor, reinterpret_cast<const sockaddr*>(&name), sizeof(name)) == 0;
     }
-    /// Takes no clients but those that the system lets wait.
+    /// Accepts no clients; the system lets a few wait.
     bool listenAt(const QString& path) const
     {
         const sockaddr_un name = address(path);
@@ -220,7 +222,7 @@ private:
 
 } // namespace
 
-class tst_VXIPCSockets : public QObject
+class VXIPCSocketsTest : public QObject
 {
     Q_OBJECT
 
@@ -231,27 +233,27 @@ private Q_SLOTS:
     void isPublishedOnceAnyNameIsFree();
     void isPublishedUnderTheLastOfItsNames();
     void isPublishedOnceItsFolderIsTheUsersAlone();
-    void letsClientsInOnceThereAreDescriptors();
-    void tellsEachTimeThatItLetsNobodyIn();
+    void acceptsClientsOnceThereAreDescriptors();
+    void complainsEachTimeItCannotAcceptClients();
     void takesNoNameWithoutItsLock();
-    void takesNoNameWhoseLockIsNoFile_data();
-    void takesNoNameWhoseLockIsNoFile();
-    void waitsForNoLockThatIsNoFile();
+    void takesNoNameWhoseLockIsNotAFile_data();
+    void takesNoNameWhoseLockIsNotAFile();
+    void doesNotWaitForALockThatIsNotAFile();
     void takesTheNameWhoseLockADeadProcessLeft();
-    void leavesWhatIsNoSocket();
+    void leavesWhatIsNotASocket();
     void leavesTheSocketThatTookItsPlace();
     void ignoresARelativeFolder();
 
-    void believesOnlyTheUsersOwn_data();
-    void believesOnlyTheUsersOwn();
-    void findsNobodyInAFolderThatIsNotThere();
+    void trustsOnlyTheUsersOwn_data();
+    void trustsOnlyTheUsersOwn();
+    void findsNoEndpointInAMissingFolder();
     void waitsForAConnectionNoLongerThanForTheAnswer();
 };
 
-void tst_VXIPCSockets::initTestCase()
+void VXIPCSocketsTest::initTestCase()
 {
-    // The undefined-behaviour sanitizer looks at an object through a pipe when it first meets the
-    // object's class. Without descriptors it would take the object for a broken one.
+    // The undefined-behaviour sanitizer inspects an object through a pipe when it first sees the
+    // object's class. Without descriptors it would report the object as invalid.
     const int serverType = newServerType();
     const TestService service(serverType);
     QTRY_COMPARE(service.serverName(), nameOf(serverType));
@@ -259,7 +261,7 @@ void tst_VXIPCSockets::initTestCase()
     QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
 }
 
-void tst_VXIPCSockets::isPublishedOnceThereAreDescriptors()
+void VXIPCSocketsTest::isPublishedOnceThereAreDescriptors()
 {
     const int serverType = newServerType();
     TestService service(serverType);
@@ -281,7 +283,7 @@ void tst_VXIPCSockets::isPublishedOnceThereAreDescriptors()
     QCOMPARE(client.call("scale", "[1]")[QStringLiteral("result")].toInt(), 10);
 }
 
-void tst_VXIPCSockets::isPublishedOnceAnyNameIsAllowed()
+void VXIPCSocketsTest::isPublishedOnceAnyNameIsAllowed()
 {
     const QTemporaryDir folder;
     const ScopedVariable runtime(runtimeFolder, folder.path());
@@ -304,16 +306,13 @@ void tst_VXIPCSockets::isPublishedOnceAnyNameIsAllowed()
     QTRY_COMPARE(service.serverName(), nameOf(serverType));
 }
 
-void tst_VXIPCSockets::isPublishedOnceAnyNameIsFree()
+void VXIPCSocketsTest::isPublishedOnceAnyNameIsFree()
 {
     const QTemporaryDir folder;
     const ScopedVariable runtime(runtimeFolder, folder.path());
     const int serverType = newServerType();
     const QDir names(folder.path());
-    QVERIFY(names.mkdir(nameOf(serverType)));
-    QVERIFY(names.mkdir(ownNameOf(serverType)));
-    for (int i = 2; i <= 100; ++i)
-        QVERIFY(names.mkdir(ownNameOf(serverType) + QLatin1Char('-') + QString::number(i)));
+    QVERIFY(takeNames(names, serverType, 100));
 
     TestService service(serverType);
     const Complaints complaints;
@@ -327,16 +326,12 @@ void tst_VXIPCSockets::isPublishedOnceAnyNameIsFree()
     QTRY_COMPARE(service.serverName(), nameOf(serverType));
 }
 
-void tst_VXIPCSockets::isPublishedUnderTheLastOfItsNames()
+void VXIPCSocketsTest::isPublishedUnderTheLastOfItsNames()
 {
     const QTemporaryDir folder;
     const ScopedVariable runtime(runtimeFolder, folder.path());
     const int serverType = newServerType();
-    const QDir names(folder.path());
-    QVERIFY(names.mkdir(nameOf(serverType)));
-    QVERIFY(names.mkdir(ownNameOf(serverType)));
-    for (int i = 2; i <= 15; ++i)
-        QVERIFY(names.mkdir(ownNameOf(serverType) + QLatin1Char('-') + QString::number(i)));
+    QVERIFY(takeNames(QDir(folder.path()), serverType, 15));
 
     const Complaints complaints;
     TestService service(serverType);
@@ -350,7 +345,7 @@ void tst_VXIPCSockets::isPublishedUnderTheLastOfItsNames()
              qPrintable(complaints.last()));
 }
 
-void tst_VXIPCSockets::isPublishedOnceItsFolderIsTheUsersAlone()
+void VXIPCSocketsTest::isPublishedOnceItsFolderIsTheUsersAlone()
 {
     const QTemporaryDir folder;
     const ScopedVariable runtime(runtimeFolder, folder.path());
@@ -365,7 +360,7 @@ void tst_VXIPCSockets::isPublishedOnceItsFolderIsTheUsersAlone()
     QTRY_VERIFY(!service.serverName().isEmpty());
 }
 
-void tst_VXIPCSockets::letsClientsInOnceThereAreDescriptors()
+void VXIPCSocketsTest::acceptsClientsOnceThereAreDescriptors()
 {
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
@@ -385,7 +380,7 @@ void tst_VXIPCSockets::letsClientsInOnceThereAreDescriptors()
         QTRY_VERIFY(retries.count() >= 3);
         QCOMPARE(complaints.size(), 1);
     }
-    // The client that came meanwhile, and others.
+    // The client that connected meanwhile is served, and others are, too.
     QByteArray answer;
     QTRY_VERIFY(!(answer += client.received()).isEmpty());
     QCOMPARE(answer, QByteArray("{\"id\":1,\"jsonrpc\":\"2.0\",\"result\":10}\n"));
@@ -393,12 +388,12 @@ void tst_VXIPCSockets::letsClientsInOnceThereAreDescriptors()
     QCOMPARE(other.call("scale", "[2]")[QStringLiteral("result")].toInt(), 20);
 }
 
-void tst_VXIPCSockets::tellsEachTimeThatItLetsNobodyIn()
+void VXIPCSocketsTest::complainsEachTimeItCannotAcceptClients()
 {
     TestService service(newServerType());
     QTRY_VERIFY(!service.serverName().isEmpty());
     const QString address = VXIPCClient::address(service.serverName());
-    // Both stay to the end: one that leaves would give the endpoint a descriptor back.
+    // Both stay to the end: a client that disconnects would free a descriptor of the endpoint.
     const std::array<PlainSocket, 2> clients;
     for (const PlainSocket& client : clients) {
         const Complaints complaints;
@@ -416,10 +411,10 @@ void tst_VXIPCSockets::tellsEachTimeThatItLetsNobodyIn()
     }
 }
 
-void tst_VXIPCSockets::takesNoNameWithoutItsLock()
+void VXIPCSocketsTest::takesNoNameWithoutItsLock()
 {
     const int serverType = newServerType();
-    // As another process does between its look at the name and its socket.
+    // As another process does between finding the name free and creating its socket.
     const QByteArray path =
         QFile::encodeName(VXIPCClient::address(nameOf(serverType)) + QStringLiteral(".lock"));
     const int lock = open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
@@ -435,7 +430,7 @@ void tst_VXIPCSockets::takesNoNameWithoutItsLock()
     QVERIFY(QFileInfo::exists(QFile::decodeName(path)));
 }
 
-void tst_VXIPCSockets::takesNoNameWhoseLockIsNoFile_data()
+void VXIPCSocketsTest::takesNoNameWhoseLockIsNotAFile_data()
 {
     QTest::addColumn<QString>("kind");
 
@@ -443,7 +438,7 @@ void tst_VXIPCSockets::takesNoNameWhoseLockIsNoFile_data()
         QTest::newRow(kind) << QString::fromLatin1(kind);
 }
 
-void tst_VXIPCSockets::takesNoNameWhoseLockIsNoFile()
+void VXIPCSocketsTest::takesNoNameWhoseLockIsNotAFile()
 {
     QFETCH(const QString, kind);
 
@@ -456,7 +451,7 @@ void tst_VXIPCSockets::takesNoNameWhoseLockIsNoFile()
                      : kind == QStringLiteral("link") ? symlink("/dev/zero", path.constData())
                                                       : mkdir(path.constData(), 0700);
     if (made != 0 && kind == QStringLiteral("device"))
-        QSKIP("Only root can make devices");
+        QSKIP("Only root can create devices");
     QCOMPARE(made, 0);
     const auto end = qScopeGuard([&] { remove(path.constData()); });
     TestService service(serverType);
@@ -465,8 +460,8 @@ void tst_VXIPCSockets::takesNoNameWhoseLockIsNoFile()
     QCOMPARE(lstat(path.constData(), &entry), 0);
 }
 
-// It does not become one, so the time that a host may wait for another process is not spent.
-void tst_VXIPCSockets::waitsForNoLockThatIsNoFile()
+// It cannot become a free lock, so waiting for it would only delay the host.
+void VXIPCSocketsTest::doesNotWaitForALockThatIsNotAFile()
 {
     const QTemporaryDir folder;
     const QByteArray path = QFile::encodeName(folder.filePath(QStringLiteral("name.lock")));
@@ -475,7 +470,7 @@ void tst_VXIPCSockets::waitsForNoLockThatIsNoFile()
     QCOMPARE(lock.lock(QDeadlineTimer(QDeadlineTimer::Forever)), IpcNameLock::Outcome::Denied);
 }
 
-void tst_VXIPCSockets::takesTheNameWhoseLockADeadProcessLeft()
+void VXIPCSocketsTest::takesTheNameWhoseLockADeadProcessLeft()
 {
     const int serverType = newServerType();
     const QString path = VXIPCClient::address(nameOf(serverType)) + QStringLiteral(".lock");
@@ -488,7 +483,7 @@ void tst_VXIPCSockets::takesTheNameWhoseLockADeadProcessLeft()
     QVERIFY(!QFileInfo::exists(path));
 }
 
-void tst_VXIPCSockets::leavesWhatIsNoSocket()
+void VXIPCSocketsTest::leavesWhatIsNotASocket()
 {
     const int serverType = newServerType();
     const QString path = VXIPCClient::address(nameOf(serverType));
@@ -501,7 +496,7 @@ void tst_VXIPCSockets::leavesWhatIsNoSocket()
     QVERIFY(file.remove());
 }
 
-void tst_VXIPCSockets::leavesTheSocketThatTookItsPlace()
+void VXIPCSocketsTest::leavesTheSocketThatTookItsPlace()
 {
     auto service = std::make_unique<TestService>(newServerType());
     QTRY_VERIFY(!service->serverName().isEmpty());
@@ -516,7 +511,7 @@ void tst_VXIPCSockets::leavesTheSocketThatTookItsPlace()
     QVERIFY(client.waitForConnected());
 }
 
-void tst_VXIPCSockets::ignoresARelativeFolder()
+void VXIPCSocketsTest::ignoresARelativeFolder()
 {
     const QTemporaryDir folder;
     const QString before = QDir::currentPath();
@@ -535,7 +530,7 @@ void tst_VXIPCSockets::ignoresARelativeFolder()
     QVERIFY(client.connectToServer());
 }
 
-void tst_VXIPCSockets::believesOnlyTheUsersOwn_data()
+void VXIPCSocketsTest::trustsOnlyTheUsersOwn_data()
 {
     QTest::addColumn<bool>("isFolder");
     QTest::addColumn<uint>("mode");
@@ -552,7 +547,7 @@ void tst_VXIPCSockets::believesOnlyTheUsersOwn_data()
     QTest::newRow("a socket of another user") << false << 0600U << true << others;
 }
 
-void tst_VXIPCSockets::believesOnlyTheUsersOwn()
+void VXIPCSocketsTest::trustsOnlyTheUsersOwn()
 {
     QFETCH(const bool, isFolder);
     QFETCH(const uint, mode);
@@ -588,7 +583,7 @@ void tst_VXIPCSockets::believesOnlyTheUsersOwn()
     QVERIFY(client.connectToServer());
 }
 
-void tst_VXIPCSockets::findsNobodyInAFolderThatIsNotThere()
+void VXIPCSocketsTest::findsNoEndpointInAMissingFolder()
 {
     const QTemporaryDir folder;
     const ScopedVariable runtime(runtimeFolder, folder.filePath(QStringLiteral("missing")));
@@ -598,11 +593,11 @@ void tst_VXIPCSockets::findsNobodyInAFolderThatIsNotThere()
     QCOMPARE(reply.error->message,
              QStringLiteral("no endpoint answers under %1").arg(client.serverName()));
     QVERIFY(VXIPCClient::runningServers().isEmpty());
-    // Looking for endpoints makes no folder for them.
+    // Looking for endpoints does not create their folder.
     QVERIFY(!QFileInfo::exists(folder.filePath(QStringLiteral("missing"))));
 }
 
-void tst_VXIPCSockets::waitsForAConnectionNoLongerThanForTheAnswer()
+void VXIPCSocketsTest::waitsForAConnectionNoLongerThanForTheAnswer()
 {
     constexpr int calls = 30;
     const int serverType = newServerType();
@@ -622,9 +617,9 @@ void tst_VXIPCSockets::waitsForAConnectionNoLongerThanForTheAnswer()
         const VXIPCReply reply = client.callAndWait(QStringLiteral("notes"), {}, 1ms);
         QCOMPARE(reply.error->code, int(VXIPCError::NotReachable));
     }
-    // A second for each, which a connection may take otherwise, would be three times that.
+    // With a second for each, which a connection may take otherwise, it would be three times that.
     QVERIFY2(timer.elapsed() < calls * 1000 / 3, qPrintable(QString::number(timer.elapsed())));
 }
 
-QTEST_GUILESS_MAIN(tst_VXIPCSockets)
+QTEST_GUILESS_MAIN(VXIPCSocketsTest)
 #include "tst_vxipc_sockets.moc"

@@ -14,11 +14,11 @@
 
 namespace {
 
-/// Has this program print the current language's id and end; with a locale's name behind it as one
-/// of an application with that default locale.
-constexpr const char* PrintId = "--print-language-id";
+/// Makes this program print the id of the current language and exit. The name of a locale may
+/// follow, which becomes the default locale first.
+constexpr const char* printId = "--print-language-id";
 
-/// A process of its own: what the system's locale is, is settled when it is first asked for.
+/// Runs in a separate process, because Qt reads the system's locale only once.
 QByteArray idPrinted(const QString& systemLanguages, const QString& defaultLocale)
 {
     QProcess process;
@@ -26,7 +26,7 @@ QByteArray idPrinted(const QString& systemLanguages, const QString& defaultLocal
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     environment.insert(QStringLiteral("LANGUAGE"), systemLanguages);
     process.setProcessEnvironment(environment);
-    QStringList arguments{QString::fromLatin1(PrintId)};
+    QStringList arguments{QString::fromLatin1(printId)};
     if (!defaultLocale.isEmpty())
         arguments.append(defaultLocale);
     startProcess(process, QCoreApplication::applicationFilePath(), arguments);
@@ -36,22 +36,22 @@ QByteArray idPrinted(const QString& systemLanguages, const QString& defaultLocal
 
 } // namespace
 
-class tst_VXLocale : public QObject
+class VXLocaleTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void numbersLanguages_data();
     void numbersLanguages();
-    void takesTheFirstLanguageThatIsListed_data();
-    void takesTheFirstLanguageThatIsListed();
-    void asksTheRunningSystem_data();
-    void asksTheRunningSystem();
-    void asksTheRunningApplication_data();
-    void asksTheRunningApplication();
+    void returnsTheFirstListedLanguage_data();
+    void returnsTheFirstListedLanguage();
+    void followsTheLanguagesOfTheSystem_data();
+    void followsTheLanguagesOfTheSystem();
+    void followsTheDefaultLocaleOfTheApplication_data();
+    void followsTheDefaultLocaleOfTheApplication();
 };
 
-void tst_VXLocale::numbersLanguages_data()
+void VXLocaleTest::numbersLanguages_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<int>("id");
@@ -92,17 +92,17 @@ void tst_VXLocale::numbersLanguages_data()
     row("tlh", 0);
     row("C", 0);
     row("", 0);
-    row("no locale at all", 0);
+    row("not a locale", 0);
 }
 
-void tst_VXLocale::numbersLanguages()
+void VXLocaleTest::numbersLanguages()
 {
     QFETCH(const QString, locale);
     QFETCH(const int, id);
     QCOMPARE(VXLocaleLanguages::languageId({locale}), id);
 }
 
-void tst_VXLocale::takesTheFirstLanguageThatIsListed_data()
+void VXLocaleTest::returnsTheFirstListedLanguage_data()
 {
     QTest::addColumn<QStringList>("locales");
     QTest::addColumn<int>("id");
@@ -117,14 +117,14 @@ void tst_VXLocale::takesTheFirstLanguageThatIsListed_data()
     row("none listed", {QStringLiteral("sv-SE"), QStringLiteral("fi-FI")}, 0);
 }
 
-void tst_VXLocale::takesTheFirstLanguageThatIsListed()
+void VXLocaleTest::returnsTheFirstListedLanguage()
 {
     QFETCH(const QStringList, locales);
     QFETCH(const int, id);
     QCOMPARE(VXLocaleLanguages::languageId(locales), id);
 }
 
-void tst_VXLocale::asksTheRunningSystem_data()
+void VXLocaleTest::followsTheLanguagesOfTheSystem_data()
 {
     QTest::addColumn<QString>("languages");
     QTest::addColumn<int>("id");
@@ -136,23 +136,23 @@ void tst_VXLocale::asksTheRunningSystem_data()
     QTest::newRow("none listed") << QStringLiteral("sv") << 0;
 }
 
-void tst_VXLocale::asksTheRunningSystem()
+void VXLocaleTest::followsTheLanguagesOfTheSystem()
 {
 #ifdef Q_OS_WIN
-    QSKIP("Windows takes a process' language from the user's settings alone");
+    QSKIP("Windows takes the language of a process only from the user's settings");
 #endif
     QFETCH(const QString, languages);
     QFETCH(const int, id);
     QCOMPARE(idPrinted(languages, QString()), QByteArray::number(id));
 }
 
-void tst_VXLocale::asksTheRunningApplication_data()
+void VXLocaleTest::followsTheDefaultLocaleOfTheApplication_data()
 {
     QTest::addColumn<QString>("languages");
     QTest::addColumn<QString>("defaultLocale");
     QTest::addColumn<int>("id");
 
-    // Whatever the system's languages are, the locale that the application has set is its own.
+    // The default locale that the application has set takes precedence over the system's languages.
     for (const char* languages : {"de", "ja_JP", "zh_TW", "sv:fr:de", "en_GB:de", "sv"}) {
         const auto row = [languages](const char* defaultLocale, int id) {
             QTest::addRow("%s in a system of %s", defaultLocale, languages)
@@ -169,7 +169,7 @@ void tst_VXLocale::asksTheRunningApplication_data()
     }
 }
 
-void tst_VXLocale::asksTheRunningApplication()
+void VXLocaleTest::followsTheDefaultLocaleOfTheApplication()
 {
     QFETCH(const QString, languages);
     QFETCH(const QString, defaultLocale);
@@ -180,13 +180,13 @@ void tst_VXLocale::asksTheRunningApplication()
 int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
-    if (argc >= 2 && std::strcmp(argv[1], PrintId) == 0) {
+    if (argc >= 2 && std::strcmp(argv[1], printId) == 0) {
         if (argc > 2)
             QLocale::setDefault(QLocale(QString::fromLatin1(argv[2])));
         std::printf("%d", VXLocaleLanguages().getCurrentLanguageId());
         return 0;
     }
-    tst_VXLocale test;
+    VXLocaleTest test;
     return QTest::qExec(&test, argc, argv);
 }
 #include "tst_vxlocale.moc"

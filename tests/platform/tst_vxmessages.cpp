@@ -18,7 +18,7 @@ struct Description
     const char* text;
 };
 
-/// The codes that have a text of their own: those of the library, and those of drivers.
+/// The codes with a description: those of the library, and those of drivers.
 constexpr std::array descriptions{
     Description{0, "The printer is disconnected"},
     Description{1, "The printer is ready"},
@@ -51,7 +51,7 @@ constexpr std::array descriptions{
     Description{258, "The printer is not managed"},
 };
 
-/// Marks what it is asked to translate in the context of the messages.
+/// Marks each text that is translated in the context of the messages.
 class MarkingTranslator : public QTranslator
 {
 public:
@@ -66,29 +66,29 @@ public:
 
 } // namespace
 
-class tst_VXMessages : public QObject
+class VXMessagesTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void describesKnownCodes();
-    void namesOtherCodes_data();
-    void namesOtherCodes();
-    void canBeTranslated();
+    void describesOtherCodesByNumber_data();
+    void describesOtherCodesByNumber();
+    void translatesTheDescriptions();
 
     void explainsWindowsErrors_data();
     void explainsWindowsErrors();
-    void namesOtherWindowsErrors_data();
-    void namesOtherWindowsErrors();
+    void describesOtherWindowsErrorsByNumber_data();
+    void describesOtherWindowsErrorsByNumber();
 };
 
-void tst_VXMessages::describesKnownCodes()
+void VXMessagesTest::describesKnownCodes()
 {
     for (const Description& known : descriptions)
         QCOMPARE(getErrorDescription(VXError(known.code)), QString::fromLatin1(known.text));
 }
 
-void tst_VXMessages::namesOtherCodes_data()
+void VXMessagesTest::describesOtherCodesByNumber_data()
 {
     QTest::addColumn<int>("code");
     for (const int code :
@@ -96,13 +96,13 @@ void tst_VXMessages::namesOtherCodes_data()
         QTest::addRow("%d", code) << code;
 }
 
-void tst_VXMessages::namesOtherCodes()
+void VXMessagesTest::describesOtherCodesByNumber()
 {
     QFETCH(const int, code);
     QCOMPARE(getErrorDescription(VXError(code)), QStringLiteral("Printer error %1").arg(code));
 }
 
-void tst_VXMessages::canBeTranslated()
+void VXMessagesTest::translatesTheDescriptions()
 {
     MarkingTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
@@ -112,17 +112,17 @@ void tst_VXMessages::canBeTranslated()
     QCOMPARE(getErrorDescription(VXError(24)), QStringLiteral("<Printer error 24>"));
 }
 
-void tst_VXMessages::explainsWindowsErrors_data()
+void VXMessagesTest::explainsWindowsErrors_data()
 {
     QTest::addColumn<int>("code");
     for (const int code : {0, 2, 5, 6, 8, 87, 122, 1722, 1801, 1905})
         QTest::addRow("%d", code) << code;
 }
 
-void tst_VXMessages::explainsWindowsErrors()
+void VXMessagesTest::explainsWindowsErrors()
 {
     QFETCH(const int, code);
-    const QString text = WindowsErrors::winError(static_cast<unsigned long>(code));
+    const QString text = windows_errors::winError(static_cast<unsigned long>(code));
     QVERIFY(!text.isEmpty());
     QCOMPARE(text, text.simplified());
     QVERIFY2(!text.startsWith(QLatin1String("Windows error")), qPrintable(text));
@@ -131,18 +131,18 @@ void tst_VXMessages::explainsWindowsErrors()
 #endif
 }
 
-void tst_VXMessages::namesOtherWindowsErrors_data()
+void VXMessagesTest::describesOtherWindowsErrorsByNumber_data()
 {
     QTest::addColumn<unsigned int>("code");
     for (const unsigned int code : {71234U, 0x20000001U, 4000000000U})
         QTest::addRow("%u", code) << code;
 }
 
-void tst_VXMessages::namesOtherWindowsErrors()
+void VXMessagesTest::describesOtherWindowsErrorsByNumber()
 {
     QFETCH(const unsigned int, code);
-    QCOMPARE(WindowsErrors::winError(code), QStringLiteral("Windows error %1").arg(code));
+    QCOMPARE(windows_errors::winError(code), QStringLiteral("Windows error %1").arg(code));
 }
 
-QTEST_GUILESS_MAIN(tst_VXMessages)
+QTEST_GUILESS_MAIN(VXMessagesTest)
 #include "tst_vxmessages.moc"

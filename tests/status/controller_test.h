@@ -17,7 +17,7 @@ using virtualwindows::PrinterSetup;
 using virtualwindows::PrinterValue;
 
 /// Records every signal of a controller as a line, in order: "statusChangedSignal(1, Packing)".
-/// After each the `hook`, if there is one, is called in the same slot.
+/// After each of them the `hook`, if there is one, is called in the same slot.
 class SignalRecorder
 {
 public:
@@ -55,7 +55,7 @@ public:
                          });
     }
 
-    /// What was emitted since the last time that this was asked.
+    /// What was emitted since the last call.
     QStringList take() { return std::exchange(m_lines, {}); }
 
     std::function<void(const QString& line)> hook;
@@ -71,8 +71,8 @@ private:
     QStringList m_lines;
 };
 
-/// Base of the controller's tests, in time that only they let pass. Printers are added first, then
-/// `makeController()` finds them.
+/// Base of the controller's tests. Time passes only when a test lets it pass. A test adds printers
+/// and then calls `makeController()`, which finds them.
 class ControllerTest : public MachineTest
 {
     Q_OBJECT
@@ -117,19 +117,22 @@ protected:
         m_signals.reset();
     }
 
-    /// Waits until `count` threads have done their work, and delivers what they reported.
-    void settle(int count)
+    /// True when `count` threads have done their work; what they reported has then been delivered.
+    [[nodiscard]] bool settle(int count)
     {
-        QVERIFY(machine().waitForWaitingThreads(count));
+        const bool areWaiting = machine().waitForWaitingThreads(count);
         QCoreApplication::sendPostedEvents(m_controller.get(), QEvent::MetaCall);
+        return areWaiting;
     }
 
-    /// Has a value reported as a printer's thread does, by calling the slot that it is connected
-    /// to.
+    /// Reports a value as a printer's thread does, by calling the slot that it is connected to.
     void report(const char* slot, const QString& printer, const QString& value)
     {
-        QVERIFY(QMetaObject::invokeMethod(m_controller.get(), slot, Qt::DirectConnection,
-                                          Q_ARG(QString, printer), Q_ARG(QString, value)));
+        const bool isCalled =
+            QMetaObject::invokeMethod(m_controller.get(), slot, Qt::DirectConnection,
+                                      Q_ARG(QString, printer), Q_ARG(QString, value));
+        if (!isCalled)
+            qFatal("no slot %s", slot);
     }
     void reportStatus(const QString& printer, const char* status)
     {
@@ -144,7 +147,7 @@ protected:
             names.append(record.value<PrinterStatusInformation>().printerName);
         return names;
     }
-    /// The only record under that name; a failure when there is none.
+    /// The record with that name; ends the test program when there is none.
     PrinterStatusInformation record(const QString& name)
     {
         const QVariantList records = m_controller->getAvailablePrinters();
@@ -156,7 +159,7 @@ protected:
         qFatal("no record of %s", qPrintable(name));
     }
 
-    /// The controller's log lines since the last time that this was asked.
+    /// The controller's log lines since the last call.
     QList<LogRecord> takeLog()
     {
         QList<LogRecord> lines = m_log->records();

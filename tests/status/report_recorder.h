@@ -18,7 +18,7 @@ struct Report
     bool operator==(const Report&) const = default;
 };
 
-/// A report as one text, so that a failed comparison can be read.
+/// A report as one text, for the message of a failed comparison.
 inline char* toString(const Report& report)
 {
     return qstrdup(qPrintable(
@@ -51,7 +51,7 @@ public:
             Qt::DirectConnection);
     }
 
-    /// What was reported since the last time that this was asked.
+    /// What was reported since the last call.
     QList<Report> take()
     {
         const QMutexLocker guard(&m_mutex);

@@ -123,7 +123,7 @@ QString VXSupplyDatabase::supplyRibbonColorName(const QString& ribbonSku, int pa
     return QStringLiteral("colour of %1 panel %2").arg(ribbonSku).arg(panel);
 }
 
-// What the controller does not look at.
+// Functions that the controller does not use.
 // clang-format off
 QString VXSupplyDatabase::supplySupplyRGB() const { return {}; }
 QStringList VXSupplyDatabase::supplySKUList() const { return {}; }

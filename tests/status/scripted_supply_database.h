@@ -5,11 +5,11 @@
 #include <QtCore/QHash>
 #include <QtCore/QStringList>
 
-/// What the supply databases of this process answer, and what they were told: a test that has these
-/// in place of SQLite can give the controller answers that no database file holds.
+/// What the supply databases of this process return, and how they were called. They take the place
+/// of those on SQLite, so a test can give the controller answers that no database file contains.
 ///
-/// A database goes by the name of its connection, which is a printer's name and "_CONNECTION_NAME",
-/// or for the shared one something else.
+/// A database is identified by the name of its connection: a printer's name and "_CONNECTION_NAME",
+/// or another name for the shared one.
 struct ScriptedSupplyDatabase
 {
     QString supplyId;
@@ -23,7 +23,7 @@ struct ScriptedSupplyDatabase
 
     static ScriptedSupplyDatabase& ofPrinter(const QString& printerName);
     static ScriptedSupplyDatabase& shared();
-    /// The identifiers that were set and the questions with arguments that were asked, as
+    /// The identifiers that were set and the queries that were made, with their arguments, as
     /// "Printer: setSupplyId(-1)".
     static QStringList takeCalls();
     static void reset();

@@ -14,15 +14,16 @@ using virtualwindows::PrinterValue;
 
 inline const QString labelPrinter = QStringLiteral("Label Printer");
 
-/// Base of the tests that watch one printer with one thread, in time that only they let pass.
+/// Base of the tests that watch one printer with one thread. Time passes only when a test lets it
+/// pass.
 class ThreadTest : public MachineTest
 {
     Q_OBJECT
 
 protected:
-    static QByteArray supplyIdentifier(char digit) { return QByteArray(20, digit); }
+    static QByteArray supplyIdentifier(char digit) { return {20, digit}; }
 
-    /// A value of each name, all different.
+    /// One value for each name, all different.
     static QList<PrinterValue> everyValue(char digit = '1')
     {
         const auto number = static_cast<quint32>(digit - '0') * 100;
@@ -54,23 +55,24 @@ protected:
     QList<Report> takeReports() { return m_reports->take(); }
     QList<LogRecord> logged() const { return m_log->records(); }
 
-    /// Starts the thread and waits until it has read the printer and waits for the first time.
-    void watch()
+    /// Starts the thread. True when it has read the printer and waits for the first time.
+    [[nodiscard]] bool watch()
     {
         m_thread->start();
-        QVERIFY(machine().waitForWaitingThreads(1));
+        return settle();
     }
-    /// After something that woke the thread: waits until it has done its work and waits again.
-    void settle() { QVERIFY(machine().waitForWaitingThreads(1)); }
-    void publish(const PrinterValue& value)
+    /// After something that woke the thread. True when it has done its work and waits again.
+    [[nodiscard]] bool settle() { return machine().waitForWaitingThreads(1); }
+    [[nodiscard]] bool publish(const PrinterValue& value)
     {
         machine().publish(labelPrinter, value);
-        settle();
+        return settle();
     }
-    void pass(std::chrono::milliseconds time)
+    /// Lets time pass.
+    [[nodiscard]] bool pass(std::chrono::milliseconds time)
     {
         machine().advance(time);
-        settle();
+        return settle();
     }
     void endThread()
     {

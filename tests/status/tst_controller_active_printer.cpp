@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// Which printer is the active one, and when the host is told.
+// Which printer is active, and when the host is notified.
 #include "controller_test.h"
 
 #include <QtCore/QScopeGuard>
@@ -45,56 +45,57 @@ class ActivePrinterTest : public ControllerTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void windowsDefaultIsTakenAtDiscovery();
-    void windowsDefaultTakesOverAtDiscovery();
-    void networkPrinterThatIsWindowsDefault();
-    void printerThatMayNotBeManagedIsNotTakenAtDiscovery();
+    void windowsDefaultBecomesActiveAtDiscovery();
+    void windowsDefaultReplacesTheActivePrinterAtDiscovery();
+    void networkPrinterThatIsWindowsDefaultBecomesActive();
+    void unmanagedPrinterDoesNotBecomeActiveAtDiscovery();
     void defaultNameIsComparedExactly();
-    void windowsIsAskedForItsDefaultAtEveryReport_data();
-    void windowsIsAskedForItsDefaultAtEveryReport();
-    void firstLocalRecordByName();
-    void unmanagedPrinterIsTakenByName();
-    void lastOfNetworkPrinters();
-    void choiceAmongRecordsMarksNoRecord();
-    void otherPrintersWhenThereIsNoRecord_data();
-    void otherPrintersWhenThereIsNoRecord();
-    void ignoredPrinterThatIsNotOffline();
-    void recordTakesOverFromAnotherPrinter();
-    void windowsDefaultTakesOverWhenItReports();
+    void windowsDefaultIsQueriedAtEveryReport_data();
+    void windowsDefaultIsQueriedAtEveryReport();
+    void firstLocalRecordByNameIsChosen();
+    void unmanagedPrinterCanBeChosenByName();
+    void lastOfNetworkPrintersIsChosen();
+    void choiceFromRecordsMarksNoRecordAsDefault();
+    void printersOfOtherMakersAreChosenWithoutRecords_data();
+    void printersOfOtherMakersAreChosenWithoutRecords();
+    void ignoredPrinterThatIsNotOfflineIsChosen();
+    void recordReplacesAPrinterOfAnotherMaker();
+    void windowsDefaultBecomesActiveWhenItReports();
     void windowsDefaultThatReportsAgainIsNotAnnounced();
-    void printerThatIsNotTheDefaultDoesNotTakeOver();
-    void offlineDefaultDoesNotTakeOver();
-    void firstToReportWhileThereIsNone();
+    void reportOfAnotherPrinterDoesNotChangeTheActiveOne();
+    void offlineDefaultDoesNotBecomeActive();
+    void firstPrinterToReportBecomesActiveWhileThereIsNone();
     void printerDefaultIsNeverCleared();
-    void activePrinterGoesOffline_data();
-    void activePrinterGoesOffline();
-    void onlyRecordGoesOffline();
-    void otherPrinterGoesOffline();
-    void activeOutsideRecordsWhenItReportsOffline();
-    void lineIsWrittenBetweenTheChangeAndTheSignal();
+    void anotherPrinterIsChosenWhenTheActiveOneGoesOffline_data();
+    void anotherPrinterIsChosenWhenTheActiveOneGoesOffline();
+    void onlyRecordStaysActiveWhenItGoesOffline();
+    void activePrinterStaysWhenAnotherOneGoesOffline();
+    void activePrinterWithoutRecordGetsOneWhenItReportsOffline();
+    void lineIsLoggedBetweenTheChangeAndTheSignal();
 
 private:
-    /// A controller with no records whose active printer is not one of the maker's.
-    void makeWithLaser()
+    /// Makes a controller with no records. True when its active printer is one of another maker.
+    [[nodiscard]] bool makeWithLaser()
     {
         addPrinter(laser, laserDriver);
         machine().setDefaultPrinter(laser);
         makeController();
-        QCOMPARE(controller().activeDefaultPrinter(), laser);
-        QVERIFY(!controller().vxDefaultActivePrinter());
+        return controller().activeDefaultPrinter() == laser &&
+               !controller().vxDefaultActivePrinter();
     }
-    void makeWithTwo()
+    /// Makes a controller of two printers. True when the first of them is active.
+    [[nodiscard]] bool makeWithTwo()
     {
         addPrinter(ash);
         addPrinter(beech);
         makeController();
-        QCOMPARE(controller().activeDefaultPrinter(), ash);
         takeSignals();
         takeLog();
+        return controller().activeDefaultPrinter() == ash;
     }
 };
 
-void ActivePrinterTest::windowsDefaultIsTakenAtDiscovery()
+void ActivePrinterTest::windowsDefaultBecomesActiveAtDiscovery()
 {
     addPrinter(ash);
     addPrinter(beech);
@@ -114,22 +115,22 @@ void ActivePrinterTest::windowsDefaultIsTakenAtDiscovery()
     QCOMPARE(log.at(3), line(chosen, QStringLiteral("Setting defaultActivePrinter Beech.")));
 }
 
-void ActivePrinterTest::windowsDefaultTakesOverAtDiscovery()
+void ActivePrinterTest::windowsDefaultReplacesTheActivePrinterAtDiscovery()
 {
-    makeWithTwo();
+    QVERIFY(makeWithTwo());
     addPrinter(cherry);
     machine().setDefaultPrinter(cherry);
     controller().checkForPrinters();
     QCOMPARE(takeSignals(), QStringList{active(cherry)});
     QCOMPARE(controller().activeDefaultPrinter(), cherry);
 
-    // Only as it is found: one that becomes the default later waits for its report.
+    // Only when it is found: a printer that becomes the default later has to report first.
     machine().setDefaultPrinter(beech);
     controller().checkForPrinters();
     QVERIFY(takeSignals().isEmpty());
 }
 
-void ActivePrinterTest::networkPrinterThatIsWindowsDefault()
+void ActivePrinterTest::networkPrinterThatIsWindowsDefaultBecomesActive()
 {
     addPrinter(ash);
     addNetworkPrinter(beech);
@@ -139,7 +140,7 @@ void ActivePrinterTest::networkPrinterThatIsWindowsDefault()
     QVERIFY(record(beech).printerDefault);
 }
 
-void ActivePrinterTest::printerThatMayNotBeManagedIsNotTakenAtDiscovery()
+void ActivePrinterTest::unmanagedPrinterDoesNotBecomeActiveAtDiscovery()
 {
     addPrinter(ash);
     addUnmanagedPrinter(beech);
@@ -159,7 +160,7 @@ void ActivePrinterTest::defaultNameIsComparedExactly()
     QCOMPARE(controller().activeDefaultPrinter(), ash);
 }
 
-void ActivePrinterTest::windowsIsAskedForItsDefaultAtEveryReport_data()
+void ActivePrinterTest::windowsDefaultIsQueriedAtEveryReport_data()
 {
     QTest::addColumn<QString>("printer");
     QTest::addColumn<QByteArray>("status");
@@ -170,22 +171,22 @@ void ActivePrinterTest::windowsIsAskedForItsDefaultAtEveryReport_data()
     QTest::newRow("another printer is offline") << cherry << QByteArray("0");
 }
 
-void ActivePrinterTest::windowsIsAskedForItsDefaultAtEveryReport()
+void ActivePrinterTest::windowsDefaultIsQueriedAtEveryReport()
 {
     QFETCH(const QString, printer);
     QFETCH(const QByteArray, status);
     addPrinter(cherry);
-    makeWithTwo();
+    QVERIFY(makeWithTwo());
     setOffline(cherry, true);
     machine().setDefaultPrinter(ash);
     machine().clearCalls();
     machine().recordCalls();
     reportStatus(printer, status.constData());
-    // The first call asks how long the name is, the second for the name.
+    // The first call returns the length of the name, the second the name.
     QCOMPARE(machine().calls(QStringLiteral("GetDefaultPrinterW")).size(), 2);
 }
 
-void ActivePrinterTest::firstLocalRecordByName()
+void ActivePrinterTest::firstLocalRecordByNameIsChosen()
 {
     addPrinter(cherry);
     addPrinter(beech);
@@ -195,7 +196,7 @@ void ActivePrinterTest::firstLocalRecordByName()
     QVERIFY(controller().vxDefaultActivePrinter());
 }
 
-void ActivePrinterTest::unmanagedPrinterIsTakenByName()
+void ActivePrinterTest::unmanagedPrinterCanBeChosenByName()
 {
     addUnmanagedPrinter(ash);
     addPrinter(beech);
@@ -205,7 +206,7 @@ void ActivePrinterTest::unmanagedPrinterIsTakenByName()
     QVERIFY(controller().vxDefaultActivePrinter());
 }
 
-void ActivePrinterTest::lastOfNetworkPrinters()
+void ActivePrinterTest::lastOfNetworkPrintersIsChosen()
 {
     addNetworkPrinter(cherry);
     addNetworkPrinter(ash);
@@ -215,13 +216,13 @@ void ActivePrinterTest::lastOfNetworkPrinters()
     QVERIFY(controller().vxDefaultActivePrinter());
 }
 
-void ActivePrinterTest::choiceAmongRecordsMarksNoRecord()
+void ActivePrinterTest::choiceFromRecordsMarksNoRecordAsDefault()
 {
-    makeWithTwo();
+    QVERIFY(makeWithTwo());
     QVERIFY(!record(ash).printerDefault);
 }
 
-void ActivePrinterTest::otherPrintersWhenThereIsNoRecord_data()
+void ActivePrinterTest::printersOfOtherMakersAreChosenWithoutRecords_data()
 {
     QTest::addColumn<QString>("windowsDefault");
     QTest::addColumn<bool>("laserOffline");
@@ -235,7 +236,7 @@ void ActivePrinterTest::otherPrintersWhenThereIsNoRecord_data()
     QTest::newRow("all offline") << laser << true << true << QString();
 }
 
-void ActivePrinterTest::otherPrintersWhenThereIsNoRecord()
+void ActivePrinterTest::printersOfOtherMakersAreChosenWithoutRecords()
 {
     QFETCH(const QString, windowsDefault);
     QFETCH(const bool, laserOffline);
@@ -259,7 +260,7 @@ void ActivePrinterTest::otherPrintersWhenThereIsNoRecord()
                  QStringList{QStringLiteral("Setting defaultActivePrinter %1.").arg(expected)});
 }
 
-void ActivePrinterTest::ignoredPrinterThatIsNotOffline()
+void ActivePrinterTest::ignoredPrinterThatIsNotOfflineIsChosen()
 {
     // A default printer that was never enumerated cannot be opened, so it counts as offline.
     addPrinter(laser, laserDriver);
@@ -268,14 +269,14 @@ void ActivePrinterTest::ignoredPrinterThatIsNotOffline()
     QCOMPARE(controller().activeDefaultPrinter(), laser);
 }
 
-void ActivePrinterTest::recordTakesOverFromAnotherPrinter()
+void ActivePrinterTest::recordReplacesAPrinterOfAnotherMaker()
 {
-    makeWithLaser();
+    QVERIFY(makeWithLaser());
     addPrinter(ash);
     controller().checkForPrinters();
     takeSignals();
 
-    // A record alone changes nothing, nor does its report while another printer is active.
+    // Neither a new record nor its report changes anything while another printer is active.
     QCOMPARE(controller().activeDefaultPrinter(), laser);
     reportStatus(ash, "1");
     QCOMPARE(takeSignals(), QStringList({status(1, ash), updated}));
@@ -286,9 +287,9 @@ void ActivePrinterTest::recordTakesOverFromAnotherPrinter()
     QVERIFY(controller().vxDefaultActivePrinter());
 }
 
-void ActivePrinterTest::windowsDefaultTakesOverWhenItReports()
+void ActivePrinterTest::windowsDefaultBecomesActiveWhenItReports()
 {
-    makeWithTwo();
+    QVERIFY(makeWithTwo());
     machine().setDefaultPrinter(beech);
     reportStatus(beech, "1");
     QCOMPARE(takeSignals(), QStringList({active(beech), status(1, beech), updated}));
@@ -298,7 +299,7 @@ void ActivePrinterTest::windowsDefaultTakesOverWhenItReports()
                       QStringLiteral("Setting defaultActivePrinter Beech from Windows default."))});
     QVERIFY(record(beech).printerDefault);
 
-    // An error is told first; it does not keep the printer from taking over.
+    // The error is signalled first. It does not prevent the printer from becoming active.
     machine().setDefaultPrinter(ash);
     reportStatus(ash, "42");
     QCOMPARE(takeSignals(), QStringList({error(true), active(ash), status(42, ash), updated}));
@@ -315,18 +316,18 @@ void ActivePrinterTest::windowsDefaultThatReportsAgainIsNotAnnounced()
     QVERIFY(takeLog().isEmpty());
 }
 
-void ActivePrinterTest::printerThatIsNotTheDefaultDoesNotTakeOver()
+void ActivePrinterTest::reportOfAnotherPrinterDoesNotChangeTheActiveOne()
 {
-    makeWithTwo();
+    QVERIFY(makeWithTwo());
     machine().setDefaultPrinter(ash);
     reportStatus(beech, "1");
     QCOMPARE(takeSignals(), QStringList({status(1, beech), updated}));
     QCOMPARE(controller().activeDefaultPrinter(), ash);
 }
 
-void ActivePrinterTest::offlineDefaultDoesNotTakeOver()
+void ActivePrinterTest::offlineDefaultDoesNotBecomeActive()
 {
-    makeWithTwo();
+    QVERIFY(makeWithTwo());
     machine().setDefaultPrinter(beech);
     setOffline(beech);
     reportStatus(beech, "0");
@@ -334,7 +335,7 @@ void ActivePrinterTest::offlineDefaultDoesNotTakeOver()
     QCOMPARE(controller().activeDefaultPrinter(), ash);
 }
 
-void ActivePrinterTest::firstToReportWhileThereIsNone()
+void ActivePrinterTest::firstPrinterToReportBecomesActiveWhileThereIsNone()
 {
     makeController();
     addPrinter(ash);
@@ -342,7 +343,7 @@ void ActivePrinterTest::firstToReportWhileThereIsNone()
     controller().checkForPrinters();
     QVERIFY(controller().activeDefaultPrinter().isEmpty());
 
-    // Whichever it is, and whatever the Windows default is.
+    // Any printer, whatever the Windows default printer is.
     machine().setDefaultPrinter(ash);
     reportStatus(beech, "1");
     QCOMPARE(takeSignals(), QStringList({active(beech), status(1, beech), updated}));
@@ -352,7 +353,7 @@ void ActivePrinterTest::firstToReportWhileThereIsNone()
 
 void ActivePrinterTest::printerDefaultIsNeverCleared()
 {
-    makeWithTwo();
+    QVERIFY(makeWithTwo());
     for (const QString& name : {beech, ash}) {
         machine().setDefaultPrinter(name);
         reportStatus(name, "1");
@@ -362,7 +363,7 @@ void ActivePrinterTest::printerDefaultIsNeverCleared()
     QVERIFY(record(beech).printerDefault);
 }
 
-void ActivePrinterTest::activePrinterGoesOffline_data()
+void ActivePrinterTest::anotherPrinterIsChosenWhenTheActiveOneGoesOffline_data()
 {
     QTest::addColumn<QByteArray>("report");
     QTest::addColumn<bool>("listFirst");
@@ -372,7 +373,7 @@ void ActivePrinterTest::activePrinterGoesOffline_data()
     QTest::newRow("255") << QByteArray("255") << false;
 }
 
-void ActivePrinterTest::activePrinterGoesOffline()
+void ActivePrinterTest::anotherPrinterIsChosenWhenTheActiveOneGoesOffline()
 {
     QFETCH(const QByteArray, report);
     QFETCH(const bool, listFirst);
@@ -387,52 +388,53 @@ void ActivePrinterTest::activePrinterGoesOffline()
 
     setOffline(cherry);
     reportStatus(cherry, report);
-    const QStringList told = listFirst ? QStringList{updated, status(257, cherry), active(ash)}
-                                       : QStringList{active(ash), status(257, cherry), updated};
-    QCOMPARE(takeSignals(), told);
+    const QStringList expected = listFirst ? QStringList{updated, status(257, cherry), active(ash)}
+                                           : QStringList{active(ash), status(257, cherry), updated};
+    QCOMPARE(takeSignals(), expected);
     QCOMPARE(controller().activeDefaultPrinter(), ash);
     QCOMPARE(takeMessages(), QStringList({QStringLiteral("Cherry went offline"),
                                           QStringLiteral("Setting defaultActivePrinter Ash.")}));
     QVERIFY(!record(ash).printerDefault);
     QVERIFY(record(cherry).printerDefault);
 
-    // Back online it is the Windows default still, and takes over with its next report.
+    // It is still the Windows default, so it becomes active when it reports online.
     setOffline(cherry, false);
     reportStatus(cherry, "1");
     QCOMPARE(takeSignals(), QStringList({active(cherry), status(1, cherry), updated}));
 }
 
-void ActivePrinterTest::onlyRecordGoesOffline()
+void ActivePrinterTest::onlyRecordStaysActiveWhenItGoesOffline()
 {
     addPrinter(ash);
     makeController();
     setOffline(ash);
     reportStatus(ash, "");
-    // Chosen again at once: whether it is online is not asked.
+    // It is chosen again at once, because offline printers can be chosen.
     QCOMPARE(takeSignals(), QStringList({updated, status(257, ash), active(ash)}));
     QVERIFY(controller().vxDefaultActivePrinter());
 }
 
-void ActivePrinterTest::otherPrinterGoesOffline()
+void ActivePrinterTest::activePrinterStaysWhenAnotherOneGoesOffline()
 {
-    makeWithTwo();
+    QVERIFY(makeWithTwo());
     setOffline(beech);
     reportStatus(beech, "");
     QCOMPARE(takeSignals(), QStringList({updated, status(257, beech)}));
     QCOMPARE(controller().activeDefaultPrinter(), ash);
 }
 
-void ActivePrinterTest::activeOutsideRecordsWhenItReportsOffline()
+void ActivePrinterTest::activePrinterWithoutRecordGetsOneWhenItReportsOffline()
 {
-    // A report for a name without a record makes one, which is then what the choice is made from.
-    makeWithLaser();
+    // A report for a name without a record creates one, and the choice is then made from the
+    // records.
+    QVERIFY(makeWithLaser());
     setOffline(laser);
     reportStatus(laser, "");
     QCOMPARE(takeSignals(), QStringList({updated, status(257, laser), active(laser)}));
     QVERIFY(controller().vxDefaultActivePrinter());
 }
 
-void ActivePrinterTest::lineIsWrittenBetweenTheChangeAndTheSignal()
+void ActivePrinterTest::lineIsLoggedBetweenTheChangeAndTheSignal()
 {
     class Appender final : public AbstractAppender
     {
@@ -460,7 +462,7 @@ void ActivePrinterTest::lineIsWrittenBetweenTheChangeAndTheSignal()
                         .arg(controller().vxDefaultActivePrinter())
                         .arg(message));
     };
-    makeWithLaser();
+    QVERIFY(makeWithLaser());
     recorder().hook = [&](const QString& line) {
         if (line.startsWith(QLatin1String("activeDefaultPrinterSetSignal")))
             seen.append(line);

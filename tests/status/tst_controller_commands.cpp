@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// Raw commands, and the host's lines in the log.
+// Raw commands, and the lines that the host writes into the log.
 #include "controller_test.h"
 
 namespace {
@@ -22,29 +22,31 @@ class ControllerCommandsTest : public ControllerTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override
-    {
-        ControllerTest::init();
-        makeController();
-        // Added after the controller looked, so that only its commands call the spooler.
-        addPrinter(ash);
-        machine().recordCalls();
-    }
+    void init() override;
 
     void command_data();
     void command();
-    void callsInOrder();
+    void spoolerIsCalledInOrder();
     void arguments();
     void failure_data();
     void failure();
-    void unknownPrinter();
-    void printerOutsideOfTheCodePage();
-    void partOfTheDataIsNoFailure();
+    void unknownPrinterIsLogged();
+    void nonAsciiPrinterNameIsUsedAndLogged();
+    void partlyWrittenDataIsNotAFailure();
     void commandsAreIndependent();
-    void nothingIsEmitted();
-    void hostsLine_data();
-    void hostsLine();
+    void noSignalIsEmitted();
+    void lineOfTheHostIsLogged_data();
+    void lineOfTheHostIsLogged();
 };
+
+void ControllerCommandsTest::init()
+{
+    ControllerTest::init();
+    makeController();
+    // Added after discovery, so that only the commands call the spooler for it.
+    addPrinter(ash);
+    machine().recordCalls();
+}
 
 void ControllerCommandsTest::command_data()
 {
@@ -84,7 +86,7 @@ void ControllerCommandsTest::command()
     QVERIFY(takeLog().isEmpty());
 }
 
-void ControllerCommandsTest::callsInOrder()
+void ControllerCommandsTest::spoolerIsCalledInOrder()
 {
     controller().sendCommandToPrinter(QStringLiteral("FEED"), ash);
     QCOMPARE(functionsOf(machine().calls()),
@@ -145,20 +147,20 @@ void ControllerCommandsTest::failure()
     controller().sendCommandToPrinter(QStringLiteral("FEED"), ash);
     machine().setCallHook(nullptr);
 
-    // Everything is ended before the line is written.
+    // Everything has been ended when the line is written.
     QVERIFY(!loggedTooEarly);
     QCOMPARE(takeLog(), QList<LogRecord>{
                             libraryLine("printer_status_controller", line, sendFunction, message)});
     QCOMPARE(functionsOf(machine().calls()), calls);
     QCOMPARE(machine().openHandles(), 0);
 
-    // And nothing of it is remembered.
+    // The next command works.
     controller().sendCommandToPrinter(QStringLiteral("FEED"), ash);
     QVERIFY(takeLog().isEmpty());
     QVERIFY(machine().jobs(ash).last().finished);
 }
 
-void ControllerCommandsTest::unknownPrinter()
+void ControllerCommandsTest::unknownPrinterIsLogged()
 {
     controller().sendCommandToPrinter(QStringLiteral("FEED"), QStringLiteral("Nobody"));
     QCOMPARE(takeMessages(), QStringList{QStringLiteral("Nobody: OpenPrinter call failed")});
@@ -166,7 +168,7 @@ void ControllerCommandsTest::unknownPrinter()
     QCOMPARE(functionsOf(machine().calls()), QStringList{QStringLiteral("OpenPrinterA")});
 }
 
-void ControllerCommandsTest::printerOutsideOfTheCodePage()
+void ControllerCommandsTest::nonAsciiPrinterNameIsUsedAndLogged()
 {
     const QString name = QString::fromUtf8("Lager Süd");
     addPrinter(name);
@@ -177,9 +179,9 @@ void ControllerCommandsTest::printerOutsideOfTheCodePage()
     QCOMPARE(takeMessages(), QStringList{QString::fromUtf8("Lager Süd: OpenPrinter call failed")});
 }
 
-void ControllerCommandsTest::partOfTheDataIsNoFailure()
+void ControllerCommandsTest::partlyWrittenDataIsNotAFailure()
 {
-    // Ending the page or the document may fail too; nobody is told.
+    // Ending the page or the document may fail too; this is not reported.
     for (const char* function : {"EndPagePrinter", "EndDocPrinter", "ClosePrinter"}) {
         machine().failCall(QString::fromLatin1(function), 1, 5);
         controller().sendCommandToPrinter(QStringLiteral("FEED"), ash);
@@ -200,7 +202,7 @@ void ControllerCommandsTest::commandsAreIndependent()
     QCOMPARE(sent, QList<QByteArray>({"A\r\n", "B\r\n", "C\r\n"}));
 }
 
-void ControllerCommandsTest::nothingIsEmitted()
+void ControllerCommandsTest::noSignalIsEmitted()
 {
     controller().sendCommandToPrinter(QStringLiteral("FEED"), ash);
     controller().sendCommandToPrinter(QStringLiteral("FEED"), QStringLiteral("Nobody"));
@@ -208,7 +210,7 @@ void ControllerCommandsTest::nothingIsEmitted()
     QVERIFY(recordNames().isEmpty());
 }
 
-void ControllerCommandsTest::hostsLine_data()
+void ControllerCommandsTest::lineOfTheHostIsLogged_data()
 {
     QTest::addColumn<QString>("message");
     QTest::newRow("plain") << "Label printed";
@@ -218,7 +220,7 @@ void ControllerCommandsTest::hostsLine_data()
     QTest::newRow("empty") << "";
 }
 
-void ControllerCommandsTest::hostsLine()
+void ControllerCommandsTest::lineOfTheHostIsLogged()
 {
     QFETCH(const QString, message);
     controller().sendToLogger(message);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// Which printers the controller takes up, and what it makes of them.
+// Which printers the controller finds, and what records they get.
 #include "controller_test.h"
 #include "patience.h"
 
@@ -22,35 +22,35 @@ class ControllerDiscoveryTest : public ControllerTest
 
 private Q_SLOTS:
     void noPrinters();
-    void spoolerThatDoesNotAnswer();
-    void printerWithoutADriver();
+    void spoolerThatDoesNotAnswerHasNoPrinters();
+    void printerWithoutADriverInvalidatesTheList();
     void driver_data();
     void driver();
     void newRecord();
     void networkPrinter_data();
     void networkPrinter();
-    void printerThatMayNotBeManaged();
-    void offlinePrinterIsTakenUpWhenItIsBack();
+    void unmanagedPrinterIsListedOnly();
+    void offlinePrinterGetsItsRecordWhenItIsOnline();
     void offlinePrinterOfNoSupportedModelIsIgnored();
-    void offlineNetworkPrinterIsNotTakenUp();
-    void ignoredPrinterIsToldOnce();
-    void ignoredForGood();
-    void secondLookChangesNothing();
-    void eachLookEnumeratesOnce();
-    void namesThatDifferInCase();
-    void namesAreSorted();
+    void offlineNetworkPrinterGetsNoRecord();
+    void ignoredPrinterIsReportedOnce();
+    void ignoredPrinterStaysIgnored();
+    void secondDiscoveryChangesNothing();
+    void eachDiscoveryEnumeratesOnce();
+    void namesThatDifferInCaseAreTwoPrinters();
+    void recordsAreSortedByName();
     void duplicateNameIsOnePrinter();
     void removedPrinterKeepsItsRecordAndThread();
-    void endpointsAreToldOfEachRecord();
-    void threadsReportsReachTheirSlots();
+    void endpointsLearnOfEachRecord();
+    void reportsOfThreadsReachTheirSlots();
     void threadsRunAtInheritedPriority();
     void threadIsStartedAsItsPrinterIsFound();
-    void signalsOfDiscovery();
-    void slotsOfDiscovery_data();
-    void slotsOfDiscovery();
-    void whatIsLogged();
-    void hostsOfAnotherThread();
-    void parentDeletesIt();
+    void discoveryEmitsItsSignalsInOrder();
+    void slotsMayUseTheControllerDuringDiscovery_data();
+    void slotsMayUseTheControllerDuringDiscovery();
+    void evaluatedPrintersAreLogged();
+    void controllerWorksOnAnyThread();
+    void parentDeletesTheController();
 };
 
 void ControllerDiscoveryTest::noPrinters()
@@ -65,7 +65,7 @@ void ControllerDiscoveryTest::noPrinters()
     QVERIFY(takeLog().isEmpty());
 }
 
-void ControllerDiscoveryTest::spoolerThatDoesNotAnswer()
+void ControllerDiscoveryTest::spoolerThatDoesNotAnswerHasNoPrinters()
 {
     addPrinter(packing);
     machine().stopSpooler();
@@ -77,9 +77,9 @@ void ControllerDiscoveryTest::spoolerThatDoesNotAnswer()
     QCOMPARE(recordNames(), QStringList{packing});
 }
 
-void ControllerDiscoveryTest::printerWithoutADriver()
+void ControllerDiscoveryTest::printerWithoutADriverInvalidatesTheList()
 {
-    // One that cannot be described spoils the whole list, and nothing of that gets out.
+    // One incomplete entry invalidates the whole list. No exception leaves the controller.
     addPrinter(packing);
     addPrinter(shipping, QString());
     makeController();
@@ -116,7 +116,7 @@ void ControllerDiscoveryTest::driver()
     QFETCH(const bool, supported);
     QFETCH(const bool, secondRibbon);
 
-    // The printer's own name says nothing.
+    // The model is not recognised by the printer's own name.
     const QString name = supported ? QStringLiteral("Laser") : QStringLiteral("Stratamark Alder");
     makeController();
     addPrinter(name, driver);
@@ -167,7 +167,7 @@ void ControllerDiscoveryTest::networkPrinter()
 {
     QFETCH(const quint32, attributes);
     QFETCH(const QString, port);
-    // Whether it may be administered is not even asked.
+    // The controller does not check whether the user may administer it.
     machine().addPrinter({.name = packing,
                           .driver = QStringLiteral("Stratamark Alder"),
                           .port = port,
@@ -185,7 +185,7 @@ void ControllerDiscoveryTest::networkPrinter()
     QCOMPARE(machine().openHandles(), 0);
 }
 
-void ControllerDiscoveryTest::printerThatMayNotBeManaged()
+void ControllerDiscoveryTest::unmanagedPrinterIsListedOnly()
 {
     addUnmanagedPrinter(packing);
     makeController();
@@ -199,7 +199,7 @@ void ControllerDiscoveryTest::printerThatMayNotBeManaged()
     QCOMPARE(callsOf("FindFirstPrinterChangeNotification"), 0);
 }
 
-void ControllerDiscoveryTest::offlinePrinterIsTakenUpWhenItIsBack()
+void ControllerDiscoveryTest::offlinePrinterGetsItsRecordWhenItIsOnline()
 {
     addPrinter(packing);
     setOffline(packing);
@@ -232,7 +232,7 @@ void ControllerDiscoveryTest::offlinePrinterOfNoSupportedModelIsIgnored()
     QVERIFY(recordNames().isEmpty());
 }
 
-void ControllerDiscoveryTest::offlineNetworkPrinterIsNotTakenUp()
+void ControllerDiscoveryTest::offlineNetworkPrinterGetsNoRecord()
 {
     addPrinter(packing, QStringLiteral("Stratamark Alder"),
                networkAttribute | workOfflineAttribute);
@@ -240,7 +240,7 @@ void ControllerDiscoveryTest::offlineNetworkPrinterIsNotTakenUp()
     QVERIFY(recordNames().isEmpty());
 }
 
-void ControllerDiscoveryTest::ignoredPrinterIsToldOnce()
+void ControllerDiscoveryTest::ignoredPrinterIsReportedOnce()
 {
     makeController();
     addPrinter(office, QStringLiteral("Harlow Devices Press"));
@@ -252,7 +252,7 @@ void ControllerDiscoveryTest::ignoredPrinterIsToldOnce()
     QCOMPARE(takeMessages().size(), 1);
 }
 
-void ControllerDiscoveryTest::ignoredForGood()
+void ControllerDiscoveryTest::ignoredPrinterStaysIgnored()
 {
     addPrinter(office, QStringLiteral("Office Laser 9"));
     makeController();
@@ -262,7 +262,7 @@ void ControllerDiscoveryTest::ignoredForGood()
     QVERIFY(takeSignals().isEmpty());
 }
 
-void ControllerDiscoveryTest::secondLookChangesNothing()
+void ControllerDiscoveryTest::secondDiscoveryChangesNothing()
 {
     addPrinter(packing);
     addNetworkPrinter(shipping);
@@ -288,7 +288,7 @@ void ControllerDiscoveryTest::secondLookChangesNothing()
     QVERIFY(takeLog().isEmpty());
 }
 
-void ControllerDiscoveryTest::eachLookEnumeratesOnce()
+void ControllerDiscoveryTest::eachDiscoveryEnumeratesOnce()
 {
     addPrinter(packing);
     makeController();
@@ -298,9 +298,9 @@ void ControllerDiscoveryTest::eachLookEnumeratesOnce()
     QCOMPARE(callsOf("EnumPrintersW"), 2 * sizingAndReading);
 }
 
-void ControllerDiscoveryTest::namesThatDifferInCase()
+void ControllerDiscoveryTest::namesThatDifferInCaseAreTwoPrinters()
 {
-    // The virtual spooler finds printers by their exact names, so that both can be there.
+    // The virtual spooler compares names exactly, so both printers can exist.
     addPrinter(QStringLiteral("packing"), QStringLiteral("Stratamark BirchMax"));
     addPrinter(QStringLiteral("Packing"), QStringLiteral("Stratamark Alder"));
     makeController();
@@ -311,7 +311,7 @@ void ControllerDiscoveryTest::namesThatDifferInCase()
     QCOMPARE(record(QStringLiteral("Packing")).statusEnum, 255);
 }
 
-void ControllerDiscoveryTest::namesAreSorted()
+void ControllerDiscoveryTest::recordsAreSortedByName()
 {
     for (const char* name : {"b", "a", "\xC3\xA4", "B", "10", "9", "\xE2\x82\xAC"})
         addNetworkPrinter(QString::fromUtf8(name));
@@ -345,7 +345,7 @@ void ControllerDiscoveryTest::removedPrinterKeepsItsRecordAndThread()
     QVERIFY(machine().waitForWaitingThreads(1));
 }
 
-void ControllerDiscoveryTest::endpointsAreToldOfEachRecord()
+void ControllerDiscoveryTest::endpointsLearnOfEachRecord()
 {
     addPrinter(packing);
     addNetworkPrinter(shipping);
@@ -357,11 +357,11 @@ void ControllerDiscoveryTest::endpointsAreToldOfEachRecord()
     QCOMPARE(printers->getPrinterStatus(shipping), 256);
     QCOMPARE(printers->getPrinterStatus(office), 258);
 
-    // A later report does not go there.
+    // A later report is not passed on.
     reportStatus(packing, "1");
     QCOMPARE(printers->getPrinterStatus(packing), 255);
 
-    // A printer with a database of its own remembers what is loaded for itself alone.
+    // The printer has its own database object, so what is loaded in it is stored for it alone.
     VXIPCSUPPLYDController* const supplies = controller().getSupplyIdController();
     supplies->setRibbonIds({QStringLiteral("-1")}, packing);
     QCOMPARE(supplies->supplyRibbonSKUsCached(packing), QStringList{QStringLiteral("-1")});
@@ -374,12 +374,12 @@ void ControllerDiscoveryTest::endpointsAreToldOfEachRecord()
     QCOMPARE(controller().getSupplyIdController(), supplies);
 }
 
-void ControllerDiscoveryTest::threadsReportsReachTheirSlots()
+void ControllerDiscoveryTest::reportsOfThreadsReachTheirSlots()
 {
-    // Alder publishes percentages, so each mileage shows which field it went to.
+    // Alder publishes percentages, so the values show which mileage filled which field.
     addPrinter(packing);
     makeController();
-    settle(1);
+    QVERIFY(settle(1));
     takeSignals();
     machine().publish(packing, {
                                    PrinterValue::text("StatusCode", "1"),
@@ -393,7 +393,7 @@ void ControllerDiscoveryTest::threadsReportsReachTheirSlots()
                                    PrinterValue::number("UpdateProgress", 5),
                                    PrinterValue::number("UpdateError", 6),
                                });
-    settle(1);
+    QVERIFY(settle(1));
 
     const PrinterStatusInformation found = record(packing);
     QCOMPARE(found.statusEnum, 1);
@@ -435,7 +435,7 @@ void ControllerDiscoveryTest::threadsRunAtInheritedPriority()
 
 void ControllerDiscoveryTest::threadIsStartedAsItsPrinterIsFound()
 {
-    // The first printer is watched before the second is as much as looked at.
+    // The first printer is watched before the second one is evaluated.
     addPrinter(packing);
     addPrinter(shipping);
     const QThread* const host = QThread::currentThread();
@@ -456,7 +456,7 @@ void ControllerDiscoveryTest::threadIsStartedAsItsPrinterIsFound()
     QVERIFY(isFirstWatched);
 }
 
-void ControllerDiscoveryTest::signalsOfDiscovery()
+void ControllerDiscoveryTest::discoveryEmitsItsSignalsInOrder()
 {
     makeController();
     addPrinter(packing);
@@ -470,7 +470,7 @@ void ControllerDiscoveryTest::signalsOfDiscovery()
                           QStringLiteral("statusChangedSignal(0, Office)")}));
 }
 
-void ControllerDiscoveryTest::slotsOfDiscovery_data()
+void ControllerDiscoveryTest::slotsMayUseTheControllerDuringDiscovery_data()
 {
     QTest::addColumn<QString>("foundAfter");
     QTest::addColumn<QString>("driver");
@@ -483,10 +483,10 @@ void ControllerDiscoveryTest::slotsOfDiscovery_data()
         << QStringLiteral("activeDefaultPrinterSetSignal(Shipping, true)");
 }
 
-void ControllerDiscoveryTest::slotsOfDiscovery()
+void ControllerDiscoveryTest::slotsMayUseTheControllerDuringDiscovery()
 {
-    // A slot may stay in an event loop of its own, a dialog's for one: all printers that were found
-    // before are watched meanwhile.
+    // While a slot runs an event loop, for example that of a dialog, all printers that were found
+    // before are watched.
     QFETCH(QString, foundAfter);
     QFETCH(QString, driver);
     QFETCH(QString, slotOf);
@@ -509,7 +509,7 @@ void ControllerDiscoveryTest::slotsOfDiscovery()
     QVERIFY(isWatched);
 }
 
-void ControllerDiscoveryTest::whatIsLogged()
+void ControllerDiscoveryTest::evaluatedPrintersAreLogged()
 {
     addPrinter(packing, QStringLiteral("Stratamark CedarMax"));
     addPrinter(QStringLiteral("B\u00fcro"), QStringLiteral("Office Laser 9"));
@@ -528,9 +528,9 @@ void ControllerDiscoveryTest::whatIsLogged()
     QCOMPARE(takeLog(), expected);
 }
 
-void ControllerDiscoveryTest::hostsOfAnotherThread()
+void ControllerDiscoveryTest::controllerWorksOnAnyThread()
 {
-    // The host's thread is the one that makes the controller, whichever it is.
+    // The controller belongs to the thread that creates it, which need not be the main thread.
     addPrinter(packing);
     machine().publish(packing, PrinterValue::text("StatusCode", "1"));
     QThread* slotThread = nullptr;
@@ -549,7 +549,7 @@ void ControllerDiscoveryTest::hostsOfAnotherThread()
     QCOMPARE(machine().openHandles(), 0);
 }
 
-void ControllerDiscoveryTest::parentDeletesIt()
+void ControllerDiscoveryTest::parentDeletesTheController()
 {
     addPrinter(packing);
     auto parent = std::make_unique<QObject>();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What a host sees of the controller through its meta-object: every method, in order, and the
-// property.
+// The controller's meta-object: every method, in order, and the property.
 #include "controller_test.h"
 
 #include <QtCore/QMetaProperty>
@@ -15,8 +14,8 @@ private Q_SLOTS:
     void method_data();
     void method();
     void hasNoOtherMethods();
-    void theOneProperty();
-    void typesAreKnownByName();
+    void availablePrintersIsTheOnlyProperty();
+    void typesAreRegisteredByName();
     void everyPublicSlotCanBeCalledByName();
     void recordsAreReadThroughTheProperty();
 };
@@ -116,7 +115,7 @@ void ControllerMetaObjectTest::hasNoOtherMethods()
     QCOMPARE(meta.methodCount() - meta.methodOffset(), int(std::size(methods)));
 }
 
-void ControllerMetaObjectTest::theOneProperty()
+void ControllerMetaObjectTest::availablePrintersIsTheOnlyProperty()
 {
     const QMetaObject& meta = PrinterStatusController::staticMetaObject;
     QCOMPARE(meta.propertyCount() - meta.propertyOffset(), 1);
@@ -137,7 +136,7 @@ void ControllerMetaObjectTest::theOneProperty()
     QVERIFY(!property.isRequired());
 }
 
-void ControllerMetaObjectTest::typesAreKnownByName()
+void ControllerMetaObjectTest::typesAreRegisteredByName()
 {
     QCOMPARE(QMetaType::fromName("PrinterStatusInformation"),
              QMetaType::fromType<PrinterStatusInformation>());

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What the controller makes of a status that a printer reports, and the error state.
+// How the controller interprets the statuses that printers report, and the error state.
 #include "controller_test.h"
 
 #include <vxerror.h>
@@ -27,47 +27,49 @@ class ControllerStatusTest : public ControllerTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override
-    {
-        ControllerTest::init();
-        addPrinter(ash);
-        machine().setDefaultPrinter(ash);
-        makeController();
-        QVERIFY(machine().waitForWaitingThreads(1));
-        takeLog();
-    }
+    void init() override;
 
     void statusOfAnOnlinePrinter_data();
     void statusOfAnOnlinePrinter();
     void statusOfAnOfflinePrinter_data();
     void statusOfAnOfflinePrinter();
-    void whetherOfflineIsAskedOnlyWhereItMatters_data();
-    void whetherOfflineIsAskedOnlyWhereItMatters();
-    void secondErrorIsNotTold();
+    void offlineStateIsQueriedOnlyWhereItMatters_data();
+    void offlineStateIsQueriedOnlyWhereItMatters();
+    void secondErrorIsNotSignalled();
     void readyClearsTheErrorState();
-    void readyWithoutErrorTellsNoError();
+    void readyWithoutErrorSignalsNoError();
     void offlineClearsTheErrorState_data();
     void offlineClearsTheErrorState();
-    void anotherPrinterHoldsTheErrorState_data();
-    void anotherPrinterHoldsTheErrorState();
-    void networkAndOfflinePrintersHoldNoErrorState();
-    void comesBackFromOffline();
-    void offlinePrinterIsNotEvaluatedAnew();
-    void networkPrintersReportIsIgnored();
-    void unmanagedPrintersReportIsHandled();
-    void unknownNameMakesARecord();
-    void unknownNameThatIsOffline();
-    void hostSaysThatThereIsAnError();
-    void hostSaysThatAnErrorMayHaveCleared();
-    void spoolerStopsAndComesBack();
-    void reportGoesToNoEndpoint();
+    void anotherPrinterMaintainsTheErrorState_data();
+    void anotherPrinterMaintainsTheErrorState();
+    void networkAndOfflinePrintersDoNotMaintainTheErrorState();
+    void offlinePrinterIsOnlineAgainAtItsNextReport();
+    void offlinePrinterWithARecordIsNotEvaluatedAgain();
+    void reportOfANetworkPrinterIsIgnored();
+    void reportOfAnUnmanagedPrinterIsHandled();
+    void reportOfAnUnknownPrinterCreatesARecord();
+    void unknownPrinterThatReportsUnreadablyIsOffline();
+    void hostCanRaiseTheErrorState();
+    void hostCanHaveTheErrorStateChecked();
+    void stoppedSpoolerIsReportedUntilItRunsAgain();
+    void reportsAreNotPassedToEndpoints();
     void titles_data();
     void titles();
     void typeOfAPrinter();
-    void typeIsTakenFromAListingOfItsOwn();
-    void unreadableReportOfAnOfflinePrinterSaysSo();
-    void slotMayChangeTheRecords();
+    void typeIsReadFromANewEnumeration();
+    void unreadableReportOfAnOfflinePrinterSignalsOffline();
+    void slotMayAddRecordsDuringAReport();
 };
+
+void ControllerStatusTest::init()
+{
+    ControllerTest::init();
+    addPrinter(ash);
+    machine().setDefaultPrinter(ash);
+    makeController();
+    QVERIFY(machine().waitForWaitingThreads(1));
+    takeLog();
+}
 
 void ControllerStatusTest::statusOfAnOnlinePrinter_data()
 {
@@ -90,7 +92,7 @@ void ControllerStatusTest::statusOfAnOnlinePrinter_data()
     row("-1", -1, true);
     row("-2147483648", INT_MIN, true);
     row("2147483647", INT_MAX, true);
-    row("2147483648", 255, true); // no int
+    row("2147483648", 255, true); // out of range
     row("-2147483649", 255, true);
     row("", 255, true);
     row("abc", 255, true);
@@ -129,10 +131,10 @@ void ControllerStatusTest::statusOfAnOfflinePrinter_data()
     const QStringList statusFirst{chosenAgain, status(257), updated};
     QTest::newRow("empty") << "" << 257 << listFirst;
     QTest::newRow("abc") << "abc" << 257 << listFirst;
-    QTest::newRow("no int") << "2147483648" << 257 << listFirst;
+    QTest::newRow("out of range") << "2147483648" << 257 << listFirst;
     QTest::newRow("0") << "0" << 257 << statusFirst;
     QTest::newRow("255") << "255" << 257 << statusFirst;
-    // What a printer reports readably otherwise is believed.
+    // Any other number counts, although the spooler says that the printer is offline.
     QTest::newRow("1") << "1" << 1 << QStringList{status(1), updated};
     QTest::newRow("42") << "42" << 42 << QStringList{errorRaised, status(42), updated};
     QTest::newRow("-1") << "-1" << -1 << QStringList{errorRaised, status(-1), updated};
@@ -157,7 +159,7 @@ void ControllerStatusTest::statusOfAnOfflinePrinter()
         QVERIFY(log.isEmpty());
 }
 
-void ControllerStatusTest::whetherOfflineIsAskedOnlyWhereItMatters_data()
+void ControllerStatusTest::offlineStateIsQueriedOnlyWhereItMatters_data()
 {
     QTest::addColumn<QString>("reported");
     QTest::addColumn<int>("questions");
@@ -165,10 +167,10 @@ void ControllerStatusTest::whetherOfflineIsAskedOnlyWhereItMatters_data()
     QTest::newRow("driver's code") << "42" << 0;
     QTest::newRow("0") << "0" << 1;
     QTest::newRow("255") << "255" << 1;
-    QTest::newRow("unreadable") << "abc" << 2; // and as a 255 once more
+    QTest::newRow("unreadable") << "abc" << 2; // once as unreadable, once as 255
 }
 
-void ControllerStatusTest::whetherOfflineIsAskedOnlyWhereItMatters()
+void ControllerStatusTest::offlineStateIsQueriedOnlyWhereItMatters()
 {
     QFETCH(const QString, reported);
     QFETCH(const int, questions);
@@ -177,7 +179,7 @@ void ControllerStatusTest::whetherOfflineIsAskedOnlyWhereItMatters()
     QCOMPARE(callsOf("OpenPrinterA") - before, questions);
 }
 
-void ControllerStatusTest::secondErrorIsNotTold()
+void ControllerStatusTest::secondErrorIsNotSignalled()
 {
     reportStatus(ash, "42");
     QCOMPARE(takeSignals(), QStringList({errorRaised, status(42), updated}));
@@ -195,7 +197,7 @@ void ControllerStatusTest::readyClearsTheErrorState()
     QCOMPARE(takeSignals(), QStringList({errorCleared, status(1), updated}));
 }
 
-void ControllerStatusTest::readyWithoutErrorTellsNoError()
+void ControllerStatusTest::readyWithoutErrorSignalsNoError()
 {
     reportStatus(ash, "1");
     reportStatus(ash, "1");
@@ -227,7 +229,7 @@ void ControllerStatusTest::offlineClearsTheErrorState()
     QCOMPARE(takeSignals(), expected);
 }
 
-void ControllerStatusTest::anotherPrinterHoldsTheErrorState_data()
+void ControllerStatusTest::anotherPrinterMaintainsTheErrorState_data()
 {
     QTest::addColumn<QString>("other");
     QTest::addColumn<bool>("holds");
@@ -236,12 +238,12 @@ void ControllerStatusTest::anotherPrinterHoldsTheErrorState_data()
     QTest::newRow("driver's code") << "2" << true;
     QTest::newRow("spooler down") << "254" << true;
     QTest::newRow("ready") << "1" << false;
-    // These raise the error state but do not hold it.
+    // These raise the error state but do not maintain it.
     QTest::newRow("0") << "0" << false;
     QTest::newRow("negative") << "-7" << false;
 }
 
-void ControllerStatusTest::anotherPrinterHoldsTheErrorState()
+void ControllerStatusTest::anotherPrinterMaintainsTheErrorState()
 {
     QFETCH(const QString, other);
     QFETCH(const bool, holds);
@@ -260,7 +262,7 @@ void ControllerStatusTest::anotherPrinterHoldsTheErrorState()
     QCOMPARE(takeSignals(), expected);
 }
 
-void ControllerStatusTest::networkAndOfflinePrintersHoldNoErrorState()
+void ControllerStatusTest::networkAndOfflinePrintersDoNotMaintainTheErrorState()
 {
     addNetworkPrinter(QStringLiteral("Net"));
     addPrinter(beech);
@@ -272,7 +274,7 @@ void ControllerStatusTest::networkAndOfflinePrintersHoldNoErrorState()
     reportStatus(ash, "1");
     QCOMPARE(takeSignals(), QStringList({errorCleared, status(1), updated}));
 
-    // One that may not be managed does, for good.
+    // A printer that is not managed maintains it forever.
     addUnmanagedPrinter(QStringLiteral("Store"));
     controller().checkForPrinters();
     reportStatus(ash, "42");
@@ -281,7 +283,7 @@ void ControllerStatusTest::networkAndOfflinePrintersHoldNoErrorState()
     QCOMPARE(takeSignals(), QStringList({status(1), updated}));
 }
 
-void ControllerStatusTest::comesBackFromOffline()
+void ControllerStatusTest::offlinePrinterIsOnlineAgainAtItsNextReport()
 {
     setOffline(ash);
     reportStatus(ash, "0");
@@ -295,7 +297,7 @@ void ControllerStatusTest::comesBackFromOffline()
     QCOMPARE(takeSignals(), QStringList({errorRaised, status(0), updated}));
 }
 
-void ControllerStatusTest::offlinePrinterIsNotEvaluatedAnew()
+void ControllerStatusTest::offlinePrinterWithARecordIsNotEvaluatedAgain()
 {
     setOffline(ash);
     reportStatus(ash, "");
@@ -307,7 +309,7 @@ void ControllerStatusTest::offlinePrinterIsNotEvaluatedAnew()
     QCOMPARE(recordNames(), QStringList{ash});
 }
 
-void ControllerStatusTest::networkPrintersReportIsIgnored()
+void ControllerStatusTest::reportOfANetworkPrinterIsIgnored()
 {
     const QString name = QStringLiteral("Net");
     addNetworkPrinter(name);
@@ -319,7 +321,7 @@ void ControllerStatusTest::networkPrintersReportIsIgnored()
     QVERIFY(takeSignals().isEmpty());
 }
 
-void ControllerStatusTest::unmanagedPrintersReportIsHandled()
+void ControllerStatusTest::reportOfAnUnmanagedPrinterIsHandled()
 {
     const QString name = QStringLiteral("Store");
     addUnmanagedPrinter(name);
@@ -330,26 +332,26 @@ void ControllerStatusTest::unmanagedPrintersReportIsHandled()
     QCOMPARE(takeSignals(), QStringList({status(1, name), updated}));
 }
 
-void ControllerStatusTest::unknownNameMakesARecord()
+void ControllerStatusTest::reportOfAnUnknownPrinterCreatesARecord()
 {
     reportStatus(QStringLiteral("Nobody"), "7");
     QCOMPARE(takeSignals(),
              QStringList({errorRaised, status(7, QStringLiteral("Nobody")), updated}));
-    // The record has no name of its own; it sorts by that of the report.
+    // The record has no printer name; it is sorted by the name in the report.
     QCOMPARE(recordNames(), QStringList({ash, QString()}));
     QCOMPARE(record(QString()).statusEnum, 7);
 }
 
-void ControllerStatusTest::unknownNameThatIsOffline()
+void ControllerStatusTest::unknownPrinterThatReportsUnreadablyIsOffline()
 {
-    // What the spooler does not know cannot be opened and counts as offline.
+    // A printer that the spooler does not know cannot be opened, so it counts as offline.
     reportStatus(QStringLiteral("Nobody"), "");
     QCOMPARE(takeSignals(), QStringList({updated, status(257, QStringLiteral("Nobody"))}));
     QVERIFY(!record(QString()).printerOnline);
     QCOMPARE(takeMessages(), QStringList{QStringLiteral("Nobody went offline")});
 }
 
-void ControllerStatusTest::hostSaysThatThereIsAnError()
+void ControllerStatusTest::hostCanRaiseTheErrorState()
 {
     controller().updateCachedStatus(true);
     QCOMPARE(takeSignals(), QStringList{errorRaised});
@@ -359,7 +361,7 @@ void ControllerStatusTest::hostSaysThatThereIsAnError()
     QCOMPARE(takeSignals(), QStringList({status(42), updated}));
 }
 
-void ControllerStatusTest::hostSaysThatAnErrorMayHaveCleared()
+void ControllerStatusTest::hostCanHaveTheErrorStateChecked()
 {
     reportStatus(ash, "1");
     takeSignals();
@@ -376,28 +378,27 @@ void ControllerStatusTest::hostSaysThatAnErrorMayHaveCleared()
     QVERIFY(takeSignals().isEmpty());
 }
 
-void ControllerStatusTest::spoolerStopsAndComesBack()
+void ControllerStatusTest::stoppedSpoolerIsReportedUntilItRunsAgain()
 {
     machine().publish(ash, PrinterValue::text("StatusCode", "1"));
-    settle(1);
+    QVERIFY(settle(1));
     QCOMPARE(takeSignals(), QStringList({status(1), updated}));
 
     machine().stopSpooler();
     machine().advance(5s);
-    settle(1);
+    QVERIFY(settle(1));
     QCOMPARE(takeSignals(), QStringList({errorRaised, status(254), updated}));
     QVERIFY(record(ash).printerOnline);
 
     machine().startSpooler();
     machine().advance(5s);
-    settle(1);
+    QVERIFY(settle(1));
     QCOMPARE(takeSignals(), QStringList({errorCleared, status(1), updated}));
 }
 
-void ControllerStatusTest::reportGoesToNoEndpoint()
+void ControllerStatusTest::reportsAreNotPassedToEndpoints()
 {
-    // Windows is asked for the name of its default printer, and for nothing else of a ready
-    // printer.
+    // For a printer that is ready, Windows is queried for its default printer and for nothing else.
     reportStatus(ash, "1");
     machine().recordCalls();
     reportStatus(ash, "1");
@@ -434,7 +435,7 @@ void ControllerStatusTest::typeOfAPrinter()
     using VXPrinting::PrinterType;
     addPrinter(beech, QStringLiteral("Stratamark BirchMax"));
     addPrinter(QStringLiteral("Laser"), QStringLiteral("Office Laser 9"));
-    // Asked of the spooler: that the controller has not looked for them does not matter.
+    // The spooler is queried, so printers that the controller has not found are included.
     QCOMPARE(controller().getPrinterTypeEnum(beech), PrinterType::BirchMax);
     QCOMPARE(controller().getPrinterTypeEnum(QStringLiteral("Laser")), PrinterType::Unknown);
     QCOMPARE(controller().getPrinterTypeEnum(QStringLiteral("beech")), PrinterType::Unknown);
@@ -446,9 +447,9 @@ void ControllerStatusTest::typeOfAPrinter()
     QCOMPARE(controller().getPrinterTypeEnum(ash), PrinterType::Unknown);
 }
 
-void ControllerStatusTest::typeIsTakenFromAListingOfItsOwn()
+void ControllerStatusTest::typeIsReadFromANewEnumeration()
 {
-    // A whole one, which records the serial numbers that it finds.
+    // It is a full enumeration, which also records the serial numbers that it finds.
     machine().addDevice({QStringLiteral("{28d78fad-5a12-11d1-ae5b-0000f803a8c2}"),
                          QStringLiteral("##?#USB#VID_3E7A&PID_0104#1"), 1, QStringLiteral("AM-1")});
     const auto isRecorded = [] {
@@ -464,9 +465,9 @@ void ControllerStatusTest::typeIsTakenFromAListingOfItsOwn()
     QVERIFY(isRecorded());
 }
 
-void ControllerStatusTest::unreadableReportOfAnOfflinePrinterSaysSo()
+void ControllerStatusTest::unreadableReportOfAnOfflinePrinterSignalsOffline()
 {
-    // Also when a report that a slot lets in says something else by then.
+    // Also when another report is handled in a slot before the signal is emitted.
     setOffline(ash);
     recorder().hook = [&](const QString& line) {
         if (line != updated)
@@ -482,12 +483,12 @@ void ControllerStatusTest::unreadableReportOfAnOfflinePrinterSaysSo()
     QCOMPARE(signalled.count(status(7)), 1);
 }
 
-void ControllerStatusTest::slotMayChangeTheRecords()
+void ControllerStatusTest::slotMayAddRecordsDuringAReport()
 {
-    // New records while a report is being handled: the report still ends up in its own.
+    // The report must still reach its own record.
     int added = 0;
-    recorder().hook = [&](const QString& told) {
-        if (told != errorRaised)
+    recorder().hook = [&](const QString& signal) {
+        if (signal != errorRaised)
             return;
         for (; added < 50; ++added)
             addNetworkPrinter(QStringLiteral("Net %1").arg(added));

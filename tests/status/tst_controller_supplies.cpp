@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What the controller makes of the supplies, ribbons, mileages and versions that printers report.
-// The supply endpoint is the real one; the databases behind it say what each test has them say.
+// How the controller handles the supplies, ribbons, mileages and versions that printers report. The
+// supply endpoint is the real one; the databases behind it return what each test has set.
 #include "controller_test.h"
 #include "scripted_supply_database.h"
 #include "vx_ipc_supplyd_controller.h"
@@ -25,16 +25,7 @@ class ControllerSuppliesTest : public ControllerTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override
-    {
-        ControllerTest::init();
-        ScriptedSupplyDatabase::reset();
-        addPrinter(alder, QStringLiteral("Stratamark Alder"));
-        addPrinter(birch, QStringLiteral("Stratamark BirchMax"));
-        makeController();
-        QVERIFY(machine().waitForWaitingThreads(2));
-        takeLog();
-    }
+    void init() override;
 
     void supplyIdentifier_data();
     void supplyIdentifier();
@@ -42,15 +33,15 @@ private Q_SLOTS:
     void supplyColour_data();
     void supplyColour();
     void supplyKeepsThePercentage();
-    void supplyIsLogged();
+    void changedSupplyIsLogged();
     void supplyLogQuotesItsTexts();
-    void supplyOfAnUnknownName();
+    void supplyOfAnUnknownPrinterCreatesARecord();
     void ribbonsFillTheRecord();
     void ribbonSkus_data();
     void ribbonSkus();
     void ribbonColour_data();
     void ribbonColour();
-    void ribbonsOfAnUnknownName();
+    void ribbonsOfAnUnknownPrinterCreateARecord();
     void supplyMileage_data();
     void supplyMileage();
     void farthestSupplyMileage();
@@ -58,17 +49,28 @@ private Q_SLOTS:
     void ribbonMileage();
     void percentagesOfAlder_data();
     void percentagesOfAlder();
-    void typeIsThatOfTheMoment();
-    void removedPrinterIsOfNoType();
-    void ribbonsHaveTheirOwnLengths();
-    void mileageOfAnUnknownName();
-    void mileageAsksTheDatabaseEvenForPercentages();
+    void typeIsQueriedAtEachMileage();
+    void removedPrinterHasNoType();
+    void eachRibbonHasItsOwnLength();
+    void mileageOfAnUnknownPrinterCreatesARecord();
+    void mileageQueriesTheDatabaseAlsoForPercentages();
     void softwareVersion_data();
     void softwareVersion();
-    void softwareVersionOfAnUnknownName();
-    void nobodyTellsOfTheVersionAlone();
-    void otherRecordsAreLeftAlone();
+    void softwareVersionOfAnUnknownPrinter();
+    void softwareVersionHasNoSignalOfItsOwn();
+    void otherRecordsAreNotChanged();
 };
+
+void ControllerSuppliesTest::init()
+{
+    ControllerTest::init();
+    ScriptedSupplyDatabase::reset();
+    addPrinter(alder, QStringLiteral("Stratamark Alder"));
+    addPrinter(birch, QStringLiteral("Stratamark BirchMax"));
+    makeController();
+    QVERIFY(machine().waitForWaitingThreads(2));
+    takeLog();
+}
 
 void ControllerSuppliesTest::supplyIdentifier_data()
 {
@@ -105,10 +107,10 @@ void ControllerSuppliesTest::supplyFillsTheRecord()
 {
     database().supplySku = QStringLiteral("VT-1");
     database().supplyRgb = 0x00C8FF0E;
-    // As the signal comes the record is filled.
+    // The record is filled before the signal is emitted.
     QString skuInSlot;
-    recorder().hook = [&](const QString& told) {
-        if (told != updated)
+    recorder().hook = [&](const QString& signal) {
+        if (signal != updated)
             skuInSlot = record(birch).supplySKU;
     };
     report("onSupplyIdChanged", birch, roll);
@@ -149,7 +151,7 @@ void ControllerSuppliesTest::supplyKeepsThePercentage()
     QCOMPARE(record(alder).supplyPercentage, 57);
 }
 
-void ControllerSuppliesTest::supplyIsLogged()
+void ControllerSuppliesTest::changedSupplyIsLogged()
 {
     database().supplySku = QStringLiteral("VT-1");
     database().supplyRgb = 0x112233;
@@ -178,7 +180,7 @@ void ControllerSuppliesTest::supplyLogQuotesItsTexts()
              qPrintable(messages.first()));
 }
 
-void ControllerSuppliesTest::supplyOfAnUnknownName()
+void ControllerSuppliesTest::supplyOfAnUnknownPrinterCreatesARecord()
 {
     ScriptedSupplyDatabase::shared().supplySku = QStringLiteral("shared");
     report("onSupplyIdChanged", QStringLiteral("Nobody"), roll);
@@ -217,7 +219,7 @@ void ControllerSuppliesTest::ribbonSkus_data()
     QTest::addColumn<QStringList>("skus");
     QTest::addColumn<QString>("ribbon1");
     QTest::addColumn<QString>("ribbon2");
-    QTest::addColumn<bool>("isTold");
+    QTest::addColumn<bool>("isSignalled");
 
     const QString none = QStringLiteral("-1");
     const QString other = QStringLiteral("R-9");
@@ -244,7 +246,7 @@ void ControllerSuppliesTest::ribbonSkus()
     QFETCH(const QStringList, skus);
     QFETCH(const QString, ribbon1);
     QFETCH(const QString, ribbon2);
-    QFETCH(const bool, isTold);
+    QFETCH(const bool, isSignalled);
 
     const auto change = [&](const QStringList& answer) {
         database().ribbonSkus = answer;
@@ -261,8 +263,8 @@ void ControllerSuppliesTest::ribbonSkus()
     QCOMPARE(found.ribbon1ColorName, QStringLiteral("colour of %1 panel 1").arg(ribbon1));
     QCOMPARE(found.ribbon2ColorName, QStringLiteral("colour of %1 panel 1").arg(ribbon2));
     QCOMPARE(takeSignals(),
-             isTold ? QStringList({QStringLiteral("ribbonIdsChangedSignal(Beech)"), updated})
-                    : QStringList());
+             isSignalled ? QStringList({QStringLiteral("ribbonIdsChangedSignal(Beech)"), updated})
+                         : QStringList());
 }
 
 void ControllerSuppliesTest::ribbonColour_data()
@@ -295,7 +297,7 @@ void ControllerSuppliesTest::ribbonColour()
     }
 }
 
-void ControllerSuppliesTest::ribbonsOfAnUnknownName()
+void ControllerSuppliesTest::ribbonsOfAnUnknownPrinterCreateARecord()
 {
     ScriptedSupplyDatabase::shared().ribbonSkus = {QStringLiteral("R-1")};
     QMetaObject::invokeMethod(&controller(), "onRibbonIdsChanged", Qt::DirectConnection,
@@ -402,7 +404,7 @@ void ControllerSuppliesTest::percentagesOfAlder()
 {
     QFETCH(const QString, mileage);
     QFETCH(const int, expected);
-    // The lengths of what is loaded do not matter.
+    // The lengths of the loaded supply and ribbons do not matter.
     database(alder).supplyLength = 6000;
     report("onSupplyIntMileageChanged", alder, mileage);
     report("onRibbon1IntMileageChanged", alder, mileage);
@@ -413,19 +415,19 @@ void ControllerSuppliesTest::percentagesOfAlder()
     QCOMPARE(takeSignals(), QStringList({updated, updated, updated}));
 }
 
-void ControllerSuppliesTest::typeIsThatOfTheMoment()
+void ControllerSuppliesTest::typeIsQueriedAtEachMileage()
 {
     machine().setDriver(birch, QStringLiteral("Stratamark Alder"));
     report("onSupplyIntMileageChanged", birch, QStringLiteral("33"));
     QCOMPARE(record(birch).supplyPercentage, 33);
 
-    // AlderMax, for all its name, publishes millimetres.
+    // Despite its name, AlderMax publishes millimetres.
     machine().setDriver(birch, QStringLiteral("Stratamark AlderMax"));
     report("onSupplyIntMileageChanged", birch, QStringLiteral("33"));
     QCOMPARE(record(birch).supplyPercentage, 0);
 }
 
-void ControllerSuppliesTest::removedPrinterIsOfNoType()
+void ControllerSuppliesTest::removedPrinterHasNoType()
 {
     database(alder).supplyId = roll;
     database(alder).supplyLength = 6000;
@@ -434,7 +436,7 @@ void ControllerSuppliesTest::removedPrinterIsOfNoType()
     QCOMPARE(record(alder).supplyPercentage, 50);
 }
 
-void ControllerSuppliesTest::ribbonsHaveTheirOwnLengths()
+void ControllerSuppliesTest::eachRibbonHasItsOwnLength()
 {
     database().ribbonSkus = {QStringLiteral("R-1"), QStringLiteral("R-2")};
     database().ribbonLengths = {{QStringLiteral("R-1"), 9450.0}, {QStringLiteral("R-2"), 4725.0}};
@@ -444,7 +446,7 @@ void ControllerSuppliesTest::ribbonsHaveTheirOwnLengths()
     QCOMPARE(record(birch).ribbon2Percentage, 49);
 }
 
-void ControllerSuppliesTest::mileageOfAnUnknownName()
+void ControllerSuppliesTest::mileageOfAnUnknownPrinterCreatesARecord()
 {
     ScriptedSupplyDatabase::shared().supplyId = roll;
     ScriptedSupplyDatabase::shared().supplyLength = 6000;
@@ -453,7 +455,7 @@ void ControllerSuppliesTest::mileageOfAnUnknownName()
     QCOMPARE(takeSignals(), QStringList{updated});
 }
 
-void ControllerSuppliesTest::mileageAsksTheDatabaseEvenForPercentages()
+void ControllerSuppliesTest::mileageQueriesTheDatabaseAlsoForPercentages()
 {
     database(alder).supplySku = QStringLiteral("VT-1");
     ScriptedSupplyDatabase::takeCalls();
@@ -490,24 +492,24 @@ void ControllerSuppliesTest::softwareVersion()
     QCOMPARE(takeSignals(), QStringList{updated});
 }
 
-void ControllerSuppliesTest::softwareVersionOfAnUnknownName()
+void ControllerSuppliesTest::softwareVersionOfAnUnknownPrinter()
 {
     report("onSoftwareVersionChanged", birch, QStringLiteral("1.2"));
     for (const QString& name : {QStringLiteral("Nobody"), QStringLiteral("BEECH"), QString()})
         QVERIFY(controller().getPrinterSoftwareVersion(name).isEmpty());
-    // Asking makes no record, reporting does.
+    // A query creates no record, a report does.
     QCOMPARE(recordNames(), QStringList({alder, birch}));
     report("onSoftwareVersionChanged", QStringLiteral("Nobody"), QStringLiteral("7,8"));
     QCOMPARE(controller().getPrinterSoftwareVersion(QStringLiteral("Nobody")), QStringLiteral("7"));
 }
 
-void ControllerSuppliesTest::nobodyTellsOfTheVersionAlone()
+void ControllerSuppliesTest::softwareVersionHasNoSignalOfItsOwn()
 {
     report("onSoftwareVersionChanged", birch, QStringLiteral("1"));
     QCOMPARE(takeSignals(), QStringList{updated});
 }
 
-void ControllerSuppliesTest::otherRecordsAreLeftAlone()
+void ControllerSuppliesTest::otherRecordsAreNotChanged()
 {
     database().supplySku = QStringLiteral("VT-1");
     database().ribbonSkus = {QStringLiteral("R-1"), QStringLiteral("R-2")};

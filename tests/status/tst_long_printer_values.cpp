@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What the readers of the driver's values make of a spooler that answers "more data" and fills the
-// buffer with the beginning of the value. The call says that the size is what counts then and
-// promises nothing of the buffer:
+// How the driver's values are read from a spooler that returns "more data" and fills the buffer
+// with the beginning of the value. According to the documentation only the size is valid in this
+// case, and the content of the buffer is undefined:
 // https://learn.microsoft.com/windows/win32/printdocs/getprinterdata
 #include "printer_values.h"
 
@@ -18,7 +18,9 @@ quint32 answeredType = REG_NONE;
 QByteArray published;
 } // namespace
 
-// The library's objects are linked with this one in the place of the spooler's.
+// Replaces the spooler's function in the library's objects, which are linked into this test. The
+// linker's option --wrap prescribes the name.
+// NOLINTNEXTLINE(bugprone-reserved-identifier, readability-identifier-naming)
 extern "C" DWORD WINAPI __wrap_GetPrinterDataA(HANDLE, LPSTR, LPDWORD type, LPBYTE data, DWORD size,
                                                LPDWORD needed)
 {

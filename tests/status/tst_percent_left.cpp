@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What is left of a roll, from the mileage that the driver publishes.
+// What is left of a roll according to the mileage that the driver publishes.
 #include "percent_left.h"
 
 #include <QtTest/QtTest>
@@ -15,7 +15,7 @@ constexpr float infinityF = std::numeric_limits<float>::infinity();
 constexpr float notANumberF = std::numeric_limits<float>::quiet_NaN();
 constexpr float largestF = std::numeric_limits<float>::max();
 
-/// An identifier of a roll that was so many feet long when new.
+/// The identifier of a roll that was that many feet long when it was new.
 QString rollOf(qint32 feet)
 {
     return QStringLiteral("%1").arg(quint32(feet), 8, 16, QLatin1Char('0')) +
@@ -72,7 +72,7 @@ void PercentLeftTest::percentage_data()
     QTest::newRow("57.9") << 57.9 << 57;
     QTest::newRow("0") << 0.0 << 0;
     QTest::newRow("100") << 100.0 << 100;
-    QTest::newRow("100.9") << 100.9 << 100; // truncated before it is looked at
+    QTest::newRow("100.9") << 100.9 << 100; // truncated before the range is checked
     QTest::newRow("101") << 101.0 << 0;
     QTest::newRow("-0.9") << -0.9 << 0;
     QTest::newRow("-1") << -1.0 << 0;
@@ -107,7 +107,7 @@ void PercentLeftTest::supply_data()
     QTest::newRow("nearly not known") << -1.5 << 1200.0F << rollOf(50) << 49;
     QTest::newRow("more than new") << 155000.0 << 6000.0F << roll << 0;
 
-    // A length that rounds to 0 or -1 cannot be used; the others can.
+    // Lengths that round to 0 or -1 are unusable; all others are usable.
     QTest::newRow("length 0") << 0.0 << 0.0F << rollOf(0) << 0;
     QTest::newRow("length 0.4") << 10.16 << 0.4F << rollOf(0) << 0;
     QTest::newRow("length 0.6") << 0.0 << 0.6F << rollOf(0) << 100;
@@ -117,7 +117,7 @@ void PercentLeftTest::supply_data()
     QTest::newRow("length -1.4") << 0.0 << -1.4F << rollOf(0) << 0;
     QTest::newRow("length -1.6") << 0.0 << -1.6F << rollOf(0) << 100;
 
-    // What cannot be decoded was 0 feet long.
+    // An identifier that cannot be decoded counts as 0 feet.
     QTest::newRow("no identifier") << 0.0 << 6000.0F << QString() << 100;
     QTest::newRow("nothing loaded") << 0.0 << 6000.0F << QStringLiteral("-1") << 100;
     QTest::newRow("longer than what is decoded")
@@ -152,14 +152,14 @@ void PercentLeftTest::ribbon_data()
 
     QTest::newRow("half") << 60000.0 << 4725.0F << 49;
     QTest::newRow("new") << 120015.0 << 4725.0F << 100;
-    // 100.8 truncates to 100, which is not above 100 any more.
+    // 100.8 is truncated to 100 and is then in range.
     QTest::newRow("a little more than new") << 121000.0 << 4725.0F << 100;
     QTest::newRow("the last that is let through") << 121200.0 << 4725.0F << 100;
     QTest::newRow("one percent more than new") << 121300.0 << 4725.0F << 0;
     QTest::newRow("empty") << 0.0 << 4725.0F << 0;
     QTest::newRow("not known") << -1.0 << 4725.0F << 0;
 
-    // A length that rounds to 0 or 1 cannot be used; -1 goes into the formula.
+    // Lengths that round to 0 or 1 are unusable; -1 is not an exception here.
     QTest::newRow("length 0") << 120015.0 << 0.0F << 0;
     QTest::newRow("length 0.4") << 120015.0 << 0.4F << 0;
     QTest::newRow("length 1.2") << 120015.0 << 1.2F << 0;

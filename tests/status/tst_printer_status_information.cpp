@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// The status record as hosts see it: by property name, inside a QVariant.
+// The status record as hosts use it: its properties, and as a QVariant.
 #include "printer_status_information.h"
 #include "printer_types.h"
 

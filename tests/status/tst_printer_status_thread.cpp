@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What a monitoring thread reads, in what order, and what it reports of it.
+// What a monitoring thread reads and reports, and in which order.
 #include "thread_test.h"
 
 #include <QtCore/QMetaMethod>
@@ -25,7 +25,7 @@ QStringList oneRead()
     return calls << QStringLiteral("GetPrinterW 1") << QStringLiteral("GetPrinterW 1");
 }
 
-/// Calls as "function argument": the value's name of a reading, the level of a record.
+/// Calls as "function argument"; the argument is the value's name or the record's level.
 QStringList outline(const QList<Call>& calls)
 {
     QStringList lines;
@@ -46,28 +46,28 @@ class PrinterStatusThreadTest : public ThreadTest
 private Q_SLOTS:
     void signalsOfTheMetaObject();
     void firstReadReportsEverythingInOrder();
-    void firstReadOfASilentPrinterReportsItsName();
-    void startAndFirstReadCallInOrder();
-    void startAndFirstReadCallWithTheseArguments();
-    void notificationReadsThroughTheOpenHandle();
-    void notificationThatChangesNothing();
-    void valueThatChangesAlone_data();
-    void valueThatChangesAlone();
-    void valueThatDisappears();
-    void everyValueChangesAtOnce();
-    void onlyRibbon2Changes();
-    void onlyRibbon1Changes();
-    void bothRibbonsChange();
+    void firstReadOfAPrinterWithoutValuesReportsItsName();
+    void startAndFirstReadMakeTheirCallsInOrder();
+    void startAndFirstReadPassTheseArguments();
+    void notificationIsReadThroughTheOpenHandle();
+    void notificationWithoutAChangeReportsNothing();
+    void valueThatChangesIsReportedAlone_data();
+    void valueThatChangesIsReportedAlone();
+    void valueThatDisappearsIsReportedAsEmpty();
+    void valuesThatChangeTogetherAreReportedInOrder();
+    void ribbon2AloneIsReportedWithBoth();
+    void ribbon1AloneIsReportedWithBoth();
+    void bothRibbonsAreReportedOnce();
     void changeOfLetterCaseIsAChange();
-    void renamedPrinterKeepsItsDashboardName();
+    void renamedPrinterIsReportedUnderItsMonitoredName();
     void changeBetweenWakeUpAndReArmingIsNotLost();
-    void unreadablePrinterIsReadThroughAFreshHandle();
-    void statusLike255IsNotUnreadable_data();
-    void statusLike255IsNotUnreadable();
-    void unreadablePrinterWithoutFullAccess();
-    void printerNameOutsideOfLatin1();
-    void nameIsTakenAtTheMomentOfEachReport();
-    void oneThreadReportsOnItsOwnThread();
+    void status255IsReadThroughANewHandle();
+    void statusLike255IsReadThroughTheOpenHandle_data();
+    void statusLike255IsReadThroughTheOpenHandle();
+    void status255WithoutFullAccessIsReadThroughTheOpenHandle();
+    void printerNameOutsideLatin1();
+    void eachReportCarriesTheNameAtThatMoment();
+    void signalsAreEmittedOnTheMonitoringThread();
 };
 
 void PrinterStatusThreadTest::signalsOfTheMetaObject()
@@ -105,7 +105,7 @@ void PrinterStatusThreadTest::signalsOfTheMetaObject()
 void PrinterStatusThreadTest::firstReadReportsEverythingInOrder()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
 
     const QList<Report> expected{
         status("1"),
@@ -126,16 +126,16 @@ void PrinterStatusThreadTest::firstReadReportsEverythingInOrder()
     QVERIFY(logged().isEmpty());
 }
 
-void PrinterStatusThreadTest::firstReadOfASilentPrinterReportsItsName()
+void PrinterStatusThreadTest::firstReadOfAPrinterWithoutValuesReportsItsName()
 {
-    watch();
+    QVERIFY(watch());
     QCOMPARE(takeReports(), QList<Report>{report("printerNameChangedSignal", labelPrinter)});
 }
 
-void PrinterStatusThreadTest::startAndFirstReadCallInOrder()
+void PrinterStatusThreadTest::startAndFirstReadMakeTheirCallsInOrder()
 {
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
 
     const QStringList expected =
         QStringList{QStringLiteral("OpenPrinterA"),
@@ -149,10 +149,10 @@ void PrinterStatusThreadTest::startAndFirstReadCallInOrder()
     QCOMPARE(outline(machine().calls()), expected);
 }
 
-void PrinterStatusThreadTest::startAndFirstReadCallWithTheseArguments()
+void PrinterStatusThreadTest::startAndFirstReadPassTheseArguments()
 {
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
 
     const QList<Call> opened = machine().calls(QStringLiteral("OpenPrinterA"));
     QCOMPARE(opened.at(0).arguments, (QStringList{labelPrinter, QStringLiteral("0")}));
@@ -163,7 +163,7 @@ void PrinterStatusThreadTest::startAndFirstReadCallWithTheseArguments()
                                         QStringLiteral("0x0")}));
     const QString printer = asked.first();
 
-    // The first read goes through the handle with full access, which is closed after it.
+    // The first read uses the handle with full access, which is closed after it.
     const QString fullAccess =
         machine().calls(QStringLiteral("GetPrinterDataA")).first().arguments.first();
     QVERIFY(fullAccess != printer);
@@ -182,15 +182,15 @@ void PrinterStatusThreadTest::startAndFirstReadCallWithTheseArguments()
     QCOMPARE(waited.mid(3), (QStringList{QStringLiteral("0"), QStringLiteral("5000")}));
 }
 
-void PrinterStatusThreadTest::notificationReadsThroughTheOpenHandle()
+void PrinterStatusThreadTest::notificationIsReadThroughTheOpenHandle()
 {
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
     const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
     const QString change = lastCall("WaitForMultipleObjects").arguments.at(2);
     machine().clearCalls();
 
-    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
 
     QCOMPARE(outline(machine().calls()),
              QStringList{QStringLiteral("FindNextPrinterChangeNotification")}
@@ -205,21 +205,21 @@ void PrinterStatusThreadTest::notificationReadsThroughTheOpenHandle()
     QCOMPARE(takeReports().last(), status("1"));
 }
 
-void PrinterStatusThreadTest::notificationThatChangesNothing()
+void PrinterStatusThreadTest::notificationWithoutAChangeReportsNothing()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     takeReports();
 
     machine().notify(labelPrinter, 0x2);
-    settle();
+    QVERIFY(settle());
     machine().publish(labelPrinter, everyValue());
-    settle();
+    QVERIFY(settle());
     QCOMPARE(takeReports(), QList<Report>());
     QCOMPARE(machine().callCount(QStringLiteral("FindNextPrinterChangeNotification")), 2);
 }
 
-void PrinterStatusThreadTest::valueThatChangesAlone_data()
+void PrinterStatusThreadTest::valueThatChangesIsReportedAlone_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("signal");
@@ -239,47 +239,47 @@ void PrinterStatusThreadTest::valueThatChangesAlone_data()
     row(10, "updateErrorChanged", {QStringLiteral("207")});
 }
 
-void PrinterStatusThreadTest::valueThatChangesAlone()
+void PrinterStatusThreadTest::valueThatChangesIsReportedAlone()
 {
     QFETCH(const int, index);
     QFETCH(const QString, signal);
     QFETCH(const QStringList, values);
 
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     takeReports();
 
-    publish(everyValue('2').at(index));
+    QVERIFY(publish(everyValue('2').at(index)));
     QCOMPARE(takeReports(), (QList<Report>{{signal, labelPrinter, values}}));
-    publish(everyValue('2').at(index));
+    QVERIFY(publish(everyValue('2').at(index)));
     QCOMPARE(takeReports(), QList<Report>());
 }
 
-void PrinterStatusThreadTest::valueThatDisappears()
+void PrinterStatusThreadTest::valueThatDisappearsIsReportedAsEmpty()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     takeReports();
 
     machine().unpublish(labelPrinter, "Mileage");
-    settle();
+    QVERIFY(settle());
     QCOMPARE(takeReports(), QList<Report>{report("supplyIntMileageChanged", {})});
 
-    // Neither is a number that is not plausible.
-    publish(PrinterValue::number("Ribbon1Identifier", 100001));
+    // A number that is not plausible is not reported either.
+    QVERIFY(publish(PrinterValue::number("Ribbon1Identifier", 100001)));
     QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("ribbonIdsChanged"),
                                             labelPrinter,
                                             {QString(), QStringLiteral("102")}}}));
 }
 
-void PrinterStatusThreadTest::everyValueChangesAtOnce()
+void PrinterStatusThreadTest::valuesThatChangeTogetherAreReportedInOrder()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     takeReports();
 
     machine().publish(labelPrinter, everyValue('2'));
-    settle();
+    QVERIFY(settle());
     QStringList order;
     const QList<Report> reports = takeReports();
     for (const Report& report : reports)
@@ -298,43 +298,43 @@ void PrinterStatusThreadTest::everyValueChangesAtOnce()
                     }));
 }
 
-void PrinterStatusThreadTest::onlyRibbon2Changes()
+void PrinterStatusThreadTest::ribbon2AloneIsReportedWithBoth()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     takeReports();
 
-    publish(PrinterValue::number("Ribbon2Identifier", 77));
+    QVERIFY(publish(PrinterValue::number("Ribbon2Identifier", 77)));
     QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("ribbonIdsChanged"),
                                             labelPrinter,
                                             {QStringLiteral("101"), QStringLiteral("77")}}}));
-    publish(PrinterValue::number("Ribbon2Identifier", 77));
+    QVERIFY(publish(PrinterValue::number("Ribbon2Identifier", 77)));
     QCOMPARE(takeReports(), QList<Report>());
 }
 
-void PrinterStatusThreadTest::onlyRibbon1Changes()
+void PrinterStatusThreadTest::ribbon1AloneIsReportedWithBoth()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     takeReports();
 
-    publish(PrinterValue::number("Ribbon1Identifier", 77));
+    QVERIFY(publish(PrinterValue::number("Ribbon1Identifier", 77)));
     QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("ribbonIdsChanged"),
                                             labelPrinter,
                                             {QStringLiteral("77"), QStringLiteral("102")}}}));
-    publish(PrinterValue::number("Ribbon1Identifier", 77));
+    QVERIFY(publish(PrinterValue::number("Ribbon1Identifier", 77)));
     QCOMPARE(takeReports(), QList<Report>());
 }
 
-void PrinterStatusThreadTest::bothRibbonsChange()
+void PrinterStatusThreadTest::bothRibbonsAreReportedOnce()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     takeReports();
 
     machine().publish(labelPrinter, {PrinterValue::number("Ribbon1Identifier", 7),
                                      PrinterValue::number("Ribbon2Identifier", 8)});
-    settle();
+    QVERIFY(settle());
     QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("ribbonIdsChanged"),
                                             labelPrinter,
                                             {QStringLiteral("7"), QStringLiteral("8")}}}));
@@ -343,32 +343,33 @@ void PrinterStatusThreadTest::bothRibbonsChange()
 void PrinterStatusThreadTest::changeOfLetterCaseIsAChange()
 {
     machine().publish(labelPrinter, PrinterValue::text("SoftwareVersion", "boot"));
-    watch();
+    QVERIFY(watch());
     takeReports();
-    publish(PrinterValue::text("SoftwareVersion", "BOOT"));
+    QVERIFY(publish(PrinterValue::text("SoftwareVersion", "BOOT")));
     QCOMPARE(takeReports(),
              QList<Report>{report("softwareVersionChanged", QStringLiteral("BOOT"))});
 }
 
-void PrinterStatusThreadTest::renamedPrinterKeepsItsDashboardName()
+void PrinterStatusThreadTest::renamedPrinterIsReportedUnderItsMonitoredName()
 {
-    watch();
+    QVERIFY(watch());
     takeReports();
     const QString newName = QStringLiteral("Renamed Printer");
     machine().renamePrinter(labelPrinter, newName);
-    settle();
+    QVERIFY(settle());
     QCOMPARE(takeReports(), QList<Report>{report("printerNameChangedSignal", newName)});
 
     machine().publish(newName, PrinterValue::text("StatusCode", "5"));
-    settle();
+    QVERIFY(settle());
     QCOMPARE(takeReports(), QList<Report>{status("5")});
 }
 
 void PrinterStatusThreadTest::changeBetweenWakeUpAndReArmingIsNotLost()
 {
-    watch();
+    QVERIFY(watch());
     takeReports();
-    // As the thread, woken by the first value, goes to re-arm, the second one is published.
+    // The second value is published when the thread, woken by the first one, re-arms the
+    // notification.
     bool isSecondPublished = false;
     machine().setCallHook([&](const Call& call) {
         if (isSecondPublished ||
@@ -377,10 +378,10 @@ void PrinterStatusThreadTest::changeBetweenWakeUpAndReArmingIsNotLost()
         isSecondPublished = true;
         machine().publish(labelPrinter, PrinterValue::text("StatusCode", "2"));
     });
-    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("2")});
 
-    // And one after the re-arming, while the values are being read.
+    // The third one is published after the re-arming, while the values are being read.
     bool isThirdPublished = false;
     machine().setCallHook([&](const Call& call) {
         if (isThirdPublished || call.function != QLatin1String("GetPrinterW"))
@@ -388,18 +389,18 @@ void PrinterStatusThreadTest::changeBetweenWakeUpAndReArmingIsNotLost()
         isThirdPublished = true;
         machine().publish(labelPrinter, PrinterValue::text("StatusCode", "4"));
     });
-    publish(PrinterValue::text("StatusCode", "3"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "3")));
     QCOMPARE(takeReports(), (QList<Report>{status("3"), status("4")}));
 }
 
-void PrinterStatusThreadTest::unreadablePrinterIsReadThroughAFreshHandle()
+void PrinterStatusThreadTest::status255IsReadThroughANewHandle()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "255"));
-    watch();
+    QVERIFY(watch());
     QCOMPARE(takeReports().first(), status("255"));
     machine().recordCalls();
 
-    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
     const QStringList expected =
         QStringList{QStringLiteral("FindNextPrinterChangeNotification"),
@@ -412,78 +413,77 @@ void PrinterStatusThreadTest::unreadablePrinterIsReadThroughAFreshHandle()
     QCOMPARE(lastCall("ClosePrinter").arguments.first(),
              lastCall("GetPrinterDataA").arguments.first());
 
-    // Readable again: the next one goes through the handle that stays open.
+    // The status is known again: the next read uses the handle that stays open.
     machine().clearCalls();
-    publish(PrinterValue::text("StatusCode", "2"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "2")));
     QVERIFY(!functionsCalled().contains(QStringLiteral("OpenPrinterA")));
 }
 
-void PrinterStatusThreadTest::statusLike255IsNotUnreadable_data()
+void PrinterStatusThreadTest::statusLike255IsReadThroughTheOpenHandle_data()
 {
     QTest::addColumn<QByteArray>("code");
     for (const char* code : {"0255", "255 ", "25", "254", "2550"})
         QTest::newRow(code) << QByteArray(code);
 }
 
-void PrinterStatusThreadTest::statusLike255IsNotUnreadable()
+void PrinterStatusThreadTest::statusLike255IsReadThroughTheOpenHandle()
 {
     QFETCH(const QByteArray, code);
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", code));
-    watch();
+    QVERIFY(watch());
     machine().recordCalls();
-    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QVERIFY(!functionsCalled().contains(QStringLiteral("OpenPrinterA")));
 }
 
-void PrinterStatusThreadTest::unreadablePrinterWithoutFullAccess()
+void PrinterStatusThreadTest::status255WithoutFullAccessIsReadThroughTheOpenHandle()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "255"));
-    watch();
+    QVERIFY(watch());
     takeReports();
     machine().recordCalls();
     machine().setAdministrable(labelPrinter, false);
-    settle();
+    QVERIFY(settle());
 
-    // It is read through the handle at hand, which is not closed for that.
-    publish(PrinterValue::text("StatusCode", "1"));
+    // It is read through the open handle, which is not closed.
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
     QVERIFY(!functionsCalled().contains(QStringLiteral("ClosePrinter")));
 }
 
-void PrinterStatusThreadTest::printerNameOutsideOfLatin1()
+void PrinterStatusThreadTest::printerNameOutsideLatin1()
 {
     const QString name = QStringLiteral("Étiquettes 日本 №1");
     machine().addPrinter({.name = name, .driver = QStringLiteral("Stratamark Alder")});
     thread().setMonitoredPrinterName(name);
-    watch();
+    QVERIFY(watch());
     QCOMPARE(takeReports(),
              (QList<Report>{{QStringLiteral("printerNameChangedSignal"), name, {name}}}));
 }
 
-void PrinterStatusThreadTest::nameIsTakenAtTheMomentOfEachReport()
+void PrinterStatusThreadTest::eachReportCarriesTheNameAtThatMoment()
 {
-    watch();
+    QVERIFY(watch());
     takeReports();
-    // Set while the thread is held at the reading, so that no lock is needed to be sure of the
-    // order.
+    // The name is set while the thread is inside the call, so no lock is needed.
     machine().setCallHook([&](const Call& call) {
         if (call.function == QLatin1String("GetPrinterW"))
             thread().setMonitoredPrinterName(QStringLiteral("Another Name"));
     });
-    publish(PrinterValue::text("StatusCode", "6"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "6")));
     QCOMPARE(takeReports(), (QList<Report>{{QStringLiteral("printerStatusChanged"),
                                             QStringLiteral("Another Name"),
                                             {QStringLiteral("6")}}}));
 }
 
-void PrinterStatusThreadTest::oneThreadReportsOnItsOwnThread()
+void PrinterStatusThreadTest::signalsAreEmittedOnTheMonitoringThread()
 {
     machine().recordCalls();
     Qt::HANDLE reportingThread = nullptr;
     connect(
         &thread(), &PrinterStatusThread::printerNameChangedSignal, &thread(),
         [&] { reportingThread = QThread::currentThreadId(); }, Qt::DirectConnection);
-    watch();
+    QVERIFY(watch());
     const QList<Call> calls = machine().calls();
     for (const Call& call : calls)
         QCOMPARE(call.thread, reportingThread);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// How a monitoring thread is brought to its end, whenever that comes.
+// How a monitoring thread ends, at any moment at which it is stopped.
 #include "patience.h"
 #include "thread_test.h"
 
@@ -15,7 +15,7 @@ QString name(const char* function)
     return QString::fromLatin1(function);
 }
 
-/// Holds whoever calls a function until it is let go.
+/// Blocks every caller of a function until `letGo` is called.
 class HeldCall
 {
 public:
@@ -44,16 +44,17 @@ class PrinterStatusThreadEndTest : public ThreadTest
 
 private Q_SLOTS:
     void stopEndsAWaitAndClosesInOrder();
-    void stopOnlySignals();
+    void stopDoesNotWait();
     void stopBeforeTheStartDoesNothing();
     void stopBeforeTheEventExistsDoesNothing();
-    void stopTwice();
-    void stopWhileTheEventIsBeingClosed();
-    void stopAfterTheEnd();
+    void secondStopSignalsNothing();
+    void stopDoesNotSignalAClosedEvent();
+    void stopAfterTheEndDoesNothing();
     void stopThatFailsCanBeRepeated();
-    void stopWhileTheSpoolerIsDown();
-    void stopWinsOverAPendingNotification();
-    void endsWhenTheEventCannotBeMade();
+    void stopEndsAThreadWhileTheSpoolerIsDown();
+    void stopComesBeforeAPendingNotification();
+    void endsWhenTheEventCannotBeCreated();
+    void endsWithoutClosingAClosedPrinterAgain();
     void canBeStartedAgain();
     void stopsAndStartsAtRandomMoments();
 };
@@ -61,7 +62,7 @@ private Q_SLOTS:
 void PrinterStatusThreadEndTest::stopEndsAWaitAndClosesInOrder()
 {
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
     const QStringList waited = lastCall("WaitForMultipleObjects").arguments;
     const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
     machine().clearCalls();
@@ -79,9 +80,9 @@ void PrinterStatusThreadEndTest::stopEndsAWaitAndClosesInOrder()
     QCOMPARE(machine().openHandles(), 0);
 }
 
-void PrinterStatusThreadEndTest::stopOnlySignals()
+void PrinterStatusThreadEndTest::stopDoesNotWait()
 {
-    watch();
+    QVERIFY(watch());
     HeldCall closing(machine(), "CloseHandle");
     thread().stop();
     QVERIFY(closing.waitUntilReached());
@@ -94,7 +95,7 @@ void PrinterStatusThreadEndTest::stopBeforeTheStartDoesNothing()
 {
     thread().stop();
     QCOMPARE(machine().callCount(name("SetEvent")), 0);
-    watch();
+    QVERIFY(watch());
     QVERIFY(thread().isRunning());
 }
 
@@ -110,31 +111,31 @@ void PrinterStatusThreadEndTest::stopBeforeTheEventExistsDoesNothing()
     QVERIFY(thread().isRunning());
 }
 
-void PrinterStatusThreadEndTest::stopTwice()
+void PrinterStatusThreadEndTest::secondStopSignalsNothing()
 {
-    watch();
+    QVERIFY(watch());
     thread().stop();
     thread().stop();
     QVERIFY(thread().wait(patience));
     QCOMPARE(machine().callCount(name("SetEvent")), 1);
 }
 
-void PrinterStatusThreadEndTest::stopWhileTheEventIsBeingClosed()
+void PrinterStatusThreadEndTest::stopDoesNotSignalAClosedEvent()
 {
-    watch();
+    QVERIFY(watch());
     HeldCall closing(machine(), "FindClosePrinterChangeNotification");
     thread().stop();
     QVERIFY(closing.waitUntilReached());
-    // The event is closed by now: signalling it would be signalling whatever has its handle next.
+    // The event is closed already, and its handle may belong to another object.
     thread().stop();
     QCOMPARE(machine().callCount(name("SetEvent")), 1);
     closing.letGo();
     QVERIFY(thread().wait(patience));
 }
 
-void PrinterStatusThreadEndTest::stopAfterTheEnd()
+void PrinterStatusThreadEndTest::stopAfterTheEndDoesNothing()
 {
-    watch();
+    QVERIFY(watch());
     endThread();
     const int signalled = machine().callCount(name("SetEvent"));
     thread().stop();
@@ -143,7 +144,7 @@ void PrinterStatusThreadEndTest::stopAfterTheEnd()
 
 void PrinterStatusThreadEndTest::stopThatFailsCanBeRepeated()
 {
-    watch();
+    QVERIFY(watch());
     machine().failCall(name("SetEvent"), 1, ERROR_INVALID_HANDLE);
     thread().stop();
     QVERIFY(thread().isRunning());
@@ -151,20 +152,20 @@ void PrinterStatusThreadEndTest::stopThatFailsCanBeRepeated()
     QVERIFY(thread().wait(patience));
 }
 
-void PrinterStatusThreadEndTest::stopWhileTheSpoolerIsDown()
+void PrinterStatusThreadEndTest::stopEndsAThreadWhileTheSpoolerIsDown()
 {
-    watch();
+    QVERIFY(watch());
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     thread().stop();
     QVERIFY(thread().wait(patience));
 }
 
-void PrinterStatusThreadEndTest::stopWinsOverAPendingNotification()
+void PrinterStatusThreadEndTest::stopComesBeforeAPendingNotification()
 {
-    watch();
+    QVERIFY(watch());
     takeReports();
-    // Both are signalled when the thread comes back to its wait.
+    // Both objects are signalled when the thread returns to its wait.
     HeldCall reading(machine(), "GetPrinterW");
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
     QVERIFY(reading.waitUntilReached());
@@ -175,7 +176,7 @@ void PrinterStatusThreadEndTest::stopWinsOverAPendingNotification()
     QCOMPARE(takeReports(), QList<Report>{status("1")});
 }
 
-void PrinterStatusThreadEndTest::endsWhenTheEventCannotBeMade()
+void PrinterStatusThreadEndTest::endsWhenTheEventCannotBeCreated()
 {
     machine().failCall(name("CreateEventW"), 1, ERROR_NOT_ENOUGH_MEMORY);
     thread().start();
@@ -186,13 +187,25 @@ void PrinterStatusThreadEndTest::endsWhenTheEventCannotBeMade()
     QCOMPARE(machine().openHandles(), 0);
 }
 
+void PrinterStatusThreadEndTest::endsWithoutClosingAClosedPrinterAgain()
+{
+    // The failed notification closes the printer, and the failed event ends the thread.
+    machine().failCall(name("FindFirstPrinterChangeNotification"), 1, ERROR_NOT_ENOUGH_MEMORY);
+    machine().failCall(name("CreateEventW"), 1, ERROR_NOT_ENOUGH_MEMORY);
+    thread().start();
+    QVERIFY(thread().wait(patience));
+    QCOMPARE(machine().callCount(name("ClosePrinter")), 1);
+    QCOMPARE(machine().callCount(name("FindClosePrinterChangeNotification")), 0);
+    QCOMPARE(machine().openHandles(), 0);
+}
+
 void PrinterStatusThreadEndTest::canBeStartedAgain()
 {
-    watch();
+    QVERIFY(watch());
     endThread();
     takeReports();
-    // What was seen before is forgotten.
-    watch();
+    // The values that the first run has seen are not remembered.
+    QVERIFY(watch());
     QCOMPARE(takeReports(), QList<Report>{report("printerNameChangedSignal", labelPrinter)});
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What a monitoring thread does when the spooler stops, starts or refuses something.
+// What a monitoring thread does when the spooler stops, starts or refuses a call.
 #include "log_lines.h"
 #include "thread_test.h"
 
@@ -47,28 +47,28 @@ private Q_SLOTS:
     void pollsAfterFiveSecondsWithoutNotification();
     void notificationDelaysThePoll();
     void stoppingSpoolerIsReported();
-    void eachStateShortOfRunningIsReportedAgain();
-    void stoppingIsReportedEvenWhenTheLastStatusSaysSo();
-    void spoolerThatComesBack();
-    void comesBackWithTheStatusUnchanged();
-    void comesBackWithoutThePrinter();
-    void comesBackWithoutTheNotification();
+    void eachStateOtherThanRunningIsReported();
+    void stoppingIsReportedAlsoWhenTheLastStatusWas254();
+    void printerIsOpenedAgainWhenTheSpoolerRunsAgain();
+    void unchangedStatusIsReportedWhenTheSpoolerRunsAgain();
+    void printerThatCannotBeOpenedAgainIsReportedAs254();
+    void failedNotificationAfterARestartIsReportedAs254();
     void failedQueryCountsAsAStateOfItsOwn();
     void firstQueryThatFailedLeaksNothing();
-    void serviceThatCannotBeAskedIsNotTakenForStopped_data();
-    void serviceThatCannotBeAskedIsNotTakenForStopped();
-    void printerThatCannotBeOpened();
-    void printerThatCannotBeOpenedIsNotTriedAgain();
-    void spoolerDownAtTheStart();
-    void notificationThatCannotBeHad();
-    void fullAccessThatIsRefused();
-    void failedWaitIsTriedAgain();
-    void failedReArmingStillReads();
-    void printerThatIsRemoved();
+    void serviceThatCannotBeQueriedDoesNotCountAsStopped_data();
+    void serviceThatCannotBeQueriedDoesNotCountAsStopped();
+    void printerThatCannotBeOpenedIsLogged();
+    void printerThatCannotBeOpenedIsNotRetried();
+    void printerIsOpenedWhenTheSpoolerStartsLater();
+    void failedNotificationIsLogged();
+    void refusedFullAccessIsLogged();
+    void failedWaitIsRetried();
+    void failedReArmingDoesNotPreventTheRead();
+    void valuesOfARemovedPrinterBecomeEmpty();
 
 private:
-    /// Whether the last wait was for one object, with the time-out of the poll.
-    bool waitsForItsEndAlone()
+    /// Whether the last wait was for one object, with the poll's timeout.
+    bool waitsForTheStopEventOnly()
     {
         const QStringList arguments = lastCall("WaitForMultipleObjects").arguments;
         return arguments.size() == 4 && arguments.first() == QLatin1String("1") &&
@@ -78,24 +78,24 @@ private:
 
 void PrinterStatusThreadSpoolerTest::pollsAfterFiveSecondsWithoutNotification()
 {
-    watch();
+    QVERIFY(watch());
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 1);
-    pass(4999ms);
+    QVERIFY(pass(4999ms));
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 1);
-    pass(1ms);
+    QVERIFY(pass(1ms));
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 2);
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 3);
-    // The poll reads no printer.
+    // The poll does not read the printer.
     QCOMPARE(machine().callCount(name("GetPrinterDataA")), 11);
 }
 
 void PrinterStatusThreadSpoolerTest::notificationDelaysThePoll()
 {
-    watch();
+    QVERIFY(watch());
     for (int second = 0; second < 20; ++second) {
-        pass(4000ms);
-        publish(PrinterValue::number("Mileage", static_cast<quint32>(second)));
+        QVERIFY(pass(4000ms));
+        QVERIFY(publish(PrinterValue::number("Mileage", static_cast<quint32>(second))));
     }
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 1);
 }
@@ -104,16 +104,16 @@ void PrinterStatusThreadSpoolerTest::stoppingSpoolerIsReported()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
     takeReports();
     const QStringList waited = lastCall("WaitForMultipleObjects").arguments;
     const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
     machine().clearCalls();
 
     machine().stopSpooler();
-    pass(4999ms);
+    QVERIFY(pass(4999ms));
     QCOMPARE(takeReports(), QList<Report>());
-    pass(1ms);
+    QVERIFY(pass(1ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
 
     QCOMPARE(functionsCalled(),
@@ -123,24 +123,24 @@ void PrinterStatusThreadSpoolerTest::stoppingSpoolerIsReported()
                  .mid(1));
     QCOMPARE(lastCall("FindClosePrinterChangeNotification").arguments, QStringList{waited.at(2)});
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
-    QVERIFY(waitsForItsEndAlone());
+    QVERIFY(waitsForTheStopEventOnly());
     QCOMPARE(lastCall("WaitForMultipleObjects").arguments.at(1), waited.at(1));
     QVERIFY(logged().isEmpty());
 }
 
-void PrinterStatusThreadSpoolerTest::eachStateShortOfRunningIsReportedAgain()
+void PrinterStatusThreadSpoolerTest::eachStateOtherThanRunningIsReported()
 {
-    watch();
+    QVERIFY(watch());
     takeReports();
     machine().recordCalls();
     for (const quint32 state : {SERVICE_STOP_PENDING, SERVICE_STOPPED, SERVICE_START_PENDING}) {
         machine().clearCalls();
         machine().setSpoolerState(state);
-        pass(5000ms);
+        QVERIFY(pass(5000ms));
         QCOMPARE(takeReports(), QList<Report>{status("254")});
-        pass(5000ms);
+        QVERIFY(pass(5000ms));
         QCOMPARE(takeReports(), QList<Report>());
-        // Closing is done at each of them, though after the first nothing is open.
+        // The handles are closed at each state, although nothing is open after the first.
         QCOMPARE(machine().calls(name("FindClosePrinterChangeNotification")).size(), 1);
         QCOMPARE(machine().calls(name("ClosePrinter")).size(), 1);
     }
@@ -148,32 +148,32 @@ void PrinterStatusThreadSpoolerTest::eachStateShortOfRunningIsReportedAgain()
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{noHandle});
 }
 
-void PrinterStatusThreadSpoolerTest::stoppingIsReportedEvenWhenTheLastStatusSaysSo()
+void PrinterStatusThreadSpoolerTest::stoppingIsReportedAlsoWhenTheLastStatusWas254()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "254"));
-    watch();
+    QVERIFY(watch());
     QCOMPARE(takeReports().first(), status("254"));
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
 }
 
-void PrinterStatusThreadSpoolerTest::spoolerThatComesBack()
+void PrinterStatusThreadSpoolerTest::printerIsOpenedAgainWhenTheSpoolerRunsAgain()
 {
     machine().publish(labelPrinter, everyValue());
-    watch();
+    QVERIFY(watch());
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     takeReports();
     machine().publish(labelPrinter, PrinterValue::number("Mileage", 4711));
     machine().recordCalls();
 
     machine().startSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), (QList<Report>{status("1"), report("supplyIntMileageChanged",
                                                                QStringLiteral("4711"))}));
 
-    // Opened for watching, and read through a handle with full access of its own.
+    // One handle is opened for watching, and another with full access for reading.
     const QList<Call> opened = machine().calls(name("OpenPrinterA"));
     QCOMPARE(opened.size(), 2);
     QCOMPARE(opened.at(0).arguments, (QStringList{labelPrinter, QStringLiteral("0")}));
@@ -186,77 +186,77 @@ void PrinterStatusThreadSpoolerTest::spoolerThatComesBack()
     QCOMPARE(waits.first(), QStringLiteral("2"));
     QVERIFY(waits.at(2) != noHandle);
 
-    // And watched as before.
-    publish(PrinterValue::text("StatusCode", "3"));
+    // The printer is watched as before.
+    QVERIFY(publish(PrinterValue::text("StatusCode", "3")));
     QCOMPARE(takeReports(), QList<Report>{status("3")});
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
 }
 
-void PrinterStatusThreadSpoolerTest::comesBackWithTheStatusUnchanged()
+void PrinterStatusThreadSpoolerTest::unchangedStatusIsReportedWhenTheSpoolerRunsAgain()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
-    watch();
+    QVERIFY(watch());
     takeReports();
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     machine().startSpooler();
-    pass(5000ms);
-    // "1" is news again after "254"; the name is not.
+    QVERIFY(pass(5000ms));
+    // After "254" the status "1" is a change again; the name is not.
     QCOMPARE(takeReports(), (QList<Report>{status("254"), status("1")}));
 }
 
-void PrinterStatusThreadSpoolerTest::comesBackWithoutThePrinter()
+void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpenedAgainIsReportedAs254()
 {
-    watch();
+    QVERIFY(watch());
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     takeReports();
 
     machine().failCall(name("OpenPrinterA"), 1, ERROR_INVALID_PRINTER_NAME);
     machine().recordCalls();
     machine().startSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
     QCOMPARE(logged(), QList<LogRecord>{openingFailed()});
     QCOMPARE(machine().calls(name("OpenPrinterA")).size(), 1);
     QCOMPARE(machine().calls(name("GetPrinterDataA")).size(), 0);
-    QVERIFY(waitsForItsEndAlone());
+    QVERIFY(waitsForTheStopEventOnly());
 
-    // Nothing is tried again before the service has changed its state.
-    pass(5000ms);
+    // Nothing is retried until the state of the service changes.
+    QVERIFY(pass(5000ms));
     QCOMPARE(machine().calls(name("OpenPrinterA")).size(), 1);
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
     machine().startSpooler();
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
 }
 
-void PrinterStatusThreadSpoolerTest::comesBackWithoutTheNotification()
+void PrinterStatusThreadSpoolerTest::failedNotificationAfterARestartIsReportedAs254()
 {
-    watch();
+    QVERIFY(watch());
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     takeReports();
 
     machine().failCall(name("FindFirstPrinterChangeNotification"), 1, ERROR_NOT_ENOUGH_MEMORY);
     machine().recordCalls();
     machine().startSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
     QCOMPARE(logged(), QList<LogRecord>{notificationFailed()});
     const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
 
-    // The closed printer's handle is what is closed when the service goes down the next time.
+    // When the service stops again, the closed printer's handle is closed a second time.
     allowMisuse(Kind::ClosedTwice, name("ClosePrinter"));
     machine().clearCalls();
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
     QCOMPARE(lastCall("FindClosePrinterChangeNotification").arguments, QStringList{noHandle});
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
@@ -264,15 +264,15 @@ void PrinterStatusThreadSpoolerTest::comesBackWithoutTheNotification()
 
 void PrinterStatusThreadSpoolerTest::failedQueryCountsAsAStateOfItsOwn()
 {
-    watch();
+    QVERIFY(watch());
     takeReports();
     machine().failCall(name("QueryServiceStatus"), 1, ERROR_INVALID_HANDLE);
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
-    pass(5000ms);
-    // The printer publishes no status, which after "254" is a change to nothing.
+    QVERIFY(pass(5000ms));
+    // The printer publishes no status, so the status changes from "254" to empty.
     QCOMPARE(takeReports(), QList<Report>{status("")});
-    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
 }
 
@@ -280,41 +280,41 @@ void PrinterStatusThreadSpoolerTest::firstQueryThatFailedLeaksNothing()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
     machine().failCall(name("QueryServiceStatus"), 1, ERROR_INVALID_HANDLE);
-    watch();
+    QVERIFY(watch());
     takeReports();
     const int open = machine().openHandles();
     machine().recordCalls();
 
-    // The service now "comes back" while the printer is open and watched: it is opened afresh, and
-    // what was open is closed.
-    pass(5000ms);
+    // The state changes to running while the printer is open and watched. It is opened again, and
+    // the old handles are closed.
+    QVERIFY(pass(5000ms));
     QCOMPARE(machine().openHandles(), open);
     QCOMPARE(takeReports(), QList<Report>());
     QCOMPARE(machine().calls(name("FindClosePrinterChangeNotification")).size(), 1);
     QCOMPARE(machine().calls(name("FindFirstPrinterChangeNotification")).size(), 1);
-    publish(PrinterValue::text("StatusCode", "2"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "2")));
     QCOMPARE(takeReports(), QList<Report>{status("2")});
 }
 
-void PrinterStatusThreadSpoolerTest::serviceThatCannotBeAskedIsNotTakenForStopped_data()
+void PrinterStatusThreadSpoolerTest::serviceThatCannotBeQueriedDoesNotCountAsStopped_data()
 {
     QTest::addColumn<QString>("function");
     QTest::newRow("manager") << name("OpenSCManagerW");
     QTest::newRow("service") << name("OpenServiceW");
 }
 
-void PrinterStatusThreadSpoolerTest::serviceThatCannotBeAskedIsNotTakenForStopped()
+void PrinterStatusThreadSpoolerTest::serviceThatCannotBeQueriedDoesNotCountAsStopped()
 {
     QFETCH(const QString, function);
     machine().failCall(function, 1, ERROR_ACCESS_DENIED);
-    watch();
+    QVERIFY(watch());
     takeReports();
     machine().stopSpooler();
-    pass(5000ms);
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>());
 
-    // The service is opened and asked whatever the handles are.
+    // The service is opened and queried even through invalid handles.
     QCOMPARE(machine().callCount(name("OpenServiceW")), 1);
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 3);
     if (function == name("OpenSCManagerW"))
@@ -323,11 +323,11 @@ void PrinterStatusThreadSpoolerTest::serviceThatCannotBeAskedIsNotTakenForStoppe
         allowMisuse(Kind::NotAHandle, name("QueryServiceStatus"));
 }
 
-void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpened()
+void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpenedIsLogged()
 {
     thread().setMonitoredPrinterName(QStringLiteral("No Such Printer"));
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
     QCOMPARE(logged(), QList<LogRecord>{libraryLine(
                            "printer_status_thread", 198,
                            "bool PrinterStatusThread::initPrinterHandles(PHANDLE, PHANDLE)",
@@ -335,12 +335,12 @@ void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpened()
     QCOMPARE(takeReports(), QList<Report>());
     QCOMPARE(machine().calls(name("OpenPrinterA")).size(), 1);
     QCOMPARE(machine().calls(name("GetPrinterDataA")).size(), 0);
-    QVERIFY(waitsForItsEndAlone());
-    pass(4999ms);
+    QVERIFY(waitsForTheStopEventOnly());
+    QVERIFY(pass(4999ms));
     QCOMPARE(machine().calls(name("QueryServiceStatus")).size(), 1);
-    pass(1ms);
+    QVERIFY(pass(1ms));
     QCOMPARE(machine().calls(name("QueryServiceStatus")).size(), 2);
-    QVERIFY(waitsForItsEndAlone());
+    QVERIFY(waitsForTheStopEventOnly());
     QCOMPARE(machine().calls(name("WaitForMultipleObjects")).size(), 2);
 
     machine().clearCalls();
@@ -352,51 +352,51 @@ void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpened()
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{noHandle});
 }
 
-void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpenedIsNotTriedAgain()
+void PrinterStatusThreadSpoolerTest::printerThatCannotBeOpenedIsNotRetried()
 {
     machine().failCall(name("OpenPrinterA"), 1, ERROR_INVALID_PRINTER_NAME);
-    watch();
+    QVERIFY(watch());
     for (int poll = 0; poll < 10; ++poll)
-        pass(5000ms);
+        QVERIFY(pass(5000ms));
     QCOMPARE(machine().callCount(name("OpenPrinterA")), 1);
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 11);
     QCOMPARE(takeReports(), QList<Report>());
 
-    // A change of the service is what opens it.
+    // It is opened when the service's state changes.
     machine().stopSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(), QList<Report>{status("254")});
     machine().startSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(),
              (QList<Report>{status(""), report("printerNameChangedSignal", labelPrinter)}));
 }
 
-void PrinterStatusThreadSpoolerTest::spoolerDownAtTheStart()
+void PrinterStatusThreadSpoolerTest::printerIsOpenedWhenTheSpoolerStartsLater()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
     machine().stopSpooler();
-    watch();
+    QVERIFY(watch());
     QCOMPARE(logged(), QList<LogRecord>{openingFailed()});
-    pass(5000ms);
-    QCOMPARE(takeReports(), QList<Report>()); // the state is the one found at the start
+    QVERIFY(pass(5000ms));
+    QCOMPARE(takeReports(), QList<Report>()); // the state has not changed since the start
 
     machine().startSpooler();
-    pass(5000ms);
+    QVERIFY(pass(5000ms));
     QCOMPARE(takeReports(),
              (QList<Report>{status("1"), report("printerNameChangedSignal", labelPrinter)}));
 }
 
-void PrinterStatusThreadSpoolerTest::notificationThatCannotBeHad()
+void PrinterStatusThreadSpoolerTest::failedNotificationIsLogged()
 {
     machine().failCall(name("FindFirstPrinterChangeNotification"), 1, ERROR_NOT_ENOUGH_MEMORY);
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
     QCOMPARE(logged(), QList<LogRecord>{notificationFailed()});
     QCOMPARE(takeReports(), QList<Report>());
     const QString printer = lastCall("FindFirstPrinterChangeNotification").arguments.first();
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
-    QVERIFY(waitsForItsEndAlone());
+    QVERIFY(waitsForTheStopEventOnly());
 
     allowMisuse(Kind::ClosedTwice, name("ClosePrinter"));
     machine().clearCalls();
@@ -404,12 +404,12 @@ void PrinterStatusThreadSpoolerTest::notificationThatCannotBeHad()
     QCOMPARE(lastCall("ClosePrinter").arguments, QStringList{printer});
 }
 
-void PrinterStatusThreadSpoolerTest::fullAccessThatIsRefused()
+void PrinterStatusThreadSpoolerTest::refusedFullAccessIsLogged()
 {
     machine().setAdministrable(labelPrinter, false);
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
     machine().recordCalls();
-    watch();
+    QVERIFY(watch());
     QCOMPARE(logged(), QList<LogRecord>{fullAccessFailed()});
     QCOMPARE(takeReports(),
              (QList<Report>{status("1"), report("printerNameChangedSignal", labelPrinter)}));
@@ -418,36 +418,37 @@ void PrinterStatusThreadSpoolerTest::fullAccessThatIsRefused()
     QCOMPARE(machine().calls(name("ClosePrinter")).size(), 0);
 }
 
-void PrinterStatusThreadSpoolerTest::failedWaitIsTriedAgain()
+void PrinterStatusThreadSpoolerTest::failedWaitIsRetried()
 {
     machine().failCall(name("WaitForMultipleObjects"), 1, ERROR_INVALID_HANDLE);
-    watch();
+    QVERIFY(watch());
     takeReports();
     QCOMPARE(machine().callCount(name("WaitForMultipleObjects")), 2);
     QCOMPARE(machine().callCount(name("QueryServiceStatus")), 1);
-    publish(PrinterValue::text("StatusCode", "1"));
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
 }
 
-void PrinterStatusThreadSpoolerTest::failedReArmingStillReads()
+void PrinterStatusThreadSpoolerTest::failedReArmingDoesNotPreventTheRead()
 {
-    watch();
+    QVERIFY(watch());
     takeReports();
     machine().failCall(name("FindNextPrinterChangeNotification"), 1, ERROR_INVALID_HANDLE);
-    // Not re-armed, the notification is still signalled, so that the next turn re-arms it.
-    publish(PrinterValue::text("StatusCode", "1"));
+    // The notification is not re-armed and so still signalled; the next turn of the loop re-arms
+    // it.
+    QVERIFY(publish(PrinterValue::text("StatusCode", "1")));
     QCOMPARE(takeReports(), QList<Report>{status("1")});
     QCOMPARE(machine().callCount(name("FindNextPrinterChangeNotification")), 2);
 }
 
-void PrinterStatusThreadSpoolerTest::printerThatIsRemoved()
+void PrinterStatusThreadSpoolerTest::valuesOfARemovedPrinterBecomeEmpty()
 {
     machine().publish(labelPrinter, PrinterValue::text("StatusCode", "1"));
-    watch();
+    QVERIFY(watch());
     takeReports();
     machine().removePrinter(labelPrinter);
-    settle();
-    // Nothing can be read any more.
+    QVERIFY(settle());
+    // No value can be read any more.
     QCOMPARE(takeReports(), (QList<Report>{status(""), report("printerNameChangedSignal", {})}));
 }
 

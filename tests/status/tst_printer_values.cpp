@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What the readers of the driver's values make of what a driver can publish.
+// How the values that a driver can publish are read.
 
 #include "machine_test.h"
 
@@ -46,35 +46,25 @@ class PrinterValuesTest : public MachineTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override
-    {
-        MachineTest::init();
-        machine().addPrinter({.name = printerName, .driver = QStringLiteral("Stratamark Alder")});
-        m_printer = openPrinter(printerName);
-        QVERIFY(m_printer.isValid());
-    }
-    void cleanup() override
-    {
-        m_printer.close();
-        MachineTest::cleanup();
-    }
+    void init() override;
+    void cleanup() override;
 
     void textValue_data();
     void textValue();
     void numberValue_data();
     void numberValue();
-    void eachReaderAsksForOneValueOnce_data();
-    void eachReaderAsksForOneValueOnce();
+    void eachReaderQueriesOneValueOnce_data();
+    void eachReaderQueriesOneValueOnce();
     void absentValue_data();
     void absentValue();
-    void failingCallGivesNothing_data();
-    void failingCallGivesNothing();
+    void failedCallGivesAnEmptyText_data();
+    void failedCallGivesAnEmptyText();
     void readersLeaveTheHandleOpen();
     void nameOfAnOpenPrinter();
-    void nameFollowsARenaming();
+    void nameChangesWhenThePrinterIsRenamed();
     void nameIsEmptyWhenTheSizeIsRefused();
     void nameIsEmptyWhenTheReadingFails();
-    void nameIsEmptyForADeadHandle();
+    void nameIsEmptyForAClosedHandle();
 
 private:
     QString read(const QByteArray& valueName)
@@ -92,6 +82,20 @@ private:
     PrinterStatusThread m_thread;
     PrinterHandle m_printer;
 };
+
+void PrinterValuesTest::init()
+{
+    MachineTest::init();
+    machine().addPrinter({.name = printerName, .driver = QStringLiteral("Stratamark Alder")});
+    m_printer = openPrinter(printerName);
+    QVERIFY(m_printer.isValid());
+}
+
+void PrinterValuesTest::cleanup()
+{
+    m_printer.close();
+    MachineTest::cleanup();
+}
 
 void PrinterValuesTest::textValue_data()
 {
@@ -213,7 +217,7 @@ void PrinterValuesTest::numberValue()
     textValue();
 }
 
-void PrinterValuesTest::eachReaderAsksForOneValueOnce_data()
+void PrinterValuesTest::eachReaderQueriesOneValueOnce_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<int>("capacity");
@@ -228,7 +232,7 @@ void PrinterValuesTest::eachReaderAsksForOneValueOnce_data()
         QTest::newRow(name) << QByteArray(name) << capacity;
 }
 
-void PrinterValuesTest::eachReaderAsksForOneValueOnce()
+void PrinterValuesTest::eachReaderQueriesOneValueOnce()
 {
     QFETCH(const QByteArray, name);
     QFETCH(const int, capacity);
@@ -261,12 +265,12 @@ void PrinterValuesTest::absentValue()
     QVERIFY(read(name).isNull());
 }
 
-void PrinterValuesTest::failingCallGivesNothing_data()
+void PrinterValuesTest::failedCallGivesAnEmptyText_data()
 {
     absentValue_data();
 }
 
-void PrinterValuesTest::failingCallGivesNothing()
+void PrinterValuesTest::failedCallGivesAnEmptyText()
 {
     QFETCH(const QByteArray, name);
     machine().publish(printerName, name == "SupplyIdentifier"
@@ -295,7 +299,7 @@ void PrinterValuesTest::nameOfAnOpenPrinter()
     QCOMPARE(m_thread.getPrinterNameFromHandle(m_printer.get()), printerName);
 }
 
-void PrinterValuesTest::nameFollowsARenaming()
+void PrinterValuesTest::nameChangesWhenThePrinterIsRenamed()
 {
     const QString newName = QStringLiteral("Étiquettes 日本");
     machine().renamePrinter(printerName, newName);
@@ -316,7 +320,7 @@ void PrinterValuesTest::nameIsEmptyWhenTheReadingFails()
     QCOMPARE(machine().callCount(QStringLiteral("GetPrinterW")), 2);
 }
 
-void PrinterValuesTest::nameIsEmptyForADeadHandle()
+void PrinterValuesTest::nameIsEmptyForAClosedHandle()
 {
     machine().stopSpooler();
     QVERIFY(m_thread.getPrinterNameFromHandle(m_printer.get()).isEmpty());

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What hosts show for a status code.
+// The titles of status codes.
 #include "status_titles.h"
 
 #include <vxerror.h>
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// A translator of the titles that remembers how it was asked.
+/// A translator of the titles that records what it was asked for.
 class TitleTranslator : public QTranslator
 {
 public:
@@ -37,8 +37,8 @@ private Q_SLOTS:
     void fixedTitles();
     void fixedTitlesAreTranslated_data();
     void fixedTitlesAreTranslated();
-    void otherTitlesAreTheStatusMessages();
-    void disconnectedAndOfflineReadTheSame();
+    void otherTitlesAreThoseOfTheStatusMessages();
+    void disconnectedAndOfflineHaveTheSameTitle();
 };
 
 void StatusTitlesTest::fixedTitles_data()
@@ -77,7 +77,7 @@ void StatusTitlesTest::fixedTitlesAreTranslated()
     QCOMPARE(statusTitle(code), QStringLiteral("<%1>").arg(title));
 }
 
-void StatusTitlesTest::otherTitlesAreTheStatusMessages()
+void StatusTitlesTest::otherTitlesAreThoseOfTheStatusMessages()
 {
     for (const int code :
          {2, -5, 254, 259, 42, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
@@ -87,7 +87,7 @@ void StatusTitlesTest::otherTitlesAreTheStatusMessages()
     QVERIFY(statusTitle(254) != statusTitle(257));
 }
 
-void StatusTitlesTest::disconnectedAndOfflineReadTheSame()
+void StatusTitlesTest::disconnectedAndOfflineHaveTheSameTitle()
 {
     QCOMPARE(statusTitle(0), statusTitle(257));
 }

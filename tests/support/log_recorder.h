@@ -9,7 +9,7 @@
 #include <QtCore/QMutex>
 #include <QtCore/QString>
 
-/// One record as an appender receives it.
+/// One record, with everything that an appender receives.
 struct LogRecord
 {
     Logger::LogLevel level = Logger::Debug;
@@ -22,7 +22,7 @@ struct LogRecord
     bool operator==(const LogRecord&) const = default;
 };
 
-/// Records what the global logger is given, from any thread, while it lives.
+/// Records everything that is passed to the global logger on any thread while the object exists.
 class LogRecorder
 {
 public:
@@ -38,8 +38,8 @@ private:
     Appender* m_appender;
 };
 
-/// The record of a library's line: debug level, no category.
+/// The record of a line that the library logs: debug level, no category.
 LogRecord libraryLine(const char* file, int line, const char* function, const QString& message);
 
-/// A record as one text, so that a failed comparison can be read.
+/// Lets QCOMPARE print a record.
 char* toString(const LogRecord& record);

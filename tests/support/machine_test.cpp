@@ -36,7 +36,7 @@ void MachineTest::cleanup()
     }
     for (const Allowed& entry : std::as_const(m_allowed))
         wrong.append(
-            QStringLiteral("expected a misuse by %1, and none happened").arg(entry.function));
+            QStringLiteral("expected a misuse by %1, but there was none").arg(entry.function));
     machine().reset();
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(QLatin1Char('\n'))));
 }

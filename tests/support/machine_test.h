@@ -9,11 +9,11 @@
 
 /// Base of every test that runs on the virtual Windows.
 ///
-/// Each test function gets a machine as new and a settings folder of its own. After it, the ledger
-/// of handles is settled: a handle that leaked or was misused fails the function that did it. A
-/// test whose subject is a call on a dead handle names it with allowMisuse().
+/// Each test function starts with a new machine and an empty settings folder. After it, the ledger
+/// of handles is checked: the function fails if it leaked or misused a handle. A test that misuses
+/// a handle on purpose announces that with allowMisuse().
 ///
-/// A derived class that needs an init() or cleanup() of its own overrides these and calls them.
+/// A derived class with its own init() or cleanup() overrides these and calls them.
 class MachineTest : public QObject
 {
     Q_OBJECT
@@ -22,9 +22,9 @@ protected:
     using Kind = virtualwindows::HandleMisuse::Kind;
 
     virtualwindows::Machine& machine() { return virtualwindows::Machine::instance(); }
-    /// The path under which this test function's user-scope INI files lie.
+    /// The folder of this test function's user-scope INI files.
     QString settingsFolder() const { return m_settings->path(); }
-    /// One misuse of that kind by that function is what this test is about; it must then happen.
+    /// Allows one misuse of that kind by that function. The test fails if it does not happen.
     void allowMisuse(Kind kind, const QString& function);
 
 protected Q_SLOTS:

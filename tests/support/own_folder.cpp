@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// Part of every test: its endpoints, and its temporary files where these are found by the same
-// variable, are in a folder of its own. In the user's, tests that run at the same time would find
-// each other's endpoints, and each look at one takes a client's place there.
+// Part of every test: gives it its own folder for endpoints, and on Windows for all temporary
+// files. In the user's folder, tests that run at the same time would find each other's endpoints,
+// and each check of an endpoint takes the place of a client there.
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
@@ -16,7 +16,7 @@ public:
     OwnFolder()
     {
         if (!m_folder.isValid())
-            qFatal("A folder for the test: %s", qPrintable(m_folder.errorString()));
+            qFatal("Cannot create a folder for the test: %s", qPrintable(m_folder.errorString()));
 #ifdef Q_OS_UNIX
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_folder.path()));
 #else

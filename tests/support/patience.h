@@ -4,11 +4,11 @@
 
 #include <QtTest/QtTest>
 
-/// How long a test waits for what has to happen, in milliseconds. It ends a wait for what will
-/// never come; on a machine that is busy, what comes may take long.
+/// How long a test waits for something that must happen, in milliseconds. The limit is there for
+/// things that never happen; on a busy machine, those that do may take long.
 inline constexpr int patience = 60000;
 
-// Qt's own limit of five seconds is too short for that.
+// Qt's default limit of five seconds is too short for a busy machine.
 #undef QTRY_VERIFY
 #define QTRY_VERIFY(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, patience)
 #undef QTRY_COMPARE

@@ -4,12 +4,11 @@
 
 #include <QtCore/QProcess>
 
-/// Starts a program, and again where Wine could not set its process up.
+/// Starts a program, and tries again if Wine fails to set up its process.
 ///
-/// Wine calls it an internal error (STATUS_INTERNAL_ERROR of NtCreateUserProcess, in
-/// dlls/ntdll/unix/process.c) when a new process is gone before it has told Wine's server that it
-/// is initialised. On a busy machine that happens now and then. Nothing of the program has run by
-/// then.
+/// Wine reports an internal error (STATUS_INTERNAL_ERROR of NtCreateUserProcess, in
+/// dlls/ntdll/unix/process.c) when a new process ends before it has told Wine's server that it is
+/// initialised. That happens occasionally on a busy machine, before any of the program's code runs.
 inline void startProcess(QProcess& process, const QString& program, const QStringList& arguments)
 {
     constexpr int attempts = 5;

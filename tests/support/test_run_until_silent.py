@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
-"""Holds what runs the tests to what it promises. Usage: test_run_until_silent.py RUNNER"""
+"""Tests of the script that runs the tests. Usage: test_run_until_silent.py RUNNER"""
 import os
 import select
 import signal
@@ -22,7 +22,7 @@ def run(program, *, idle=FAR, work=FAR):
 
 
 def wait_for_end(process_id):
-    """Waits for ever if the process goes on, which ends this one."""
+    """If the process does not end, this waits until this test is ended as hanging."""
     try:
         process = os.pidfd_open(process_id)
     except ProcessLookupError:
@@ -32,43 +32,44 @@ def wait_for_end(process_id):
 
 
 class RunUntilSilent(unittest.TestCase):
-    def test_passes_output_and_status_on(self):
+    def test_passes_on_output_and_status(self):
         done = run("import sys; print('out', flush=True); print('err', file=sys.stderr); sys.exit(7)")
         self.assertEqual((done.stdout, done.returncode), ("out\nerr\n", 7))
 
-    def test_ends_as_the_test_ended(self):
+    def test_exits_as_the_test_does(self):
         done = run("import os; print('before', flush=True); os.abort()")
         self.assertEqual((done.stdout, done.returncode), ("before\n", -signal.SIGABRT))
         self.assertEqual(run("import os; os.kill(os.getpid(), 9)").returncode, -signal.SIGKILL)
 
-    def test_ends_what_waits_for_ever(self):
+    def test_ends_a_test_that_waits_forever(self):
         done = run("import time; print('before', flush=True); time.sleep(3600)", idle="1")
         self.assertEqual(done.returncode, 1)
-        self.assertRegex(done.stdout, "^before\n.*said nothing and did nothing for 1 s and was ended")
+        self.assertRegex(done.stdout, "^before\n.*printed nothing and was idle for 1 s and was ended")
 
-    def test_ends_what_turns_in_circles(self):
+    def test_ends_a_test_in_an_endless_loop(self):
         done = run("while True: pass", work="1")
         self.assertEqual(done.returncode, 1)
-        self.assertIn("said nothing in 1 s of processor time and was ended", done.stdout)
+        self.assertIn("printed nothing in 1 s of processor time and was ended", done.stdout)
 
-    def test_ends_what_waits_without_heeding_a_request(self):
+    def test_ends_a_test_that_ignores_the_request_to_end(self):
         done = run("import signal, time; signal.signal(signal.SIGTERM, signal.SIG_IGN)\n"
                    "time.sleep(3600)", idle="1")
         self.assertEqual(done.returncode, 1)
 
-    def test_leaves_what_speaks_alone(self):
+    def test_does_not_end_a_test_with_output(self):
         done = run("import time\nfor i in range(15): print(i, flush=True); time.sleep(0.2)", idle="2")
         self.assertEqual((done.returncode, len(done.stdout.split())), (0, 15))
 
-    def test_leaves_what_works_alone(self):
-        # In a process of its own, as a compiler is one of the build's.
+    def test_does_not_end_a_test_that_uses_the_processor(self):
+        # In a child process, as a compiler is a child process of a build.
         work = "import time\nwhile time.process_time() < 3: pass"
         done = run(f"import subprocess, sys; subprocess.run([sys.executable, '-c', {work!r}])\n"
                    "print('done')", idle="2")
         self.assertEqual((done.stdout, done.returncode), ("done\n", 0))
 
-    def test_leaves_what_the_system_holds_up_alone(self):
-        # Whoever starts a program is held up until it runs, and this one first waits for a writer.
+    def test_does_not_end_a_test_that_the_system_blocks(self):
+        # A process that spawns a program is blocked until it runs, and this program first waits for a
+        # writer of the pipe.
         with tempfile.TemporaryDirectory() as folder:
             pipe = os.path.join(folder, "pipe")
             os.mkfifo(pipe)
@@ -83,11 +84,11 @@ class RunUntilSilent(unittest.TestCase):
                     try:
                         os.close(os.open(pipe, os.O_WRONLY | os.O_NONBLOCK))
                     except OSError:
-                        time.sleep(0.1)  # nobody has opened it yet
+                        time.sleep(0.1)  # the reader has not opened it yet
                 self.assertEqual((runner.stdout.read(), runner.returncode), ("done\n", 0))
 
-    def test_counts_the_work_since_the_last_word_only(self):
-        # The runner stands still for a while, as on a busy machine, and finds words and work at once.
+    def test_counts_only_the_work_since_the_last_output(self):
+        # The runner is stopped for a while, as on a busy machine, and then sees output and work at once.
         done = run("import os, signal, time\n"
                    "def work():\n"
                    "    for i in range(8):\n"
@@ -100,14 +101,14 @@ class RunUntilSilent(unittest.TestCase):
                    "work()", work="1")
         self.assertEqual((done.returncode, len(done.stdout.split())), (0, 16))
 
-    def test_does_not_wait_for_what_the_test_left_running(self):
+    def test_does_not_wait_for_processes_left_running(self):
         sleeper = "import time; time.sleep(3600)"
         done = run("import subprocess, sys\n"
                    f"print(subprocess.Popen([sys.executable, '-c', {sleeper!r}]).pid)")
         self.assertEqual(done.returncode, 0)
         wait_for_end(int(done.stdout))
 
-    def test_takes_the_test_with_it(self):
+    def test_ends_the_test_when_it_is_ended_itself(self):
         for number in (signal.SIGTERM, signal.SIGKILL):
             with subprocess.Popen(
                     [RUNNER, sys.executable, "-c",
@@ -117,7 +118,7 @@ class RunUntilSilent(unittest.TestCase):
                 runner.send_signal(number)
                 wait_for_end(test)
 
-    def test_says_what_cannot_be_started(self):
+    def test_reports_a_program_that_cannot_be_started(self):
         done = subprocess.run([RUNNER, "no/such/program"], stdout=subprocess.PIPE,
                               stderr=subprocess.STDOUT, text=True)
         self.assertEqual(done.returncode, 1)

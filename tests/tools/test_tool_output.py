@@ -1,7 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
-"""Writes the output of the tools to a full disk, to a closed pipe and to nowhere, and other people's
-text to a terminal.
+"""What the tools do when their output cannot be written, and how they show text from elsewhere.
 
 test_tool_output.py VXPRINTMON VXIPC ROLLDB
 """
@@ -18,7 +17,7 @@ SHOWN = r"P\u001b[31m\u0007\u000d\u009b\u202e\u2028\udb40\udc01"
 FLEET = {"printers": [{"name": HOSTILE, "driver": "Stratamark Alder", "port": HOSTILE,
                        "values": {"StatusCode": "1", "SoftwareVersion": HOSTILE}}],
          "timeline": [{"at": 0.1, "say": HOSTILE}]}
-# Ends what hangs.
+# In seconds; ends a tool that hangs.
 LIMIT = 300
 
 
@@ -43,7 +42,7 @@ class Output(unittest.TestCase):
                 (VXPRINTMON, "--version"), (VXIPC, "list", "--json"), (VXIPC, "--help"),
                 (ROLLDB, "--help")]
 
-    def test_full_disk_is_told(self):
+    def test_full_disk_is_reported(self):
         for command in self.commands():
             with self.subTest(command), open("/dev/full", "wb") as full:
                 tool = os.path.basename(command[0])
@@ -52,7 +51,7 @@ class Output(unittest.TestCase):
                     (1, "", f"{tool}: standard output could not be written: "
                             "No space left on device\n"))
 
-    def test_output_that_is_closed_is_told(self):
+    def test_closed_standard_output_is_reported(self):
         for command in self.commands():
             with self.subTest(command):
                 status, _, errors = self.run_tool("sh", "-c", 'exec "$@" >&-', "sh", *command)
@@ -69,8 +68,8 @@ class Output(unittest.TestCase):
                     self.assertEqual(self.run_tool(*command, stdout=closed), (0, "", ""))
                 self.assertEqual(os.listdir(self.folder.name), self.before)
 
-    def test_watch_ends_when_its_reader_does(self):
-        # Nothing happens to the printer, and so nothing is written that could fail.
+    def test_watch_ends_when_its_reader_closes_the_pipe(self):
+        # Nothing happens to the printer, so there is no write that could fail.
         quiet = self.fleet({"printers": [{"name": "P", "driver": "Stratamark Alder"}]})
         with subprocess.Popen((VXPRINTMON, "watch", "--virtual", quiet), stdout=subprocess.PIPE,
                               stderr=subprocess.PIPE, env=self.environment) as watch:
@@ -86,12 +85,12 @@ class Output(unittest.TestCase):
         return name
 
     def check_shown(self, text):
-        # JSON has a shorter escape for one of them.
+        # JSON has a shorter escape for the carriage return.
         self.assertIn(SHOWN, text.replace("\\r", "\\u000d"))
         for character in text:
             self.assertTrue(character == "\n" or character.isprintable(), repr(character))
 
-    def test_monitor_shows_other_peoples_text(self):
+    def test_monitor_escapes_text_from_elsewhere(self):
         fleet = ("--virtual", self.fleet(FLEET))
         for words in (("list",), ("status",), ("status", HOSTILE), ("send", HOSTILE, HOSTILE),
                       ("watch", "--for", "1"), ("watch", "--for", "1", "--json"),
@@ -109,6 +108,13 @@ class Output(unittest.TestCase):
         _, output, _ = self.run_tool(VXPRINTMON, "list", "--virtual", self.fleet(FLEET))
         heading, row = output.splitlines()
         self.assertEqual(heading.index("MODEL"), row.index("Alder"))
+
+    def test_help_fits_in_80_columns(self):
+        for tool in (VXPRINTMON, VXIPC, ROLLDB):
+            with self.subTest(tool):
+                status, output, errors = self.run_tool(tool, "--help")
+                self.assertEqual((status, errors), (0, ""))
+                self.assertEqual([line for line in output.splitlines() if len(line) > 80], [])
 
     def test_messages_are_one_bounded_line(self):
         long = HOSTILE + "x" * 100000

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What `watch` costs with many printers, counted and not timed, and that it ends while reports
-// come.
+// What `watch` prints for many printers, how often it reads their records for that, and that it
+// ends in time while reports keep arriving.
 #include "machine_test.h"
 
-#include <ending.h>
 #include <output.h>
 #include <reporter.h>
+#include <status_codes.h>
+#include <stop_condition.h>
 
 #include <cstdio>
 
@@ -27,6 +28,25 @@ struct CloseFile
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
+/// A controller whose changes are printed to a file, as `watch` prints them.
+struct Watch
+{
+    explicit Watch(std::FILE* file,
+                   std::function<QList<records::Record>(const PrinterStatusController&)> recordsOf =
+                       records::of)
+        : stream("test", file)
+        , output(stream)
+        , reporter({}, output, controller, std::move(recordsOf))
+    {
+        reporter.printInitialRecords();
+    }
+
+    StandardOutput stream;
+    Output output;
+    PrinterStatusController controller;
+    Reporter reporter;
+};
+
 } // namespace
 
 class ReporterTest : public MachineTest
@@ -34,35 +54,22 @@ class ReporterTest : public MachineTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void recordsAreLookedAtOnceForAllThatIsQueued();
-    void everyChangeIsTold();
-    void laterChangesAreToldAsTheyCome();
-    void whatIsNotYetToldIsToldAtTheEnd();
-    void whatHappenedBeforeAStoryIsToldBeforeIt();
-    void jsonOfWhatDidNotChangeIsKept();
-    void recordsThatDifferInAnyPropertyAreNotTheSame();
-    void noReportIsDeliveredAfterTheEnd();
+    void init() override;
 
-protected:
-    void init() override
-    {
-        MachineTest::init();
-        m_file.reset(std::tmpfile());
-        QVERIFY(m_file);
-        machine().driveTime();
-        for (int i = 0; i < printerCount; ++i) {
-            machine().addPrinter(
-                {.name = nameOf(i), .driver = QStringLiteral("Stratamark BirchMax")});
-            machine().publish(nameOf(i), {PrinterValue::text("StatusCode", "1"),
-                                          PrinterValue::text("SoftwareVersion", "1.0")});
-        }
-    }
+    void recordsAreReadOnceForAllQueuedSignals();
+    void everyChangeIsPrinted();
+    void laterChangesArePrintedAsTheyArrive();
+    void pendingChangesArePrintedAtTheEnd();
+    void changesBeforeACaptionArePrintedBeforeIt();
+    void jsonOfUnchangedRecordsIsCached();
+    void recordsThatDifferInAnyPropertyAreNotEqual();
+    void noReportIsDeliveredAfterTheTimeLimit();
 
 private:
-    /// Whether all printers have been read, and their reports wait in the queue.
+    /// Whether all printers have been read within the limit. Their reports are then queued.
     bool waitForReports() { return machine().waitForWaitingThreads(printerCount, 30s); }
-    /// Delivers the reports, and in the turn of the loop after them what they led to.
-    static void takeTwoTurns()
+    /// Delivers the reports, and then the call that they scheduled.
+    static void deliverReports()
     {
         QCoreApplication::sendPostedEvents();
         QCoreApplication::sendPostedEvents();
@@ -78,35 +85,40 @@ private:
     std::unique_ptr<std::FILE, CloseFile> m_file;
 };
 
-void ReporterTest::recordsAreLookedAtOnceForAllThatIsQueued()
+void ReporterTest::init()
 {
-    StandardOutput stream("test", m_file.get());
-    Output output(stream);
-    PrinterStatusController controller;
-    int looks = 0;
-    Reporter reporter({}, output, controller, [&](const PrinterStatusController& asked) {
-        ++looks;
-        return records::of(asked);
-    });
-    reporter.tellBeginning();
-    QVERIFY(waitForReports());
-    looks = 0;
-    takeTwoTurns();
-    QCOMPARE(looks, 1);
-    // Asked a hundred times a second while a story is told.
-    QCOMPARE(reporter.watchedPrinters(), printerCount);
-    QCOMPARE(looks, 1);
+    MachineTest::init();
+    m_file.reset(std::tmpfile());
+    QVERIFY(m_file);
+    machine().driveTime();
+    for (int i = 0; i < printerCount; ++i) {
+        machine().addPrinter({.name = nameOf(i), .driver = QStringLiteral("Stratamark BirchMax")});
+        machine().publish(nameOf(i), {PrinterValue::text("StatusCode", "1"),
+                                      PrinterValue::text("SoftwareVersion", "1.0")});
+    }
 }
 
-void ReporterTest::everyChangeIsTold()
+void ReporterTest::recordsAreReadOnceForAllQueuedSignals()
 {
-    StandardOutput stream("test", m_file.get());
-    Output output(stream);
-    PrinterStatusController controller;
-    Reporter reporter({}, output, controller);
-    reporter.tellBeginning();
+    int readings = 0;
+    Watch watch(m_file.get(), [&](const PrinterStatusController& controller) {
+        ++readings;
+        return records::of(controller);
+    });
     QVERIFY(waitForReports());
-    takeTwoTurns();
+    readings = 0;
+    deliverReports();
+    QCOMPARE(readings, 1);
+    // Called a hundred times a second while a story is played.
+    QCOMPARE(watch.reporter.watchedPrinters(), printerCount);
+    QCOMPARE(readings, 1);
+}
+
+void ReporterTest::everyChangeIsPrinted()
+{
+    Watch watch(m_file.get());
+    QVERIFY(waitForReports());
+    deliverReports();
     const QString text = written();
     for (int i = 0; i < printerCount; ++i) {
         QVERIFY(text.contains(nameOf(i) + QStringLiteral("  status     1  Ready\n")));
@@ -116,60 +128,48 @@ void ReporterTest::everyChangeIsTold()
     }
 }
 
-void ReporterTest::laterChangesAreToldAsTheyCome()
+void ReporterTest::laterChangesArePrintedAsTheyArrive()
 {
-    StandardOutput stream("test", m_file.get());
-    Output output(stream);
-    PrinterStatusController controller;
-    Reporter reporter({}, output, controller);
-    reporter.tellBeginning();
+    Watch watch(m_file.get());
     QVERIFY(waitForReports());
-    takeTwoTurns();
+    deliverReports();
     for (const char* version : {"2.0", "3.0"}) {
         machine().publish(nameOf(0), PrinterValue::text("SoftwareVersion", version));
         QVERIFY(waitForReports());
-        takeTwoTurns();
+        deliverReports();
         QVERIFY2(written().contains(QStringLiteral("\u2192 ") + QString::fromLatin1(version)),
                  version);
     }
 }
 
-void ReporterTest::whatIsNotYetToldIsToldAtTheEnd()
+void ReporterTest::pendingChangesArePrintedAtTheEnd()
 {
-    StandardOutput stream("test", m_file.get());
-    Output output(stream);
-    PrinterStatusController controller;
-    Reporter reporter({}, output, controller);
-    reporter.tellBeginning();
+    Watch watch(m_file.get());
     QVERIFY(waitForReports());
-    // The reports alone, not what they are followed by.
-    QCoreApplication::sendPostedEvents(&controller);
+    // Deliver the reports but not the call that they schedule.
+    QCoreApplication::sendPostedEvents(&watch.controller);
     const QString line = QStringLiteral("P199  records  status not known \u2192 Ready");
     QVERIFY(!written().contains(line));
-    reporter.tellEnd();
+    watch.reporter.printPendingChanges();
     QVERIFY(written().contains(line));
 }
 
-void ReporterTest::whatHappenedBeforeAStoryIsToldBeforeIt()
+void ReporterTest::changesBeforeACaptionArePrintedBeforeIt()
 {
-    StandardOutput stream("test", m_file.get());
-    Output output(stream);
-    PrinterStatusController controller;
-    Reporter reporter({}, output, controller);
-    reporter.tellBeginning();
+    Watch watch(m_file.get());
     QVERIFY(waitForReports());
-    // The reports alone, not what they are followed by.
-    QCoreApplication::sendPostedEvents(&controller);
-    const QString story = QStringLiteral("the labels run out");
-    reporter.tellStory(story);
+    // Deliver the reports but not the call that they schedule.
+    QCoreApplication::sendPostedEvents(&watch.controller);
+    const QString caption = QStringLiteral("the labels run out");
+    watch.reporter.printCaption(caption);
     const QString text = written();
     const qsizetype change =
         text.indexOf(QStringLiteral("P199  records  status not known \u2192 Ready"));
     QVERIFY(change >= 0);
-    QVERIFY(change < text.indexOf(story));
+    QVERIFY(change < text.indexOf(caption));
 }
 
-void ReporterTest::jsonOfWhatDidNotChangeIsKept()
+void ReporterTest::jsonOfUnchangedRecordsIsCached()
 {
     QList<records::Record> all(printerCount);
     for (int i = 0; i < printerCount; ++i)
@@ -182,7 +182,7 @@ void ReporterTest::jsonOfWhatDidNotChangeIsKept()
     QCOMPARE(texts.of(all).size(), printerCount);
     QCOMPARE(written, printerCount);
     for (int i = 0; i < printerCount; ++i) {
-        all[i].statusEnum = 1;
+        all[i].statusEnum = VXPrinting::StatusCodes::ready;
         const QStringList now = texts.of(all);
         QCOMPARE(written, printerCount + i + 1);
         QCOMPARE(now.at(i), records::json(all.at(i)));
@@ -192,7 +192,7 @@ void ReporterTest::jsonOfWhatDidNotChangeIsKept()
     QCOMPARE(written, 2 * printerCount);
 }
 
-void ReporterTest::recordsThatDifferInAnyPropertyAreNotTheSame()
+void ReporterTest::recordsThatDifferInAnyPropertyAreNotEqual()
 {
     const QMetaObject& type = records::Record::staticMetaObject;
     const records::Record record;
@@ -209,21 +209,21 @@ void ReporterTest::recordsThatDifferInAnyPropertyAreNotTheSame()
     }
 }
 
-void ReporterTest::noReportIsDeliveredAfterTheEnd()
+void ReporterTest::noReportIsDeliveredAfterTheTimeLimit()
 {
     StandardOutput stream("test", m_file.get());
     const Output output(stream);
     PrinterStatusController controller;
-    Ending ending(controller, output);
-    QSignalSpy ended(&ending, &Ending::came);
+    StopCondition stop(controller, output);
+    QSignalSpy met(&stop, &StopCondition::met);
     QSignalSpy reports(&controller, &PrinterStatusController::statusChangedSignal);
-    // The time is over after the first report, and only the clock knows.
-    connect(&controller, &PrinterStatusController::statusChangedSignal, &ending,
-            [&] { ending.setTime(0ms); });
+    // The time is up after the first report, before any timer can say so.
+    connect(&controller, &PrinterStatusController::statusChangedSignal, &stop,
+            [&] { stop.setTimeLimit(0ms); });
     QVERIFY(waitForReports());
     QCoreApplication::sendPostedEvents();
     QCOMPARE(reports.size(), 1);
-    QCOMPARE(ended.size(), 1);
+    QCOMPARE(met.size(), 1);
 }
 
 QTEST_GUILESS_MAIN(ReporterTest)

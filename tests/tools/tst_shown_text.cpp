@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What the tools make of text that is not theirs before they print it.
+// How the tools escape text from elsewhere before they print it.
 #include <json_text.h>
 #include <shown_text.h>
 
@@ -13,16 +13,16 @@ class ShownTextTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void printableTextStaysAsItIs_data();
-    void printableTextStaysAsItIs();
-    void whatSteersATerminalBecomesAMark_data();
-    void whatSteersATerminalBecomesAMark();
-    void everyCharacterOfTheseKindsBecomesAMark();
-    void messageIsBounded();
-    void jsonStaysTheSameJson();
+    void printableTextIsUnchanged_data();
+    void printableTextIsUnchanged();
+    void charactersThatControlATerminalAreEscaped_data();
+    void charactersThatControlATerminalAreEscaped();
+    void everyCharacterOfTheseCategoriesIsEscaped();
+    void longMessageIsShortened();
+    void escapedJsonIsTheSameJson();
 };
 
-void ShownTextTest::printableTextStaysAsItIs_data()
+void ShownTextTest::printableTextIsUnchanged_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("empty") << QString();
@@ -34,18 +34,18 @@ void ShownTextTest::printableTextStaysAsItIs_data()
     QTest::newRow("for private use") << QStringLiteral("\uE000");
 }
 
-void ShownTextTest::printableTextStaysAsItIs()
+void ShownTextTest::printableTextIsUnchanged()
 {
     QFETCH(const QString, text);
     QCOMPARE(shown(text), text);
 }
 
-void ShownTextTest::whatSteersATerminalBecomesAMark_data()
+void ShownTextTest::charactersThatControlATerminalAreEscaped_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("mark");
-    const auto row = [](const char* name, const QString& text, const char* mark) {
-        QTest::newRow(name) << text << QString::fromLatin1(mark);
+    QTest::addColumn<QString>("escaped");
+    const auto row = [](const char* name, const QString& text, const char* escaped) {
+        QTest::newRow(name) << text << QString::fromLatin1(escaped);
     };
     const auto unit = [](char16_t number) {
         return QString(QChar(number));
@@ -71,30 +71,30 @@ void ShownTextTest::whatSteersATerminalBecomesAMark_data()
     row("noncharacter beyond the first plane", QString::fromUcs4(U"\U0010FFFF"), "\\udbff\\udfff");
 }
 
-void ShownTextTest::whatSteersATerminalBecomesAMark()
+void ShownTextTest::charactersThatControlATerminalAreEscaped()
 {
     QFETCH(const QString, text);
-    QTEST(shown(text), "mark");
-    QTEST(shown(shown(text)), "mark");
+    QTEST(shown(text), "escaped");
+    QTEST(shown(shown(text)), "escaped");
 }
 
-void ShownTextTest::everyCharacterOfTheseKindsBecomesAMark()
+void ShownTextTest::everyCharacterOfTheseCategoriesIsEscaped()
 {
     for (char32_t character = 0; character <= QChar::LastValidCodePoint; ++character) {
-        const QChar::Category kind = QChar::category(character);
-        const bool isMarked = kind == QChar::Other_Control || kind == QChar::Other_Format ||
-                              kind == QChar::Other_Surrogate || kind == QChar::Separator_Line ||
-                              kind == QChar::Separator_Paragraph ||
-                              QChar::isNonCharacter(character);
+        const QChar::Category category = QChar::category(character);
+        const bool isEscaped =
+            category == QChar::Other_Control || category == QChar::Other_Format ||
+            category == QChar::Other_Surrogate || category == QChar::Separator_Line ||
+            category == QChar::Separator_Paragraph || QChar::isNonCharacter(character);
         const QString text = QStringView(QChar::fromUcs4(character)).toString();
-        if ((shown(text) != text) != isMarked)
+        if ((shown(text) != text) != isEscaped)
             QFAIL(qPrintable(QStringLiteral("U+%1 becomes \"%2\"")
                                  .arg(uint(character), 4, 16, QLatin1Char('0'))
                                  .arg(shown(text))));
     }
 }
 
-void ShownTextTest::messageIsBounded()
+void ShownTextTest::longMessageIsShortened()
 {
     const QString fits(messageLength, QLatin1Char('x'));
     QCOMPARE(shownAsMessage(fits), fits);
@@ -107,7 +107,7 @@ void ShownTextTest::messageIsBounded()
     QVERIFY(message.endsWith(end));
 }
 
-void ShownTextTest::jsonStaysTheSameJson()
+void ShownTextTest::escapedJsonIsTheSameJson()
 {
     QString hostile = QStringLiteral("\"\\ \u001b\u009b\u202e\u2028\U000E0001");
     hostile += QChar(0xD83D);

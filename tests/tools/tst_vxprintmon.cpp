@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// The monitor as its users see it: arguments in, text, JSON and exit status out.
+// The monitor as its users see it: which arguments lead to which text, JSON and exit status.
 #include "patience.h"
 #include "printer_status_controller.h"
 
@@ -13,6 +13,7 @@
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
+#include <array>
 #include <csignal>
 
 namespace {
@@ -24,7 +25,7 @@ struct Result
     QByteArray errors;
 };
 
-/// One line of `watch --json`: which keys it has, in which order, and what it says.
+/// One line of `watch --json`, as text and as an object.
 struct Line
 {
     QByteArray text;
@@ -51,7 +52,7 @@ QByteArrayList keysOf(const QMetaObject& type)
     return keys;
 }
 
-/// Whether a JSON object's text has these keys in this order, one after the other.
+/// Whether the text of a JSON object has these keys in this order.
 bool hasInOrder(const QByteArray& text, const QByteArrayList& keys)
 {
     qsizetype place = 0;
@@ -81,52 +82,53 @@ class VxPrintMonTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(m_home.isValid()); }
-    void listForPeople();
-    void listForPrograms();
-    void fleetOfHostsIsNotTheMonitors();
-    void listWithoutPrinters();
+    void initTestCase();
 
-    void statusForPeople();
-    void statusOfOneForPeople();
-    void statusForPrograms();
-    void statusOfOneForPrograms();
-    void statusOfUnknownPrinter();
-    void statusWithoutPrinters();
-    void statusDoesNotWaitForever();
-    void statusEndsWhenInterrupted();
-    void namesInOtherLanguages_data();
-    void namesInOtherLanguages();
+    void listPrintsATable();
+    void listPrintsJson();
+    void fleetOfHostsIsIgnored();
+    void listWithoutPrintersSaysSo();
 
-    void sendForPeople();
-    void sendForPrograms();
-    void sendToUnknownPrinter();
-    void titles_data();
-    void titles();
+    void statusPrintsATable();
+    void statusOfOnePrinterPrintsItsDetails();
+    void statusPrintsRecordsAsJson();
+    void statusOfOnePrinterPrintsItsRecordAsJson();
+    void statusOfAnUnknownPrinterFails();
+    void statusWithoutPrintersSaysSo();
+    void statusStopsWaitingForASilentPrinter();
+    void statusFailsWhenInterrupted();
+    void namesAndTitlesAreInTheUsersLanguage_data();
+    void namesAndTitlesAreInTheUsersLanguage();
 
-    void watchForPrograms();
-    void watchForPeople();
-    void watchEndsInTime();
-    void watchWaitsForPrinters();
+    void sendPrintsThePrintJob();
+    void sendPrintsThePrintJobAsJson();
+    void sendToAnUnknownPrinterFails();
+    void titleIsPrinted_data();
+    void titleIsPrinted();
+
+    void watchPrintsEverySignalAsJson();
+    void watchPrintsSignalsAndChangesAsText();
+    void watchEndsAfterTheGivenTime();
+    void watchReportsAPrinterThatIsAddedLater();
     void watchEndsWhenInterrupted_data();
     void watchEndsWhenInterrupted();
-    void twoAtOnce();
+    void twoMonitorsRunSideBySide();
 
-    void storyKeepsTheSignalsForm();
-    void storyOfErrors();
-    void storyOfTheActivePrinter();
-    void storyOfASupply();
-    void storyOfARibbon();
-    void storyOfAPrinterThatIsFound();
-    void storyOfTheSpooler();
-    void storyOfAPrinterGoingOffline();
+    void everyLineHasTheArgumentsOfItsSignal();
+    void storyReportsWhenErrorsBeginAndEnd();
+    void storyReportsTheActivePrinter();
+    void storyReportsASupplyThatRunsOut();
+    void storyReportsARibbonThatIsReplaced();
+    void storyReportsAPrinterThatIsFound();
+    void storyReportsThatTheSpoolerStops();
+    void storyReportsAPrinterThatGoesOffline();
 
-    void coloursOnATerminal();
-    void wrongUsage_data();
-    void wrongUsage();
-    void brokenFleet();
-    void helpAndVersion();
-    void logGoesToAFile();
+    void coloursAppearOnlyOnATerminal();
+    void wrongUsageIsRefused_data();
+    void wrongUsageIsRefused();
+    void brokenFleetIsRefused();
+    void helpAndVersionArePrinted();
+    void logIsAppendedToAFile();
     void logThatCannotBeWrittenIsAFailure();
     void leavesNothingBehind();
 
@@ -137,7 +139,7 @@ private:
         environment.remove(QStringLiteral("NO_COLOR"));
         environment.remove(QStringLiteral("LANGUAGE"));
         environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-        // Everything that is written is written here: settings, endpoints, temporary files.
+        // Settings, endpoints and temporary files are all written here.
         for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "TMPDIR"})
             environment.insert(QString::fromLatin1(name), m_home.path());
         return environment;
@@ -152,7 +154,7 @@ private:
             return {};
         return resultOf(process);
     }
-    /// Runs the monitor until it has printed a text, then asks it to end.
+    /// Runs the monitor until it has printed a text, then terminates it.
     Result runUntil(const QByteArray& last, const QStringList& arguments)
     {
         QProcess process;
@@ -192,17 +194,17 @@ private:
             lines.append({text, QJsonDocument::fromJson(text).object()});
         return lines;
     }
-    /// The built-in story as watch tells it to programs; told once for all tests.
+    /// The built-in story as `watch --json` prints it. It is played once for all tests.
     const QList<Line>& story();
-    /// The signals of the story with that name.
-    QList<Line> storyOf(const QString& signal)
+    /// The lines of the story for the signal of that name.
+    QList<Line> linesOfStory(const QString& signal)
     {
         QList<Line> found = story();
         found.removeIf([&](const Line& line) { return line.signal() != signal; });
         return found;
     }
-    /// The story from the first line of that printer's status.
-    QList<Line> storyFrom(const QString& printer, int status);
+    /// The lines of the story from the one that first reports this status of this printer.
+    QList<Line> linesOfStoryFrom(const QString& printer, int status);
     QStringList entries() const
     {
         return QDir(m_home.path())
@@ -214,9 +216,14 @@ private:
     QList<Line> m_story;
 };
 
+void VxPrintMonTest::initTestCase()
+{
+    QVERIFY(m_home.isValid());
+}
+
 // list ////////////////////////////////////////////////////////////////////////////////////////////
 
-void VxPrintMonTest::listForPeople()
+void VxPrintMonTest::listPrintsATable()
 {
     const Result result = run({QStringLiteral("list")});
     QCOMPARE(result.exitStatus, 0);
@@ -233,7 +240,7 @@ Front Desk Laser  -         LPT1:         -         Everyday Office Laser 400
     QCOMPARE(result.output, expected);
 }
 
-void VxPrintMonTest::fleetOfHostsIsNotTheMonitors()
+void VxPrintMonTest::fleetOfHostsIsIgnored()
 {
     QProcessEnvironment hosts = environment();
     hosts.insert(QStringLiteral("VX_VIRTUAL_FLEET"), QStringLiteral("built-in"));
@@ -242,7 +249,7 @@ void VxPrintMonTest::fleetOfHostsIsNotTheMonitors()
     QCOMPARE(result.output, run({QStringLiteral("list")}).output);
 }
 
-void VxPrintMonTest::listForPrograms()
+void VxPrintMonTest::listPrintsJson()
 {
     const Result result = run({QStringLiteral("list"), QStringLiteral("--json")});
     QCOMPARE(result.exitStatus, 0);
@@ -264,7 +271,7 @@ void VxPrintMonTest::listForPrograms()
     QCOMPARE(printers.at(5).toObject().value(QStringLiteral("printerType")).toInt(-1), 0);
 }
 
-void VxPrintMonTest::listWithoutPrinters()
+void VxPrintMonTest::listWithoutPrintersSaysSo()
 {
     const QString fleet = fleetFile(R"({"printers": []})");
     const Result json =
@@ -273,12 +280,12 @@ void VxPrintMonTest::listWithoutPrinters()
     QCOMPARE(json.output, QByteArray("[]\n"));
     const Result people = run({QStringLiteral("list"), QStringLiteral("--virtual"), fleet});
     QCOMPARE(people.exitStatus, 0);
-    QVERIFY(people.output.contains("knows no printers"));
+    QVERIFY(people.output.contains("There are no printers"));
 }
 
 // status //////////////////////////////////////////////////////////////////////////////////////////
 
-void VxPrintMonTest::statusForPeople()
+void VxPrintMonTest::statusPrintsATable()
 {
     const Result result = run({QStringLiteral("status")});
     QCOMPARE(result.exitStatus, 0);
@@ -292,7 +299,7 @@ Warehouse      Ready                           White Paper, 82 %   Blue, 3 %    
     QCOMPARE(result.output, expected);
 }
 
-void VxPrintMonTest::statusOfOneForPeople()
+void VxPrintMonTest::statusOfOnePrinterPrintsItsDetails()
 {
     const Result result = run({QStringLiteral("status"), warehouse});
     QCOMPARE(result.exitStatus, 0);
@@ -310,12 +317,12 @@ has a ribbon 2   yes
 firmware         4.1.3,boot 1.7
 network printer  no
 managed          yes
-was active once  yes
+has been active  yes
 )";
     QCOMPARE(result.output, expected);
 }
 
-void VxPrintMonTest::statusForPrograms()
+void VxPrintMonTest::statusPrintsRecordsAsJson()
 {
     const Result result = run({QStringLiteral("status"), QStringLiteral("--json")});
     QCOMPARE(result.exitStatus, 0);
@@ -360,7 +367,7 @@ void VxPrintMonTest::statusForPrograms()
              }));
 }
 
-void VxPrintMonTest::statusOfOneForPrograms()
+void VxPrintMonTest::statusOfOnePrinterPrintsItsRecordAsJson()
 {
     const Result all = run({QStringLiteral("status"), QStringLiteral("--json")});
     const Result one = run({QStringLiteral("status"), warehouse, QStringLiteral("--json")});
@@ -370,9 +377,10 @@ void VxPrintMonTest::statusOfOneForPrograms()
     QCOMPARE(records.first(), QJsonDocument::fromJson(all.output).array().at(2));
 }
 
-void VxPrintMonTest::statusOfUnknownPrinter()
+void VxPrintMonTest::statusOfAnUnknownPrinterFails()
 {
-    // Names are compared exactly, and printers that are not watched or listed have no record.
+    // Names are compared exactly. Printers of other makers and printers that are offline from the
+    // beginning have no record.
     for (const char* name : {"shipping", "Nowhere", "", "Front Desk Laser", "Returns"}) {
         for (const bool json : {false, true}) {
             QStringList arguments{QStringLiteral("status"), QString::fromLatin1(name)};
@@ -381,13 +389,14 @@ void VxPrintMonTest::statusOfUnknownPrinter()
             const Result result = run(arguments);
             QCOMPARE(result.exitStatus, 1);
             QCOMPARE(result.output, QByteArray());
-            QCOMPARE(result.errors, QByteArray("vxprintmon: there is no record of a printer \"") +
-                                        name + "\"; \"vxprintmon status\" shows those there are\n");
+            QCOMPARE(result.errors,
+                     QByteArray("vxprintmon: there is no record of a printer \"") + name +
+                         "\"; \"vxprintmon status\" shows the printers that have one\n");
         }
     }
 }
 
-void VxPrintMonTest::statusWithoutPrinters()
+void VxPrintMonTest::statusWithoutPrintersSaysSo()
 {
     const QString fleet =
         fleetFile(R"({"printers": [{"name": "A", "driver": "Some Office Printer"}]})");
@@ -397,10 +406,10 @@ void VxPrintMonTest::statusWithoutPrinters()
     QCOMPARE(json.output, QByteArray("[]\n"));
     const Result people = run({QStringLiteral("status"), QStringLiteral("--virtual"), fleet});
     QCOMPARE(people.exitStatus, 0);
-    QCOMPARE(people.output, QByteArray("There is no label printer yet.\n"));
+    QCOMPARE(people.output, QByteArray("There are no label printers yet.\n"));
 }
 
-void VxPrintMonTest::statusDoesNotWaitForever()
+void VxPrintMonTest::statusStopsWaitingForASilentPrinter()
 {
     const QString fleet = fleetFile(R"({"printers": [
         {"name": "Mute", "driver": "Stratamark Alder"},
@@ -417,18 +426,18 @@ void VxPrintMonTest::statusDoesNotWaitForever()
     QCOMPARE(records.at(1)[QStringLiteral("statusEnum")].toInt(), 4);
 }
 
-void VxPrintMonTest::statusEndsWhenInterrupted()
+void VxPrintMonTest::statusFailsWhenInterrupted()
 {
     const QString fleet =
         fleetFile(R"({"printers": [{"name": "Mute", "driver": "Stratamark Alder"}]})");
-    // It waits for 2 seconds at most, in which a busy computer may not let this test have its turn.
+    // It waits no longer than 2 seconds, and on a busy computer the signal may come too late.
     int exitStatus = 0;
     for (int attempt = 0; exitStatus == 0 && attempt < 10; ++attempt) {
         QProcess process;
         process.setProcessEnvironment(environment());
         process.start(QStringLiteral(VXPRINTMON),
                       {QStringLiteral("status"), QStringLiteral("--virtual"), fleet});
-        // Its endpoint is published from the event loop, in which it waits.
+        // The endpoint appears once the event loop runs, in which the monitor waits.
         QTRY_VERIFY_WITH_TIMEOUT(entries().contains(QStringLiteral("vxipc-0")) ||
                                      process.state() == QProcess::NotRunning,
                                  patience);
@@ -444,7 +453,7 @@ void VxPrintMonTest::statusEndsWhenInterrupted()
     QCOMPARE(exitStatus, 1);
 }
 
-void VxPrintMonTest::namesInOtherLanguages_data()
+void VxPrintMonTest::namesAndTitlesAreInTheUsersLanguage_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("colour");
@@ -460,12 +469,12 @@ void VxPrintMonTest::namesInOtherLanguages_data()
         QStringLiteral("Bereit"));
     row("ja", QStringLiteral("黄"), QStringLiteral("ビニール"), QStringLiteral("黒"),
         QStringLiteral("準備完了"));
-    // The catalogue has no Italian names, the library Italian titles.
+    // There are Italian titles, but the catalogue has no Italian names.
     row("it", QStringLiteral("Yellow"), QStringLiteral("Vinyl"), QStringLiteral("Black"),
         QStringLiteral("Pronta"));
 }
 
-void VxPrintMonTest::namesInOtherLanguages()
+void VxPrintMonTest::namesAndTitlesAreInTheUsersLanguage()
 {
     QFETCH(const QString, language);
     QProcessEnvironment changed = environment();
@@ -483,17 +492,16 @@ void VxPrintMonTest::namesInOtherLanguages()
 
 // send and title //////////////////////////////////////////////////////////////////////////////////
 
-void VxPrintMonTest::sendForPeople()
+void VxPrintMonTest::sendPrintsThePrintJob()
 {
     const Result result = run({QStringLiteral("send"), shipping, QStringLiteral("FEED 2")});
     QCOMPARE(result.exitStatus, 0);
     QCOMPARE(result.errors, QByteArray());
-    QCOMPARE(result.output,
-             QByteArray("Sent to Shipping: FEED 2\n"
-                        "It became print job 1, \"FEED 2\": RAW, pages: 1, bytes: 8.\n"));
+    QCOMPARE(result.output, QByteArray("Sent to Shipping: FEED 2\n"
+                                       "Print job 1, \"FEED 2\": RAW, pages: 1, bytes: 8.\n"));
 }
 
-void VxPrintMonTest::sendForPrograms()
+void VxPrintMonTest::sendPrintsThePrintJobAsJson()
 {
     const Result result = run(
         {QStringLiteral("send"), shipping, QStringLiteral("Ä \"1\""), QStringLiteral("--json")});
@@ -505,7 +513,7 @@ void VxPrintMonTest::sendForPrograms()
                         "\n"));
 }
 
-void VxPrintMonTest::sendToUnknownPrinter()
+void VxPrintMonTest::sendToAnUnknownPrinterFails()
 {
     for (const bool json : {false, true}) {
         QStringList arguments{QStringLiteral("send"), QStringLiteral("Nowhere"),
@@ -520,7 +528,7 @@ void VxPrintMonTest::sendToUnknownPrinter()
     }
 }
 
-void VxPrintMonTest::titles_data()
+void VxPrintMonTest::titleIsPrinted_data()
 {
     QTest::addColumn<QString>("code");
     QTest::addColumn<QString>("title");
@@ -540,7 +548,7 @@ void VxPrintMonTest::titles_data()
     row("2147483647", "Printer error 2147483647");
 }
 
-void VxPrintMonTest::titles()
+void VxPrintMonTest::titleIsPrinted()
 {
     QFETCH(const QString, code);
     QFETCH(const QString, title);
@@ -558,7 +566,7 @@ void VxPrintMonTest::titles()
 
 // watch ///////////////////////////////////////////////////////////////////////////////////////////
 
-void VxPrintMonTest::watchForPrograms()
+void VxPrintMonTest::watchPrintsEverySignalAsJson()
 {
     const QString printer = QStringLiteral("P \"1\"");
     const QString fleet = fleetFile(R"({
@@ -581,7 +589,7 @@ void VxPrintMonTest::watchForPrograms()
             texts.append(line.text);
             continue;
         }
-        // In short: the record alone, in what this printer changes in it.
+        // Of the record, only the properties that change in this story.
         const QJsonObject record = line.record(printer);
         QCOMPARE(record.size(), 21);
         texts.append("updated " +
@@ -603,7 +611,7 @@ void VxPrintMonTest::watchForPrograms()
                     }));
 }
 
-void VxPrintMonTest::watchForPeople()
+void VxPrintMonTest::watchPrintsSignalsAndChangesAsText()
 {
     const QString fleet = fleetFile(R"({
         "printers": [{"name": "P", "driver": "Stratamark BirchMax", "values": {"StatusCode": "1",
@@ -632,50 +640,52 @@ void VxPrintMonTest::watchForPeople()
                  "P        not known  -       -         -         -         yes",
                  "",
              }));
-    // What changed in the records is told once for all signals that were queued together, so how it
-    // is spread over lines is a matter of chance. What it is in each part of the story is not.
-    QByteArrayList told;
+    // Changes in the records are printed once for all signals that were queued together, so the
+    // number of lines is a matter of chance. The changes in each part of the story are not.
+    const QByteArray label = "records  ";
+    QByteArrayList printed;
     QByteArrayList changed;
     const auto endPart = [&] {
         if (!changed.isEmpty())
-            told.append("records: " + changed.join(", "));
+            printed.append("records: " + changed.join(", "));
         changed.clear();
     };
     for (const QByteArray& line : lines.mid(3)) {
-        const QByteArray text = line.mid(qstrlen("   0.0 s  "));
-        const qsizetype records = text.indexOf("records  ");
+        const QByteArray text = line.mid(QByteArray("   0.0 s  ").size());
+        const qsizetype records = text.indexOf(label);
         if (text.endsWith('.'))
             endPart();
         if (records < 0)
-            told.append(text);
+            printed.append(text);
         else
-            changed.append(text.mid(records + qsizetype(qstrlen("records  "))));
+            changed.append(text.mid(records + label.size()));
     }
     endPart();
-    QCOMPARE(told, (QByteArrayList{
-                       "P  status     1  Ready",
-                       "P  supply   was changed or taken out",
-                       "records: status not known → Ready, supply Yellow Vinyl (VT-400-YL)",
-                       "The lid is opened.",
-                       "   errors   some printer is in error",
-                       "P  status     4  The cover is open",
-                       "P  supply   was changed or taken out",
-                       "records: status Ready → The cover is open, "
-                       "supply Yellow Vinyl (VT-400-YL) → none",
-                       "A ribbon comes.",
-                       "P  ribbons  were changed or taken out",
-                       "records: ribbon 1 Blue (RS-43-BL), ribbon 1 left 0 % → 100 %, "
-                       "ribbon 1 left 100 % → 99 %",
-                       "A printer comes.",
-                       "Quill  found    Printer Is Remotely Connected.",
-                       "The lid is closed.",
-                       "       errors   no printer is in error",
-                       "P      status     1  Ready",
-                       "records: status The cover is open → Ready, firmware 1.0",
-                   }));
+    QCOMPARE(printed,
+             (QByteArrayList{
+                 "P  status     1  Ready",
+                 "P  supply   changed or removed",
+                 "records: status not known → Ready, supply Yellow Vinyl (VT-400-YL)",
+                 "The lid is opened.",
+                 "   errors   a printer is in error",
+                 "P  status     4  The cover is open",
+                 "P  supply   changed or removed",
+                 QByteArray("records: status Ready → The cover is open, "
+                            "supply Yellow Vinyl (VT-400-YL) → none"),
+                 "A ribbon comes.",
+                 "P  ribbons  changed or removed",
+                 QByteArray("records: ribbon 1 Blue (RS-43-BL), ribbon 1 left 0 % → 100 %, "
+                            "ribbon 1 left 100 % → 99 %"),
+                 "A printer comes.",
+                 "Quill  found    Printer Is Remotely Connected.",
+                 "The lid is closed.",
+                 "       errors   no printer is in error",
+                 "P      status     1  Ready",
+                 "records: status The cover is open → Ready, firmware 1.0",
+             }));
 }
 
-void VxPrintMonTest::watchEndsInTime()
+void VxPrintMonTest::watchEndsAfterTheGivenTime()
 {
     QElapsedTimer clock;
     clock.start();
@@ -686,7 +696,7 @@ void VxPrintMonTest::watchEndsInTime()
     QCOMPARE(result.errors, QByteArray());
 }
 
-void VxPrintMonTest::watchWaitsForPrinters()
+void VxPrintMonTest::watchReportsAPrinterThatIsAddedLater()
 {
     const QString fleet = fleetFile(R"({"printers": [], "timeline": [
         {"at": 100, "add": {"name": "P", "driver": "Stratamark Alder",
@@ -695,8 +705,8 @@ void VxPrintMonTest::watchWaitsForPrinters()
                                 QStringLiteral("500"), QStringLiteral("--virtual"), fleet};
     const Result people = runUntil("not known → Ready", arguments);
     QCOMPARE(people.exitStatus, 0);
-    QVERIFY(people.output.startsWith("There is no label printer yet.\n\n"));
-    QVERIFY(people.output.contains("P  found    is watched from now on\n"));
+    QVERIFY(people.output.startsWith("There are no label printers yet.\n\n"));
+    QVERIFY(people.output.contains("P  found    is now watched\n"));
 
     const Result json =
         runUntil("availablePrintersUpdated", arguments + QStringList{QStringLiteral("--json")});
@@ -725,33 +735,34 @@ void VxPrintMonTest::watchEndsWhenInterrupted()
     QCOMPARE(process.exitCode(), 0);
 }
 
-void VxPrintMonTest::twoAtOnce()
+void VxPrintMonTest::twoMonitorsRunSideBySide()
 {
-    // Each has endpoints of its own and watches all printers.
-    constexpr int count = 2;
-    QProcess processes[count];
-    QByteArray outputs[count];
-    for (int i = 0; i < count; ++i) {
-        processes[i].setProcessEnvironment(environment());
-        processes[i].start(QStringLiteral(VXPRINTMON),
-                           {QStringLiteral("watch"), QStringLiteral("--json")});
-        QTRY_VERIFY_WITH_TIMEOUT((outputs[i] += processes[i].readAllStandardOutput())
+    // Each has its own endpoints and watches all printers.
+    std::array<QProcess, 2> processes;
+    qsizetype endpointCount = 0;
+    for (QProcess& process : processes) {
+        process.setProcessEnvironment(environment());
+        process.start(QStringLiteral(VXPRINTMON),
+                      {QStringLiteral("watch"), QStringLiteral("--json")});
+        QByteArray output;
+        QTRY_VERIFY_WITH_TIMEOUT((output += process.readAllStandardOutput())
                                      .contains(R"("softwareVersion":"4.1.3,boot 1.7")"),
                                  patience);
-        QTRY_COMPARE_WITH_TIMEOUT(entries().filter(QStringLiteral("vxipc-")).size(), 2 * (i + 1),
+        endpointCount += 2;
+        QTRY_COMPARE_WITH_TIMEOUT(entries().filter(QStringLiteral("vxipc-")).size(), endpointCount,
                                   patience);
     }
     const QStringList endpoints = entries().filter(QStringLiteral("vxipc-"));
     QVERIFY(endpoints.contains(QStringLiteral("vxipc-0")));
     QVERIFY(endpoints.contains(QStringLiteral("vxipc-0-%1").arg(processes[1].processId())));
 
-    for (int i = 0; i < count; ++i) {
-        QCOMPARE(processes[i].state(), QProcess::Running);
-        processes[i].terminate();
-        QVERIFY(processes[i].waitForFinished(patience));
-        QCOMPARE(processes[i].exitStatus(), QProcess::NormalExit);
-        QCOMPARE(processes[i].exitCode(), 0);
-        QCOMPARE(processes[i].readAllStandardError(), QByteArray());
+    for (QProcess& process : processes) {
+        QCOMPARE(process.state(), QProcess::Running);
+        process.terminate();
+        QVERIFY(process.waitForFinished(patience));
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 0);
+        QCOMPARE(process.readAllStandardError(), QByteArray());
     }
     QCOMPARE(entries().filter(QStringLiteral("vxipc-")), QStringList());
 }
@@ -779,7 +790,7 @@ const QList<Line>& VxPrintMonTest::story()
     return m_story;
 }
 
-QList<Line> VxPrintMonTest::storyFrom(const QString& printer, int status)
+QList<Line> VxPrintMonTest::linesOfStoryFrom(const QString& printer, int status)
 {
     const QList<Line>& lines = story();
     for (qsizetype i = 0; i < lines.size(); ++i) {
@@ -791,7 +802,7 @@ QList<Line> VxPrintMonTest::storyFrom(const QString& printer, int status)
     return {};
 }
 
-void VxPrintMonTest::storyKeepsTheSignalsForm()
+void VxPrintMonTest::everyLineHasTheArgumentsOfItsSignal()
 {
     QMap<QString, QByteArrayList> argumentsOf;
     const QMetaObject& type = PrinterStatusController::staticMetaObject;
@@ -817,32 +828,34 @@ void VxPrintMonTest::storyKeepsTheSignalsForm()
         if (!records.isEmpty())
             QVERIFY2(hasInOrder(line.text, properties), line.text.constData());
     }
-    // All but the one that the library never emits.
+    // Every signal but the one that the library never emits.
     QCOMPARE(seen.size(), 6);
     QVERIFY(!seen.contains(QStringLiteral("softwareVersionUpdated")));
 }
 
-void VxPrintMonTest::storyOfErrors()
+void VxPrintMonTest::storyReportsWhenErrorsBeginAndEnd()
 {
     QList<bool> states;
-    for (const Line& line : storyOf(inError))
+    for (const Line& line : linesOfStory(inError))
         states.append(line.object.value(QStringLiteral("printerInErrorState")).toBool());
-    // Out of labels, lid, pause, spooler, firmware: each begins and ends.
+    // Out of labels, lid, pause, spooler, firmware: each error begins and ends.
     QCOMPARE(states,
              (QList<bool>{true, false, true, false, true, false, true, false, true, false}));
 }
 
-void VxPrintMonTest::storyOfTheActivePrinter()
+void VxPrintMonTest::storyReportsTheActivePrinter()
 {
     QStringList names;
-    for (const Line& line : storyOf(activeSet)) {
+    for (const Line& line : linesOfStory(activeSet)) {
         QVERIFY(line.object.value(QStringLiteral("isVX")).toBool());
         names.append(line.object.value(QStringLiteral("activePrinterName")).toString());
     }
-    // Made the Windows default printer; switched off, so that the first by name takes over; back.
+    // Shipping becomes the Windows default printer. It is switched off, so the first printer by
+    // name becomes active. It comes back.
     QCOMPARE(names, (QStringList{shipping, returns, shipping}));
 
-    // The user's choice is heard of with the printer's next report, before that is passed on.
+    // The library notices the new default printer at the printer's next report, and signals it
+    // before that report.
     const QList<Line>& lines = story();
     const auto paused = std::ranges::find_if(lines, [](const Line& line) {
         return line.object.value(QStringLiteral("status")).toInt() == 19;
@@ -852,7 +865,7 @@ void VxPrintMonTest::storyOfTheActivePrinter()
     QCOMPARE(std::prev(paused, 2)->signal(), inError);
 }
 
-void VxPrintMonTest::storyOfASupply()
+void VxPrintMonTest::storyReportsASupplyThatRunsOut()
 {
     const auto supplyOf = [](const QJsonObject& record) {
         return QStringLiteral("%1 %2 %3 %4 %5")
@@ -863,7 +876,7 @@ void VxPrintMonTest::storyOfASupply()
                  record.value(QStringLiteral("supplySKU")).toString());
     };
     QStringList states;
-    for (const Line& line : storyOf(updated)) {
+    for (const Line& line : linesOfStory(updated)) {
         const QString state = supplyOf(line.record(shipping));
         if (states.isEmpty() || states.last() != state)
             states.append(state);
@@ -882,8 +895,8 @@ void VxPrintMonTest::storyOfASupply()
                          QStringLiteral("100 Orange Vinyl #ff6a13 VT-400-OR"),
                      }));
 
-    // Out of labels: first the status, then the supply.
-    const QList<Line> moment = storyFrom(shipping, 2);
+    // When the labels run out, the status is reported first and then the supply.
+    const QList<Line> moment = linesOfStoryFrom(shipping, 2);
     QVERIFY(moment.size() > 4);
     QCOMPARE(moment.at(1).signal(), updated);
     QCOMPARE(moment.at(1).record(shipping).value(QStringLiteral("statusEnum")).toInt(), 2);
@@ -894,10 +907,11 @@ void VxPrintMonTest::storyOfASupply()
              QStringLiteral("-1"));
 }
 
-void VxPrintMonTest::storyOfARibbon()
+void VxPrintMonTest::storyReportsARibbonThatIsReplaced()
 {
-    // After the lid was opened, which also tells that the ribbon is used up, the new one comes.
-    const QList<Line> moment = storyFrom(warehouse, 4);
+    // The lid is opened, with which the printer also reports that the ribbon is used up. Then the
+    // new ribbon is loaded.
+    const QList<Line> moment = linesOfStoryFrom(warehouse, 4);
     QVERIFY(moment.size() > 6);
     QCOMPARE(moment.at(1).signal(), updated);
     QCOMPARE(moment.at(2).signal(), updated);
@@ -921,9 +935,9 @@ void VxPrintMonTest::storyOfARibbon()
     QCOMPARE(moment.at(6).signal(), inError);
 }
 
-void VxPrintMonTest::storyOfAPrinterThatIsFound()
+void VxPrintMonTest::storyReportsAPrinterThatIsFound()
 {
-    const QList<Line> moment = storyFrom(returns, 1);
+    const QList<Line> moment = linesOfStoryFrom(returns, 1);
     QVERIFY(moment.size() > 8);
     QStringList signalNames;
     for (const Line& line : moment.first(8))
@@ -940,11 +954,11 @@ void VxPrintMonTest::storyOfAPrinterThatIsFound()
     QCOMPARE(record.value(QStringLiteral("ribbon2Visible")).toBool(true), false);
 }
 
-void VxPrintMonTest::storyOfTheSpooler()
+void VxPrintMonTest::storyReportsThatTheSpoolerStops()
 {
-    // Each printer by itself, as the threads notice in no fixed order.
+    // For each printer separately, because the threads notice it in no fixed order.
     QMap<QString, QList<int>> statuses;
-    for (const Line& line : storyOf(statusChanged))
+    for (const Line& line : linesOfStory(statusChanged))
         statuses[line.printer()].append(line.object.value(QStringLiteral("status")).toInt());
     QCOMPARE(statuses, (QMap<QString, QList<int>>{
                            {shipping, {1, 2, 1, 19, 1, 254, 1, 257, 1}},
@@ -953,14 +967,14 @@ void VxPrintMonTest::storyOfTheSpooler()
                        }));
 }
 
-void VxPrintMonTest::storyOfAPrinterGoingOffline()
+void VxPrintMonTest::storyReportsAPrinterThatGoesOffline()
 {
-    const QList<Line> moment = storyFrom(shipping, 257);
+    const QList<Line> moment = linesOfStoryFrom(shipping, 257);
     QVERIFY(moment.size() > 4);
     const QJsonObject offline = moment.at(1).record(shipping);
     QCOMPARE(offline.value(QStringLiteral("statusEnum")).toInt(), 257);
     QCOMPARE(offline.value(QStringLiteral("printerOnline")).toBool(true), false);
-    // And back: active again first, then the status.
+    // When it comes back, it first becomes active and then has its status.
     QCOMPARE(moment.at(2).signal(), activeSet);
     QCOMPARE(moment.at(3).signal(), statusChanged);
     QCOMPARE(moment.at(4).record(shipping).value(QStringLiteral("printerOnline")).toBool(), true);
@@ -968,7 +982,7 @@ void VxPrintMonTest::storyOfAPrinterGoingOffline()
 
 // The command line ////////////////////////////////////////////////////////////////////////////////
 
-void VxPrintMonTest::coloursOnATerminal()
+void VxPrintMonTest::coloursAppearOnlyOnATerminal()
 {
     const QString script = QStandardPaths::findExecutable(QStringLiteral("script"));
     if (script.isEmpty())
@@ -994,7 +1008,7 @@ void VxPrintMonTest::coloursOnATerminal()
     QVERIFY(!run(inTerminal("list"), script, terminal).output.contains('\033'));
 }
 
-void VxPrintMonTest::wrongUsage_data()
+void VxPrintMonTest::wrongUsageIsRefused_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("complaint");
@@ -1003,37 +1017,37 @@ void VxPrintMonTest::wrongUsage_data()
             << QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts)
             << QString::fromUtf8(complaint);
     };
-    row("", "expected a verb: list, watch, status, send, title");
-    row("lst", "\"lst\" is no verb; expected one of list, watch, status, send, title");
-    row("list Shipping", "list takes no argument, found \"Shipping\"");
-    row("watch Shipping", "watch takes no argument, found \"Shipping\"");
-    row("status A B", "status takes at most a printer, found \"A\" \"B\"");
+    row("", "expected a command: list, watch, status, send, title");
+    row("lst", R"(unknown command "lst"; expected one of list, watch, status, send, title)");
+    row("list Shipping", R"(list takes no arguments, found "Shipping")");
+    row("watch Shipping", R"(watch takes no arguments, found "Shipping")");
+    row("status A B", R"(status takes at most one printer, found "A" "B")");
     row("send", "send takes a printer and a command, found nothing");
-    row("send Shipping", "send takes a printer and a command, found \"Shipping\"");
-    row("send Shipping A B", "send takes a printer and a command, found \"Shipping\" \"A\" \"B\"");
+    row("send Shipping", R"(send takes a printer and a command, found "Shipping")");
+    row("send Shipping A B", R"(send takes a printer and a command, found "Shipping" "A" "B")");
     row("title", "title takes a status code, found nothing");
-    row("title 1 2", "title takes a status code, found \"1\" \"2\"");
+    row("title 1 2", R"(title takes a status code, found "1" "2")");
     for (const char* code : {"x", "1.5", "0x10", "2147483648", "-2147483649"}) {
         const QByteArray arguments = QByteArray("title ") + code;
         const QByteArray complaint =
-            QByteArray("title takes a status code from -2147483648 to 2147483647, found \"") +
+            QByteArray("title takes a status code between -2147483648 and 2147483647, found \"") +
             code + '"';
         row(arguments.constData(), complaint.constData());
     }
     row("list --jsn", "Unknown option 'jsn'");
-    row("list --for 3", "--for goes with watch only");
-    row("status --for 3", "--for goes with watch only");
-    row("list --speed 3", "--speed goes with watch only");
+    row("list --for 3", "--for is valid only with watch");
+    row("status --for 3", "--for is valid only with watch");
+    row("list --speed 3", "--speed is valid only with watch");
     row("watch --for", "Missing value after '--for'");
-    row("watch --for soon", "--for: expected a number above 0, at most 1000000, found \"soon\"");
-    row("watch --for 0", "--for: expected a number above 0, at most 1000000, found \"0\"");
-    row("watch --for nan", "--for: expected a number above 0, at most 1000000, found \"nan\"");
-    row("watch --for 1e9", "--for: expected a number above 0, at most 1000000, found \"1e9\"");
-    row("watch --speed -2", "--speed: expected a number above 0, at most 1000000, found \"-2\"");
-    row("watch --virtual=", "--virtual: expected a file's name");
+    row("watch --for soon", R"(--for: expected a number above 0 and up to 1000000, found "soon")");
+    row("watch --for 0", R"(--for: expected a number above 0 and up to 1000000, found "0")");
+    row("watch --for nan", R"(--for: expected a number above 0 and up to 1000000, found "nan")");
+    row("watch --for 1e9", R"(--for: expected a number above 0 and up to 1000000, found "1e9")");
+    row("watch --speed -2", R"(--speed: expected a number above 0 and up to 1000000, found "-2")");
+    row("watch --virtual=", "--virtual: expected a file name");
 }
 
-void VxPrintMonTest::wrongUsage()
+void VxPrintMonTest::wrongUsageIsRefused()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const QString, complaint);
@@ -1041,10 +1055,10 @@ void VxPrintMonTest::wrongUsage()
     QCOMPARE(result.exitStatus, 2);
     QCOMPARE(result.output, QByteArray());
     QCOMPARE(QString::fromUtf8(result.errors),
-             QStringLiteral("vxprintmon: %1 (vxprintmon --help tells more)\n").arg(complaint));
+             QStringLiteral("vxprintmon: %1 (see vxprintmon --help)\n").arg(complaint));
 }
 
-void VxPrintMonTest::brokenFleet()
+void VxPrintMonTest::brokenFleetIsRefused()
 {
     const QString fleet = fleetFile("{\"printers\": [\n{\"name\": 7}]}");
     for (const char* verb : {"list", "watch", "status", "send P X", "title 1"}) {
@@ -1062,11 +1076,11 @@ void VxPrintMonTest::brokenFleet()
     QCOMPARE(missing.errors, QByteArray("vxprintmon: /no/such/file: No such file or directory\n"));
 }
 
-void VxPrintMonTest::helpAndVersion()
+void VxPrintMonTest::helpAndVersionArePrinted()
 {
     const Result help = run({QStringLiteral("--help")});
     QCOMPARE(help.exitStatus, 0);
-    QVERIFY(help.output.startsWith("Usage: vxprintmon VERB"));
+    QVERIFY(help.output.startsWith("Usage: vxprintmon COMMAND"));
     for (const char* said : {"list ", "watch ", "status [PRINTER]", "send PRINTER COMMAND",
                              "title CODE", "no longer than 2 seconds"})
         QVERIFY2(help.output.contains(said), said);
@@ -1077,7 +1091,7 @@ void VxPrintMonTest::helpAndVersion()
                 .hasMatch());
 }
 
-void VxPrintMonTest::logGoesToAFile()
+void VxPrintMonTest::logIsAppendedToAFile()
 {
     const QTemporaryDir folder;
     const QString log = folder.filePath(QStringLiteral("library.log"));
@@ -1090,7 +1104,7 @@ void VxPrintMonTest::logGoesToAFile()
     QCOMPARE(first.errors, QByteArray());
     const qsizetype once = lines().count("Evaluating Printer: Warehouse");
     QCOMPARE(once, 1);
-    // It is added to what is there.
+    // A second run appends to the file.
     QCOMPARE(run({QStringLiteral("status"), QStringLiteral("--log"), log}).exitStatus, 0);
     QCOMPARE(lines().count("Evaluating Printer: Warehouse"), 2 * once);
 
@@ -1110,7 +1124,7 @@ void VxPrintMonTest::logThatCannotBeWrittenIsAFailure()
                                        "No such file or directory\n"));
     const Result empty = run({QStringLiteral("list"), QStringLiteral("--log"), QString()});
     QCOMPARE(empty.exitStatus, 2);
-    QVERIFY2(empty.errors.startsWith("vxprintmon: --log: expected a file's name"),
+    QVERIFY2(empty.errors.startsWith("vxprintmon: --log: expected a file name"),
              empty.errors.constData());
 }
 

@@ -1,35 +1,22 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// Several threads at once: no wake-up is lost, and nothing is told twice.
+// Several threads at once: no wake-up is lost, and none is delivered twice.
 
-#include "machine_test.h"
+#include "machine_calls.h"
 #include "patience.h"
 
 #include <atomic>
 #include <thread>
 #include <vector>
 
-#include <windows.h>
-#include <winspool.h>
-
 using virtualwindows::PrinterValue;
 using namespace std::chrono_literals;
 
 namespace {
 
-const QString printerName = QStringLiteral("Label Printer");
 constexpr DWORD watchdog = 20000; // only a lost wake-up takes that long
 
-HANDLE openHandle(const QString& name = printerName)
-{
-    PRINTER_DEFAULTSW defaults{nullptr, nullptr, PRINTER_ALL_ACCESS};
-    QString text = name;
-    HANDLE handle = nullptr;
-    OpenPrinterW(reinterpret_cast<LPWSTR>(text.data()), &handle, &defaults);
-    return handle;
-}
-
-/// The number that the printer's value holds; -1 when it cannot be read.
+/// The printer's mileage; -1 when it cannot be read.
 qint64 readNumber(HANDLE printer)
 {
     char name[] = "Mileage";
@@ -48,22 +35,22 @@ class MachineThreadsTest : public MachineTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void pingPong();
+    void noWakeUpIsLostBetweenTwoThreads();
     void everySettingOfAnAutoEventIsTakenOnce();
-    void allWaitersTakeFromTheSameEvents();
-    void timeOutsAndSettingsDoNotMeet();
+    void waitsForAllShareTheSameEvents();
+    void settingIsNotLostInATimeOut();
     void lastPublishedValueIsSeen_data();
     void lastPublishedValueIsSeen();
     void everyWatcherSeesTheLastValue();
     void drivenTimeEndsEveryWait();
-    void publishAndWaitForTheThreads();
-    void handlesAreOpenedAndClosedByAll();
+    void waitingForThreadsAfterAChangeIsNeverEarly();
+    void allThreadsCanOpenAndCloseHandles();
     void callsOfAllThreadsAreRecorded();
     void plannedFailureHitsOneThread();
-    void stoppingTheServiceUnderWatchers();
+    void serviceCanBeStoppedUnderWatchers();
 };
 
-void MachineThreadsTest::pingPong()
+void MachineThreadsTest::noWakeUpIsLostBetweenTwoThreads()
 {
     constexpr int rounds = 5000;
     const HANDLE ping = CreateEventW(nullptr, FALSE, FALSE, nullptr);
@@ -103,6 +90,7 @@ void MachineThreadsTest::everySettingOfAnAutoEventIsTakenOnce()
     int given = 0;
     {
         std::vector<std::jthread> takers;
+        takers.reserve(threads);
         for (int count = 0; count < threads; ++count) {
             takers.emplace_back([&] {
                 const HANDLE handles[] = {ticket, stop};
@@ -125,14 +113,14 @@ void MachineThreadsTest::everySettingOfAnAutoEventIsTakenOnce()
     QCOMPARE(tickets.load(), settings);
 }
 
-void MachineThreadsTest::allWaitersTakeFromTheSameEvents()
+void MachineThreadsTest::waitsForAllShareTheSameEvents()
 {
-    // Two threads each need both; neither may hold one and starve the other.
+    // Each thread needs both events; none may take one and block the others.
     constexpr int rounds = 1000;
     const HANDLE left = CreateEventW(nullptr, FALSE, TRUE, nullptr);
     const HANDLE right = CreateEventW(nullptr, FALSE, TRUE, nullptr);
-    std::atomic<int> meals = 0;
-    std::atomic<int> eating = 0;
+    std::atomic<int> turns = 0;
+    std::atomic<int> running = 0;
     std::atomic<bool> wasAlone = true;
     {
         std::vector<std::jthread> threads;
@@ -143,10 +131,10 @@ void MachineThreadsTest::allWaitersTakeFromTheSameEvents()
                 for (int round = 0; round < rounds; ++round) {
                     if (WaitForMultipleObjects(2, handles, TRUE, watchdog) != WAIT_OBJECT_0)
                         return;
-                    if (++eating != 1)
+                    if (++running != 1)
                         wasAlone = false;
-                    ++meals;
-                    --eating;
+                    ++turns;
+                    --running;
                     SetEvent(first);
                     SetEvent(second);
                 }
@@ -156,12 +144,12 @@ void MachineThreadsTest::allWaitersTakeFromTheSameEvents()
     CloseHandle(left);
     CloseHandle(right);
     QVERIFY(wasAlone);
-    QCOMPARE(meals.load(), 3 * rounds);
+    QCOMPARE(turns.load(), 3 * rounds);
 }
 
-void MachineThreadsTest::timeOutsAndSettingsDoNotMeet()
+void MachineThreadsTest::settingIsNotLostInATimeOut()
 {
-    // Every setting is taken by exactly one wait, however close to its time-out it comes.
+    // Every setting ends exactly one wait, however close to the time-out it comes.
     constexpr int settings = 500;
     const HANDLE event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
     const HANDLE taken = CreateEventW(nullptr, FALSE, FALSE, nullptr);
@@ -178,7 +166,7 @@ void MachineThreadsTest::timeOutsAndSettingsDoNotMeet()
             }
         });
         for (; given < settings; ++given) {
-            // A short wait of this thread's own drifts against the other's.
+            // The short waits of the two threads drift against each other.
             WaitForSingleObject(INVALID_HANDLE_VALUE, 1);
             SetEvent(event);
             if (WaitForSingleObject(taken, watchdog) != WAIT_OBJECT_0)
@@ -205,8 +193,7 @@ void MachineThreadsTest::lastPublishedValueIsSeen()
     constexpr int values = 3000;
     machine().addPrinter({.name = printerName});
     const HANDLE printer = openHandle();
-    const HANDLE notification =
-        FindFirstPrinterChangeNotification(printer, PRINTER_CHANGE_SET_PRINTER, 0, nullptr);
+    const HANDLE notification = openNotification(printer, PRINTER_CHANGE_SET_PRINTER);
     qint64 seen = -1;
     bool wasBackwards = false;
     {
@@ -215,7 +202,7 @@ void MachineThreadsTest::lastPublishedValueIsSeen()
                 FindNextPrinterChangeNotification(notification, nullptr, nullptr, nullptr);
                 qint64 number = readNumber(printer);
                 if (!rearmFirst) {
-                    // A change that came before this re-arming is seen by the reading behind it.
+                    // A change before this re-arming is seen by the read after it.
                     FindNextPrinterChangeNotification(notification, nullptr, nullptr, nullptr);
                     number = readNumber(printer);
                 }
@@ -242,11 +229,11 @@ void MachineThreadsTest::everyWatcherSeesTheLastValue()
     std::atomic<int> finished = 0;
     {
         std::vector<std::jthread> watching;
+        watching.reserve(watchers);
         for (int count = 0; count < watchers; ++count) {
             watching.emplace_back([&] {
                 const HANDLE printer = openHandle();
-                const HANDLE notification = FindFirstPrinterChangeNotification(
-                    printer, PRINTER_CHANGE_SET_PRINTER, 0, nullptr);
+                const HANDLE notification = openNotification(printer, PRINTER_CHANGE_SET_PRINTER);
                 const HANDLE handles[] = {stop, notification};
                 while (WaitForMultipleObjects(2, handles, FALSE, watchdog) == WAIT_OBJECT_0 + 1) {
                     FindNextPrinterChangeNotification(notification, nullptr, nullptr, nullptr);
@@ -262,6 +249,7 @@ void MachineThreadsTest::everyWatcherSeesTheLastValue()
         QVERIFY(machine().waitForWaitingThreads(watchers));
         {
             std::vector<std::jthread> publishing;
+            publishing.reserve(publishers);
             for (int count = 0; count < publishers; ++count) {
                 publishing.emplace_back([this] {
                     for (quint32 value = 0; value < 500; ++value)
@@ -283,6 +271,7 @@ void MachineThreadsTest::drivenTimeEndsEveryWait()
     std::atomic<int> timeOuts = 0;
     {
         std::vector<std::jthread> waiters;
+        waiters.reserve(threads);
         for (int count = 0; count < threads; ++count) {
             waiters.emplace_back([&] {
                 for (int round = 0; round < rounds; ++round) {
@@ -309,15 +298,14 @@ void MachineThreadsTest::drivenTimeEndsEveryWait()
     QCOMPARE(timeOuts.load(), threads * rounds);
 }
 
-void MachineThreadsTest::publishAndWaitForTheThreads()
+void MachineThreadsTest::waitingForThreadsAfterAChangeIsNeverEarly()
 {
-    // Once a thread was woken it counts no more until it waits again: nobody who waits for the
-    // threads after a publication can be answered too early.
+    // A woken thread is not counted until it waits again, so waiting for the threads after a change
+    // never returns too early.
     constexpr int rounds = 2000;
     machine().addPrinter({.name = printerName});
     const HANDLE printer = openHandle();
-    const HANDLE notification =
-        FindFirstPrinterChangeNotification(printer, PRINTER_CHANGE_SET_PRINTER, 0, nullptr);
+    const HANDLE notification = openNotification(printer, PRINTER_CHANGE_SET_PRINTER);
     const HANDLE stop = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     std::atomic<qint64> seen = 0;
     int inTime = 0;
@@ -344,7 +332,7 @@ void MachineThreadsTest::publishAndWaitForTheThreads()
     QCOMPARE(inTime, rounds);
 }
 
-void MachineThreadsTest::handlesAreOpenedAndClosedByAll()
+void MachineThreadsTest::allThreadsCanOpenAndCloseHandles()
 {
     constexpr int threads = 4;
     constexpr int rounds = 500;
@@ -352,6 +340,7 @@ void MachineThreadsTest::handlesAreOpenedAndClosedByAll()
     std::atomic<int> wrong = 0;
     {
         std::vector<std::jthread> workers;
+        workers.reserve(threads);
         for (int count = 0; count < threads; ++count) {
             workers.emplace_back([&] {
                 for (int round = 0; round < rounds; ++round) {
@@ -376,6 +365,7 @@ void MachineThreadsTest::callsOfAllThreadsAreRecorded()
     machine().recordCalls();
     {
         std::vector<std::jthread> workers;
+        workers.reserve(threads);
         for (int count = 0; count < threads; ++count) {
             workers.emplace_back([] {
                 for (int round = 0; round < rounds; ++round)
@@ -387,7 +377,7 @@ void MachineThreadsTest::callsOfAllThreadsAreRecorded()
     const QList<virtualwindows::Call> calls = machine().calls();
     for (const virtualwindows::Call& call : calls)
         ++perThread[call.thread];
-    // A thread that has ended may leave its number to a later one.
+    // The identifier of a thread that has ended may be reused for a later one.
     QVERIFY(perThread.size() <= threads);
     QCOMPARE(calls.size(), threads * rounds);
     for (const int count : std::as_const(perThread))
@@ -402,6 +392,7 @@ void MachineThreadsTest::plannedFailureHitsOneThread()
     std::atomic<int> failures = 0;
     {
         std::vector<std::jthread> workers;
+        workers.reserve(threads);
         for (int count = 0; count < threads; ++count) {
             workers.emplace_back([&] {
                 for (int round = 0; round < rounds; ++round) {
@@ -415,7 +406,7 @@ void MachineThreadsTest::plannedFailureHitsOneThread()
     QCOMPARE(failures.load(), 1);
 }
 
-void MachineThreadsTest::stoppingTheServiceUnderWatchers()
+void MachineThreadsTest::serviceCanBeStoppedUnderWatchers()
 {
     constexpr int threads = 3;
     machine().addPrinter({.name = printerName});
@@ -424,6 +415,7 @@ void MachineThreadsTest::stoppingTheServiceUnderWatchers()
     std::atomic<int> opened = 0;
     {
         std::vector<std::jthread> watchers;
+        watchers.reserve(threads);
         for (int count = 0; count < threads; ++count) {
             watchers.emplace_back([&] {
                 while (!stop) {
@@ -433,8 +425,8 @@ void MachineThreadsTest::stoppingTheServiceUnderWatchers()
                         continue;
                     }
                     ++opened;
-                    const HANDLE notification = FindFirstPrinterChangeNotification(
-                        printer, PRINTER_CHANGE_SET_PRINTER, 0, nullptr);
+                    const HANDLE notification =
+                        openNotification(printer, PRINTER_CHANGE_SET_PRINTER);
                     if (notification != INVALID_HANDLE_VALUE) {
                         WaitForSingleObject(notification, 1);
                         FindClosePrinterChangeNotification(notification);

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// The device registry: keys with the names that real devices have.
+// The device registry, with the key names of real devices.
 
 #include "machine_test.h"
 
-using virtualwindows::DeviceSetup;
 namespace registry = virtualwindows::registry;
 
 namespace {
@@ -35,24 +34,24 @@ class RegistryTest : public MachineTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void emptyRegistry();
-    void classesAndDevicesInTheirOrder();
-    void classWithoutDevices();
+    void newRegistryIsEmpty();
+    void classesAndDevicesAreListedInOrder();
+    void classMayHaveNoDevices();
     void classIsAddedOnce();
     void deviceIsAddedOnce();
-    void keysOfADevice();
-    void interfaceKeys_data();
-    void interfaceKeys();
-    void values_data();
-    void values();
-    void letterCase_data();
-    void letterCase();
-    void absentKeys_data();
-    void absentKeys();
-    void absentValues_data();
-    void absentValues();
-    void slashIsNoSeparator();
-    void readingsAreCalls();
+    void deviceHasItsKeys();
+    void interfaceKeyMayBeAnyText_data();
+    void interfaceKeyMayBeAnyText();
+    void valuesAreReadAsAdded_data();
+    void valuesAreReadAsAdded();
+    void caseIsIgnored_data();
+    void caseIsIgnored();
+    void absentKeysHaveNothing_data();
+    void absentKeysHaveNothing();
+    void absentValuesAreInvalid_data();
+    void absentValuesAreInvalid();
+    void slashIsNotASeparator();
+    void readsAreRecordedAsCalls();
     void plannedFailureFindsNothing();
     void resetEmptiesTheRegistry();
 
@@ -67,13 +66,13 @@ private:
     }
 };
 
-void RegistryTest::emptyRegistry()
+void RegistryTest::newRegistryIsEmpty()
 {
     QCOMPARE(registry::childGroups(root), QStringList());
     QVERIFY(!registry::value(root, portNumber).isValid());
 }
 
-void RegistryTest::classesAndDevicesInTheirOrder()
+void RegistryTest::classesAndDevicesAreListedInOrder()
 {
     machine().addDeviceClass(otherClass);
     addDevice(QStringLiteral("##?#USB#VID_2"));
@@ -83,7 +82,7 @@ void RegistryTest::classesAndDevicesInTheirOrder()
              QStringList({QStringLiteral("##?#USB#VID_2"), QStringLiteral("##?#USB#VID_1")}));
 }
 
-void RegistryTest::classWithoutDevices()
+void RegistryTest::classMayHaveNoDevices()
 {
     machine().addDeviceClass(otherClass);
     QCOMPARE(registry::childGroups(root), QStringList{otherClass});
@@ -106,14 +105,12 @@ void RegistryTest::deviceIsAddedOnce()
     addDevice(QStringLiteral("##?#usb#vid_1"), 3, QStringLiteral("second"));
     QCOMPARE(registry::childGroups(path({printerClass})),
              (QStringList{QStringLiteral("##?#USB#VID_1"), QStringLiteral("##?#USB#VID_2")}));
-    const QString parameters = path({printerClass, QStringLiteral("##?#USB#VID_1"),
-                                     QStringLiteral("#"), QStringLiteral("Device Parameters")});
-    QCOMPARE(registry::value(parameters, QStringLiteral("Port Number")).toInt(), 1);
-    QCOMPARE(registry::value(parameters, QStringLiteral("Serial Number")).toString(),
-             QStringLiteral("first"));
+    const QString parameters = parametersOf(QStringLiteral("##?#USB#VID_1"));
+    QCOMPARE(registry::value(parameters, portNumber).toInt(), 1);
+    QCOMPARE(registry::value(parameters, serialNumber).toString(), QStringLiteral("first"));
 }
 
-void RegistryTest::keysOfADevice()
+void RegistryTest::deviceHasItsKeys()
 {
     const QString key = QStringLiteral("##?#USB#VID_1");
     addDevice(key);
@@ -123,14 +120,14 @@ void RegistryTest::keysOfADevice()
     QCOMPARE(registry::childGroups(parametersOf(key)), QStringList());
 }
 
-void RegistryTest::interfaceKeys_data()
+void RegistryTest::interfaceKeyMayBeAnyText_data()
 {
     QTest::addColumn<QString>("key");
-    QTest::newRow("as a real one") << QStringLiteral("##?#USB#VID_0A5F&PID_0084#50J131902345#"
-                                                     "{28d78fad-5a12-11d1-ae5b-0000f803a8c2}");
+    QTest::newRow("real key") << QStringLiteral("##?#USB#VID_0A5F&PID_0084#50J131902345#"
+                                                "{28d78fad-5a12-11d1-ae5b-0000f803a8c2}");
     QTest::newRow("one character") << QStringLiteral("k");
-    QTest::newRow("longest of Windows") << QString(255, QLatin1Char('k'));
-    QTest::newRow("longer than a file's name or path") << QString(5000, QLatin1Char('k'));
+    QTest::newRow("longest on Windows") << QString(255, QLatin1Char('k'));
+    QTest::newRow("longer than a file name or path") << QString(5000, QLatin1Char('k'));
     QTest::newRow("slashes") << QStringLiteral("a/b//c/");
     QTest::newRow("spaces") << QStringLiteral(" a  b ");
     QTest::newRow("percent signs") << QStringLiteral("%20%U0041%%");
@@ -141,7 +138,7 @@ void RegistryTest::interfaceKeys_data()
     QTest::newRow("line breaks") << QStringLiteral("a\nb\tc");
 }
 
-void RegistryTest::interfaceKeys()
+void RegistryTest::interfaceKeyMayBeAnyText()
 {
     QFETCH(QString, key);
     addDevice(QStringLiteral("before"), 1, QStringLiteral("before"));
@@ -153,7 +150,7 @@ void RegistryTest::interfaceKeys()
     QCOMPARE(registry::value(parametersOf(key), serialNumber), QVariant(QStringLiteral("wanted")));
 }
 
-void RegistryTest::values_data()
+void RegistryTest::valuesAreReadAsAdded_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::newRow("number") << QVariant(42);
@@ -164,7 +161,7 @@ void RegistryTest::values_data()
     QTest::newRow("absent") << QVariant();
 }
 
-void RegistryTest::values()
+void RegistryTest::valuesAreReadAsAdded()
 {
     QFETCH(QVariant, value);
     addDevice(QStringLiteral("k"), value, value);
@@ -174,30 +171,30 @@ void RegistryTest::values()
              value.isValid());
 }
 
-void RegistryTest::letterCase_data()
+void RegistryTest::caseIsIgnored_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("name");
     const QString exact = parametersOf(QStringLiteral("##?#Usb#Gerät"));
-    QTest::newRow("as it is") << exact << portNumber;
-    QTest::newRow("path in capitals") << exact.toUpper() << portNumber;
-    QTest::newRow("path in small letters") << exact.toLower() << portNumber;
-    QTest::newRow("name in capitals") << exact << portNumber.toUpper();
-    QTest::newRow("name in small letters") << exact << portNumber.toLower();
+    QTest::newRow("exact") << exact << portNumber;
+    QTest::newRow("path in upper case") << exact.toUpper() << portNumber;
+    QTest::newRow("path in lower case") << exact.toLower() << portNumber;
+    QTest::newRow("name in upper case") << exact << portNumber.toUpper();
+    QTest::newRow("name in lower case") << exact << portNumber.toLower();
 }
 
-void RegistryTest::letterCase()
+void RegistryTest::caseIsIgnored()
 {
     QFETCH(QString, path);
     QFETCH(QString, name);
     addDevice(QStringLiteral("##?#Usb#Gerät"), 5);
     QCOMPARE(registry::value(path, name), QVariant(5));
-    // What is listed keeps the letters it was made with.
+    // Lists keep the case in which the key was added.
     const QString classPath = path.section(QLatin1Char('\\'), 0, 5);
     QCOMPARE(registry::childGroups(classPath), QStringList{QStringLiteral("##?#Usb#Gerät")});
 }
 
-void RegistryTest::absentKeys_data()
+void RegistryTest::absentKeysHaveNothing_data()
 {
     QTest::addColumn<QString>("path");
     QTest::newRow("nothing") << QString();
@@ -220,7 +217,7 @@ void RegistryTest::absentKeys_data()
                  QStringLiteral("Device Parameters"), QStringLiteral("x")});
 }
 
-void RegistryTest::absentKeys()
+void RegistryTest::absentKeysHaveNothing()
 {
     QFETCH(QString, path);
     addDevice(QStringLiteral("k"));
@@ -229,7 +226,7 @@ void RegistryTest::absentKeys()
     QVERIFY(!registry::value(path, serialNumber).isValid());
 }
 
-void RegistryTest::absentValues_data()
+void RegistryTest::absentValuesAreInvalid_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("name");
@@ -242,7 +239,7 @@ void RegistryTest::absentValues_data()
     QTest::newRow("of the class") << parameters.section(QLatin1Char('\\'), 0, -4) << portNumber;
 }
 
-void RegistryTest::absentValues()
+void RegistryTest::absentValuesAreInvalid()
 {
     QFETCH(QString, path);
     QFETCH(QString, name);
@@ -250,7 +247,7 @@ void RegistryTest::absentValues()
     QVERIFY(!registry::value(path, name).isValid());
 }
 
-void RegistryTest::slashIsNoSeparator()
+void RegistryTest::slashIsNotASeparator()
 {
     addDevice(QStringLiteral("k"));
     const QString slashes =
@@ -258,7 +255,7 @@ void RegistryTest::slashIsNoSeparator()
     QVERIFY(!registry::value(slashes, portNumber).isValid());
 }
 
-void RegistryTest::readingsAreCalls()
+void RegistryTest::readsAreRecordedAsCalls()
 {
     addDevice(QStringLiteral("k"));
     machine().recordCalls();

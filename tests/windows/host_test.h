@@ -23,8 +23,8 @@ inline QString statusChanged(int status, const QString& printer)
 
 /// Base of the tests of a host on the system's spooler, with the library as it ships.
 ///
-/// The library opens roll.db beside the host's executable, so each of these tests has a folder of
-/// its own.
+/// The library opens roll.db beside the host's executable, so each of these tests has its own
+/// folder.
 class HostTest : public LibraryTest
 {
     Q_OBJECT
@@ -62,7 +62,7 @@ protected:
             {"Ribbon1Identifier", REG_DWORD, word(2001)},
             {"Ribbon2Identifier", REG_DWORD, word(2004)},
             {"Ribbon1Mileage", REG_DWORD, word(60000)},
-            {"SoftwareVersion", REG_SZ, text("4.1.3,boot 1.7")},
+            {"SoftwareVersion", REG_SZ, text(firmwareVersion.toUtf8())},
         };
         for (const Value& value : values) {
             if (!publish(printer, value))
@@ -117,20 +117,30 @@ protected:
         }
         return {};
     }
-    /// Waits until a printer that publishes nothing but a status has reported it.
-    void waitForStatus(const QString& printer, int status)
+    /// Waits until a printer that publishes nothing but a status has reported it. False when it
+    /// does not.
+    [[nodiscard]] bool waitForStatus(const QString& printer, int status)
     {
-        QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, status, patience);
-        takeSignals();
+        return waitUntil([&] { return record(printer).statusEnum == status; });
     }
-    /// Waits until what addLoadedPrinter() publishes has been reported, the last of it too.
-    void waitUntilLoaded(const QString& printer)
+    /// Waits until everything that addLoadedPrinter() publishes has been reported, the firmware
+    /// version last. False when it is not.
+    [[nodiscard]] bool waitUntilLoaded(const QString& printer)
     {
-        QTRY_COMPARE_WITH_TIMEOUT(record(printer).softwareVersion, QStringLiteral("4.1.3,boot 1.7"),
-                                  patience);
-        takeSignals();
+        return waitUntil([&] { return record(printer).softwareVersion == firmwareVersion; });
     }
+
+    static const inline QString firmwareVersion = QStringLiteral("4.1.3,boot 1.7");
 
     std::unique_ptr<Controller> m_controller;
     QStringList m_signals;
+
+private:
+    template <typename Condition>
+    bool waitUntil(Condition condition)
+    {
+        const bool isTrue = QTest::qWaitFor(condition, patience);
+        takeSignals();
+        return isTrue;
+    }
 };

@@ -31,7 +31,7 @@ inline QByteArray text(const QByteArray& characters)
     return characters + '\0';
 }
 
-/// Base of the tests of the library as it ships: a running spooler, and a thread that watches.
+/// Base of the tests of the library as it ships, with a running spooler and a monitoring thread.
 class LibraryTest : public WindowsApiTest
 {
     Q_OBJECT
@@ -85,7 +85,7 @@ protected:
         m_thread->setMonitoredPrinterName(printer);
         m_thread->start();
     }
-    /// Waits for a report and takes everything up to it.
+    /// Waits for a report, and removes it and all reports before it. False when it does not arrive.
     bool waitFor(const Report& report, int milliseconds = patience)
     {
         QList<Report> seen;
@@ -100,10 +100,10 @@ protected:
         return false;
     }
 
-    /// Open for as long as the test runs. Two threads that come to Wine's service manager first and
-    /// at the same time get a connection each, and handles of the one are unknown on the other: the
-    /// library's thread then cannot ask for the service's state any more. Later ones share the
-    /// first.
+    /// Open while the test runs. If the first two threads that call Wine's service manager do so at
+    /// the same time, each gets its own connection, and the handles of one are unknown on the
+    /// other: the library's thread then cannot query the service any more. Later threads share the
+    /// first connection.
     ServiceHandle m_manager;
     std::optional<PrinterStatusThread> m_thread;
     std::optional<ReportRecorder> m_reports;

@@ -2,9 +2,9 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
-/// Waits for several objects that refuse pseudo handles, as those of Windows do, where the system's
-/// let them through. False when the library that is named imports no such wait.
+/// Lets waits of the library for several objects refuse pseudo handles, as Windows does, on systems
+/// that accept them. False when the library does not import such a wait.
 bool refusePseudoHandles(const wchar_t* library);
 
-/// How often the library has begun to wait for several objects since refusePseudoHandles().
+/// How many waits for several objects the library has begun since refusePseudoHandles().
 int waitsBegun();

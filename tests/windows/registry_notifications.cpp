@@ -41,7 +41,7 @@ HANDLE WINAPI findFirst(HANDLE printer, DWORD filter, DWORD /*options*/, LPVOID 
     if (!filter ||
         RegOpenKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS)
         return INVALID_HANDLE_VALUE;
-    // Signalled until it is armed again, as a printer's notification is.
+    // Like a printer's notification, it stays signalled until it is armed again.
     HANDLE event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     if (!event || !arm(event, key)) {
         RegCloseKey(key);

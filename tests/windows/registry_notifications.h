@@ -2,9 +2,9 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
-/// Change notifications of printers where the system's are a stub: the library that is named is
-/// given three functions of ours. They wait for the changes of the printer's key in the registry,
-/// which is where the spooler keeps what it knows.
+/// Provides the library with change notifications of printers where the system's are a stub. The
+/// three functions wait for changes of the printer's key in the registry, where the spooler stores
+/// its values.
 ///
-/// False when the library does not import all three.
+/// False when the library does not import all three of them.
 bool supplyChangeNotifications(const wchar_t* library);

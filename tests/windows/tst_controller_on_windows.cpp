@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// A host's controller: printers come, go offline, have errors, take commands.
+// The controller of a host: printers are found, go offline, have errors and receive commands.
 #include "host_test.h"
 #include "log_recorder.h"
 
@@ -28,15 +28,15 @@ class ControllerOnWindowsTest : public HostTest
 
 private Q_SLOTS:
     void findsThePrintersOfEveryModel();
-    void ignoresOthersAndSaysSoOnce();
-    void takesUpAnOfflinePrinterLater();
-    void tellsOfAPrinterThatGoesOffline();
-    void worksWithTheDefaultPrinter();
+    void otherPrintersAreIgnoredAndReportedOnce();
+    void offlinePrinterGetsItsRecordWhenItIsOnline();
+    void printerThatGoesOfflineIsReported();
+    void defaultPrinterBecomesActive();
     void readsWhatIsLoaded();
     void errorIsRaisedAndCleared();
     void titlesOfTheCodes();
     void commandArrivesAtThePrinter();
-    void commandToNobodyIsLogged();
+    void commandToAnUnknownPrinterIsLogged();
 };
 
 void ControllerOnWindowsTest::findsThePrintersOfEveryModel()
@@ -62,7 +62,7 @@ void ControllerOnWindowsTest::findsThePrintersOfEveryModel()
     QCOMPARE(m_controller->getPrinterTypeEnum(watched.at(2)), VXPrinting::PrinterType::CedarMax);
 }
 
-void ControllerOnWindowsTest::ignoresOthersAndSaysSoOnce()
+void ControllerOnWindowsTest::otherPrintersAreIgnoredAndReportedOnce()
 {
     host();
     const QString printer = addPrinter("Harlow Devices Old");
@@ -73,7 +73,7 @@ void ControllerOnWindowsTest::ignoresOthersAndSaysSoOnce()
     QCOMPARE(recordNames(), QStringList());
 }
 
-void ControllerOnWindowsTest::takesUpAnOfflinePrinterLater()
+void ControllerOnWindowsTest::offlinePrinterGetsItsRecordWhenItIsOnline()
 {
     const QString printer = addPrinter("Stratamark CedarMax", offlinePrinter);
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("1")}));
@@ -89,18 +89,18 @@ void ControllerOnWindowsTest::takesUpAnOfflinePrinterLater()
     QTRY_VERIFY_WITH_TIMEOUT(m_signals.contains(statusChanged(1, printer)), patience);
 }
 
-void ControllerOnWindowsTest::tellsOfAPrinterThatGoesOffline()
+void ControllerOnWindowsTest::printerThatGoesOfflineIsReported()
 {
     const QString printer = addPrinter("Stratamark CedarMax");
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("1")}));
     host();
-    waitForStatus(printer, 1);
+    QVERIFY(waitForStatus(printer, 1));
 
     setAttributes(printer, offlinePrinter);
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("0")}));
     QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, 257, patience);
     QVERIFY(!record(printer).printerOnline);
-    // The only record there is stays the active printer.
+    // The only record stays the active printer.
     QCOMPARE(takeSignals(),
              (QStringList{QStringLiteral("activeDefaultPrinterSetSignal(%1, 1)").arg(printer),
                           statusChanged(257, printer), listUpdated}));
@@ -111,7 +111,7 @@ void ControllerOnWindowsTest::tellsOfAPrinterThatGoesOffline()
     QVERIFY(record(printer).printerOnline);
 }
 
-void ControllerOnWindowsTest::worksWithTheDefaultPrinter()
+void ControllerOnWindowsTest::defaultPrinterBecomesActive()
 {
     const QString first = addPrinter("Stratamark Alder");
     const QString second = addPrinter("Stratamark Alder");
@@ -123,8 +123,8 @@ void ControllerOnWindowsTest::worksWithTheDefaultPrinter()
     QCOMPARE(m_controller->activeDefaultPrinter(), second);
     QVERIFY(m_controller->vxDefaultActivePrinter());
     QVERIFY(record(second).printerDefault);
-    waitForStatus(first, 1);
-    waitForStatus(second, 1);
+    QVERIFY(waitForStatus(first, 1));
+    QVERIFY(waitForStatus(second, 1));
 
     QVERIFY(SetDefaultPrinterW(WideText(first)));
     QVERIFY(publish(first, {"StatusCode", REG_SZ, text("4")}));
@@ -142,7 +142,7 @@ void ControllerOnWindowsTest::readsWhatIsLoaded()
     const QString printer = addLoadedPrinter();
     QVERIFY(!printer.isEmpty());
     host();
-    waitUntilLoaded(printer);
+    QVERIFY(waitUntilLoaded(printer));
     const PrinterStatusInformation loaded = record(printer);
     QCOMPARE(loaded.statusEnum, 1);
     QCOMPARE(loaded.supplySKU, QStringLiteral("VT-400-WH"));
@@ -163,7 +163,7 @@ void ControllerOnWindowsTest::errorIsRaisedAndCleared()
     const QString printer = addPrinter("Stratamark BirchMax");
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("1")}));
     host();
-    waitForStatus(printer, 1);
+    QVERIFY(waitForStatus(printer, 1));
 
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("4")}));
     QTRY_COMPARE_WITH_TIMEOUT(record(printer).statusEnum, 4, patience);
@@ -192,7 +192,7 @@ void ControllerOnWindowsTest::titlesOfTheCodes()
 
 void ControllerOnWindowsTest::commandArrivesAtThePrinter()
 {
-    // A port that is named like a file is one: what the printer is sent ends up in it.
+    // A port that is named like a file is a file, which receives what is sent to the printer.
     const QTemporaryDir folder;
     const QString port = QDir::toNativeSeparators(folder.filePath(QStringLiteral("printed.bin")));
     const QString printer = addPrinter("Stratamark CedarMax", localPrinter, port);
@@ -204,7 +204,7 @@ void ControllerOnWindowsTest::commandArrivesAtThePrinter()
     QCOMPARE(printed.readAll(), QByteArray("FEED 3\r\n"));
 }
 
-void ControllerOnWindowsTest::commandToNobodyIsLogged()
+void ControllerOnWindowsTest::commandToAnUnknownPrinterIsLogged()
 {
     host();
     const LogRecorder log;

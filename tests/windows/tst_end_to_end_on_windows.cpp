@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// From a driver's value to the host's record, and to another process that asks the host's
+// From a driver's value to the host's record, and to another process that calls the host's
 // endpoints.
 #include "host_test.h"
 #include "other_process.h"
@@ -21,13 +21,13 @@ private Q_SLOTS:
 private:
     QJsonValue askSupplies(const char* method, const QStringList& arguments)
     {
-        return askFromOutside(*m_controller->getSupplyIdController(), QString::fromLatin1(method),
-                              arguments);
+        return callFromOtherProcess(*m_controller->getSupplyIdController(),
+                                    QString::fromLatin1(method), arguments);
     }
     QJsonValue statusOutside(const QString& printer)
     {
-        return askFromOutside(*m_controller->getm4Controller(), QStringLiteral("getPrinterStatus"),
-                              {printer});
+        return callFromOtherProcess(*m_controller->getm4Controller(),
+                                    QStringLiteral("getPrinterStatus"), {printer});
     }
 };
 
@@ -35,7 +35,7 @@ void EndToEndOnWindowsTest::newRibbonReachesHostAndOtherProcess()
 {
     const QString printer = addLoadedPrinter();
     host();
-    waitUntilLoaded(printer);
+    QVERIFY(waitUntilLoaded(printer));
     QCOMPARE(record(printer).ribbon1ColorName, QStringLiteral("Black"));
 
     QVERIFY(publish(printer, {"Ribbon1Identifier", REG_DWORD, word(2006)}));
@@ -59,7 +59,7 @@ void EndToEndOnWindowsTest::newSupplyReachesHostAndOtherProcess()
 {
     const QString printer = addLoadedPrinter();
     host();
-    waitUntilLoaded(printer);
+    QVERIFY(waitUntilLoaded(printer));
     QCOMPARE(record(printer).supplyColorName, QStringLiteral("White"));
 
     QVERIFY(publish(printer, {"SupplyIdentifier", REG_SZ, text("000000641000050000B1")}));
@@ -78,7 +78,7 @@ void EndToEndOnWindowsTest::statusOutsideIsThatOfDiscovery()
     const QString remote =
         addPrinter("Stratamark Alder", localPrinter, QStringLiteral("192.168.1.20"));
     host();
-    waitUntilLoaded(watched);
+    QVERIFY(waitUntilLoaded(watched));
     QCOMPARE(record(remote).statusEnum, 256);
     QVERIFY(record(remote).printerRemote);
     QCOMPARE(statusOutside(watched).toInt(), 255);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What the library shows to the programs that load it.
+// What the library exports.
 #include "printer_status_thread.h"
 
 #include <QtCore/QRegularExpression>
@@ -13,11 +13,11 @@ class ExportsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void exportsItsClassesAndNothingElse();
+    void exportsOnlyItsClasses();
     void carriesItsVersion();
 };
 
-void ExportsTest::exportsItsClassesAndNothingElse()
+void ExportsTest::exportsOnlyItsClasses()
 {
     const HMODULE module = GetModuleHandleW(L"vxprinterstatus.dll");
     QVERIFY(module);
@@ -29,8 +29,8 @@ void ExportsTest::exportsItsClassesAndNothingElse()
         reinterpret_cast<const IMAGE_EXPORT_DIRECTORY*>(base + directory.VirtualAddress);
     const auto* names = reinterpret_cast<const DWORD*>(base + exports->AddressOfNames);
 
-    // A member of a class, its tables, or the namespace's meta-object. What only mentions a class,
-    // as an instance of a template does, is there by accident.
+    // A member of a class, its tables, or the namespace's meta-object. A symbol that only mentions
+    // a class, as an instance of a template does, is exported by accident.
     const QRegularExpression known(QStringLiteral(
         "^_Z(?:T[VIS]|(?:Th\\d*n?\\d+_)?NK?)\\d+"
         "(PrinterStatusThread|PrinterStatusInformation|PrinterStatusController|WindowsPrinterInfo|"
@@ -48,7 +48,7 @@ void ExportsTest::exportsItsClassesAndNothingElse()
             unknown.append(name);
     }
     QCOMPARE(unknown, QStringList());
-    // The records among the classes of names are all in their headers.
+    // The records need no exported symbols: all of their members are in the headers.
     for (const char* name :
          {"PrinterStatusController", "PrinterStatusThread", "WindowsPrinterInfo",
           "VXIPCSUPPLYDController", "VXIPCM4Controller", "VXIPCPRINTQDController", "VXPrinting"})
@@ -66,7 +66,7 @@ void ExportsTest::carriesItsVersion()
     QVERIFY(text.contains(QStringLiteral("FileVersion")));
     QVERIFY(text.contains(QStringLiteral(VX_VERSION)));
     QVERIFY(text.contains(QStringLiteral("vxprinterstatus.dll")));
-    // Linked at load time, and not only found by this test.
+    // Linked when the program is loaded, and not only found by this test.
     QCOMPARE(PrinterStatusThread::staticMetaObject.className(), "PrinterStatusThread");
 }
 

@@ -19,8 +19,8 @@ namespace {
 const QString deviceClasses =
     QStringLiteral("HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control\\DeviceClasses");
 
-/// A class of devices in the registry that goes with this object. The keys are made by the
-/// registry's own calls, which take names as they are.
+/// A class of devices in the registry, which is deleted with this object. The keys are created by
+/// the registry's own functions, which do not change the names.
 class RegistryClass
 {
 public:
@@ -63,7 +63,7 @@ private:
     const QString m_path;
 };
 
-/// All device classes as the system writes them to a file; empty when it could not.
+/// All device classes as the system exports them; empty when that fails.
 QByteArray exportedDeviceClasses(const QTemporaryDir& folder)
 {
     const QString name = QDir::toNativeSeparators(folder.filePath(QStringLiteral("classes.reg")));
@@ -88,11 +88,11 @@ private Q_SLOTS:
     void administrationAndDefaultPrinter();
     void recordOfAPrinter();
     void serialNumbersFromTheRegistry();
-    void readingMakesNoKeys();
+    void readingCreatesNoKeys();
     void firstReadReportsEverything();
     void changeOfEachValue_data();
     void changeOfEachValue();
-    void renamedInNothingButItsValues();
+    void valuesOfOtherPrintersAreNotReported();
     void printerThatDoesNotExist();
     void stopEndsTheThread();
 };
@@ -214,7 +214,7 @@ void LibraryOnWindowsTest::serialNumbersFromTheRegistry()
     QVERIFY(WindowsPrinterInfo::getDriverGUID() != guid);
 }
 
-void LibraryOnWindowsTest::readingMakesNoKeys()
+void LibraryOnWindowsTest::readingCreatesNoKeys()
 {
     const QTemporaryDir folder;
     QVERIFY(folder.isValid());
@@ -229,7 +229,7 @@ void LibraryOnWindowsTest::readingMakesNoKeys()
     QVERIFY(devices.makeKey(device("2")));
     QVERIFY(devices.makeKey(device("3") + QStringLiteral("\\#")));
     QVERIFY(devices.makeKey(device("4") + QStringLiteral("\\#\\Other")));
-    // The last one listed, which is whose serial number is answered for a port of nobody's.
+    // The last device listed, whose serial number is returned for a port without a device.
     QVERIFY(devices.makeParameters(device("9/9"), 49, QStringLiteral("SLASH")));
     const QString printer = fixture::uniqueName(QStringLiteral("Label Printer"));
     QVERIFY(fixture::addPrinter(
@@ -333,13 +333,13 @@ void LibraryOnWindowsTest::changeOfEachValue()
     QVERIFY(waitFor({signal, printer, values}));
 }
 
-void LibraryOnWindowsTest::renamedInNothingButItsValues()
+void LibraryOnWindowsTest::valuesOfOtherPrintersAreNotReported()
 {
     const QString printer = addPrinter("Stratamark AlderMax");
     const QString other = addPrinter("Stratamark Alder");
     watch(printer);
     QVERIFY(waitFor({QStringLiteral("printerNameChangedSignal"), printer, {printer}}));
-    // Another printer's values are not this one's.
+    // The values of another printer are not reported.
     QVERIFY(publish(other, {"StatusCode", REG_SZ, text("13")}));
     QVERIFY(publish(printer, {"StatusCode", REG_SZ, text("14")}));
     QVERIFY(waitFor({QStringLiteral("printerStatusChanged"), printer, {QStringLiteral("14")}}));
@@ -364,7 +364,7 @@ void LibraryOnWindowsTest::stopEndsTheThread()
     clock.start();
     while (!m_thread->wait(10))
         m_thread->stop();
-    QVERIFY(clock.elapsed() < 4000); // not with the next poll of the service
+    QVERIFY(clock.elapsed() < 4000); // before the next poll of the service
 }
 
 QTEST_GUILESS_MAIN(LibraryOnWindowsTest)

@@ -30,23 +30,30 @@ QString fixture::uniqueName(const QString& stem)
         .arg(stem, QString::number(QCoreApplication::applicationPid()), QString::number(++count));
 }
 
-bool fixture::addPrinter(const PrinterSetup& setup)
+fixture::NewPrinter::NewPrinter(const PrinterSetup& setup)
+    : name(setup.name)
+    , driver(setup.driver)
+    , port(setup.port)
 {
-    if (!system::installDriver(setup.driver))
-        return false;
-    WideText name(setup.name);
-    WideText driver(setup.driver);
-    WideText port(setup.port);
-    WideText processor(QStringLiteral("WinPrint"));
-    WideText datatype(QStringLiteral("RAW"));
-    PRINTER_INFO_2W info{};
     info.pPrinterName = name;
     info.pDriverName = driver;
     info.pPortName = port;
     info.pPrintProcessor = processor;
     info.pDatatype = datatype;
     info.Attributes = setup.attributes;
-    const PrinterHandle printer(AddPrinterW(nullptr, 2, reinterpret_cast<LPBYTE>(&info)));
+}
+
+HANDLE fixture::NewPrinter::add(DWORD level)
+{
+    return AddPrinterW(nullptr, level, reinterpret_cast<LPBYTE>(&info));
+}
+
+bool fixture::addPrinter(const PrinterSetup& setup)
+{
+    if (!system::installDriver(setup.driver))
+        return false;
+    NewPrinter record(setup);
+    const PrinterHandle printer(record.add());
     if (!printer)
         return false;
     addedPrinters().append(setup.name);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// What the tests of the Windows calls need besides these calls, for either system they run on.
+// What the tests of the Windows calls need besides these calls, on Windows and on the virtual
+// Windows.
 #pragma once
 
 #include <QtCore/QByteArray>
@@ -17,17 +18,17 @@
 #include <winspool.h>
 #include <winsvc.h>
 
-/// Behaviours that a system without them lets a test skip. Windows and the virtual Windows have
-/// them all.
+/// Behaviours that Wine lacks; tests that need them are skipped there. Windows and the virtual
+/// Windows have all of them.
 enum class Behaviour
 {
-    AccessRights,        ///< a handle is good for no more than it was opened for
+    AccessRights,        ///< a handle allows only the access that it was opened with
     ChangeNotifications, ///< changes of printers can be waited for
-    DeletedPrinters,     ///< handles of a deleted printer know that it is deleted
-    DistinctWaitObjects, ///< waiting for all of a list refuses an object that is in it twice
+    DeletedPrinters,     ///< calls with a handle of a deleted printer fail accordingly
+    DistinctWaitObjects, ///< waiting for all objects of a list refuses duplicates
     EmptyPrinterNames,   ///< an empty name is refused as a name, not as a parameter
     JobCounts,           ///< a printer's record counts its jobs
-    LevelsFirst,         ///< EnumPrintersW writes nothing when it does not know the level
+    LevelsFirst,         ///< EnumPrintersW writes nothing when the level is unknown
     MissingWaitLists,    ///< waiting without a list is refused
     PageCalls,           ///< pages belong to a document
     PrintProviders,      ///< EnumPrintersW lists print providers
@@ -37,56 +38,14 @@ enum class Behaviour
     UniquePrinterNames,  ///< AddPrinterW refuses a name that is taken
 };
 
-/// Leaves the test function when the system lacks the behaviour.
+/// Skips the test function when the system lacks the behaviour.
 #define NEEDS_BEHAVIOUR(behaviour)                                                                 \
     do {                                                                                           \
         if (!fixture::has(behaviour))                                                              \
-            QSKIP("this system is without " #behaviour);                                           \
+            QSKIP("this system lacks " #behaviour);                                                \
     } while (false)
 
-namespace fixture {
-
-struct PrinterSetup
-{
-    QString name;
-    QString driver = QStringLiteral("Vx Test Driver");
-    QString port = QStringLiteral("USB001");
-    DWORD attributes = PRINTER_ATTRIBUTE_LOCAL;
-};
-
-/// The stem, made unlike that of any other call in any process.
-QString uniqueName(const QString& stem);
-
-/// Makes the printer through AddPrinterW, and its driver first. The printer is removed at the end
-/// of the test function; false: the last error says why there is none.
-bool addPrinter(const PrinterSetup& setup);
-/// Removes a printer that addPrinter() made.
-bool removePrinter(const QString& name);
-
-/// Starts or stops the service "Spooler" and waits until it has; it is put back at the end of the
-/// test function.
-bool setSpoolerRunning(bool running);
-
-bool has(Behaviour behaviour);
-
-/// What the printer was sent in its last document, whose output file was given.
-QByteArray printedBytes(const QString& printer, const QString& outputFile);
-
-/// The time for which the calling thread had a processor.
-std::chrono::nanoseconds processorTimeOfThisThread();
-
-// What differs between the systems, for the fixture itself.
-namespace system {
-void begin();
-/// Puts the system back, and says what the test function did wrong with handles, calls of these
-/// functions left out: one misuse for each name.
-QStringList end(const QStringList& allowedMisuses);
-bool installDriver(const QString& name);
-} // namespace system
-
-} // namespace fixture
-
-/// A wide text as the calls take it, which is not as constant as they treat it.
+/// A wide text for calls that take a pointer to non-const characters.
 class WideText
 {
 public:
@@ -97,7 +56,7 @@ public:
     }
     operator LPWSTR() { return reinterpret_cast<LPWSTR>(m_text.data()); }
     LPBYTE bytes() { return reinterpret_cast<LPBYTE>(m_text.data()); }
-    /// With the terminating zero.
+    /// In bytes, including the terminating zero.
     DWORD size() const { return static_cast<DWORD>(m_text.size() + 1) * sizeof(WCHAR); }
 
 private:
@@ -119,13 +78,72 @@ private:
     QByteArray m_text;
 };
 
+namespace fixture {
+
+struct PrinterSetup
+{
+    QString name;
+    QString driver = QStringLiteral("Vx Test Driver");
+    QString port = QStringLiteral("USB001");
+    DWORD attributes = PRINTER_ATTRIBUTE_LOCAL;
+};
+
+/// The record of a printer, for AddPrinterW.
+struct NewPrinter
+{
+    explicit NewPrinter(const PrinterSetup& setup);
+    Q_DISABLE_COPY_MOVE(NewPrinter)
+
+    /// The result of AddPrinterW.
+    HANDLE add(DWORD level = 2);
+
+    WideText name;
+    WideText driver;
+    WideText port;
+    WideText processor{QStringLiteral("WinPrint")};
+    WideText datatype{QStringLiteral("RAW")};
+    PRINTER_INFO_2W info{};
+};
+
+/// A name that begins with the stem and differs from those of all other calls in all processes.
+QString uniqueName(const QString& stem);
+
+/// Installs the driver and adds the printer with AddPrinterW. The printer is removed at the end of
+/// the test function. False when that fails; the last error then says why.
+bool addPrinter(const PrinterSetup& setup);
+/// Removes a printer that was added by addPrinter().
+bool removePrinter(const QString& name);
+
+/// Starts or stops the service "Spooler" and waits until that is done. Its former state is restored
+/// at the end of the test function.
+bool setSpoolerRunning(bool running);
+
+bool has(Behaviour behaviour);
+
+/// The bytes of the printer's last document, which was printed to that output file.
+QByteArray printedBytes(const QString& printer, const QString& outputFile);
+
+/// The processor time of the calling thread.
+std::chrono::nanoseconds processorTimeOfThisThread();
+
+// The parts of the fixture that differ between the systems.
+namespace system {
+void begin();
+/// Restores the system. Returns the test function's mistakes with handles, except one misuse by
+/// each of the functions listed.
+QStringList end(const QStringList& allowedMisuses);
+bool installDriver(const QString& name);
+} // namespace system
+
+} // namespace fixture
+
 /// An empty text for a null pointer.
 inline QString fromWide(LPCWSTR text)
 {
     return text ? QString::fromUtf16(reinterpret_cast<const char16_t*>(text)) : QString();
 }
 
-/// What a call's failure leaves as the last error; ERROR_SUCCESS when the call succeeds.
+/// The last error after a failed call; ERROR_SUCCESS when the call succeeds.
 template <typename Call>
 DWORD errorOf(Call call)
 {
@@ -153,17 +171,17 @@ using EventHandle = std::unique_ptr<void, EventCloser>;
 using PrinterHandle = std::unique_ptr<void, PrinterCloser>;
 using ServiceHandle = std::unique_ptr<std::remove_pointer_t<SC_HANDLE>, ServiceCloser>;
 
-/// Null when the printer cannot be opened so; the last error then says why.
+/// Null when the printer cannot be opened with that access; the last error then says why.
 PrinterHandle openPrinter(const QString& name, DWORD access = PRINTER_ALL_ACCESS);
 
-/// Base of these tests: each test function starts on a system without its printers and leaves none,
-/// and fails when it leaked or misused a handle where the system can tell.
+/// Base of these tests. The printers that a test function adds are removed after it. On the virtual
+/// Windows, a test function fails when it leaks or misuses a handle.
 class WindowsApiTest : public QObject
 {
     Q_OBJECT
 
 protected:
-    /// Handing a bad handle to that function is what the test function is about.
+    /// The test function is going to pass a bad handle to that function, once.
     void expectMisuse(const QString& function) { m_allowedMisuses.append(function); }
 
 protected Q_SLOTS:

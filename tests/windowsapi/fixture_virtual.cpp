@@ -26,14 +26,14 @@ QStringList fixture::system::end(const QStringList& allowedMisuses)
             wrong.append(misuse.text);
     }
     for (const QString& function : std::as_const(allowed))
-        wrong.append(QStringLiteral("expected a misuse by %1, and none happened").arg(function));
+        wrong.append(QStringLiteral("expected a misuse by %1, but there was none").arg(function));
     Machine::instance().reset();
     return wrong;
 }
 
 bool fixture::system::installDriver(const QString& /*name*/)
 {
-    return true; // the virtual spooler takes every driver's name
+    return true; // the virtual spooler accepts any driver's name
 }
 
 bool fixture::setSpoolerRunning(bool running)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 #include "fixture.h"
+#include "is_wine.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QFile>
@@ -26,15 +27,7 @@ std::optional<bool>& spoolerRanBefore()
     return ran;
 }
 
-/// Wine says so in a function of its own; Windows has no such function.
-bool isWine()
-{
-    static const bool wine =
-        GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    return wine;
-}
-
-/// Every behaviour that Wine's spooler, kernel and service manager are without.
+/// Every behaviour that Wine's spooler, kernel and service manager lack.
 constexpr std::array wineLacks{
     Behaviour::AccessRights,        Behaviour::ChangeNotifications, Behaviour::DeletedPrinters,
     Behaviour::DistinctWaitObjects, Behaviour::EmptyPrinterNames,   Behaviour::JobCounts,
@@ -58,7 +51,7 @@ DWORD stateOf(const ServiceHandle& service)
     return QueryServiceStatus(service.get(), &status) ? status.dwCurrentState : 0;
 }
 
-/// The service manager tells of a service's state only when it is asked.
+/// The service manager has no notification of a service's state, so it is polled.
 bool waitForState(const ServiceHandle& service, DWORD state)
 {
     const QDeadlineTimer limit(20000);
@@ -84,11 +77,12 @@ QStringList fixture::system::end(const QStringList& /*allowedMisuses*/)
     for (const QString& driver : drivers) {
         WideText environmentText(QString::fromWCharArray(environment));
         if (!DeletePrinterDriverExW(nullptr, environmentText, WideText(driver), 0, 0))
-            wrong.append(QStringLiteral("the driver \"%1\" stays: error %2")
+            wrong.append(QStringLiteral("the driver \"%1\" cannot be removed: error %2")
                              .arg(driver, QString::number(GetLastError())));
     }
     if (spoolerRanBefore().has_value() && !setSpoolerRunning(*spoolerRanBefore()))
-        wrong.append(QStringLiteral("the service \"Spooler\" could not be put back"));
+        wrong.append(
+            QStringLiteral("the former state of the service \"Spooler\" could not be restored"));
     return wrong;
 }
 
@@ -123,9 +117,9 @@ bool fixture::setSpoolerRunning(bool running)
     if (runs == running)
         return true;
     SERVICE_STATUS status{};
-    const BOOL asked = running ? StartServiceW(service.get(), 0, nullptr)
-                               : ControlService(service.get(), SERVICE_CONTROL_STOP, &status);
-    return asked && waitForState(service, running ? SERVICE_RUNNING : SERVICE_STOPPED);
+    const BOOL isRequested = running ? StartServiceW(service.get(), 0, nullptr)
+                                     : ControlService(service.get(), SERVICE_CONTROL_STOP, &status);
+    return isRequested && waitForState(service, running ? SERVICE_RUNNING : SERVICE_STOPPED);
 }
 
 bool fixture::has(Behaviour behaviour)

@@ -40,7 +40,7 @@ DWORD waitAll(const std::vector<HANDLE>& handles, DWORD milliseconds = 0)
                                   milliseconds);
 }
 
-// What GetCurrentProcess() and GetCurrentThread() answer.
+// The values of GetCurrentProcess() and GetCurrentThread().
 const HANDLE currentProcess = INVALID_HANDLE_VALUE;
 const HANDLE currentThread = reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-2));
 
@@ -58,53 +58,53 @@ class KernelEventsTest : public WindowsApiTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void initialState_data();
-    void initialState();
+    void initialStateIsAsRequested_data();
+    void initialStateIsAsRequested();
     void manualEventStaysSignalled();
     void autoEventEndsOneWait();
-    void settingIsNotCounted();
-    void resetEvent_data();
-    void resetEvent();
+    void setEventIsNotCounted();
+    void resetEndsTheSignal_data();
+    void resetEndsTheSignal();
 
     void lowestSignalledIndexWins_data();
     void lowestSignalledIndexWins();
-    void waitingForAnyTakesOnlyWhatItReports();
-    void sameEventTwiceInAnAnyWait();
-    void waitingForAllTakesNothingBeforeAllAreSignalled();
+    void waitingForAnyTakesOnlyTheReportedEvent();
+    void waitingForAnyAcceptsDuplicates();
+    void waitingForAllTakesNothingUntilAllAreSignalled();
     void waitingForAllTakesAll();
-    void numberOfObjects_data();
-    void numberOfObjects();
-    void allRefusesAnObjectThatIsListedTwice();
-    void badHandlesAreSeenBeforeDuplicates();
-    void waitingWithoutAList();
+    void numberOfObjectsIsLimited_data();
+    void numberOfObjectsIsLimited();
+    void waitingForAllRefusesDuplicates();
+    void badHandlesAreReportedBeforeDuplicates();
+    void waitingWithoutAListFails();
 
-    void timeOut_data();
-    void timeOut();
+    void waitTimesOut_data();
+    void waitTimesOut();
 
     void pseudoHandleIsNeverSignalled_data();
     void pseudoHandleIsNeverSignalled();
     void pseudoHandleInAListFails_data();
     void pseudoHandleInAListFails();
-    void invalidHandleValueIsNoEvent();
+    void invalidHandleValueIsNotAnEvent();
     void closingInvalidHandleValueHasNoEffect();
 
     void badHandleFails_data();
     void badHandleFails();
     void badHandleInAListTakesNothing();
 
-    void lastErrorIsOfTheThread();
+    void lastErrorBelongsToTheThread();
     void successLeavesTheLastErrorAlone();
 
     void settingWakesAThread_data();
     void settingWakesAThread();
     void manualEventWakesEveryThread();
-    void autoEventWakesOneThreadASetting();
+    void autoEventWakesOneThreadPerSetting();
     void threadWaitsForAll();
-    void threadTakesTheSignalledOne();
+    void threadGetsTheIndexOfTheSignalledEvent();
     void waitingUsesNoProcessor();
 };
 
-void KernelEventsTest::initialState_data()
+void KernelEventsTest::initialStateIsAsRequested_data()
 {
     QTest::addColumn<bool>("manualReset");
     QTest::addColumn<bool>("initial");
@@ -114,7 +114,7 @@ void KernelEventsTest::initialState_data()
     QTest::newRow("auto, not signalled") << false << false;
 }
 
-void KernelEventsTest::initialState()
+void KernelEventsTest::initialStateIsAsRequested()
 {
     QFETCH(bool, manualReset);
     QFETCH(bool, initial);
@@ -142,7 +142,7 @@ void KernelEventsTest::autoEventEndsOneWait()
     QCOMPARE(WaitForSingleObject(event.get(), 0), DWORD{WAIT_TIMEOUT});
 }
 
-void KernelEventsTest::settingIsNotCounted()
+void KernelEventsTest::setEventIsNotCounted()
 {
     const EventHandle event = autoEvent();
     QVERIFY(SetEvent(event.get()));
@@ -151,14 +151,14 @@ void KernelEventsTest::settingIsNotCounted()
     QVERIFY(!isSignalled(event));
 }
 
-void KernelEventsTest::resetEvent_data()
+void KernelEventsTest::resetEndsTheSignal_data()
 {
     QTest::addColumn<bool>("manualReset");
     QTest::newRow("manual") << true;
     QTest::newRow("auto") << false;
 }
 
-void KernelEventsTest::resetEvent()
+void KernelEventsTest::resetEndsTheSignal()
 {
     QFETCH(bool, manualReset);
     const EventHandle event(CreateEventW(nullptr, manualReset, TRUE, nullptr));
@@ -195,7 +195,7 @@ void KernelEventsTest::lowestSignalledIndexWins()
     QCOMPARE(waitAny(handles), result);
 }
 
-void KernelEventsTest::waitingForAnyTakesOnlyWhatItReports()
+void KernelEventsTest::waitingForAnyTakesOnlyTheReportedEvent()
 {
     const EventHandle first = autoEvent(true);
     const EventHandle second = autoEvent(true);
@@ -204,14 +204,14 @@ void KernelEventsTest::waitingForAnyTakesOnlyWhatItReports()
     QVERIFY(isSignalled(second));
 }
 
-void KernelEventsTest::sameEventTwiceInAnAnyWait()
+void KernelEventsTest::waitingForAnyAcceptsDuplicates()
 {
     const EventHandle event = autoEvent(true);
     QCOMPARE(waitAny({event.get(), event.get()}), DWORD{WAIT_OBJECT_0});
     QCOMPARE(waitAny({event.get(), event.get()}), DWORD{WAIT_TIMEOUT});
 }
 
-void KernelEventsTest::waitingForAllTakesNothingBeforeAllAreSignalled()
+void KernelEventsTest::waitingForAllTakesNothingUntilAllAreSignalled()
 {
     const EventHandle first = autoEvent(true);
     const EventHandle second = autoEvent();
@@ -231,22 +231,22 @@ void KernelEventsTest::waitingForAllTakesAll()
     QVERIFY(!isSignalled(third));
 }
 
-void KernelEventsTest::numberOfObjects_data()
+void KernelEventsTest::numberOfObjectsIsLimited_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<DWORD>("error");
     QTest::newRow("none") << 0 << DWORD{ERROR_INVALID_PARAMETER};
     QTest::newRow("one") << 1 << DWORD{ERROR_SUCCESS};
-    QTest::newRow("as many as can be") << MAXIMUM_WAIT_OBJECTS << DWORD{ERROR_SUCCESS};
+    QTest::newRow("the largest number") << MAXIMUM_WAIT_OBJECTS << DWORD{ERROR_SUCCESS};
     QTest::newRow("one too many") << MAXIMUM_WAIT_OBJECTS + 1 << DWORD{ERROR_INVALID_PARAMETER};
 }
 
-void KernelEventsTest::numberOfObjects()
+void KernelEventsTest::numberOfObjectsIsLimited()
 {
     QFETCH(int, count);
     QFETCH(DWORD, error);
     std::vector<EventHandle> events;
-    // One more than is waited for, so that the list is never a null pointer.
+    // One more than the test waits for, so that the list is never a null pointer.
     std::vector<HANDLE> handles;
     for (int index = 0; index <= count; ++index) {
         events.push_back(manualEvent(index == count - 1));
@@ -263,7 +263,7 @@ void KernelEventsTest::numberOfObjects()
         QCOMPARE(result, static_cast<DWORD>(WAIT_OBJECT_0) + static_cast<DWORD>(count - 1));
 }
 
-void KernelEventsTest::allRefusesAnObjectThatIsListedTwice()
+void KernelEventsTest::waitingForAllRefusesDuplicates()
 {
     NEEDS_BEHAVIOUR(Behaviour::DistinctWaitObjects);
     const EventHandle first = manualEvent(true);
@@ -274,9 +274,9 @@ void KernelEventsTest::allRefusesAnObjectThatIsListedTwice()
              DWORD{ERROR_INVALID_PARAMETER});
 }
 
-// The order in which the kernel looks: the count, the list, its handles, then duplicates.
+// The order of the kernel's checks: the count, the list, its handles, then duplicates.
 // reactos/ntoskrnl/ob/obwait.c, NtWaitForMultipleObjects
-void KernelEventsTest::badHandlesAreSeenBeforeDuplicates()
+void KernelEventsTest::badHandlesAreReportedBeforeDuplicates()
 {
     expectMisuse(QStringLiteral("WaitForMultipleObjects"));
     const EventHandle event = manualEvent(true);
@@ -287,9 +287,9 @@ void KernelEventsTest::badHandlesAreSeenBeforeDuplicates()
              DWORD{ERROR_INVALID_HANDLE});
 }
 
-void KernelEventsTest::waitingWithoutAList()
+void KernelEventsTest::waitingWithoutAListFails()
 {
-    // The count is looked at first.
+    // The count is checked first.
     for (const DWORD count : {0, MAXIMUM_WAIT_OBJECTS + 1})
         QCOMPARE(errorOf([&] {
                      return WaitForMultipleObjects(count, nullptr, FALSE, 0) != WAIT_FAILED;
@@ -301,7 +301,7 @@ void KernelEventsTest::waitingWithoutAList()
                  DWORD{ERROR_NOACCESS});
 }
 
-void KernelEventsTest::timeOut_data()
+void KernelEventsTest::waitTimesOut_data()
 {
     QTest::addColumn<bool>("all");
     QTest::addColumn<int>("milliseconds");
@@ -311,7 +311,7 @@ void KernelEventsTest::timeOut_data()
     QTest::newRow("all, after a while") << true << 60;
 }
 
-void KernelEventsTest::timeOut()
+void KernelEventsTest::waitTimesOut()
 {
     QFETCH(bool, all);
     QFETCH(int, milliseconds);
@@ -323,7 +323,7 @@ void KernelEventsTest::timeOut()
     timer.start();
     QCOMPARE(WaitForMultipleObjects(2, handles.data(), all, static_cast<DWORD>(milliseconds)),
              DWORD{WAIT_TIMEOUT});
-    // The clock of Windows ticks every 16 ms at worst, and a wait may end with the tick before.
+    // The clock of Windows ticks at least every 16 ms, and a wait may end one tick early.
     constexpr int tick = 16;
     QVERIFY2(timer.elapsed() >= milliseconds - tick, qPrintable(QString::number(timer.elapsed())));
 }
@@ -360,7 +360,7 @@ void KernelEventsTest::pseudoHandleInAListFails_data()
     }
 }
 
-// wine/dlls/kernel32/tests/sync.c, test_WaitForMultipleObjects, which marks it as a fault of Wine's
+// wine/dlls/kernel32/tests/sync.c, test_WaitForMultipleObjects, which marks it as a fault of Wine
 void KernelEventsTest::pseudoHandleInAListFails()
 {
     NEEDS_BEHAVIOUR(Behaviour::PseudoHandleChecks);
@@ -376,12 +376,12 @@ void KernelEventsTest::pseudoHandleInAListFails()
                                                    all, milliseconds) != WAIT_FAILED;
                  }),
                  DWORD{ERROR_INVALID_HANDLE});
-        QVERIFY(isSignalled(event)); // which takes it
+        QVERIFY(isSignalled(event)); // which also resets it
         QVERIFY(SetEvent(event.get()));
     }
 }
 
-void KernelEventsTest::invalidHandleValueIsNoEvent()
+void KernelEventsTest::invalidHandleValueIsNotAnEvent()
 {
     QCOMPARE(errorOf([] { return SetEvent(INVALID_HANDLE_VALUE); }), DWORD{ERROR_INVALID_HANDLE});
     QCOMPARE(errorOf([] { return ResetEvent(INVALID_HANDLE_VALUE); }), DWORD{ERROR_INVALID_HANDLE});
@@ -437,9 +437,9 @@ void KernelEventsTest::badHandleInAListTakesNothing()
     QVERIFY(isSignalled(event));
 }
 
-void KernelEventsTest::lastErrorIsOfTheThread()
+void KernelEventsTest::lastErrorBelongsToTheThread()
 {
-    // The threads meet without calls, which would set and restore last errors of their own.
+    // The threads synchronise without Windows calls, which could change the last error.
     std::atomic<int> stage = 0;
     const auto waitFor = [&stage](int wanted) {
         while (stage != wanted)
@@ -478,7 +478,7 @@ void KernelEventsTest::successLeavesTheLastErrorAlone()
     QCOMPARE(GetLastError(), DWORD{1234});
     ResetEvent(handle);
     QCOMPARE(GetLastError(), DWORD{1234});
-    // A time-out is an answer, not a failure.
+    // A time-out is not a failure.
     WaitForMultipleObjects(1, &handle, FALSE, 0);
     QCOMPARE(GetLastError(), DWORD{1234});
 }
@@ -518,6 +518,7 @@ void KernelEventsTest::manualEventWakesEveryThread()
     std::atomic<int> woken = 0;
     {
         std::vector<std::jthread> waiters;
+        waiters.reserve(4);
         for (int count = 0; count < 4; ++count) {
             waiters.emplace_back([&] {
                 if (WaitForSingleObject(event.get(), INFINITE) == WAIT_OBJECT_0)
@@ -529,13 +530,14 @@ void KernelEventsTest::manualEventWakesEveryThread()
     QCOMPARE(woken.load(), 4);
 }
 
-void KernelEventsTest::autoEventWakesOneThreadASetting()
+void KernelEventsTest::autoEventWakesOneThreadPerSetting()
 {
     constexpr int threads = 4;
     const EventHandle event = autoEvent();
     const EventHandle woke = autoEvent();
     std::atomic<int> woken = 0;
     std::vector<std::jthread> waiters;
+    waiters.reserve(threads);
     for (int count = 0; count < threads; ++count) {
         waiters.emplace_back([&] {
             if (WaitForSingleObject(event.get(), INFINITE) != WAIT_OBJECT_0)
@@ -571,7 +573,7 @@ void KernelEventsTest::threadWaitsForAll()
         });
         WaitForSingleObject(started.get(), INFINITE);
         SetEvent(second.get());
-        // Still there: the waiting thread takes nothing before it can take both.
+        // Still signalled: the waiting thread takes no event before it can take both.
         const bool secondIsLeft = isSignalled(second);
         SetEvent(second.get());
         bothSet = true;
@@ -584,7 +586,7 @@ void KernelEventsTest::threadWaitsForAll()
     QVERIFY(!isSignalled(second));
 }
 
-void KernelEventsTest::threadTakesTheSignalledOne()
+void KernelEventsTest::threadGetsTheIndexOfTheSignalledEvent()
 {
     const EventHandle first = autoEvent();
     const EventHandle second = autoEvent();
@@ -610,7 +612,7 @@ void KernelEventsTest::waitingUsesNoProcessor()
     const auto before = fixture::processorTimeOfThisThread();
     QCOMPARE(waitAny({event.get(), other.get()}, 400), DWORD{WAIT_TIMEOUT});
     const auto used = fixture::processorTimeOfThisThread() - before;
-    // A wait that asked again and again would have had the processor for most of the 400 ms.
+    // A busy wait would use the processor for most of the 400 ms.
     QVERIFY2(used < 50ms, qPrintable(QString::number(used / 1us) + QStringLiteral(" us")));
 }
 

@@ -22,17 +22,17 @@ private Q_SLOTS:
     void bytesArriveInOrder();
     void pagesFollowEachOther();
     void bytesAreNotInterpreted();
-    void writingNothing();
-    void jobsHaveNumbersOfTheirOwn();
+    void writingNothingIsAllowed();
+    void jobsHaveDistinctNumbers();
     void jobIsCountedWhileItIsWritten();
 
-    void documentNeedsALevel_data();
-    void documentNeedsALevel();
+    void otherLevelsAreRefused_data();
+    void otherLevelsAreRefused();
     void onlyOneDocumentAtATime();
-    void handlesHaveDocumentsOfTheirOwn();
-    void outsideOfADocument_data();
-    void outsideOfADocument();
-    void afterTheDocument();
+    void eachHandleHasItsOwnDocument();
+    void callsOutsideADocumentFail_data();
+    void callsOutsideADocumentFail();
+    void callsAfterTheDocumentFail();
     void badHandleFails_data();
     void badHandleFails();
 
@@ -127,7 +127,7 @@ void PrintJobsTest::bytesAreNotInterpreted()
     QVERIFY(printed() == bytes);
 }
 
-void PrintJobsTest::writingNothing()
+void PrintJobsTest::writingNothingIsAllowed()
 {
     QVERIFY(startDocument() != 0);
     QVERIFY(StartPagePrinter(m_printer.get()));
@@ -139,7 +139,7 @@ void PrintJobsTest::writingNothing()
     QCOMPARE(printed(), "ab");
 }
 
-void PrintJobsTest::jobsHaveNumbersOfTheirOwn()
+void PrintJobsTest::jobsHaveDistinctNumbers()
 {
     QList<DWORD> numbers;
     for (int document = 0; document < 3; ++document) {
@@ -170,14 +170,14 @@ void PrintJobsTest::jobIsCountedWhileItIsWritten()
     QTRY_COMPARE(jobCount(), DWORD{0});
 }
 
-void PrintJobsTest::documentNeedsALevel_data()
+void PrintJobsTest::otherLevelsAreRefused_data()
 {
     QTest::addColumn<DWORD>("level");
     QTest::newRow("0") << DWORD{0};
     QTest::newRow("17") << DWORD{17};
 }
 
-void PrintJobsTest::documentNeedsALevel()
+void PrintJobsTest::otherLevelsAreRefused()
 {
     QFETCH(DWORD, level);
     DOC_INFO_1W info{};
@@ -197,7 +197,7 @@ void PrintJobsTest::onlyOneDocumentAtATime()
     QCOMPARE(printed(), "still the first");
 }
 
-void PrintJobsTest::handlesHaveDocumentsOfTheirOwn()
+void PrintJobsTest::eachHandleHasItsOwnDocument()
 {
     const PrinterHandle other = openPrinter(m_name);
     QVERIFY(startDocument() != 0);
@@ -211,7 +211,7 @@ void PrintJobsTest::handlesHaveDocumentsOfTheirOwn()
     QCOMPARE(printed(QStringLiteral("other.bin")), "bb");
 }
 
-void PrintJobsTest::outsideOfADocument_data()
+void PrintJobsTest::callsOutsideADocumentFail_data()
 {
     QTest::addColumn<QString>("function");
     for (const char* function :
@@ -221,7 +221,7 @@ void PrintJobsTest::outsideOfADocument_data()
 
 namespace {
 
-/// Calls one of the functions that work on an open document.
+/// Calls one of the functions that need an open document.
 BOOL callInDocument(const QString& function, HANDLE printer)
 {
     char byte = 'x';
@@ -237,7 +237,7 @@ BOOL callInDocument(const QString& function, HANDLE printer)
 
 } // namespace
 
-void PrintJobsTest::outsideOfADocument()
+void PrintJobsTest::callsOutsideADocumentFail()
 {
     QFETCH(QString, function);
     if (function.contains(QLatin1String("Page")))
@@ -246,7 +246,7 @@ void PrintJobsTest::outsideOfADocument()
              DWORD{ERROR_SPL_NO_STARTDOC});
 }
 
-void PrintJobsTest::afterTheDocument()
+void PrintJobsTest::callsAfterTheDocumentFail()
 {
     QVERIFY(startDocument() != 0);
     QVERIFY(write(m_printer, "x"));
@@ -261,7 +261,7 @@ void PrintJobsTest::afterTheDocument()
 
 void PrintJobsTest::badHandleFails_data()
 {
-    outsideOfADocument_data();
+    callsOutsideADocumentFail_data();
     QTest::newRow("StartDocPrinterW") << QStringLiteral("StartDocPrinterW");
 }
 

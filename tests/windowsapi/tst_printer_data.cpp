@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// Handles of printers, and the values that drivers keep with a printer.
+// Handles of printers, and the values that drivers store with a printer.
 
 #include "fixture.h"
 
@@ -25,7 +25,7 @@ constexpr char filler = '\xCC';
 constexpr DWORD noSize = 7777;
 constexpr DWORD noType = 99;
 
-/// What GetPrinterData made of a buffer.
+/// The result of a call of GetPrinterData, with its buffer.
 struct Answer
 {
     DWORD result = 0;
@@ -33,12 +33,12 @@ struct Answer
     DWORD needed = noSize;
     QByteArray buffer;
 
-    /// The data, when there is as much of it as was needed and nothing was written behind it.
+    /// The data, or an error text if the buffer is too short for it or was written beyond its end.
     QByteArray data() const
     {
         const auto size = static_cast<qsizetype>(needed);
         if (size > buffer.size() || buffer.mid(size) != QByteArray(buffer.size() - size, filler))
-            return "the buffer's end is not as it was";
+            return "the call wrote beyond the end of the data";
         return buffer.first(size);
     }
     bool isBufferUntouched() const { return buffer == QByteArray(buffer.size(), filler); }
@@ -47,7 +47,7 @@ struct Answer
 Answer getData(Form form, HANDLE printer, const QString& name, DWORD size)
 {
     Answer answer;
-    constexpr qsizetype margin = 16; // to see what is written behind the end
+    constexpr qsizetype margin = 16; // shows whether the call writes beyond the end
     answer.buffer = QByteArray(static_cast<qsizetype>(size) + margin, filler);
     auto* buffer = reinterpret_cast<LPBYTE>(answer.buffer.data());
     answer.result =
@@ -65,7 +65,7 @@ DWORD setData(Form form, HANDLE printer, const QString& name, DWORD type, QByteA
                                 : SetPrinterDataW(printer, WideText(name), type, bytes, size);
 }
 
-/// A text as the calls of this form store it, terminating zero included.
+/// A text as the calls of this form store it, including the terminating zero.
 QByteArray stored(Form form, const QString& text)
 {
     if (form == Form::Narrow) {
@@ -91,41 +91,41 @@ private Q_SLOTS:
     void init() override;
     void cleanup() override;
 
-    void openingAnAbsentPrinter();
-    void openingAnEmptyName();
-    void openingWithoutAPlaceForTheHandle();
-    void openingKnowsNoLetterCase();
-    void openingThePrintServer();
-    void closingTwice();
-    void closingWhatIsNoPrinter_data();
-    void closingWhatIsNoPrinter();
-    void handlesAreDifferent();
+    void openingAnAbsentPrinterFails();
+    void openingAnEmptyNameFails();
+    void openingWithoutAHandlePointerFails();
+    void openingIgnoresCase();
+    void printServerCanBeOpened();
+    void closingTwiceFails();
+    void closingAnotherValueFails_data();
+    void closingAnotherValueFails();
+    void handlesAreDistinct();
 
     void writtenValueIsReadBack_data();
     void writtenValueIsReadBack();
-    void shortBuffer_data();
-    void shortBuffer();
-    void exactBufferOfAText_data();
-    void exactBufferOfAText();
+    void shortBufferIsNotWritten_data();
+    void shortBufferIsNotWritten();
+    void textNeedsRoomForItsTerminatingZero_data();
+    void textNeedsRoomForItsTerminatingZero();
     void emptyValueNeedsNoBuffer_data();
     void emptyValueNeedsNoBuffer();
-    void absentValue_data();
-    void absentValue();
-    void namesKnowNoLetterCase();
-    void typeNeedNotBeAsked();
+    void absentValueIsNotFound_data();
+    void absentValueIsNotFound();
+    void valueNamesIgnoreCase();
+    void typePointerIsOptional();
     void laterValueReplacesTheEarlier();
     void textIsConverted_data();
     void textIsConverted();
     void listOfTextsIsConverted();
     void otherTypesAreNotConverted_data();
     void otherTypesAreNotConverted();
-    void valuesAreOfThePrinter();
+    void valuesBelongToOnePrinter();
     void valuesOutliveTheHandle();
 
     void badHandleFails_data();
     void badHandleFails();
-    void writingNeedsTheRightToAdminister_data();
-    void writingNeedsTheRightToAdminister();
+    void writingNeedsAdministerAccess_data();
+    void writingNeedsAdministerAccess();
 
 private:
     QString m_name;
@@ -147,7 +147,7 @@ void PrinterDataTest::cleanup()
     WindowsApiTest::cleanup();
 }
 
-void PrinterDataTest::openingAnAbsentPrinter()
+void PrinterDataTest::openingAnAbsentPrinterFails()
 {
     const QString absent = fixture::uniqueName(QStringLiteral("Vx Absent"));
     HANDLE handle = nullptr;
@@ -157,9 +157,9 @@ void PrinterDataTest::openingAnAbsentPrinter()
              DWORD{ERROR_INVALID_PRINTER_NAME});
 }
 
-// Only without a name it is the print server.
+// Only a null pointer stands for the print server.
 // wine/dlls/winspool.drv/tests/info.c, test_OpenPrinter
-void PrinterDataTest::openingAnEmptyName()
+void PrinterDataTest::openingAnEmptyNameFails()
 {
     HANDLE handle = nullptr;
     const DWORD errorOfWide =
@@ -173,13 +173,13 @@ void PrinterDataTest::openingAnEmptyName()
     QCOMPARE(errorOfNarrow, DWORD{ERROR_INVALID_PRINTER_NAME});
 }
 
-void PrinterDataTest::openingWithoutAPlaceForTheHandle()
+void PrinterDataTest::openingWithoutAHandlePointerFails()
 {
     QCOMPARE(errorOf([&] { return OpenPrinterW(WideText(m_name), nullptr, nullptr); }),
              DWORD{ERROR_INVALID_PARAMETER});
 }
 
-void PrinterDataTest::openingKnowsNoLetterCase()
+void PrinterDataTest::openingIgnoresCase()
 {
     QVERIFY(openPrinter(m_name.toUpper()));
     HANDLE handle = nullptr;
@@ -187,7 +187,7 @@ void PrinterDataTest::openingKnowsNoLetterCase()
     QVERIFY(ClosePrinter(handle));
 }
 
-void PrinterDataTest::openingThePrintServer()
+void PrinterDataTest::printServerCanBeOpened()
 {
     HANDLE handle = nullptr;
     QVERIFY(OpenPrinterW(nullptr, &handle, nullptr));
@@ -195,7 +195,7 @@ void PrinterDataTest::openingThePrintServer()
     QVERIFY(ClosePrinter(handle));
 }
 
-void PrinterDataTest::closingTwice()
+void PrinterDataTest::closingTwiceFails()
 {
     expectMisuse(QStringLiteral("ClosePrinter"));
     HANDLE handle = nullptr;
@@ -204,14 +204,14 @@ void PrinterDataTest::closingTwice()
     QCOMPARE(errorOf([&] { return ClosePrinter(handle); }), DWORD{ERROR_INVALID_HANDLE});
 }
 
-void PrinterDataTest::closingWhatIsNoPrinter_data()
+void PrinterDataTest::closingAnotherValueFails_data()
 {
     QTest::addColumn<bool>("null");
     QTest::newRow("null") << true;
     QTest::newRow("INVALID_HANDLE_VALUE") << false;
 }
 
-void PrinterDataTest::closingWhatIsNoPrinter()
+void PrinterDataTest::closingAnotherValueFails()
 {
     QFETCH(bool, null);
     if (null)
@@ -220,7 +220,7 @@ void PrinterDataTest::closingWhatIsNoPrinter()
     QCOMPARE(errorOf([&] { return ClosePrinter(handle); }), DWORD{ERROR_INVALID_HANDLE});
 }
 
-void PrinterDataTest::handlesAreDifferent()
+void PrinterDataTest::handlesAreDistinct()
 {
     PrinterHandle other = openPrinter(m_name);
     QVERIFY(other);
@@ -269,7 +269,7 @@ void PrinterDataTest::writtenValueIsReadBack()
     }
 }
 
-void PrinterDataTest::shortBuffer_data()
+void PrinterDataTest::shortBufferIsNotWritten_data()
 {
     QTest::addColumn<Form>("form");
     QTest::addColumn<DWORD>("size");
@@ -278,7 +278,7 @@ void PrinterDataTest::shortBuffer_data()
             QTest::addRow("%s, %d bytes", nameOf(form), size) << form << static_cast<DWORD>(size);
 }
 
-void PrinterDataTest::shortBuffer()
+void PrinterDataTest::shortBufferIsNotWritten()
 {
     QFETCH(Form, form);
     QFETCH(DWORD, size);
@@ -291,21 +291,21 @@ void PrinterDataTest::shortBuffer()
     QVERIFY(answer.isBufferUntouched());
 }
 
-void PrinterDataTest::exactBufferOfAText_data()
+void PrinterDataTest::textNeedsRoomForItsTerminatingZero_data()
 {
     QTest::addColumn<Form>("form");
     QTest::newRow("narrow") << Form::Narrow;
     QTest::newRow("wide") << Form::Wide;
 }
 
-void PrinterDataTest::exactBufferOfAText()
+void PrinterDataTest::textNeedsRoomForItsTerminatingZero()
 {
     QFETCH(Form, form);
     const QByteArray data = stored(form, QStringLiteral("Ready"));
     const auto size = static_cast<DWORD>(data.size());
     QCOMPARE(setData(form, m_printer.get(), valueName, REG_SZ, data), DWORD{ERROR_SUCCESS});
 
-    // The terminating zero has to fit too.
+    // The terminating zero has to fit as well.
     const Answer tooShort = getData(form, m_printer.get(), valueName, size - 1);
     QCOMPARE(tooShort.result, DWORD{ERROR_MORE_DATA});
     QCOMPARE(tooShort.needed, size);
@@ -318,7 +318,7 @@ void PrinterDataTest::exactBufferOfAText()
 
 void PrinterDataTest::emptyValueNeedsNoBuffer_data()
 {
-    exactBufferOfAText_data();
+    textNeedsRoomForItsTerminatingZero_data();
 }
 
 void PrinterDataTest::emptyValueNeedsNoBuffer()
@@ -332,7 +332,7 @@ void PrinterDataTest::emptyValueNeedsNoBuffer()
     QCOMPARE(answer.needed, DWORD{0});
 }
 
-void PrinterDataTest::absentValue_data()
+void PrinterDataTest::absentValueIsNotFound_data()
 {
     QTest::addColumn<Form>("form");
     QTest::addColumn<DWORD>("size");
@@ -341,7 +341,7 @@ void PrinterDataTest::absentValue_data()
             QTest::addRow("%s, %d bytes", nameOf(form), size) << form << static_cast<DWORD>(size);
 }
 
-void PrinterDataTest::absentValue()
+void PrinterDataTest::absentValueIsNotFound()
 {
     QFETCH(Form, form);
     QFETCH(DWORD, size);
@@ -352,7 +352,7 @@ void PrinterDataTest::absentValue()
     QVERIFY(answer.isBufferUntouched());
 }
 
-void PrinterDataTest::namesKnowNoLetterCase()
+void PrinterDataTest::valueNamesIgnoreCase()
 {
     QCOMPARE(setData(Form::Narrow, m_printer.get(), QStringLiteral("MiLeAgE"), REG_BINARY, "1"),
              DWORD{ERROR_SUCCESS});
@@ -362,7 +362,7 @@ void PrinterDataTest::namesKnowNoLetterCase()
         QCOMPARE(getData(form, m_printer.get(), QStringLiteral("mileage"), 1).data(), "2");
 }
 
-void PrinterDataTest::typeNeedNotBeAsked()
+void PrinterDataTest::typePointerIsOptional()
 {
     QCOMPARE(setData(Form::Narrow, m_printer.get(), valueName, REG_BINARY, "x"),
              DWORD{ERROR_SUCCESS});
@@ -464,7 +464,7 @@ void PrinterDataTest::otherTypesAreNotConverted()
     QCOMPARE(answer.data(), data);
 }
 
-void PrinterDataTest::valuesAreOfThePrinter()
+void PrinterDataTest::valuesBelongToOnePrinter()
 {
     const QString otherName = fixture::uniqueName(QStringLiteral("Vx Data"));
     QVERIFY(fixture::addPrinter({.name = otherName}));
@@ -517,7 +517,7 @@ void PrinterDataTest::badHandleFails()
     }
 }
 
-void PrinterDataTest::writingNeedsTheRightToAdminister_data()
+void PrinterDataTest::writingNeedsAdministerAccess_data()
 {
     QTest::addColumn<Form>("form");
     QTest::addColumn<bool>("administers");
@@ -527,7 +527,7 @@ void PrinterDataTest::writingNeedsTheRightToAdminister_data()
                 << form << administers;
 }
 
-void PrinterDataTest::writingNeedsTheRightToAdminister()
+void PrinterDataTest::writingNeedsAdministerAccess()
 {
     NEEDS_BEHAVIOUR(Behaviour::AccessRights);
     QFETCH(Form, form);

@@ -31,7 +31,7 @@ struct Block
     {
         return std::all_of(bytes.begin(), bytes.end(), [](BYTE byte) { return byte == filler; });
     }
-    /// The text and its terminating zero lie in the block behind the records.
+    /// The text and its terminating zero lie in the block, after the records.
     bool holds(LPCWSTR text, std::size_t sizeOfRecords) const
     {
         const auto* start = reinterpret_cast<const BYTE*>(text);
@@ -52,7 +52,7 @@ Block getPrinter(HANDLE printer, DWORD level, DWORD size)
     return block;
 }
 
-/// With a block of the size that is asked for.
+/// With a block of the needed size.
 Block getPrinter(HANDLE printer, DWORD level)
 {
     return getPrinter(printer, level, getPrinter(printer, level, 0).needed);
@@ -87,17 +87,17 @@ QString defaultPrinter()
     return size && GetDefaultPrinterW(name.data(), &size) ? fromWide(name.data()) : QString();
 }
 
-/// The user's choice of a default printer outlives these tests.
-class KeptDefaultPrinter
+/// Restores the user's default printer at the end of its scope.
+class DefaultPrinterRestorer
 {
 public:
-    KeptDefaultPrinter() = default;
-    ~KeptDefaultPrinter()
+    DefaultPrinterRestorer() = default;
+    ~DefaultPrinterRestorer()
     {
         if (!m_before.isEmpty())
             SetDefaultPrinterW(WideText(m_before));
     }
-    Q_DISABLE_COPY_MOVE(KeptDefaultPrinter)
+    Q_DISABLE_COPY_MOVE(DefaultPrinterRestorer)
 
 private:
     const QString m_before = defaultPrinter();
@@ -115,60 +115,60 @@ private Q_SLOTS:
     void init() override;
     void cleanup() override;
 
-    void sizeOfARecord_data();
-    void sizeOfARecord();
-    void longRecord();
-    void shortRecord();
-    void recordsOfAFewMembers();
-    void recordsWithoutTexts();
-    void attributes_data();
-    void attributes();
-    void unknownLevel_data();
-    void unknownLevel();
+    void recordNeedsTheSizeItReports_data();
+    void recordNeedsTheSizeItReports();
+    void level2HoldsTheWholeRecord();
+    void level1HoldsNameAndDescription();
+    void levels4And5HoldAFewMembers();
+    void levels6And7HoldNoTexts();
+    void recordHoldsTheAttributes_data();
+    void recordHoldsTheAttributes();
+    void unknownLevelIsRefused_data();
+    void unknownLevelIsRefused();
     void badHandleFails_data();
     void badHandleFails();
 
-    void changingARecord();
-    void changingTheName();
-    void changingToANameThatIsTaken();
-    void changingNeedsTheRightToAdminister();
-    void pausing();
-    void unknownCommand();
+    void recordCanBeChanged();
+    void printerCanBeRenamed();
+    void renamingToATakenNameFails();
+    void changingNeedsAdministerAccess();
+    void printerCanBePausedAndResumed();
+    void unknownCommandIsRefused();
 
-    void sizeOfAList();
+    void listNeedsTheSizeItReports();
     void listHoldsRecords();
-    void listGrowsBetweenSizingAndFilling();
-    void listedByFlags_data();
-    void listedByFlags();
-    void listOfEachLevel_data();
-    void listOfEachLevel();
-    void listOfPrintProviders();
-    void listByName_data();
-    void listByName();
-    void listOfNothing();
-    void listOfAnUnknownLevel_data();
-    void listOfAnUnknownLevel();
+    void grownListDoesNotFitTheReportedSize();
+    void flagsSelectThePrinters_data();
+    void flagsSelectThePrinters();
+    void eachLevelListsTheSamePrinters_data();
+    void eachLevelListsTheSamePrinters();
+    void level1ByNameListsPrintProviders();
+    void listByNameAcceptsOnlyAProvider_data();
+    void listByNameAcceptsOnlyAProvider();
+    void emptyListNeedsNoBuffer();
+    void listOfAnUnknownLevelIsRefused_data();
+    void listOfAnUnknownLevelIsRefused();
 
-    void choosingTheDefaultPrinter();
-    void sizeOfTheDefaultPrintersName();
-    void defaultPrinterWithoutACount();
-    void choosingAnAbsentPrinter();
+    void defaultPrinterCanBeChosen();
+    void defaultPrintersNameNeedsTheSizeItReports();
+    void defaultPrinterNeedsACount();
+    void choosingAnAbsentPrinterFails();
     void choosingNothingKeepsTheChoice_data();
     void choosingNothingKeepsTheChoice();
-    void deletedPrinterIsNoDefault();
+    void deletedPrinterIsNoLongerTheDefault();
     void defaultPrinterNeedsNoSpooler();
 
-    void addingGivesAHandleThatAdministers();
-    void addingRefuses_data();
-    void addingRefuses();
-    void addingTwice_data();
-    void addingTwice();
+    void addingReturnsAHandleWithFullAccess();
+    void addingRefusesIncompleteRecords_data();
+    void addingRefusesIncompleteRecords();
+    void addingATakenNameFails_data();
+    void addingATakenNameFails();
 
     void deletedPrinterIsGone();
-    void handlesOfADeletedPrinter();
-    void nameOfADeletedPrinterIsFree();
-    void deletingNeedsTheRightToAdminister();
-    void heldPrinterWithJobsIsNotDeleted();
+    void handlesOfADeletedPrinterFail();
+    void nameOfADeletedPrinterCanBeReused();
+    void deletingNeedsAdministerAccess();
+    void pausedPrinterWithJobsIsNotDeleted();
 
 private:
     QString m_name;
@@ -192,7 +192,7 @@ void PrinterRecordsTest::cleanup()
     WindowsApiTest::cleanup();
 }
 
-void PrinterRecordsTest::sizeOfARecord_data()
+void PrinterRecordsTest::recordNeedsTheSizeItReports_data()
 {
     QTest::addColumn<DWORD>("level");
     QTest::addColumn<int>("sizeOfRecord");
@@ -202,7 +202,7 @@ void PrinterRecordsTest::sizeOfARecord_data()
     QTest::newRow("5") << DWORD{5} << static_cast<int>(sizeof(PRINTER_INFO_5W));
 }
 
-void PrinterRecordsTest::sizeOfARecord()
+void PrinterRecordsTest::recordNeedsTheSizeItReports()
 {
     QFETCH(DWORD, level);
     QFETCH(int, sizeOfRecord);
@@ -225,7 +225,7 @@ void PrinterRecordsTest::sizeOfARecord()
     QCOMPARE(larger.needed, needed);
 }
 
-void PrinterRecordsTest::longRecord()
+void PrinterRecordsTest::level2HoldsTheWholeRecord()
 {
     const Block block = getPrinter(m_printer.get(), 2);
     QCOMPARE(block.error, DWORD{ERROR_SUCCESS});
@@ -244,7 +244,7 @@ void PrinterRecordsTest::longRecord()
         QVERIFY(block.holds(text, sizeof record));
 }
 
-void PrinterRecordsTest::shortRecord()
+void PrinterRecordsTest::level1HoldsNameAndDescription()
 {
     const Block block = getPrinter(m_printer.get(), 1);
     QCOMPARE(block.error, DWORD{ERROR_SUCCESS});
@@ -257,8 +257,8 @@ void PrinterRecordsTest::shortRecord()
 }
 
 // https://learn.microsoft.com/windows/win32/printdocs/getprinter lists the levels,
-// reactos/modules/rostests/apitests/winspool/GetPrinter.c asks for each of them.
-void PrinterRecordsTest::recordsOfAFewMembers()
+// reactos/modules/rostests/apitests/winspool/GetPrinter.c calls it with each of them.
+void PrinterRecordsTest::levels4And5HoldAFewMembers()
 {
     const Block names = getPrinter(m_printer.get(), 4);
     QCOMPARE(names.error, DWORD{ERROR_SUCCESS});
@@ -280,21 +280,21 @@ void PrinterRecordsTest::recordsOfAFewMembers()
 
 // https://learn.microsoft.com/openspecs/windows_protocols/ms-rprn/436ef388-39cd-4992-95ac-02ddd2a51193
 // https://learn.microsoft.com/windows/win32/printdocs/printer-info-7
-void PrinterRecordsTest::recordsWithoutTexts()
+void PrinterRecordsTest::levels6And7HoldNoTexts()
 {
     const Block status = getPrinter(m_printer.get(), 6);
     QCOMPARE(status.error, DWORD{ERROR_SUCCESS});
     QCOMPARE(status.needed, static_cast<DWORD>(sizeof(PRINTER_INFO_6)));
     QCOMPARE(status.record<PRINTER_INFO_6>().dwStatus, DWORD{0});
 
-    // No directory service knows this printer.
+    // This printer is not published in a directory service.
     const Block published = getPrinter(m_printer.get(), 7);
     QCOMPARE(published.error, DWORD{ERROR_SUCCESS});
     QCOMPARE(fromWide(published.record<PRINTER_INFO_7W>().pszObjectGUID), QString());
     QCOMPARE(published.record<PRINTER_INFO_7W>().dwAction, DWORD{DSPRINT_UNPUBLISH});
 }
 
-void PrinterRecordsTest::attributes_data()
+void PrinterRecordsTest::recordHoldsTheAttributes_data()
 {
     QTest::addColumn<DWORD>("attributes");
     QTest::newRow("local") << DWORD{PRINTER_ATTRIBUTE_LOCAL};
@@ -302,7 +302,7 @@ void PrinterRecordsTest::attributes_data()
     QTest::newRow("offline") << DWORD{PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_WORK_OFFLINE};
 }
 
-void PrinterRecordsTest::attributes()
+void PrinterRecordsTest::recordHoldsTheAttributes()
 {
     QFETCH(DWORD, attributes);
     const QString name = fixture::uniqueName(QStringLiteral("Vx Attributes"));
@@ -313,14 +313,14 @@ void PrinterRecordsTest::attributes()
     QCOMPARE(block.record<PRINTER_INFO_2W>().Attributes, attributes);
 }
 
-void PrinterRecordsTest::unknownLevel_data()
+void PrinterRecordsTest::unknownLevelIsRefused_data()
 {
     QTest::addColumn<QString>("function");
     QTest::newRow("GetPrinterW") << QStringLiteral("GetPrinterW");
     QTest::newRow("SetPrinterW") << QStringLiteral("SetPrinterW");
 }
 
-void PrinterRecordsTest::unknownLevel()
+void PrinterRecordsTest::unknownLevelIsRefused()
 {
     QFETCH(QString, function);
     constexpr DWORD unknown = 17;
@@ -363,14 +363,14 @@ void PrinterRecordsTest::badHandleFails()
 
 namespace {
 
-/// What every change of a record starts from: the record as it is.
+/// A printer's current record, to be changed and written back.
 struct ChangedRecord
 {
     explicit ChangedRecord(HANDLE printer)
         : block(getPrinter(printer, 2))
         , info(block.record<PRINTER_INFO_2W>())
     {
-        info.pSecurityDescriptor = nullptr; // it is to stay as it is
+        info.pSecurityDescriptor = nullptr; // leaves it unchanged
     }
     BOOL apply(HANDLE printer)
     {
@@ -383,7 +383,7 @@ struct ChangedRecord
 
 } // namespace
 
-void PrinterRecordsTest::changingARecord()
+void PrinterRecordsTest::recordCanBeChanged()
 {
     ChangedRecord changed(m_printer.get());
     WideText comment(QStringLiteral("by the door"));
@@ -405,7 +405,7 @@ void PrinterRecordsTest::changingARecord()
     QCOMPARE(record.Attributes, DWORD{PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_WORK_OFFLINE});
 }
 
-void PrinterRecordsTest::changingTheName()
+void PrinterRecordsTest::printerCanBeRenamed()
 {
     NEEDS_BEHAVIOUR(Behaviour::UniquePrinterNames);
     const QString newName = fixture::uniqueName(QStringLiteral("Vx Renamed"));
@@ -415,13 +415,13 @@ void PrinterRecordsTest::changingTheName()
     QVERIFY(changed.apply(m_printer.get()));
     QVERIFY(listedPrinters(allLocal).contains(newName));
     QVERIFY(!listedPrinters(allLocal).contains(m_name));
-    // The handle is the printer's, not the name's.
+    // The handle belongs to the printer, not to the name.
     QCOMPARE(fromWide(getPrinter(m_printer.get(), 2).record<PRINTER_INFO_2W>().pPrinterName),
              newName);
     QVERIFY(DeletePrinter(m_printer.get()));
 }
 
-void PrinterRecordsTest::changingToANameThatIsTaken()
+void PrinterRecordsTest::renamingToATakenNameFails()
 {
     NEEDS_BEHAVIOUR(Behaviour::UniquePrinterNames);
     const QString taken = fixture::uniqueName(QStringLiteral("Vx Taken"));
@@ -434,7 +434,7 @@ void PrinterRecordsTest::changingToANameThatIsTaken()
     QVERIFY(listedPrinters(allLocal).contains(m_name));
 }
 
-void PrinterRecordsTest::changingNeedsTheRightToAdminister()
+void PrinterRecordsTest::changingNeedsAdministerAccess()
 {
     NEEDS_BEHAVIOUR(Behaviour::AccessRights);
     const PrinterHandle used = openPrinter(m_name, PRINTER_ACCESS_USE);
@@ -445,7 +445,7 @@ void PrinterRecordsTest::changingNeedsTheRightToAdminister()
              DWORD{PRINTER_ATTRIBUTE_LOCAL});
 }
 
-void PrinterRecordsTest::pausing()
+void PrinterRecordsTest::printerCanBePausedAndResumed()
 {
     NEEDS_BEHAVIOUR(Behaviour::PrinterCommands);
     const auto isPaused = [this] {
@@ -458,14 +458,14 @@ void PrinterRecordsTest::pausing()
     QVERIFY(!isPaused());
 }
 
-void PrinterRecordsTest::unknownCommand()
+void PrinterRecordsTest::unknownCommandIsRefused()
 {
     NEEDS_BEHAVIOUR(Behaviour::PrinterCommands);
     QCOMPARE(errorOf([&] { return SetPrinterW(m_printer.get(), 0, nullptr, 99); }),
              DWORD{ERROR_INVALID_PRINTER_COMMAND});
 }
 
-void PrinterRecordsTest::sizeOfAList()
+void PrinterRecordsTest::listNeedsTheSizeItReports()
 {
     const Block sizing = enumPrinters(allLocal, 0);
     QCOMPARE(sizing.error, DWORD{ERROR_INSUFFICIENT_BUFFER});
@@ -509,7 +509,7 @@ void PrinterRecordsTest::listHoldsRecords()
              DWORD{PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_WORK_OFFLINE});
 }
 
-void PrinterRecordsTest::listGrowsBetweenSizingAndFilling()
+void PrinterRecordsTest::grownListDoesNotFitTheReportedSize()
 {
     const DWORD needed = enumPrinters(allLocal, 0).needed;
     QVERIFY(fixture::addPrinter({.name = fixture::uniqueName(QStringLiteral("Vx Late"))}));
@@ -519,18 +519,19 @@ void PrinterRecordsTest::listGrowsBetweenSizingAndFilling()
     QVERIFY(block.needed > needed);
 }
 
-void PrinterRecordsTest::listedByFlags_data()
+void PrinterRecordsTest::flagsSelectThePrinters_data()
 {
     QTest::addColumn<DWORD>("flags");
     QTest::addColumn<bool>("isListed");
     QTest::newRow("local") << DWORD{PRINTER_ENUM_LOCAL} << true;
-    QTest::newRow("by no name") << DWORD{PRINTER_ENUM_NAME} << true;
+    QTest::newRow("by name, without a name") << DWORD{PRINTER_ENUM_NAME} << true;
     QTest::newRow("local and connections") << DWORD{allLocal} << true;
-    QTest::newRow("local and by no name") << DWORD{PRINTER_ENUM_LOCAL | PRINTER_ENUM_NAME} << true;
+    QTest::newRow("local and by name, without a name")
+        << DWORD{PRINTER_ENUM_LOCAL | PRINTER_ENUM_NAME} << true;
     QTest::newRow("connections") << DWORD{PRINTER_ENUM_CONNECTIONS} << false;
 }
 
-void PrinterRecordsTest::listedByFlags()
+void PrinterRecordsTest::flagsSelectThePrinters()
 {
     QFETCH(DWORD, flags);
     QFETCH(bool, isListed);
@@ -538,15 +539,15 @@ void PrinterRecordsTest::listedByFlags()
 }
 
 // https://learn.microsoft.com/windows/win32/printdocs/enumprinters lists the levels,
-// reactos/modules/rostests/apitests/winspool/EnumPrinters.c asks for each of them.
-void PrinterRecordsTest::listOfEachLevel_data()
+// reactos/modules/rostests/apitests/winspool/EnumPrinters.c calls it with each of them.
+void PrinterRecordsTest::eachLevelListsTheSamePrinters_data()
 {
     QTest::addColumn<DWORD>("level");
     for (const DWORD level : {1, 2, 4, 5})
         QTest::addRow("%u", static_cast<unsigned>(level)) << level;
 }
 
-void PrinterRecordsTest::listOfEachLevel()
+void PrinterRecordsTest::eachLevelListsTheSamePrinters()
 {
     QFETCH(DWORD, level);
     const DWORD needed = enumPrinters(allLocal, 0, level).needed;
@@ -565,9 +566,9 @@ void PrinterRecordsTest::listOfEachLevel()
     QCOMPARE(names, listedPrinters(allLocal));
 }
 
-// Without a name, level 1 by name is about who provides printers.
+// With PRINTER_ENUM_NAME but without a name, level 1 lists the print providers.
 // reactos/modules/rostests/apitests/winspool/EnumPrinters.c
-void PrinterRecordsTest::listOfPrintProviders()
+void PrinterRecordsTest::level1ByNameListsPrintProviders()
 {
     NEEDS_BEHAVIOUR(Behaviour::PrintProviders);
     const DWORD needed = enumPrinters(PRINTER_ENUM_LOCAL | PRINTER_ENUM_NAME, 0, 1).needed;
@@ -582,15 +583,15 @@ void PrinterRecordsTest::listOfPrintProviders()
 }
 
 // reactos/modules/rostests/apitests/winspool/EnumPrinters.c
-void PrinterRecordsTest::listByName_data()
+void PrinterRecordsTest::listByNameAcceptsOnlyAProvider_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isKnown");
     QTest::newRow("provider") << QStringLiteral("wInDoWs NT Local Print Providor") << true;
-    QTest::newRow("nobody") << QStringLiteral("LOREM IPSUM") << false;
+    QTest::newRow("unknown") << QStringLiteral("LOREM IPSUM") << false;
 }
 
-void PrinterRecordsTest::listByName()
+void PrinterRecordsTest::listByNameAcceptsOnlyAProvider()
 {
     NEEDS_BEHAVIOUR(Behaviour::PrintProviders);
     QFETCH(QString, name);
@@ -611,7 +612,7 @@ void PrinterRecordsTest::listByName()
     }
 }
 
-void PrinterRecordsTest::listOfNothing()
+void PrinterRecordsTest::emptyListNeedsNoBuffer()
 {
     // No test connects to another machine's printers.
     const Block block = enumPrinters(PRINTER_ENUM_CONNECTIONS, 0);
@@ -621,14 +622,14 @@ void PrinterRecordsTest::listOfNothing()
 }
 
 // reactos/modules/rostests/apitests/winspool/EnumPrinters.c
-void PrinterRecordsTest::listOfAnUnknownLevel_data()
+void PrinterRecordsTest::listOfAnUnknownLevelIsRefused_data()
 {
     QTest::addColumn<DWORD>("level");
     for (const DWORD level : {3, 6, 17})
         QTest::addRow("%u", static_cast<unsigned>(level)) << level;
 }
 
-void PrinterRecordsTest::listOfAnUnknownLevel()
+void PrinterRecordsTest::listOfAnUnknownLevelIsRefused()
 {
     QFETCH(DWORD, level);
     const Block block = enumPrinters(PRINTER_ENUM_LOCAL, 10000, level);
@@ -639,9 +640,9 @@ void PrinterRecordsTest::listOfAnUnknownLevel()
     QCOMPARE(block.returned, noSize);
 }
 
-void PrinterRecordsTest::choosingTheDefaultPrinter()
+void PrinterRecordsTest::defaultPrinterCanBeChosen()
 {
-    const KeptDefaultPrinter kept;
+    const DefaultPrinterRestorer restorer;
     const QString second = fixture::uniqueName(QStringLiteral("Vx Record"));
     QVERIFY(fixture::addPrinter({.name = second}));
     QVERIFY(SetDefaultPrinterW(WideText(second)));
@@ -650,13 +651,13 @@ void PrinterRecordsTest::choosingTheDefaultPrinter()
     QCOMPARE(defaultPrinter(), m_name);
 }
 
-void PrinterRecordsTest::sizeOfTheDefaultPrintersName()
+void PrinterRecordsTest::defaultPrintersNameNeedsTheSizeItReports()
 {
-    const KeptDefaultPrinter kept;
+    const DefaultPrinterRestorer restorer;
     QVERIFY(SetDefaultPrinterW(WideText(m_name)));
     const auto needed = static_cast<DWORD>(m_name.size() + 1);
 
-    // Without a place to write to the count says all the same what is needed.
+    // Without a buffer, the count is still set to the needed size.
     DWORD count = 0;
     QCOMPARE(errorOf([&] { return GetDefaultPrinterW(nullptr, &count); }),
              DWORD{ERROR_INSUFFICIENT_BUFFER});
@@ -677,16 +678,16 @@ void PrinterRecordsTest::sizeOfTheDefaultPrintersName()
     }
 }
 
-void PrinterRecordsTest::defaultPrinterWithoutACount()
+void PrinterRecordsTest::defaultPrinterNeedsACount()
 {
     WCHAR name[300];
     QCOMPARE(errorOf([&] { return GetDefaultPrinterW(name, nullptr); }),
              DWORD{ERROR_INVALID_PARAMETER});
 }
 
-void PrinterRecordsTest::choosingAnAbsentPrinter()
+void PrinterRecordsTest::choosingAnAbsentPrinterFails()
 {
-    const KeptDefaultPrinter kept;
+    const DefaultPrinterRestorer restorer;
     QVERIFY(SetDefaultPrinterW(WideText(m_name)));
     const QString absent = fixture::uniqueName(QStringLiteral("Vx Absent"));
     QCOMPARE(errorOf([&] { return SetDefaultPrinterW(WideText(absent)); }),
@@ -704,7 +705,7 @@ void PrinterRecordsTest::choosingNothingKeepsTheChoice_data()
 void PrinterRecordsTest::choosingNothingKeepsTheChoice()
 {
     QFETCH(bool, null);
-    const KeptDefaultPrinter kept;
+    const DefaultPrinterRestorer restorer;
     QVERIFY(SetDefaultPrinterW(WideText(m_name)));
     WideText empty{QString()};
     const LPCWSTR name = null ? nullptr : static_cast<LPWSTR>(empty);
@@ -712,9 +713,9 @@ void PrinterRecordsTest::choosingNothingKeepsTheChoice()
     QCOMPARE(defaultPrinter(), m_name);
 }
 
-void PrinterRecordsTest::deletedPrinterIsNoDefault()
+void PrinterRecordsTest::deletedPrinterIsNoLongerTheDefault()
 {
-    const KeptDefaultPrinter kept;
+    const DefaultPrinterRestorer restorer;
     const QString second = fixture::uniqueName(QStringLiteral("Vx Record"));
     QVERIFY(fixture::addPrinter({.name = second}));
     QVERIFY(SetDefaultPrinterW(WideText(second)));
@@ -722,11 +723,11 @@ void PrinterRecordsTest::deletedPrinterIsNoDefault()
     QVERIFY(defaultPrinter() != second);
 }
 
-// https://learn.microsoft.com/windows/win32/printdocs/getdefaultprinter knows no other failures
-// than a short buffer and no default printer: the choice is the user's, in the user's registry.
+// https://learn.microsoft.com/windows/win32/printdocs/getdefaultprinter documents no failures other
+// than a short buffer and a missing default printer: the choice is stored in the user's registry.
 void PrinterRecordsTest::defaultPrinterNeedsNoSpooler()
 {
-    const KeptDefaultPrinter kept;
+    const DefaultPrinterRestorer restorer;
     QVERIFY(SetDefaultPrinterW(WideText(m_name)));
     const bool hasStopped = fixture::setSpoolerRunning(false);
     const QString answer = defaultPrinter();
@@ -740,40 +741,24 @@ void PrinterRecordsTest::defaultPrinterNeedsNoSpooler()
 
 namespace {
 
-/// A record that AddPrinterW takes.
-struct NewRecord
+/// A record for AddPrinterW, with texts that fixture::addPrinter() leaves out.
+struct NewRecord : fixture::NewPrinter
 {
     explicit NewRecord(const QString& printerName)
-        : name(printerName)
+        : NewPrinter({.name = printerName, .driver = QStringLiteral("Vx Record Driver")})
     {
-        info.pPrinterName = name;
-        info.pDriverName = driver;
-        info.pPortName = port;
-        info.pPrintProcessor = processor;
-        info.pDatatype = datatype;
         info.pComment = comment;
         info.pLocation = location;
-        info.Attributes = PRINTER_ATTRIBUTE_LOCAL;
-    }
-    HANDLE add(DWORD level = 2)
-    {
-        return AddPrinterW(nullptr, level, reinterpret_cast<LPBYTE>(&info));
     }
 
-    WideText name;
-    WideText driver{QStringLiteral("Vx Record Driver")};
-    WideText port{QStringLiteral("USB001")};
-    WideText processor{QStringLiteral("WinPrint")};
-    WideText datatype{QStringLiteral("RAW")};
     WideText comment{QStringLiteral("new")};
     WideText location{QStringLiteral("Hall 1")};
     WideText empty{QString()};
-    PRINTER_INFO_2W info{};
 };
 
 } // namespace
 
-void PrinterRecordsTest::addingGivesAHandleThatAdministers()
+void PrinterRecordsTest::addingReturnsAHandleWithFullAccess()
 {
     const QString name = fixture::uniqueName(QStringLiteral("Vx Added"));
     NewRecord added(name);
@@ -792,7 +777,7 @@ void PrinterRecordsTest::addingGivesAHandleThatAdministers()
     QVERIFY(DeletePrinter(printer.get()));
 }
 
-void PrinterRecordsTest::addingRefuses_data()
+void PrinterRecordsTest::addingRefusesIncompleteRecords_data()
 {
     QTest::addColumn<QString>("what");
     QTest::addColumn<DWORD>("error");
@@ -807,7 +792,7 @@ void PrinterRecordsTest::addingRefuses_data()
     row("no port", ERROR_UNKNOWN_PORT);
 }
 
-void PrinterRecordsTest::addingRefuses()
+void PrinterRecordsTest::addingRefusesIncompleteRecords()
 {
     QFETCH(QString, what);
     QFETCH(DWORD, error);
@@ -833,14 +818,14 @@ void PrinterRecordsTest::addingRefuses()
     QCOMPARE(listedPrinters(allLocal), before);
 }
 
-void PrinterRecordsTest::addingTwice_data()
+void PrinterRecordsTest::addingATakenNameFails_data()
 {
     QTest::addColumn<bool>("otherCase");
     QTest::newRow("same name") << false;
-    QTest::newRow("in capitals") << true;
+    QTest::newRow("in upper case") << true;
 }
 
-void PrinterRecordsTest::addingTwice()
+void PrinterRecordsTest::addingATakenNameFails()
 {
     NEEDS_BEHAVIOUR(Behaviour::UniquePrinterNames);
     QFETCH(bool, otherCase);
@@ -852,7 +837,7 @@ void PrinterRecordsTest::addingTwice()
 void PrinterRecordsTest::deletedPrinterIsGone()
 {
     QVERIFY(DeletePrinter(m_printer.get()));
-    // The handle has to be closed all the same.
+    // The handle still has to be closed.
     QVERIFY(ClosePrinter(m_printer.release()));
     QVERIFY(!listedPrinters(allLocal).contains(m_name));
     HANDLE handle = nullptr;
@@ -860,7 +845,7 @@ void PrinterRecordsTest::deletedPrinterIsGone()
              DWORD{ERROR_INVALID_PRINTER_NAME});
 }
 
-void PrinterRecordsTest::handlesOfADeletedPrinter()
+void PrinterRecordsTest::handlesOfADeletedPrinterFail()
 {
     NEEDS_BEHAVIOUR(Behaviour::DeletedPrinters);
     const PrinterHandle other = openPrinter(m_name);
@@ -876,7 +861,7 @@ void PrinterRecordsTest::handlesOfADeletedPrinter()
     }
 }
 
-void PrinterRecordsTest::nameOfADeletedPrinterIsFree()
+void PrinterRecordsTest::nameOfADeletedPrinterCanBeReused()
 {
     BYTE data = 1;
     QCOMPARE(SetPrinterDataW(m_printer.get(), WideText(QStringLiteral("x")), REG_BINARY, &data, 1),
@@ -885,14 +870,14 @@ void PrinterRecordsTest::nameOfADeletedPrinterIsFree()
     m_printer.reset();
     QVERIFY(fixture::addPrinter({.name = m_name}));
     m_printer = openPrinter(m_name);
-    // It is another printer, without the values of the deleted one.
+    // This is a new printer, without the values of the deleted one.
     DWORD needed = 0;
     QCOMPARE(
         GetPrinterDataW(m_printer.get(), WideText(QStringLiteral("x")), nullptr, &data, 1, &needed),
         DWORD{ERROR_FILE_NOT_FOUND});
 }
 
-void PrinterRecordsTest::deletingNeedsTheRightToAdminister()
+void PrinterRecordsTest::deletingNeedsAdministerAccess()
 {
     NEEDS_BEHAVIOUR(Behaviour::AccessRights);
     const PrinterHandle used = openPrinter(m_name, PRINTER_ACCESS_USE);
@@ -901,7 +886,7 @@ void PrinterRecordsTest::deletingNeedsTheRightToAdminister()
 }
 
 // https://learn.microsoft.com/windows/win32/printdocs/deleteprinter
-void PrinterRecordsTest::heldPrinterWithJobsIsNotDeleted()
+void PrinterRecordsTest::pausedPrinterWithJobsIsNotDeleted()
 {
     NEEDS_BEHAVIOUR(Behaviour::PrinterCommands);
     WideText datatype(QStringLiteral("RAW"));
@@ -912,7 +897,7 @@ void PrinterRecordsTest::heldPrinterWithJobsIsNotDeleted()
     QCOMPARE(errorOf([&] { return DeletePrinter(m_printer.get()); }), DWORD{ERROR_ACCESS_DENIED});
     QVERIFY(listedPrinters(allLocal).contains(m_name));
 
-    // Held without a job it can be.
+    // A paused printer without jobs can be deleted.
     QVERIFY(SetPrinterW(m_printer.get(), 0, nullptr, PRINTER_CONTROL_PURGE));
     QVERIFY(DeletePrinter(m_printer.get()));
 }

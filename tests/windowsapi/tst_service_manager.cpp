@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// The service manager's answers about the service "Spooler".
+// The service manager, and how it reports the state of the service "Spooler".
 
 #include "fixture.h"
 
@@ -30,28 +30,28 @@ class ServiceManagerTest : public WindowsApiTest
 private Q_SLOTS:
     void opensTheLocalManager_data();
     void opensTheLocalManager();
-    void databaseThatCannotBeOpened_data();
-    void databaseThatCannotBeOpened();
+    void otherDatabasesAreRefused_data();
+    void otherDatabasesAreRefused();
     void opensTheSpooler_data();
     void opensTheSpooler();
-    void unknownService();
-    void serviceWithoutAName();
+    void unknownServiceIsRefused();
+    void serviceNameIsRequired();
     void statusFollowsTheService();
-    void statusOfAStoppedService();
-    void statusNeedsTheRightToAskForIt();
-    void statusWithoutAPlaceForIt();
+    void stoppedServiceAcceptsNothing();
+    void statusNeedsQueryAccess();
+    void statusNeedsAPointer();
     void badHandleFails_data();
     void badHandleFails();
-    void serviceIsNoManager();
-    void managerIsNoService();
+    void serviceIsNotAManager();
+    void managerIsNotAService();
     void serviceOutlivesTheManagersHandle();
 };
 
 void ServiceManagerTest::opensTheLocalManager_data()
 {
     QTest::addColumn<QString>("database");
-    QTest::newRow("no name") << QString();
-    QTest::newRow("by name") << QStringLiteral("ServicesActive");
+    QTest::newRow("no database name") << QString();
+    QTest::newRow("by its name") << QStringLiteral("ServicesActive");
 }
 
 void ServiceManagerTest::opensTheLocalManager()
@@ -65,7 +65,7 @@ void ServiceManagerTest::opensTheLocalManager()
 }
 
 // wine/dlls/advapi32/tests/service.c, test_open_scm
-void ServiceManagerTest::databaseThatCannotBeOpened_data()
+void ServiceManagerTest::otherDatabasesAreRefused_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<DWORD>("error");
@@ -74,7 +74,7 @@ void ServiceManagerTest::databaseThatCannotBeOpened_data()
         << QStringLiteral("ServicesFailed") << DWORD{ERROR_DATABASE_DOES_NOT_EXIST};
 }
 
-void ServiceManagerTest::databaseThatCannotBeOpened()
+void ServiceManagerTest::otherDatabasesAreRefused()
 {
     QFETCH(QString, name);
     QFETCH(DWORD, error);
@@ -87,9 +87,9 @@ void ServiceManagerTest::databaseThatCannotBeOpened()
 void ServiceManagerTest::opensTheSpooler_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("as it is written") << spooler;
-    QTest::newRow("in small letters") << spooler.toLower();
-    QTest::newRow("in capitals") << spooler.toUpper();
+    QTest::newRow("as usually written") << spooler;
+    QTest::newRow("in lower case") << spooler.toLower();
+    QTest::newRow("in upper case") << spooler.toUpper();
 }
 
 void ServiceManagerTest::opensTheSpooler()
@@ -100,7 +100,7 @@ void ServiceManagerTest::opensTheSpooler()
     QVERIFY(openService(manager, name));
 }
 
-void ServiceManagerTest::unknownService()
+void ServiceManagerTest::unknownServiceIsRefused()
 {
     const ServiceHandle manager = openManager();
     QVERIFY(manager);
@@ -110,7 +110,7 @@ void ServiceManagerTest::unknownService()
 }
 
 // wine/dlls/advapi32/tests/service.c, test_open_svc
-void ServiceManagerTest::serviceWithoutAName()
+void ServiceManagerTest::serviceNameIsRequired()
 {
     const ServiceHandle manager = openManager();
     QVERIFY(manager);
@@ -138,7 +138,7 @@ void ServiceManagerTest::statusFollowsTheService()
     }
 }
 
-void ServiceManagerTest::statusOfAStoppedService()
+void ServiceManagerTest::stoppedServiceAcceptsNothing()
 {
     QVERIFY(fixture::setSpoolerRunning(false));
     const ServiceHandle manager = openManager();
@@ -152,7 +152,7 @@ void ServiceManagerTest::statusOfAStoppedService()
     QCOMPARE(status.dwCheckPoint, DWORD{0});
 }
 
-void ServiceManagerTest::statusNeedsTheRightToAskForIt()
+void ServiceManagerTest::statusNeedsQueryAccess()
 {
     const ServiceHandle manager = openManager();
     const ServiceHandle service = openService(manager, spooler, SERVICE_QUERY_CONFIG);
@@ -165,11 +165,11 @@ void ServiceManagerTest::statusNeedsTheRightToAskForIt()
 }
 
 // wine/dlls/advapi32/tests/service.c, test_query_svc
-void ServiceManagerTest::statusWithoutAPlaceForIt()
+void ServiceManagerTest::statusNeedsAPointer()
 {
     expectMisuse(QStringLiteral("QueryServiceStatus"));
     const ServiceHandle manager = openManager();
-    // The place is looked at before the right to ask, and after the handle.
+    // The pointer is checked after the handle and before the access.
     for (const DWORD access : {SERVICE_QUERY_STATUS, SERVICE_QUERY_CONFIG}) {
         const ServiceHandle service = openService(manager, spooler, access);
         QVERIFY(service);
@@ -211,7 +211,7 @@ void ServiceManagerTest::badHandleFails()
     QCOMPARE(error, DWORD{ERROR_INVALID_HANDLE});
 }
 
-void ServiceManagerTest::serviceIsNoManager()
+void ServiceManagerTest::serviceIsNotAManager()
 {
     expectMisuse(QStringLiteral("OpenServiceW"));
     const ServiceHandle manager = openManager();
@@ -221,7 +221,7 @@ void ServiceManagerTest::serviceIsNoManager()
              DWORD{ERROR_INVALID_HANDLE});
 }
 
-void ServiceManagerTest::managerIsNoService()
+void ServiceManagerTest::managerIsNotAService()
 {
     expectMisuse(QStringLiteral("QueryServiceStatus"));
     const ServiceHandle manager = openManager();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// Serial numbers from the device registry, and the file that remembers them.
+// Serial numbers from the device registry, and the file in which they are recorded.
 #include "machine_test.h"
 
 #include "windows_printer_info.h"
@@ -18,7 +18,7 @@ QString text(const char* characters)
     return QString::fromUtf8(characters);
 }
 
-/// A device-interface key of the maker, as Windows names them.
+/// The key of a device interface of the maker, named as Windows names it.
 QString makersDevice(int instance)
 {
     return QStringLiteral("##?#USB#VID_3E7A&PID_0102&MI_00#7&2f3ea1c5&0&%1#")
@@ -43,20 +43,20 @@ private Q_SLOTS:
     void portNumbers_data();
     void portNumbers();
     void firstDeviceOnAPortWins();
-    void devicesOfOthersInTheClassCount();
+    void devicesOfOtherMakersInTheClassCount();
     void missingSerialNumber();
     void classWithoutUsableParameters();
     void registryPathsThatAreRead();
-    void fileIsTheUsers();
-    void firstSightIsKept();
-    void othersFilesDoNotCount_data();
-    void othersFilesDoNotCount();
+    void fileIsInTheUsersScope();
+    void timeOfFirstSightIsPreserved();
+    void filesOfWiderScopeAreIgnored_data();
+    void filesOfWiderScopeAreIgnored();
     void emptySerialNumberIsNotRecorded();
-    void everythingElseInTheFileIsKept();
+    void otherContentsOfTheFileArePreserved();
     void serialNumbersWithOddCharacters_data();
     void serialNumbersWithOddCharacters();
-    void enumerationRecordsWhatMatches();
-    void fileThatCannotBeWritten();
+    void enumerationRecordsMatchingSerialNumbers();
+    void fileThatCannotBeWrittenIsIgnored();
 
 private:
     QString filePath() const
@@ -122,7 +122,7 @@ void DeviceSerialNumbersTest::firstClassListedWins()
     machine().addDevice({otherClass, makersDevice(1), 1U, text("FIRST")});
     machine().addDevice({makersClass, makersDevice(2), 1U, text("SECOND")});
     QCOMPARE(WindowsPrinterInfo::getDriverGUID(), otherClass);
-    // Only that class is searched, all of it.
+    // Only this class is searched, but all of it.
     QCOMPARE(WindowsPrinterInfo::getDeviceSerialNumber(1), text("FOREIGN"));
     QCOMPARE(WindowsPrinterInfo::getDeviceSerialNumber(2), text("FIRST"));
 }
@@ -179,7 +179,7 @@ void DeviceSerialNumbersTest::firstDeviceOnAPortWins()
     QCOMPARE(recorded(), QStringList{text("FIRST")});
 }
 
-void DeviceSerialNumbersTest::devicesOfOthersInTheClassCount()
+void DeviceSerialNumbersTest::devicesOfOtherMakersInTheClassCount()
 {
     machine().addDevice({makersClass, foreignDevice, 4U, text("FOREIGN")});
     machine().addDevice({makersClass, makersDevice(1), 1U, text("ONE")});
@@ -191,7 +191,7 @@ void DeviceSerialNumbersTest::missingSerialNumber()
     machine().addDevice({makersClass, makersDevice(1), 1U, text("ONE")});
     machine().addDevice({makersClass, makersDevice(2), 2U, {}});
     QVERIFY(WindowsPrinterInfo::getDeviceSerialNumber(2).isEmpty());
-    // The last one examined has none, so neither has the answer.
+    // The last device has no serial number, so the result is empty.
     QVERIFY(WindowsPrinterInfo::getDeviceSerialNumber(9).isEmpty());
     QVERIFY(!QFile::exists(filePath()));
 }
@@ -209,10 +209,9 @@ void DeviceSerialNumbersTest::registryPathsThatAreRead()
     machine().addDevice({makersClass, makersDevice(1), 1U, text("ONE")});
     machine().recordCalls();
     WindowsPrinterInfo::getDeviceSerialNumber(1);
-    const QString root =
-        text("HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control\\DeviceClasses\\");
+    const QString root = text(R"(HKEY_LOCAL_MACHINE\SYSTEM\ControlSet001\Control\DeviceClasses\)");
     const QString parameters =
-        root + makersClass + text("\\") + makersDevice(1) + text("\\#\\Device Parameters");
+        root + makersClass + text(R"(\)") + makersDevice(1) + text(R"(\#\Device Parameters)");
     QList<QStringList> read;
     const QList<virtualwindows::Call> calls = machine().calls(text("RegistryKey"));
     for (const virtualwindows::Call& call : calls)
@@ -224,7 +223,7 @@ void DeviceSerialNumbersTest::registryPathsThatAreRead()
                                        {parameters, text("Serial Number")}}));
 }
 
-void DeviceSerialNumbersTest::fileIsTheUsers()
+void DeviceSerialNumbersTest::fileIsInTheUsersScope()
 {
     const QDateTime before = QDateTime::currentDateTime();
     WindowsPrinterInfo::addPrinterSerialToIniFile(text("4711"));
@@ -238,7 +237,7 @@ void DeviceSerialNumbersTest::fileIsTheUsers()
     QVERIFY(seen.addSecs(1) >= before && seen <= QDateTime::currentDateTime());
 }
 
-void DeviceSerialNumbersTest::firstSightIsKept()
+void DeviceSerialNumbersTest::timeOfFirstSightIsPreserved()
 {
     QDir().mkpath(QFileInfo(filePath()).path());
     QSettings(filePath(), QSettings::IniFormat)
@@ -249,7 +248,7 @@ void DeviceSerialNumbersTest::firstSightIsKept()
     QCOMPARE(firstSeen(text("ONE")), text("2001-02-03 04:05:06"));
 }
 
-void DeviceSerialNumbersTest::othersFilesDoNotCount_data()
+void DeviceSerialNumbersTest::filesOfWiderScopeAreIgnored_data()
 {
     QTest::addColumn<QString>("fileName"); // in the folder of the user's settings
     QTest::newRow("the organisation's") << text("Harlow Devices Inc.ini");
@@ -257,8 +256,8 @@ void DeviceSerialNumbersTest::othersFilesDoNotCount_data()
     QTest::newRow("the system's, the organisation's") << text("system/Harlow Devices Inc.ini");
 }
 
-/// Settings of a wider scope are what others have seen.
-void DeviceSerialNumbersTest::othersFilesDoNotCount()
+/// Settings of a wider scope are those of other users.
+void DeviceSerialNumbersTest::filesOfWiderScopeAreIgnored()
 {
     QFETCH(const QString, fileName);
     QSettings::setPath(QSettings::IniFormat, QSettings::SystemScope,
@@ -282,7 +281,7 @@ void DeviceSerialNumbersTest::emptySerialNumberIsNotRecorded()
     QVERIFY(!QFile::exists(filePath()));
 }
 
-void DeviceSerialNumbersTest::everythingElseInTheFileIsKept()
+void DeviceSerialNumbersTest::otherContentsOfTheFileArePreserved()
 {
     QDir().mkpath(QFileInfo(filePath()).path());
     {
@@ -317,7 +316,7 @@ void DeviceSerialNumbersTest::serialNumbersWithOddCharacters()
     QCOMPARE(firstSeen(serialNumber), stamp);
 }
 
-void DeviceSerialNumbersTest::enumerationRecordsWhatMatches()
+void DeviceSerialNumbersTest::enumerationRecordsMatchingSerialNumbers()
 {
     machine().addDevice({makersClass, makersDevice(1), 1U, text("ONE")});
     machine().addDevice({makersClass, makersDevice(2), 2U, text("TWO")});
@@ -330,9 +329,9 @@ void DeviceSerialNumbersTest::enumerationRecordsWhatMatches()
     QCOMPARE(recorded(), (QStringList{text("ONE"), text("TWO")}));
 }
 
-void DeviceSerialNumbersTest::fileThatCannotBeWritten()
+void DeviceSerialNumbersTest::fileThatCannotBeWrittenIsIgnored()
 {
-    // A file where the folder would have to be.
+    // There is a file in the place of the folder.
     QFile file(settingsFolder() + text("/Harlow Devices Inc"));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.close();

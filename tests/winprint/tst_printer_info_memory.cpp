@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// Blocks from the spooler: what happens without memory, and that each is released on every path.
+// Blocks for the spooler: what happens without memory, and that each block is released on every
+// path.
 #include "log_recorder.h"
 #include "machine_test.h"
 
@@ -14,7 +15,7 @@
 
 namespace {
 
-// What the library's own objects allocate; nothing else in the process goes through here.
+// The blocks that the library's own objects allocate; nothing else in the process is counted.
 std::set<void*> allocated;
 int allocationsUntilFailure = -1;
 
@@ -28,9 +29,12 @@ void* allocate(Allocation allocation)
     return block;
 }
 
+const QString printerName = QStringLiteral("Printer");
+
 } // namespace
 
-// Visible: a sanitizer's library refers to them as well.
+// Exported, because a sanitizer's library refers to them as well. The linker's option --wrap
+// prescribes the names. NOLINTBEGIN(bugprone-reserved-identifier, readability-identifier-naming)
 extern "C" {
 void* __real_malloc(std::size_t size);
 void* __real_calloc(std::size_t count, std::size_t size);
@@ -41,7 +45,7 @@ Q_DECL_EXPORT void* __wrap_malloc(std::size_t size)
     return allocate([&] { return __real_malloc(size); });
 }
 
-// What an optimizing compiler makes of malloc and clearing.
+// An optimizing compiler replaces malloc and clearing by this.
 Q_DECL_EXPORT void* __wrap_calloc(std::size_t count, std::size_t size)
 {
     return allocate([&] { return __real_calloc(count, size); });
@@ -53,52 +57,54 @@ Q_DECL_EXPORT void __wrap_free(void* block)
     __real_free(block);
 }
 }
+// NOLINTEND(bugprone-reserved-identifier, readability-identifier-naming)
 
 class PrinterInfoMemoryTest : public MachineTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override
-    {
-        MachineTest::init();
-        machine().addPrinter(
-            {.name = QStringLiteral("Printer"), .driver = QStringLiteral("Stratamark Alder")});
-        allocated.clear();
-        allocationsUntilFailure = -1;
-    }
-    void cleanup() override
-    {
-        allocationsUntilFailure = -1;
-        QVERIFY(allocated.empty());
-        MachineTest::cleanup();
-    }
+    void init() override;
+    void cleanup() override;
 
-    void recordIsTheCallersToRelease();
-    void recordWithoutMemory();
-    void offlineWithoutMemory();
-    void enumerationWithoutMemory();
-    void nameWithoutMemory();
-    void everyPathReleases();
-    void raisingReleases();
-
-private:
-    static const inline QString m_name = QStringLiteral("Printer");
+    void callerReleasesTheRecord();
+    void recordWithoutMemoryIsNull();
+    void printerWithoutMemoryCountsAsOffline();
+    void enumerationWithoutMemoryIsEmpty();
+    void nameWithoutMemoryIsEmpty();
+    void everyPathReleasesItsBlock();
+    void exceptionReleasesTheBlock();
 };
 
-void PrinterInfoMemoryTest::recordIsTheCallersToRelease()
+void PrinterInfoMemoryTest::init()
 {
-    const PrinterHandle printer = openPrinter(m_name);
+    MachineTest::init();
+    machine().addPrinter(
+        {.name = QStringLiteral("Printer"), .driver = QStringLiteral("Stratamark Alder")});
+    allocated.clear();
+    allocationsUntilFailure = -1;
+}
+
+void PrinterInfoMemoryTest::cleanup()
+{
+    allocationsUntilFailure = -1;
+    QVERIFY(allocated.empty());
+    MachineTest::cleanup();
+}
+
+void PrinterInfoMemoryTest::callerReleasesTheRecord()
+{
+    const PrinterHandle printer = openPrinter(printerName);
     PRINTER_INFO_2W* info = WindowsPrinterInfo::getPrinterInfo2(printer.get());
     QVERIFY(info);
     QCOMPARE(allocated, std::set<void*>{info});
     std::free(info);
 }
 
-void PrinterInfoMemoryTest::recordWithoutMemory()
+void PrinterInfoMemoryTest::recordWithoutMemoryIsNull()
 {
     const LogRecorder log;
-    const PrinterHandle printer = openPrinter(m_name);
+    const PrinterHandle printer = openPrinter(printerName);
     allocationsUntilFailure = 1;
     QVERIFY(!WindowsPrinterInfo::getPrinterInfo2(printer.get()));
     QCOMPARE(log.records(),
@@ -109,49 +115,49 @@ void PrinterInfoMemoryTest::recordWithoutMemory()
     QCOMPARE(machine().callCount(QStringLiteral("GetPrinterW")), 1);
 }
 
-void PrinterInfoMemoryTest::offlineWithoutMemory()
+void PrinterInfoMemoryTest::printerWithoutMemoryCountsAsOffline()
 {
-    QVERIFY(!WindowsPrinterInfo::isPrinterOffline(m_name));
+    QVERIFY(!WindowsPrinterInfo::isPrinterOffline(printerName));
     allocationsUntilFailure = 1;
-    QVERIFY(WindowsPrinterInfo::isPrinterOffline(m_name));
+    QVERIFY(WindowsPrinterInfo::isPrinterOffline(printerName));
 }
 
-void PrinterInfoMemoryTest::enumerationWithoutMemory()
+void PrinterInfoMemoryTest::enumerationWithoutMemoryIsEmpty()
 {
     QCOMPARE(WindowsPrinterInfo::getAvailablePrinters().size(), 1);
     allocationsUntilFailure = 1;
     QVERIFY(WindowsPrinterInfo::getAvailablePrinters().isEmpty());
 }
 
-void PrinterInfoMemoryTest::nameWithoutMemory()
+void PrinterInfoMemoryTest::nameWithoutMemoryIsEmpty()
 {
     PrinterStatusThread thread;
-    const PrinterHandle printer = openPrinter(m_name);
-    QCOMPARE(thread.getPrinterNameFromHandle(printer.get()), m_name);
+    const PrinterHandle printer = openPrinter(printerName);
+    QCOMPARE(thread.getPrinterNameFromHandle(printer.get()), printerName);
     allocationsUntilFailure = 1;
     QVERIFY(thread.getPrinterNameFromHandle(printer.get()).isEmpty());
 }
 
-void PrinterInfoMemoryTest::everyPathReleases()
+void PrinterInfoMemoryTest::everyPathReleasesItsBlock()
 {
     WindowsPrinterInfo::getAvailablePrinters();
-    WindowsPrinterInfo::getAvailablePrinterInfo(m_name);
-    WindowsPrinterInfo::isPrinterOffline(m_name);
+    WindowsPrinterInfo::getAvailablePrinterInfo(printerName);
+    WindowsPrinterInfo::isPrinterOffline(printerName);
     QVERIFY(allocated.empty());
 
     for (const char* function : {"EnumPrintersW", "GetPrinterW"}) {
         for (int call : {1, 2}) {
             machine().failCall(QString::fromLatin1(function), call, ERROR_ACCESS_DENIED);
             WindowsPrinterInfo::getAvailablePrinters();
-            WindowsPrinterInfo::getAvailablePrinterInfo(m_name);
-            WindowsPrinterInfo::isPrinterOffline(m_name);
+            WindowsPrinterInfo::getAvailablePrinterInfo(printerName);
+            WindowsPrinterInfo::isPrinterOffline(printerName);
             machine().clearFailures();
             QVERIFY(allocated.empty());
         }
     }
 }
 
-void PrinterInfoMemoryTest::raisingReleases()
+void PrinterInfoMemoryTest::exceptionReleasesTheBlock()
 {
     machine().addPrinter({.name = QString(), .driver = QStringLiteral("Stratamark Alder")});
     QVERIFY_EXCEPTION_THROWN(WindowsPrinterInfo::getAvailablePrinters(), std::logic_error);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// Which model a driver's name stands for.
+// Which model is recognised by a driver's name.
 #include "windows_printer_info.h"
 
 #include <QtTest/QtTest>

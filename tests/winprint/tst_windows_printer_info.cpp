@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// What is told of the spooler's printers.
+// What WindowsPrinterInfo returns about the spooler's printers.
 #include "log_recorder.h"
 #include "machine_test.h"
 
@@ -39,39 +39,31 @@ class WindowsPrinterInfoTest : public MachineTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override
-    {
-        MachineTest::init();
-        m_log.emplace();
-    }
-    void cleanup() override
-    {
-        m_log.reset();
-        MachineTest::cleanup();
-    }
+    void init() override;
+    void cleanup() override;
 
     void noPrinters();
     void defaultRecord();
     void printersInTheSpoolersOrder();
-    void portNames_data();
-    void portNames();
-    void networkPrinters_data();
-    void networkPrinters();
-    void sharedAndOfflinePrinters_data();
-    void sharedAndOfflinePrinters();
-    void printerWithoutAText_data();
-    void printerWithoutAText();
-    void enumerationCallsInOrder();
-    void enumerationThatFails_data();
-    void enumerationThatFails();
+    void usbIsRemovedFromPortNames_data();
+    void usbIsRemovedFromPortNames();
+    void networkPrintersAreRecognised_data();
+    void networkPrintersAreRecognised();
+    void sharedAndOfflinePrintersAreRecognised_data();
+    void sharedAndOfflinePrintersAreRecognised();
+    void printerWithoutATextRaises_data();
+    void printerWithoutATextRaises();
+    void enumerationMakesItsCallsInOrder();
+    void failedEnumerationIsEmpty_data();
+    void failedEnumerationIsEmpty();
     void enumerationReadsTheRegistryOnce();
-    void enumerationAnswersAsSingleQuestionsDo();
+    void enumerationMatchesSingleQueries();
 
     void infoOfOnePrinter();
-    void infoKeepsTheNameGiven();
-    void infoOfAnUnknownPrinter();
+    void infoHasTheNameThatWasPassed();
+    void infoOfAnUnknownPrinterHasDefaults();
     void infoOfAPrinterWithoutTexts();
-    void infoWhoseRecordCannotBeRead();
+    void infoWithoutARecordHasDefaults();
 
     void offlineByName();
     void offlineByHandle();
@@ -80,12 +72,12 @@ private Q_SLOTS:
 
     void administrable();
     void defaultPrinter();
-    void defaultPrinterThatIsNotThere_data();
-    void defaultPrinterThatIsNotThere();
+    void missingDefaultPrinterIsEmpty_data();
+    void missingDefaultPrinterIsEmpty();
 
     void recordOfAPrinter();
-    void recordThatCannotBeSized();
-    void recordThatCannotBeRead();
+    void failedSizingIsLogged();
+    void failedReadingIsLogged();
 
 private:
     void addPrinter(const char* printer, const PrinterSetup& setup = {})
@@ -105,6 +97,18 @@ private:
 
     std::optional<LogRecorder> m_log;
 };
+
+void WindowsPrinterInfoTest::init()
+{
+    MachineTest::init();
+    m_log.emplace();
+}
+
+void WindowsPrinterInfoTest::cleanup()
+{
+    m_log.reset();
+    MachineTest::cleanup();
+}
 
 void WindowsPrinterInfoTest::noPrinters()
 {
@@ -135,7 +139,7 @@ void WindowsPrinterInfoTest::printersInTheSpoolersOrder()
     QCOMPARE(printers.first().portName, QStringLiteral("LPT1:"));
 }
 
-void WindowsPrinterInfoTest::portNames_data()
+void WindowsPrinterInfoTest::usbIsRemovedFromPortNames_data()
 {
     QTest::addColumn<QString>("port");
     QTest::addColumn<QString>("kept");
@@ -153,18 +157,18 @@ void WindowsPrinterInfoTest::portNames_data()
     row("USB65537", "65537", "ONE");
     row("USB4294901761", "4294901761", "ONE"); // 0xFFFF0001
     row("USB002", "002", "TWO");
-    // Numbers that they are not count as port 0, which a device may have.
+    // Texts that are not numbers count as port 0, which a device may have.
     row("USB4294967297", "4294967297", "ZERO");
     row("usb001", "usb001", "ZERO");
     row("LPT1:", "LPT1:", "ZERO");
     row("USB", "", "ZERO");
     row("USB0x1", "0x1", "ZERO");
     row("USB-1", "-1", "ZERO");
-    // No device on it: the last one looked at.
+    // No device is on it: the result is that of the last one.
     row("USB007", "007", "LAST");
 }
 
-void WindowsPrinterInfoTest::portNames()
+void WindowsPrinterInfoTest::usbIsRemovedFromPortNames()
 {
     QFETCH(const QString, port);
     QFETCH(const QString, kept);
@@ -184,7 +188,7 @@ void WindowsPrinterInfoTest::portNames()
              serialNumber);
 }
 
-void WindowsPrinterInfoTest::networkPrinters_data()
+void WindowsPrinterInfoTest::networkPrintersAreRecognised_data()
 {
     QTest::addColumn<quint32>("attributes");
     QTest::addColumn<QString>("port");
@@ -205,7 +209,7 @@ void WindowsPrinterInfoTest::networkPrinters_data()
     QTest::newRow("four parts and a port") << local << name("1.2.3.4:9100") << true;
 }
 
-void WindowsPrinterInfoTest::networkPrinters()
+void WindowsPrinterInfoTest::networkPrintersAreRecognised()
 {
     QFETCH(const quint32, attributes);
     QFETCH(const QString, port);
@@ -216,7 +220,7 @@ void WindowsPrinterInfoTest::networkPrinters()
              isNetwork);
 }
 
-void WindowsPrinterInfoTest::sharedAndOfflinePrinters_data()
+void WindowsPrinterInfoTest::sharedAndOfflinePrintersAreRecognised_data()
 {
     QTest::addColumn<quint32>("attributes");
     QTest::addColumn<quint32>("status");
@@ -233,7 +237,7 @@ void WindowsPrinterInfoTest::sharedAndOfflinePrinters_data()
     QTest::newRow("every other attribute") << ~(0x400U | 0x8U | network) << 0U << false << false;
 }
 
-void WindowsPrinterInfoTest::sharedAndOfflinePrinters()
+void WindowsPrinterInfoTest::sharedAndOfflinePrintersAreRecognised()
 {
     QFETCH(const quint32, attributes);
     QFETCH(const quint32, status);
@@ -247,7 +251,7 @@ void WindowsPrinterInfoTest::sharedAndOfflinePrinters()
     }
 }
 
-void WindowsPrinterInfoTest::printerWithoutAText_data()
+void WindowsPrinterInfoTest::printerWithoutATextRaises_data()
 {
     QTest::addColumn<QString>("printer");
     QTest::addColumn<QString>("port");
@@ -261,7 +265,7 @@ void WindowsPrinterInfoTest::printerWithoutAText_data()
     QTest::newRow("no driver") << some << some << QString() << true;
 }
 
-void WindowsPrinterInfoTest::printerWithoutAText()
+void WindowsPrinterInfoTest::printerWithoutATextRaises()
 {
     QFETCH(const QString, printer);
     QFETCH(const QString, port);
@@ -275,7 +279,7 @@ void WindowsPrinterInfoTest::printerWithoutAText()
         QCOMPARE(WindowsPrinterInfo::getAvailablePrinters().size(), 2);
 }
 
-void WindowsPrinterInfoTest::enumerationCallsInOrder()
+void WindowsPrinterInfoTest::enumerationMakesItsCallsInOrder()
 {
     addPrinter("Printer");
     machine().recordCalls();
@@ -288,14 +292,14 @@ void WindowsPrinterInfoTest::enumerationCallsInOrder()
     QCOMPARE(machine().callCount(name("OpenPrinterA")), 0);
 }
 
-void WindowsPrinterInfoTest::enumerationThatFails_data()
+void WindowsPrinterInfoTest::failedEnumerationIsEmpty_data()
 {
     QTest::addColumn<int>("call");
     QTest::newRow("sizing") << 1;
     QTest::newRow("reading") << 2;
 }
 
-void WindowsPrinterInfoTest::enumerationThatFails()
+void WindowsPrinterInfoTest::failedEnumerationIsEmpty()
 {
     QFETCH(const int, call);
     addPrinter("Printer");
@@ -324,7 +328,7 @@ void WindowsPrinterInfoTest::enumerationReadsTheRegistryOnce()
     QCOMPARE(registryReads(50), forOne);
 }
 
-void WindowsPrinterInfoTest::enumerationAnswersAsSingleQuestionsDo()
+void WindowsPrinterInfoTest::enumerationMatchesSingleQueries()
 {
     const QString guid = name("{28d78fad-5a12-11d1-ae5b-0000f803a8c2}");
     const QList<QVariant> ports{1U, QStringLiteral("2"), QStringLiteral("none"), {}, 65537U, 7U,
@@ -355,7 +359,7 @@ void WindowsPrinterInfoTest::infoOfOnePrinter()
     QVERIFY(info.isShared && info.isOffline && !info.isNetworkPrinter);
 }
 
-void WindowsPrinterInfoTest::infoKeepsTheNameGiven()
+void WindowsPrinterInfoTest::infoHasTheNameThatWasPassed()
 {
     addPrinter("Printer");
     QCOMPARE(WindowsPrinterInfo::getAvailablePrinterInfo(name("PRINTER")).printerName,
@@ -363,7 +367,7 @@ void WindowsPrinterInfoTest::infoKeepsTheNameGiven()
     QCOMPARE(WindowsPrinterInfo::getAvailablePrinterInfo(name("PRINTER")).driverName, driver);
 }
 
-void WindowsPrinterInfoTest::infoOfAnUnknownPrinter()
+void WindowsPrinterInfoTest::infoOfAnUnknownPrinterHasDefaults()
 {
     const AvailablePrinters info = WindowsPrinterInfo::getAvailablePrinterInfo(name("Nobody"));
     QCOMPARE(info.printerName, name("Nobody"));
@@ -379,7 +383,7 @@ void WindowsPrinterInfoTest::infoOfAPrinterWithoutTexts()
     QVERIFY(info.portName.isEmpty() && info.driverName.isEmpty());
 }
 
-void WindowsPrinterInfoTest::infoWhoseRecordCannotBeRead()
+void WindowsPrinterInfoTest::infoWithoutARecordHasDefaults()
 {
     addPrinter("Printer", {.attributes = local | PRINTER_ATTRIBUTE_SHARED});
     machine().failCall(name("GetPrinterW"), 2, ERROR_ACCESS_DENIED);
@@ -418,7 +422,7 @@ void WindowsPrinterInfoTest::offlineByHandle()
 
 void WindowsPrinterInfoTest::offlineRecord_data()
 {
-    sharedAndOfflinePrinters_data();
+    sharedAndOfflinePrintersAreRecognised_data();
 }
 
 void WindowsPrinterInfoTest::offlineRecord()
@@ -440,7 +444,7 @@ void WindowsPrinterInfoTest::administrable()
     QVERIFY(!WindowsPrinterInfo::isPrinterAdmin(name("Printer")));
     QVERIFY(!WindowsPrinterInfo::isPrinterAdmin(name("Nobody")));
 
-    // The opening itself is the question.
+    // The check consists in the opening.
     machine().recordCalls();
     machine().setAdministrable(name("Printer"), true);
     WindowsPrinterInfo::isPrinterAdmin(name("Printer"));
@@ -460,7 +464,7 @@ void WindowsPrinterInfoTest::defaultPrinter()
     QCOMPARE(WindowsPrinterInfo::getDefaultPrinterName(), name("Gone"));
 }
 
-void WindowsPrinterInfoTest::defaultPrinterThatIsNotThere_data()
+void WindowsPrinterInfoTest::missingDefaultPrinterIsEmpty_data()
 {
     QTest::addColumn<int>("failingCall");
     QTest::addColumn<QString>("printer");
@@ -469,7 +473,7 @@ void WindowsPrinterInfoTest::defaultPrinterThatIsNotThere_data()
     QTest::newRow("reading fails") << 2 << name("Printer");
 }
 
-void WindowsPrinterInfoTest::defaultPrinterThatIsNotThere()
+void WindowsPrinterInfoTest::missingDefaultPrinterIsEmpty()
 {
     QFETCH(const int, failingCall);
     QFETCH(const QString, printer);
@@ -492,18 +496,18 @@ void WindowsPrinterInfoTest::recordOfAPrinter()
     QVERIFY(logged().isEmpty());
 }
 
-void WindowsPrinterInfoTest::recordThatCannotBeSized()
+void WindowsPrinterInfoTest::failedSizingIsLogged()
 {
     addPrinter("Printer");
     const PrinterHandle printer = openPrinter(name("Printer"));
     machine().failCall(name("GetPrinterW"), 1, ERROR_ACCESS_DENIED);
     QVERIFY(!WindowsPrinterInfo::getPrinterInfo2(printer.get()));
     QCOMPARE(machine().callCount(name("GetPrinterW")), 1);
-    QCOMPARE(logged(), QList<LogRecord>{
-                           infoLine(224, QStringLiteral("5 %1 ").arg(WindowsErrors::winError(5)))});
+    QCOMPARE(logged(), QList<LogRecord>{infoLine(
+                           224, QStringLiteral("5 %1 ").arg(windows_errors::winError(5)))});
 }
 
-void WindowsPrinterInfoTest::recordThatCannotBeRead()
+void WindowsPrinterInfoTest::failedReadingIsLogged()
 {
     addPrinter("Printer");
     const PrinterHandle printer = openPrinter(name("Printer"));
@@ -512,7 +516,7 @@ void WindowsPrinterInfoTest::recordThatCannotBeRead()
     QCOMPARE(machine().callCount(name("GetPrinterW")), 2);
     QCOMPARE(logged(), QList<LogRecord>{infoLine(
                            244, QStringLiteral("Failure to access the printer  4000000000 %1 ")
-                                    .arg(WindowsErrors::winError(4000000000U)))});
+                                    .arg(windows_errors::winError(4000000000U)))});
 }
 
 QTEST_GUILESS_MAIN(WindowsPrinterInfoTest)

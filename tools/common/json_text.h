@@ -7,8 +7,8 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-/// JSON on one line, with the keys of objects in the order in which they are given. What is no
-/// printable character is escaped.
+/// JSON on one line, with the keys of objects in the given order. Characters that are not printable
+/// are escaped.
 namespace json_text {
 
 using Member = std::pair<QString, QString>;
@@ -18,7 +18,7 @@ QString value(const QJsonValue& value);
 QString object(const QList<Member>& members);
 /// Of elements that are JSON already.
 QString array(const QStringList& elements);
-/// The same with an element a line.
+/// The same with one element per line.
 QString lines(const QStringList& elements);
 
 } // namespace json_text

@@ -20,15 +20,15 @@ bool isPlain(char32_t character)
     }
 }
 
-QString mark(QStringView units)
+QString escaped(QStringView units)
 {
-    QString mark;
+    QString escape;
     for (const QChar unit : units)
-        mark += QStringLiteral("\\u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
-    return mark;
+        escape += QStringLiteral("\\u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
+    return escape;
 }
 
-/// The character at a place: two code units of a pair, else one.
+/// The character at `place`, which takes two code units if it is a surrogate pair.
 char32_t characterAt(QStringView text, qsizetype place)
 {
     const QChar first = text.at(place);
@@ -49,7 +49,7 @@ QString shown(const QString& text)
         const qsizetype end = place + (QChar::requiresSurrogates(character) ? 2 : 1);
         if (!isPlain(character)) {
             result += view.sliced(copied, place - copied);
-            result += mark(view.sliced(place, end - place));
+            result += escaped(view.sliced(place, end - place));
             copied = end;
         }
         place = end;
@@ -59,8 +59,19 @@ QString shown(const QString& text)
 
 QString shownAsMessage(const QString& text)
 {
-    constexpr qsizetype kept = messageLength / 2;
+    constexpr qsizetype quoted = messageLength / 2;
     if (text.size() <= messageLength)
         return shown(text);
-    return shown(text.first(kept)) + QStringLiteral(" ... ") + shown(text.last(kept));
+    return shown(text.first(quoted)) + QStringLiteral(" ... ") + shown(text.last(quoted));
+}
+
+std::optional<char32_t> invisibleCharacter(const QString& text)
+{
+    for (qsizetype place = 0; place < text.size();) {
+        const char32_t character = characterAt(text, place);
+        if (!isPlain(character))
+            return character;
+        place += QChar::requiresSurrogates(character) ? 2 : 1;
+    }
+    return std::nullopt;
 }

@@ -6,30 +6,36 @@
 
 #include <cstdio>
 
-/// What a tool writes with. There is one for the program.
+/// The output of a tool: text on standard output, messages on standard error. A program has one of
+/// these.
 class StandardOutput
 {
 public:
-    /// `tool` is what messages begin with; `stream` is another where a test reads what is written.
+    /// Messages begin with `tool`. Tests pass another `stream` and read what was written to it.
     explicit StandardOutput(const char* tool, std::FILE* stream = stdout);
+    ~StandardOutput() = default;
     Q_DISABLE_COPY_MOVE(StandardOutput)
 
-    /// Writes text that is fit to be shown, at once. Nothing more is written after a failure.
+    QString toolName() const { return QString::fromLatin1(m_tool); }
+
+    /// Writes and flushes `text` as it is: text from elsewhere must have been escaped with `shown`.
+    /// After a failure nothing more is written.
     void write(const QString& text);
 
-    /// Whether writing is of no use any more: it failed, or the reader has closed the pipe.
+    /// Whether further writing is pointless: a write has failed, or the reader has closed the pipe.
     bool isOver();
 
-    /// Tells standard error of something wrong, in one line.
+    /// Prints a message on standard error, as one line.
     void complain(const QString& message) const;
 
-    /// The status to exit with, for a program that would else exit with `status`: 1, after telling
-    /// why, when what was written got lost. A reader that closes the pipe has all that it wants.
+    /// The exit status of a program that would otherwise return `status`. If output was lost, the
+    /// reason is printed and the result is 1. A reader that closes the pipe has read all it wants,
+    /// so that is no failure.
     int exitStatus(int status) const;
 
 private:
     const char* m_tool;
     std::FILE* m_stream;
     bool m_isOver = false;
-    QString m_failure; ///< empty: none, or a closed pipe
+    QString m_failure; ///< empty if no write failed, or only because the pipe was closed
 };

@@ -4,19 +4,22 @@
 
 #include <cstdio>
 
-/// What differs between systems in writing to standard output; each has its own source file.
+/// The differences between systems in writing to standard output. Each system has its own source
+/// file.
 namespace system_output {
 
-/// Lets a pipe that its reader has closed be an error of the write, which would else end the
-/// program with its files and endpoints left behind. And keeps what the program opens later from
-/// becoming its standard output or standard error, should it have been started without.
+/// Prepares the process for writing.
+///
+/// A write to a pipe that its reader has closed fails from now on; by default it would end the
+/// program, which would leave its files and endpoints behind. If the program was started with a
+/// closed standard stream, files that it opens later do not take that stream's place.
 void prepare();
 
-/// Whether the write that has just failed failed because its reader had closed the pipe.
+/// Whether the write that has just failed did so because the reader had closed the pipe.
 bool failedAtClosedPipe();
 
-/// Whether `stream` is a pipe that nobody can read from any more. False where the system
-/// tells that only to those who write.
+/// Whether `stream` is a pipe whose reader has closed it. Always false on systems that report this
+/// only to a write.
 bool isPipeClosed(std::FILE* stream);
 
 } // namespace system_output

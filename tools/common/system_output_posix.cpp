@@ -14,8 +14,8 @@ void system_output::prepare()
 {
     std::signal(SIGPIPE, SIG_IGN);
     for (const int stream : std::array{STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        // The lowest number that is free is the one that is given out. Opened for reading, it
-        // refuses what is written to it, as a stream that is closed does.
+        // open() returns the lowest free descriptor, which is this one. It is opened for reading,
+        // so that writing to it fails as it does for a closed stream.
         if (fcntl(stream, F_GETFD) < 0)
             static_cast<void>(open("/dev/null", O_RDONLY));
     }

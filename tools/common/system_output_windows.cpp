@@ -6,11 +6,11 @@
 
 #include <windows.h>
 
-void system_output::prepare() {} // no signal, and no number that is given out again
+void system_output::prepare() {} // Windows sends no signal and does not reuse the numbers
 
 bool system_output::failedAtClosedPipe()
 {
-    // The C library has a number of its own for the first of them alone.
+    // The C library has an errno value only for the first of these errors.
     return _doserrno == ERROR_BROKEN_PIPE || _doserrno == ERROR_NO_DATA;
 }
 

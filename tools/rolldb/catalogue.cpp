@@ -3,8 +3,8 @@
 #include "catalogue.h"
 
 #include "csv_table.h"
-#include "fault.h"
-#include "visible_text.h"
+#include "failure.h"
+#include "shown_text.h"
 
 #include <supplydb_schema.h>
 #include <vxlocalelanguages.h>
@@ -28,33 +28,33 @@ constexpr double maxWidth = 100.0;
 constexpr double longestRoll = 100000.0;
 constexpr qsizetype maxWordLength = 40;
 constexpr qsizetype maxTagLength = 20;
-// Of a picture: more than any label is printed with. A small file can hold far more, and whoever
-// shows it needs memory for each pixel.
+// More pixels than any label needs. A small file can decode to far more, and showing a picture
+// takes memory for each pixel.
 constexpr int maxImageSide = 4096;
-// Enough for any file that is let through, whose own limits are lower.
+// Enough for every file that is accepted: the limits on tables and pictures are lower.
 constexpr qint64 maxBytesRead = qint64{32} << 20;
 
-const QString EnglishTag = QStringLiteral("en");
-const QString BackgroundFolder = QStringLiteral("backgrounds/");
-const QString ContinuousType = QStringLiteral("continuous");
-const QStringList FormatTypes{ContinuousType, QStringLiteral("die-cut"), QStringLiteral("sleeve"),
+const QString englishTag = QStringLiteral("en");
+const QString backgroundFolder = QStringLiteral("backgrounds/");
+const QString continuousType = QStringLiteral("continuous");
+const QStringList formatTypes{continuousType, QStringLiteral("die-cut"), QStringLiteral("sleeve"),
                               QStringLiteral("tag")};
-// Stands for all printers of no model that has a list of its own.
-const QString AnyModel = QStringLiteral("*");
+// Stands for all printers whose model has no list of its own.
+const QString anyModel = QStringLiteral("*");
 
-// What a column holds beside names: a table refuses any column that nobody would read.
+// The columns of a table, besides the names. Unknown columns are refused: nobody would read them.
 struct TableLayout
 {
     const char* file;
     QStringList columns;
     bool hasNames;
 };
-const TableLayout ColourLayout{
+const TableLayout colourLayout{
     "colours.csv", {QStringLiteral("colour"), QStringLiteral("rgb")}, true};
-const TableLayout MaterialLayout{"materials.csv", {QStringLiteral("material")}, true};
-const TableLayout FormatLayout{
+const TableLayout materialLayout{"materials.csv", {QStringLiteral("material")}, true};
+const TableLayout formatLayout{
     "formats.csv", {QStringLiteral("format"), QStringLiteral("type")}, true};
-const TableLayout SupplyLayout{
+const TableLayout supplyLayout{
     "supplies.csv",
     {QStringLiteral("sku"), QStringLiteral("kinds"), QStringLiteral("material"),
      QStringLiteral("format"), QStringLiteral("colour"), QStringLiteral("second_colour"),
@@ -63,18 +63,18 @@ const TableLayout SupplyLayout{
      QStringLiteral("background"), QStringLiteral("multi_up_count"),
      QStringLiteral("multi_up_gap")},
     false};
-const TableLayout RibbonLayout{"ribbons.csv",
+const TableLayout ribbonLayout{"ribbons.csv",
                                {QStringLiteral("sku"), QStringLiteral("numbers"),
                                 QStringLiteral("type"), QStringLiteral("width"),
                                 QStringLiteral("length"), QStringLiteral("panels")},
                                false};
-const TableLayout SettingLayout{"print_settings.csv",
+const TableLayout settingLayout{"print_settings.csv",
                                 {QStringLiteral("ribbon"), QStringLiteral("panel"),
                                  QStringLiteral("supply"), QStringLiteral("heat"),
                                  QStringLiteral("heat_offset"), QStringLiteral("max_speed"),
                                  QStringLiteral("tension")},
                                 false};
-const TableLayout PrinterFormatLayout{
+const TableLayout printerFormatLayout{
     "printer_formats.csv", {QStringLiteral("model"), QStringLiteral("format")}, false};
 
 QLatin1String column(const char* name)
@@ -82,20 +82,28 @@ QLatin1String column(const char* name)
     return QLatin1String(name);
 }
 
+/// Looks up the fields of one row by their column.
+auto fieldsOf(const CsvTable& table, qsizetype row)
+{
+    return [&table, row](const char* name) {
+        return table.field(row, column(name));
+    };
+}
+
 void requireVisible(const CsvField& field)
 {
     if (const std::optional<char32_t> character = invisibleCharacter(field.text))
-        throw field.fault(QStringLiteral("the character U+%1 cannot be seen; take it out")
-                              .arg(QString::number(*character, 16).toUpper(), 4, u'0'));
+        throw field.failure(QStringLiteral("the character U+%1 is invisible; remove it")
+                                .arg(QString::number(*character, 16).toUpper(), 4, u'0'));
 }
 
 QString textOf(const CsvField& field, qsizetype maxLength)
 {
     if (field.text.isEmpty())
-        throw field.fault(QStringLiteral("empty"));
+        throw field.failure(QStringLiteral("empty"));
     requireVisible(field);
     if (field.text.size() > maxLength)
-        throw field.fault(QStringLiteral("longer than %1 characters").arg(maxLength));
+        throw field.failure(QStringLiteral("longer than %1 characters").arg(maxLength));
     return field.text;
 }
 
@@ -104,10 +112,10 @@ int integerOf(const CsvField& field, const QString& text, int least, int most)
     bool isInteger = false;
     const int value = text.toInt(&isInteger);
     if (!isInteger || value < least || value > most)
-        throw field.fault(QStringLiteral("\"%1\" is no whole number from %2 to %3")
-                              .arg(text)
-                              .arg(least)
-                              .arg(most));
+        throw field.failure(QStringLiteral("\"%1\" is not a whole number between %2 and %3")
+                                .arg(text)
+                                .arg(least)
+                                .arg(most));
     return value;
 }
 
@@ -118,12 +126,12 @@ int integerOf(const CsvField& field, int least, int most)
 
 QString skuOf(const CsvField& field)
 {
-    if (!SupplyDbSchema::isSku(field.text))
-        throw field.fault(
-            QStringLiteral("\"%1\" is no SKU: at most %2 letters from A to Z, digits, dots, "
-                           "underscores and hyphens, a letter or digit first")
+    if (!supplydb_schema::isSku(field.text))
+        throw field.failure(
+            QStringLiteral("\"%1\" is not a SKU: at most %2 letters from A to Z, digits, dots, "
+                           "underscores and hyphens, starting with a letter or digit")
                 .arg(field.text)
-                .arg(SupplyDbSchema::maxSkuLength));
+                .arg(supplydb_schema::maxSkuLength));
     return field.text;
 }
 
@@ -134,8 +142,8 @@ int rgbOf(const CsvField& field)
                            return digit.unicode() < 0x80 && std::isxdigit(digit.unicode()) != 0;
                        });
     if (!isHex)
-        throw field.fault(
-            QStringLiteral("\"%1\" is no colour of the form #RRGGBB").arg(field.text));
+        throw field.failure(
+            QStringLiteral("\"%1\" is not a colour of the form #RRGGBB").arg(field.text));
     return field.text.mid(1).toInt(nullptr, 16);
 }
 
@@ -145,7 +153,7 @@ bool yesOrNoOf(const CsvField& field)
         return true;
     if (field.text == QLatin1String("no"))
         return false;
-    throw field.fault(QStringLiteral("\"%1\" is neither yes nor no").arg(field.text));
+    throw field.failure(QStringLiteral("\"%1\" is neither yes nor no").arg(field.text));
 }
 
 QStringList wordsOf(const CsvField& field)
@@ -162,7 +170,7 @@ public:
 
     Catalogue read()
     {
-        m_catalogue.languages.insert(SupplyDbSchema::fallbackLanguage, EnglishTag);
+        m_catalogue.languages.insert(supplydb_schema::fallbackLanguage, englishTag);
         readColours();
         readMaterials();
         readFormats();
@@ -179,27 +187,28 @@ private:
         const QString file = QString::fromLatin1(layout.file);
         const std::optional<QByteArray> bytes = m_readFile(file);
         if (!bytes)
-            throw Fault(QStringLiteral("%1: no such file, or it cannot be read").arg(file));
+            throw Failure(QStringLiteral("%1: no such file, or it cannot be read").arg(file));
         CsvTable table = CsvTable::parse(file, *bytes);
         for (const QString& wanted : layout.columns) {
             if (!table.hasColumn(wanted))
-                throw table.faultInFile(QStringLiteral("the column %1 is missing").arg(wanted));
+                throw table.failureInFile(QStringLiteral("the column %1 is missing").arg(wanted));
         }
-        if (layout.hasNames && !table.hasColumn(EnglishTag))
-            throw table.faultInFile(QStringLiteral("the column en is missing"));
+        if (layout.hasNames && !table.hasColumn(englishTag))
+            throw table.failureInFile(QStringLiteral("the column en is missing"));
         for (const QString& found : table.columns()) {
             if (layout.columns.contains(found))
                 continue;
             const std::optional<int> language = languageNumber(found);
             if (!layout.hasNames || !language)
-                throw table.faultInHeader(
-                    found, layout.hasNames ? QStringLiteral("neither a column of this table nor a "
-                                                            "language that names can be had in")
-                                           : QStringLiteral("not a column of this table"));
+                throw table.failureInHeader(
+                    found,
+                    layout.hasNames
+                        ? QStringLiteral("neither a column of this table nor a known language")
+                        : QStringLiteral("not a column of this table"));
             if (m_catalogue.languages.value(*language, found) != found)
-                throw table.faultInHeader(found,
-                                          QStringLiteral("the same language as the column %1")
-                                              .arg(m_catalogue.languages.value(*language)));
+                throw table.failureInHeader(found,
+                                            QStringLiteral("the same language as the column %1")
+                                                .arg(m_catalogue.languages.value(*language)));
             m_catalogue.languages.insert(*language, found);
         }
         return table;
@@ -208,16 +217,16 @@ private:
     Name nameOf(const CsvTable& table, qsizetype row) const
     {
         Name name;
-        name.english = textOf(table.field(row, EnglishTag), SupplyDbSchema::maxNameLength);
+        name.english = textOf(table.field(row, englishTag), supplydb_schema::maxNameLength);
         for (auto language = m_catalogue.languages.begin(); language != m_catalogue.languages.end();
              ++language) {
-            if (language.key() == SupplyDbSchema::fallbackLanguage ||
+            if (language.key() == supplydb_schema::fallbackLanguage ||
                 !table.hasColumn(language.value()))
                 continue;
             const CsvField field = table.field(row, language.value());
             if (!field.text.isEmpty())
                 name.translations.insert(language.key(),
-                                         textOf(field, SupplyDbSchema::maxNameLength));
+                                         textOf(field, supplydb_schema::maxNameLength));
         }
         return name;
     }
@@ -230,10 +239,10 @@ private:
         bool isReal = false;
         const double value = text.toDouble(&isReal);
         if (!isReal || !std::isfinite(value) || value < least || value > most)
-            throw field.fault(QStringLiteral("\"%1\" is no number from %2 to %3")
-                                  .arg(field.text)
-                                  .arg(least)
-                                  .arg(most));
+            throw field.failure(QStringLiteral("\"%1\" is not a number between %2 and %3")
+                                    .arg(field.text)
+                                    .arg(least)
+                                    .arg(most));
         return value;
     }
 
@@ -241,7 +250,7 @@ private:
     {
         const double value = realOf(table, field, 0.0, most);
         if (value <= 0.0)
-            throw field.fault(QStringLiteral("\"%1\" is not above 0").arg(field.text));
+            throw field.failure(QStringLiteral("\"%1\" is not greater than 0").arg(field.text));
         return value;
     }
 
@@ -249,19 +258,19 @@ private:
     {
         const auto found = m_colours.constFind(key);
         if (found == m_colours.constEnd())
-            throw field.fault(QStringLiteral("\"%1\" is not in colours.csv").arg(key));
+            throw field.failure(QStringLiteral("\"%1\" is not in colours.csv").arg(key));
         return *found;
     }
 
     void readColours()
     {
-        const CsvTable source = table(ColourLayout);
+        const CsvTable source = table(colourLayout);
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
             const CsvField key = source.field(row, column("colour"));
             if (key.text.contains(u' '))
-                throw key.fault(QStringLiteral("a space in a colour's key"));
+                throw key.failure(QStringLiteral("a space in a colour's key"));
             if (m_colours.contains(textOf(key, maxWordLength)))
-                throw key.fault(QStringLiteral("\"%1\" is there twice").arg(key.text));
+                throw key.failure(QStringLiteral("duplicate colour \"%1\"").arg(key.text));
             m_colours.insert(key.text, m_catalogue.colours.size());
             m_catalogue.colours.append(
                 {key.text, rgbOf(source.field(row, column("rgb"))), nameOf(source, row)});
@@ -270,12 +279,12 @@ private:
 
     void readMaterials()
     {
-        const CsvTable source = table(MaterialLayout);
+        const CsvTable source = table(materialLayout);
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
             const CsvField field = source.field(row, column("material"));
-            const int number = integerOf(field, 0, SupplyDbSchema::maxKind);
+            const int number = integerOf(field, 0, supplydb_schema::maxKind);
             if (m_materials.contains(number))
-                throw field.fault(QStringLiteral("material %1 is there twice").arg(number));
+                throw field.failure(QStringLiteral("duplicate material %1").arg(number));
             m_materials.insert(number);
             m_catalogue.materials.append({number, nameOf(source, row)});
         }
@@ -283,16 +292,16 @@ private:
 
     void readFormats()
     {
-        const CsvTable source = table(FormatLayout);
+        const CsvTable source = table(formatLayout);
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
             const CsvField field = source.field(row, column("format"));
-            const int number = integerOf(field, 0, SupplyDbSchema::maxKind);
+            const int number = integerOf(field, 0, supplydb_schema::maxKind);
             if (m_formats.contains(number))
-                throw field.fault(QStringLiteral("format %1 is there twice").arg(number));
+                throw field.failure(QStringLiteral("duplicate format %1").arg(number));
             const CsvField type = source.field(row, column("type"));
-            if (!FormatTypes.contains(type.text))
-                throw type.fault(QStringLiteral("\"%1\" is none of %2")
-                                     .arg(type.text, FormatTypes.join(QStringLiteral(", "))));
+            if (!formatTypes.contains(type.text))
+                throw type.failure(QStringLiteral("\"%1\" is not one of %2")
+                                       .arg(type.text, formatTypes.join(QStringLiteral(", "))));
             m_formats.insert(number, type.text);
             m_catalogue.formats.append({number, type.text, nameOf(source, row)});
         }
@@ -300,19 +309,19 @@ private:
 
     int formatOf(const CsvField& field) const
     {
-        const int format = integerOf(field, 0, SupplyDbSchema::maxKind);
+        const int format = integerOf(field, 0, supplydb_schema::maxKind);
         if (!m_formats.contains(format))
-            throw field.fault(QStringLiteral("format %1 is not in formats.csv").arg(format));
+            throw field.failure(QStringLiteral("format %1 is not in formats.csv").arg(format));
         return format;
     }
 
-    QList<int> freeNumbers(const CsvField& field, int most, QSet<int>& taken) const
+    QList<int> uniqueNumbers(const CsvField& field, int most, QSet<int>& taken) const
     {
         QList<int> numbers;
         for (const QString& word : wordsOf(field)) {
             const int number = integerOf(field, word, 1, most);
             if (taken.contains(number))
-                throw field.fault(QStringLiteral("%1 is there twice").arg(number));
+                throw field.failure(QStringLiteral("duplicate number %1").arg(number));
             taken.insert(number);
             numbers.append(number);
         }
@@ -327,70 +336,68 @@ private:
         if (found != m_backgrounds.constEnd())
             return *found;
         requireVisible(field);
-        // A plain name: a catalogue takes no file from outside its folder.
+        // A catalogue must not read files from outside its folder.
         if (field.text.contains(u'/') || field.text.contains(u'\\') || field.text.contains(u':') ||
-            field.text.startsWith(u'.') || field.text.size() > SupplyDbSchema::maxNameLength)
-            throw field.fault(QStringLiteral("\"%1\" is no plain file name").arg(field.text));
+            field.text.startsWith(u'.') || field.text.size() > supplydb_schema::maxNameLength)
+            throw field.failure(QStringLiteral("\"%1\" is not a plain file name").arg(field.text));
         std::optional<QByteArray> image;
         try {
-            image = m_readFile(BackgroundFolder + field.text);
-        } catch (const Fault& fault) {
-            throw field.fault(fault.message());
+            image = m_readFile(backgroundFolder + field.text);
+        } catch (const Failure& failure) {
+            throw field.failure(failure.message());
         }
         if (!image)
-            throw field.fault(
-                QStringLiteral("%1%2 cannot be read").arg(BackgroundFolder, field.text));
-        if (image->size() > SupplyDbSchema::maxImageBytes)
-            throw field.fault(QStringLiteral("%1%2 is larger than %3 KiB")
-                                  .arg(BackgroundFolder, field.text)
-                                  .arg(SupplyDbSchema::maxImageBytes / 1024));
+            throw field.failure(
+                QStringLiteral("%1%2 cannot be read").arg(backgroundFolder, field.text));
+        if (image->size() > supplydb_schema::maxImageBytes)
+            throw field.failure(QStringLiteral("%1%2 is larger than %3 KiB")
+                                    .arg(backgroundFolder, field.text)
+                                    .arg(supplydb_schema::maxImageBytes / 1024));
         QBuffer buffer;
         buffer.setData(*image);
         buffer.open(QIODevice::ReadOnly);
         QImageReader reader(&buffer);
         const QSize size = reader.size();
         if (!reader.canRead() || size.isEmpty())
-            throw field.fault(QStringLiteral("%1%2 is no image that can be read")
-                                  .arg(BackgroundFolder, field.text));
+            throw field.failure(
+                QStringLiteral("%1%2 is not a readable image").arg(backgroundFolder, field.text));
         if (size.width() > maxImageSide || size.height() > maxImageSide)
-            throw field.fault(QStringLiteral("%1%2 has %3 by %4 pixels, where %5 by %5 can be")
-                                  .arg(BackgroundFolder, field.text)
-                                  .arg(size.width())
-                                  .arg(size.height())
-                                  .arg(maxImageSide));
+            throw field.failure(QStringLiteral("%1%2 has %3 by %4 pixels; the maximum is %5 by %5")
+                                    .arg(backgroundFolder, field.text)
+                                    .arg(size.width())
+                                    .arg(size.height())
+                                    .arg(maxImageSide));
         const qsizetype place = m_catalogue.backgrounds.size();
         m_backgrounds.insert(field.text, place);
         m_catalogue.backgrounds.append({field.text, *image});
         return place;
     }
 
-    // Tables that a reader of the file reads in whole.
+    // For tables that a reader of the database loads completely.
     CsvTable listedTable(const TableLayout& layout)
     {
         CsvTable source = table(layout);
-        if (source.rowCount() > SupplyDbSchema::maxListedRows)
-            throw source.faultInFile(
-                QStringLiteral("more than %1 rows").arg(SupplyDbSchema::maxListedRows));
+        if (source.rowCount() > supplydb_schema::maxListedRows)
+            throw source.failureInFile(
+                QStringLiteral("more than %1 rows").arg(supplydb_schema::maxListedRows));
         return source;
     }
 
     void readSupplies()
     {
-        const CsvTable source = listedTable(SupplyLayout);
+        const CsvTable source = listedTable(supplyLayout);
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
-            const auto field = [&source, row](const char* name) {
-                return source.field(row, column(name));
-            };
+            const auto field = fieldsOf(source, row);
             Catalogue::Supply supply{};
             supply.sku = skuOf(field("sku"));
             if (m_supplies.contains(supply.sku))
-                throw field("sku").fault(QStringLiteral("%1 is there twice").arg(supply.sku));
+                throw field("sku").failure(QStringLiteral("duplicate SKU %1").arg(supply.sku));
             m_supplies.insert(supply.sku);
-            supply.kinds = freeNumbers(field("kinds"), SupplyDbSchema::maxKind, m_kinds);
-            supply.material = integerOf(field("material"), 0, SupplyDbSchema::maxKind);
+            supply.kinds = uniqueNumbers(field("kinds"), supplydb_schema::maxKind, m_kinds);
+            supply.material = integerOf(field("material"), 0, supplydb_schema::maxKind);
             if (!m_materials.contains(supply.material))
                 throw field("material")
-                    .fault(
+                    .failure(
                         QStringLiteral("material %1 is not in materials.csv").arg(supply.material));
             supply.format = formatOf(field("format"));
             supply.colour = colourOf(field("colour"), field("colour").text);
@@ -412,8 +419,8 @@ private:
         const CsvField colour = source.field(row, column("second_colour"));
         const CsvField width = source.field(row, column("second_colour_width"));
         if (colour.text.isEmpty() != width.text.isEmpty())
-            throw width.fault(
-                QStringLiteral("a second colour and its width come together or not at all"));
+            throw width.failure(QStringLiteral(
+                "a second colour and its width must be given together or not at all"));
         if (colour.text.isEmpty())
             return;
         supply.secondColour = colourOf(colour, colour.text);
@@ -423,11 +430,12 @@ private:
     void readLabelLength(const CsvTable& source, qsizetype row, Catalogue::Supply& supply) const
     {
         const CsvField field = source.field(row, column("label_length"));
-        const bool isContinuous = m_formats.value(supply.format) == ContinuousType;
+        const bool isContinuous = m_formats.value(supply.format) == continuousType;
         if (isContinuous != field.text.isEmpty())
-            throw field.fault(
-                isContinuous ? QStringLiteral("a label's length, where the format is continuous")
-                             : QStringLiteral("empty, where the format is not continuous"));
+            throw field.failure(
+                isContinuous
+                    ? QStringLiteral("a label length is given, but the format is continuous")
+                    : QStringLiteral("empty, but the format is not continuous"));
         if (!isContinuous)
             supply.labelLength = sizeOf(source, field, supply.length);
     }
@@ -437,28 +445,27 @@ private:
         supply.multiUpCount = integerOf(source.field(row, column("multi_up_count")), 1, 100);
         const CsvField gap = source.field(row, column("multi_up_gap"));
         if ((supply.multiUpCount == 1) != gap.text.isEmpty())
-            throw gap.fault(supply.multiUpCount == 1
-                                ? QStringLiteral("a gap, where one label lies alone")
-                                : QStringLiteral("empty, where labels lie side by side"));
+            throw gap.failure(
+                supply.multiUpCount == 1
+                    ? QStringLiteral("a gap is given, but there is only one label across")
+                    : QStringLiteral("empty, but there are several labels across"));
         if (!gap.text.isEmpty())
             supply.multiUpGap = realOf(source, gap, 0.0, maxWidth);
     }
 
     void readRibbons()
     {
-        const CsvTable source = listedTable(RibbonLayout);
+        const CsvTable source = listedTable(ribbonLayout);
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
-            const auto field = [&source, row](const char* name) {
-                return source.field(row, column(name));
-            };
+            const auto field = fieldsOf(source, row);
             Catalogue::Ribbon ribbon{};
             ribbon.sku = skuOf(field("sku"));
             if (m_panels.contains(ribbon.sku))
-                throw field("sku").fault(QStringLiteral("%1 is there twice").arg(ribbon.sku));
+                throw field("sku").failure(QStringLiteral("duplicate SKU %1").arg(ribbon.sku));
             if (m_supplies.contains(ribbon.sku))
-                throw field("sku").fault(QStringLiteral("%1 is a supply's SKU").arg(ribbon.sku));
+                throw field("sku").failure(QStringLiteral("%1 is a supply's SKU").arg(ribbon.sku));
             ribbon.numbers =
-                freeNumbers(field("numbers"), SupplyDbSchema::maxRibbonNumber, m_ribbonNumbers);
+                uniqueNumbers(field("numbers"), supplydb_schema::maxRibbonNumber, m_ribbonNumbers);
             ribbon.type = textOf(field("type"), maxWordLength);
             ribbon.width = sizeOf(source, field("width"), maxWidth);
             ribbon.length = sizeOf(source, field("length"), longestRoll);
@@ -466,9 +473,9 @@ private:
             for (const QString& key : wordsOf(panels))
                 ribbon.panelColours.append(colourOf(panels, key));
             if (ribbon.panelColours.isEmpty() || ribbon.panelColours.size() > maxPanels)
-                throw panels.fault(QStringLiteral("%1 panels, where 1 to %2 can be")
-                                       .arg(ribbon.panelColours.size())
-                                       .arg(maxPanels));
+                throw panels.failure(QStringLiteral("%1 panels; a ribbon has 1 to %2")
+                                         .arg(ribbon.panelColours.size())
+                                         .arg(maxPanels));
             m_panels.insert(ribbon.sku, static_cast<int>(ribbon.panelColours.size()));
             m_catalogue.ribbons.append(ribbon);
         }
@@ -476,29 +483,29 @@ private:
 
     void readSettings()
     {
-        const CsvTable source = table(SettingLayout);
+        const CsvTable source = table(settingLayout);
         QSet<QString> seen;
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
-            const auto field = [&source, row](const char* name) {
-                return source.field(row, column(name));
-            };
+            const auto field = fieldsOf(source, row);
             const auto setting = [&field](const char* name, int least) {
                 return integerOf(field(name), least, maxSetting);
             };
             const CsvField ribbon = field("ribbon");
             if (!m_panels.contains(ribbon.text))
-                throw ribbon.fault(QStringLiteral("\"%1\" is not in ribbons.csv").arg(ribbon.text));
+                throw ribbon.failure(
+                    QStringLiteral("\"%1\" is not in ribbons.csv").arg(ribbon.text));
             const int panel = integerOf(field("panel"), 1, m_panels.value(ribbon.text));
             const CsvField supply = field("supply");
             if (!m_supplies.contains(supply.text))
-                throw supply.fault(
+                throw supply.failure(
                     QStringLiteral("\"%1\" is not in supplies.csv").arg(supply.text));
             const QString key =
                 QStringLiteral("%1 %2 %3").arg(ribbon.text).arg(panel).arg(supply.text);
             if (seen.contains(key))
-                throw ribbon.fault(QStringLiteral("panel %1 of %2 with %3 is there twice")
-                                       .arg(panel)
-                                       .arg(ribbon.text, supply.text));
+                throw ribbon.failure(
+                    QStringLiteral("duplicate print setting for panel %1 of %2 with %3")
+                        .arg(panel)
+                        .arg(ribbon.text, supply.text));
             seen.insert(key);
             m_catalogue.settings.append({ribbon.text, panel, supply.text, setting("heat", 0),
                                          setting("heat_offset", 0), setting("max_speed", 1),
@@ -508,24 +515,24 @@ private:
 
     void readPrinterFormats()
     {
-        const CsvTable source = listedTable(PrinterFormatLayout);
+        const CsvTable source = listedTable(printerFormatLayout);
         QHash<QString, QList<int>> lists;
-        QHash<QString, QString> spellings; // models are looked for in any case
+        QHash<QString, QString> spellings; // models are compared without regard to case
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
             const CsvField modelField = source.field(row, column("model"));
             const QString text = textOf(modelField, maxWordLength);
-            const QString model = text == AnyModel ? QString() : text;
+            const QString model = text == anyModel ? QString() : text;
             const QString spelling = spellings.value(text.toLower(), text);
             if (spelling != text)
-                throw modelField.fault(
+                throw modelField.failure(
                     QStringLiteral("\"%1\" is the same model as \"%2\"").arg(text, spelling));
             spellings.insert(text.toLower(), text);
             const CsvField formatField = source.field(row, column("format"));
             const int format = formatOf(formatField);
             QList<int>& list = lists[model];
             if (list.contains(format))
-                throw formatField.fault(
-                    QStringLiteral("format %1 is there twice for %2").arg(format).arg(text));
+                throw formatField.failure(
+                    QStringLiteral("duplicate format %1 for %2").arg(format).arg(text));
             m_catalogue.printerFormats.append({model, static_cast<int>(list.size()), format});
             list.append(format);
         }
@@ -554,12 +561,12 @@ Catalogue readCatalogueDirectory(const QString& directory)
 {
     const QDir dir(directory);
     if (!dir.exists())
-        throw Fault(QStringLiteral("%1: no such directory").arg(directory));
+        throw Failure(QStringLiteral("%1: no such directory").arg(directory));
     return readCatalogue([&dir](const QString& name) -> std::optional<QByteArray> {
         const QFileInfo info(dir.filePath(name));
-        // Whoever opens a pipe waits for somebody who writes into it.
+        // Opening a pipe would block until another process writes to it.
         if (info.exists() && !info.isFile())
-            throw Fault(QStringLiteral("%1 is not a file").arg(name));
+            throw Failure(QStringLiteral("%1 is not a file").arg(name));
         QFile file(info.filePath());
         if (!file.open(QIODevice::ReadOnly))
             return std::nullopt;
@@ -572,8 +579,8 @@ std::optional<int> languageNumber(const QString& tag)
     if (tag.size() > maxTagLength)
         return std::nullopt;
     const int number = VXLocaleLanguages::languageId({tag});
-    // English stands for every language without a number, too.
-    if (number == SupplyDbSchema::fallbackLanguage && tag != EnglishTag)
+    // Languages without a number also get the number of English.
+    if (number == supplydb_schema::fallbackLanguage && tag != englishTag)
         return std::nullopt;
     return number;
 }

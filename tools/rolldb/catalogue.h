@@ -11,15 +11,15 @@
 #include <functional>
 #include <optional>
 
-/// A name in each language that it was given in.
+/// A name in English and in the languages that it is translated into.
 struct Name
 {
     QString english;
     QMap<int, QString> translations; ///< By language number, without English.
 };
 
-/// What a supply database is made from: everything checked, references resolved to places in the
-/// lists.
+/// The content of a supply database. All values are checked, and references are resolved to indices
+/// into the lists.
 struct Catalogue
 {
     struct Colour
@@ -99,14 +99,14 @@ struct Catalogue
     QList<PrinterFormat> printerFormats;
 };
 
-/// The bytes of a file of the catalogue's directory, by its name in it; nothing when there is none.
+/// Returns the content of a file in the catalogue's directory, or nothing if there is no such file.
 using ReadFile = std::function<std::optional<QByteArray>(const QString& name)>;
 
-/// Reads a catalogue from its files; throws a Fault for the first thing wrong in them.
+/// Reads a catalogue from its files. Throws a Failure for the first error in them.
 Catalogue readCatalogue(const ReadFile& readFile);
 
-/// The same from a directory.
+/// Reads a catalogue from a directory.
 Catalogue readCatalogueDirectory(const QString& directory);
 
-/// The number of a language by its tag ("de"); nothing for a language that has no number.
+/// The number of the language with a tag such as "de"; nothing if the language has no number.
 std::optional<int> languageNumber(const QString& tag);

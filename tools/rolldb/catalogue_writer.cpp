@@ -3,7 +3,7 @@
 #include "catalogue_writer.h"
 
 #include "database_check.h"
-#include "fault.h"
+#include "failure.h"
 #include "file_replacement.h"
 
 #include <supplydb_schema.h>
@@ -32,10 +32,10 @@ void run(const QSqlDatabase& database, const QString& statement)
 {
     QSqlQuery query(database);
     if (!query.exec(statement))
-        throw Fault(query.lastError().databaseText());
+        throw Failure(query.lastError().databaseText());
 }
 
-/// A connection that may write, gone with its name at the end of the scope.
+/// A connection that may write. It and its name are removed at the end of the scope.
 class WritingConnection
 {
 public:
@@ -44,7 +44,7 @@ public:
     {
         m_database.setDatabaseName(path);
         if (!m_database.open())
-            throw Fault(m_database.lastError().databaseText());
+            throw Failure(m_database.lastError().databaseText());
     }
     ~WritingConnection()
     {
@@ -68,7 +68,7 @@ QByteArray bytesOf(const QString& path)
     if (file.open(QIODevice::ReadOnly))
         bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
-        throw Fault(QStringLiteral("%1: %2").arg(path, file.errorString()));
+        throw Failure(QStringLiteral("%1: %2").arg(path, file.errorString()));
     return bytes;
 }
 
@@ -76,7 +76,7 @@ void writeDraft(const Catalogue& catalogue, const QString& path)
 {
     const WritingConnection connection(path);
     const QSqlDatabase& database = connection.database();
-    // A file that is not in place yet needs no protection against a crash.
+    // The draft needs no protection against a crash: it is not in its place yet.
     run(database, QStringLiteral("PRAGMA journal_mode = OFF"));
     run(database, QStringLiteral("PRAGMA synchronous = OFF"));
     run(database, QStringLiteral("PRAGMA foreign_keys = ON"));
@@ -90,7 +90,7 @@ void writeDraft(const Catalogue& catalogue, const QString& path)
 
 void createTables(const QSqlDatabase& database)
 {
-    for (const QString& statement : SupplyDbSchema::statements())
+    for (const QString& statement : supplydb_schema::statements())
         run(database, statement);
 }
 
@@ -101,7 +101,7 @@ CatalogueWriter::Insert::Insert(const QSqlDatabase& database, const char* table,
     marks.fill(QStringLiteral("?"), columns);
     if (!m_query.prepare(QStringLiteral("INSERT INTO %1 VALUES (%2)")
                              .arg(QLatin1String(table), marks.join(QStringLiteral(", ")))))
-        throw Fault(m_query.lastError().databaseText());
+        throw Failure(m_query.lastError().databaseText());
 }
 
 void CatalogueWriter::Insert::row(const QVariantList& values)
@@ -109,7 +109,7 @@ void CatalogueWriter::Insert::row(const QVariantList& values)
     for (qsizetype i = 0; i < values.size(); ++i)
         m_query.bindValue(static_cast<int>(i), values.at(i));
     if (!m_query.exec())
-        throw Fault(m_query.lastError().databaseText());
+        throw Failure(m_query.lastError().databaseText());
 }
 
 CatalogueWriter::CatalogueWriter(const QSqlDatabase& database)
@@ -200,13 +200,13 @@ void writeDatabase(const Catalogue& catalogue, const QString& path)
     requireFileOrNothing(path);
     const QTemporaryDir workshop;
     if (!workshop.isValid())
-        throw Fault(QStringLiteral("%1: %2").arg(workshop.path(), workshop.errorString()));
+        throw Failure(QStringLiteral("%1: %2").arg(workshop.path(), workshop.errorString()));
     const QString draft = workshop.filePath(QStringLiteral("draft.db"));
     try {
         writeDraft(catalogue, draft);
-    } catch (const Fault& fault) {
-        throw Fault(QStringLiteral("%1: cannot be made in %2: %3")
-                        .arg(path, workshop.path(), fault.message()));
+    } catch (const Failure& failure) {
+        throw Failure(QStringLiteral("%1: cannot be created in %2: %3")
+                          .arg(path, workshop.path(), failure.message()));
     }
     checkDatabase(draft, path);
     replaceFile(path, bytesOf(draft));

@@ -9,27 +9,26 @@
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlQuery>
 
-/// Makes the database file of a catalogue. It is made and checked elsewhere and then takes the
-/// place of a file that is there already, at once: whoever opens the path finds the old one or the
-/// new one in whole. The same catalogue gives the same bytes. Throws a Fault where it cannot be
-/// done; the old file is as it was then.
+/// Creates the database file of a catalogue. The file is created and checked in a temporary folder
+/// and then replaces an existing file atomically: the path always has either the complete old file
+/// or the complete new one. The same catalogue always gives the same bytes. Throws a Failure on
+/// failure, which leaves the old file unchanged.
 void writeDatabase(const Catalogue& catalogue, const QString& path);
 
-/// Makes the tables of an empty database. Throws a Fault for what SQLite refuses.
+/// Creates the tables in an empty database. Throws a Failure if SQLite reports an error.
 void createTables(const QSqlDatabase& database);
 
-/// Fills empty tables. For any number of catalogues, each after the rows of the one before are
-/// gone.
+/// Fills empty tables. One writer can write several catalogues if the rows are removed in between.
 class CatalogueWriter
 {
 public:
     explicit CatalogueWriter(const QSqlDatabase& database);
 
-    /// Throws a Fault for what SQLite refuses.
+    /// Throws a Failure if SQLite reports an error.
     void write(const Catalogue& catalogue);
 
 private:
-    /// A statement that puts one row after the other into a table.
+    /// A prepared statement that inserts rows into one table.
     class Insert
     {
     public:

@@ -13,7 +13,7 @@ constexpr qsizetype maxFileBytes = qsizetype{16} << 20;
 constexpr qsizetype maxFieldLength = 4096;
 constexpr qsizetype maxColumns = 64;
 
-QString lineFault(const QString& fileName, int line, const QString& reason)
+QString lineFailure(const QString& fileName, int line, const QString& reason)
 {
     return QStringLiteral("%1:%2: %3").arg(fileName).arg(line).arg(reason);
 }
@@ -21,13 +21,13 @@ QString lineFault(const QString& fileName, int line, const QString& reason)
 QString decoded(const QString& fileName, const QByteArray& bytes)
 {
     if (bytes.size() > maxFileBytes)
-        throw Fault(QStringLiteral("%1: larger than 16 MiB").arg(fileName));
-    // Takes a byte order mark away; stateless, so that half a character at the end is an error.
+        throw Failure(QStringLiteral("%1: larger than 16 MiB").arg(fileName));
+    // Removes a byte order mark. Stateless, so that an incomplete character at the end is an error.
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder.decode(bytes);
     if (!decoder.hasError())
         return text;
-    // The line of the first byte that does not decode: found by decoding line after line.
+    // Finds the line of the first invalid byte by decoding line by line.
     int line = 1;
     for (const QByteArray& lineBytes : bytes.split('\n')) {
         QStringDecoder lineDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
@@ -36,10 +36,10 @@ QString decoded(const QString& fileName, const QByteArray& bytes)
             break;
         ++line;
     }
-    throw Fault(lineFault(fileName, line, QStringLiteral("not UTF-8 text")));
+    throw Failure(lineFailure(fileName, line, QStringLiteral("not UTF-8 text")));
 }
 
-// Header lines have no quoted commas in practice; what counts is what parts the column names.
+// The first separator in the header line decides: column names contain neither in practice.
 QChar separatorOf(const QString& text)
 {
     for (const QChar character : text) {
@@ -62,12 +62,12 @@ QString CsvField::place() const
         .arg(column);
 }
 
-Fault CsvField::fault(const QString& reason) const
+Failure CsvField::failure(const QString& reason) const
 {
-    return Fault(QStringLiteral("%1: %2").arg(place(), reason));
+    return Failure(QStringLiteral("%1: %2").arg(place(), reason));
 }
 
-/// Reads a text row by row. Rows count from the line that they begin in.
+/// Reads a text row by row. The number of a row is that of its first line.
 class CsvTable::Parser
 {
 public:
@@ -77,7 +77,7 @@ public:
         , m_separator(separator)
     {}
 
-    /// The next row that has any text in it.
+    /// The next row that is not empty.
     std::optional<Row> nextRow()
     {
         while (m_position < m_text.size()) {
@@ -94,15 +94,15 @@ private:
         Row row{.line = m_line, .fields = {}};
         for (;;) {
             if (row.fields.size() == maxColumns)
-                throw fault(QStringLiteral("more than %1 columns").arg(maxColumns));
+                throw failure(QStringLiteral("more than %1 columns").arg(maxColumns));
             row.fields.append(readField());
             if (!skip(m_separator))
                 break;
         }
         const bool hasReturn = skip(u'\r');
         if (m_position < m_text.size() && !skip(u'\n'))
-            throw fault(hasReturn ? QStringLiteral("a carriage return without a line feed")
-                                  : QStringLiteral("text after a closing quotation mark"));
+            throw failure(hasReturn ? QStringLiteral("a carriage return without a line feed")
+                                    : QStringLiteral("text after a closing quotation mark"));
         ++m_line;
         return row;
     }
@@ -113,9 +113,9 @@ private:
             ++m_position;
         QString field = skip(u'"') ? readQuoted() : readPlain();
         if (field.size() > maxFieldLength)
-            throw fault(QStringLiteral("a field of more than %1 characters").arg(maxFieldLength));
+            throw failure(QStringLiteral("a field of more than %1 characters").arg(maxFieldLength));
         if (field.contains(QChar::Null))
-            throw fault(QStringLiteral("a NUL character"));
+            throw failure(QStringLiteral("a NUL character"));
         return field.trimmed();
     }
 
@@ -126,7 +126,7 @@ private:
             ++m_position;
         const QString field = m_text.sliced(start, m_position - start);
         if (field.contains(u'"'))
-            throw fault(QStringLiteral("a quotation mark inside a field that is not quoted"));
+            throw failure(QStringLiteral("a quotation mark inside a field that is not quoted"));
         return field;
     }
 
@@ -145,8 +145,8 @@ private:
                 ++m_line;
             field.append(character);
         }
-        throw Fault(lineFault(m_fileName, openedIn,
-                              QStringLiteral("a quotation mark that is never closed")));
+        throw Failure(
+            lineFailure(m_fileName, openedIn, QStringLiteral("an unclosed quotation mark")));
     }
 
     bool skip(QChar character)
@@ -166,9 +166,9 @@ private:
         return character == m_separator || character == u'\n' || character == u'\r';
     }
 
-    Fault fault(const QString& reason) const
+    Failure failure(const QString& reason) const
     {
-        return Fault(lineFault(m_fileName, m_line, reason));
+        return Failure(lineFailure(m_fileName, m_line, reason));
     }
 
     const QString m_fileName;
@@ -188,26 +188,26 @@ CsvTable CsvTable::parse(const QString& fileName, const QByteArray& bytes)
     Parser parser(fileName, text, table.m_separator);
     const std::optional<Row> header = parser.nextRow();
     if (!header)
-        throw table.faultInFile(QStringLiteral("empty, where a line of column names was expected"));
+        throw table.failureInFile(QStringLiteral("empty; expected a line of column names"));
     table.m_columns = header->fields;
     while (!table.m_columns.isEmpty() && table.m_columns.last().isEmpty())
         table.m_columns.removeLast(); // a spreadsheet's empty columns
     for (qsizetype i = 0; i < table.m_columns.size(); ++i) {
         const QString& column = table.m_columns.at(i);
         if (column.isEmpty() || table.m_columns.indexOf(column) != i)
-            throw table.faultInHeader(column, column.isEmpty()
-                                                  ? QStringLiteral("a column without a name")
-                                                  : QStringLiteral("the column is there twice"));
+            throw table.failureInHeader(column, column.isEmpty()
+                                                    ? QStringLiteral("a column without a name")
+                                                    : QStringLiteral("duplicate column"));
     }
 
     while (std::optional<Row> row = parser.nextRow()) {
         while (row->fields.size() > table.m_columns.size() && row->fields.last().isEmpty())
             row->fields.removeLast();
         if (row->fields.size() != table.m_columns.size())
-            throw Fault(lineFault(fileName, row->line,
-                                  QStringLiteral("%1 fields, where there are %2 columns")
-                                      .arg(row->fields.size())
-                                      .arg(table.m_columns.size())));
+            throw Failure(lineFailure(fileName, row->line,
+                                      QStringLiteral("%1 fields, but there are %2 columns")
+                                          .arg(row->fields.size())
+                                          .arg(table.m_columns.size())));
         table.m_rows.append(*std::move(row));
     }
     return table;
@@ -229,15 +229,15 @@ CsvField CsvTable::fieldAt(qsizetype row, qsizetype column) const
     return {source.fields.at(column), m_fileName, source.line, column + 1, m_columns.at(column)};
 }
 
-Fault CsvTable::faultInHeader(const QString& column, const QString& reason) const
+Failure CsvTable::failureInHeader(const QString& column, const QString& reason) const
 {
-    return Fault(QStringLiteral("%1:1, column %2 (%3): %4")
-                     .arg(m_fileName)
-                     .arg(m_columns.lastIndexOf(column) + 1)
-                     .arg(column, reason));
+    return Failure(QStringLiteral("%1:1, column %2 (%3): %4")
+                       .arg(m_fileName)
+                       .arg(m_columns.lastIndexOf(column) + 1)
+                       .arg(column, reason));
 }
 
-Fault CsvTable::faultInFile(const QString& reason) const
+Failure CsvTable::failureInFile(const QString& reason) const
 {
-    return Fault(QStringLiteral("%1: %2").arg(m_fileName, reason));
+    return Failure(QStringLiteral("%1: %2").arg(m_fileName, reason));
 }

@@ -2,14 +2,14 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
-#include "fault.h"
+#include "failure.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-/// One field of a table, which knows where it was written.
+/// One field of a table, with its place in the file.
 struct CsvField
 {
     QString text;
@@ -20,16 +20,16 @@ struct CsvField
 
     /// "supplies.csv:12, column 4 (width)"
     QString place() const;
-    Fault fault(const QString& reason) const;
+    Failure failure(const QString& reason) const;
 };
 
-/// A table as spreadsheets write it: UTF-8, the column names in the first line, fields parted by
-/// commas, or by semicolons as spreadsheets do where the comma is the decimal mark. Fields may be
-/// in quotation marks. Spaces around a field do not count, nor do rows without any text.
+/// A table as spreadsheets export it: UTF-8, with the column names in the first line and the fields
+/// separated by commas, or by semicolons where the comma is the decimal separator. Fields may be
+/// quoted. Spaces around fields and empty rows are ignored.
 class CsvTable
 {
 public:
-    /// Throws a Fault where the text is no such table.
+    /// Throws a Failure if the text is not such a table.
     static CsvTable parse(const QString& fileName, const QByteArray& bytes);
 
     qsizetype rowCount() const { return m_rows.size(); }
@@ -38,11 +38,11 @@ public:
     CsvField field(qsizetype row, QLatin1String column) const;
     CsvField field(qsizetype row, const QString& column) const;
 
-    /// Where commas are decimal marks.
+    /// Whether numbers may have a decimal comma.
     bool hasDecimalCommas() const { return m_separator == u';'; }
 
-    Fault faultInHeader(const QString& column, const QString& reason) const;
-    Fault faultInFile(const QString& reason) const;
+    Failure failureInHeader(const QString& column, const QString& reason) const;
+    Failure failureInFile(const QString& reason) const;
 
 private:
     CsvField fieldAt(qsizetype row, qsizetype column) const;

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// What must not be found. The first column of a row that is found names what is wrong.
+/// A statement that finds invalid rows. The first column names the row in the message.
 struct Rule
 {
     const char* found;
@@ -19,15 +19,15 @@ struct Rule
 };
 // clang-format off
 constexpr std::array rules{
-    Rule{"the panels of ribbon %1 are not numbered from 1 on",
+    Rule{"the panels of ribbon %1 are not numbered consecutively from 1",
          R"(SELECT r.sku FROM ribbon r LEFT JOIN ribbon_panel p ON p.ribbon_sku = r.sku
             GROUP BY r.sku HAVING count(p.panel) = 0 OR max(p.panel) <> count(p.panel))"},
-    Rule{"%1 is a supply and a ribbon",
+    Rule{"%1 is both a supply and a ribbon",
          "SELECT s.sku FROM supply s JOIN ribbon r ON r.sku = s.sku"},
     Rule{"supply %1 has a label length and a continuous format, or neither",
          R"(SELECT s.sku FROM supply s JOIN format f ON f.id = s.format_id
             WHERE (f.type = 'continuous') <> (s.label_length IS NULL))"},
-    Rule{"the formats of the printer model \"%1\" are not numbered from 0 on",
+    Rule{"the formats of the printer model \"%1\" are not numbered consecutively from 0",
          R"(SELECT model FROM printer_format
             GROUP BY model HAVING max(position) <> count(*) - 1)"},
     Rule{"the language 0 is \"%1\", not English",
@@ -49,7 +49,7 @@ DatabaseCounts checkDatabase(const QString& path, const QString& name)
     SupplyDbConnection connection;
     connection.setUp(path, path);
     if (!connection.open())
-        throw Fault(QStringLiteral("%1: %2").arg(name, connection.fault()));
+        throw Failure(QStringLiteral("%1: %2").arg(name, connection.fault()));
     return DatabaseChecker(connection.database(), name).check();
 }
 
@@ -68,11 +68,11 @@ DatabaseCounts DatabaseChecker::checkContent()
 {
     checkSchema();
     if (const QString table = first(QStringLiteral("PRAGMA foreign_key_check")); !table.isNull())
-        throw fault(QStringLiteral("a row of %1 refers to nothing").arg(table));
+        throw failure(QStringLiteral("a row of %1 refers to a missing row").arg(table));
     for (const Rule& rule : rules) {
         const QString subject = first(QString::fromLatin1(rule.statement));
         if (!subject.isNull())
-            throw fault(QString::fromLatin1(rule.found).arg(subject));
+            throw failure(QString::fromLatin1(rule.found).arg(subject));
     }
     return {count("supply"), count("ribbon"), count("print_setting"), count("language")};
 }
@@ -81,14 +81,14 @@ void DatabaseChecker::checkStructure()
 {
     const QString answer = first(QStringLiteral("PRAGMA integrity_check(1)"));
     if (answer != QLatin1String("ok"))
-        throw fault(QStringLiteral("damaged: %1").arg(answer.section(u'\n', -1)));
+        throw failure(QStringLiteral("damaged: %1").arg(answer.section(u'\n', -1)));
 }
 
-// The text of each table's statement is kept by SQLite as it was given.
+// SQLite stores the statement that created each table unchanged.
 void DatabaseChecker::checkSchema()
 {
     QStringList wanted;
-    for (const QString& statement : SupplyDbSchema::statements()) {
+    for (const QString& statement : supplydb_schema::statements()) {
         if (statement.startsWith(QLatin1String("CREATE ")))
             wanted.append(statement);
     }
@@ -101,8 +101,8 @@ void DatabaseChecker::checkSchema()
     wanted.sort();
     found.sort();
     if (found != wanted)
-        throw fault(QStringLiteral("its tables are not those of schema version %1")
-                        .arg(SupplyDbSchema::schemaVersion));
+        throw failure(QStringLiteral("its tables are not those of schema version %1")
+                          .arg(supplydb_schema::schemaVersion));
 }
 
 QSqlQuery& DatabaseChecker::run(const QString& statement)
@@ -114,11 +114,11 @@ QSqlQuery& DatabaseChecker::run(const QString& statement)
         query.prepare(statement);
     }
     if (!query.exec())
-        throw fault(QStringLiteral("damaged: %1").arg(query.lastError().databaseText()));
+        throw failure(QStringLiteral("damaged: %1").arg(query.lastError().databaseText()));
     return query;
 }
 
-/// The first column of the first row; null when there is no row.
+/// The first column of the first row; null if there is no row.
 QString DatabaseChecker::first(const QString& statement)
 {
     QSqlQuery& query = run(statement);
@@ -137,7 +137,7 @@ int DatabaseChecker::count(const char* table)
     return first(QStringLiteral("SELECT count(*) FROM %1").arg(QLatin1String(table))).toInt();
 }
 
-Fault DatabaseChecker::fault(const QString& reason) const
+Failure DatabaseChecker::failure(const QString& reason) const
 {
-    return Fault(QStringLiteral("%1: %2").arg(m_name, reason));
+    return Failure(QStringLiteral("%1: %2").arg(m_name, reason));
 }

@@ -2,7 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
-#include "fault.h"
+#include "failure.h"
 
 #include <QtCore/QString>
 #include <QtSql/QSqlDatabase>
@@ -10,7 +10,7 @@
 
 #include <map>
 
-/// What a supply database holds, counted.
+/// How many entries a supply database has.
 struct DatabaseCounts
 {
     int supplies = 0;
@@ -19,21 +19,21 @@ struct DatabaseCounts
     int languages = 0;
 };
 
-/// Looks at everything in a file: its structure as SQLite keeps it, its schema, its references, and
-/// what no constraint of the schema can express. Throws a Fault for the first thing wrong.
+/// Checks a whole file: SQLite's own structure, the schema, the references, and the rules that the
+/// schema's constraints cannot express. Throws a Failure for the first error.
 DatabaseCounts checkDatabase(const QString& path);
-/// Faults call the file `name`.
+/// The same with `name` in place of the path in messages.
 DatabaseCounts checkDatabase(const QString& path, const QString& name);
 
-/// The same for a database that is open, any number of times.
+/// Checks an open database, as often as needed.
 class DatabaseChecker
 {
 public:
-    /// Faults call the database `name`.
+    /// Messages begin with `name`.
     DatabaseChecker(const QSqlDatabase& database, const QString& name);
 
     DatabaseCounts check();
-    /// Without the structure, which SQLite keeps in order where nobody else writes.
+    /// Checks everything except the structure, which only another writer could damage.
     DatabaseCounts checkContent();
 
 private:
@@ -42,10 +42,10 @@ private:
     QSqlQuery& run(const QString& statement);
     QString first(const QString& statement);
     int count(const char* table);
-    Fault fault(const QString& reason) const;
+    Failure failure(const QString& reason) const;
 
     QSqlDatabase m_database;
     QString m_name;
-    /// Prepared once.
+    /// Each statement is prepared once.
     std::map<QString, QSqlQuery> m_queries;
 };

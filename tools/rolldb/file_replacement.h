@@ -5,10 +5,10 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
-/// Puts bytes in the place of a file, at once: whoever opens the path finds the old file or the new
-/// one in whole. Throws a Fault where it cannot be done; the old file is as it was then. What is
-/// there and is no file, such as a device or a pipe, is left alone.
+/// Replaces the content of a file atomically: the path always has either the complete old file or
+/// the complete new one. Throws a Failure on failure, which leaves the old file unchanged. A path
+/// that is not a regular file, such as a device or a pipe, is not replaced.
 void replaceFile(const QString& path, const QByteArray& bytes);
 
-/// Throws a Fault when something is at the path that is no file.
+/// Throws a Failure if the path exists and is not a regular file.
 void requireFileOrNothing(const QString& path);

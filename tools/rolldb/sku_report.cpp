@@ -3,7 +3,7 @@
 #include "sku_report.h"
 
 #include "database_check.h"
-#include "fault.h"
+#include "failure.h"
 #include "shown_text.h"
 
 #include <vxsupplydatabase.h>
@@ -95,7 +95,7 @@ QString ribbonReport(const VXSupplyDatabase& database, const QString& sku)
 
 QString skuReport(const QString& path, const QString& sku, int language)
 {
-    checkDatabase(path); // or a damaged file would seem to know little
+    checkDatabase(path); // a damaged file would seem to lack the SKU
     VXSupplyDatabase database;
     database.setup(path, QStringLiteral("rolldb show"));
     database.setLanguageId(language);
@@ -103,5 +103,5 @@ QString skuReport(const QString& path, const QString& sku, int language)
         return supplyReport(database, sku);
     if (database.supplyRibbonPanels(sku) > 0)
         return ribbonReport(database, sku);
-    throw Fault(QStringLiteral("%1: knows no supply or ribbon \"%2\"").arg(path, sku));
+    throw Failure(QStringLiteral("%1: no supply or ribbon \"%2\"").arg(path, sku));
 }

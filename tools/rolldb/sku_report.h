@@ -4,6 +4,6 @@
 
 #include <QtCore/QString>
 
-/// All that a database says of a supply or a ribbon, a line for each thing, with names in the
-/// language of that number. Throws a Fault when the file cannot be used or knows no such SKU.
+/// Everything that a database has about a supply or a ribbon, one line per property, with names in
+/// the language with that number. Throws a Failure if the file cannot be used or lacks the SKU.
 QString skuReport(const QString& path, const QString& sku, int language);

@@ -2,14 +2,18 @@
 // Copyright The VxPrinterStatus authors
 #include "arguments.h"
 
+#include "failure.h"
+
 #include <QtCore/QJsonDocument>
+
+#include <optional>
 
 namespace {
 
 QString typeOf(const QJsonObject& parameter)
 {
     const QJsonValue type = parameter[QStringLiteral("schema")][QStringLiteral("type")];
-    // A 64-bit integer may be written as a number or a text.
+    // A 64-bit integer may be a number or a string.
     return type.isArray() ? type[0].toString() : type.toString();
 }
 
@@ -21,14 +25,14 @@ QJsonValue parseJson(const QString& text)
     return array.size() == 1 ? array.first() : QJsonValue(QJsonValue::Undefined);
 }
 
-/// Undefined when the text is nothing of that type.
+/// Undefined if the text is not of the parameter's type.
 QJsonValue parse(const QString& text, const QJsonObject& parameter)
 {
     const QString type = typeOf(parameter);
     if (type == QStringLiteral("string"))
         return text;
     const QJsonValue value = parseJson(text);
-    // A record or anything at all: the service knows best.
+    // A record, or any type at all: leave it to the service to check.
     if (type.isEmpty())
         return value.isUndefined() ? QJsonValue(text) : value;
     const bool fits = type == QStringLiteral("boolean")  ? value.isBool()
@@ -54,7 +58,7 @@ std::optional<QJsonArray> readFor(const QJsonObject& method, const QStringList& 
         const QJsonValue value = parse(texts.at(i), parameter);
         if (value.isUndefined())
             return std::nullopt;
-        // What no double holds goes as it is typed, which services read too.
+        // A number that a double cannot hold is sent as text, which services accept.
         const bool isExact = !value.isDouble() || value == QJsonValue(value.toInteger());
         values.append(isExact || typeOf(parameter) == QStringLiteral("number")
                           ? value
@@ -90,7 +94,8 @@ QString signature(const QJsonObject& method)
                                         parameters.join(QStringLiteral(", ")));
 }
 
-Arguments readArguments(const QJsonObject& service, const QString& name, const QStringList& texts)
+QJsonArray readArguments(const QString& endpoint, const QJsonObject& service, const QString& name,
+                         const QStringList& texts)
 {
     std::optional<QJsonArray> best;
     qsizetype fewestTexts = 0;
@@ -109,10 +114,9 @@ Arguments readArguments(const QJsonObject& service, const QString& name, const Q
         }
     }
     if (best)
-        return {*best, std::nullopt};
-    if (signatures.isEmpty())
-        return {{}, QStringLiteral("there is no method %1").arg(name)};
-    return {
-        {},
-        QStringLiteral("the arguments do not fit %1").arg(signatures.join(QStringLiteral(" or ")))};
+        return *best;
+    const QString reason = signatures.isEmpty() ? QStringLiteral("there is no method %1").arg(name)
+                                                : QStringLiteral("the arguments do not fit %1")
+                                                      .arg(signatures.join(QStringLiteral(" or ")));
+    throw Failure(QStringLiteral("%1: %2").arg(endpoint, reason));
 }

@@ -7,22 +7,15 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-#include <optional>
-
-/// The arguments of a call, as they are typed, in the types of the method's parameters.
-struct Arguments
-{
-    QJsonArray values;
-    /// One line for people when the texts fit no method of the name.
-    std::optional<QString> error;
-};
-
-/// Reads `texts` as arguments of the method `name` in the OpenRPC document `service`.
+/// Reads `texts` as the arguments of the method `name` in the OpenRPC document `service` of
+/// `endpoint`, and returns them in the types of the method's parameters. Throws `Failure` if they
+/// fit no method of that name.
 ///
-/// A text argument is taken as it is typed, everything else as JSON. Of overloads, the one that
-/// takes the texts with the fewest left as texts is meant.
-Arguments readArguments(const QJsonObject& service, const QString& name, const QStringList& texts);
+/// Arguments for text parameters are taken as they are, all others are read as JSON. Of several
+/// overloads that fit, the one with the fewest text parameters is chosen.
+QJsonArray readArguments(const QString& endpoint, const QJsonObject& service, const QString& name,
+                         const QStringList& texts);
 
-/// How a method of the document is called, for people: "name(argument: type, [argument: type])"
-/// with what may be left out in brackets.
+/// How to call a method of the document: "name(argument: type, [argument: type])", with optional
+/// arguments in brackets.
 QString signature(const QJsonObject& method);

@@ -3,6 +3,8 @@
 #include "commands.h"
 
 #include "arguments.h"
+#include "failure.h"
+#include "ipc_names.h"
 #include "json_text.h"
 #include "shown_text.h"
 #include "vxipcclient.h"
@@ -13,11 +15,10 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <optional>
 
 namespace {
-
-const QString Prefix = QStringLiteral("vxipc-");
 
 struct Service
 {
@@ -27,40 +28,41 @@ struct Service
 
 constexpr std::array services = {Service{"supplyd", 0}, Service{"m4", 1}, Service{"printqd", 2}};
 
-void print(const QString& line)
+void printLine(StandardOutput& output, const QString& line)
 {
-    output().write(shown(line) + QLatin1Char('\n'));
+    output.write(shown(line) + QLatin1Char('\n'));
 }
 
-/// A text by itself, anything else as JSON.
+/// A string as it is, any other value as JSON.
 QString plain(const QJsonValue& value)
 {
     return value.isString() ? value.toString() : json_text::value(value);
 }
 
-void printPlain(const QJsonValue& value)
+void printPlain(StandardOutput& output, const QJsonValue& value)
 {
     if (value.isNull())
         return;
     if (value.isArray()) {
         for (const QJsonArray list = value.toArray(); const QJsonValue& entry : list)
-            print(plain(entry));
+            printLine(output, plain(entry));
         return;
     }
     if (value.isObject()) {
         const QJsonObject object = value.toObject();
         for (auto member = object.constBegin(); member != object.constEnd(); ++member)
-            print(QStringLiteral("%1: %2").arg(member.key(), plain(member.value())));
+            printLine(output, QStringLiteral("%1: %2").arg(member.key(), plain(member.value())));
         return;
     }
-    print(plain(value));
+    printLine(output, plain(value));
 }
 
-/// "supplyd", "supplyd-<process id>", "0", "vxipc-0" and the like as the endpoint's name.
-std::optional<QString> serverName(const QString& service)
+/// The endpoint's name for "supplyd", "supplyd-<process id>", "0", "vxipc-0" and the like.
+std::optional<QString> endpointName(const QString& service)
 {
     static const QRegularExpression form(
-        QStringLiteral("^(?:vxipc-)?(?<service>[a-z][a-z0-9]*|-?\\d+)(?<process>(?:-\\d+){0,2})$"));
+        QStringLiteral("^(?:%1)?(?<service>[a-z][a-z0-9]*|-?\\d+)(?<process>(?:-\\d+){0,2})$")
+            .arg(endpointNamePrefix));
     const QRegularExpressionMatch match = form.match(service);
     if (!match.hasMatch())
         return std::nullopt;
@@ -68,17 +70,17 @@ std::optional<QString> serverName(const QString& service)
     const QString process = match.captured(QStringLiteral("process"));
     for (const Service& each : services) {
         if (wanted == QLatin1String(each.name))
-            return Prefix + QString::number(each.serverType) + process;
+            return endpointNamePrefix + QString::number(each.serverType) + process;
     }
     bool isNumber = false;
     wanted.toInt(&isNumber);
-    return isNumber ? std::optional(Prefix + wanted + process) : std::nullopt;
+    return isNumber ? std::optional(endpointNamePrefix + wanted + process) : std::nullopt;
 }
 
-/// The service that an endpoint's name stands for, its number when it has no name of its own.
-QString serviceOf(const QString& server)
+/// The name of the service that an endpoint belongs to, or its number if it has no name.
+QString serviceOf(const QString& endpoint)
 {
-    const QString number = server.mid(Prefix.size()).section(QLatin1Char('-'), 0, 0);
+    const QString number = endpoint.mid(endpointNamePrefix.size()).section(QLatin1Char('-'), 0, 0);
     for (const Service& each : services) {
         if (number == QString::number(each.serverType))
             return QString::fromLatin1(each.name);
@@ -86,131 +88,129 @@ QString serviceOf(const QString& server)
     return number;
 }
 
-int complain(const QString& subject, const VXIPCError& error)
+/// The result of a call. `subject` is what the message begins with if the call fails.
+QJsonValue resultOf(const VXIPCReply& reply, const QString& subject)
 {
-    return complain(Failed, QStringLiteral("%1: %2").arg(subject, error.message));
+    if (!reply.isOk())
+        throw Failure(QStringLiteral("%1: %2").arg(subject, reply.error->message));
+    return reply.result;
 }
 
-int list(const Options& options)
+VXIPCReply discover(VXIPCClient& client, const Options& options)
+{
+    return client.callAndWait(QStringLiteral("rpc.discover"), {}, options.timeout);
+}
+
+void list(const QStringList& /*words*/, const Options& options, StandardOutput& output)
 {
     if (const QString obstacle = VXIPCClient::distrust(); !obstacle.isEmpty())
-        return complain(Failed, obstacle);
+        throw Failure(obstacle);
     QJsonArray found;
-    for (const QStringList servers = VXIPCClient::runningServers();
-         const QString& server : servers) {
-        VXIPCClient client(server);
-        const VXIPCReply reply =
-            client.callAndWait(QStringLiteral("rpc.discover"), {}, options.timeout);
-        // Listed too when it does not answer: it is there, and somebody looks for the reason.
+    for (const QStringList endpoints = VXIPCClient::runningServers();
+         const QString& endpoint : endpoints) {
+        VXIPCClient client(endpoint);
+        const VXIPCReply reply = discover(client, options);
+        // An endpoint that does not answer is listed too, with the reason.
         const QJsonValue info = reply.result[QStringLiteral("info")];
         found.append(QJsonObject{
-            {QStringLiteral("name"), server},
-            {QStringLiteral("service"), serviceOf(server)},
+            {QStringLiteral("name"), endpoint},
+            {QStringLiteral("service"), serviceOf(endpoint)},
             {QStringLiteral("process"), info[QStringLiteral("x-process")]},
             {QStringLiteral("application"), info[QStringLiteral("x-application")]},
             {QStringLiteral("error"), reply.isOk() ? QJsonValue() : reply.error->message}});
     }
     if (options.isJson) {
-        print(json_text::value(found));
-        return Done;
+        printLine(output, json_text::value(found));
+        return;
     }
-    for (const QJsonValue& server : std::as_const(found)) {
-        const bool answers = server[QStringLiteral("error")].isNull();
-        QStringList cells{server[QStringLiteral("name")].toString(),
-                          server[QStringLiteral("service")].toString(),
-                          answers ? plain(server[QStringLiteral("process")])
-                                  : server[QStringLiteral("error")].toString(),
-                          server[QStringLiteral("application")].toString()};
+    for (const QJsonValue& endpoint : std::as_const(found)) {
+        const bool answers = endpoint[QStringLiteral("error")].isNull();
+        QStringList cells{endpoint[QStringLiteral("name")].toString(),
+                          endpoint[QStringLiteral("service")].toString(),
+                          answers ? plain(endpoint[QStringLiteral("process")])
+                                  : endpoint[QStringLiteral("error")].toString(),
+                          endpoint[QStringLiteral("application")].toString()};
         std::ranges::transform(cells, cells.begin(), shown);
-        output().write(cells.join(QLatin1Char('\t')) + QLatin1Char('\n'));
+        output.write(cells.join(QLatin1Char('\t')) + QLatin1Char('\n'));
     }
-    return Done;
 }
 
-int describe(const QString& server, const Options& options)
+QString requireEndpoint(const QString& service)
 {
-    VXIPCClient client(server);
-    const VXIPCReply reply =
-        client.callAndWait(QStringLiteral("rpc.discover"), {}, options.timeout);
-    if (!reply.isOk())
-        return complain(server, *reply.error);
+    const std::optional<QString> name = endpointName(service);
+    if (!name)
+        throw wrongUsage(QStringLiteral("unknown service \"%1\"; expected supplyd, m4, printqd, a "
+                                        "number or a name printed by list")
+                             .arg(service));
+    return *name;
+}
+
+void describe(const QStringList& words, const Options& options, StandardOutput& output)
+{
+    const QString endpoint = requireEndpoint(words.at(0));
+    VXIPCClient client(endpoint);
+    const QJsonValue service = resultOf(discover(client, options), endpoint);
     if (options.isJson) {
-        print(json_text::value(reply.result));
-        return Done;
+        printLine(output, json_text::value(service));
+        return;
     }
-    for (const QJsonArray methods = reply.result[QStringLiteral("methods")].toArray();
+    for (const QJsonArray methods = service[QStringLiteral("methods")].toArray();
          const QJsonValue& method : methods) {
-        print(QStringLiteral("%1 -> %2")
-                  .arg(signature(method.toObject()),
-                       method[QStringLiteral("result")][QStringLiteral("x-type")].toString()));
+        printLine(output,
+                  QStringLiteral("%1 -> %2")
+                      .arg(signature(method.toObject()),
+                           method[QStringLiteral("result")][QStringLiteral("x-type")].toString()));
     }
-    return Done;
 }
 
-int call(const QString& server, const QString& method, const QStringList& texts,
-         const Options& options)
+void call(const QStringList& words, const Options& options, StandardOutput& output)
 {
-    VXIPCClient client(server);
-    const VXIPCReply service =
-        client.callAndWait(QStringLiteral("rpc.discover"), {}, options.timeout);
-    if (!service.isOk())
-        return complain(server, *service.error);
-    const Arguments arguments = readArguments(service.result.toObject(), method, texts);
-    if (arguments.error)
-        return complain(Failed, QStringLiteral("%1: %2").arg(server, *arguments.error));
-
-    const VXIPCReply reply = client.callAndWait(method, arguments.values, options.timeout);
-    if (!reply.isOk())
-        return complain(QStringLiteral("%1: %2").arg(server, method), *reply.error);
+    const QString endpoint = requireEndpoint(words.at(0));
+    const QString& method = words.at(1);
+    const QString subject = QStringLiteral("%1: %2").arg(endpoint, method);
+    VXIPCClient client(endpoint);
+    const QJsonObject service = resultOf(discover(client, options), endpoint).toObject();
+    const QJsonArray arguments = readArguments(endpoint, service, method, words.mid(2));
+    const QJsonValue result =
+        resultOf(client.callAndWait(method, arguments, options.timeout), subject);
     if (options.isJson)
-        print(json_text::value(reply.result));
+        printLine(output, json_text::value(result));
     else
-        printPlain(reply.result);
-    return Done;
+        printPlain(output, result);
 }
+
+struct Command
+{
+    const char* name;
+    const char* expected; ///< its arguments as error messages describe them
+    qsizetype fewestArguments;
+    qsizetype mostArguments;
+    void (*run)(const QStringList& words, const Options& options, StandardOutput& output);
+};
+
+constexpr std::array commands{
+    Command{"list", "no arguments", 0, 0, list},
+    Command{"describe", "a SERVICE", 1, 1, describe},
+    Command{"call", "a SERVICE, a METHOD and its arguments", 2,
+            std::numeric_limits<qsizetype>::max(), call},
+};
 
 } // namespace
 
-StandardOutput& output()
+void runCommand(const QStringList& words, const Options& options, StandardOutput& output)
 {
-    static StandardOutput output("vxipc");
-    return output;
-}
-
-int complain(ExitStatus status, const QString& complaint)
-{
-    output().complain(complaint);
-    return status;
-}
-
-int runCommand(const QStringList& words, const Options& options)
-{
+    const QString expected = QStringLiteral("expected list, describe or call");
     if (words.isEmpty())
-        return complain(WrongUsage, QStringLiteral("expected list, describe or call; see --help"));
-    const QString verb = words.at(0);
-    if (verb == QStringLiteral("list")) {
-        if (words.size() != 1)
-            return complain(WrongUsage, QStringLiteral("list takes no arguments"));
-        return list(options);
-    }
-    const bool isDescribe = verb == QStringLiteral("describe");
-    if (!isDescribe && verb != QStringLiteral("call"))
-        return complain(WrongUsage,
-                        QStringLiteral("\"%1\": expected list, describe or call").arg(verb));
-    if (isDescribe && words.size() != 2)
-        return complain(WrongUsage, QStringLiteral("describe takes a SERVICE"));
-    if (!isDescribe && words.size() < 3)
-        return complain(WrongUsage,
-                        QStringLiteral("call takes a SERVICE, a METHOD and its arguments"));
-
-    const std::optional<QString> server = serverName(words.at(1));
-    if (!server) {
-        return complain(
-            WrongUsage,
-            QStringLiteral("\"%1\" is no service: expected supplyd, m4, printqd, a number "
-                           "or a name that list prints")
-                .arg(words.at(1)));
-    }
-    return isDescribe ? describe(*server, options)
-                      : call(*server, words.at(2), words.mid(3), options);
+        throw wrongUsage(expected);
+    const QString& name = words.first();
+    const auto command = std::ranges::find_if(
+        commands, [&name](const Command& each) { return name == QLatin1String(each.name); });
+    if (command == commands.end())
+        throw wrongUsage(QStringLiteral("unknown command \"%1\"; %2").arg(name, expected));
+    const QStringList arguments = words.mid(1);
+    if (arguments.size() < command->fewestArguments || arguments.size() > command->mostArguments)
+        throw wrongUsage(
+            QStringLiteral("%1 takes %2")
+                .arg(QString::fromLatin1(command->name), QString::fromLatin1(command->expected)));
+    command->run(arguments, options, output);
 }

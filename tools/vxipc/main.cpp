@@ -1,31 +1,36 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 #include "commands.h"
+#include "failure.h"
 
 #include <QtCore/QCoreApplication>
 
 namespace {
 
-constexpr const char* Help = R"(Calls the endpoints that run for this user.
+constexpr char helpText[] = R"(Usage: vxipc [OPTION]... COMMAND
 
-vxipc [OPTIONS] list                            endpoints: name, service, process, application
-vxipc [OPTIONS] describe SERVICE                methods of an endpoint
-vxipc [OPTIONS] call SERVICE METHOD [ARGUMENT]...
+Calls the endpoints that run for this user.
 
-SERVICE is supplyd, m4, printqd, a number, or a name that list prints. A text argument is taken as
-it is typed, all others as JSON.
+Commands:
+  list                   list the endpoints: name, service, process, application
+  describe SERVICE       list the methods of an endpoint
+  call SERVICE METHOD [ARGUMENT]...
+                         call a method and print its result
 
---json          prints JSON
---timeout MS    how long to wait for an endpoint, in milliseconds (10000)
---help          prints this
---              what follows is no option
+SERVICE is supplyd, m4, printqd, a number, or a name printed by list. Arguments
+for text parameters are taken as they are, all others are read as JSON.
 
-Exit status: 0 done, 1 failed, 2 wrong usage. Output that cannot be written is
-a failure, a pipe that its reader has closed is not.
+Options:
+  --json                 print JSON
+  --timeout MS           wait up to MS milliseconds for an endpoint (10000)
+  --help                 print this help
+  --                     what follows is not an option
+
+Exit status: 0 success, 1 failure, 2 wrong usage. Failing to write the output
+is a failure, unless the reader has closed the pipe.
 )";
 
-/// Carries out the command line, and answers the exit status.
-int run()
+void run(StandardOutput& output)
 {
     const QStringList given = QCoreApplication::arguments().mid(1);
     QStringList words;
@@ -37,8 +42,8 @@ int run()
             break;
         }
         if (word == QStringLiteral("--help")) {
-            output().write(QString::fromLatin1(Help));
-            return Done;
+            output.write(QString::fromLatin1(helpText));
+            return;
         }
         if (word == QStringLiteral("--json")) {
             options.isJson = true;
@@ -46,23 +51,22 @@ int run()
             bool ok = false;
             const int timeout = given.value(++i).toInt(&ok);
             if (!ok || timeout <= 0)
-                return complain(WrongUsage,
-                                QStringLiteral("--timeout takes a number of milliseconds"));
+                throw wrongUsage(QStringLiteral("--timeout takes a number of milliseconds"));
             options.timeout = std::chrono::milliseconds(timeout);
         } else if (word.startsWith(QStringLiteral("--"))) {
-            return complain(WrongUsage, QStringLiteral("there is no option %1").arg(word));
+            throw wrongUsage(QStringLiteral("unknown option %1").arg(word));
         } else {
             words.append(word);
         }
     }
-    return runCommand(words, options);
+    runCommand(words, options, output);
 }
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    StandardOutput& standardOutput = output();
+    StandardOutput output("vxipc");
     const QCoreApplication app(argc, argv);
-    return standardOutput.exitStatus(run());
+    return runTool(output, [&output] { run(output); });
 }

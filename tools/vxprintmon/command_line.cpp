@@ -2,6 +2,9 @@
 // Copyright The VxPrinterStatus authors
 #include "command_line.h"
 
+#include "commands.h"
+#include "failure.h"
+
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QRegularExpression>
@@ -12,79 +15,87 @@
 
 namespace {
 
-struct KnownVerb
+struct Option
 {
     const char* name;
-    Verb verb;
-    const char* words; ///< what follows it, for people
-    qsizetype fewest;
-    qsizetype most;
-};
-constexpr std::array verbs{
-    KnownVerb{"list", Verb::List, "no argument", 0, 0},
-    KnownVerb{"watch", Verb::Watch, "no argument", 0, 0},
-    KnownVerb{"status", Verb::Status, "at most a printer", 0, 1},
-    KnownVerb{"send", Verb::Send, "a printer and a command", 2, 2},
-    KnownVerb{"title", Verb::Title, "a status code", 1, 1},
+    const char* value; ///< the placeholder in the help; empty if the option takes no value
+    const char* summary;
+    CommandOptions required{}; ///< what a command must accept for this option to be valid with it
 };
 
-constexpr char usage[] =
-    R"(Usage: vxprintmon VERB [options]
+constexpr Option jsonOption{"json", "", "print JSON: an array, or one object per line"};
+constexpr Option forOption{"for", "SECONDS",
+                           "watch: stop after SECONDS; by default, when interrupted",
+                           CommandOption::For};
+constexpr Option logOption{"log", "FILE", "append the library's log to FILE"};
+constexpr Option virtualOption{"virtual", "FILE", "use the virtual printers that FILE describes"};
+constexpr Option speedOption{"speed", "FACTOR",
+                             "watch: speed up the virtual printers' story by FACTOR",
+                             CommandOption::Speed};
+constexpr Option helpOption{"help", "", "print this help"};
+constexpr Option versionOption{"version", "", "print the version"};
+
+constexpr std::array options{jsonOption,  forOption,  logOption,    virtualOption,
+                             speedOption, helpOption, versionOption};
+
+constexpr char helpBegin[] = R"(Usage: vxprintmon COMMAND [OPTION]...
 
 Lists and watches the label printers of the print spooler.
 
-Verbs:
-  list                   the printers the spooler knows
-  watch                  a line for everything that happens to the label printers
-  status [PRINTER]       what is known of all label printers, or of one
-  send PRINTER COMMAND   sends a command in the printer's own language
-  title CODE             the title of a status code
-
-Options:
-  --json                 JSON instead of text for people: an array, or an object a line
-  --for SECONDS          watch: end after so many seconds; without it, watch until interrupted
-  --log FILE             write what the library logs to the end of FILE
-  --virtual FILE         run on the virtual printers that FILE describes
-  --speed FACTOR         watch: let the virtual printers' story pass FACTOR times as fast
-  --help                 this text
-  --version              the version
-
-status waits until the printers it shows have reported and 0.1 seconds have passed without more, but
-no longer than 2 seconds; what has come by then is taken in for half a second more.
-Names of colours and materials come from the file roll.db beside this program.
-Where there is no Windows, virtual printers are all there is: without FILE a fleet of six.
-Colours are left out when the output is no terminal or NO_COLOR is set.
-Characters that could steer the terminal are shown as \u001b and the like.
-Exit status: 0 done, 1 failed, 2 wrong usage. Output that cannot be written is a failure, a pipe that
-its reader has closed is not.
+Commands:
 )";
 
-QString verbList()
+constexpr char helpEnd[] = R"(
+status waits until every printer that it shows has reported and 0.1 seconds have
+passed without another report, but no longer than 2 seconds. It then spends up
+to half a second more on reports that have arrived by that time.
+
+The names of colours and materials come from the file roll.db beside this
+program. Only the Windows build sees the printers of the system; any other build
+has virtual printers only, by default a fleet of six.
+
+Colours are omitted if the output is not a terminal or NO_COLOR is set.
+Characters that could control the terminal are shown as \u001b and the like.
+
+Exit status: 0 success, 1 failure, 2 wrong usage. Failing to write the output
+is a failure, unless the reader has closed the pipe.
+)";
+
+QString helpRow(const QString& left, const char* summary)
+{
+    constexpr int leftWidth = 23;
+    return QStringLiteral("  %1%2\n")
+        .arg(left.leftJustified(leftWidth), QString::fromLatin1(summary));
+}
+
+QString help()
+{
+    QString text = QString::fromLatin1(helpBegin);
+    for (const Command& command : commands())
+        text += helpRow(QStringLiteral("%1 %2").arg(QString::fromLatin1(command.name),
+                                                    QString::fromLatin1(command.arguments)),
+                        command.summary);
+    text += QStringLiteral("\nOptions:\n");
+    for (const Option& option : options)
+        text += helpRow(QStringLiteral("--%1 %2").arg(QString::fromLatin1(option.name),
+                                                      QString::fromLatin1(option.value)),
+                        option.summary);
+    return text + QString::fromLatin1(helpEnd);
+}
+
+/// The names of the commands that accept all of `required`.
+QString commandNames(CommandOptions required = {})
 {
     QStringList names;
-    for (const KnownVerb& verb : verbs)
-        names.append(QString::fromLatin1(verb.name));
+    for (const Command& command : commands()) {
+        if ((command.options & required) == required)
+            names.append(QString::fromLatin1(command.name));
+    }
     return names.join(QStringLiteral(", "));
 }
 
-std::optional<double> positiveNumber(const QString& text)
-{
-    bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
-    // Also what a day of milliseconds can still be counted in.
-    constexpr double largest = 1e6;
-    if (!isNumber || !std::isfinite(number) || number <= 0 || number > largest)
-        return std::nullopt;
-    return number;
-}
-
-WrongUsage wrong(const QString& text)
-{
-    return {text + QStringLiteral(" (vxprintmon --help tells more)")};
-}
-
-/// The arguments with a negative status code, which would pass for an option, at the end and behind
-/// the mark that there are no more options.
+/// The arguments with a negative status code, which would be taken for an option, moved to the end
+/// and behind "--".
 QStringList withCodeLast(QStringList arguments)
 {
     static const QRegularExpression negativeNumber(QStringLiteral("^-\\d+$"));
@@ -94,80 +105,113 @@ QStringList withCodeLast(QStringList arguments)
     return arguments;
 }
 
+/// The options as they were given, with their values checked.
+class GivenOptions
+{
+public:
+    explicit GivenOptions(const QStringList& arguments)
+    {
+        for (const Option& option : options)
+            m_parser.addOption(QCommandLineOption(QString::fromLatin1(option.name), {},
+                                                  QString::fromLatin1(option.value)));
+        if (!m_parser.parse(withCodeLast(arguments))) {
+            const QString error = m_parser.errorText();
+            throw wrongUsage(error.endsWith(QLatin1Char('.')) ? error.chopped(1) : error);
+        }
+    }
+
+    QStringList words() const { return m_parser.positionalArguments(); }
+    bool has(const Option& option) const
+    {
+        return m_parser.isSet(QString::fromLatin1(option.name));
+    }
+    QString fileName(const Option& option) const
+    {
+        const QString name = m_parser.value(QString::fromLatin1(option.name));
+        if (has(option) && name.isEmpty())
+            throw wrongUsage(
+                QStringLiteral("--%1: expected a file name").arg(QString::fromLatin1(option.name)));
+        return name;
+    }
+    std::optional<double> positiveNumber(const Option& option) const
+    {
+        if (!has(option))
+            return std::nullopt;
+        // So many seconds can still be counted in milliseconds by an int.
+        constexpr double largest = 1e6;
+        const QString text = m_parser.value(QString::fromLatin1(option.name));
+        bool isNumber = false;
+        const double number = text.toDouble(&isNumber);
+        if (!isNumber || !std::isfinite(number) || number <= 0 || number > largest)
+            throw wrongUsage(
+                QStringLiteral("--%1: expected a number above 0 and up to 1000000, found \"%2\"")
+                    .arg(QString::fromLatin1(option.name), text));
+        return number;
+    }
+
+private:
+    QCommandLineParser m_parser;
+};
+
+const Command& commandNamed(const QString& name)
+{
+    const std::span<const Command> all = commands();
+    const auto command = std::ranges::find_if(
+        all, [&](const Command& each) { return name == QLatin1String(each.name); });
+    if (command == all.end())
+        throw wrongUsage(
+            QStringLiteral("unknown command \"%1\"; expected one of %2").arg(name, commandNames()));
+    return *command;
+}
+
+void check(const Command& command, const QStringList& arguments)
+{
+    if (arguments.size() < command.fewestArguments || arguments.size() > command.mostArguments) {
+        const QString found =
+            arguments.isEmpty()
+                ? QStringLiteral("nothing")
+                : QStringLiteral("\"%1\"").arg(arguments.join(QStringLiteral("\" \"")));
+        throw wrongUsage(QStringLiteral("%1 takes %2, found %3")
+                             .arg(QString::fromLatin1(command.name),
+                                  QString::fromLatin1(command.expected), found));
+    }
+    if (command.check)
+        command.check(arguments);
+}
+
 } // namespace
 
-std::variant<CommandLine, WrongUsage, Answer> parseCommandLine(const QStringList& arguments)
+CommandLine parseCommandLine(const QStringList& arguments)
 {
-    QCommandLineParser parser;
-    const QCommandLineOption help(QStringLiteral("help"));
-    const QCommandLineOption version(QStringLiteral("version"));
-    const QCommandLineOption json(QStringLiteral("json"));
-    const QCommandLineOption forSeconds(QStringLiteral("for"), {}, QStringLiteral("SECONDS"));
-    const QCommandLineOption log(QStringLiteral("log"), {}, QStringLiteral("FILE"));
-    const QCommandLineOption fleet(QStringLiteral("virtual"), {}, QStringLiteral("FILE"));
-    const QCommandLineOption speed(QStringLiteral("speed"), {}, QStringLiteral("FACTOR"));
-    parser.addOptions({help, version, json, forSeconds, log, fleet, speed});
-    if (!parser.parse(withCodeLast(arguments))) {
-        const QString error = parser.errorText();
-        return wrong(error.endsWith(QLatin1Char('.')) ? error.chopped(1) : error);
-    }
-    if (parser.isSet(help))
-        return Answer{QString::fromUtf8(usage)};
-    if (parser.isSet(version))
-        return Answer{
-            QStringLiteral("vxprintmon %1\n").arg(QCoreApplication::applicationVersion())};
-
-    QStringList words = parser.positionalArguments();
-    if (words.isEmpty())
-        return wrong(QStringLiteral("expected a verb: ") + verbList());
-    const QString name = words.takeFirst();
-    const auto verb = std::ranges::find_if(
-        verbs, [&](const KnownVerb& known) { return name == QLatin1String(known.name); });
-    if (verb == verbs.end())
-        return wrong(QStringLiteral("\"%1\" is no verb; expected one of %2").arg(name, verbList()));
-    if (words.size() < verb->fewest || words.size() > verb->most) {
-        const QString found =
-            words.isEmpty() ? QStringLiteral("nothing")
-                            : QStringLiteral("\"%1\"").arg(words.join(QStringLiteral("\" \"")));
-        return wrong(QStringLiteral("%1 takes %2, found %3")
-                         .arg(name, QString::fromLatin1(verb->words), found));
-    }
-
+    const GivenOptions given(arguments);
     CommandLine line;
-    line.verb = verb->verb;
-    line.words = words;
-    if (line.verb == Verb::Title) {
-        bool isCode = false;
-        line.code = words.first().toInt(&isCode);
-        if (!isCode)
-            return wrong(
-                QStringLiteral(
-                    "title takes a status code from -2147483648 to 2147483647, found \"%1\"")
-                    .arg(words.first()));
+    if (given.has(helpOption)) {
+        line.information = help();
+        return line;
     }
-    line.json = parser.isSet(json);
-    line.logFile = parser.value(log);
-    line.fleetFile = parser.value(fleet);
-    for (const QCommandLineOption* option : {&log, &fleet}) {
-        if (parser.isSet(*option) && parser.value(*option).isEmpty())
-            return wrong(
-                QStringLiteral("--%1: expected a file's name").arg(option->names().constFirst()));
+    if (given.has(versionOption)) {
+        line.information =
+            QStringLiteral("vxprintmon %1\n").arg(QCoreApplication::applicationVersion());
+        return line;
     }
-    for (const QCommandLineOption* option : {&forSeconds, &speed}) {
-        if (!parser.isSet(*option))
-            continue;
-        const QString optionName = option->names().constFirst();
-        if (line.verb != Verb::Watch)
-            return wrong(QStringLiteral("--%1 goes with watch only").arg(optionName));
-        const std::optional<double> number = positiveNumber(parser.value(*option));
-        if (!number)
-            return wrong(
-                QStringLiteral("--%1: expected a number above 0, at most 1000000, found \"%2\"")
-                    .arg(optionName, parser.value(*option)));
-        if (option == &speed)
-            line.speed = *number;
-        else
-            line.seconds = number;
+
+    line.arguments = given.words();
+    if (line.arguments.isEmpty())
+        throw wrongUsage(QStringLiteral("expected a command: ") + commandNames());
+    const Command& command = commandNamed(line.arguments.takeFirst());
+    check(command, line.arguments);
+    line.command = &command;
+
+    line.json = given.has(jsonOption);
+    line.logFile = given.fileName(logOption);
+    line.fleetFile = given.fileName(virtualOption);
+    for (const Option& option : options) {
+        if (given.has(option) && (command.options & option.required) != option.required)
+            throw wrongUsage(
+                QStringLiteral("--%1 is valid only with %2")
+                    .arg(QString::fromLatin1(option.name), commandNames(option.required)));
     }
+    line.seconds = given.positiveNumber(forOption);
+    line.speed = given.positiveNumber(speedOption).value_or(line.speed);
     return line;
 }

@@ -6,39 +6,20 @@
 #include <QtCore/QStringList>
 
 #include <optional>
-#include <variant>
 
-enum class Verb
-{
-    List,
-    Watch,
-    Status,
-    Send,
-    Title,
-};
+struct Command;
 
 struct CommandLine
 {
-    Verb verb = Verb::List;
-    QStringList words; ///< what follows the verb, as many as it takes
+    const Command* command = nullptr; ///< null if the user only asked for `information`
+    QString information;              ///< the help or the version, printed instead of a command
+    QStringList arguments;            ///< of the command; their number is right
     bool json = false;
-    QString logFile;               ///< what the library's log goes into; empty: nothing
+    QString logFile;               ///< the library's log is appended to it; empty: no log
     QString fleetFile;             ///< empty: the built-in fleet, or the system's own printers
-    std::optional<double> seconds; ///< how long to watch; without it, until interrupted
-    double speed = 1;              ///< of the fleet's story
-    int code = 0;                  ///< the status code whose title is wanted
+    std::optional<double> seconds; ///< how long to watch; without a value, until interrupted
+    double speed = 1;              ///< of the virtual printers' story
 };
 
-/// Wrong usage, in one line.
-struct WrongUsage
-{
-    QString text;
-};
-
-/// A text that was asked for, to be printed instead of doing anything.
-struct Answer
-{
-    QString text;
-};
-
-std::variant<CommandLine, WrongUsage, Answer> parseCommandLine(const QStringList& arguments);
+/// Throws `Failure` if the arguments are wrong.
+CommandLine parseCommandLine(const QStringList& arguments);

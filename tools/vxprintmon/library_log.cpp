@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #include "library_log.h"
 
+#include "failure.h"
+
 #include <ConsoleAppender.h>
 #include <FileAppender.h>
 #include <Logger.h>
@@ -18,16 +20,16 @@ void add(AbstractAppender* appender, Logger::LogLevel leastLevel)
 
 } // namespace
 
-QString keepLibraryLog(const QString& fileName)
+void setUpLibraryLog(const QString& fileName)
 {
-    // The library logs at debug level; what is left are warnings of Qt's.
+    // The library logs at debug level, so only warnings from Qt reach the console.
     add(new ConsoleAppender, Logger::Warning);
     if (fileName.isEmpty())
-        return {};
-    // The appender opens its file with the first line, and only remarks that it cannot.
+        return;
+    // The appender opens the file at its first line and does not report an error, so try it here.
     QFile file(fileName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append))
-        return QStringLiteral("cannot write the log %1: %2").arg(fileName, file.errorString());
+        throw Failure(
+            QStringLiteral("cannot write the log %1: %2").arg(fileName, file.errorString()));
     add(new FileAppender(fileName), Logger::Debug);
-    return {};
 }

@@ -4,6 +4,6 @@
 
 #include <QtCore/QString>
 
-/// Keeps what the library logs off standard error, and with a file's name writes it to the end of
-/// that file. The answer is what is wrong with the file, empty if nothing is.
-QString keepLibraryLog(const QString& fileName);
+/// Keeps the library's log off standard error and, if a file is named, appends it to that file.
+/// Throws `Failure` if the file cannot be written.
+void setUpLibraryLog(const QString& fileName);

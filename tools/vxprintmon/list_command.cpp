@@ -2,7 +2,9 @@
 // Copyright The VxPrinterStatus authors
 #include "commands.h"
 
+#include "command_line.h"
 #include "json_text.h"
+#include "output.h"
 
 #include "printer_types.h"
 #include "windows_printer_info.h"
@@ -60,7 +62,7 @@ Cell flags(const AvailablePrinters& printer, bool isDefault)
 
 } // namespace
 
-QString runList(const CommandLine& line, Output& output, Scene& /*scene*/)
+void runList(const CommandLine& line, Output& output, Backend& /*backend*/)
 {
     const QList<AvailablePrinters> printers = WindowsPrinterInfo::getAvailablePrinters();
     if (line.json) {
@@ -68,11 +70,12 @@ QString runList(const CommandLine& line, Output& output, Scene& /*scene*/)
         for (const AvailablePrinters& printer : printers)
             texts.append(json(printer));
         output.text(json_text::lines(texts));
-        return {};
+        return;
     }
     if (printers.isEmpty()) {
-        output.text(QStringLiteral("The print spooler knows no printers, or is not running.\n"));
-        return {};
+        output.text(
+            QStringLiteral("There are no printers, or the print spooler is not running.\n"));
+        return;
     }
 
     const QString defaultPrinter = WindowsPrinterInfo::getDefaultPrinterName();
@@ -92,5 +95,4 @@ QString runList(const CommandLine& line, Output& output, Scene& /*scene*/)
     output.table({QStringLiteral("PRINTER"), QStringLiteral("MODEL"), QStringLiteral("PORT"),
                   QStringLiteral("SERIAL"), QStringLiteral("DRIVER"), QStringLiteral("FLAGS")},
                  rows);
-    return {};
 }

@@ -18,8 +18,8 @@ enum class Colour
     Heading,
 };
 
-/// A piece of text with its colour, after a sample of another colour ("#rrggbb") if it has one. The
-/// text may be anybody's: it is shown with marks for what is no printable character.
+/// A piece of text with its colour, optionally after a sample of another colour ("#rrggbb"). The
+/// text may come from elsewhere: unprintable characters in it are escaped.
 struct Cell
 {
     QString text{};
@@ -27,25 +27,25 @@ struct Cell
     QString sample{};
 };
 
-/// Standard output: lines that are there as soon as they are written, in colours on a terminal that
-/// wants them.
+/// Lines and tables on standard output, in colour if it is a terminal that shows colours and the
+/// user has not turned them off. Every line is flushed.
 class Output
 {
 public:
     explicit Output(StandardOutput& stream);
 
     void line(const QList<Cell>& cells);
-    /// The tool's own text, or JSON, as it is.
+    /// Writes text as it is: the tool's own, or JSON.
     void text(const QString& text);
-    /// Rows under a heading, each column as wide as its widest cell.
+    /// Writes rows under a heading. Each column is as wide as its widest cell.
     void table(const QStringList& heading, const QList<QList<Cell>>& rows);
 
-    /// Whether writing is of no use any more.
+    /// Whether further writing is pointless.
     bool isOver() const { return m_stream.isOver(); }
 
 private:
     QString coloured(const Cell& cell, qsizetype width = 0) const;
-    /// The sample as it is printed, if at all.
+    /// The sample as it is printed; empty if it is not.
     QString sampleOf(const Cell& cell) const;
     qsizetype widthOf(const Cell& cell) const;
 

@@ -4,29 +4,30 @@
 
 #include "json_text.h"
 
+#include "printer_types.h"
+#include "status_codes.h"
+
 #include <QtCore/QMetaProperty>
 
 #include <tuple>
 
 namespace records {
 
+using VXPrinting::nothingLoaded;
+namespace StatusCodes = VXPrinting::StatusCodes;
+
 namespace {
 
-// Status codes.
-constexpr int ready = 1;
-constexpr int unknown = 255;
-
 const QString notKnown = QStringLiteral("-");
-const QString nothingLoaded = QStringLiteral("-1");
 
-/// A supply or a ribbon by the names that the supply database has for it.
+/// A supply or a ribbon under its names from the supply database.
 Cell loaded(const QString& sku, const QString& name, const QString& colour)
 {
     if (sku == nothingLoaded)
         return {QStringLiteral("none")};
     if (!sku.isEmpty())
         return {name, Colour::None, colour};
-    // Without a SKU, a colour says that something is loaded which the database does not have.
+    // A colour without a SKU: something is loaded that the database does not contain.
     return {colour.isEmpty() ? notKnown : QStringLiteral("of an unknown kind")};
 }
 
@@ -71,9 +72,9 @@ Cell status(const Record& record, const TitleOf& titleOf)
         if (!isWatched(record))
             return Colour::Faint;
         switch (record.statusEnum) {
-        case ready:
+        case StatusCodes::ready:
             return Colour::Good;
-        case unknown:
+        case StatusCodes::unknown:
             return Colour::Notice;
         default:
             return Colour::Bad;
@@ -87,14 +88,14 @@ Cell yesOrNo(bool yes)
     return {yes ? QStringLiteral("yes") : QStringLiteral("no")};
 }
 
-/// A thing to know of a printer. Between them they tell of every property but the printer's name.
-struct Facet
+/// One line of a printer's details. Together they cover every property but the printer's name.
+struct Detail
 {
     const char* label;
     Cell (*of)(const Record& record, const TitleOf& titleOf);
 };
 
-const Facet facets[] = {
+const Detail details[] = {
     {"status", status},
     {"online",
      [](const Record& record, const TitleOf&) {
@@ -140,13 +141,13 @@ const Facet facets[] = {
      [](const Record& record, const TitleOf&) {
          return yesOrNo(!record.printerNonAdmin);
      }},
-    {"was active once",
+    {"has been active",
      [](const Record& record, const TitleOf&) {
          return yesOrNo(record.printerDefault);
      }},
 };
 
-/// Does not compile without all members there are.
+/// All members of the record. If one is added to the record, this no longer compiles.
 auto everythingOf(const Record& record)
 {
     const auto& [printerName, statusEnum, online, remote, nonAdmin, wasActive, ribbon1Percentage,
@@ -187,7 +188,8 @@ TitleOf titlesOf(PrinterStatusController& controller)
 TitleOf shortTitlesOf(PrinterStatusController& controller)
 {
     return [titleOf = titlesOf(controller)](int statusCode) {
-        return statusCode == unknown ? QStringLiteral("not known") : titleOf(statusCode);
+        return statusCode == StatusCodes::unknown ? QStringLiteral("not known")
+                                                  : titleOf(statusCode);
     };
 }
 
@@ -226,7 +228,7 @@ void printTable(Output& output, const QList<Record>& all, const QString& activeP
                 const TitleOf& titleOf)
 {
     if (all.isEmpty()) {
-        output.text(QStringLiteral("There is no label printer yet.\n"));
+        output.text(QStringLiteral("There are no label printers yet.\n"));
         return;
     }
     QList<QList<Cell>> rows;
@@ -256,21 +258,21 @@ void printDetails(Output& output, const Record& record, const QString& activePri
     };
     print("printer", {record.printerName, Colour::Heading});
     print("active", yesOrNo(record.printerName == activePrinter));
-    for (const Facet& facet : facets)
-        print(facet.label, facet.of(record, titleOf));
+    for (const Detail& detail : details)
+        print(detail.label, detail.of(record, titleOf));
 }
 
 QList<Cell> difference(const Record& before, const Record& after, const TitleOf& titleOf)
 {
     QList<Cell> words;
-    for (const Facet& facet : facets) {
-        const Cell was = facet.of(before, titleOf);
-        const Cell is = facet.of(after, titleOf);
+    for (const Detail& detail : details) {
+        const Cell was = detail.of(before, titleOf);
+        const Cell is = detail.of(after, titleOf);
         if (was.text == is.text && was.sample == is.sample)
             continue;
         if (!words.isEmpty())
             words.append({QStringLiteral(", ")});
-        words.append({QString::fromLatin1(facet.label) + QLatin1Char(' '), Colour::Faint});
+        words.append({QString::fromLatin1(detail.label) + QLatin1Char(' '), Colour::Faint});
         if (was.text != notKnown)
             words.append({was.text + QStringLiteral(" \u2192 "), Colour::Faint});
         words.append(is);

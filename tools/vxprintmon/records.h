@@ -11,29 +11,29 @@
 #include <functional>
 #include <utility>
 
-/// The status records of the label printers, as programs and as people get them.
+/// The status records of the label printers, as JSON and as text.
 namespace records {
 
 using Record = PrinterStatusInformation;
 using TitleOf = std::function<QString(int statusCode)>;
 
 QList<Record> of(const PrinterStatusController& controller);
-/// Whether a thread of the library watches the printer; the others are listed only.
+/// Whether the library monitors the printer. Printers that it does not monitor are only listed.
 bool isWatched(const Record& record);
 
-/// The first line of a status code's title: the second, where there is one, says the same again.
+/// The first line of a status code's title. Where there is a second, it adds nothing.
 TitleOf titlesOf(PrinterStatusController& controller);
-/// The same, but short about a status that is not known, as that of a printer that has not reported
-/// yet.
+/// The same, but with a short title for an unknown status, as that of a printer that has not
+/// reported yet.
 TitleOf shortTitlesOf(PrinterStatusController& controller);
 
-/// Whether two records agree in every property.
+/// Whether two records are equal in every property.
 bool areSame(const Record& left, const Record& right);
 
-/// All properties under their own names.
+/// An object with all properties under their own names.
 QString json(const Record& record);
 
-/// The JSON of many records, time and again: what has not changed is not put together again.
+/// Caches the JSON of records, so that only records that have changed are written again.
 class JsonTexts
 {
 public:
@@ -53,14 +53,14 @@ private:
     QHash<QString, Entry> m_entries;
 };
 
-/// One line for each record.
+/// Prints one line for each record.
 void printTable(Output& output, const QList<Record>& all, const QString& activePrinter,
                 const TitleOf& titleOf);
-/// One line for each thing to know of the printer.
+/// Prints one line for each detail of the record.
 void printDetails(Output& output, const Record& record, const QString& activePrinter,
                   const TitleOf& titleOf);
 
-/// What is different, in words; empty when nothing is.
+/// The differences as text. Empty if there are none.
 QList<Cell> difference(const Record& before, const Record& after, const TitleOf& titleOf);
 
 } // namespace records

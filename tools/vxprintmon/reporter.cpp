@@ -14,37 +14,37 @@ Reporter::Reporter(const CommandLine& line, Output& output, Controller& controll
     , m_controller(controller)
     , m_recordsOf(std::move(recordsOf))
     , m_titleOf(records::titlesOf(controller))
-    , m_changes([this] { tellChanges(); })
+    , m_changes([this] { printChanges(); })
 {
     m_clock.start();
-    listen(&Controller::availablePrintersUpdated, [this] { m_changes.wish(); });
+    listen(&Controller::availablePrintersUpdated, [this] { m_changes.schedule(); });
     listen(&Controller::printerErrorChangedSignal, [this](bool isInError) {
         print("errors",
               {{},
-               {isInError ? Cell{QStringLiteral("some printer is in error"), Colour::Bad}
+               {isInError ? Cell{QStringLiteral("a printer is in error"), Colour::Bad}
                           : Cell{QStringLiteral("no printer is in error"), Colour::Good}}});
     });
     listen(&Controller::statusChangedSignal, [this](int status, const QString& printer) {
         print("status", {printer, {{QStringLiteral("%1  ").arg(status, 3)}, {m_titleOf(status)}}});
     });
     listen(&Controller::supplyIdChangedSignal, [this](const QString& printer) {
-        print("supply", {printer, {{QStringLiteral("was changed or taken out")}}});
+        print("supply", {printer, {{QStringLiteral("changed or removed")}}});
     });
     listen(&Controller::ribbonIdsChangedSignal, [this](const QString& printer) {
-        print("ribbons", {printer, {{QStringLiteral("were changed or taken out")}}});
+        print("ribbons", {printer, {{QStringLiteral("changed or removed")}}});
     });
     listen(&Controller::activeDefaultPrinterSetSignal, [this](const QString& printer, bool isVX) {
         print("active", {printer,
                          {{isVX ? QStringLiteral("is the active printer")
-                                : QStringLiteral("is the active printer, without a record"),
+                                : QStringLiteral("is the active printer but has no record"),
                            Colour::Notice}}});
     });
     listen(&Controller::softwareVersionUpdated, [this](const QString& printer) {
-        print("firmware", {printer, {{QStringLiteral("was changed")}}});
+        print("firmware", {printer, {{QStringLiteral("changed")}}});
     });
 }
 
-void Reporter::tellBeginning()
+void Reporter::printInitialRecords()
 {
     const QList<Record> all = m_recordsOf(m_controller);
     for (const Record& record : all)
@@ -56,10 +56,10 @@ void Reporter::tellBeginning()
     m_output.text(QStringLiteral("\n"));
 }
 
-void Reporter::tellStory(const QString& caption)
+void Reporter::printCaption(const QString& caption)
 {
-    // What happened before is told before.
-    m_changes.actIfWished();
+    // What happened before the event is printed before it.
+    printPendingChanges();
     if (!m_json)
         m_output.line({{clock(), Colour::Faint}, {caption, Colour::Heading}});
 }
@@ -73,20 +73,20 @@ void Reporter::lookForPrinters()
             continue;
         remember(record);
         print("found", {record.printerName,
-                        {{records::isWatched(record) ? QStringLiteral("is watched from now on")
+                        {{records::isWatched(record) ? QStringLiteral("is now watched")
                                                      : m_titleOf(record.statusEnum)}}});
     }
 }
 
-template <typename... Arguments, typename Tell>
-void Reporter::listen(void (Controller::*signal)(Arguments...), Tell tell)
+template <typename... Arguments, typename PrintText>
+void Reporter::listen(void (Controller::*signal)(Arguments...), PrintText printText)
 {
     const QMetaMethod method = QMetaMethod::fromSignal(signal);
     connect(&m_controller, signal, this, [=, this](Arguments... arguments) {
         if (m_json)
             printJson(method, {QJsonValue(arguments)...});
         else
-            tell(arguments...);
+            printText(arguments...);
     });
 }
 
@@ -124,15 +124,15 @@ QString Reporter::clock() const
 
 void Reporter::remember(const Record& record)
 {
-    // Whether a printer is watched is decided when it is found.
+    // The library decides whether to watch a printer when it finds it.
     if (!m_known.contains(record.printerName) && records::isWatched(record))
         ++m_watchedPrinters;
     m_known.insert(record.printerName, record);
     m_nameWidth = std::max(m_nameWidth, shown(record.printerName).size());
 }
 
-/// What has changed in the records since they were looked at last.
-void Reporter::tellChanges()
+/// Prints what has changed in the records since the last look at them.
+void Reporter::printChanges()
 {
     const records::TitleOf titleOf = records::shortTitlesOf(m_controller);
     bool isAnythingNew = false;
@@ -149,5 +149,5 @@ void Reporter::tellChanges()
         print("records", {record.printerName, difference});
     }
     if (!isAnythingNew)
-        print("records", {{}, {{QStringLiteral("nothing new"), Colour::Faint}}});
+        print("records", {{}, {{QStringLiteral("no changes"), Colour::Faint}}});
 }

@@ -2,7 +2,10 @@
 // Copyright The VxPrinterStatus authors
 #include "commands.h"
 
+#include "backend.h"
+#include "failure.h"
 #include "json_text.h"
+#include "output.h"
 
 #include "printer_status_controller.h"
 
@@ -11,7 +14,8 @@
 
 namespace {
 
-/// Listens to what the library logs of commands that it cannot send, which it says nowhere else.
+/// Records the line that the library logs when it cannot send a command, which it reports
+/// nowhere else.
 class CommandLog : public AbstractAppender
 {
 public:
@@ -23,23 +27,23 @@ public:
     ~CommandLog() override { Logger::globalInstance()->removeAppender(this); }
     Q_DISABLE_COPY_MOVE(CommandLog)
 
-    QString complaint() const { return m_complaint; }
+    QString failure() const { return m_failure; }
 
 protected:
-    // The watching threads log as well, but not under this name.
+    // The monitoring threads log as well, but not under this name.
     void append(const QDateTime& /*timeStamp*/, Logger::LogLevel /*level*/, const char* /*file*/,
                 int /*line*/, const char* function, const QString& /*category*/,
                 const QString& message) override
     {
         if (QLatin1String(function).contains(QLatin1String("::sendCommandToPrinter(")))
-            m_complaint = message.trimmed();
+            m_failure = message.trimmed();
     }
 
 private:
-    QString m_complaint;
+    QString m_failure;
 };
 
-QString jobJson(const Scene::Job& job)
+QString jobJson(const Backend::Job& job)
 {
     QStringList pages;
     for (const QByteArray& page : job.pages)
@@ -52,30 +56,30 @@ QString jobJson(const Scene::Job& job)
     });
 }
 
-QString jobText(const Scene::Job& job)
+QString jobText(const Backend::Job& job)
 {
     qsizetype bytes = 0;
     for (const QByteArray& page : job.pages)
         bytes += page.size();
-    return QStringLiteral("It became print job %1, \"%2\": %3, pages: %4, bytes: %5.")
+    return QStringLiteral("Print job %1, \"%2\": %3, pages: %4, bytes: %5.")
         .arg(QString::number(job.id), job.document, job.datatype, QString::number(job.pages.size()),
              QString::number(bytes));
 }
 
 } // namespace
 
-QString runSend(const CommandLine& line, Output& output, Scene& scene)
+void runSend(const CommandLine& line, Output& output, Backend& backend)
 {
-    const QString& printer = line.words.at(0);
-    const QString& command = line.words.at(1);
+    const QString& printer = line.arguments.at(0);
+    const QString& command = line.arguments.at(1);
     PrinterStatusController controller;
     const CommandLog log;
     controller.sendCommandToPrinter(command, printer);
-    if (!log.complaint().isEmpty())
-        return QStringLiteral("the command was not sent to \"%1\": %2")
-            .arg(printer, log.complaint());
+    if (!log.failure().isEmpty())
+        throw Failure(
+            QStringLiteral("the command was not sent to \"%1\": %2").arg(printer, log.failure()));
 
-    const std::optional<Scene::Job> job = scene.lastJob(printer);
+    const std::optional<Backend::Job> job = backend.lastJob(printer);
     if (line.json) {
         QList<json_text::Member> members{
             {QStringLiteral("printerName"), json_text::value(printer)},
@@ -84,10 +88,9 @@ QString runSend(const CommandLine& line, Output& output, Scene& scene)
         if (job)
             members.emplaceBack(QStringLiteral("job"), jobJson(*job));
         output.text(json_text::object(members) + QLatin1Char('\n'));
-        return {};
+        return;
     }
     output.line({{QStringLiteral("Sent to %1: %2").arg(printer, command)}});
     if (job)
         output.line({{jobText(*job)}});
-    return {};
 }

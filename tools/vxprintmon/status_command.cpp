@@ -2,9 +2,11 @@
 // Copyright The VxPrinterStatus authors
 #include "commands.h"
 
-#include "ending.h"
+#include "command_line.h"
+#include "failure.h"
 #include "json_text.h"
 #include "records.h"
+#include "stop_condition.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>
@@ -15,71 +17,73 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// The records of all label printers, or that of the one that is named, if it is there.
-QList<records::Record> wanted(const CommandLine& line, const PrinterStatusController& controller)
+/// The records of all label printers, or only that of the named one, if there is such a record.
+QList<records::Record> selectedRecords(const CommandLine& line,
+                                       const PrinterStatusController& controller)
 {
     QList<records::Record> found = records::of(controller);
-    if (!line.words.isEmpty())
+    if (!line.arguments.isEmpty())
         found.removeIf([&](const records::Record& record) {
-            return record.printerName != line.words.first();
+            return record.printerName != line.arguments.first();
         });
     return found;
 }
 
-/// Lets the first reports of printers arrive; false when the user would not wait.
+/// Waits for the first report of each printer. False if the user interrupts it.
 bool waitForFirstReports(PrinterStatusController& controller, const Output& output,
                          const QList<records::Record>& printers)
 {
-    // What a printer says first comes as one burst, in which its status is the first.
+    // The first reports of a printer arrive together, beginning with its status.
     constexpr auto pause = 100ms;
-    constexpr auto patience = 2s;
-    // Reports that came in time count, though on a busy computer the end came before their turn.
-    constexpr auto timeForTheRest = 500ms;
-    QSet<QString> silent;
+    constexpr auto timeLimit = 2s;
+    // On a busy computer, reports that arrived in time may not have been delivered by then.
+    constexpr auto timeToDeliver = 500ms;
+    QSet<QString> unheard;
     for (const records::Record& record : printers) {
         if (records::isWatched(record))
-            silent.insert(record.printerName);
+            unheard.insert(record.printerName);
     }
-    if (silent.isEmpty())
+    if (unheard.isEmpty())
         return true;
 
     QEventLoop loop;
-    QTimer quiet;
-    quiet.setSingleShot(true);
-    const auto heard = [&] {
-        if (silent.isEmpty())
-            quiet.start(pause);
+    QTimer pauseTimer;
+    pauseTimer.setSingleShot(true);
+    const auto onReport = [&] {
+        if (unheard.isEmpty())
+            pauseTimer.start(pause);
     };
     QObject::connect(&controller, &PrinterStatusController::statusChangedSignal, &loop,
                      [&](int /*status*/, const QString& printer) {
-                         silent.remove(printer);
-                         heard();
+                         unheard.remove(printer);
+                         onReport();
                      });
-    QObject::connect(&controller, &PrinterStatusController::availablePrintersUpdated, &loop, heard);
-    QObject::connect(&quiet, &QTimer::timeout, &loop, &QEventLoop::quit);
-    QTimer::singleShot(patience, &loop, &QEventLoop::quit);
-    Ending ending(controller, output);
-    ending.setTime(patience + timeForTheRest);
-    QObject::connect(&ending, &Ending::came, &loop, &QEventLoop::quit);
+    QObject::connect(&controller, &PrinterStatusController::availablePrintersUpdated, &loop,
+                     onReport);
+    QObject::connect(&pauseTimer, &QTimer::timeout, &loop, &QEventLoop::quit);
+    QTimer::singleShot(timeLimit, &loop, &QEventLoop::quit);
+    StopCondition stop(controller, output);
+    stop.setTimeLimit(timeLimit + timeToDeliver);
+    QObject::connect(&stop, &StopCondition::met, &loop, &QEventLoop::quit);
     loop.exec();
     QCoreApplication::sendPostedEvents(&controller);
-    return !ending.isInterrupted();
+    return !stop.isInterrupted();
 }
 
 } // namespace
 
-QString runStatus(const CommandLine& line, Output& output, Scene& /*scene*/)
+void runStatus(const CommandLine& line, Output& output, Backend& /*backend*/)
 {
     PrinterStatusController controller;
-    const bool isOne = !line.words.isEmpty();
-    if (isOne && wanted(line, controller).isEmpty())
-        return QStringLiteral("there is no record of a printer \"%1\"; \"vxprintmon status\" shows "
-                              "those there are")
-            .arg(line.words.first());
-    if (!waitForFirstReports(controller, output, wanted(line, controller)))
-        return QStringLiteral("interrupted");
+    const bool isOne = !line.arguments.isEmpty();
+    if (isOne && selectedRecords(line, controller).isEmpty())
+        throw Failure(QStringLiteral("there is no record of a printer \"%1\"; \"vxprintmon "
+                                     "status\" shows the printers that have one")
+                          .arg(line.arguments.first()));
+    if (!waitForFirstReports(controller, output, selectedRecords(line, controller)))
+        throw Failure(QStringLiteral("interrupted"));
 
-    const QList<records::Record> shown = wanted(line, controller);
+    const QList<records::Record> shown = selectedRecords(line, controller);
     if (line.json) {
         QStringList texts;
         for (const records::Record& record : shown)
@@ -92,5 +96,4 @@ QString runStatus(const CommandLine& line, Output& output, Scene& /*scene*/)
         records::printTable(output, shown, controller.activeDefaultPrinter(),
                             records::titlesOf(controller));
     }
-    return {};
 }

@@ -2,12 +2,12 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
-/// What standard output is; each system has its own source file.
+/// The terminal that standard output may be. Each system has its own source file.
 namespace terminal {
 
-/// Whether it is a terminal that understands colours; where it has to be told so first, it is.
+/// Whether standard output is a terminal that shows colours. Turns them on where that is needed.
 bool takesColours();
-/// Lets it show UTF-8 while the program runs, if it is a terminal that has to be told so.
+/// Switches the terminal to UTF-8 while the program runs, where that is needed.
 void useUtf8();
 
 } // namespace terminal

@@ -9,4 +9,4 @@ bool terminal::takesColours()
     return isatty(STDOUT_FILENO) != 0;
 }
 
-void terminal::useUtf8() {} // as terminals are set up
+void terminal::useUtf8() {} // the usual setting of a terminal

@@ -2,26 +2,28 @@
 // Copyright The VxPrinterStatus authors
 #include "commands.h"
 
-#include "ending.h"
+#include "backend.h"
 #include "reporter.h"
+#include "stop_condition.h"
 
 #include <QtCore/QCoreApplication>
 
-QString runWatch(const CommandLine& line, Output& output, Scene& scene)
+void runWatch(const CommandLine& line, Output& output, Backend& backend)
 {
     PrinterStatusController controller;
     Reporter reporter(line, output, controller);
-    reporter.tellBeginning();
-    QObject::connect(&scene, &Scene::told, &reporter, &Reporter::tellStory);
-    QObject::connect(&scene, &Scene::printersMayHaveCome, &reporter, &Reporter::lookForPrinters);
+    reporter.printInitialRecords();
+    QObject::connect(&backend, &Backend::narrated, &reporter, &Reporter::printCaption);
+    QObject::connect(&backend, &Backend::printersMayHaveChanged, &reporter,
+                     &Reporter::lookForPrinters);
 
-    Ending ending(controller, output);
-    QObject::connect(&ending, &Ending::came, QCoreApplication::instance(), &QCoreApplication::quit);
+    StopCondition stop(controller, output);
+    QObject::connect(&stop, &StopCondition::met, QCoreApplication::instance(),
+                     &QCoreApplication::quit);
     if (line.seconds)
-        ending.setTime(std::chrono::milliseconds(qRound(*line.seconds * 1000)));
+        stop.setTimeLimit(std::chrono::milliseconds(qRound(*line.seconds * 1000)));
 
-    scene.begin([&reporter] { return reporter.watchedPrinters(); });
+    backend.start([&reporter] { return reporter.watchedPrinters(); });
     QCoreApplication::exec();
-    reporter.tellEnd();
-    return {};
+    reporter.printPendingChanges();
 }

@@ -18,20 +18,10 @@ using virtualwindows::FleetError;
 using virtualwindows::Machine;
 using virtualwindows::StoryPlayer;
 
-[[noreturn]] void refuse(const QString& why)
-{
-    std::fprintf(stderr, "virtualwindows: %s\n", qUtf8Printable(why));
-    std::exit(EXIT_FAILURE);
-}
-
 Fleet fleetOf(const QString& name)
 {
-    if (name == QStringLiteral("built-in"))
-        return virtualwindows::builtInFleet();
-    const auto fleet = virtualwindows::readFleet(name);
-    if (const auto* error = std::get_if<FleetError>(&fleet))
-        refuse(error->message);
-    return std::get<Fleet>(fleet);
+    return name == QLatin1String("built-in") ? virtualwindows::builtInFleet()
+                                             : virtualwindows::readFleet(name);
 }
 
 double speedOf(const QString& text)
@@ -41,13 +31,14 @@ double speedOf(const QString& text)
     bool readable = false;
     const double speed = text.toDouble(&readable);
     if (!readable || !(speed > 0 && speed <= 1000))
-        refuse(QStringLiteral(
-                   "VX_VIRTUAL_SPEED: expected a number above 0 and up to 1000, found \"%1\"")
-                   .arg(virtualwindows::escaped(virtualwindows::shortened(text))));
+        throw FleetError(
+            QStringLiteral(
+                "VX_VIRTUAL_SPEED: expected a number above 0 and up to 1000, found \"%1\"")
+                .arg(virtualwindows::escaped(virtualwindows::shortened(text))));
     return speed;
 }
 
-/// The fleet's life in a program: as long as its application.
+/// The fleet of a program, which lives as long as its application.
 class EnvironmentFleet : public QObject
 {
 public:
@@ -55,10 +46,10 @@ public:
         : QObject(parent)
         , m_player(Machine::instance(), fleet.story, speed)
     {
-        // The serial numbers of virtual printers have no business among the user's.
+        // Keeps the serial numbers of virtual printers out of the user's settings.
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
         virtualwindows::populate(Machine::instance(), fleet);
-        // The story begins when the program is ready to hear of it.
+        // The story starts with the event loop, when the program is ready for it.
         if (!fleet.story.isEmpty())
             QMetaObject::invokeMethod(&m_player, &StoryPlayer::start, Qt::QueuedConnection);
     }
@@ -70,10 +61,16 @@ private:
 
 } // namespace
 
-/// Fills the machine with the fleet that the environment names and lets its story happen.
-extern "C" Q_DECL_EXPORT void virtualwindowsTakeFleetFromEnvironment()
+/// Fills the machine with the fleet that the environment names, and plays its story. Ends the
+/// program when the fleet cannot be used: nothing in it could handle the failure.
+extern "C" Q_DECL_EXPORT void virtualwindowsLoadFleetFromEnvironment()
 {
-    const Fleet fleet = fleetOf(qEnvironmentVariable("VX_VIRTUAL_FLEET"));
-    const double speed = speedOf(qEnvironmentVariable("VX_VIRTUAL_SPEED"));
-    new EnvironmentFleet(fleet, speed, QCoreApplication::instance());
+    try {
+        const Fleet fleet = fleetOf(qEnvironmentVariable("VX_VIRTUAL_FLEET"));
+        const double speed = speedOf(qEnvironmentVariable("VX_VIRTUAL_SPEED"));
+        new EnvironmentFleet(fleet, speed, QCoreApplication::instance());
+    } catch (const FleetError& error) {
+        std::fprintf(stderr, "virtualwindows: %s\n", error.what());
+        std::exit(EXIT_FAILURE);
+    }
 }

@@ -4,7 +4,7 @@
 
 #include <QtCore/QFile>
 
-// Outside of every namespace, as the macro wants it.
+// The macro requires a function outside of every namespace.
 static void initializeFleetResources()
 {
     Q_INIT_RESOURCE(fleet);
@@ -23,10 +23,7 @@ QByteArray builtInFleetText()
 
 Fleet builtInFleet()
 {
-    const auto fleet = parseFleet(builtInFleetText(), QStringLiteral("built-in fleet"));
-    if (const auto* error = std::get_if<FleetError>(&fleet))
-        qFatal("virtualwindows: %s", qPrintable(error->message));
-    return std::get<Fleet>(fleet);
+    return parseFleet(builtInFleetText(), QStringLiteral("built-in fleet"));
 }
 
 StoryPlayer::StoryPlayer(Machine& machine, const QList<StoryEvent>& story, double speed,
@@ -58,11 +55,11 @@ void StoryPlayer::start()
     m_clock.start();
 }
 
-bool StoryPlayer::isAudienceReady()
+bool StoryPlayer::areWatchersReady()
 {
-    // A thread that never comes back must not stop the story for good.
+    // A thread that never waits again must not stop the story for good.
     constexpr std::chrono::seconds patience(1);
-    if (m_machine.waitingThreads() >= m_audience()) {
+    if (m_machine.waitingThreads() >= m_watchingThreads()) {
         m_waitingSince.reset();
         return true;
     }
@@ -74,36 +71,36 @@ bool StoryPlayer::isAudienceReady()
 
 void StoryPlayer::tick()
 {
-    // Queued behind what the threads sent before they began to wait again.
-    if (isAudienceReady())
-        QMetaObject::invokeMethod(this, &StoryPlayer::goOn, Qt::QueuedConnection);
+    // Queued, so that it comes after the calls that the threads queued before they waited again.
+    if (areWatchersReady())
+        QMetaObject::invokeMethod(this, &StoryPlayer::proceed, Qt::QueuedConnection);
 }
 
-void StoryPlayer::goOn()
+void StoryPlayer::proceed()
 {
-    // From the beginning, not from the tick before: delays do not add up.
+    // Measured from the start and not from the previous tick, so that delays do not add up.
     const auto passed =
         std::chrono::duration_cast<std::chrono::milliseconds>((Clock::now() - m_begin) * m_speed);
     if (m_next == m_story.size() || m_story.at(m_next).at > passed) {
-        passTo(passed);
+        advanceTo(passed);
         return;
     }
 
     const StoryEvent& event = m_story.at(m_next);
     if (event.at > m_now) {
-        passTo(event.at); // waits may time out on the way, which the audience is to see first
+        advanceTo(event.at); // waits that time out on the way have to be seen before the event
         return;
     }
     ++m_next;
     if (!event.caption.isEmpty())
-        Q_EMIT told(event.caption);
+        Q_EMIT narrated(event.caption);
     event.happen(m_machine);
     Q_EMIT happened();
     if (m_next == m_story.size())
         Q_EMIT finished();
 }
 
-void StoryPlayer::passTo(std::chrono::milliseconds moment)
+void StoryPlayer::advanceTo(std::chrono::milliseconds moment)
 {
     m_machine.advance(moment - m_now);
     m_now = moment;

@@ -44,7 +44,7 @@ constexpr std::array statusNames{
     NamedBit{"printing", PRINTER_STATUS_PRINTING},
 };
 
-/// A number, or a list of names for its bits.
+/// Reads a number, given as such or as a list of the names of its bits.
 template <std::size_t Count>
 quint32 readBits(const JsonPlace& place, const std::array<NamedBit, Count>& names)
 {
@@ -61,8 +61,8 @@ quint32 readBits(const JsonPlace& place, const std::array<NamedBit, Count>& name
             QStringList known;
             for (const NamedBit& bit : names)
                 known.append(QString::fromLatin1(bit.name));
-            entry.complain(QStringLiteral("\"%1\" is not known; expected one of %2")
-                               .arg(shortened(name), listed(known)));
+            entry.fail(QStringLiteral("unknown name \"%1\"; expected one of %2")
+                           .arg(shortened(name), listed(known)));
         }
         bits |= found->bit;
     }
@@ -77,8 +77,8 @@ PrinterValue readValue(const QString& name, const JsonPlace& place)
     if (place.isNumber())
         return PrinterValue::number(valueName, place.number());
     if (!place.isObject())
-        place.complain(
-            QStringLiteral("expected a text, a number or {\"binary\": \"hexadecimal digits\"}"));
+        place.fail(
+            QStringLiteral("expected a string, a number or {\"binary\": \"hexadecimal digits\"}"));
     place.expectKeys({QStringLiteral("binary")}, {});
     return PrinterValue::binary(valueName, place.at("binary").hexBytes());
 }
@@ -121,7 +121,8 @@ DeviceSetup readDevice(const JsonPlace& place)
     DeviceSetup device;
     for (const char* key : {"class", "key"}) {
         if (place.at(key).nonEmptyText().contains(QLatin1Char('\\')))
-            place.at(key).complain(QStringLiteral("expected a key's name, which has no backslash"));
+            place.at(key).fail(
+                QStringLiteral("expected the name of a registry key, without a backslash"));
     }
     device.classGuid = place.at("class").text();
     device.interfaceKey = place.at("key").text();
@@ -139,7 +140,7 @@ void add(Machine& machine, const FleetPrinter& printer)
         machine.publish(printer.setup.name, printer.values);
 }
 
-/// The names of the printers that there are at a moment, in the order in which they came.
+/// The names of the printers that exist at some time, in the order in which they were added.
 class PrinterNames
 {
 public:
@@ -148,12 +149,11 @@ public:
         const auto found = m_places.constFind(name.toCaseFolded());
         return found != m_places.cend() && m_names.value(*found) == name;
     }
-    /// Names that differ in nothing but letter case are one to the spooler.
+    /// The spooler does not distinguish upper and lower case in names.
     void expectNew(const JsonPlace& place, const QString& name) const
     {
         if (m_places.contains(name.toCaseFolded()))
-            place.complain(
-                QStringLiteral("there is a printer \"%1\" already").arg(shortened(name)));
+            place.fail(QStringLiteral("duplicate printer \"%1\"").arg(shortened(name)));
     }
     void add(const QString& name)
     {
@@ -171,11 +171,11 @@ public:
 
 private:
     QMap<int, QString> m_names;
-    QHash<QString, int> m_places; ///< by name without letter case
+    QHash<QString, int> m_places; ///< by case-folded name
     int m_next = 0;
 };
 
-/// Reads the story, following which printers there are at each of its moments.
+/// Reads the story, and keeps track of which printers exist at the time of each event.
 class StoryReader
 {
 public:
@@ -190,8 +190,8 @@ public:
         for (const JsonPlace& entry : entries) {
             const StoryEvent event = readEvent(entry);
             if (!story.isEmpty() && event.at < story.last().at)
-                entry.at("at").complain(
-                    QStringLiteral("expected a moment that is not before the previous event's"));
+                entry.at("at").fail(
+                    QStringLiteral("expected a time no earlier than that of the previous event"));
             story.append(event);
         }
         return story;
@@ -238,8 +238,8 @@ private:
     {
         const QString state = place.text();
         if (state != QLatin1String("stopped") && state != QLatin1String("running"))
-            place.complain(QStringLiteral("expected \"stopped\" or \"running\", found \"%1\"")
-                               .arg(shortened(state)));
+            place.fail(QStringLiteral("expected \"stopped\" or \"running\", found \"%1\"")
+                           .arg(shortened(state)));
         if (state == QLatin1String("stopped"))
             return [](Machine& machine) {
                 machine.stopSpooler();
@@ -255,8 +255,8 @@ private:
             for (const char* key : {"values", "unpublish", "attributes", "status", "administrable",
                                     "rename", "remove"}) {
                 if (place.has(key))
-                    place.at(key).complain(
-                        QStringLiteral("expected the key \"printer\" beside it"));
+                    place.at(key).fail(
+                        QStringLiteral("valid only together with the key \"printer\""));
             }
             return;
         }
@@ -292,7 +292,8 @@ private:
         }
         if (place.has("remove")) {
             if (!place.at("remove").flag() || place.has("rename"))
-                place.at("remove").complain(QStringLiteral("expected true, without a \"rename\""));
+                place.at("remove").fail(
+                    QStringLiteral("expected true, and no \"rename\" in the same event"));
             m_printers.remove(name);
             changes.append([=](Machine& machine) { machine.removePrinter(name); });
         }
@@ -302,9 +303,8 @@ private:
     {
         const QString name = place.text();
         if (!m_printers.has(name))
-            place.complain(
-                QStringLiteral("there is no printer \"%1\" at this moment; expected one of %2")
-                    .arg(shortened(name), m_printers.list()));
+            place.fail(QStringLiteral("there is no printer \"%1\" at this time; expected one of %2")
+                           .arg(shortened(name), m_printers.list()));
         return name;
     }
 
@@ -330,8 +330,8 @@ Fleet readFleet(const LocatedJson& file)
         fleet.defaultPrinter = root.at("defaultPrinter").text();
         if (!names.has(fleet.defaultPrinter))
             root.at("defaultPrinter")
-                .complain(QStringLiteral("there is no printer \"%1\"; expected one of %2")
-                              .arg(shortened(fleet.defaultPrinter), names.list()));
+                .fail(QStringLiteral("there is no printer \"%1\"; expected one of %2")
+                          .arg(shortened(fleet.defaultPrinter), names.list()));
     }
     if (root.has("devices")) {
         QSet<QString> keys;
@@ -341,8 +341,8 @@ Fleet readFleet(const LocatedJson& file)
             const QString key =
                 (device.classGuid + QLatin1Char('\\') + device.interfaceKey).toCaseFolded();
             if (keys.contains(key))
-                place.at("key").complain(QStringLiteral("there is a device \"%1\" already")
-                                             .arg(shortened(device.interfaceKey)));
+                place.at("key").fail(
+                    QStringLiteral("duplicate device \"%1\"").arg(shortened(device.interfaceKey)));
             keys.insert(key);
             fleet.devices.append(device);
         }
@@ -354,40 +354,35 @@ Fleet readFleet(const LocatedJson& file)
 
 } // namespace
 
-std::variant<Fleet, FleetError> parseFleet(const QByteArray& text, const QString& name)
+Fleet parseFleet(const QByteArray& text, const QString& name)
 {
-    try {
-        return readFleet(LocatedJson(text));
-    } catch (const JsonComplaint& complaint) {
-        return FleetError{escaped(name + QLatin1Char(':') + QString::number(complaint.line) +
-                                  QStringLiteral(": ") + complaint.text)};
-    }
+    return readFleet(LocatedJson(text, name));
 }
 
-std::variant<Fleet, FleetError> readFleet(const QString& fileName)
+Fleet readFleet(const QString& fileName)
 {
-    const auto refused = [&](const QString& why) {
-        return FleetError{escaped(fileName + QStringLiteral(": ") + why)};
+    const auto fail = [&](const QString& why) {
+        throw FleetError(escaped(fileName + QStringLiteral(": ") + why));
     };
     QFile file(fileName);
     if (QFileInfo(file).isDir())
-        return refused(QStringLiteral("expected a file, found a folder"));
+        fail(QStringLiteral("expected a file, found a folder"));
     if (!file.open(QIODevice::ReadOnly))
-        return refused(file.errorString());
-    constexpr qint64 mebibyte = 1024 * 1024;
-    constexpr qint64 largest = 16 * mebibyte;
-    // Devices and pipes have no size; so what comes is counted.
+        fail(file.errorString());
+    constexpr qint64 mebibyte = 1024LL * 1024;
+    constexpr qint64 maxSize = 16 * mebibyte;
+    // Devices and pipes have no size, so the bytes are counted as they are read.
     QByteArray text;
-    while (text.size() <= largest) {
+    while (text.size() <= maxSize) {
         const QByteArray more = file.read(mebibyte);
         if (more.isEmpty())
             break;
         text.append(more);
     }
-    if (text.size() > largest)
-        return refused(QStringLiteral("expected at most %1 MiB").arg(largest / mebibyte));
+    if (text.size() > maxSize)
+        fail(QStringLiteral("expected at most %1 MiB").arg(maxSize / mebibyte));
     if (file.error() != QFileDevice::NoError)
-        return refused(file.errorString());
+        fail(file.errorString());
     return parseFleet(text, fileName);
 }
 

@@ -3,6 +3,7 @@
 #include "located_json.h"
 
 #include "message_text.h"
+#include "virtualwindows/fleet.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -28,71 +29,77 @@ QString quoted(const QString& text)
     return QLatin1Char('"') + shortened(text) + QLatin1Char('"');
 }
 
-/// The reader's own report begins "* Line 3, Column 5", and its next line says what is wrong.
-JsonComplaint complaintOf(const std::string& report)
-{
-    static const QRegularExpression pattern(
-        QStringLiteral(R"(\* Line (\d+), Column \d+\n\s*([^\n]*))"));
-    const QRegularExpressionMatch match = pattern.match(fromStd(report));
-    if (!match.hasMatch())
-        return {1, QStringLiteral("not JSON: expected an object")};
-    constexpr qsizetype longest = 200; // a report repeats what it does not understand
-    return {match.captured(1).toInt(),
-            QStringLiteral("not JSON: ") + shortened(match.captured(2), longest)};
-}
-
-/// The reader calls itself for each level, and a value in memory is many times as large as in the
-/// file; so both are counted before it reads.
-void expectWithinLimits(const QByteArray& text)
-{
-    constexpr int deepest = 32;
-    constexpr int most = 1'000'000;
-    int depth = 0;
-    int values = 1;
-    int line = 1;
-    bool isInText = false;
-    for (qsizetype place = 0; place < text.size(); ++place) {
-        const char character = text.at(place);
-        if (character == '\n')
-            ++line;
-        if (isInText) {
-            if (character == '\\')
-                ++place;
-            else if (character == '"')
-                isInText = false;
-            continue;
-        }
-        if (character == '"')
-            isInText = true;
-        else if (character == '[' || character == '{')
-            ++depth;
-        else if (character == ']' || character == '}')
-            --depth;
-        if (depth > deepest)
-            throw JsonComplaint{
-                line, QStringLiteral("expected at most %1 lists and objects within each other")
-                          .arg(deepest)};
-        // Each value but the first of a list or an object has a comma before it.
-        if (character == ',' || character == '[' || character == '{')
-            ++values;
-        if (values > most)
-            throw JsonComplaint{line, QStringLiteral("expected at most %1 values").arg(most)};
-    }
-}
-
 } // namespace
 
-LocatedJson::LocatedJson(const QByteArray& text)
+LocatedJson::LocatedJson(const QByteArray& text, const QString& name)
     : m_text(text)
+    , m_name(name)
 {
-    expectWithinLimits(m_text);
+    checkLimits();
     Json::CharReaderBuilder builder;
     Json::CharReaderBuilder::strictMode(&builder.settings_);
     const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
     std::string report;
     const char* begin = m_text.constData();
     if (!reader->parse(begin, begin + m_text.size(), &m_root, &report))
-        throw complaintOf(report);
+        failAsReported(report);
+}
+
+void LocatedJson::fail(int line, const QString& what) const
+{
+    throw virtualwindows::FleetError(virtualwindows::escaped(
+        m_name + QLatin1Char(':') + QString::number(line) + QStringLiteral(": ") + what));
+}
+
+/// JsonCpp recurses for each level, and its values take many times the memory of their text. So
+/// levels and values are counted before it parses the text.
+void LocatedJson::checkLimits() const
+{
+    constexpr int maxDepth = 32;
+    constexpr int maxValues = 1'000'000;
+    int depth = 0;
+    int values = 1;
+    int line = 1;
+    bool isInString = false;
+    for (qsizetype place = 0; place < m_text.size(); ++place) {
+        const char character = m_text.at(place);
+        if (character == '\n')
+            ++line;
+        if (isInString) {
+            if (character == '\\')
+                ++place;
+            else if (character == '"')
+                isInString = false;
+            continue;
+        }
+        if (character == '"')
+            isInString = true;
+        else if (character == '[' || character == '{')
+            ++depth;
+        else if (character == ']' || character == '}')
+            --depth;
+        if (depth > maxDepth)
+            fail(line,
+                 QStringLiteral("expected at most %1 levels of lists and objects").arg(maxDepth));
+        // Each value but the first of a list or an object has a comma before it.
+        if (character == ',' || character == '[' || character == '{')
+            ++values;
+        if (values > maxValues)
+            fail(line, QStringLiteral("expected at most %1 values").arg(maxValues));
+    }
+}
+
+/// JsonCpp's report begins with "* Line 3, Column 5", and its second line says what is wrong.
+void LocatedJson::failAsReported(const std::string& report) const
+{
+    static const QRegularExpression pattern(
+        QStringLiteral(R"(\* Line (\d+), Column \d+\n\s*([^\n]*))"));
+    const QRegularExpressionMatch match = pattern.match(fromStd(report));
+    if (!match.hasMatch())
+        fail(1, QStringLiteral("not JSON: expected an object"));
+    constexpr qsizetype maxLength = 200; // a report quotes the text that it does not understand
+    fail(match.captured(1).toInt(),
+         QStringLiteral("not JSON: ") + shortened(match.captured(2), maxLength));
 }
 
 int LocatedJson::lineAt(qsizetype offset) const
@@ -111,9 +118,10 @@ JsonPlace::JsonPlace(const LocatedJson& file, const Json::Value& value, const QS
     , m_path(path)
 {}
 
-void JsonPlace::complain(const QString& what) const
+void JsonPlace::fail(const QString& what) const
 {
-    throw JsonComplaint{line(), m_path.isEmpty() ? what : m_path + QStringLiteral(": ") + what};
+    m_file->fail(m_file->lineOf(*m_value),
+                 m_path.isEmpty() ? what : m_path + QStringLiteral(": ") + what);
 }
 
 QString JsonPlace::found() const
@@ -135,17 +143,16 @@ QString JsonPlace::found() const
 void JsonPlace::expectKeys(const QStringList& required, const QStringList& allowed) const
 {
     if (!m_value->isObject())
-        complain(QStringLiteral("expected an object, found ") + found());
+        fail(QStringLiteral("expected an object, found ") + found());
     const QStringList present = keys();
     for (const QString& key : present) {
         if (!required.contains(key) && !allowed.contains(key))
             at(key.toUtf8())
-                .complain(QStringLiteral("is not known here; expected one of ") +
-                          listed(required + allowed));
+                .fail(QStringLiteral("unknown key; expected one of ") + listed(required + allowed));
     }
     for (const QString& key : required) {
         if (!present.contains(key))
-            complain(QStringLiteral("expected the key ") + quoted(key));
+            fail(QStringLiteral("expected the key ") + quoted(key));
     }
 }
 
@@ -160,7 +167,7 @@ JsonPlace JsonPlace::at(const QByteArray& key) const
 QList<JsonPlace> JsonPlace::entries() const
 {
     if (!m_value->isArray())
-        complain(QStringLiteral("expected a list, found ") + found());
+        fail(QStringLiteral("expected a list, found ") + found());
     QList<JsonPlace> places;
     for (Json::ArrayIndex index = 0; index < m_value->size(); ++index)
         places.append(
@@ -171,7 +178,7 @@ QList<JsonPlace> JsonPlace::entries() const
 QStringList JsonPlace::keys() const
 {
     if (!m_value->isObject())
-        complain(QStringLiteral("expected an object, found ") + found());
+        fail(QStringLiteral("expected an object, found ") + found());
     std::vector<std::string> names = m_value->getMemberNames();
     std::sort(names.begin(), names.end(), [&](const std::string& left, const std::string& right) {
         return (*m_value)[left].getOffsetStart() < (*m_value)[right].getOffsetStart();
@@ -185,7 +192,7 @@ QStringList JsonPlace::keys() const
 QString JsonPlace::text() const
 {
     if (!m_value->isString())
-        complain(QStringLiteral("expected a text, found ") + found());
+        fail(QStringLiteral("expected a string, found ") + found());
     return fromStd(m_value->asString());
 }
 
@@ -193,32 +200,32 @@ QString JsonPlace::nonEmptyText() const
 {
     const QString value = text();
     if (value.isEmpty())
-        complain(QStringLiteral("expected a text that is not empty"));
+        fail(QStringLiteral("expected a non-empty string"));
     return value;
 }
 
 quint32 JsonPlace::number() const
 {
     if (!m_value->isUInt())
-        complain(QStringLiteral("expected a whole number from 0 to %1, found %2")
-                     .arg(std::numeric_limits<quint32>::max())
-                     .arg(found()));
+        fail(QStringLiteral("expected a whole number between 0 and %1, found %2")
+                 .arg(std::numeric_limits<quint32>::max())
+                 .arg(found()));
     return m_value->asUInt();
 }
 
 double JsonPlace::seconds() const
 {
-    constexpr double longest = 366.0 * 24 * 3600;
-    if (!m_value->isNumeric() || m_value->asDouble() < 0 || m_value->asDouble() > longest)
-        complain(QStringLiteral("expected a number of seconds, from 0 to a year, found ") +
-                 found());
+    constexpr double maxSeconds = 366.0 * 24 * 3600;
+    if (!m_value->isNumeric() || m_value->asDouble() < 0 || m_value->asDouble() > maxSeconds)
+        fail(QStringLiteral("expected a number of seconds between 0 and one year, found ") +
+             found());
     return m_value->asDouble();
 }
 
 bool JsonPlace::flag() const
 {
     if (!m_value->isBool())
-        complain(QStringLiteral("expected true or false, found ") + found());
+        fail(QStringLiteral("expected true or false, found ") + found());
     return m_value->asBool();
 }
 
@@ -229,6 +236,6 @@ QByteArray JsonPlace::hexBytes() const
         return std::isxdigit(static_cast<unsigned char>(digit)) != 0;
     });
     if (digits.size() % 2 != 0 || !areDigits)
-        complain(QStringLiteral("expected bytes as pairs of hexadecimal digits, found ") + found());
+        fail(QStringLiteral("expected bytes as pairs of hexadecimal digits, found ") + found());
     return QByteArray::fromHex(digits);
 }

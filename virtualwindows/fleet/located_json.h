@@ -8,46 +8,44 @@
 
 #include <json/value.h>
 
-/// What is wrong at a place of a JSON file; raised while the file is read, caught where that began.
-struct JsonComplaint
-{
-    int line = 0;
-    QString text;
-};
-
-/// A JSON file whose values know their lines.
+/// A JSON file that knows the line of each of its values. Everything that is wrong with the file is
+/// thrown as a virtualwindows::FleetError.
 class LocatedJson
 {
 public:
-    /// Raises a complaint when the text is not JSON, has a key twice, or is nested deeper or has
-    /// more values than any fleet needs.
-    explicit LocatedJson(const QByteArray& text);
+    /// Throws when the text is not JSON, has a duplicate key, or exceeds the limits for nesting and
+    /// for the number of values. `name` is the file's name in messages.
+    LocatedJson(const QByteArray& text, const QString& name);
 
     const Json::Value& root() const { return m_root; }
     int lineOf(const Json::Value& value) const;
+    [[noreturn]] void fail(int line, const QString& what) const;
 
 private:
+    void checkLimits() const;
+    [[noreturn]] void failAsReported(const std::string& report) const;
     int lineAt(qsizetype offset) const;
 
     QByteArray m_text;
+    QString m_name;
     Json::Value m_root;
 };
 
-/// A value on the way through a file: what it is called there and what is expected of it. Every
-/// function raises a complaint when the value is something else.
+/// A value in a file, with its path from the root. The functions that read the value throw when it
+/// is of another kind.
 class JsonPlace
 {
 public:
     JsonPlace(const LocatedJson& file, const Json::Value& value, const QString& path);
 
-    [[noreturn]] void complain(const QString& what) const;
+    [[noreturn]] void fail(const QString& what) const;
 
-    /// An object with these keys and no others.
+    /// Throws unless the value is an object with all required keys and no others but the allowed.
     void expectKeys(const QStringList& required, const QStringList& allowed) const;
     bool has(const char* key) const { return m_value->isMember(key); }
     JsonPlace at(const QByteArray& key) const;
     QList<JsonPlace> entries() const; ///< of a list
-    QStringList keys() const;         ///< of an object, in the file's order
+    QStringList keys() const;         ///< of an object, in the order of the file
 
     QString text() const;
     QString nonEmptyText() const;
@@ -60,7 +58,6 @@ public:
     bool isText() const { return m_value->isString(); }
     bool isNumber() const { return m_value->isNumeric(); }
     bool isObject() const { return m_value->isObject(); }
-    int line() const { return m_file->lineOf(*m_value); }
 
 private:
     QString found() const;

@@ -50,24 +50,24 @@ QString escaped(const QString& text)
     return shown;
 }
 
-QString shortened(const QString& text, qsizetype longest)
+QString shortened(const QString& text, qsizetype maxLength)
 {
-    if (text.size() <= longest)
+    if (text.size() <= maxLength)
         return text;
-    const qsizetype end = text.at(longest - 1).isHighSurrogate() ? longest - 1 : longest;
+    const qsizetype end = text.at(maxLength - 1).isHighSurrogate() ? maxLength - 1 : maxLength;
     return text.first(end) + QStringLiteral("…");
 }
 
 QString listed(const QStringList& texts)
 {
-    constexpr qsizetype most = 16; // what a file may hold at a place goes in whole
-    QStringList first = texts.first(std::min(most, texts.size()));
+    constexpr qsizetype maxCount = 16; // enough for all keys of an object and all names of bits
+    QStringList first = texts.first(std::min(maxCount, texts.size()));
     for (QString& text : first)
         text = shortened(text);
     const QString list = first.join(QStringLiteral(", "));
-    if (texts.size() <= most)
+    if (texts.size() <= maxCount)
         return list;
-    return QStringLiteral("%1 and %2 more").arg(list).arg(texts.size() - most);
+    return QStringLiteral("%1 and %2 more").arg(list).arg(texts.size() - maxCount);
 }
 
 } // namespace virtualwindows

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// Other people's text in messages of one line.
+// Text from files and from the environment, made safe for messages of one line.
+//
+// The tools have a function like escaped() for their own output. The two cannot share it: the tools
+// are also built for Windows, where there is no virtual Windows, and no room is below both.
 #pragma once
 
 #include <QtCore/QString>
@@ -9,14 +12,14 @@
 
 namespace virtualwindows {
 
-/// The text as JSON spells it where it would break the line or steer the terminal: control
-/// characters, separators of lines, and characters of direction and format.
+/// The text with JSON escapes in place of every character that could break the line or control the
+/// terminal: control and format characters, unpaired surrogates, line and paragraph separators.
 QString escaped(const QString& text);
 
-/// Not more of the text than a message needs to tell which one is meant.
-QString shortened(const QString& text, qsizetype longest = 80);
+/// The beginning of the text, long enough for a message to identify it.
+QString shortened(const QString& text, qsizetype maxLength = 80);
 
-/// The first few of the texts and how many more there are, each shortened.
+/// The first few of the texts, each shortened, and the number of the others.
 QString listed(const QStringList& texts);
 
 } // namespace virtualwindows

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// The part of the Windows API that the library calls, for every other system. Names, types and
-// values are those of Windows; what stands behind them is the virtual machine of this process.
+// The part of the Windows API that the library calls, for systems other than Windows. Names, types
+// and values are those of Windows. The implementation is the virtual machine of this process.
 #pragma once
 
 #include "virtualwindows/virtualwindows_export.h"

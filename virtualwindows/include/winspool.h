@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// The print spooler, as far as the library and its tests ask it.
+// The part of the print spooler's API that the library and its tests call.
 #pragma once
 
 #include <windows.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// The service manager, as far as the library asks it.
+// The part of the service manager's API that the library calls.
 #pragma once
 
 #include <windows.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// A host that keeps the library's log in a file. Usage: logging_host FILE
+// A host that writes the library's log to a file. Usage: logging_host FILE
 #include <FileAppender.h>
 #include <Logger.h>
 #include <printer_status_controller.h>

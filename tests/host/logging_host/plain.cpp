@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// A host that links the library alone and has nothing to do with its log.
+// A host that links only the library and ignores its log.
 #include <printer_status_controller.h>
 
 #include <QtCore/QCoreApplication>

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
 #
-# Configures a project against installed CuteLoggers that differ in what they call the global logger.
+# Configures a project against installed CuteLoggers with different names for the global logger.
 
 file(REMOVE_RECURSE "${BINARY}")
 

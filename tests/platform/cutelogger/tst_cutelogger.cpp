@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// What the product relies on in CuteLogger, be it an installed one or the stand-in for it.
+// The behaviour of CuteLogger that the product relies on, for an installed one and for the
+// replacement.
 #include "patience.h"
 #include "start_process.h"
 
@@ -58,14 +59,14 @@ void record(Logger::LogLevel level, const char* category, const QString& message
     VX_GLOBAL_LOGGER()->write(level, "file", 12, "void function()", category, message);
 }
 
-/// What a process of its own does: its standard error is what is looked at, or it ends badly.
+/// What runs in a separate process, because it ends the process or writes to standard error.
 struct Scenario
 {
     const char* name;
     void (*run)();
 };
 constexpr Scenario scenarios[]{
-    {"nobody registered an appender",
+    {"no registered appender",
      [] {
          record(Logger::Debug, nullptr, QStringLiteral("first"));
          record(Logger::Debug, nullptr, QStringLiteral("second"));
@@ -123,7 +124,7 @@ constexpr Scenario scenarios[]{
      }},
     {"a fatal record",
      [] {
-         record(Logger::Fatal, nullptr, QStringLiteral("the last words"));
+         record(Logger::Fatal, nullptr, QStringLiteral("the last message"));
          std::fputs("went on\n", stderr);
      }},
     {"after the application",
@@ -166,23 +167,23 @@ class CuteLoggerTest : public QObject
 
 private Q_SLOTS:
     void globalLoggerHasTwoNames();
-    void threeFormsOfAMessage();
-    void placeIsPassedOn();
-    void categoriesHaveTheirAppenders();
+    void takesThreeFormsOfAMessage();
+    void passesThePlaceOn();
+    void categoriesHaveTheirOwnAppenders();
     void linkedCategoriesReachAllAppenders();
-    void levels_data();
-    void levels();
-    void levelNames();
-    void appenderTwiceIsOnce();
-    void removedAppenderIsTheCallers();
-    void recordsHaveTheTimeOfTheWallClock();
-    void recordsOfManyThreads();
-    void fileAppender();
-    void fileAppenderWithoutAFile();
+    void dropsRecordsBelowTheLevel_data();
+    void dropsRecordsBelowTheLevel();
+    void convertsLevelNames();
+    void registersAnAppenderOnce();
+    void returnsARemovedAppenderToTheCaller();
+    void recordsHaveTheLocalTime();
+    void takesRecordsFromManyThreads();
+    void appendsToAFile();
+    void aFileThatCannotBeWrittenDoesNotStopOtherAppenders();
     void recordsWithoutAnAppenderGoToStandardError();
     void recordsBelowTheLevelGoNowhere();
     void categoriesWithoutAnAppenderGoToStandardError();
-    void linkedCategoriesWithAnAppenderDoNot();
+    void linkedCategoriesWithAnAppenderStayOffStandardError();
     void messagesOfQtAreRecords();
     void fatalRecordsEndTheProcess();
     void appendersEndWithTheApplication();
@@ -206,23 +207,26 @@ void CuteLoggerTest::globalLoggerHasTwoNames()
 #endif
 }
 
-void CuteLoggerTest::threeFormsOfAMessage()
+void CuteLoggerTest::takesThreeFormsOfAMessage()
 {
     Logger logger;
     auto* recorder = new Recorder;
     logger.registerAppender(recorder);
+    const QByteArray longText(2000, 'x');
     at(logger).write("%s: %d", "text", 7);
+    at(logger).write("%s: %d", longText.constData(), 7);
     at(logger).write(QStringLiteral("100 % as it stands, %s"));
     at(logger).write() << "streamed" << 7 << QStringLiteral("quoted");
     QStringList messages;
     for (const Record& record : std::as_const(recorder->records))
         messages.append(record.message);
-    QCOMPARE(messages,
-             (QStringList{QStringLiteral("text: 7"), QStringLiteral("100 % as it stands, %s"),
-                          QStringLiteral("streamed 7 \"quoted\" ")}));
+    QCOMPARE(messages, (QStringList{QStringLiteral("text: 7"),
+                                    QString::fromLatin1(longText) + QStringLiteral(": 7"),
+                                    QStringLiteral("100 % as it stands, %s"),
+                                    QStringLiteral("streamed 7 \"quoted\" ")}));
 }
 
-void CuteLoggerTest::placeIsPassedOn()
+void CuteLoggerTest::passesThePlaceOn()
 {
     Logger logger;
     auto* recorder = new Recorder;
@@ -236,7 +240,7 @@ void CuteLoggerTest::placeIsPassedOn()
                                                 QStringLiteral("message")}}));
 }
 
-void CuteLoggerTest::categoriesHaveTheirAppenders()
+void CuteLoggerTest::categoriesHaveTheirOwnAppenders()
 {
     Logger logger;
     auto* all = new Recorder;
@@ -276,7 +280,7 @@ void CuteLoggerTest::linkedCategoriesReachAllAppenders()
     QCOMPARE(messages, (QStringList{QStringLiteral("global"), QStringLiteral("local")}));
 }
 
-void CuteLoggerTest::levels_data()
+void CuteLoggerTest::dropsRecordsBelowTheLevel_data()
 {
     QTest::addColumn<int>("details");
     QTest::addColumn<int>("records");
@@ -286,7 +290,7 @@ void CuteLoggerTest::levels_data()
     QTest::newRow("fatal") << int(Logger::Fatal) << 1;
 }
 
-void CuteLoggerTest::levels()
+void CuteLoggerTest::dropsRecordsBelowTheLevel()
 {
     QFETCH(const int, details);
     QFETCH(const int, records);
@@ -300,7 +304,7 @@ void CuteLoggerTest::levels()
     QCOMPARE(recorder.records.size(), records);
 }
 
-void CuteLoggerTest::levelNames()
+void CuteLoggerTest::convertsLevelNames()
 {
     QCOMPARE(Logger::levelToString(Logger::Warning), QStringLiteral("Warning"));
     QCOMPARE(Logger::levelFromString(QStringLiteral(" wArNiNg ")), Logger::Warning);
@@ -310,7 +314,7 @@ void CuteLoggerTest::levelNames()
     QCOMPARE(recorder.detailsLevel(), Logger::Error);
 }
 
-void CuteLoggerTest::appenderTwiceIsOnce()
+void CuteLoggerTest::registersAnAppenderOnce()
 {
     Logger logger;
     auto* recorder = new Recorder;
@@ -320,7 +324,7 @@ void CuteLoggerTest::appenderTwiceIsOnce()
     QCOMPARE(recorder->records.size(), 1);
 }
 
-void CuteLoggerTest::removedAppenderIsTheCallers()
+void CuteLoggerTest::returnsARemovedAppenderToTheCaller()
 {
     Recorder recorder;
     {
@@ -333,15 +337,15 @@ void CuteLoggerTest::removedAppenderIsTheCallers()
     QVERIFY(recorder.records.isEmpty());
 }
 
-void CuteLoggerTest::recordsHaveTheTimeOfTheWallClock()
+void CuteLoggerTest::recordsHaveTheLocalTime()
 {
-    // A zone that no test machine is in, so that universal time cannot pass for the wall clock's.
+    // A time zone that no test machine is in, so that UTC cannot be mistaken for local time.
     qputenv("TZ", "VXT-5:45");
     const auto unset = qScopeGuard([] { qunsetenv("TZ"); });
     Logger logger;
     auto* recorder = new Recorder;
     logger.registerAppender(recorder);
-    // The zone is asked once a second, and another test may have had it asked in this one.
+    // The offset is queried once a second, and another test may have queried it in this second.
     const QString format = QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz");
     const auto isLocal = [&] {
         const QString before = QDateTime::currentDateTime().toString(format);
@@ -354,12 +358,13 @@ void CuteLoggerTest::recordsHaveTheTimeOfTheWallClock()
         QVERIFY(isLocal());
 }
 
-void CuteLoggerTest::recordsOfManyThreads()
+void CuteLoggerTest::takesRecordsFromManyThreads()
 {
     Logger logger;
     auto* recorder = new Recorder;
     logger.registerAppender(recorder);
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int number = 0; number < 4; ++number)
         threads.emplace_back([&] {
             for (int record = 0; record < 500; ++record)
@@ -370,7 +375,7 @@ void CuteLoggerTest::recordsOfManyThreads()
     QCOMPARE(recorder->records.size(), 2000);
 }
 
-void CuteLoggerTest::fileAppender()
+void CuteLoggerTest::appendsToAFile()
 {
     const QTemporaryDir folder;
     const QString name = folder.filePath(QStringLiteral("log"));
@@ -394,7 +399,7 @@ void CuteLoggerTest::fileAppender()
     QVERIFY(QFile::exists(folder.filePath(QStringLiteral("other"))));
 }
 
-void CuteLoggerTest::fileAppenderWithoutAFile()
+void CuteLoggerTest::aFileThatCannotBeWrittenDoesNotStopOtherAppenders()
 {
     const QTemporaryDir folder;
     Logger logger;
@@ -407,7 +412,7 @@ void CuteLoggerTest::fileAppenderWithoutAFile()
 
 void CuteLoggerTest::recordsWithoutAnAppenderGoToStandardError()
 {
-    const Ending ending = endingOf("nobody registered an appender");
+    const Ending ending = endingOf("no registered appender");
     QVERIFY(ending.isNormal);
     const QList<QByteArray> lines = ending.errors.trimmed().split('\n');
     QVERIFY2(lines.size() == 3, ending.errors.constData());
@@ -435,7 +440,7 @@ void CuteLoggerTest::categoriesWithoutAnAppenderGoToStandardError()
     QVERIFY2(lines.at(2).contains("second"), ending.errors.constData());
 }
 
-void CuteLoggerTest::linkedCategoriesWithAnAppenderDoNot()
+void CuteLoggerTest::linkedCategoriesWithAnAppenderStayOffStandardError()
 {
     const Ending ending = endingOf("a linked category with an appender of its own");
     QVERIFY(ending.isNormal);
@@ -453,7 +458,7 @@ void CuteLoggerTest::fatalRecordsEndTheProcess()
 {
     const Ending ending = endingOf("a fatal record");
     QVERIFY(!ending.isNormal);
-    QVERIFY2(ending.errors.contains("the last words"), ending.errors.constData());
+    QVERIFY2(ending.errors.contains("the last message"), ending.errors.constData());
     QVERIFY2(!ending.errors.contains("went on"), ending.errors.constData());
 }
 
@@ -468,7 +473,7 @@ void CuteLoggerTest::appendersEndWithTheApplication()
 void CuteLoggerTest::linksEndWithTheApplication()
 {
 #ifndef VX_STAND_IN
-    QSKIP("Nothing is promised of the original's links");
+    QSKIP("the original promises nothing about links");
 #endif
     const Ending ending = endingOf("two applications");
     QVERIFY(ending.isNormal);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// Adds a printer to the system's spooler, and its driver first. Needs nothing but the system, so
-// that it starts where the package's DLLs are out of reach.
+// Adds a driver and then a printer to the system's spooler. It needs no DLLs but the system's, so
+// it also starts where those of the package cannot be found.
 //
 //     add_printer NAME DRIVER PORT
 #include <cstdio>

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
-"""The package, unpacked where nothing else is.
+"""Tests the package, unpacked where nothing else is available.
 
 Usage: test_package.py monitor ZIP ADD_PRINTER
        test_package.py consumer ZIP SOURCE_FOLDER CMAKE_OPTION...
@@ -18,7 +18,7 @@ import subprocess
 import sys
 import tempfile
 
-# Name, driver and port of each, and what the monitor has to say of the last two.
+# Name, driver and port of each, and the port and the type that the monitor should show.
 PRINTERS = [
     ("Shipping Desk", "Stratamark AlderMax", "USB001", "001", 104),
     ("Lager Süd", "Stratamark CedarMax", "USB002", "002", 103),
@@ -36,8 +36,8 @@ def check(holds, text):
 
 
 def run(arguments, folder, **environment):
-    """What a command printed on its two outputs. These are files: a service that is started on the
-    way keeps a pipe open for as long as it lives."""
+    """Runs a command and returns what it wrote to its two outputs. The outputs are files, because a
+    service that is started in the background keeps a pipe open until it ends."""
     out_path, error_path = folder / "out.txt", folder / "err.txt"
     with open(out_path, "wb") as out, open(error_path, "wb") as error:
         status = subprocess.run(arguments, stdin=subprocess.DEVNULL, stdout=out, stderr=error,
@@ -52,14 +52,14 @@ def run(arguments, folder, **environment):
 def unpack(archive, folder):
     shutil.unpack_archive(archive, folder)
     (package,) = [path for path in folder.iterdir() if path.is_dir()]
-    check(package.name == pathlib.Path(archive).stem, f"the zip holds the folder {package.name}")
+    check(package.name == pathlib.Path(archive).stem, f"the zip contains the folder {package.name}")
     return package
 
 
 def foreign_dlls(trace, package):
-    """The DLLs that are neither Wine's own, which are built in, nor the package's."""
+    """The loaded DLLs that belong neither to Wine, whose own are built in, nor to the package."""
     loaded = re.findall(r'Loaded L"([^"]+)" at [^:]*: (\w+)', trace)
-    check(loaded, "Wine did not tell what it loaded")
+    check(loaded, "Wine did not print what it loaded")
     own = "z:" + str(package).replace("/", "\\\\").lower() + "\\\\"
     return [path for path, kind in loaded
             if kind != "builtin" and not path.lower().replace("\\\\??\\\\", "").startswith(own)]
@@ -111,7 +111,7 @@ def test_consumer(scratch, archive, source, *options):
                     WINEPATH="Z:" + str(package / "bin").replace("/", "\\"))
     expected = ["PrinterStatusController", "PrinterStatusThread", "VXIPCM4Controller",
                 "VXIPCPRINTQDController", "VXIPCSUPPLYDController", "type 103"]
-    check(output.splitlines() == expected, f"the consumer said:\n{output}")
+    check(output.splitlines() == expected, f"the consumer printed:\n{output}")
 
 
 def main():

@@ -8,9 +8,9 @@
 #include <QtCore/QTimer>
 
 #include <chrono>
+#include <exception>
 #include <functional>
 #include <optional>
-#include <variant>
 
 namespace virtualwindows {
 
@@ -21,91 +21,107 @@ struct FleetPrinter
     QList<PrinterValue> values;
 };
 
-/// A moment of a fleet's story.
+/// One event of a fleet's story.
 struct StoryEvent
 {
-    std::chrono::milliseconds at{}; ///< since the story's beginning
-    QString caption;                ///< what happens, for people; may be empty
+    std::chrono::milliseconds at{}; ///< since the start of the story
+    QString caption;                ///< describes the event to people; may be empty
     std::function<void(Machine&)> happen;
 };
 
-/// What a virtual machine is filled with, and what happens to it in the course of time.
+/// The printers and devices of a virtual machine, and a story of how they change over time.
 struct Fleet
 {
     QList<FleetPrinter> printers;
-    QString defaultPrinter; ///< null: there is none
+    QString defaultPrinter; ///< null: no default printer
     QList<DeviceSetup> devices;
-    QList<StoryEvent> story; ///< in order of time
+    QList<StoryEvent> story; ///< in chronological order
 };
 
-/// Why a fleet file was refused, in one line: file, line, what is wrong and what was expected.
-struct FleetError
+/// Why a fleet cannot be used, in one line that is safe to print: the file, the line, what is wrong
+/// and what was expected.
+class FleetError : public std::exception
 {
-    QString message;
+public:
+    explicit FleetError(const QString& message)
+        : m_message(message)
+        , m_utf8(message.toUtf8())
+    {}
+
+    QString message() const { return m_message; }
+    const char* what() const noexcept override { return m_utf8.constData(); }
+
+private:
+    QString m_message;
+    QByteArray m_utf8;
 };
 
-/// Reads a fleet file; the format is described in docs/virtual-printers.md. Nothing of a file that
-/// is wrong anywhere is used.
-std::variant<Fleet, FleetError> readFleet(const QString& fileName);
+/// Reads a fleet file in the format of docs/virtual-printers.md. Throws FleetError at the first
+/// mistake in the file.
+Fleet readFleet(const QString& fileName);
 
-/// The same from the text itself; `name` stands for the file in error messages.
-std::variant<Fleet, FleetError> parseFleet(const QByteArray& text, const QString& name);
+/// The same for the text of a file. Error messages call the file `name`.
+Fleet parseFleet(const QByteArray& text, const QString& name);
 
-/// Six printers of all four models and a story of two minutes.
+/// Six printers of all four models, with a story of two minutes.
 Fleet builtInFleet();
-/// The built-in fleet's file, to start one's own from.
+/// The text of the built-in fleet's file, as a start for a fleet of your own.
 QByteArray builtInFleetText();
 
 /// Adds a fleet's printers, values and devices to the machine.
 void populate(Machine& machine, const Fleet& fleet);
 
-/// Lets a story happen in real time, or faster.
+/// Plays a story in real time, or faster.
 ///
-/// From its start to its end of life the player drives the machine's time, so that waits and their
-/// time-outs pass at the same speed as the story, also after the last event.
+/// From start() until it is destroyed, the player drives the machine's time, so that waits and
+/// their time-outs run at the speed of the story, even after the last event.
 ///
-/// With an audience nothing is missed, however fast the story is told and however busy the computer
-/// is: each event, and each time-out that comes before it, happens when all threads that watch have
-/// seen the one before and wait again, and what they then queued for the player's thread has been
-/// delivered. A story that is held up like this catches up afterwards.
+/// If the player knows how many threads are watching the machine, they miss nothing, however fast
+/// the story and however busy the computer is. Each event, and each time-out before it, happens
+/// only after every watching thread has seen the previous one and waits again, and after the calls
+/// that it queued for the player's thread have been delivered. A story that was held up this way
+/// catches up afterwards.
 class StoryPlayer : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `speed` 8 tells a story of two minutes in 15 seconds.
+    /// `speed` 8 plays a story of two minutes in 15 seconds.
     StoryPlayer(Machine& machine, const QList<StoryEvent>& story, double speed,
                 QObject* parent = nullptr);
     ~StoryPlayer() override;
     Q_DISABLE_COPY_MOVE(StoryPlayer)
 
-    /// `audience` answers how many threads watch the machine at that moment.
-    void setAudience(const std::function<int()>& audience) { m_audience = audience; }
+    /// `watchingThreads` returns how many threads are watching the machine at that moment.
+    void setWatchingThreads(const std::function<int()>& watchingThreads)
+    {
+        m_watchingThreads = watchingThreads;
+    }
     void start();
 
 Q_SIGNALS:
-    /// Right before the event happens.
-    void told(const QString& caption);
-    /// Right after the event has happened.
+    /// Announces an event, right before it happens.
+    void narrated(const QString& caption);
+    /// An event has just happened.
     void happened();
-    /// After the last event has happened.
+    /// The last event has happened.
     void finished();
 
 private:
     using Clock = std::chrono::steady_clock;
 
-    bool isAudienceReady();
+    bool areWatchersReady();
     void tick();
-    void goOn();
-    void passTo(std::chrono::milliseconds moment);
+    void proceed();
+    void advanceTo(std::chrono::milliseconds moment);
 
     Machine& m_machine;
     QList<StoryEvent> m_story;
     double m_speed;
-    std::function<int()> m_audience = [] {
+    std::function<int()> m_watchingThreads = [] {
         return 0;
     };
-    std::optional<Clock::time_point> m_waitingSince; ///< for the audience
+    std::optional<Clock::time_point> m_waitingSince; ///< for the watching threads
     qsizetype m_next = 0;
     std::chrono::milliseconds m_now{};
     Clock::time_point m_begin;

@@ -16,7 +16,7 @@
 
 namespace virtualwindows {
 
-/// A printer as it is added to the virtual spooler.
+/// A printer to be added to the virtual spooler.
 struct PrinterSetup
 {
     QString name{};
@@ -27,7 +27,7 @@ struct PrinterSetup
     bool administrable = true;               ///< false: PRINTER_ALL_ACCESS is refused with error 5
 };
 
-/// A value that a driver publishes, as the registry types it (REG_SZ 1, REG_BINARY 3, REG_DWORD 4).
+/// A value that a driver publishes, with its registry type (REG_SZ 1, REG_BINARY 3, REG_DWORD 4).
 struct VIRTUALWINDOWS_EXPORT PrinterValue
 {
     QByteArray name;
@@ -41,7 +41,7 @@ struct VIRTUALWINDOWS_EXPORT PrinterValue
     static PrinterValue binary(const QByteArray& name, const QByteArray& bytes);
 };
 
-/// A job that went through StartDocPrinterW … EndDocPrinter.
+/// A job that was printed with StartDocPrinterW … EndDocPrinter.
 struct PrintJob
 {
     quint32 id = 0;
@@ -61,20 +61,20 @@ struct Call
     quint32 plannedError = 0; ///< the error that failCall() made it fail with; 0: none
 };
 
-/// What was done wrong with a handle.
+/// A mistake in the use of a handle.
 struct HandleMisuse
 {
     enum class Kind
     {
         UsedAfterClose,
         ClosedTwice,
-        NotAHandle, ///< never handed out, or of another kind than the function takes
-        Leaked,     ///< still open when the ledger was settled
+        NotAHandle, ///< not a handle, or one of another kind than the function takes
+        Leaked,     ///< still open when settle() was called
     };
     Kind kind = Kind::Leaked;
     quintptr handle = 0;
-    QString function; ///< the function that was handed it; for Leaked the one that opened it
-    QString text;     ///< one readable line
+    QString function; ///< the function that it was passed to; for Leaked, the one that opened it
+    QString text;     ///< a description in one line
 };
 
 /// A device of the virtual device registry, below
@@ -87,19 +87,19 @@ struct DeviceSetup
     QVariant serialNumber; ///< "Serial Number"; invalid: the value is absent
 };
 
-/// The one virtual Windows machine of this process: what the calls of <windows.h> and <winspool.h>
-/// act on, and the handle by which a test or a demonstration drives it.
+/// The virtual Windows machine of this process. The calls of <windows.h> and <winspool.h> act on
+/// it, and tests and demonstrations control it through this class.
 ///
-/// All members may be called on any thread. Changes made here are what drivers, users and the
-/// system do: they do not appear in the log of calls and need no running spooler, but they signal
-/// change notifications as the real thing does.
+/// All members may be called on any thread. Changes made here stand for those of drivers, users and
+/// the system: they are not recorded as calls and need no running spooler, but they signal change
+/// notifications as on Windows.
 class VIRTUALWINDOWS_EXPORT Machine
 {
 public:
     static Machine& instance();
 
-    /// A machine as new: no printers, no devices, the spooler running, real time, nothing recorded,
-    /// no failures planned, an empty ledger. Handles still open go dead.
+    /// Returns to the initial state: no printers, no devices, the spooler running, real time, no
+    /// recorded calls, no planned failures, an empty ledger. Open handles become invalid.
     void reset();
 
     // Printers, in the order in which they are enumerated.
@@ -111,66 +111,68 @@ public:
     void setPort(const QString& name, const QString& port);
     void setDriver(const QString& name, const QString& driver);
     void setAdministrable(const QString& name, bool administrable);
-    /// A null name: there is no default printer.
+    /// With a null name, there is no default printer.
     void setDefaultPrinter(const QString& name);
     QStringList printers() const;
 
-    /// Publishes a driver's values; several at once make one notification.
+    /// Publishes values as a driver does. A list of values is signalled as one change.
     void publish(const QString& printer, const PrinterValue& value);
     void publish(const QString& printer, const QList<PrinterValue>& values);
     void unpublish(const QString& printer, const QByteArray& valueName);
-    /// Signals the printer's change notifications though nothing changed.
+    /// Signals the printer's change notifications without a change.
     void notify(const QString& printer, quint32 change);
     QList<PrintJob> jobs(const QString& printer) const;
 
-    // The service "Spooler". Leaving SERVICE_RUNNING (4) kills printer and notification handles.
+    // The service "Spooler". In any state but SERVICE_RUNNING (4), all printer handles and change
+    // notifications become invalid.
     void setSpoolerState(quint32 state);
     quint32 spoolerState() const;
     void stopSpooler() { setSpoolerState(1); }
     void startSpooler() { setSpoolerState(4); }
 
-    // The device registry, classes and devices in the order in which they are listed.
+    // The device registry. Classes and devices are listed in the order in which they are added.
     void addDeviceClass(const QString& classGuid);
-    /// A key that the class has already stays as it is.
+    /// Has no effect if the class already has a device with that key.
     void addDevice(const DeviceSetup& device);
 
-    // The log of calls. Nothing is recorded until it is asked for.
+    // The log of calls. Calls are recorded only after recordCalls().
     void recordCalls(bool record = true);
     QList<Call> calls() const;
     QList<Call> calls(const QString& function) const;
     void clearCalls();
-    /// Called on the calling thread, without locks, as each call begins; null takes it out. It may
-    /// block the caller, which is how a test holds a thread at a point of its choice.
+    /// The hook is called at the start of each call, on the calling thread and without locks. It
+    /// may block, so that a test can hold a thread at a chosen call. Null removes the hook.
     void setCallHook(std::function<void(const Call&)> hook);
 
-    // Planned failures: the call does nothing and fails with the error. nth counts from 1, from
-    // now. A call that closes a handle closes it all the same: nobody closes twice. Readings of the
-    // device registry go by the name "RegistryKey" and find nothing when they fail.
+    // Planned failures: the n-th call from now (the next one is 1) has no effect and fails with the
+    // error. A call that closes a handle closes it nevertheless, because callers do not try again.
+    // Reads of the device registry have the name "RegistryKey" and find nothing when they fail.
     void failCall(const QString& function, int nth, quint32 error);
     void failCallsFrom(const QString& function, int nth, quint32 error);
     void clearFailures();
-    /// How often each function was called since the last reset, failed calls included.
+    /// The number of calls of a function since the last reset, including failed ones.
     int callCount(const QString& function) const;
-    /// All functions called since the last reset with their counts, in alphabetical order.
+    /// All functions that were called since the last reset, with their counts, in alphabetical
+    /// order.
     QList<QPair<QString, int>> callCounts() const;
 
-    // Time, as the waits see it. Driven time stands still but for advance(), which wakes every wait
-    // whose time-out is reached on the way.
+    // The time that waits are measured in. Driven time passes only in advance(), which ends every
+    // wait whose time-out is reached.
     void driveTime(bool driven = true);
     void advance(std::chrono::milliseconds time);
-    /// Waits, in real time, until at least count threads are blocked in a wait; false when that has
-    /// not happened within the limit. A thread whose wait has been satisfied or timed out no longer
-    /// counts, even if it has not run yet: after publish() or advance() this is how to wait until
-    /// the threads have done their work and are waiting again.
+    /// Waits, in real time, until at least `count` threads are blocked in a wait. False when that
+    /// does not happen within the limit. A thread whose wait has ended no longer counts, even if it
+    /// has not run yet. So after publish() or advance(), this waits until the threads have done
+    /// their work and wait again.
     bool waitForWaitingThreads(int count,
                                std::chrono::milliseconds limit = std::chrono::seconds(20));
     int waitingThreads() const;
 
     // The ledger of handles.
     int openHandles() const;
-    /// Everything done wrong with handles since the last reset, in order; leaks are not in it.
+    /// All misuses of handles since the last reset, in order, without leaks.
     QList<HandleMisuse> misuses() const;
-    /// The misuses, and a Leaked entry for each handle that is open.
+    /// The misuses, and a Leaked entry for each open handle.
     QList<HandleMisuse> settle() const;
 
 private:
@@ -179,7 +181,7 @@ private:
     Q_DISABLE_COPY_MOVE(Machine)
 
 public:
-    /// For the implementation of the calls alone.
+    /// Only for the implementation of the calls.
     struct Private;
     Private& internals() { return *d; }
 
@@ -187,11 +189,11 @@ private:
     std::unique_ptr<Private> d;
 };
 
-/// The device registry as the library reads it: paths with backslashes, from the name of the hive.
+/// The device registry as the library reads it. Paths begin with the hive and have backslashes.
 namespace registry {
-/// Names of the keys right below a key; empty when there is no such key.
+/// The names of a key's direct subkeys; empty when the key does not exist.
 VIRTUALWINDOWS_EXPORT QStringList childGroups(const QString& path);
-/// A value of a key; invalid when the key or the value is absent.
+/// A value of a key; invalid when the key or the value does not exist.
 VIRTUALWINDOWS_EXPORT QVariant value(const QString& path, const QString& valueName);
 } // namespace registry
 

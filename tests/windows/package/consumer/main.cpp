@@ -5,6 +5,7 @@
 #include <printer_status_information.h>
 #include <printer_status_thread.h>
 #include <printer_types.h>
+#include <status_codes.h>
 #include <supply_information.h>
 #include <vx_ipc_m4_controller.h>
 #include <vx_ipc_printqd_controller.h>
@@ -24,7 +25,7 @@ int main(int argc, char* argv[])
           &VXIPCSUPPLYDController::staticMetaObject})
         std::printf("%s\n", each->className());
 
-    // Nobody has such a printer, and its thread lives until it is told to stop.
+    // There is no such printer; its thread runs until it is stopped.
     PrinterStatusThread thread;
     thread.setMonitoredPrinterName(QStringLiteral("No Such Printer"));
     thread.start();

@@ -12,7 +12,7 @@ struct Replacement
     ULONG_PTR function;
 };
 
-/// Gives a library that is loaded, and stays as it ships, functions of ours for those that it
-/// imports from a DLL. False when it does not import all of them.
+/// Replaces functions that a loaded library imports from a DLL. The library's file is not changed.
+/// False when the library does not import all of them.
 bool replaceImports(const wchar_t* library, const char* dll,
                     std::initializer_list<Replacement> replacements);

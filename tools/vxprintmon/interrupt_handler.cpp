@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-#include "interruption.h"
+#include "interrupt_handler.h"
 
 #include <csignal>
 
@@ -15,19 +15,19 @@ void interrupt(int /*number*/)
 
 } // namespace
 
-Interruption::Interruption()
+InterruptHandler::InterruptHandler()
 {
     std::signal(SIGINT, interrupt);
     std::signal(SIGTERM, interrupt);
 }
 
-Interruption::~Interruption()
+InterruptHandler::~InterruptHandler()
 {
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
 }
 
-bool Interruption::hasHappened() const
+bool InterruptHandler::wasInterrupted() const
 {
     return isInterrupted != 0;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-#include "scene.h"
+#include "backend.h"
+
+#include "failure.h"
 
 #include "virtualwindows/fleet.h"
 
@@ -14,23 +16,23 @@ using virtualwindows::FleetError;
 using virtualwindows::Machine;
 using virtualwindows::StoryPlayer;
 
-class VirtualScene : public Scene
+class VirtualBackend : public Backend
 {
 public:
-    VirtualScene(const Fleet& fleet, double speed)
+    VirtualBackend(const Fleet& fleet, double speed)
         : m_player(Machine::instance(), fleet.story, speed)
         , m_hasStory(!fleet.story.isEmpty())
     {
-        // The serial numbers of virtual printers have no business among the user's.
+        // The serial numbers of virtual printers must not end up in the user's own settings.
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
         virtualwindows::populate(Machine::instance(), fleet);
-        connect(&m_player, &StoryPlayer::told, this, &Scene::told);
-        connect(&m_player, &StoryPlayer::happened, this, &Scene::printersMayHaveCome);
+        connect(&m_player, &StoryPlayer::narrated, this, &Backend::narrated);
+        connect(&m_player, &StoryPlayer::happened, this, &Backend::printersMayHaveChanged);
     }
 
-    void begin(const std::function<int()>& audience) override
+    void start(const std::function<int()>& watchedPrinters) override
     {
-        m_player.setAudience(audience);
+        m_player.setWatchingThreads(watchedPrinters);
         if (m_hasStory)
             m_player.start();
     }
@@ -50,14 +52,20 @@ private:
     bool m_hasStory;
 };
 
+Fleet fleetOf(const QString& fileName)
+{
+    if (fileName.isEmpty())
+        return virtualwindows::builtInFleet();
+    try {
+        return virtualwindows::readFleet(fileName);
+    } catch (const FleetError& error) {
+        throw Failure(error.message());
+    }
+}
+
 } // namespace
 
-std::variant<std::unique_ptr<Scene>, Scene::Failure> Scene::make(const CommandLine& line)
+std::unique_ptr<Backend> Backend::create(const CommandLine& line)
 {
-    if (line.fleetFile.isEmpty())
-        return std::make_unique<VirtualScene>(virtualwindows::builtInFleet(), line.speed);
-    const auto fleet = virtualwindows::readFleet(line.fleetFile);
-    if (const auto* error = std::get_if<FleetError>(&fleet))
-        return Failure{error->message};
-    return std::make_unique<VirtualScene>(std::get<Fleet>(fleet), line.speed);
+    return std::make_unique<VirtualBackend>(fleetOf(line.fleetFile), line.speed);
 }

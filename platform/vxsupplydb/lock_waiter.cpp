@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-#include "lock_patience.h"
+#include "lock_waiter.h"
 
 #include <QtCore/QString>
 #include <QtCore/QThread>
@@ -9,39 +9,39 @@
 
 namespace {
 
-// SQLite's result codes; the low byte of an extended one is the code that it extends.
+// SQLite result codes. The low byte of an extended code is its primary code.
 constexpr int sqliteBusy = 5;
 constexpr int sqliteLocked = 6;
-constexpr int primaryCode = 0xff;
+constexpr int primaryCodeMask = 0xff;
 
-LockPatience::Milliseconds systemNow()
+LockWaiter::Milliseconds systemNow()
 {
-    return std::chrono::duration_cast<LockPatience::Milliseconds>(
+    return std::chrono::duration_cast<LockWaiter::Milliseconds>(
         std::chrono::steady_clock::now().time_since_epoch());
 }
 
-void systemSleep(LockPatience::Milliseconds duration)
+void systemSleep(LockWaiter::Milliseconds duration)
 {
     QThread::msleep(static_cast<unsigned long>(duration.count()));
 }
 
 } // namespace
 
-LockPatience::LockPatience()
-    : LockPatience({systemNow, systemSleep})
+LockWaiter::LockWaiter()
+    : LockWaiter({systemNow, systemSleep})
 {}
 
-LockPatience::LockPatience(const Clock& clock)
+LockWaiter::LockWaiter(const Clock& clock)
     : m_clock(clock)
 {}
 
-LockPatience& LockPatience::ofThisThread()
+LockWaiter& LockWaiter::ofThisThread()
 {
-    thread_local LockPatience patience;
-    return patience;
+    thread_local LockWaiter waiter;
+    return waiter;
 }
 
-bool LockPatience::wait()
+bool LockWaiter::wait()
 {
     const Milliseconds start = m_clock.now();
     if (m_lastWait && start - *m_lastWait >= rest)
@@ -54,13 +54,13 @@ bool LockPatience::wait()
     return true;
 }
 
-bool LockPatience::waitAfter(const QSqlError& error)
+bool LockWaiter::waitAfter(const QSqlError& error)
 {
     return isLocked(error) && wait();
 }
 
-bool LockPatience::isLocked(const QSqlError& error)
+bool LockWaiter::isLocked(const QSqlError& error)
 {
-    const int code = error.nativeErrorCode().toInt() & primaryCode;
+    const int code = error.nativeErrorCode().toInt() & primaryCodeMask;
     return code == sqliteBusy || code == sqliteLocked;
 }

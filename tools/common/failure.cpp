@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "failure.h"
+
+#include "standard_output.h"
+
+namespace {
+
+ExitStatus run(const StandardOutput& output, const std::function<void()>& work)
+{
+    try {
+        work();
+        return ExitStatus::Done;
+    } catch (const Failure& failure) {
+        const bool isWrongUsage = failure.exitStatus() == ExitStatus::WrongUsage;
+        output.complain(
+            isWrongUsage
+                ? QStringLiteral("%1 (see %2 --help)").arg(failure.message(), output.toolName())
+                : failure.message());
+        return failure.exitStatus();
+    } catch (const std::exception& exception) {
+        // The library throws when the spooler lists a printer without a name, port or driver.
+        output.complain(QString::fromLocal8Bit(exception.what()));
+        return ExitStatus::Failed;
+    }
+}
+
+} // namespace
+
+int runTool(StandardOutput& output, const std::function<void()>& work)
+{
+    return output.exitStatus(static_cast<int>(run(output, work)));
+}
