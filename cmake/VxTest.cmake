@@ -64,7 +64,7 @@ function(vx_add_test name)
         WIN32_EXECUTABLE OFF)
     # The code that takes the time is in the libraries; for a test, a short build matters more.
     if(NOT MSVC AND NOT VX_SANITIZE)
-        target_compile_options(${name} PRIVATE -O1)
+        target_compile_options(${name} PRIVATE -O1 -g1)
     endif()
     vx_run_test(${name} ${name})
 endfunction()
