@@ -27,8 +27,8 @@ struct LogLine
 template <typename... Text>
 void print(const LogLine& line, const Text&... text)
 {
-    const CuteMessageLogger logger(VX_GLOBAL_LOGGER(), Logger::Debug, line.file, line.number,
-                                   line.function);
+    CuteMessageLogger logger(VX_GLOBAL_LOGGER(), Logger::Debug, line.file, line.number,
+                             line.function);
     if constexpr (sizeof...(text) == 0)
         logger.write("%s", line.message);
     else

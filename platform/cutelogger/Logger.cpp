@@ -249,7 +249,7 @@ CuteMessageLogger::~CuteMessageLogger()
         write(*m_streamed);
 }
 
-void CuteMessageLogger::write(const char* message, ...) const
+void CuteMessageLogger::write(const char* message, ...)
 {
     // QString::vasprintf() builds the text piece by piece and takes several times as long.
     std::array<char, 512> buffer;
@@ -267,12 +267,12 @@ void CuteMessageLogger::write(const char* message, ...) const
     write(text);
 }
 
-void CuteMessageLogger::write(const QString& message) const
+void CuteMessageLogger::write(const QString& message)
 {
     m_logger->write(m_level, m_file, m_line, m_function, m_category, message);
 }
 
-QDebug CuteMessageLogger::write() const
+QDebug CuteMessageLogger::write()
 {
     if (!m_streamed)
         m_streamed = std::make_unique<QString>();

@@ -82,11 +82,12 @@ public:
     ~CuteMessageLogger();
     Q_DISABLE_COPY_MOVE(CuteMessageLogger)
 
+    // Not const, as in the releases: code that compiles here has to compile with them.
     /// A message in the style of printf(), with 8-bit text.
-    void write(const char* message, ...) const Q_ATTRIBUTE_FORMAT_PRINTF(2, 3);
-    void write(const QString& message) const;
+    void write(const char* message, ...) Q_ATTRIBUTE_FORMAT_PRINTF(2, 3);
+    void write(const QString& message);
     /// A stream for the message, which is written when this object is destroyed.
-    QDebug write() const;
+    QDebug write();
 
 private:
     Logger* m_logger;
@@ -95,7 +96,7 @@ private:
     int m_line;
     const char* m_function;
     const char* m_category;
-    mutable std::unique_ptr<QString> m_streamed;
+    std::unique_ptr<QString> m_streamed;
 };
 
 /// The global logger, under its names in older and newer releases.
