@@ -1,0 +1,334 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "printer_reading.h"
+
+#include <QtCore/QSharedData>
+
+#include <array>
+#include <utility>
+
+namespace VxKit {
+
+namespace {
+
+constexpr std::array allSlots{Slot::Supply, Slot::Ribbon1, Slot::Ribbon2};
+
+constexpr std::size_t indexOf(Slot slot)
+{
+    return static_cast<std::size_t>(slot);
+}
+
+constexpr PrinterReading::Field fieldOf(Slot slot)
+{
+    switch (slot) {
+    case Slot::Ribbon1:
+        return PrinterReading::Field::Ribbon1;
+    case Slot::Ribbon2:
+        return PrinterReading::Field::Ribbon2;
+    case Slot::Supply:
+        break;
+    }
+    return PrinterReading::Field::Supply;
+}
+
+} // namespace
+
+QString slotName(Slot slot)
+{
+    switch (slot) {
+    case Slot::Ribbon1:
+        return QStringLiteral("ribbon1");
+    case Slot::Ribbon2:
+        return QStringLiteral("ribbon2");
+    case Slot::Supply:
+        break;
+    }
+    return QStringLiteral("supply");
+}
+
+struct PrinterReading::Data : QSharedData
+{
+    QString name;
+    VXPrinting::PrinterType model = VXPrinting::PrinterType::Unknown;
+    QString driver;
+    QString port;
+    QString serialNumber;
+    Presence presence = Presence::Present;
+    QDateTime goneSince;
+    Watching watching = Watching::NotDiscovered;
+    int statusCode = VXPrinting::StatusCodes::unknown;
+    bool online = false;
+    bool active = false;
+    QString firmwareVersion;
+    QString bootVersion;
+    std::optional<quint32> updateProgress;
+    std::optional<quint32> updateError;
+    QString ethernetConfig;
+    QDateTime lastReport;
+    std::array<Level, allSlots.size()> levels;
+};
+
+namespace {
+
+/// Shared by all null readings, so that making one allocates nothing.
+template <typename Data>
+const QSharedDataPointer<Data>& emptyData()
+{
+    static const QSharedDataPointer<Data> empty(new Data);
+    return empty;
+}
+
+} // namespace
+
+PrinterReading::PrinterReading()
+    : d(emptyData<Data>())
+{}
+PrinterReading::PrinterReading(const PrinterReading& other) = default;
+PrinterReading::PrinterReading(PrinterReading&& other) noexcept = default;
+PrinterReading& PrinterReading::operator=(const PrinterReading& other) = default;
+PrinterReading& PrinterReading::operator=(PrinterReading&& other) noexcept = default;
+PrinterReading::~PrinterReading() = default;
+
+bool PrinterReading::isNull() const
+{
+    return d->name.isNull();
+}
+
+bool PrinterReading::operator==(const PrinterReading& other) const
+{
+    return !differences(other);
+}
+
+PrinterReading::Fields PrinterReading::differences(const PrinterReading& other) const
+{
+    Fields fields;
+    if (d == other.d)
+        return fields;
+    const Data& one = *d;
+    const Data& two = *other.d;
+    fields.setFlag(Field::Name, one.name != two.name);
+    fields.setFlag(Field::Model, one.model != two.model);
+    fields.setFlag(Field::Driver, one.driver != two.driver);
+    fields.setFlag(Field::Port, one.port != two.port);
+    fields.setFlag(Field::SerialNumber, one.serialNumber != two.serialNumber);
+    fields.setFlag(Field::Presence, one.presence != two.presence || one.goneSince != two.goneSince);
+    fields.setFlag(Field::Watching, one.watching != two.watching);
+    fields.setFlag(Field::Status, one.statusCode != two.statusCode);
+    fields.setFlag(Field::Online, one.online != two.online);
+    fields.setFlag(Field::Active, one.active != two.active);
+    fields.setFlag(Field::Firmware, one.firmwareVersion != two.firmwareVersion ||
+                                        one.bootVersion != two.bootVersion);
+    fields.setFlag(Field::Update,
+                   one.updateProgress != two.updateProgress || one.updateError != two.updateError);
+    fields.setFlag(Field::EthernetConfig, one.ethernetConfig != two.ethernetConfig);
+    fields.setFlag(Field::LastReport, one.lastReport != two.lastReport);
+    for (const Slot slot : allSlots)
+        fields.setFlag(fieldOf(slot), one.levels[indexOf(slot)] != two.levels[indexOf(slot)]);
+    return fields;
+}
+
+QString PrinterReading::name() const
+{
+    return d->name;
+}
+
+VXPrinting::PrinterType PrinterReading::model() const
+{
+    return d->model;
+}
+
+QString PrinterReading::driver() const
+{
+    return d->driver;
+}
+
+QString PrinterReading::port() const
+{
+    return d->port;
+}
+
+QString PrinterReading::serialNumber() const
+{
+    return d->serialNumber;
+}
+
+PrinterReading::Presence PrinterReading::presence() const
+{
+    return d->presence;
+}
+
+QDateTime PrinterReading::goneSince() const
+{
+    return d->goneSince;
+}
+
+PrinterReading::Watching PrinterReading::watching() const
+{
+    return d->watching;
+}
+
+int PrinterReading::statusCode() const
+{
+    return d->statusCode;
+}
+
+bool PrinterReading::isOnline() const
+{
+    return d->online;
+}
+
+bool PrinterReading::isActive() const
+{
+    return d->active;
+}
+
+QString PrinterReading::firmwareVersion() const
+{
+    return d->firmwareVersion;
+}
+
+QString PrinterReading::bootVersion() const
+{
+    return d->bootVersion;
+}
+
+std::optional<quint32> PrinterReading::updateProgress() const
+{
+    return d->updateProgress;
+}
+
+std::optional<quint32> PrinterReading::updateError() const
+{
+    return d->updateError;
+}
+
+QString PrinterReading::ethernetConfig() const
+{
+    return d->ethernetConfig;
+}
+
+QDateTime PrinterReading::lastReport() const
+{
+    return d->lastReport;
+}
+
+bool PrinterReading::hasSlot(Slot slot) const
+{
+    using VXPrinting::PrinterType;
+    return slot != Slot::Ribbon2 || d->model == PrinterType::Alder ||
+           d->model == PrinterType::AlderMax;
+}
+
+QList<Slot> PrinterReading::slotList() const
+{
+    QList<Slot> slotsOfModel;
+    for (const Slot slot : allSlots) {
+        if (hasSlot(slot))
+            slotsOfModel.append(slot);
+    }
+    return slotsOfModel;
+}
+
+Level PrinterReading::level(Slot slot) const
+{
+    return d->levels[indexOf(slot)];
+}
+
+void PrinterReading::setName(const QString& name)
+{
+    d->name = name;
+}
+
+void PrinterReading::setModel(VXPrinting::PrinterType model)
+{
+    d->model = model;
+    for (const Slot slot : allSlots) {
+        if (!hasSlot(slot))
+            d->levels[indexOf(slot)] = Level();
+    }
+}
+
+void PrinterReading::setDriver(const QString& driver)
+{
+    d->driver = driver;
+}
+
+void PrinterReading::setPort(const QString& port)
+{
+    d->port = port;
+}
+
+void PrinterReading::setSerialNumber(const QString& serialNumber)
+{
+    d->serialNumber = serialNumber;
+}
+
+void PrinterReading::setPresent()
+{
+    d->presence = Presence::Present;
+    d->goneSince = QDateTime();
+}
+
+void PrinterReading::setGone(const QDateTime& since)
+{
+    d->presence = Presence::Gone;
+    d->goneSince = since;
+}
+
+void PrinterReading::setWatching(Watching watching)
+{
+    d->watching = watching;
+}
+
+void PrinterReading::setStatusCode(int statusCode)
+{
+    d->statusCode = statusCode;
+}
+
+void PrinterReading::setOnline(bool online)
+{
+    d->online = online;
+}
+
+void PrinterReading::setActive(bool active)
+{
+    d->active = active;
+}
+
+void PrinterReading::setFirmwareVersion(const QString& version)
+{
+    d->firmwareVersion = version;
+}
+
+void PrinterReading::setBootVersion(const QString& version)
+{
+    d->bootVersion = version;
+}
+
+void PrinterReading::setUpdateProgress(std::optional<quint32> progress)
+{
+    d->updateProgress = progress;
+}
+
+void PrinterReading::setUpdateError(std::optional<quint32> error)
+{
+    d->updateError = error;
+}
+
+void PrinterReading::setEthernetConfig(const QString& ethernetConfig)
+{
+    d->ethernetConfig = ethernetConfig;
+}
+
+void PrinterReading::setLastReport(const QDateTime& time)
+{
+    d->lastReport = time;
+}
+
+void PrinterReading::setLevel(Slot slot, const Level& level)
+{
+    if (hasSlot(slot))
+        d->levels[indexOf(slot)] = level;
+}
+
+} // namespace VxKit
