@@ -75,8 +75,8 @@ class ReadingSchema(unittest.TestCase):
         known = {name for name, value in first.items() if value is not None}
         self.assertEqual(
             known,
-            {"name", "model", "presence", "watching", "statusCode", "online", "active"}
-            | {"supply", "ribbon1"},
+            {"name", "model", "presence", "watching", "statusCode", "statusKey", "severity"}
+            | {"online", "active", "supply", "ribbon1"},
         )
         states = {reading["supply"]["state"] for reading in self.readings}
         self.assertEqual(states, {"notKnown", "empty", "loaded", "notInCatalogue"})
@@ -117,6 +117,8 @@ class ReadingSchema(unittest.TestCase):
             ("statusCode", "1"),
             ("statusCode", 1.5),
             ("statusCode", 2147483648),
+            ("statusKey", "Out of labels"),
+            ("severity", "fatal"),
             ("online", 1),
             ("active", None),
             ("updateProgress", -1),

@@ -27,6 +27,8 @@ private Q_SLOTS:
     void percentageIsRoundedDown();
     void slotsHaveFixedNames();
 
+    void explainsItsStatus();
+
     void jsonHoldsEverything();
     void jsonOfNothingIsEmpty();
     void unknownMembersAreIgnored();
@@ -198,6 +200,17 @@ void TestPrinterReading::slotsHaveFixedNames()
     QCOMPARE(VxKit::slotName(Slot::Ribbon2), QStringLiteral("ribbon2"));
 }
 
+void TestPrinterReading::explainsItsStatus()
+{
+    for (int code = -3; code < 300; ++code) {
+        PrinterReading reading;
+        reading.setStatusCode(code);
+        QCOMPARE(reading.statusInfo(), VxKit::statusInfo(code));
+        QCOMPARE(VxKit::statusSeverity(code), VxKit::statusInfo(code).severity);
+        QCOMPARE(VxKit::statusKey(code), VxKit::statusInfo(code).key);
+    }
+}
+
 // JSON ////////////////////////////////////////////////////////////////////////////////////////////
 
 void TestPrinterReading::jsonHoldsEverything()
@@ -208,6 +221,8 @@ void TestPrinterReading::jsonHoldsEverything()
     QVERIFY(text.contains(R"("goneSince":"2026-01-31T12:00:00.001-03:30")"));
     QVERIFY(text.contains(R"("lastReport":"2026-01-31T12:00:00.000Z")"));
     QVERIFY(text.contains(R"("ratio":0,)"));
+    QVERIFY(text.contains(R"("severity":"error")"));
+    QVERIFY(text.contains(R"("statusKey":"printer_error")"));
 
     QString error;
     const auto again = PrinterReading::fromJson(QJsonDocument::fromJson(text).object(), &error);
@@ -323,7 +338,10 @@ void TestPrinterReading::impossibleJsonIsRefused()
 void TestPrinterReading::everyMissingMemberIsNamed()
 {
     const QJsonObject json = fullReading().toJson();
-    const QStringList members = json.keys();
+    QStringList members = json.keys();
+    // They follow from the code.
+    members.removeAll(QStringLiteral("statusKey"));
+    members.removeAll(QStringLiteral("severity"));
     for (const QString& member : members) {
         QJsonObject less = json;
         less.remove(member);
