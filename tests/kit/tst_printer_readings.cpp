@@ -58,6 +58,14 @@ private Q_SLOTS:
     void printerToUse();
     void countsPrintersInError();
 
+protected Q_SLOTS:
+    void cleanup() override
+    {
+        // A failed test may have left them held.
+        releaseThreads();
+        ReadingsTest::cleanup();
+    }
+
 private:
     static inline const QString packing = QStringLiteral("Packing");
     static inline const QString shipping = QStringLiteral("Shipping");
