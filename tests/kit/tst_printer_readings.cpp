@@ -707,10 +707,7 @@ void PrinterReadingsTest::aPrinterThatReturnsIsWatchedAfterARestart()
     QCOMPARE(reading(packing).watching(), Watching::Replaced);
     QCOMPARE(reading(packing).statusCode(), 255);
 
-    machine().stopSpooler();
-    QVERIFY(pollAll(1));
-    machine().startSpooler();
-    QVERIFY(pollAll(1));
+    QVERIFY(restartSpooler(1));
     QCOMPARE(reading(packing).watching(), Watching::Watched);
     QCOMPARE(reading(packing).statusCode(), 2);
 }
@@ -739,10 +736,7 @@ void PrinterReadingsTest::aReplacedPrinterIsWatchedAfterARestart()
     QVERIFY(settleAll(1));
     QCOMPARE(reading(packing).statusCode(), 255);
 
-    machine().stopSpooler();
-    QVERIFY(pollAll(1));
-    machine().startSpooler();
-    QVERIFY(pollAll(1));
+    QVERIFY(restartSpooler(1));
     QCOMPARE(reading(packing).watching(), Watching::Watched);
     QCOMPARE(reading(packing).statusCode(), 3);
 }
@@ -909,10 +903,7 @@ void PrinterReadingsTest::anOldNameThatIsUsedAgainIsAnotherPrinter()
     QCOMPARE(reading(shipping).statusCode(), 1);
 
     // The thread opens its printer by name again, which is now the other one.
-    machine().stopSpooler();
-    QVERIFY(pollAll(1));
-    machine().startSpooler();
-    QVERIFY(pollAll(1));
+    QVERIFY(restartSpooler(1));
     QCOMPARE(reading(packing).watching(), Watching::Watched);
     QCOMPARE(reading(packing).statusCode(), 5);
     QCOMPARE(reading(shipping).watching(), Watching::NotDiscovered);
