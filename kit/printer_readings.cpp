@@ -197,15 +197,15 @@ private:
     void readSnapshot(Reading& reading, const Recorded& recorded);
 
     // The list of printers
-    void watchAll(const QList<ListedPrinter>& listed);
-    bool waitsForName(Reading& reading, const QList<ListedPrinter>& listed);
-    void renameAll(const QHash<QString, const ListedPrinter*>& listed);
-    void applyListing(const QList<ListedPrinter>& listed,
-                      const QHash<QString, const ListedPrinter*>& byName);
-    void describe(Reading& reading, const ListedPrinter& printer);
+    void watchAll(const QList<SpooledPrinter>& listed);
+    bool waitsForName(Reading& reading, const QList<SpooledPrinter>& listed);
+    void renameAll(const QHash<QString, const SpooledPrinter*>& listed);
+    void applyListing(const QList<SpooledPrinter>& listed,
+                      const QHash<QString, const SpooledPrinter*>& byName);
+    void describe(Reading& reading, const SpooledPrinter& printer);
     void markGone(Reading& reading);
-    void assignWatches(const QHash<QString, const ListedPrinter*>& listed);
-    void assignWatch(Reading& reading, const ListedPrinter& printer, Watch* watch,
+    void assignWatches(const QHash<QString, const SpooledPrinter*>& listed);
+    void assignWatch(Reading& reading, const SpooledPrinter& printer, Watch* watch,
                      const QHash<QString, Recorded>& records);
     void scheduleRefresh();
     void scheduleActiveCheck();
@@ -550,9 +550,9 @@ void PrinterReadings::Private::refresh()
     const auto listed = listPrinters();
     isRefreshOwed = !listed;
     if (listed) {
-        QHash<QString, const ListedPrinter*> byName;
+        QHash<QString, const SpooledPrinter*> byName;
         byName.reserve(listed->size());
-        for (const ListedPrinter& printer : *listed)
+        for (const SpooledPrinter& printer : *listed)
             byName.insert(printer.name, &printer);
 
         watchAll(*listed);
@@ -564,10 +564,10 @@ void PrinterReadings::Private::refresh()
     emitEvents();
 }
 
-void PrinterReadings::Private::watchAll(const QList<ListedPrinter>& listed)
+void PrinterReadings::Private::watchAll(const QList<SpooledPrinter>& listed)
 {
     bool isAnyNew = false;
-    for (const ListedPrinter& printer : listed) {
+    for (const SpooledPrinter& printer : listed) {
         if (watches.contains(printer.name))
             continue;
         if (PrinterStatusThread* const thread = controller->statusThread(printer.name)) {
@@ -587,7 +587,7 @@ void PrinterReadings::Private::watchAll(const QList<ListedPrinter>& listed)
         Qt::QueuedConnection);
 }
 
-void PrinterReadings::Private::renameAll(const QHash<QString, const ListedPrinter*>& listed)
+void PrinterReadings::Private::renameAll(const QHash<QString, const SpooledPrinter*>& listed)
 {
     for (const auto& [monitoredName, watch] : watches) {
         Reading* const reading = watch->reading;
@@ -607,18 +607,18 @@ void PrinterReadings::Private::renameAll(const QHash<QString, const ListedPrinte
     }
 }
 
-bool PrinterReadings::Private::waitsForName(Reading& reading, const QList<ListedPrinter>& listed)
+bool PrinterReadings::Private::waitsForName(Reading& reading, const QList<SpooledPrinter>& listed)
 {
     if (hasWaitedForNames || !reading.watch || reading.watch->currentName != reading.name())
         return false;
-    return std::ranges::any_of(listed, [&](const ListedPrinter& printer) {
+    return std::ranges::any_of(listed, [&](const SpooledPrinter& printer) {
         return printer.driver == reading.value.driver() && printer.port == reading.value.port() &&
                !readings.contains(printer.name);
     });
 }
 
-void PrinterReadings::Private::applyListing(const QList<ListedPrinter>& listed,
-                                            const QHash<QString, const ListedPrinter*>& byName)
+void PrinterReadings::Private::applyListing(const QList<SpooledPrinter>& listed,
+                                            const QHash<QString, const SpooledPrinter*>& byName)
 {
     std::map<QString, PrinterReading> before;
     for (const auto& [name, reading] : readings)
@@ -640,7 +640,7 @@ void PrinterReadings::Private::applyListing(const QList<ListedPrinter>& listed,
     else if (!nameTimer.isActive())
         nameTimer.start();
     hasWaitedForNames = false;
-    const auto maybeRenamed = [&](const ListedPrinter& printer) {
+    const auto maybeRenamed = [&](const SpooledPrinter& printer) {
         return std::ranges::any_of(missing, [&](const Reading* reading) {
             return printer.driver == reading->value.driver() &&
                    printer.port == reading->value.port();
@@ -648,7 +648,7 @@ void PrinterReadings::Private::applyListing(const QList<ListedPrinter>& listed,
     };
 
     QStringList added;
-    for (const ListedPrinter& printer : listed) {
+    for (const SpooledPrinter& printer : listed) {
         std::unique_ptr<Reading>* reading = nullptr;
         if (const auto found = readings.find(printer.name); found != readings.end()) {
             reading = &found->second;
@@ -677,7 +677,7 @@ void PrinterReadings::Private::applyListing(const QList<ListedPrinter>& listed,
         events.enqueue({Event::Kind::Added, name, {}});
 }
 
-void PrinterReadings::Private::describe(Reading& reading, const ListedPrinter& printer)
+void PrinterReadings::Private::describe(Reading& reading, const SpooledPrinter& printer)
 {
     PrinterReading& value = reading.value;
     const bool isNew = value.isNull();
@@ -709,7 +709,7 @@ void PrinterReadings::Private::markGone(Reading& reading)
     setStatus(reading, StatusCodes::disconnected, false);
 }
 
-void PrinterReadings::Private::assignWatches(const QHash<QString, const ListedPrinter*>& listed)
+void PrinterReadings::Private::assignWatches(const QHash<QString, const SpooledPrinter*>& listed)
 {
     QHash<QString, Watch*> byCurrentName;
     for (const auto& [monitoredName, watch] : watches) {
@@ -722,12 +722,12 @@ void PrinterReadings::Private::assignWatches(const QHash<QString, const ListedPr
     }
     const QHash<QString, Recorded> records = recordsOf(*controller);
     for (const auto& [name, reading] : readings) {
-        if (const ListedPrinter* const printer = listed.value(name))
+        if (const SpooledPrinter* const printer = listed.value(name))
             assignWatch(*reading, *printer, byCurrentName.value(name), records);
     }
 }
 
-void PrinterReadings::Private::assignWatch(Reading& reading, const ListedPrinter& printer,
+void PrinterReadings::Private::assignWatch(Reading& reading, const SpooledPrinter& printer,
                                            Watch* watch, const QHash<QString, Recorded>& records)
 {
     if (watch && watch == reading.watch)
