@@ -33,8 +33,10 @@ namespace VxKit {
 ///
 /// **Where the values come from.** The threads with which the controller watches the printers, the
 /// controller's signals and its catalogue. Nothing is polled, and no further thread is created. The
-/// list of printers is read when this object is created, in `refresh()`, and when the controller
-/// reports a printer that is not known yet. `PrinterDiscovery` calls `refresh()` by itself.
+/// list of printers is read when this object is created, in `refresh()`, when the controller
+/// reports a printer that is not known yet, and when a thread reports that its printer has another
+/// name or none. Printers that are not watched come and go unnoticed until `refresh()` is called:
+/// connect `PrinterDiscovery::printersChanged` to it.
 ///
 /// **Threads.** The object belongs to the controller's thread, on which all members are called and
 /// all signals are emitted. Members that are called on another thread print a warning and return
