@@ -73,6 +73,8 @@ install(TARGETS vxprinterstatuskit EXPORT VxPrinterStatusKitTargets
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 install(DIRECTORY kit/include/ DESTINATION "${VX_HEADER_FOLDER}")
 install(EXPORT VxPrinterStatusKitTargets NAMESPACE Vx:: DESTINATION "${VX_PACKAGE_FOLDER}")
+# A catalogue to begin with.
+install(DIRECTORY data/supplies DESTINATION "${CMAKE_INSTALL_DATADIR}/VxPrinterStatus")
 install(DIRECTORY docs/schema DESTINATION "${CMAKE_INSTALL_DATADIR}/VxPrinterStatus")
 
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/VxPrinterStatus")
