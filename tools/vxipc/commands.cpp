@@ -7,6 +7,7 @@
 #include "ipc_names.h"
 #include "json_text.h"
 #include "shown_text.h"
+#include "tool_text.h"
 #include "vxipcclient.h"
 
 #include <QtCore/QJsonArray>
@@ -139,8 +140,8 @@ QString requireEndpoint(const QString& service)
 {
     const std::optional<QString> name = endpointName(service);
     if (!name)
-        throw wrongUsage(QStringLiteral("unknown service \"%1\"; expected supplyd, m4, printqd, a "
-                                        "number or a name printed by list")
+        throw wrongUsage(ToolText::tr("unknown service \"%1\"; expected supplyd, m4, printqd, a "
+                                      "number or a name printed by list")
                              .arg(service));
     return *name;
 }
@@ -189,9 +190,9 @@ struct Command
 };
 
 constexpr std::array commands{
-    Command{"list", "no arguments", 0, 0, list},
-    Command{"describe", "a SERVICE", 1, 1, describe},
-    Command{"call", "a SERVICE, a METHOD and its arguments", 2,
+    Command{"list", QT_TRANSLATE_NOOP("tools", "no arguments"), 0, 0, list},
+    Command{"describe", QT_TRANSLATE_NOOP("tools", "a SERVICE"), 1, 1, describe},
+    Command{"call", QT_TRANSLATE_NOOP("tools", "a SERVICE, a METHOD and its arguments"), 2,
             std::numeric_limits<qsizetype>::max(), call},
 };
 
@@ -199,18 +200,18 @@ constexpr std::array commands{
 
 void runCommand(const QStringList& words, const Options& options, StandardOutput& output)
 {
-    const QString expected = QStringLiteral("expected list, describe or call");
+    const QString expected = ToolText::tr("expected list, describe or call");
     if (words.isEmpty())
         throw wrongUsage(expected);
     const QString& name = words.first();
     const auto command = std::ranges::find_if(
         commands, [&name](const Command& each) { return name == QLatin1String(each.name); });
     if (command == commands.end())
-        throw wrongUsage(QStringLiteral("unknown command \"%1\"; %2").arg(name, expected));
+        throw wrongUsage(ToolText::tr("unknown command \"%1\"; %2").arg(name, expected));
     const QStringList arguments = words.mid(1);
     if (arguments.size() < command->fewestArguments || arguments.size() > command->mostArguments)
         throw wrongUsage(
-            QStringLiteral("%1 takes %2")
-                .arg(QString::fromLatin1(command->name), QString::fromLatin1(command->expected)));
+            ToolText::tr("%1 takes %2")
+                .arg(QString::fromLatin1(command->name), ToolText::tr(command->expected)));
     command->run(arguments, options, output);
 }
