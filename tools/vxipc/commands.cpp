@@ -7,6 +7,7 @@
 #include "ipc_names.h"
 #include "json_text.h"
 #include "shown_text.h"
+#include "tool_text.h"
 #include "vxipcclient.h"
 
 #include <QtCore/QEventLoop>
@@ -145,8 +146,8 @@ QString requireEndpoint(const QString& service)
     const std::optional<QString> name = endpointName(service);
     if (!name)
         throw wrongUsage(
-            QStringLiteral("unknown service \"%1\"; expected supplyd, m4, printqd, status, a "
-                           "number or a name printed by list")
+            ToolText::tr("unknown service \"%1\"; expected supplyd, m4, printqd, status, a "
+                         "number or a name printed by list")
                 .arg(service));
     return *name;
 }
@@ -198,7 +199,7 @@ QStringList signalsOf(VXIPCClient& client, const Options& options)
         names.append(signal[QStringLiteral("name")].toString());
     names.removeDuplicates();
     if (names.isEmpty())
-        throw Failure(QStringLiteral("%1: it has no signals").arg(client.serverName()));
+        throw Failure(ToolText::tr("%1: it has no signals").arg(client.serverName()));
     return names;
 }
 
@@ -227,11 +228,11 @@ void watch(const QStringList& words, const Options& options, StandardOutput& out
         });
     QObject::connect(&client, &VXIPCClient::disconnected, &loop, [&] {
         output.complain(
-            QStringLiteral("%1: the connection ended; waiting for the endpoint").arg(endpoint));
+            ToolText::tr("%1: the connection ended; waiting for the endpoint").arg(endpoint));
     });
     QObject::connect(&client, &VXIPCClient::resubscribed, &loop, [&] {
         output.complain(
-            QStringLiteral("%1: watching again; what changed meanwhile was missed").arg(endpoint));
+            ToolText::tr("%1: watching again; what changed meanwhile was missed").arg(endpoint));
     });
     QObject::connect(&client, &VXIPCClient::subscriptionLost, &loop, fail);
     client.subscribe(names, [&](const VXIPCReply& reply) {
@@ -262,31 +263,32 @@ struct Command
 };
 
 constexpr std::array commands{
-    Command{"list", "no arguments", 0, 0, list},
-    Command{"describe", "a SERVICE", 1, 1, describe},
-    Command{"call", "a SERVICE, a METHOD and its arguments", 2,
+    Command{"list", QT_TRANSLATE_NOOP("tools", "no arguments"), 0, 0, list},
+    Command{"describe", QT_TRANSLATE_NOOP("tools", "a SERVICE"), 1, 1, describe},
+    Command{"call", QT_TRANSLATE_NOOP("tools", "a SERVICE, a METHOD and its arguments"), 2,
             std::numeric_limits<qsizetype>::max(), call},
-    Command{"watch", "a SERVICE and SIGNALs", 1, std::numeric_limits<qsizetype>::max(), watch},
+    Command{"watch", QT_TRANSLATE_NOOP("tools", "a SERVICE and SIGNALs"), 1,
+            std::numeric_limits<qsizetype>::max(), watch},
 };
 
 } // namespace
 
 void runCommand(const QStringList& words, const Options& options, StandardOutput& output)
 {
-    const QString expected = QStringLiteral("expected list, describe, call or watch");
+    const QString expected = ToolText::tr("expected list, describe, call or watch");
     if (words.isEmpty())
         throw wrongUsage(expected);
     const QString& name = words.first();
     const auto command = std::ranges::find_if(
         commands, [&name](const Command& each) { return name == QLatin1String(each.name); });
     if (command == commands.end())
-        throw wrongUsage(QStringLiteral("unknown command \"%1\"; %2").arg(name, expected));
+        throw wrongUsage(ToolText::tr("unknown command \"%1\"; %2").arg(name, expected));
     const QStringList arguments = words.mid(1);
     if (arguments.size() < command->fewestArguments || arguments.size() > command->mostArguments)
         throw wrongUsage(
-            QStringLiteral("%1 takes %2")
-                .arg(QString::fromLatin1(command->name), QString::fromLatin1(command->expected)));
+            ToolText::tr("%1 takes %2")
+                .arg(QString::fromLatin1(command->name), ToolText::tr(command->expected)));
     if (options.watchTime && name != QLatin1String("watch"))
-        throw wrongUsage(QStringLiteral("%1 takes no --for").arg(name));
+        throw wrongUsage(ToolText::tr("%1 takes no --for").arg(name));
     command->run(arguments, options, output);
 }

@@ -19,6 +19,7 @@ struct CommandLine
     QString fleetFile;             ///< empty: the built-in fleet, or the system's own printers
     std::optional<double> seconds; ///< how long to watch; without a value, until interrupted
     double speed = 1;              ///< of the virtual printers' story
+    bool all = false;              ///< of title
 };
 
 /// Throws `Failure` if the arguments are wrong.

@@ -8,6 +8,7 @@
 #include "output.h"
 
 #include "printer_status_controller.h"
+#include "tool_text.h"
 
 #include <AbstractAppender.h>
 #include <Logger.h>
@@ -61,7 +62,7 @@ QString jobText(const Backend::Job& job)
     qsizetype bytes = 0;
     for (const QByteArray& page : job.pages)
         bytes += page.size();
-    return QStringLiteral("Print job %1, \"%2\": %3, pages: %4, bytes: %5.")
+    return ToolText::tr("Print job %1, \"%2\": %3, pages: %4, bytes: %5.")
         .arg(QString::number(job.id), job.document, job.datatype, QString::number(job.pages.size()),
              QString::number(bytes));
 }
@@ -77,7 +78,7 @@ void runSend(const CommandLine& line, Output& output, Backend& backend)
     controller.sendCommandToPrinter(command, printer);
     if (!log.failure().isEmpty())
         throw Failure(
-            QStringLiteral("the command was not sent to \"%1\": %2").arg(printer, log.failure()));
+            ToolText::tr("the command was not sent to \"%1\": %2").arg(printer, log.failure()));
 
     const std::optional<Backend::Job> job = backend.lastJob(printer);
     if (line.json) {
@@ -90,7 +91,7 @@ void runSend(const CommandLine& line, Output& output, Backend& backend)
         output.text(json_text::object(members) + QLatin1Char('\n'));
         return;
     }
-    output.line({{QStringLiteral("Sent to %1: %2").arg(printer, command)}});
+    output.line({{ToolText::tr("Sent to %1: %2").arg(printer, command)}});
     if (job)
         output.line({{jobText(*job)}});
 }
