@@ -463,8 +463,8 @@
         <translation> oder </translation>
     </message>
     <message>
-        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, a number or a name printed by list</source>
-        <translation>unbekannter Dienst „%1“; supplyd, m4, printqd, eine Zahl oder ein von list ausgegebener Name wird erwartet</translation>
+        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, status, a number or a name printed by list</source>
+        <translation>unbekannter Dienst „%1“; supplyd, m4, printqd, status, eine Zahl oder ein von list ausgegebener Name wird erwartet</translation>
     </message>
     <message>
         <source>no arguments</source>
@@ -479,8 +479,8 @@
         <translation>einen SERVICE, eine METHOD und deren Argumente</translation>
     </message>
     <message>
-        <source>expected list, describe or call</source>
-        <translation>list, describe oder call wird erwartet</translation>
+        <source>expected list, describe, call or watch</source>
+        <translation>list, describe, call oder watch wird erwartet</translation>
     </message>
     <message>
         <source>unknown command &quot;%1&quot;; %2</source>
@@ -503,16 +503,16 @@
         <translation>die Endpunkte auflisten: Name, Dienst, Prozess, Anwendung</translation>
     </message>
     <message>
-        <source>list the methods of an endpoint</source>
-        <translation>die Methoden eines Endpunkts auflisten</translation>
+        <source>list the methods and signals of an endpoint</source>
+        <translation>die Methoden und Signale eines Endpunkts auflisten</translation>
     </message>
     <message>
         <source>call a method and print its result</source>
         <translation>eine Methode aufrufen und ihr Ergebnis ausgeben</translation>
     </message>
     <message>
-        <source>SERVICE is supplyd, m4, printqd, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
-        <translation>SERVICE ist supplyd, m4, printqd, eine Zahl oder ein Name, den list ausgibt. Argumente für Textparameter werden übernommen, wie sie sind, alle anderen als JSON gelesen.</translation>
+        <source>SERVICE is supplyd, m4, printqd, status, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
+        <translation>SERVICE ist supplyd, m4, printqd, status, eine Zahl oder ein Name, den list ausgibt. Argumente für Textparameter werden übernommen, wie sie sind, alle anderen als JSON gelesen.</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -533,6 +533,38 @@
     <message>
         <source>what follows is not an option</source>
         <translation>was folgt, ist keine Option</translation>
+    </message>
+    <message>
+        <source>print a line of JSON for each emission of the signals, or of all signals, until interrupted</source>
+        <translation>für jede Aussendung der Signale oder aller Signale eine Zeile JSON ausgeben, bis zur Unterbrechung</translation>
+    </message>
+    <message>
+        <source>watch for SECONDS only</source>
+        <translation>nur SECONDS Sekunden lang beobachten</translation>
+    </message>
+    <message>
+        <source>--for takes a number of seconds</source>
+        <translation>--for erwartet eine Anzahl von Sekunden</translation>
+    </message>
+    <message>
+        <source>%1 takes no --for</source>
+        <translation>%1 erwartet kein --for</translation>
+    </message>
+    <message>
+        <source>a SERVICE and SIGNALs</source>
+        <translation>einen SERVICE und SIGNAL-Namen</translation>
+    </message>
+    <message>
+        <source>%1: it has no signals</source>
+        <translation>%1: Er hat keine Signale</translation>
+    </message>
+    <message>
+        <source>%1: the connection ended; waiting for the endpoint</source>
+        <translation>%1: Die Verbindung ist beendet; es wird auf den Endpunkt gewartet</translation>
+    </message>
+    <message>
+        <source>%1: watching again; what changed meanwhile was missed</source>
+        <translation>%1: Die Beobachtung läuft wieder; was sich inzwischen geändert hat, fehlt</translation>
     </message>
     <message>
         <source>--timeout takes a number of milliseconds</source>

@@ -463,8 +463,8 @@
         <translation> o </translation>
     </message>
     <message>
-        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, a number or a name printed by list</source>
-        <translation>servizio sconosciuto &quot;%1&quot;; previsto supplyd, m4, printqd, un numero o un nome mostrato da list</translation>
+        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, status, a number or a name printed by list</source>
+        <translation>servizio sconosciuto &quot;%1&quot;; previsto supplyd, m4, printqd, status, un numero o un nome mostrato da list</translation>
     </message>
     <message>
         <source>no arguments</source>
@@ -479,8 +479,8 @@
         <translation>un SERVICE, un METHOD e i suoi argomenti</translation>
     </message>
     <message>
-        <source>expected list, describe or call</source>
-        <translation>previsto list, describe o call</translation>
+        <source>expected list, describe, call or watch</source>
+        <translation>previsto list, describe, call o watch</translation>
     </message>
     <message>
         <source>unknown command &quot;%1&quot;; %2</source>
@@ -503,16 +503,16 @@
         <translation>elencare gli endpoint: nome, servizio, processo, applicazione</translation>
     </message>
     <message>
-        <source>list the methods of an endpoint</source>
-        <translation>elencare i metodi di un endpoint</translation>
+        <source>list the methods and signals of an endpoint</source>
+        <translation>elencare i metodi e i segnali di un endpoint</translation>
     </message>
     <message>
         <source>call a method and print its result</source>
         <translation>chiamare un metodo e mostrarne il risultato</translation>
     </message>
     <message>
-        <source>SERVICE is supplyd, m4, printqd, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
-        <translation>SERVICE è supplyd, m4, printqd, un numero o un nome mostrato da list. Gli argomenti per parametri di testo sono presi così come sono, tutti gli altri sono letti come JSON.</translation>
+        <source>SERVICE is supplyd, m4, printqd, status, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
+        <translation>SERVICE è supplyd, m4, printqd, status, un numero o un nome mostrato da list. Gli argomenti per parametri di testo sono presi così come sono, tutti gli altri sono letti come JSON.</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -533,6 +533,38 @@
     <message>
         <source>what follows is not an option</source>
         <translation>ciò che segue non è un’opzione</translation>
+    </message>
+    <message>
+        <source>print a line of JSON for each emission of the signals, or of all signals, until interrupted</source>
+        <translation>mostrare una riga JSON per ogni emissione dei segnali, o di tutti i segnali, fino all’interruzione</translation>
+    </message>
+    <message>
+        <source>watch for SECONDS only</source>
+        <translation>osservare solo per SECONDS secondi</translation>
+    </message>
+    <message>
+        <source>--for takes a number of seconds</source>
+        <translation>--for richiede un numero di secondi</translation>
+    </message>
+    <message>
+        <source>%1 takes no --for</source>
+        <translation>%1 non accetta --for</translation>
+    </message>
+    <message>
+        <source>a SERVICE and SIGNALs</source>
+        <translation>un SERVICE e nomi SIGNAL</translation>
+    </message>
+    <message>
+        <source>%1: it has no signals</source>
+        <translation>%1: non ha segnali</translation>
+    </message>
+    <message>
+        <source>%1: the connection ended; waiting for the endpoint</source>
+        <translation>%1: la connessione è terminata; in attesa dell’endpoint</translation>
+    </message>
+    <message>
+        <source>%1: watching again; what changed meanwhile was missed</source>
+        <translation>%1: l’osservazione riprende; i cambiamenti avvenuti nel frattempo mancano</translation>
     </message>
     <message>
         <source>--timeout takes a number of milliseconds</source>

@@ -463,8 +463,8 @@
         <translation> 或 </translation>
     </message>
     <message>
-        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, a number or a name printed by list</source>
-        <translation>未知服务“%1”；应为 supplyd、m4、printqd、编号或 list 输出的名称</translation>
+        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, status, a number or a name printed by list</source>
+        <translation>未知服务“%1”；应为 supplyd、m4、printqd、status、编号或 list 输出的名称</translation>
     </message>
     <message>
         <source>no arguments</source>
@@ -479,8 +479,8 @@
         <translation>一个 SERVICE、一个 METHOD 及其参数</translation>
     </message>
     <message>
-        <source>expected list, describe or call</source>
-        <translation>应为 list、describe 或 call</translation>
+        <source>expected list, describe, call or watch</source>
+        <translation>应为 list、describe、call 或 watch</translation>
     </message>
     <message>
         <source>unknown command &quot;%1&quot;; %2</source>
@@ -503,16 +503,16 @@
         <translation>列出端点：名称、服务、进程、应用程序</translation>
     </message>
     <message>
-        <source>list the methods of an endpoint</source>
-        <translation>列出端点的方法</translation>
+        <source>list the methods and signals of an endpoint</source>
+        <translation>列出端点的方法和信号</translation>
     </message>
     <message>
         <source>call a method and print its result</source>
         <translation>调用方法并输出结果</translation>
     </message>
     <message>
-        <source>SERVICE is supplyd, m4, printqd, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
-        <translation>SERVICE 是 supplyd、m4、printqd、一个编号，或 list 输出的名称。文本参数按原样使用，其他参数按 JSON 读取。</translation>
+        <source>SERVICE is supplyd, m4, printqd, status, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
+        <translation>SERVICE 是 supplyd、m4、printqd、status、一个编号，或 list 输出的名称。文本参数按原样使用，其他参数按 JSON 读取。</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -533,6 +533,38 @@
     <message>
         <source>what follows is not an option</source>
         <translation>其后内容不是选项</translation>
+    </message>
+    <message>
+        <source>print a line of JSON for each emission of the signals, or of all signals, until interrupted</source>
+        <translation>每当所列信号（未列出时为所有信号）发出时输出一行 JSON，直到被中断</translation>
+    </message>
+    <message>
+        <source>watch for SECONDS only</source>
+        <translation>只监视 SECONDS 秒</translation>
+    </message>
+    <message>
+        <source>--for takes a number of seconds</source>
+        <translation>--for 需要一个秒数</translation>
+    </message>
+    <message>
+        <source>%1 takes no --for</source>
+        <translation>%1 不接受 --for</translation>
+    </message>
+    <message>
+        <source>a SERVICE and SIGNALs</source>
+        <translation>一个 SERVICE 和若干 SIGNAL</translation>
+    </message>
+    <message>
+        <source>%1: it has no signals</source>
+        <translation>%1：没有信号</translation>
+    </message>
+    <message>
+        <source>%1: the connection ended; waiting for the endpoint</source>
+        <translation>%1：连接已结束；正在等待端点</translation>
+    </message>
+    <message>
+        <source>%1: watching again; what changed meanwhile was missed</source>
+        <translation>%1：已恢复监视；期间的变化未显示</translation>
     </message>
     <message>
         <source>--timeout takes a number of milliseconds</source>

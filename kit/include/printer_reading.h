@@ -59,7 +59,7 @@ struct VX_KIT_EXPORT Level
     QString identifier;
     /// The stock-keeping unit. Empty unless the state is `Loaded`, as are the next four.
     QString sku;
-    /// A name for people in the application's language, such as "Yellow Vinyl".
+    /// A name for people in the application's language, such as "Vinyl, Yellow".
     QString name;
     /// The material of a supply or the type of a ribbon.
     QString material;
@@ -82,6 +82,9 @@ struct VX_KIT_EXPORT Level
     /// The raw value that the driver publishes.
     std::optional<quint32> mileage;
     MileageUnit mileageUnit = MileageUnit::Millimeters;
+
+    /// What is left in whole percents, rounded down, as in the library's record.
+    std::optional<int> percentage() const;
 
     bool operator==(const Level&) const = default;
 };
@@ -244,6 +247,10 @@ public:
 
 private:
     struct Data;
+    template <typename Value>
+    void set(Value Data::*member, const Value& value);
+    void setOwnLevel(Slot slot, const Level& level);
+
     QSharedDataPointer<Data> d;
 };
 Q_DECLARE_OPERATORS_FOR_FLAGS(PrinterReading::Fields)

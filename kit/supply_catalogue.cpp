@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "supply_catalogue.h"
+
+#include "printer_types.h"
+#include "vx_ipc_supplyd_controller.h"
+
+#include <vxsupplydatabase.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QSet>
+
+#include <algorithm>
+
+namespace VxKit {
+
+namespace {
+
+/// Items are dropped and queried again when a fleet uses more kinds than this.
+constexpr qsizetype mostItems = 1024;
+/// More panels than any ribbon has.
+constexpr int mostPanels = 64;
+
+/// Unknown numbers of the service are negative.
+double knownLength(double inches)
+{
+    return inches > 0.0 ? inches : 0.0;
+}
+
+/// A 0xRRGGBB number as "#rrggbb".
+QString hexOf(int rgb)
+{
+    return QStringLiteral("#%1").arg(static_cast<uint>(rgb) & 0xFFFFFFU, 6, 16, QLatin1Char('0'));
+}
+
+/// A comma between the parts, which is right in every language: "Vinyl, Yellow".
+QString joined(QStringList parts)
+{
+    parts.removeAll(QString());
+    return parts.join(QLatin1String(", "));
+}
+
+CatalogueItem supplyItem(const QString& sku, VXIPCSUPPLYDController& service)
+{
+    const SupplyInformation record = service.supplyInformationBySKUs(sku, {}, {});
+    CatalogueItem item;
+    item.sku = sku;
+    item.material = record.materialName;
+    item.colorName = record.colorName;
+    QStringList colorNames{record.colorName, record.secColorName};
+    colorNames.removeAll(QString());
+    item.name = joined({record.materialName, colorNames.join(QLatin1Char('/'))});
+    for (const int rgb : {record.colorRGB, record.secColorRGB}) {
+        if (rgb >= 0)
+            item.colors.append(hexOf(rgb));
+    }
+    item.length = knownLength(record.supplyLength);
+    static const QSet<QString> formatsWithLabels{QStringLiteral("die-cut"),
+                                                 QStringLiteral("sleeve"), QStringLiteral("tag")};
+    // Without the separator's width the distance of two labels is not known.
+    if (formatsWithLabels.contains(record.formatType) && record.nonContinuousLength > 0.0F &&
+        record.separatorWidth >= 0.0F)
+        item.pitch = double(record.nonContinuousLength) + double(record.separatorWidth);
+    item.labelsSideBySide = std::max(1, record.multiUpCount);
+    return item;
+}
+
+CatalogueItem ribbonItem(const QString& sku, VXIPCSUPPLYDController& service)
+{
+    CatalogueItem item;
+    item.sku = sku;
+    item.material = service.supplyRibbonType(sku);
+    QStringList colorNames;
+    const int panels = std::min(service.supplyRibbonPanels(sku), mostPanels);
+    for (int panel = 1; panel <= panels; ++panel) {
+        const int rgb = service.supplyRibbonColorRGB(sku, panel);
+        if (rgb >= 0)
+            item.colors.append(hexOf(rgb));
+        colorNames.append(service.supplyRibbonColorName(sku, panel));
+    }
+    colorNames.removeAll(QString());
+    item.colorName = colorNames.value(0);
+    item.name = joined({item.material, colorNames.join(QLatin1Char('/'))});
+    item.length = knownLength(static_cast<float>(service.supplyRibbonLength(sku)));
+    return item;
+}
+
+CatalogueItemPointer found(QHash<QString, CatalogueItemPointer>& items, const QString& sku,
+                           VXIPCSUPPLYDController& service,
+                           CatalogueItem (*query)(const QString&, VXIPCSUPPLYDController&))
+{
+    if (sku.isEmpty() || sku == VXPrinting::nothingLoaded)
+        return {};
+    if (items.size() > mostItems)
+        items.clear();
+    CatalogueItemPointer& item = items[sku];
+    if (!item)
+        item = std::make_shared<const CatalogueItem>(query(sku, service));
+    return item;
+}
+
+} // namespace
+
+SupplyCatalogue::SupplyCatalogue() = default;
+SupplyCatalogue::~SupplyCatalogue() = default;
+
+VXSupplyDatabase& SupplyCatalogue::database()
+{
+    if (!m_database) {
+        m_database = std::make_unique<VXSupplyDatabase>();
+        m_database->setup(QCoreApplication::applicationDirPath() + QLatin1String("/roll.db"),
+                          QStringLiteral("VXKIT_CONNECTION_NAME"));
+    }
+    return *m_database;
+}
+
+CatalogueItemPointer SupplyCatalogue::supply(const QString& identifier,
+                                             VXIPCSUPPLYDController& service)
+{
+    database().setSupplyId(identifier);
+    return found(m_supplies, database().supplySKU(), service, &supplyItem);
+}
+
+CatalogueItemPointer SupplyCatalogue::ribbon(const QString& identifier,
+                                             VXIPCSUPPLYDController& service)
+{
+    database().setRibbonIds({identifier});
+    return found(m_ribbons, database().supplyRibbonSKUs().value(0), service, &ribbonItem);
+}
+
+} // namespace VxKit
