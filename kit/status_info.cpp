@@ -9,6 +9,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QMutex>
 #include <QtCore/QMutexLocker>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QStringList>
 #include <QtCore/QTranslator>
 
@@ -400,6 +401,17 @@ const Texts& textsOf(std::size_t language)
     return *texts;
 }
 
+/// The first line of the title, without the code in brackets and the full stop at its end.
+QString shortTitleOf(const StatusInfo& info)
+{
+    static const QRegularExpression codeInBrackets(
+        QStringLiteral("\\s*[(\uff08][^(\uff08]*\\d[)\uff09]$"));
+    QString line = info.title.section(QLatin1Char('\n'), 0, 0).remove(codeInBrackets).trimmed();
+    if (line.endsWith(QLatin1Char('.')) || line.endsWith(QChar(0x3002)))
+        line.chop(1);
+    return line;
+}
+
 /// Translates into one language: a given one, or the application's.
 class Translation
 {
@@ -430,9 +442,7 @@ public:
             info.explanation = info.explanation.arg(code);
             info.remedy = info.remedy.arg(code);
         }
-        info.shortTitle = info.title.section(QLatin1Char('\n'), 0, 0).trimmed();
-        if (info.shortTitle.endsWith(QLatin1Char('.')) || info.shortTitle.endsWith(QChar(0x3002)))
-            info.shortTitle.chop(1);
+        info.shortTitle = shortTitleOf(info);
         return info;
     }
 

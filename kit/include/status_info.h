@@ -40,7 +40,8 @@ struct VX_KIT_EXPORT StatusInfo
     /// The library's title: the same text as that of `PrinterStatusController::getStatusTitle`.
     /// Some titles contain a line break.
     QString title;
-    /// The title's first line, for tables. It ends without a full stop.
+    /// The title in short, for tables: its first line, without the code that one title repeats in
+    /// brackets, and without the full stop.
     QString shortTitle;
     /// What has happened, and what is not meant by it: one to three sentences on one line.
     QString explanation;

@@ -332,6 +332,9 @@ void InstalledPackageTest::titlesAreInTheUsersLanguage()
         printsWithFleet(QStringLiteral("built-in"), "Warehouse: Bereit, ", QStringLiteral("de")));
     QVERIFY(
         printsWithFleet(QStringLiteral("built-in"), "Warehouse: Lista, ", QStringLiteral("es")));
+    // The example's own texts.
+    QVERIFY(printsWithFleet(QStringLiteral("built-in"), "aktiver Drucker: Warehouse\n",
+                            QStringLiteral("de")));
 }
 
 void InstalledPackageTest::brokenFleetIsRefused_data()
