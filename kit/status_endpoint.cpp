@@ -3,6 +3,7 @@
 #include "status_endpoint.h"
 
 #include "catalogue_list.h"
+#include "change_queue.h"
 #include "printer_readings.h"
 #include "status_info.h"
 
@@ -30,8 +31,10 @@ QString nameIn(const QJsonObject& reading)
 class StatusEndpoint::Private
 {
 public:
-    explicit Private(PrinterReadings* printerReadings)
+    Private(StatusEndpoint& endpoint, PrinterReadings* printerReadings)
         : readings(printerReadings)
+        , changes([this](const QString& name) { reportChange(name); }, &endpoint)
+        , m_endpoint(endpoint)
     {
         m_background.setMaxThreadCount(1);
         VXLocaleLanguages languages;
@@ -47,8 +50,18 @@ public:
     }
 
     const QPointer<PrinterReadings> readings;
+    ChangeQueue changes;
 
 private:
+    void reportChange(const QString& name)
+    {
+        // With many printers and nobody to tell it to, writing readings would be the only cost.
+        static const QMetaMethod signal = QMetaMethod::fromSignal(&StatusEndpoint::printerChanged);
+        if (readings && m_endpoint.isSignalConnected(signal))
+            Q_EMIT m_endpoint.printerChanged(readings->reading(name).toJson());
+    }
+
+    StatusEndpoint& m_endpoint;
     QJsonObject m_catalogue;
     /// Last, so that its destructor waits for the thread that writes the catalogue.
     QThreadPool m_background;
@@ -56,24 +69,29 @@ private:
 
 StatusEndpoint::StatusEndpoint(PrinterReadings* readings, QObject* parent)
     : VXIPCServer(serverType, parent)
-    , d(std::make_unique<Private>(readings))
+    , d(std::make_unique<Private>(*this, readings))
 {
     coalesceSignal(QByteArrayLiteral("printerChanged"), [](const QVariantList& arguments) {
         return nameIn(arguments.value(0).toJsonObject());
     });
     if (!readings)
         return;
-    connect(readings, &PrinterReadings::changed, this, [this](const QString& name) {
-        // With many printers and nobody to tell it to, writing readings would be the only cost.
-        static const QMetaMethod signal = QMetaMethod::fromSignal(&StatusEndpoint::printerChanged);
-        if (isSignalConnected(signal))
-            Q_EMIT printerChanged(d->readings->reading(name).toJson());
-    });
+    connect(readings, &PrinterReadings::changed, &d->changes, &ChangeQueue::add);
     connect(readings, &PrinterReadings::added, this, [this](const QString& name) {
+        d->changes.drop(name);
         Q_EMIT printerAdded(d->readings->reading(name).toJson());
     });
-    connect(readings, &PrinterReadings::gone, this, &StatusEndpoint::printerGone);
-    connect(readings, &PrinterReadings::renamed, this, &StatusEndpoint::printerRenamed);
+    connect(readings, &PrinterReadings::gone, this, [this](const QString& name) {
+        const QPointer<StatusEndpoint> self(this);
+        d->changes.reportNow(name);
+        if (self)
+            Q_EMIT printerGone(name);
+    });
+    connect(readings, &PrinterReadings::renamed, this,
+            [this](const QString& oldName, const QString& newName) {
+                d->changes.rename(oldName, newName);
+                Q_EMIT printerRenamed(oldName, newName);
+            });
 }
 
 StatusEndpoint::~StatusEndpoint() = default;

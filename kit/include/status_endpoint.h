@@ -79,7 +79,9 @@ public Q_SLOTS:
     QJsonObject supplies();
 
 Q_SIGNALS:
-    /// Something about a printer has changed: `reading` is all that is true of it now.
+    /// Something about a printer has changed: `reading` is all that is true of it now. Emitted from
+    /// the event loop soon after `PrinterReadings::changed`; once for several changes that follow
+    /// each other closely.
     void printerChanged(const QJsonObject& reading);
     /// There is a printer that was not known, or one is there again that was gone.
     void printerAdded(const QJsonObject& reading);

@@ -31,6 +31,9 @@ private Q_SLOTS:
     void reportsOnlyTheLatestReadingOfAPrinterToAClientThatIsLate();
     void reportsPrintersThatComeAndGo();
     void reportsARenamedPrinter();
+    void reportsWhatChangedBeforeAPrinterWasGone();
+    void reportsWhatChangedBeforeARenamingUnderTheNewName();
+    void reportsAPrinterThatReturnsOnce();
     void aClientThatSubscribesAndThenAsksEndsWithTheLatest();
     void survivesTheReadings();
     void mayBeDestroyedInASlot();
@@ -190,7 +193,7 @@ void StatusEndpointTest::reportsOnlyTheLatestReadingOfAPrinterToAClientThatIsLat
     QVERIFY(
         client.call("rpc.subscribe", R"(["printerChanged"])").contains(QStringLiteral("result")));
     // Without a return to the event loop in which the service could send anything.
-    const QSignalSpy changes(m_endpoint.get(), &StatusEndpoint::printerChanged);
+    const QSignalSpy changes(&readings(), &VxKit::PrinterReadings::changed);
     for (const char* status : {"2", "3", "4"}) {
         publishText(packing, "StatusCode", status);
         QVERIFY(machine().waitForWaitingThreads(1));
@@ -239,6 +242,58 @@ void StatusEndpointTest::reportsARenamedPrinter()
     QCOMPARE(renamed[QStringLiteral("params")],
              QJsonValue(QJsonObject{{QStringLiteral("oldName"), packing},
                                     {QStringLiteral("newName"), shipping}}));
+}
+
+void StatusEndpointTest::reportsWhatChangedBeforeAPrinterWasGone()
+{
+    QVERIFY(makeEndpoint());
+    QStringList told;
+    connect(m_endpoint.get(), &StatusEndpoint::printerChanged, this,
+            [&](const QJsonObject& reading) {
+                told.append(reading[QStringLiteral("name")].toString());
+            });
+    connect(m_endpoint.get(), &StatusEndpoint::printerGone, this,
+            [&](const QString& name) { told.append(name + QStringLiteral(" gone")); });
+    // Without a return to the event loop, so that the change still waits.
+    Q_EMIT readings().changed(packing);
+    Q_EMIT readings().gone(packing);
+    QCOMPARE(told, (QStringList{packing, QStringLiteral("Packing gone")}));
+    QCoreApplication::processEvents();
+    QCOMPARE(told.size(), 2);
+}
+
+void StatusEndpointTest::reportsWhatChangedBeforeARenamingUnderTheNewName()
+{
+    // Stands for the printer under its new name.
+    addNetworkPrinter(QStringLiteral("Far"));
+    QVERIFY(makeEndpoint());
+    QStringList told;
+    connect(m_endpoint.get(), &StatusEndpoint::printerChanged, this,
+            [&](const QJsonObject& reading) {
+                told.append(reading[QStringLiteral("name")].toString());
+            });
+    connect(m_endpoint.get(), &StatusEndpoint::printerRenamed, this,
+            [&](const QString&, const QString& newName) {
+                told.append(QStringLiteral("renamed ") + newName);
+            });
+    // Without a return to the event loop, so that the change still waits.
+    Q_EMIT readings().changed(packing);
+    Q_EMIT readings().renamed(packing, QStringLiteral("Far"));
+    QTRY_COMPARE(told.size(), 2);
+    QCOMPARE(told, (QStringList{QStringLiteral("renamed Far"), QStringLiteral("Far")}));
+}
+
+void StatusEndpointTest::reportsAPrinterThatReturnsOnce()
+{
+    QVERIFY(makeEndpoint());
+    const QSignalSpy changed(m_endpoint.get(), &StatusEndpoint::printerChanged);
+    const QSignalSpy added(m_endpoint.get(), &StatusEndpoint::printerAdded);
+    // What is added is told as it is now; the change before it is part of that.
+    Q_EMIT readings().changed(packing);
+    Q_EMIT readings().added(packing);
+    QCOMPARE(added.size(), 1);
+    QCoreApplication::processEvents();
+    QVERIFY(changed.isEmpty());
 }
 
 void StatusEndpointTest::aClientThatSubscribesAndThenAsksEndsWithTheLatest()
