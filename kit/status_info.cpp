@@ -9,6 +9,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QMutex>
 #include <QtCore/QMutexLocker>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QStringList>
 #include <QtCore/QTranslator>
 
@@ -400,6 +401,17 @@ const Texts& textsOf(std::size_t language)
     return *texts;
 }
 
+/// The first line of the title, without the code in brackets and the full stop at its end.
+QString shortTitleOf(const StatusInfo& info)
+{
+    static const QRegularExpression codeInBrackets(
+        QStringLiteral("\\s*[(\uff08][^(\uff08]*\\d[)\uff09]$"));
+    QString line = info.title.section(QLatin1Char('\n'), 0, 0).remove(codeInBrackets).trimmed();
+    if (line.endsWith(QLatin1Char('.')) || line.endsWith(QChar(0x3002)))
+        line.chop(1);
+    return line;
+}
+
 /// Translates into one language: a given one, or the application's.
 class Translation
 {
@@ -430,9 +442,7 @@ public:
             info.explanation = info.explanation.arg(code);
             info.remedy = info.remedy.arg(code);
         }
-        info.shortTitle = info.title.section(QLatin1Char('\n'), 0, 0).trimmed();
-        if (info.shortTitle.endsWith(QLatin1Char('.')) || info.shortTitle.endsWith(QChar(0x3002)))
-            info.shortTitle.chop(1);
+        info.shortTitle = shortTitleOf(info);
         return info;
     }
 
@@ -450,6 +460,12 @@ private:
 
     const Texts* m_texts = nullptr; ///< null: the application's language
 };
+
+const Entry& entryOf(int code)
+{
+    const auto* const found = std::ranges::find(entries, code, &Entry::code);
+    return found == entries.end() ? unlisted : *found;
+}
 
 } // namespace
 
@@ -476,6 +492,16 @@ QJsonObject StatusInfo::toJson() const
     };
 }
 
+Severity statusSeverity(int code)
+{
+    return entryOf(code).severity;
+}
+
+QString statusKey(int code)
+{
+    return QString::fromLatin1(entryOf(code).key);
+}
+
 StatusInfo statusInfo(int code)
 {
     return statusInfo(code, QString());
@@ -483,8 +509,7 @@ StatusInfo statusInfo(int code)
 
 StatusInfo statusInfo(int code, const QString& language)
 {
-    const auto* const found = std::ranges::find(entries, code, &Entry::code);
-    return Translation(language).info(code, found == entries.end() ? unlisted : *found);
+    return Translation(language).info(code, entryOf(code));
 }
 
 QList<StatusInfo> allStatusInfo(const QString& language)

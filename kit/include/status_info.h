@@ -40,7 +40,8 @@ struct VX_KIT_EXPORT StatusInfo
     /// The library's title: the same text as that of `PrinterStatusController::getStatusTitle`.
     /// Some titles contain a line break.
     QString title;
-    /// The title's first line, for tables. It ends without a full stop.
+    /// The title in short, for tables: its first line, without the code that one title repeats in
+    /// brackets, and without the full stop.
     QString shortTitle;
     /// What has happened, and what is not meant by it: one to three sentences on one line.
     QString explanation;
@@ -87,6 +88,10 @@ VX_KIT_EXPORT StatusInfo statusInfo(int code);
 /// A language is loaded when it is first asked for and then stays loaded. May be called on any
 /// thread.
 VX_KIT_EXPORT StatusInfo statusInfo(int code, const QString& language);
+
+/// The severity and the key that `statusInfo` gives a status code, without making its texts.
+VX_KIT_EXPORT Severity statusSeverity(int code);
+VX_KIT_EXPORT QString statusKey(int code);
 
 /// All codes that have an entry of their own, in ascending order: those of
 /// `VXPrinting::StatusCodes` and the faults that the printers report. `language` is meant as in

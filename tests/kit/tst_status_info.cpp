@@ -247,13 +247,16 @@ void StatusInfoTest::shortTitlesAreOneLine()
     QCOMPARE(statusInfo(256, english).title,
              QStringLiteral("Printer Is Remotely Connected.\nUnable to retrieve printer info."));
     QCOMPARE(statusInfo(256, english).shortTitle, QStringLiteral("Printer Is Remotely Connected"));
+    QCOMPARE(statusInfo(255, english).shortTitle,
+             QStringLiteral("Unable To Retrieve Printer Info"));
+    QCOMPARE(statusInfo(255, QStringLiteral("zh-CN")).shortTitle,
+             QStringLiteral("无法获取打印机信息"));
     QCOMPARE(statusInfo(258, english).shortTitle, QStringLiteral("Printer Is Not Managed"));
     QCOMPARE(statusInfo(2, english).shortTitle, QStringLiteral("The printer is out of labels"));
     for (const QString& tag : tags) {
         for (const StatusInfo& info : allStatusInfo(tag)) {
             QVERIFY(!info.shortTitle.contains(QLatin1Char('\n')));
             QVERIFY(info.title.startsWith(info.shortTitle));
-            // The code stands in brackets behind the sentence.
             QVERIFY2(!endsASentence(info.shortTitle), qPrintable(info.shortTitle));
         }
     }
