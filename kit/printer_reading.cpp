@@ -190,6 +190,11 @@ int PrinterReading::statusCode() const
     return d->statusCode;
 }
 
+StatusInfo PrinterReading::statusInfo() const
+{
+    return VxKit::statusInfo(d->statusCode);
+}
+
 bool PrinterReading::isOnline() const
 {
     return d->online;

@@ -301,6 +301,8 @@ QJsonObject PrinterReading::toJson() const
         {QStringLiteral("goneSince"), timeOrNull(goneSince())},
         {QStringLiteral("watching"), wordOf(watchings, watching())},
         {QStringLiteral("statusCode"), statusCode()},
+        {QStringLiteral("statusKey"), statusKey(statusCode())},
+        {QStringLiteral("severity"), severityKey(statusSeverity(statusCode()))},
         {QStringLiteral("online"), isOnline()},
         {QStringLiteral("active"), isActive()},
         {QStringLiteral("firmwareVersion"), textOrNull(firmwareVersion())},
@@ -337,6 +339,7 @@ std::optional<PrinterReading> PrinterReading::fromJson(const QJsonObject& json, 
     if (!code)
         members.reject("statusCode", "is null");
     reading.setStatusCode(code.value_or(VXPrinting::StatusCodes::unknown));
+    // The key and the severity follow from the code.
     reading.setOnline(members.flag("online"));
     reading.setActive(members.flag("active"));
     reading.setFirmwareVersion(members.text("firmwareVersion"));

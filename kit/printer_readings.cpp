@@ -48,16 +48,7 @@ constexpr std::size_t indexOf(Slot slot)
 
 bool isError(int statusCode)
 {
-    switch (statusCode) {
-    case StatusCodes::disconnected:
-    case StatusCodes::ready:
-    case 19:
-    case 21:
-    case 23:
-        return false;
-    default:
-        return statusCode < StatusCodes::spoolerDown || statusCode > StatusCodes::notManaged;
-    }
+    return statusSeverity(statusCode) == Severity::Error;
 }
 
 /// A status as the driver publishes it, by the controller's rules.
@@ -90,10 +81,14 @@ struct Watch
     /// not the one that is listed under that name.
     Reading* reading = nullptr;
 
-    /// The status code of a report that this object has yet to receive itself.
+    /// The status code of the report that this object receives next.
     std::optional<int> interpretedCode;
-    /// How many such codes are still to come for reports that this object has received already.
-    int codesToIgnore = 0;
+    /// Whether the codes of the controller belong to reports that the thread sent before this
+    /// object was connected to it.
+    bool isNew = true;
+    /// Whether each code has arrived before its report. It has not when a slot of the host runs an
+    /// event loop in the controller's signal.
+    bool isInStep = true;
 };
 
 /// One reading, and what it is made of.
@@ -190,8 +185,7 @@ private:
     Reading* beginReport(Watch& watch);
     void endReport(Reading& reading);
     void onName(Watch& watch, const QString& name);
-    static std::optional<int> takeInterpretedCode(Watch& watch);
-    void onStatus(Reading& reading, const QString& text, std::optional<int> interpretedCode);
+    void onStatus(Reading& reading, const QString& text);
 
     // Values
     void setStatus(Reading& reading, int code, bool isOnline);
@@ -338,12 +332,14 @@ void PrinterReadings::Private::onValue(Watch& watch, Value kind, const QString& 
     Reading* const reading = beginReport(watch);
     if (kind == Value::PrinterName && controller)
         onName(watch, text);
-    const auto code = kind == Value::Status ? takeInterpretedCode(watch) : std::nullopt;
-    if (!reading)
+    if (!reading) {
+        if (kind == Value::Status)
+            watch.interpretedCode.reset();
         return;
+    }
     switch (kind) {
     case Value::Status:
-        onStatus(*reading, text, code);
+        onStatus(*reading, text);
         break;
     case Value::SupplyId:
         setIdentifier(*reading, Slot::Supply, text);
@@ -397,33 +393,26 @@ void PrinterReadings::Private::onStatusSignal(int code, const QString& name)
         return;
     }
     Watch& watch = *found->second;
-    if (watch.codesToIgnore > 0)
-        --watch.codesToIgnore;
-    else
+    if (!watch.isNew)
         watch.interpretedCode = code;
 }
 
-std::optional<int> PrinterReadings::Private::takeInterpretedCode(Watch& watch)
-{
-    // A slot of the host may run an event loop in the controller's signal, before the code has
-    // arrived here.
-    if (!watch.interpretedCode)
-        ++watch.codesToIgnore;
-    return std::exchange(watch.interpretedCode, std::nullopt);
-}
-
-void PrinterReadings::Private::onStatus(Reading& reading, const QString& text,
-                                        std::optional<int> interpretedCode)
+void PrinterReadings::Private::onStatus(Reading& reading, const QString& text)
 {
     // Only what may mean "offline" needs the controller's interpretation. Every other code is in
     // its record as it was published, and the printer counts as online.
+    Watch& watch = *reading.watch;
     const Published published = publishedStatus(text);
+    const auto interpreted = std::exchange(watch.interpretedCode, std::nullopt);
+    const bool isOffline = published.mayBeOffline && interpreted == StatusCodes::offline;
+    watch.isInStep = watch.isInStep && (isOffline || interpreted == published.code);
     if (!published.mayBeOffline) {
         setStatus(reading, published.code, true);
-    } else if (interpretedCode == published.code || interpretedCode == StatusCodes::offline) {
-        setStatus(reading, *interpretedCode, interpretedCode != StatusCodes::offline);
+    } else if (watch.isInStep) {
+        setStatus(reading, *interpreted, !isOffline);
     } else {
-        const Recorded recorded = recordsOf(*controller).value(reading.watch->monitoredName);
+        // Looking a printer up among all records takes too long to do it for every report.
+        const Recorded recorded = recordsOf(*controller).value(watch.monitoredName);
         setStatus(reading, recorded.statusCode, recorded.isOnline);
     }
     // What changes while the spooler is down is not reported afterwards if it was read before.
@@ -573,12 +562,25 @@ void PrinterReadings::Private::refresh()
 
 void PrinterReadings::Private::watchAll(const QList<ListedPrinter>& listed)
 {
+    bool isAnyNew = false;
     for (const ListedPrinter& printer : listed) {
         if (watches.contains(printer.name))
             continue;
-        if (PrinterStatusThread* const thread = controller->statusThread(printer.name))
+        if (PrinterStatusThread* const thread = controller->statusThread(printer.name)) {
             startWatching(*thread, printer.name);
+            isAnyNew = true;
+        }
     }
+    if (!isAnyNew)
+        return;
+    // Delivered after the reports that only the controller receives, and before all others.
+    QMetaObject::invokeMethod(
+        &q,
+        [this] {
+            for (const auto& [name, watch] : watches)
+                watch->isNew = false;
+        },
+        Qt::QueuedConnection);
 }
 
 void PrinterReadings::Private::renameAll(const QHash<QString, const ListedPrinter*>& listed)

@@ -461,6 +461,12 @@ private:
     const Texts* m_texts = nullptr; ///< null: the application's language
 };
 
+const Entry& entryOf(int code)
+{
+    const auto* const found = std::ranges::find(entries, code, &Entry::code);
+    return found == entries.end() ? unlisted : *found;
+}
+
 } // namespace
 
 QString severityKey(Severity severity)
@@ -486,6 +492,16 @@ QJsonObject StatusInfo::toJson() const
     };
 }
 
+Severity statusSeverity(int code)
+{
+    return entryOf(code).severity;
+}
+
+QString statusKey(int code)
+{
+    return QString::fromLatin1(entryOf(code).key);
+}
+
 StatusInfo statusInfo(int code)
 {
     return statusInfo(code, QString());
@@ -493,8 +509,7 @@ StatusInfo statusInfo(int code)
 
 StatusInfo statusInfo(int code, const QString& language)
 {
-    const auto* const found = std::ranges::find(entries, code, &Entry::code);
-    return Translation(language).info(code, found == entries.end() ? unlisted : *found);
+    return Translation(language).info(code, entryOf(code));
 }
 
 QList<StatusInfo> allStatusInfo(const QString& language)

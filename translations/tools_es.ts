@@ -504,7 +504,7 @@
     </message>
     <message>
         <source>list the methods and signals of an endpoint</source>
-        <translation>enumerar los métodos y las señales de un punto de acceso</translation>
+        <translation>enumerar los métodos y las señales de un punto de conexión</translation>
     </message>
     <message>
         <source>call a method and print its result</source>
@@ -560,7 +560,7 @@
     </message>
     <message>
         <source>%1: the connection ended; waiting for the endpoint</source>
-        <translation>%1: la conexión ha terminado; se espera al punto de acceso</translation>
+        <translation>%1: la conexión ha terminado; se espera al punto de conexión</translation>
     </message>
     <message>
         <source>%1: watching again; what changed meanwhile was missed</source>

@@ -544,7 +544,7 @@
     </message>
     <message>
         <source>--for takes a number of seconds</source>
-        <translation>--for には秒数が必要です</translation>
+        <translation>--for には秒数を指定します</translation>
     </message>
     <message>
         <source>%1 takes no --for</source>

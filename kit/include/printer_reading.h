@@ -4,6 +4,7 @@
 
 #include "printer_types.h"
 #include "status_codes.h"
+#include "status_info.h"
 #include "vxprinterstatuskit_export.h"
 
 #include <QtCore/QDateTime>
@@ -184,10 +185,13 @@ public:
     QDateTime goneSince() const;
     Watching watching() const;
 
-    /// The status code: one of `VXPrinting::StatusCodes` or the driver's error code; `statusInfo()`
-    /// explains it. `disconnected` for a printer that is gone, `offline` for one that has been
+    /// The status code: one of `VXPrinting::StatusCodes` or the driver's error code.
+    /// `disconnected` for a printer that is gone, `offline` for one that has been
     /// offline since it was found, `unknown` for a watched printer that has not reported yet.
     int statusCode() const;
+    /// What the status code means, how much it matters and what to do, in the application's
+    /// language.
+    StatusInfo statusInfo() const;
     /// Whether the printer is present and not offline.
     bool isOnline() const;
     /// Whether it is the active printer, see `PrinterStatusController::activeDefaultPrinter()`.

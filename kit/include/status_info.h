@@ -89,6 +89,10 @@ VX_KIT_EXPORT StatusInfo statusInfo(int code);
 /// thread.
 VX_KIT_EXPORT StatusInfo statusInfo(int code, const QString& language);
 
+/// The severity and the key that `statusInfo` gives a status code, without making its texts.
+VX_KIT_EXPORT Severity statusSeverity(int code);
+VX_KIT_EXPORT QString statusKey(int code);
+
 /// All codes that have an entry of their own, in ascending order: those of
 /// `VXPrinting::StatusCodes` and the faults that the printers report. `language` is meant as in
 /// `statusInfo`.
