@@ -33,6 +33,12 @@ using VxKit::Slot;
 static QTextStream out(stdout);
 static int outputError = 0; // errno of the first failed write
 
+/// The host's own texts. KitHost::tr() translates one.
+struct KitHost
+{
+    Q_DECLARE_TR_FUNCTIONS(KitHost)
+};
+
 static void keepLog(const QString& fileName)
 {
     auto* console = new ConsoleAppender;
@@ -56,36 +62,46 @@ static QString describe(const Level& level)
 {
     switch (level.state) {
     case Level::State::NotKnown:
-        return QCoreApplication::translate("main", "not known");
+        return KitHost::tr("not known");
     case Level::State::Empty:
-        return QCoreApplication::translate("main", "empty");
+        return KitHost::tr("empty");
     case Level::State::NotInCatalogue:
-        return QCoreApplication::translate("main", "%1, not in the catalogue")
-            .arg(level.identifier);
+        return KitHost::tr("%1, not in the catalogue").arg(level.identifier);
     case Level::State::Loaded:
         break;
     }
     // How much is left may not be known, which is something else than nothing.
     const QLocale locale;
     if (level.labels)
-        return QCoreApplication::translate("main", "%1, %n label(s)", nullptr, *level.labels)
-            .arg(level.name);
+        return KitHost::tr("%1, %n label(s)", nullptr, *level.labels).arg(level.name);
     if (level.meters)
-        return QCoreApplication::translate("main", "%1, %2 m")
-            .arg(level.name, locale.toString(*level.meters, 'f', 1));
+        return KitHost::tr("%1, %2 m").arg(level.name, locale.toString(*level.meters, 'f', 1));
     return level.name;
+}
+
+static QString titleOf(Slot slot)
+{
+    switch (slot) {
+    case Slot::Supply:
+        return KitHost::tr("supply");
+    case Slot::Ribbon1:
+        return KitHost::tr("ribbon 1");
+    case Slot::Ribbon2:
+        break;
+    }
+    return KitHost::tr("ribbon 2");
 }
 
 static void print(const PrinterReading& printer)
 {
     out << printer.name() << ": ";
     if (printer.presence() == PrinterReading::Presence::Gone)
-        out << QCoreApplication::translate("main", "removed from Windows");
+        out << KitHost::tr("removed from Windows");
     else
         out << VxKit::statusInfo(printer.statusCode()).shortTitle;
     const QList<Slot> slotsOfPrinter = printer.slotList();
     for (const Slot slot : slotsOfPrinter)
-        out << "; " << VxKit::slotName(slot) << ' ' << describe(printer.level(slot));
+        out << "; " << titleOf(slot) << ' ' << describe(printer.level(slot));
     out << Qt::endl;
     if (out.status() != QTextStream::Ok && outputError == 0) {
         outputError = errno;
@@ -96,6 +112,10 @@ static void print(const PrinterReading& printer)
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
+    loadTexts("vxprinterstatus");
+    loadTexts("vxprinterstatuskit");
+    loadTexts("kit_host");
+
     QStringList arguments = QCoreApplication::arguments().mid(1);
     QString logFile;
     if (arguments.size() > 1 && arguments.first() == "--log") {
@@ -105,12 +125,10 @@ int main(int argc, char* argv[])
     bool readable = true;
     const int seconds = arguments.isEmpty() ? 0 : arguments.first().toInt(&readable);
     if (!readable || seconds < 0) {
-        QTextStream(stderr) << "kit_host: expected a number of seconds\n";
+        QTextStream(stderr) << "kit_host: " << KitHost::tr("expected a number of seconds") << '\n';
         return 2;
     }
     keepLog(logFile);
-    loadTexts("vxprinterstatus");
-    loadTexts("vxprinterstatuskit");
 
     PrinterStatusController controller;
     VxKit::PrinterReadings readings(&controller);
@@ -138,7 +156,9 @@ int main(int argc, char* argv[])
     // A reader that closes the pipe has read all it wants, so that is no error.
     if (outputError == 0 || outputError == EPIPE)
         return 0;
-    QTextStream(stderr) << "kit_host: standard output could not be written: "
-                        << std::strerror(outputError) << '\n';
+    QTextStream(stderr) << "kit_host: "
+                        << KitHost::tr("standard output could not be written: %1")
+                               .arg(QString::fromLocal8Bit(std::strerror(outputError)))
+                        << '\n';
     return 1;
 }

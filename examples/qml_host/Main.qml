@@ -28,6 +28,8 @@ Rectangle {
         required property var labels
 
         function amount() {
+            if (labels === 1)
+                return qsTr("1 label")
             if (labels !== undefined)
                 return qsTr("%1 labels").arg(Number(labels).toLocaleString(Qt.locale(), "f", 0))
             if (meters !== undefined)

@@ -6,7 +6,7 @@
 // Usage: qml_host [--log FILE]
 //
 // Each example is complete, so that you can copy it: all of them contain keepLog and the lines that
-// load the titles.
+// load the texts.
 #include <ConsoleAppender.h>
 #include <FileAppender.h>
 #include <Logger.h>
@@ -31,15 +31,22 @@ static void keepLog(const QString& fileName)
     Logger::globalInstance()->registerAppender(file);
 }
 
+static void loadTexts(const QString& name)
+{
+    auto* texts = new QTranslator(qApp);
+    if (texts->load(QLocale(), name, "_", ":/" + name + "/translations"))
+        QCoreApplication::installTranslator(texts);
+}
+
 int main(int argc, char* argv[])
 {
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     keepLog(arguments.value(1) == "--log" ? arguments.value(2) : QString());
 
-    QTranslator titles;
-    if (titles.load(QLocale(), "vxprinterstatus", "_", ":/vxprinterstatus/translations"))
-        QCoreApplication::installTranslator(&titles);
+    loadTexts("vxprinterstatus");
+    loadTexts("vxprinterstatuskit");
+    loadTexts("qml_host");
 
     PrinterStatusController controller;
     VxKit::PrinterReadings readings(&controller);
@@ -52,7 +59,7 @@ int main(int argc, char* argv[])
     QQuickView view;
     view.setInitialProperties({{"printers", QVariant::fromValue(&printers)}});
     view.setResizeMode(QQuickView::SizeRootObjectToView);
-    view.setTitle(QCoreApplication::translate("main", "Label printers"));
+    view.setTitle(QCoreApplication::translate("Main", "Label printers"));
     view.setSource(QUrl("qrc:/Main.qml"));
     if (view.status() == QQuickView::Error)
         return 1;
