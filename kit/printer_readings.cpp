@@ -376,8 +376,12 @@ void PrinterReadings::Private::onRibbons(Watch& watch, const QStringList& identi
     Reading* const reading = beginReport(watch);
     if (!reading)
         return;
-    setIdentifier(*reading, Slot::Ribbon1, identifiers.value(0));
-    setIdentifier(*reading, Slot::Ribbon2, identifiers.value(1));
+    // Both are reported when one has changed.
+    for (const Slot slot : {Slot::Ribbon1, Slot::Ribbon2}) {
+        const QString identifier = identifiers.value(slot == Slot::Ribbon1 ? 0 : 1);
+        if (identifier != reading->slotValues[indexOf(slot)].identifier)
+            setIdentifier(*reading, slot, identifier);
+    }
     endReport(*reading);
 }
 
