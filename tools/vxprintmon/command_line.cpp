@@ -32,11 +32,15 @@ constexpr Option virtualOption{"virtual", "FILE", "use the virtual printers that
 constexpr Option speedOption{"speed", "FACTOR",
                              "watch: speed up the virtual printers' story by FACTOR",
                              CommandOption::Speed};
+constexpr Option waitOption{
+    "wait", "", "send: wait until the job was printed or has left the queue", CommandOption::Wait};
+constexpr Option forceOption{"force", "", "send: also to a printer of another maker, also nothing",
+                             CommandOption::Force};
 constexpr Option helpOption{"help", "", "print this help"};
 constexpr Option versionOption{"version", "", "print the version"};
 
-constexpr std::array options{jsonOption,  forOption,  logOption,    virtualOption,
-                             speedOption, helpOption, versionOption};
+constexpr std::array options{jsonOption, forOption,   logOption,  virtualOption, speedOption,
+                             waitOption, forceOption, helpOption, versionOption};
 
 constexpr char helpBegin[] = R"(Usage: vxprintmon COMMAND [OPTION]...
 
@@ -211,6 +215,8 @@ CommandLine parseCommandLine(const QStringList& arguments)
                 QStringLiteral("--%1 is valid only with %2")
                     .arg(QString::fromLatin1(option.name), commandNames(option.required)));
     }
+    line.wait = given.has(waitOption);
+    line.force = given.has(forceOption);
     line.seconds = given.positiveNumber(forOption);
     line.speed = given.positiveNumber(speedOption).value_or(line.speed);
     return line;

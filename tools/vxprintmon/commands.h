@@ -16,6 +16,8 @@ enum class CommandOption
 {
     For = 1,
     Speed = 2,
+    Wait = 4,
+    Force = 8,
 };
 Q_DECLARE_FLAGS(CommandOptions, CommandOption)
 
