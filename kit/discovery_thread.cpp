@@ -72,6 +72,7 @@ bool DiscoveryThread::waitForChange(Milliseconds time)
     const std::array handles{m_notification.get()};
     if (!m_isEnding && m_wakeUp.wait(time, handles).why == Waited::Why::Failed) {
         stopWatching(); // a handle that cannot be waited for is of no use
+        m_ticksToNextTry = longestPause;
         return rest(time);
     }
     return !m_isEnding;

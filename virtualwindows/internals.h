@@ -115,6 +115,8 @@ struct Printer
     QMap<QByteArray, Value> values; ///< by lower-case name, because registry names ignore case
     QList<PrintJob> jobs;
 
+    DWORD writeLimit = 0xFFFFFFFF; ///< in bytes a call
+
     // The job that is being printed.
     quint32 jobInPrint = 0; ///< 0: none
     bool isMoving = false;  ///< it is not held, and is done at the time `jobDone`

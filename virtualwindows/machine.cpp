@@ -246,6 +246,12 @@ void Machine::setPrintingTime(const QString& name, std::chrono::milliseconds tim
     existing(*d, name).setup.printingTime = time;
 }
 
+void Machine::limitWrites(const QString& name, quint32 bytes)
+{
+    const std::lock_guard guard(d->lock);
+    existing(*d, name).writeLimit = bytes;
+}
+
 QStringList Machine::printers() const
 {
     const std::lock_guard guard(d->lock);

@@ -113,9 +113,9 @@ BOOL WINAPI WritePrinter(HANDLE hPrinter, LPVOID pBuf, DWORD cbBuf, LPDWORD pcWr
                           // The spooler also passes on bytes outside of a page.
                           if (job.pages.isEmpty())
                               job.pages.append(QByteArray());
+                          *pcWritten = std::min(cbBuf, handle.printer->writeLimit);
                           job.pages.last().append(static_cast<const char*>(pBuf),
-                                                  static_cast<qsizetype>(cbBuf));
-                          *pcWritten = cbBuf;
+                                                  static_cast<qsizetype>(*pcWritten));
                           machine().notify(handle.printer.get(), PRINTER_CHANGE_WRITE_JOB);
                           return true;
                       });

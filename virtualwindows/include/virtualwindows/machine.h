@@ -131,6 +131,9 @@ public:
     /// How long the printer's jobs take to print, from the next one that starts. Machine time: it
     /// passes in advance() while the time is driven.
     void setPrintingTime(const QString& printer, std::chrono::milliseconds time);
+    /// How many bytes of each call of WritePrinter the printer's queue takes. The call succeeds
+    /// nevertheless and reports that number.
+    void limitWrites(const QString& printer, quint32 bytes);
 
     // The service "Spooler". In any state but SERVICE_RUNNING (4), all printer handles and change
     // notifications become invalid.
