@@ -887,10 +887,6 @@
         <translation>Druckauftrag %1, „%2“: %3, Seiten: %4, Byte: %5.</translation>
     </message>
     <message>
-        <source>the command was not sent to &quot;%1&quot;: %2</source>
-        <translation>der Befehl wurde nicht an „%1“ gesendet: %2</translation>
-    </message>
-    <message>
         <source>Sent to %1: %2</source>
         <translation>An %1 gesendet: %2</translation>
     </message>
@@ -917,6 +913,34 @@
     <message>
         <source>title takes a status code or --all, found nothing</source>
         <translation>title erwartet einen Statuscode oder --all, nichts gefunden</translation>
+    </message>
+    <message>
+        <source>send: wait until the job was printed or has left the queue</source>
+        <translation>send: warten, bis der Auftrag gedruckt ist oder die Warteschlange verlassen hat</translation>
+    </message>
+    <message>
+        <source>send: also to a printer of another maker, also nothing</source>
+        <translation>send: auch an Drucker anderer Hersteller, auch leere Befehle</translation>
+    </message>
+    <message>
+        <source>Print job %1, bytes: %2.</source>
+        <translation>Druckauftrag %1, Byte: %2.</translation>
+    </message>
+    <message>
+        <source>interrupted while print job %1 was in the queue of &quot;%2&quot;</source>
+        <translation>unterbrochen, während der Druckauftrag %1 in der Druckwarteschlange von „%2“ war</translation>
+    </message>
+    <message>
+        <source>--force sends it nevertheless.</source>
+        <translation>--force sendet ihn trotzdem.</translation>
+    </message>
+    <message>
+        <source>the command was not sent: %1</source>
+        <translation>der Befehl wurde nicht gesendet: %1</translation>
+    </message>
+    <message>
+        <source>print job %1 was not printed: %2</source>
+        <translation>der Druckauftrag %1 wurde nicht gedruckt: %2</translation>
     </message>
 </context>
 </TS>

@@ -887,10 +887,6 @@
         <translation>Print job %1, &quot;%2&quot;: %3, pages: %4, bytes: %5.</translation>
     </message>
     <message>
-        <source>the command was not sent to &quot;%1&quot;: %2</source>
-        <translation>the command was not sent to &quot;%1&quot;: %2</translation>
-    </message>
-    <message>
         <source>Sent to %1: %2</source>
         <translation>Sent to %1: %2</translation>
     </message>
@@ -917,6 +913,34 @@
     <message>
         <source>title takes a status code or --all, found nothing</source>
         <translation>title takes a status code or --all, found nothing</translation>
+    </message>
+    <message>
+        <source>send: wait until the job was printed or has left the queue</source>
+        <translation>send: wait until the job was printed or has left the queue</translation>
+    </message>
+    <message>
+        <source>send: also to a printer of another maker, also nothing</source>
+        <translation>send: also to a printer of another maker, also nothing</translation>
+    </message>
+    <message>
+        <source>Print job %1, bytes: %2.</source>
+        <translation>Print job %1, bytes: %2.</translation>
+    </message>
+    <message>
+        <source>interrupted while print job %1 was in the queue of &quot;%2&quot;</source>
+        <translation>interrupted while print job %1 was in the queue of &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>--force sends it nevertheless.</source>
+        <translation>--force sends it nevertheless.</translation>
+    </message>
+    <message>
+        <source>the command was not sent: %1</source>
+        <translation>the command was not sent: %1</translation>
+    </message>
+    <message>
+        <source>print job %1 was not printed: %2</source>
+        <translation>print job %1 was not printed: %2</translation>
     </message>
 </context>
 </TS>

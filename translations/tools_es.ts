@@ -887,10 +887,6 @@
         <translation>Trabajo de impresión %1, «%2»: %3, páginas: %4, bytes: %5.</translation>
     </message>
     <message>
-        <source>the command was not sent to &quot;%1&quot;: %2</source>
-        <translation>el comando no se envió a «%1»: %2</translation>
-    </message>
-    <message>
         <source>Sent to %1: %2</source>
         <translation>Enviado a %1: %2</translation>
     </message>
@@ -917,6 +913,34 @@
     <message>
         <source>title takes a status code or --all, found nothing</source>
         <translation>title espera un código de estado o --all; no se encontró nada</translation>
+    </message>
+    <message>
+        <source>send: wait until the job was printed or has left the queue</source>
+        <translation>send: esperar hasta que el trabajo se imprima o salga de la cola</translation>
+    </message>
+    <message>
+        <source>send: also to a printer of another maker, also nothing</source>
+        <translation>send: también a impresoras de otros fabricantes y comandos vacíos</translation>
+    </message>
+    <message>
+        <source>Print job %1, bytes: %2.</source>
+        <translation>Trabajo de impresión %1, bytes: %2.</translation>
+    </message>
+    <message>
+        <source>interrupted while print job %1 was in the queue of &quot;%2&quot;</source>
+        <translation>interrumpido mientras el trabajo de impresión %1 estaba en la cola de «%2»</translation>
+    </message>
+    <message>
+        <source>--force sends it nevertheless.</source>
+        <translation>--force lo envía de todos modos.</translation>
+    </message>
+    <message>
+        <source>the command was not sent: %1</source>
+        <translation>el comando no se envió: %1</translation>
+    </message>
+    <message>
+        <source>print job %1 was not printed: %2</source>
+        <translation>el trabajo de impresión %1 no se imprimió: %2</translation>
     </message>
 </context>
 </TS>

@@ -887,10 +887,6 @@
         <translation>Travail d’impression %1, « %2 » : %3, pages : %4, octets : %5.</translation>
     </message>
     <message>
-        <source>the command was not sent to &quot;%1&quot;: %2</source>
-        <translation>la commande n’a pas été envoyée à « %1 » : %2</translation>
-    </message>
-    <message>
         <source>Sent to %1: %2</source>
         <translation>Envoyé à %1 : %2</translation>
     </message>
@@ -917,6 +913,34 @@
     <message>
         <source>title takes a status code or --all, found nothing</source>
         <translation>title attend un code d’état ou --all, rien trouvé</translation>
+    </message>
+    <message>
+        <source>send: wait until the job was printed or has left the queue</source>
+        <translation>send : attendre que le travail soit imprimé ou ait quitté la file d’attente</translation>
+    </message>
+    <message>
+        <source>send: also to a printer of another maker, also nothing</source>
+        <translation>send : aussi à une imprimante d’un autre fabricant, aussi une commande vide</translation>
+    </message>
+    <message>
+        <source>Print job %1, bytes: %2.</source>
+        <translation>Travail d’impression %1, octets : %2.</translation>
+    </message>
+    <message>
+        <source>interrupted while print job %1 was in the queue of &quot;%2&quot;</source>
+        <translation>interrompu alors que le travail d’impression %1 était dans la file d’attente de « %2 »</translation>
+    </message>
+    <message>
+        <source>--force sends it nevertheless.</source>
+        <translation>--force l’envoie quand même.</translation>
+    </message>
+    <message>
+        <source>the command was not sent: %1</source>
+        <translation>la commande n’a pas été envoyée : %1</translation>
+    </message>
+    <message>
+        <source>print job %1 was not printed: %2</source>
+        <translation>le travail d’impression %1 n’a pas été imprimé : %2</translation>
     </message>
 </context>
 </TS>

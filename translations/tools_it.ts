@@ -887,10 +887,6 @@
         <translation>Lavoro di stampa %1, &quot;%2&quot;: %3, pagine: %4, byte: %5.</translation>
     </message>
     <message>
-        <source>the command was not sent to &quot;%1&quot;: %2</source>
-        <translation>il comando non è stato inviato a &quot;%1&quot;: %2</translation>
-    </message>
-    <message>
         <source>Sent to %1: %2</source>
         <translation>Inviato a %1: %2</translation>
     </message>
@@ -917,6 +913,34 @@
     <message>
         <source>title takes a status code or --all, found nothing</source>
         <translation>title richiede un codice di stato o --all, non è stato trovato nulla</translation>
+    </message>
+    <message>
+        <source>send: wait until the job was printed or has left the queue</source>
+        <translation>send: attendere che il lavoro sia stampato o abbia lasciato la coda</translation>
+    </message>
+    <message>
+        <source>send: also to a printer of another maker, also nothing</source>
+        <translation>send: anche a stampanti di altri produttori, anche comandi vuoti</translation>
+    </message>
+    <message>
+        <source>Print job %1, bytes: %2.</source>
+        <translation>Lavoro di stampa %1, byte: %2.</translation>
+    </message>
+    <message>
+        <source>interrupted while print job %1 was in the queue of &quot;%2&quot;</source>
+        <translation>interrotto mentre il lavoro di stampa %1 era nella coda di &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>--force sends it nevertheless.</source>
+        <translation>--force lo invia comunque.</translation>
+    </message>
+    <message>
+        <source>the command was not sent: %1</source>
+        <translation>il comando non è stato inviato: %1</translation>
+    </message>
+    <message>
+        <source>print job %1 was not printed: %2</source>
+        <translation>il lavoro di stampa %1 non è stato stampato: %2</translation>
     </message>
 </context>
 </TS>

@@ -887,10 +887,6 @@
         <translation>印刷ジョブ %1、「%2」: %3、ページ数: %4、バイト数: %5。</translation>
     </message>
     <message>
-        <source>the command was not sent to &quot;%1&quot;: %2</source>
-        <translation>コマンドは「%1」に送信されませんでした: %2</translation>
-    </message>
-    <message>
         <source>Sent to %1: %2</source>
         <translation>%1 に送信しました: %2</translation>
     </message>
@@ -917,6 +913,34 @@
     <message>
         <source>title takes a status code or --all, found nothing</source>
         <translation>title には状態コードまたは --all を指定します。何も指定されていません</translation>
+    </message>
+    <message>
+        <source>send: wait until the job was printed or has left the queue</source>
+        <translation>send: ジョブが印刷されるか、キューからなくなるまで待つ</translation>
+    </message>
+    <message>
+        <source>send: also to a printer of another maker, also nothing</source>
+        <translation>send: 他社のプリンターにも、空のコマンドも送信する</translation>
+    </message>
+    <message>
+        <source>Print job %1, bytes: %2.</source>
+        <translation>印刷ジョブ %1、バイト数: %2。</translation>
+    </message>
+    <message>
+        <source>interrupted while print job %1 was in the queue of &quot;%2&quot;</source>
+        <translation>印刷ジョブ %1 が「%2」のキューにある間に中断されました</translation>
+    </message>
+    <message>
+        <source>--force sends it nevertheless.</source>
+        <translation>--force を使うと送信されます。</translation>
+    </message>
+    <message>
+        <source>the command was not sent: %1</source>
+        <translation>コマンドは送信されませんでした: %1</translation>
+    </message>
+    <message>
+        <source>print job %1 was not printed: %2</source>
+        <translation>印刷ジョブ %1 は印刷されませんでした: %2</translation>
     </message>
 </context>
 </TS>

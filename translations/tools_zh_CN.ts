@@ -887,10 +887,6 @@
         <translation>打印作业 %1，“%2”：%3，页数：%4，字节数：%5。</translation>
     </message>
     <message>
-        <source>the command was not sent to &quot;%1&quot;: %2</source>
-        <translation>命令未发送到“%1”：%2</translation>
-    </message>
-    <message>
         <source>Sent to %1: %2</source>
         <translation>已发送到 %1：%2</translation>
     </message>
@@ -917,6 +913,34 @@
     <message>
         <source>title takes a status code or --all, found nothing</source>
         <translation>title 需要一个状态代码或 --all，实际为无</translation>
+    </message>
+    <message>
+        <source>send: wait until the job was printed or has left the queue</source>
+        <translation>send：等待作业打印完成或离开队列</translation>
+    </message>
+    <message>
+        <source>send: also to a printer of another maker, also nothing</source>
+        <translation>send：也发送到其他厂商的打印机，也发送空命令</translation>
+    </message>
+    <message>
+        <source>Print job %1, bytes: %2.</source>
+        <translation>打印作业 %1，字节数：%2。</translation>
+    </message>
+    <message>
+        <source>interrupted while print job %1 was in the queue of &quot;%2&quot;</source>
+        <translation>打印作业 %1 还在“%2”的队列中时被中断</translation>
+    </message>
+    <message>
+        <source>--force sends it nevertheless.</source>
+        <translation>使用 --force 仍会发送。</translation>
+    </message>
+    <message>
+        <source>the command was not sent: %1</source>
+        <translation>命令未发送：%1</translation>
+    </message>
+    <message>
+        <source>print job %1 was not printed: %2</source>
+        <translation>打印作业 %1 未打印：%2</translation>
     </message>
 </context>
 </TS>

@@ -20,8 +20,9 @@ constexpr auto turnTime = 250us;
 /// Parsing a line up to here takes about a turn.
 constexpr qsizetype shortLine = qsizetype{16} << 10;
 constexpr qsizetype readChunk = qsizetype{64} << 10;
-/// How many bytes of notifications are sent at a time. What a client does not take at once, its socket
-/// sends later, outside of the turns, and so may the sockets of all clients at the same time.
+/// How many bytes of notifications are sent at a time. What a client does not take at once, its
+/// socket sends later, outside of the turns, and so may the sockets of all clients at the same
+/// time.
 constexpr qsizetype notificationChunk = qsizetype{16} << 10;
 /// How long a refused client has to read the answer that says so, and to disconnect.
 constexpr auto farewell = 1s;

@@ -312,10 +312,10 @@ void VxPrintMonTest::statusPrintsATable()
     QCOMPARE(result.exitStatus, 0);
     QCOMPARE(result.errors, QByteArray());
     const QByteArray expected =
-        R"(PRINTER        STATUS                          SUPPLY              RIBBON 1     RIBBON 2     FIRMWARE        ACTIVE
-Branch Office  Printer Is Remotely Connected.  -                   -            -            -               
-Shipping       Ready                           Yellow Vinyl, 80 %  Black, 80 %  Red, 35 %    4.2.0,boot 1.7  
-Warehouse      Ready                           White Paper, 82 %   Blue, 3 %    Black, 57 %  4.1.3,boot 1.7  yes
+        R"(PRINTER        STATUS                         SUPPLY              RIBBON 1     RIBBON 2     FIRMWARE        ACTIVE
+Branch Office  Printer Is Remotely Connected  -                   -            -            -               
+Shipping       Ready                          Yellow Vinyl, 80 %  Black, 80 %  Red, 35 %    4.2.0,boot 1.7  
+Warehouse      Ready                          White Paper, 82 %   Blue, 3 %    Black, 57 %  4.1.3,boot 1.7  yes
 )";
     QCOMPARE(result.output, expected);
 }
@@ -818,7 +818,7 @@ void VxPrintMonTest::watchPrintsSignalsAndChangesAsText()
                  QByteArray("records: ribbon 1 Blue (RS-43-BL), ribbon 1 left 0 % → 100 %, "
                             "ribbon 1 left 100 % → 99 %"),
                  "A printer comes.",
-                 "Quill  found    Printer Is Remotely Connected.",
+                 "Quill  found    Printer Is Remotely Connected",
                  "The lid is closed.",
                  "       errors   no printer is in error",
                  "P      status     1  Ready",
