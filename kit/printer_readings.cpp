@@ -22,6 +22,7 @@
 #include <array>
 #include <map>
 #include <tuple>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -197,15 +198,15 @@ private:
     void readSnapshot(Reading& reading, const Recorded& recorded);
 
     // The list of printers
-    void watchAll(const QList<ListedPrinter>& listed);
-    bool waitsForName(Reading& reading, const QList<ListedPrinter>& listed);
-    void renameAll(const QHash<QString, const ListedPrinter*>& listed);
-    void applyListing(const QList<ListedPrinter>& listed,
-                      const QHash<QString, const ListedPrinter*>& byName);
-    void describe(Reading& reading, const ListedPrinter& printer);
+    void watchAll(const QList<SpooledPrinter>& listed);
+    bool waitsForName(Reading& reading, const QList<SpooledPrinter>& listed);
+    void renameAll(const QHash<QString, const SpooledPrinter*>& listed);
+    void applyListing(const QList<SpooledPrinter>& listed,
+                      const QHash<QString, const SpooledPrinter*>& byName);
+    void describe(Reading& reading, const SpooledPrinter& printer);
     void markGone(Reading& reading);
-    void assignWatches(const QHash<QString, const ListedPrinter*>& listed);
-    void assignWatch(Reading& reading, const ListedPrinter& printer, Watch* watch,
+    void assignWatches(const QHash<QString, const SpooledPrinter*>& listed);
+    void assignWatch(Reading& reading, const SpooledPrinter& printer, Watch* watch,
                      const QHash<QString, Recorded>& records);
     void scheduleRefresh();
     void scheduleActiveCheck();
@@ -216,16 +217,16 @@ private:
     void reportErrors();
     void emitEvents();
 
-    SupplyCatalogue catalogue;
-    std::map<QString, std::unique_ptr<Watch>> watches;
-    QQueue<Event> events;
-    QTimer nameTimer;
-    QString controllersActiveName;
-    int reportedErrorCount = 0;
-    bool isRefreshScheduled = false;
-    bool isRefreshOwed = false;
-    bool isActiveCheckScheduled = false;
-    bool hasWaitedForNames = false;
+    SupplyCatalogue m_catalogue;
+    std::unordered_map<QString, std::unique_ptr<Watch>> m_watches;
+    QQueue<Event> m_events;
+    QTimer m_nameTimer;
+    QString m_controllersActiveName;
+    int m_reportedErrorCount = 0;
+    bool m_isRefreshScheduled = false;
+    bool m_isRefreshOwed = false;
+    bool m_isActiveCheckScheduled = false;
+    bool m_hasWaitedForNames = false;
 };
 
 PrinterReadings::Private::Private(PrinterReadings& readingsObject,
@@ -235,10 +236,10 @@ PrinterReadings::Private::Private(PrinterReadings& readingsObject,
 {
     if (!controller)
         return;
-    nameTimer.setSingleShot(true);
-    nameTimer.setInterval(patienceForName);
-    connect(&nameTimer, &QTimer::timeout, &q, [this] {
-        hasWaitedForNames = true;
+    m_nameTimer.setSingleShot(true);
+    m_nameTimer.setInterval(patienceForName);
+    connect(&m_nameTimer, &QTimer::timeout, &q, [this] {
+        m_hasWaitedForNames = true;
         refresh();
     });
     connect(controller, &PrinterStatusController::statusChangedSignal, &q,
@@ -247,7 +248,7 @@ PrinterReadings::Private::Private(PrinterReadings& readingsObject,
             [this] { scheduleActiveCheck(); });
     refresh();
     // Nobody can be connected yet.
-    events.clear();
+    m_events.clear();
 }
 
 bool PrinterReadings::Private::isOnOwnThread(const char* member) const
@@ -271,7 +272,7 @@ Reading* PrinterReadings::Private::find(const QString& name) const
 
 void PrinterReadings::Private::startWatching(PrinterStatusThread& thread, const QString& name)
 {
-    std::unique_ptr<Watch>& entry = watches[name];
+    std::unique_ptr<Watch>& entry = m_watches[name];
     entry = std::make_unique<Watch>();
     entry->monitoredName = name;
     entry->currentName = name;
@@ -307,7 +308,7 @@ Reading* PrinterReadings::Private::beginReport(Watch& watch)
 {
     if (!controller)
         return nullptr;
-    if (isRefreshOwed)
+    if (m_isRefreshOwed)
         scheduleRefresh();
     Reading* const reading = watch.reading;
     if (!reading)
@@ -321,7 +322,7 @@ void PrinterReadings::Private::endReport(Reading& reading)
     // A printer whose values could not be read is read again as soon as it reports.
     if (reading.isSnapshotOwed && reading.value.statusCode() != StatusCodes::spoolerDown)
         readSnapshot(reading, recordsOf(*controller).value(reading.watch->monitoredName));
-    events.enqueue({Event::Kind::Changed, reading.name(), {}});
+    m_events.enqueue({Event::Kind::Changed, reading.name(), {}});
     checkActive(false);
     reportErrors();
     emitEvents();
@@ -387,8 +388,8 @@ void PrinterReadings::Private::onRibbons(Watch& watch, const QStringList& identi
 
 void PrinterReadings::Private::onStatusSignal(int code, const QString& name)
 {
-    const auto found = watches.find(name);
-    if (found == watches.end()) {
+    const auto found = m_watches.find(name);
+    if (found == m_watches.end()) {
         // The controller has found a printer since the list was read, or watches one that was only
         // listed before.
         const Reading* const reading = find(name);
@@ -452,8 +453,8 @@ void PrinterReadings::Private::setIdentifier(Reading& reading, Slot slot, const 
     values.item.reset();
     if (reading.value.hasSlot(slot) && stateOf(slot, identifier) == Level::State::Loaded) {
         VXIPCSUPPLYDController& service = *controller->getSupplyIdController();
-        values.item = slot == Slot::Supply ? catalogue.supply(identifier, service)
-                                           : catalogue.ribbon(identifier, service);
+        values.item = slot == Slot::Supply ? m_catalogue.supply(identifier, service)
+                                           : m_catalogue.ribbon(identifier, service);
     }
     setLevel(reading, slot);
 }
@@ -531,12 +532,12 @@ void PrinterReadings::Private::readSnapshot(Reading& reading, const Recorded& re
 
 void PrinterReadings::Private::scheduleRefresh()
 {
-    if (std::exchange(isRefreshScheduled, true))
+    if (std::exchange(m_isRefreshScheduled, true))
         return;
     QMetaObject::invokeMethod(
         &q,
         [this] {
-            isRefreshScheduled = false;
+            m_isRefreshScheduled = false;
             if (controller)
                 refresh();
         },
@@ -548,11 +549,11 @@ void PrinterReadings::Private::refresh()
     // A spooler that does not answer says nothing about the printers. The list is read again when
     // one of them reports.
     const auto listed = listPrinters();
-    isRefreshOwed = !listed;
+    m_isRefreshOwed = !listed;
     if (listed) {
-        QHash<QString, const ListedPrinter*> byName;
+        QHash<QString, const SpooledPrinter*> byName;
         byName.reserve(listed->size());
-        for (const ListedPrinter& printer : *listed)
+        for (const SpooledPrinter& printer : *listed)
             byName.insert(printer.name, &printer);
 
         watchAll(*listed);
@@ -564,11 +565,11 @@ void PrinterReadings::Private::refresh()
     emitEvents();
 }
 
-void PrinterReadings::Private::watchAll(const QList<ListedPrinter>& listed)
+void PrinterReadings::Private::watchAll(const QList<SpooledPrinter>& listed)
 {
     bool isAnyNew = false;
-    for (const ListedPrinter& printer : listed) {
-        if (watches.contains(printer.name))
+    for (const SpooledPrinter& printer : listed) {
+        if (m_watches.contains(printer.name))
             continue;
         if (PrinterStatusThread* const thread = controller->statusThread(printer.name)) {
             startWatching(*thread, printer.name);
@@ -581,15 +582,15 @@ void PrinterReadings::Private::watchAll(const QList<ListedPrinter>& listed)
     QMetaObject::invokeMethod(
         &q,
         [this] {
-            for (const auto& [name, watch] : watches)
+            for (const auto& [name, watch] : m_watches)
                 watch->isNew = false;
         },
         Qt::QueuedConnection);
 }
 
-void PrinterReadings::Private::renameAll(const QHash<QString, const ListedPrinter*>& listed)
+void PrinterReadings::Private::renameAll(const QHash<QString, const SpooledPrinter*>& listed)
 {
-    for (const auto& [monitoredName, watch] : watches) {
+    for (const auto& [monitoredName, watch] : m_watches) {
         Reading* const reading = watch->reading;
         if (!reading || watch->currentName.isEmpty() || watch->currentName == reading->name())
             continue;
@@ -603,22 +604,22 @@ void PrinterReadings::Private::renameAll(const QHash<QString, const ListedPrinte
         node.key() = newName;
         reading->value.setName(newName);
         readings.insert(std::move(node));
-        events.enqueue({Event::Kind::Renamed, oldName, newName});
+        m_events.enqueue({Event::Kind::Renamed, oldName, newName});
     }
 }
 
-bool PrinterReadings::Private::waitsForName(Reading& reading, const QList<ListedPrinter>& listed)
+bool PrinterReadings::Private::waitsForName(Reading& reading, const QList<SpooledPrinter>& listed)
 {
-    if (hasWaitedForNames || !reading.watch || reading.watch->currentName != reading.name())
+    if (m_hasWaitedForNames || !reading.watch || reading.watch->currentName != reading.name())
         return false;
-    return std::ranges::any_of(listed, [&](const ListedPrinter& printer) {
+    return std::ranges::any_of(listed, [&](const SpooledPrinter& printer) {
         return printer.driver == reading.value.driver() && printer.port == reading.value.port() &&
                !readings.contains(printer.name);
     });
 }
 
-void PrinterReadings::Private::applyListing(const QList<ListedPrinter>& listed,
-                                            const QHash<QString, const ListedPrinter*>& byName)
+void PrinterReadings::Private::applyListing(const QList<SpooledPrinter>& listed,
+                                            const QHash<QString, const SpooledPrinter*>& byName)
 {
     std::map<QString, PrinterReading> before;
     for (const auto& [name, reading] : readings)
@@ -636,11 +637,11 @@ void PrinterReadings::Private::applyListing(const QList<ListedPrinter>& listed,
             markGone(*reading);
     }
     if (missing.empty())
-        nameTimer.stop();
-    else if (!nameTimer.isActive())
-        nameTimer.start();
-    hasWaitedForNames = false;
-    const auto maybeRenamed = [&](const ListedPrinter& printer) {
+        m_nameTimer.stop();
+    else if (!m_nameTimer.isActive())
+        m_nameTimer.start();
+    m_hasWaitedForNames = false;
+    const auto maybeRenamed = [&](const SpooledPrinter& printer) {
         return std::ranges::any_of(missing, [&](const Reading* reading) {
             return printer.driver == reading->value.driver() &&
                    printer.port == reading->value.port();
@@ -648,7 +649,7 @@ void PrinterReadings::Private::applyListing(const QList<ListedPrinter>& listed,
     };
 
     QStringList added;
-    for (const ListedPrinter& printer : listed) {
+    for (const SpooledPrinter& printer : listed) {
         std::unique_ptr<Reading>* reading = nullptr;
         if (const auto found = readings.find(printer.name); found != readings.end()) {
             reading = &found->second;
@@ -669,15 +670,15 @@ void PrinterReadings::Private::applyListing(const QList<ListedPrinter>& listed,
         if (old == before.end() || added.contains(name))
             continue;
         if (old->second.presence() == Presence::Present && !reading->isPresent())
-            events.enqueue({Event::Kind::Gone, name, {}});
+            m_events.enqueue({Event::Kind::Gone, name, {}});
         else if (!(old->second == reading->value))
-            events.enqueue({Event::Kind::Changed, name, {}});
+            m_events.enqueue({Event::Kind::Changed, name, {}});
     }
     for (const QString& name : std::as_const(added))
-        events.enqueue({Event::Kind::Added, name, {}});
+        m_events.enqueue({Event::Kind::Added, name, {}});
 }
 
-void PrinterReadings::Private::describe(Reading& reading, const ListedPrinter& printer)
+void PrinterReadings::Private::describe(Reading& reading, const SpooledPrinter& printer)
 {
     PrinterReading& value = reading.value;
     const bool isNew = value.isNull();
@@ -709,10 +710,10 @@ void PrinterReadings::Private::markGone(Reading& reading)
     setStatus(reading, StatusCodes::disconnected, false);
 }
 
-void PrinterReadings::Private::assignWatches(const QHash<QString, const ListedPrinter*>& listed)
+void PrinterReadings::Private::assignWatches(const QHash<QString, const SpooledPrinter*>& listed)
 {
     QHash<QString, Watch*> byCurrentName;
-    for (const auto& [monitoredName, watch] : watches) {
+    for (const auto& [monitoredName, watch] : m_watches) {
         if (watch->currentName.isEmpty())
             continue;
         // Of two threads for a printer that was renamed, the one that was started for its new name.
@@ -722,12 +723,12 @@ void PrinterReadings::Private::assignWatches(const QHash<QString, const ListedPr
     }
     const QHash<QString, Recorded> records = recordsOf(*controller);
     for (const auto& [name, reading] : readings) {
-        if (const ListedPrinter* const printer = listed.value(name))
+        if (const SpooledPrinter* const printer = listed.value(name))
             assignWatch(*reading, *printer, byCurrentName.value(name), records);
     }
 }
 
-void PrinterReadings::Private::assignWatch(Reading& reading, const ListedPrinter& printer,
+void PrinterReadings::Private::assignWatch(Reading& reading, const SpooledPrinter& printer,
                                            Watch* watch, const QHash<QString, Recorded>& records)
 {
     if (watch && watch == reading.watch)
@@ -749,7 +750,7 @@ void PrinterReadings::Private::assignWatch(Reading& reading, const ListedPrinter
     const auto recorded = records.constFind(printer.name);
     Watching watching = Watching::NotDiscovered;
     int code = StatusCodes::unknown;
-    if (watches.contains(printer.name)) {
+    if (m_watches.contains(printer.name)) {
         watching = Watching::Replaced;
     } else if (recorded == records.constEnd()) {
         if (printer.isOffline) {
@@ -774,8 +775,8 @@ Reading* PrinterReadings::Private::activeReading(const QString& name) const
     if (name.isEmpty())
         return nullptr;
     // The controller knows a renamed printer by its old name.
-    const auto found = watches.find(name);
-    if (found != watches.end() && found->second->reading)
+    const auto found = m_watches.find(name);
+    if (found != m_watches.end() && found->second->reading)
         return found->second->reading;
     return find(name);
 }
@@ -783,36 +784,38 @@ Reading* PrinterReadings::Private::activeReading(const QString& name) const
 void PrinterReadings::Private::checkActive(bool mayHaveOtherName)
 {
     const QString name = controller->activeDefaultPrinter();
-    if (!mayHaveOtherName && name == controllersActiveName)
+    if (!mayHaveOtherName && name == m_controllersActiveName)
         return;
-    controllersActiveName = name;
+    m_controllersActiveName = name;
 
+    const auto isReported = [this](const QString& reported) {
+        return std::ranges::any_of(std::as_const(m_events), [&](const Event& event) {
+            return (event.kind == Event::Kind::Changed || event.kind == Event::Kind::Added) &&
+                   event.name == reported;
+        });
+    };
     const Reading* const active = activeReading(name);
     for (const auto& [readingName, reading] : readings) {
         const bool isActive = reading.get() == active;
         if (reading->value.isActive() == isActive)
             continue;
         reading->value.setActive(isActive);
-        const bool isReported = std::ranges::any_of(std::as_const(events), [&](const Event& event) {
-            return (event.kind == Event::Kind::Changed || event.kind == Event::Kind::Added) &&
-                   event.name == reading->name();
-        });
-        if (!isReported)
-            events.enqueue({Event::Kind::Changed, readingName, {}});
+        if (!isReported(readingName))
+            m_events.enqueue({Event::Kind::Changed, readingName, {}});
     }
     const QString nameOfReading = active ? active->name() : name;
     if (std::exchange(activeName, nameOfReading) != nameOfReading)
-        events.enqueue({Event::Kind::ActivePrinter, nameOfReading, {}});
+        m_events.enqueue({Event::Kind::ActivePrinter, nameOfReading, {}});
 }
 
 void PrinterReadings::Private::scheduleActiveCheck()
 {
-    if (std::exchange(isActiveCheckScheduled, true))
+    if (std::exchange(m_isActiveCheckScheduled, true))
         return;
     QMetaObject::invokeMethod(
         &q,
         [this] {
-            isActiveCheckScheduled = false;
+            m_isActiveCheckScheduled = false;
             if (!controller)
                 return;
             checkActive(false);
@@ -823,12 +826,12 @@ void PrinterReadings::Private::scheduleActiveCheck()
 
 void PrinterReadings::Private::reportErrors()
 {
-    const int before = std::exchange(reportedErrorCount, errorCount);
+    const int before = std::exchange(m_reportedErrorCount, errorCount);
     if (before == errorCount)
         return;
     if ((before > 0) != (errorCount > 0))
-        events.enqueue({Event::Kind::InError, {}, {}, errorCount});
-    events.enqueue({Event::Kind::PrintersInError, {}, {}, errorCount});
+        m_events.enqueue({Event::Kind::InError, {}, {}, errorCount});
+    m_events.enqueue({Event::Kind::PrintersInError, {}, {}, errorCount});
 }
 
 void PrinterReadings::Private::emitEvents()
@@ -836,8 +839,8 @@ void PrinterReadings::Private::emitEvents()
     // A slot may run an event loop, in which further reports arrive, or destroy this object. The
     // order of the events stays the same: the innermost call emits the oldest first.
     const QPointer<PrinterReadings> guard(&q);
-    while (guard && !events.isEmpty()) {
-        const Event event = events.dequeue();
+    while (guard && !m_events.isEmpty()) {
+        const Event event = m_events.dequeue();
         switch (event.kind) {
         case Event::Kind::Added:
             Q_EMIT q.added(event.name);

@@ -59,13 +59,13 @@ std::optional<unsigned short> usbPort(const QString& portName)
 
 } // namespace
 
-std::optional<QList<ListedPrinter>> listPrinters()
+std::optional<QList<SpooledPrinter>> listPrinters()
 {
     const auto ports = portsOfPrinters();
     if (!ports)
         return std::nullopt;
     if (ports->isEmpty())
-        return QList<ListedPrinter>();
+        return QList<SpooledPrinter>();
 
     QList<AvailablePrinters> all;
     try {
@@ -78,14 +78,14 @@ std::optional<QList<ListedPrinter>> listPrinters()
         return std::nullopt;
 
     std::optional<QHash<unsigned short, QString>> serialNumbers;
-    QList<ListedPrinter> listed;
+    QList<SpooledPrinter> listed;
     listed.reserve(all.size());
     for (const AvailablePrinters& printer : std::as_const(all)) {
         const auto model = WindowsPrinterInfo::printerType(printer.driverName);
         if (static_cast<int>(model) <= lastUnsupportedType)
             continue;
-        ListedPrinter entry{printer.printerName, model, printer.driverName,
-                            printer.portName,    {},    printer.isOffline};
+        SpooledPrinter entry{printer.printerName, model, printer.driverName,
+                             printer.portName,    {},    printer.isOffline};
         const auto port = usbPort(ports->value(printer.printerName));
         if (port && !printer.isNetworkPrinter) {
             if (!serialNumbers)

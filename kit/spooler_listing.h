@@ -12,7 +12,7 @@
 namespace VxKit {
 
 /// A printer of a supported model as the print spooler lists it.
-struct ListedPrinter
+struct SpooledPrinter
 {
     QString name;
     VXPrinting::PrinterType model = VXPrinting::PrinterType::Unknown;
@@ -25,6 +25,6 @@ struct ListedPrinter
 
 /// The printers of supported models that the spooler lists now, in its order. Empty without a value
 /// when the spooler does not answer, or lists a printer without a name, port or driver.
-std::optional<QList<ListedPrinter>> listPrinters();
+std::optional<QList<SpooledPrinter>> listPrinters();
 
 } // namespace VxKit

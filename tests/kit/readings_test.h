@@ -69,6 +69,15 @@ protected:
         return settleAll(count);
     }
 
+    /// Stops the spooler and starts it again, and lets the threads notice both.
+    [[nodiscard]] bool restartSpooler(int count)
+    {
+        machine().stopSpooler();
+        const bool hasStopped = pollAll(count);
+        machine().startSpooler();
+        return pollAll(count) && hasStopped;
+    }
+
     /// The signals since the last call.
     QStringList takeLines() { return std::exchange(m_lines, {}); }
     void addLine(const QString& line)

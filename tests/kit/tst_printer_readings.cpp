@@ -58,6 +58,14 @@ private Q_SLOTS:
     void printerToUse();
     void countsPrintersInError();
 
+protected Q_SLOTS:
+    void cleanup() override
+    {
+        // A failed test may have left them held.
+        releaseThreads();
+        ReadingsTest::cleanup();
+    }
+
 private:
     static inline const QString packing = QStringLiteral("Packing");
     static inline const QString shipping = QStringLiteral("Shipping");
@@ -699,10 +707,7 @@ void PrinterReadingsTest::aPrinterThatReturnsIsWatchedAfterARestart()
     QCOMPARE(reading(packing).watching(), Watching::Replaced);
     QCOMPARE(reading(packing).statusCode(), 255);
 
-    machine().stopSpooler();
-    QVERIFY(pollAll(1));
-    machine().startSpooler();
-    QVERIFY(pollAll(1));
+    QVERIFY(restartSpooler(1));
     QCOMPARE(reading(packing).watching(), Watching::Watched);
     QCOMPARE(reading(packing).statusCode(), 2);
 }
@@ -731,10 +736,7 @@ void PrinterReadingsTest::aReplacedPrinterIsWatchedAfterARestart()
     QVERIFY(settleAll(1));
     QCOMPARE(reading(packing).statusCode(), 255);
 
-    machine().stopSpooler();
-    QVERIFY(pollAll(1));
-    machine().startSpooler();
-    QVERIFY(pollAll(1));
+    QVERIFY(restartSpooler(1));
     QCOMPARE(reading(packing).watching(), Watching::Watched);
     QCOMPARE(reading(packing).statusCode(), 3);
 }
@@ -901,10 +903,7 @@ void PrinterReadingsTest::anOldNameThatIsUsedAgainIsAnotherPrinter()
     QCOMPARE(reading(shipping).statusCode(), 1);
 
     // The thread opens its printer by name again, which is now the other one.
-    machine().stopSpooler();
-    QVERIFY(pollAll(1));
-    machine().startSpooler();
-    QVERIFY(pollAll(1));
+    QVERIFY(restartSpooler(1));
     QCOMPARE(reading(packing).watching(), Watching::Watched);
     QCOMPARE(reading(packing).statusCode(), 5);
     QCOMPARE(reading(shipping).watching(), Watching::NotDiscovered);

@@ -108,17 +108,17 @@ void ReadingsOnWindowsTest::reportsEachChange()
 void ReadingsOnWindowsTest::everyPrinterOfASupportedModelHasAReading()
 {
     const QString asleep = addPrinter("Stratamark CedarMax", offlinePrinter);
-    const QString far =
+    const QString remote =
         addPrinter("Stratamark BirchMax", localPrinter, QStringLiteral("192.168.1.20"));
     const QString other = addPrinter("Some Office Printer");
-    QVERIFY(!asleep.isEmpty() && !far.isEmpty() && !other.isEmpty());
+    QVERIFY(!asleep.isEmpty() && !remote.isEmpty() && !other.isEmpty());
     makeReadings();
     QCOMPARE(reading(asleep).watching(), Watching::OfflineSinceDiscovery);
     QCOMPARE(reading(asleep).statusCode(), 257);
-    QCOMPARE(reading(far).watching(), Watching::NetworkPrinter);
-    QCOMPARE(reading(far).statusCode(), 256);
+    QCOMPARE(reading(remote).watching(), Watching::NetworkPrinter);
+    QCOMPARE(reading(remote).statusCode(), 256);
     QVERIFY(reading(other).isNull());
-    QCOMPARE(m_readings->printerToUse(), far);
+    QCOMPARE(m_readings->printerToUse(), remote);
 }
 
 void ReadingsOnWindowsTest::printersComeAndGo()
