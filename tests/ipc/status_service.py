@@ -28,7 +28,7 @@ def fleet():
             {"name": "Packing", "driver": "Stratamark BirchMax", "port": "USB001",
              "values": {"StatusCode": "1", "SupplyIdentifier": "000001F41000420000A7",
                         "Mileage": 6350}},
-            {"name": "F\u00e4r\u202e", "driver": "Stratamark CedarMax 4", "attributes": ["network"]},
+            {"name": "F\u00e4r\u202e", "driver": "Stratamark CedarMax", "attributes": ["network"]},
             visitor(),
         ],
         "defaultPrinter": "Packing",
