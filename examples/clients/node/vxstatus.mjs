@@ -139,7 +139,10 @@ export class StatusClient extends EventEmitter {
     close() {
         this.#isClosed = true;
         clearTimeout(this.#retryTimer);
-        this.#socket?.destroy();
+        const socket = this.#socket;
+        socket?.destroy();
+        // At once: a call that follows connects again.
+        this.#lose(socket, new Error('the client was closed'));
     }
 
     /**
@@ -188,7 +191,7 @@ export class StatusClient extends EventEmitter {
         let reason = 'the service has ended the connection';
         socket.on('error', error => { reason = error.message; });
         socket.on('data', bytes => this.#take(bytes));
-        socket.on('close', () => this.#lose(new Error(reason)));
+        socket.on('close', () => this.#lose(socket, new Error(reason)));
         if (this.#subscribed.size > 0) {
             try {
                 await this.#exchange('rpc.subscribe', [...this.#subscribed],
@@ -201,7 +204,9 @@ export class StatusClient extends EventEmitter {
         this.#retry = FIRST_RETRY;
     }
 
-    #lose(error) {
+    #lose(socket, error) {
+        if (socket === null || socket !== this.#socket)
+            return;
         this.#socket = null;
         for (const call of this.#calls.values())
             call.fail(error);
