@@ -41,8 +41,8 @@ using Clock = std::chrono::steady_clock;
 constexpr int printerCount = 1000;
 constexpr double memoryLimit = 8.0; // KiB per printer
 constexpr double changedLimit = 1.15;
-constexpr int blocks = 16;
-constexpr int samplesPerBlock = 15;
+constexpr int blocks = 60;
+constexpr int samplesPerBlock = 20;
 constexpr int startLimit = 60000; // milliseconds
 // Long enough for the threads to be asleep when the next value arrives, as in normal use.
 constexpr std::chrono::microseconds settlingTime(100);

@@ -2,11 +2,11 @@
 // Copyright The VxPrinterStatus authors
 #include "printer_readings.h"
 
-#include "printer_handle.h"
 #include "printer_level.h"
 #include "printer_status_controller.h"
 #include "printer_status_thread.h"
 #include "spooler_listing.h"
+#include "spooler_owners.h"
 #include "supply_catalogue.h"
 #include "vx_ipc_supplyd_controller.h"
 #include "windows_printer_info.h"
@@ -376,8 +376,12 @@ void PrinterReadings::Private::onRibbons(Watch& watch, const QStringList& identi
     Reading* const reading = beginReport(watch);
     if (!reading)
         return;
-    setIdentifier(*reading, Slot::Ribbon1, identifiers.value(0));
-    setIdentifier(*reading, Slot::Ribbon2, identifiers.value(1));
+    // Both are reported when one has changed.
+    for (const Slot slot : {Slot::Ribbon1, Slot::Ribbon2}) {
+        const QString identifier = identifiers.value(slot == Slot::Ribbon1 ? 0 : 1);
+        if (identifier != reading->slotValues[indexOf(slot)].identifier)
+            setIdentifier(*reading, slot, identifier);
+    }
     endReport(*reading);
 }
 
@@ -487,9 +491,9 @@ void PrinterReadings::Private::forgetValues(Reading& reading)
 void PrinterReadings::Private::readSnapshot(Reading& reading, const Recorded& recorded)
 {
     PrinterStatusThread* const thread = reading.watch->thread;
-    const PrinterHandle printer = PrinterHandle::open(reading.name());
-    reading.isSnapshotOwed = !printer.isValid();
-    if (!thread || !printer.isValid())
+    const PrinterOwner printer = openPrinter(reading.name());
+    reading.isSnapshotOwed = !printer;
+    if (!thread || !printer)
         return;
 
     bool hasPublished = false;

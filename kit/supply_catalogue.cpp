@@ -5,6 +5,7 @@
 #include "printer_types.h"
 #include "vx_ipc_supplyd_controller.h"
 
+#include <supplyc.h>
 #include <vxsupplydatabase.h>
 
 #include <QtCore/QCoreApplication>
@@ -85,18 +86,18 @@ CatalogueItem ribbonItem(const QString& sku, VXIPCSUPPLYDController& service)
     return item;
 }
 
-CatalogueItemPointer found(QHash<QString, CatalogueItemPointer>& items, const QString& sku,
-                           VXIPCSUPPLYDController& service,
-                           CatalogueItem (*query)(const QString&, VXIPCSUPPLYDController&))
+bool isKnown(const QString& sku)
 {
-    if (sku.isEmpty() || sku == VXPrinting::nothingLoaded)
-        return {};
-    if (items.size() > mostItems)
+    return !sku.isEmpty() && sku != VXPrinting::nothingLoaded;
+}
+
+template <typename Key>
+CatalogueItemPointer insert(QHash<Key, CatalogueItemPointer>& items, const Key& key,
+                            CatalogueItem item)
+{
+    if (items.size() >= mostItems)
         items.clear();
-    CatalogueItemPointer& item = items[sku];
-    if (!item)
-        item = std::make_shared<const CatalogueItem>(query(sku, service));
-    return item;
+    return *items.insert(key, std::make_shared<const CatalogueItem>(std::move(item)));
 }
 
 } // namespace
@@ -117,15 +118,26 @@ VXSupplyDatabase& SupplyCatalogue::database()
 CatalogueItemPointer SupplyCatalogue::supply(const QString& identifier,
                                              VXIPCSUPPLYDController& service)
 {
+    const SupplyC supply(identifier);
+    if (!supply.isDecoded())
+        return {};
+    const auto found = m_supplies.constFind(supply.kind);
+    if (found != m_supplies.cend())
+        return *found;
     database().setSupplyId(identifier);
-    return found(m_supplies, database().supplySKU(), service, &supplyItem);
+    const QString sku = database().supplySKU();
+    return isKnown(sku) ? insert(m_supplies, supply.kind, supplyItem(sku, service)) : nullptr;
 }
 
 CatalogueItemPointer SupplyCatalogue::ribbon(const QString& identifier,
                                              VXIPCSUPPLYDController& service)
 {
+    const auto found = m_ribbons.constFind(identifier);
+    if (found != m_ribbons.cend())
+        return *found;
     database().setRibbonIds({identifier});
-    return found(m_ribbons, database().supplyRibbonSKUs().value(0), service, &ribbonItem);
+    const QString sku = database().supplyRibbonSKUs().value(0);
+    return isKnown(sku) ? insert(m_ribbons, identifier, ribbonItem(sku, service)) : nullptr;
 }
 
 } // namespace VxKit

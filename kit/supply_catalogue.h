@@ -52,8 +52,8 @@ private:
     VXSupplyDatabase& database();
 
     std::unique_ptr<VXSupplyDatabase> m_database;
-    QHash<QString, CatalogueItemPointer> m_supplies;
-    QHash<QString, CatalogueItemPointer> m_ribbons;
+    QHash<int, CatalogueItemPointer> m_supplies;    ///< by the kind in their identifiers
+    QHash<QString, CatalogueItemPointer> m_ribbons; ///< by their identifiers
 };
 
 } // namespace VxKit

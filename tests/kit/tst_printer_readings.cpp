@@ -411,6 +411,8 @@ void PrinterReadingsTest::takesTheStatusFromTheRecordInsideASlotOfTheHost()
     addBirch(packing);
     publishText(packing, "StatusCode", "1");
     makeController();
+    // The first report is the controller's alone: it is sent before the readings are connected.
+    QVERIFY(machine().waitForWaitingThreads(1));
     bool isNested = false;
     // Connected before the readings are, so that it runs before theirs.
     connect(&controller(), &PrinterStatusController::statusChangedSignal, this, [&](int status) {

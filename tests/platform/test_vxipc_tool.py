@@ -31,7 +31,8 @@ class Tool(unittest.TestCase):
         cls.host.wait()
 
     def run_tool(self, *arguments):
-        done = subprocess.run([TOOL, *arguments], capture_output=True, text=True)
+        done = subprocess.run([TOOL, *arguments], capture_output=True, text=True,
+                              env=dict(os.environ, LC_ALL="C.UTF-8", LANGUAGE="en"))
         return done.returncode, done.stdout, done.stderr
 
     def check_output(self, arguments, output):
