@@ -9,6 +9,8 @@
 #include "printer_discovery.h"
 #include "windows_printer_info.h"
 
+#include <QtCore/QDir>
+#include <QtCore/QTemporaryDir>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QtTest>
 
@@ -29,12 +31,12 @@ private Q_SLOTS:
     void commandToAnUnknownPrinterFails();
 
 private:
-    QString addLabelPrinter()
+    QString addLabelPrinter(const QString& port = QStringLiteral("USB001"))
     {
         const QString name = fixture::uniqueName(QStringLiteral("Vx Kit"));
-        return fixture::addPrinter({.name = name, .driver = QStringLiteral("Stratamark Alder")})
-                   ? name
-                   : QString();
+        const bool isAdded = fixture::addPrinter(
+            {.name = name, .driver = QStringLiteral("Stratamark Alder"), .port = port});
+        return isAdded ? name : QString();
     }
 };
 
@@ -99,12 +101,15 @@ void KitOnTheSpoolerTest::stopAndStartOfTheSpoolerAreReported()
 
 void KitOnTheSpoolerTest::commandIsSentAndItsJobFollowed()
 {
-    const QString name = addLabelPrinter();
+    // On Windows, a port that is named like a file is a file, which receives what is sent.
+    const QTemporaryDir folder;
+    const QString name =
+        addLabelPrinter(QDir::toNativeSeparators(folder.filePath(QStringLiteral("printed.bin"))));
     QVERIFY(!name.isEmpty());
     VxKit::FollowedCommand followed = VxKit::sendAndFollowCommand(name, QStringLiteral("FEED 3"));
     followed.command.waitForFinished();
     const CommandResult result = followed.command.result();
-    QVERIFY2(result.isSent(), qPrintable(result.errorText));
+    QVERIFY2(result.isSent(), qPrintable(result.function + result.errorText));
     QCOMPARE(result.bytes, 8);
     QVERIFY(result.jobId != 0);
     followed.job.waitForFinished();

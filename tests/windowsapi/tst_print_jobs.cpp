@@ -225,6 +225,7 @@ void PrintJobsTest::jobIsQueriedWhileItIsWritten()
 // https://learn.microsoft.com/windows/win32/printdocs/enumjobs
 void PrintJobsTest::jobsAreListed()
 {
+    NEEDS_BEHAVIOUR(Behaviour::JobQueues);
     QCOMPARE(queue(), QList<DWORD>());
     const PrinterHandle other = openPrinter(m_name);
     const DWORD first = startDocument();
@@ -240,6 +241,7 @@ void PrintJobsTest::jobsAreListed()
 
 void PrintJobsTest::blockThatIsTooSmallIsRefused()
 {
+    NEEDS_BEHAVIOUR(Behaviour::JobQueues);
     const DWORD id = startDocument();
     BYTE byte = 0;
     DWORD needed = 0;
@@ -267,6 +269,7 @@ void PrintJobsTest::unknownJobIsRefused_data()
 // (RpcGetJob: the identifier is looked for in the list of jobs)
 void PrintJobsTest::unknownJobIsRefused()
 {
+    NEEDS_BEHAVIOUR(Behaviour::JobQueues);
     QFETCH(bool, printed);
     DWORD id = 4711;
     if (printed) {
@@ -283,6 +286,7 @@ void PrintJobsTest::unknownJobIsRefused()
 
 void PrintJobsTest::unknownLevelOfJobsIsRefused()
 {
+    NEEDS_BEHAVIOUR(Behaviour::JobQueues);
     const DWORD id = startDocument();
     DWORD needed = 0;
     DWORD count = 0;
