@@ -133,6 +133,7 @@ std::optional<JobState> FollowedJob::query()
 
     std::vector<BYTE> block(1024);
     const bool isKnown = fillBlock(block, [&](LPBYTE data, DWORD size, DWORD* needed) {
+        SetLastError(ERROR_SUCCESS);
         return GetJobW(m_queue.printer.get(), m_jobId, 1, data, size, needed);
     });
     if (!isKnown)
@@ -185,9 +186,9 @@ std::optional<JobState> FollowedJob::stateAfter(DWORD error)
     if (m_last)
         state = *m_last;
     state.obstacles.clear();
-    // The spooler knows no such job, or no longer.
+    // The spooler knows no such job, or no longer. Wine gives no reason then.
     // https://learn.microsoft.com/openspecs/windows_protocols/ms-rprn/f7090127-287b-4aa7-ba8b-2b6b7247dfc6
-    if (error == ERROR_INVALID_PARAMETER)
+    if (error == ERROR_INVALID_PARAMETER || error == ERROR_SUCCESS)
         return stateOfMissingJob(state);
     // Handles do not outlive a stop of the spooler, but jobs do.
     close();

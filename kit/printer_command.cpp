@@ -148,17 +148,17 @@ QString textOf(const CommandResult& result)
         return QCoreApplication::translate(
                    "VxKit", "The print spooler took only the first %1 bytes of the command.")
             .arg(result.bytes);
-    case Failure::OpenPrinter:
+    case Failure::CannotOpenPrinter:
         return QCoreApplication::translate("VxKit", "\"%1\" cannot be opened: %2")
             .arg(result.printerName, windows_errors::winError(result.errorCode));
-    case Failure::ReadPrinter:
+    case Failure::CannotReadDriver:
         return QCoreApplication::translate("VxKit", "The driver of \"%1\" cannot be queried: %2")
             .arg(result.printerName, windows_errors::winError(result.errorCode));
-    case Failure::StartDocument:
-    case Failure::StartPage:
-    case Failure::Write:
-    case Failure::EndPage:
-    case Failure::EndDocument:
+    case Failure::CannotStartDocument:
+    case Failure::CannotStartPage:
+    case Failure::CannotWrite:
+    case Failure::CannotEndPage:
+    case Failure::CannotEndDocument:
         break;
     }
     return QCoreApplication::translate("VxKit", "The command cannot be sent to \"%1\": %2")
@@ -198,12 +198,12 @@ private:
     {
         m_printer = openPrinter(m_command.printerName);
         if (!m_printer)
-            return failIn(Failure::OpenPrinter, "OpenPrinterW");
+            return failIn(Failure::CannotOpenPrinter, "OpenPrinterW");
         if (m_command.options.toAnyPrinter)
             return true;
         const PrinterRecord record(m_printer);
         if (!record.isValid())
-            return failIn(Failure::ReadPrinter, "GetPrinterW");
+            return failIn(Failure::CannotReadDriver, "GetPrinterW");
         const QString driver = textFrom(record->pDriverName);
         if (WindowsPrinterInfo::printerType(driver) <= VXPrinting::PrinterType::Generic)
             m_result.failure = Failure::ForeignPrinter;
@@ -214,15 +214,15 @@ private:
     {
         Document document(m_printer, m_command.documentName());
         if (!document.jobId())
-            return failIn(Failure::StartDocument, "StartDocPrinterW");
+            return failIn(Failure::CannotStartDocument, "StartDocPrinterW");
         m_result.jobId = document.jobId();
         if (!StartPagePrinter(m_printer.get()))
-            return failIn(Failure::StartPage, "StartPagePrinter");
+            return failIn(Failure::CannotStartPage, "StartPagePrinter");
         if (!write())
             return false;
         if (!EndPagePrinter(m_printer.get()))
-            return failIn(Failure::EndPage, "EndPagePrinter");
-        return document.end() || failIn(Failure::EndDocument, "EndDocPrinter");
+            return failIn(Failure::CannotEndPage, "EndPagePrinter");
+        return document.end() || failIn(Failure::CannotEndDocument, "EndDocPrinter");
     }
 
     bool write()
@@ -234,7 +234,7 @@ private:
             const auto size = static_cast<DWORD>(part.size());
             DWORD written = 0;
             if (!WritePrinter(m_printer.get(), part.data(), size, &written))
-                return failIn(Failure::Write, "WritePrinter");
+                return failIn(Failure::CannotWrite, "WritePrinter");
             m_result.bytes += written;
             if (written < size) {
                 m_result.failure = Failure::ShortWrite;

@@ -32,17 +32,17 @@ struct VX_KIT_EXPORT CommandResult
     /// The step that failed.
     enum class Failure
     {
-        None,           ///< the spooler has the whole command
-        Empty,          ///< refused: the command is empty
-        ForeignPrinter, ///< refused: the printer is not of a supported model
-        OpenPrinter, ///< the printer does not exist, or may not be used, or the spooler is stopped
-        ReadPrinter, ///< the printer's driver cannot be queried
-        StartDocument,
-        StartPage,
-        Write,
+        None,              ///< the spooler has the whole command
+        Empty,             ///< refused: the command is empty
+        ForeignPrinter,    ///< refused: the printer is not of a supported model
+        CannotOpenPrinter, ///< it does not exist, or the spooler or the user's rights prevent it
+        CannotReadDriver,  ///< so it is not known whether the model is supported
+        CannotStartDocument,
+        CannotStartPage,
+        CannotWrite,
         ShortWrite, ///< the spooler took only a part of the command
-        EndPage,
-        EndDocument,
+        CannotEndPage,
+        CannotEndDocument,
     };
 
     QString printerName{};

@@ -251,13 +251,13 @@ void PrinterCommandTest::failureNamesItsCall_data()
     const auto row = [](const char* function, Failure failure) {
         QTest::newRow(function) << QString::fromLatin1(function) << failure;
     };
-    row("OpenPrinterW", Failure::OpenPrinter);
-    row("GetPrinterW", Failure::ReadPrinter);
-    row("StartDocPrinterW", Failure::StartDocument);
-    row("StartPagePrinter", Failure::StartPage);
-    row("WritePrinter", Failure::Write);
-    row("EndPagePrinter", Failure::EndPage);
-    row("EndDocPrinter", Failure::EndDocument);
+    row("OpenPrinterW", Failure::CannotOpenPrinter);
+    row("GetPrinterW", Failure::CannotReadDriver);
+    row("StartDocPrinterW", Failure::CannotStartDocument);
+    row("StartPagePrinter", Failure::CannotStartPage);
+    row("WritePrinter", Failure::CannotWrite);
+    row("EndPagePrinter", Failure::CannotEndPage);
+    row("EndDocPrinter", Failure::CannotEndDocument);
 }
 
 void PrinterCommandTest::failureNamesItsCall()
@@ -565,7 +565,7 @@ void PrinterCommandTest::commandThatIsNotSentHasNoJob()
     QCOMPARE(followed.job.resultCount(), 0);
     machine().failCall(QStringLiteral("WritePrinter"), 1, ERROR_NOT_ENOUGH_MEMORY);
     followed = VxKit::sendAndFollowCommand(alder, QByteArray("x"));
-    QCOMPARE(sent(followed.command).failure, Failure::Write);
+    QCOMPARE(sent(followed.command).failure, Failure::CannotWrite);
     followed.job.waitForFinished();
     QVERIFY(followed.job.isCanceled());
     QTRY_COMPARE(machine().openHandles(), 0);
