@@ -2,11 +2,11 @@
 // Copyright The VxPrinterStatus authors
 #include "printer_readings.h"
 
-#include "printer_handle.h"
 #include "printer_level.h"
 #include "printer_status_controller.h"
 #include "printer_status_thread.h"
 #include "spooler_listing.h"
+#include "spooler_owners.h"
 #include "supply_catalogue.h"
 #include "vx_ipc_supplyd_controller.h"
 #include "windows_printer_info.h"
@@ -492,9 +492,9 @@ void PrinterReadings::Private::forgetValues(Reading& reading)
 void PrinterReadings::Private::readSnapshot(Reading& reading, const Recorded& recorded)
 {
     PrinterStatusThread* const thread = reading.watch->thread;
-    const PrinterHandle printer = PrinterHandle::open(reading.name());
-    reading.isSnapshotOwed = !printer.isValid();
-    if (!thread || !printer.isValid())
+    const PrinterOwner printer = openPrinter(reading.name());
+    reading.isSnapshotOwed = !printer;
+    if (!thread || !printer)
         return;
 
     bool hasPublished = false;

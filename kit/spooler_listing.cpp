@@ -2,16 +2,16 @@
 // Copyright The VxPrinterStatus authors
 #include "spooler_listing.h"
 
+#include "growing_block.h"
+#include "spooler_owners.h"
+
 #include "windows_printer_info.h"
 
 #include <QtCore/QHash>
 
 #include <exception>
-#include <limits>
+#include <span>
 #include <vector>
-
-#include <windows.h>
-#include <winspool.h>
 
 namespace VxKit {
 
@@ -19,42 +19,25 @@ namespace {
 
 constexpr int lastUnsupportedType = 100;
 
-QString fromWide(const WCHAR* text)
-{
-    return QString::fromUtf16(reinterpret_cast<const char16_t*>(text));
-}
-
 /// The full names of the ports of all printers, by printer. Without a value when the spooler does
 /// not answer, which `WindowsPrinterInfo::getAvailablePrinters()` does not tell from a spooler
 /// without printers.
 std::optional<QHash<QString, QString>> portsOfPrinters()
 {
-    constexpr DWORD localAndConnected = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
-    constexpr DWORD level = 5;
-    // A printer that is added between the two calls makes the block too small.
-    constexpr int attempts = 3;
-
-    // Aligned as the records are.
-    std::vector<PRINTER_INFO_5W> block;
-    const auto blockBytes = [&block] {
-        return static_cast<DWORD>(block.size() * sizeof(PRINTER_INFO_5W));
-    };
-    for (int attempt = 0; attempt < attempts; ++attempt) {
-        DWORD needed = 0;
-        DWORD count = 0;
-        if (EnumPrintersW(localAndConnected, nullptr, level, reinterpret_cast<BYTE*>(block.data()),
-                          blockBytes(), &needed, &count)) {
-            QHash<QString, QString> ports;
-            ports.reserve(static_cast<qsizetype>(count));
-            for (std::size_t index = 0; index < count; ++index)
-                ports.insert(fromWide(block[index].pPrinterName), fromWide(block[index].pPortName));
-            return ports;
-        }
-        if (GetLastError() != ERROR_INSUFFICIENT_BUFFER || needed <= blockBytes())
-            return std::nullopt;
-        block.resize(needed / sizeof(PRINTER_INFO_5W) + 1);
-    }
-    return std::nullopt;
+    std::vector<BYTE> block;
+    DWORD count = 0;
+    const bool isListed = fillBlock(block, [&](LPBYTE start, DWORD size, DWORD* needed) {
+        return EnumPrintersW(PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS, nullptr, 5, start, size,
+                             needed, &count);
+    });
+    if (!isListed)
+        return std::nullopt;
+    QHash<QString, QString> ports;
+    ports.reserve(static_cast<qsizetype>(count));
+    for (const PRINTER_INFO_5W& printer :
+         std::span(reinterpret_cast<const PRINTER_INFO_5W*>(block.data()), count))
+        ports.insert(textFrom(printer.pPrinterName), textFrom(printer.pPortName));
+    return ports;
 }
 
 /// The number of a USB port, which is 1 for USB001. `AvailablePrinters` holds the name without

@@ -463,8 +463,8 @@
         <translation> oder </translation>
     </message>
     <message>
-        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, a number or a name printed by list</source>
-        <translation>unbekannter Dienst „%1“; supplyd, m4, printqd, eine Zahl oder ein von list ausgegebener Name wird erwartet</translation>
+        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, status, a number or a name printed by list</source>
+        <translation>unbekannter Dienst „%1“; supplyd, m4, printqd, status, eine Zahl oder ein von list ausgegebener Name wird erwartet</translation>
     </message>
     <message>
         <source>no arguments</source>
@@ -479,8 +479,8 @@
         <translation>einen SERVICE, eine METHOD und deren Argumente</translation>
     </message>
     <message>
-        <source>expected list, describe or call</source>
-        <translation>list, describe oder call wird erwartet</translation>
+        <source>expected list, describe, call or watch</source>
+        <translation>list, describe, call oder watch wird erwartet</translation>
     </message>
     <message>
         <source>unknown command &quot;%1&quot;; %2</source>
@@ -503,16 +503,16 @@
         <translation>die Endpunkte auflisten: Name, Dienst, Prozess, Anwendung</translation>
     </message>
     <message>
-        <source>list the methods of an endpoint</source>
-        <translation>die Methoden eines Endpunkts auflisten</translation>
+        <source>list the methods and signals of an endpoint</source>
+        <translation>die Methoden und Signale eines Endpunkts auflisten</translation>
     </message>
     <message>
         <source>call a method and print its result</source>
         <translation>eine Methode aufrufen und ihr Ergebnis ausgeben</translation>
     </message>
     <message>
-        <source>SERVICE is supplyd, m4, printqd, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
-        <translation>SERVICE ist supplyd, m4, printqd, eine Zahl oder ein Name, den list ausgibt. Argumente für Textparameter werden übernommen, wie sie sind, alle anderen als JSON gelesen.</translation>
+        <source>SERVICE is supplyd, m4, printqd, status, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
+        <translation>SERVICE ist supplyd, m4, printqd, status, eine Zahl oder ein Name, den list ausgibt. Argumente für Textparameter werden übernommen, wie sie sind, alle anderen als JSON gelesen.</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -533,6 +533,38 @@
     <message>
         <source>what follows is not an option</source>
         <translation>was folgt, ist keine Option</translation>
+    </message>
+    <message>
+        <source>print a line of JSON for each emission of the signals, or of all signals, until interrupted</source>
+        <translation>für jede Aussendung der Signale oder aller Signale eine Zeile JSON ausgeben, bis zur Unterbrechung</translation>
+    </message>
+    <message>
+        <source>watch for SECONDS only</source>
+        <translation>nur SECONDS Sekunden lang beobachten</translation>
+    </message>
+    <message>
+        <source>--for takes a number of seconds</source>
+        <translation>--for erwartet eine Anzahl von Sekunden</translation>
+    </message>
+    <message>
+        <source>%1 takes no --for</source>
+        <translation>%1 erwartet kein --for</translation>
+    </message>
+    <message>
+        <source>a SERVICE and SIGNALs</source>
+        <translation>einen SERVICE und SIGNAL-Namen</translation>
+    </message>
+    <message>
+        <source>%1: it has no signals</source>
+        <translation>%1: Er hat keine Signale</translation>
+    </message>
+    <message>
+        <source>%1: the connection ended; waiting for the endpoint</source>
+        <translation>%1: Die Verbindung ist beendet; es wird auf den Endpunkt gewartet</translation>
+    </message>
+    <message>
+        <source>%1: watching again; what changed meanwhile was missed</source>
+        <translation>%1: Die Beobachtung läuft wieder; was sich inzwischen geändert hat, fehlt</translation>
     </message>
     <message>
         <source>--timeout takes a number of milliseconds</source>
@@ -855,10 +887,6 @@
         <translation>Druckauftrag %1, „%2“: %3, Seiten: %4, Byte: %5.</translation>
     </message>
     <message>
-        <source>the command was not sent to &quot;%1&quot;: %2</source>
-        <translation>der Befehl wurde nicht an „%1“ gesendet: %2</translation>
-    </message>
-    <message>
         <source>Sent to %1: %2</source>
         <translation>An %1 gesendet: %2</translation>
     </message>
@@ -885,6 +913,34 @@
     <message>
         <source>title takes a status code or --all, found nothing</source>
         <translation>title erwartet einen Statuscode oder --all, nichts gefunden</translation>
+    </message>
+    <message>
+        <source>send: wait until the job was printed or has left the queue</source>
+        <translation>send: warten, bis der Auftrag gedruckt ist oder die Warteschlange verlassen hat</translation>
+    </message>
+    <message>
+        <source>send: also to a printer of another maker, also nothing</source>
+        <translation>send: auch an Drucker anderer Hersteller, auch leere Befehle</translation>
+    </message>
+    <message>
+        <source>Print job %1, bytes: %2.</source>
+        <translation>Druckauftrag %1, Byte: %2.</translation>
+    </message>
+    <message>
+        <source>interrupted while print job %1 was in the queue of &quot;%2&quot;</source>
+        <translation>unterbrochen, während der Druckauftrag %1 in der Druckwarteschlange von „%2“ war</translation>
+    </message>
+    <message>
+        <source>--force sends it nevertheless.</source>
+        <translation>--force sendet ihn trotzdem.</translation>
+    </message>
+    <message>
+        <source>the command was not sent: %1</source>
+        <translation>der Befehl wurde nicht gesendet: %1</translation>
+    </message>
+    <message>
+        <source>print job %1 was not printed: %2</source>
+        <translation>der Druckauftrag %1 wurde nicht gedruckt: %2</translation>
     </message>
 </context>
 </TS>

@@ -463,8 +463,8 @@
         <translation> or </translation>
     </message>
     <message>
-        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, a number or a name printed by list</source>
-        <translation>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, a number or a name printed by list</translation>
+        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, status, a number or a name printed by list</source>
+        <translation>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, status, a number or a name printed by list</translation>
     </message>
     <message>
         <source>no arguments</source>
@@ -479,8 +479,8 @@
         <translation>a SERVICE, a METHOD and its arguments</translation>
     </message>
     <message>
-        <source>expected list, describe or call</source>
-        <translation>expected list, describe or call</translation>
+        <source>expected list, describe, call or watch</source>
+        <translation>expected list, describe, call or watch</translation>
     </message>
     <message>
         <source>unknown command &quot;%1&quot;; %2</source>
@@ -503,16 +503,16 @@
         <translation>list the endpoints: name, service, process, application</translation>
     </message>
     <message>
-        <source>list the methods of an endpoint</source>
-        <translation>list the methods of an endpoint</translation>
+        <source>list the methods and signals of an endpoint</source>
+        <translation>list the methods and signals of an endpoint</translation>
     </message>
     <message>
         <source>call a method and print its result</source>
         <translation>call a method and print its result</translation>
     </message>
     <message>
-        <source>SERVICE is supplyd, m4, printqd, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
-        <translation>SERVICE is supplyd, m4, printqd, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</translation>
+        <source>SERVICE is supplyd, m4, printqd, status, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
+        <translation>SERVICE is supplyd, m4, printqd, status, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -533,6 +533,38 @@
     <message>
         <source>what follows is not an option</source>
         <translation>what follows is not an option</translation>
+    </message>
+    <message>
+        <source>print a line of JSON for each emission of the signals, or of all signals, until interrupted</source>
+        <translation>print a line of JSON for each emission of the signals, or of all signals, until interrupted</translation>
+    </message>
+    <message>
+        <source>watch for SECONDS only</source>
+        <translation>watch for SECONDS only</translation>
+    </message>
+    <message>
+        <source>--for takes a number of seconds</source>
+        <translation>--for takes a number of seconds</translation>
+    </message>
+    <message>
+        <source>%1 takes no --for</source>
+        <translation>%1 takes no --for</translation>
+    </message>
+    <message>
+        <source>a SERVICE and SIGNALs</source>
+        <translation>a SERVICE and SIGNALs</translation>
+    </message>
+    <message>
+        <source>%1: it has no signals</source>
+        <translation>%1: it has no signals</translation>
+    </message>
+    <message>
+        <source>%1: the connection ended; waiting for the endpoint</source>
+        <translation>%1: the connection ended; waiting for the endpoint</translation>
+    </message>
+    <message>
+        <source>%1: watching again; what changed meanwhile was missed</source>
+        <translation>%1: watching again; what changed meanwhile was missed</translation>
     </message>
     <message>
         <source>--timeout takes a number of milliseconds</source>
@@ -855,10 +887,6 @@
         <translation>Print job %1, &quot;%2&quot;: %3, pages: %4, bytes: %5.</translation>
     </message>
     <message>
-        <source>the command was not sent to &quot;%1&quot;: %2</source>
-        <translation>the command was not sent to &quot;%1&quot;: %2</translation>
-    </message>
-    <message>
         <source>Sent to %1: %2</source>
         <translation>Sent to %1: %2</translation>
     </message>
@@ -885,6 +913,34 @@
     <message>
         <source>title takes a status code or --all, found nothing</source>
         <translation>title takes a status code or --all, found nothing</translation>
+    </message>
+    <message>
+        <source>send: wait until the job was printed or has left the queue</source>
+        <translation>send: wait until the job was printed or has left the queue</translation>
+    </message>
+    <message>
+        <source>send: also to a printer of another maker, also nothing</source>
+        <translation>send: also to a printer of another maker, also nothing</translation>
+    </message>
+    <message>
+        <source>Print job %1, bytes: %2.</source>
+        <translation>Print job %1, bytes: %2.</translation>
+    </message>
+    <message>
+        <source>interrupted while print job %1 was in the queue of &quot;%2&quot;</source>
+        <translation>interrupted while print job %1 was in the queue of &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>--force sends it nevertheless.</source>
+        <translation>--force sends it nevertheless.</translation>
+    </message>
+    <message>
+        <source>the command was not sent: %1</source>
+        <translation>the command was not sent: %1</translation>
+    </message>
+    <message>
+        <source>print job %1 was not printed: %2</source>
+        <translation>print job %1 was not printed: %2</translation>
     </message>
 </context>
 </TS>

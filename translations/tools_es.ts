@@ -463,8 +463,8 @@
         <translation> o </translation>
     </message>
     <message>
-        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, a number or a name printed by list</source>
-        <translation>servicio desconocido «%1»; se esperaba supplyd, m4, printqd, un número o un nombre mostrado por list</translation>
+        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, status, a number or a name printed by list</source>
+        <translation>servicio desconocido «%1»; se esperaba supplyd, m4, printqd, status, un número o un nombre mostrado por list</translation>
     </message>
     <message>
         <source>no arguments</source>
@@ -479,8 +479,8 @@
         <translation>un SERVICE, un METHOD y sus argumentos</translation>
     </message>
     <message>
-        <source>expected list, describe or call</source>
-        <translation>se esperaba list, describe o call</translation>
+        <source>expected list, describe, call or watch</source>
+        <translation>se esperaba list, describe, call o watch</translation>
     </message>
     <message>
         <source>unknown command &quot;%1&quot;; %2</source>
@@ -503,16 +503,16 @@
         <translation>enumerar los puntos de conexión: nombre, servicio, proceso, aplicación</translation>
     </message>
     <message>
-        <source>list the methods of an endpoint</source>
-        <translation>enumerar los métodos de un punto de conexión</translation>
+        <source>list the methods and signals of an endpoint</source>
+        <translation>enumerar los métodos y las señales de un punto de conexión</translation>
     </message>
     <message>
         <source>call a method and print its result</source>
         <translation>llamar a un método y mostrar su resultado</translation>
     </message>
     <message>
-        <source>SERVICE is supplyd, m4, printqd, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
-        <translation>SERVICE es supplyd, m4, printqd, un número o un nombre mostrado por list. Los argumentos para parámetros de texto se toman tal cual; los demás se leen como JSON.</translation>
+        <source>SERVICE is supplyd, m4, printqd, status, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
+        <translation>SERVICE es supplyd, m4, printqd, status, un número o un nombre mostrado por list. Los argumentos para parámetros de texto se toman tal cual; los demás se leen como JSON.</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -533,6 +533,38 @@
     <message>
         <source>what follows is not an option</source>
         <translation>lo que sigue no es una opción</translation>
+    </message>
+    <message>
+        <source>print a line of JSON for each emission of the signals, or of all signals, until interrupted</source>
+        <translation>mostrar una línea JSON por cada emisión de las señales, o de todas, hasta que se interrumpa</translation>
+    </message>
+    <message>
+        <source>watch for SECONDS only</source>
+        <translation>observar solo durante SECONDS segundos</translation>
+    </message>
+    <message>
+        <source>--for takes a number of seconds</source>
+        <translation>--for espera un número de segundos</translation>
+    </message>
+    <message>
+        <source>%1 takes no --for</source>
+        <translation>%1 no admite --for</translation>
+    </message>
+    <message>
+        <source>a SERVICE and SIGNALs</source>
+        <translation>un SERVICE y nombres SIGNAL</translation>
+    </message>
+    <message>
+        <source>%1: it has no signals</source>
+        <translation>%1: no tiene señales</translation>
+    </message>
+    <message>
+        <source>%1: the connection ended; waiting for the endpoint</source>
+        <translation>%1: la conexión ha terminado; se espera al punto de conexión</translation>
+    </message>
+    <message>
+        <source>%1: watching again; what changed meanwhile was missed</source>
+        <translation>%1: se observa de nuevo; faltan los cambios ocurridos entretanto</translation>
     </message>
     <message>
         <source>--timeout takes a number of milliseconds</source>
@@ -855,10 +887,6 @@
         <translation>Trabajo de impresión %1, «%2»: %3, páginas: %4, bytes: %5.</translation>
     </message>
     <message>
-        <source>the command was not sent to &quot;%1&quot;: %2</source>
-        <translation>el comando no se envió a «%1»: %2</translation>
-    </message>
-    <message>
         <source>Sent to %1: %2</source>
         <translation>Enviado a %1: %2</translation>
     </message>
@@ -885,6 +913,34 @@
     <message>
         <source>title takes a status code or --all, found nothing</source>
         <translation>title espera un código de estado o --all; no se encontró nada</translation>
+    </message>
+    <message>
+        <source>send: wait until the job was printed or has left the queue</source>
+        <translation>send: esperar hasta que el trabajo se imprima o salga de la cola</translation>
+    </message>
+    <message>
+        <source>send: also to a printer of another maker, also nothing</source>
+        <translation>send: también a impresoras de otros fabricantes y comandos vacíos</translation>
+    </message>
+    <message>
+        <source>Print job %1, bytes: %2.</source>
+        <translation>Trabajo de impresión %1, bytes: %2.</translation>
+    </message>
+    <message>
+        <source>interrupted while print job %1 was in the queue of &quot;%2&quot;</source>
+        <translation>interrumpido mientras el trabajo de impresión %1 estaba en la cola de «%2»</translation>
+    </message>
+    <message>
+        <source>--force sends it nevertheless.</source>
+        <translation>--force lo envía de todos modos.</translation>
+    </message>
+    <message>
+        <source>the command was not sent: %1</source>
+        <translation>el comando no se envió: %1</translation>
+    </message>
+    <message>
+        <source>print job %1 was not printed: %2</source>
+        <translation>el trabajo de impresión %1 no se imprimió: %2</translation>
     </message>
 </context>
 </TS>

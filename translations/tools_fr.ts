@@ -463,8 +463,8 @@
         <translation> ou </translation>
     </message>
     <message>
-        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, a number or a name printed by list</source>
-        <translation>service inconnu « %1 » ; supplyd, m4, printqd, un numéro ou un nom affiché par list est attendu</translation>
+        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, status, a number or a name printed by list</source>
+        <translation>service inconnu « %1 » ; supplyd, m4, printqd, status, un numéro ou un nom affiché par list est attendu</translation>
     </message>
     <message>
         <source>no arguments</source>
@@ -479,8 +479,8 @@
         <translation>un SERVICE, une METHOD et ses arguments</translation>
     </message>
     <message>
-        <source>expected list, describe or call</source>
-        <translation>list, describe ou call est attendu</translation>
+        <source>expected list, describe, call or watch</source>
+        <translation>list, describe, call ou watch est attendu</translation>
     </message>
     <message>
         <source>unknown command &quot;%1&quot;; %2</source>
@@ -503,16 +503,16 @@
         <translation>énumérer les points d’accès : nom, service, processus, application</translation>
     </message>
     <message>
-        <source>list the methods of an endpoint</source>
-        <translation>énumérer les méthodes d’un point d’accès</translation>
+        <source>list the methods and signals of an endpoint</source>
+        <translation>lister les méthodes et les signaux d’un point d’accès</translation>
     </message>
     <message>
         <source>call a method and print its result</source>
         <translation>appeler une méthode et afficher son résultat</translation>
     </message>
     <message>
-        <source>SERVICE is supplyd, m4, printqd, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
-        <translation>SERVICE est supplyd, m4, printqd, un numéro ou un nom affiché par list. Les arguments des paramètres de texte sont pris tels quels, tous les autres sont lus comme du JSON.</translation>
+        <source>SERVICE is supplyd, m4, printqd, status, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
+        <translation>SERVICE est supplyd, m4, printqd, status, un numéro ou un nom affiché par list. Les arguments des paramètres de texte sont pris tels quels, tous les autres sont lus comme du JSON.</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -533,6 +533,38 @@
     <message>
         <source>what follows is not an option</source>
         <translation>ce qui suit n’est pas une option</translation>
+    </message>
+    <message>
+        <source>print a line of JSON for each emission of the signals, or of all signals, until interrupted</source>
+        <translation>afficher une ligne JSON pour chaque émission des signaux, ou de tous les signaux, jusqu’à l’interruption</translation>
+    </message>
+    <message>
+        <source>watch for SECONDS only</source>
+        <translation>observer pendant SECONDS secondes seulement</translation>
+    </message>
+    <message>
+        <source>--for takes a number of seconds</source>
+        <translation>--for attend un nombre de secondes</translation>
+    </message>
+    <message>
+        <source>%1 takes no --for</source>
+        <translation>%1 n’accepte pas --for</translation>
+    </message>
+    <message>
+        <source>a SERVICE and SIGNALs</source>
+        <translation>un SERVICE et des noms SIGNAL</translation>
+    </message>
+    <message>
+        <source>%1: it has no signals</source>
+        <translation>%1 : il n’a pas de signaux</translation>
+    </message>
+    <message>
+        <source>%1: the connection ended; waiting for the endpoint</source>
+        <translation>%1 : la connexion est terminée ; attente du point d’accès</translation>
+    </message>
+    <message>
+        <source>%1: watching again; what changed meanwhile was missed</source>
+        <translation>%1 : l’observation reprend ; les changements survenus entre-temps manquent</translation>
     </message>
     <message>
         <source>--timeout takes a number of milliseconds</source>
@@ -855,10 +887,6 @@
         <translation>Travail d’impression %1, « %2 » : %3, pages : %4, octets : %5.</translation>
     </message>
     <message>
-        <source>the command was not sent to &quot;%1&quot;: %2</source>
-        <translation>la commande n’a pas été envoyée à « %1 » : %2</translation>
-    </message>
-    <message>
         <source>Sent to %1: %2</source>
         <translation>Envoyé à %1 : %2</translation>
     </message>
@@ -885,6 +913,34 @@
     <message>
         <source>title takes a status code or --all, found nothing</source>
         <translation>title attend un code d’état ou --all, rien trouvé</translation>
+    </message>
+    <message>
+        <source>send: wait until the job was printed or has left the queue</source>
+        <translation>send : attendre que le travail soit imprimé ou ait quitté la file d’attente</translation>
+    </message>
+    <message>
+        <source>send: also to a printer of another maker, also nothing</source>
+        <translation>send : aussi à une imprimante d’un autre fabricant, aussi une commande vide</translation>
+    </message>
+    <message>
+        <source>Print job %1, bytes: %2.</source>
+        <translation>Travail d’impression %1, octets : %2.</translation>
+    </message>
+    <message>
+        <source>interrupted while print job %1 was in the queue of &quot;%2&quot;</source>
+        <translation>interrompu alors que le travail d’impression %1 était dans la file d’attente de « %2 »</translation>
+    </message>
+    <message>
+        <source>--force sends it nevertheless.</source>
+        <translation>--force l’envoie quand même.</translation>
+    </message>
+    <message>
+        <source>the command was not sent: %1</source>
+        <translation>la commande n’a pas été envoyée : %1</translation>
+    </message>
+    <message>
+        <source>print job %1 was not printed: %2</source>
+        <translation>le travail d’impression %1 n’a pas été imprimé : %2</translation>
     </message>
 </context>
 </TS>

@@ -463,8 +463,8 @@
         <translation> o </translation>
     </message>
     <message>
-        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, a number or a name printed by list</source>
-        <translation>servizio sconosciuto &quot;%1&quot;; previsto supplyd, m4, printqd, un numero o un nome mostrato da list</translation>
+        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, status, a number or a name printed by list</source>
+        <translation>servizio sconosciuto &quot;%1&quot;; previsto supplyd, m4, printqd, status, un numero o un nome mostrato da list</translation>
     </message>
     <message>
         <source>no arguments</source>
@@ -479,8 +479,8 @@
         <translation>un SERVICE, un METHOD e i suoi argomenti</translation>
     </message>
     <message>
-        <source>expected list, describe or call</source>
-        <translation>previsto list, describe o call</translation>
+        <source>expected list, describe, call or watch</source>
+        <translation>previsto list, describe, call o watch</translation>
     </message>
     <message>
         <source>unknown command &quot;%1&quot;; %2</source>
@@ -503,16 +503,16 @@
         <translation>elencare gli endpoint: nome, servizio, processo, applicazione</translation>
     </message>
     <message>
-        <source>list the methods of an endpoint</source>
-        <translation>elencare i metodi di un endpoint</translation>
+        <source>list the methods and signals of an endpoint</source>
+        <translation>elencare i metodi e i segnali di un endpoint</translation>
     </message>
     <message>
         <source>call a method and print its result</source>
         <translation>chiamare un metodo e mostrarne il risultato</translation>
     </message>
     <message>
-        <source>SERVICE is supplyd, m4, printqd, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
-        <translation>SERVICE è supplyd, m4, printqd, un numero o un nome mostrato da list. Gli argomenti per parametri di testo sono presi così come sono, tutti gli altri sono letti come JSON.</translation>
+        <source>SERVICE is supplyd, m4, printqd, status, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
+        <translation>SERVICE è supplyd, m4, printqd, status, un numero o un nome mostrato da list. Gli argomenti per parametri di testo sono presi così come sono, tutti gli altri sono letti come JSON.</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -533,6 +533,38 @@
     <message>
         <source>what follows is not an option</source>
         <translation>ciò che segue non è un’opzione</translation>
+    </message>
+    <message>
+        <source>print a line of JSON for each emission of the signals, or of all signals, until interrupted</source>
+        <translation>mostrare una riga JSON per ogni emissione dei segnali, o di tutti i segnali, fino all’interruzione</translation>
+    </message>
+    <message>
+        <source>watch for SECONDS only</source>
+        <translation>osservare solo per SECONDS secondi</translation>
+    </message>
+    <message>
+        <source>--for takes a number of seconds</source>
+        <translation>--for richiede un numero di secondi</translation>
+    </message>
+    <message>
+        <source>%1 takes no --for</source>
+        <translation>%1 non accetta --for</translation>
+    </message>
+    <message>
+        <source>a SERVICE and SIGNALs</source>
+        <translation>un SERVICE e nomi SIGNAL</translation>
+    </message>
+    <message>
+        <source>%1: it has no signals</source>
+        <translation>%1: non ha segnali</translation>
+    </message>
+    <message>
+        <source>%1: the connection ended; waiting for the endpoint</source>
+        <translation>%1: la connessione è terminata; in attesa dell’endpoint</translation>
+    </message>
+    <message>
+        <source>%1: watching again; what changed meanwhile was missed</source>
+        <translation>%1: l’osservazione riprende; i cambiamenti avvenuti nel frattempo mancano</translation>
     </message>
     <message>
         <source>--timeout takes a number of milliseconds</source>
@@ -855,10 +887,6 @@
         <translation>Lavoro di stampa %1, &quot;%2&quot;: %3, pagine: %4, byte: %5.</translation>
     </message>
     <message>
-        <source>the command was not sent to &quot;%1&quot;: %2</source>
-        <translation>il comando non è stato inviato a &quot;%1&quot;: %2</translation>
-    </message>
-    <message>
         <source>Sent to %1: %2</source>
         <translation>Inviato a %1: %2</translation>
     </message>
@@ -885,6 +913,34 @@
     <message>
         <source>title takes a status code or --all, found nothing</source>
         <translation>title richiede un codice di stato o --all, non è stato trovato nulla</translation>
+    </message>
+    <message>
+        <source>send: wait until the job was printed or has left the queue</source>
+        <translation>send: attendere che il lavoro sia stampato o abbia lasciato la coda</translation>
+    </message>
+    <message>
+        <source>send: also to a printer of another maker, also nothing</source>
+        <translation>send: anche a stampanti di altri produttori, anche comandi vuoti</translation>
+    </message>
+    <message>
+        <source>Print job %1, bytes: %2.</source>
+        <translation>Lavoro di stampa %1, byte: %2.</translation>
+    </message>
+    <message>
+        <source>interrupted while print job %1 was in the queue of &quot;%2&quot;</source>
+        <translation>interrotto mentre il lavoro di stampa %1 era nella coda di &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>--force sends it nevertheless.</source>
+        <translation>--force lo invia comunque.</translation>
+    </message>
+    <message>
+        <source>the command was not sent: %1</source>
+        <translation>il comando non è stato inviato: %1</translation>
+    </message>
+    <message>
+        <source>print job %1 was not printed: %2</source>
+        <translation>il lavoro di stampa %1 non è stato stampato: %2</translation>
     </message>
 </context>
 </TS>

@@ -463,8 +463,8 @@
         <translation> または </translation>
     </message>
     <message>
-        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, a number or a name printed by list</source>
-        <translation>不明なサービス「%1」です。supplyd、m4、printqd、番号、または list が表示する名前が必要です</translation>
+        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, status, a number or a name printed by list</source>
+        <translation>不明なサービス「%1」です。supplyd、m4、printqd、status、番号、または list が表示する名前が必要です</translation>
     </message>
     <message>
         <source>no arguments</source>
@@ -479,8 +479,8 @@
         <translation>SERVICE、METHOD とその引数</translation>
     </message>
     <message>
-        <source>expected list, describe or call</source>
-        <translation>list、describe、call のいずれかが必要です</translation>
+        <source>expected list, describe, call or watch</source>
+        <translation>list、describe、call、watch のいずれかが必要です</translation>
     </message>
     <message>
         <source>unknown command &quot;%1&quot;; %2</source>
@@ -503,16 +503,16 @@
         <translation>エンドポイントを一覧表示する: 名前、サービス、プロセス、アプリケーション</translation>
     </message>
     <message>
-        <source>list the methods of an endpoint</source>
-        <translation>エンドポイントのメソッドを一覧表示する</translation>
+        <source>list the methods and signals of an endpoint</source>
+        <translation>エンドポイントのメソッドとシグナルを一覧表示する</translation>
     </message>
     <message>
         <source>call a method and print its result</source>
         <translation>メソッドを呼び出して結果を表示する</translation>
     </message>
     <message>
-        <source>SERVICE is supplyd, m4, printqd, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
-        <translation>SERVICE は supplyd、m4、printqd、番号、または list が表示する名前です。テキストのパラメーターに対する引数はそのまま使われ、その他は JSON として読み取られます。</translation>
+        <source>SERVICE is supplyd, m4, printqd, status, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
+        <translation>SERVICE は supplyd、m4、printqd、status、番号、または list が表示する名前です。テキストのパラメーターに対する引数はそのまま使われ、その他は JSON として読み取られます。</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -533,6 +533,38 @@
     <message>
         <source>what follows is not an option</source>
         <translation>以降はオプションとして扱わない</translation>
+    </message>
+    <message>
+        <source>print a line of JSON for each emission of the signals, or of all signals, until interrupted</source>
+        <translation>指定したシグナル（指定がなければすべて）が発信されるたびに、中断されるまで JSON を 1 行ずつ表示する</translation>
+    </message>
+    <message>
+        <source>watch for SECONDS only</source>
+        <translation>SECONDS 秒間だけ監視する</translation>
+    </message>
+    <message>
+        <source>--for takes a number of seconds</source>
+        <translation>--for には秒数を指定します</translation>
+    </message>
+    <message>
+        <source>%1 takes no --for</source>
+        <translation>%1 に --for は使えません</translation>
+    </message>
+    <message>
+        <source>a SERVICE and SIGNALs</source>
+        <translation>SERVICE と SIGNAL</translation>
+    </message>
+    <message>
+        <source>%1: it has no signals</source>
+        <translation>%1: シグナルがありません</translation>
+    </message>
+    <message>
+        <source>%1: the connection ended; waiting for the endpoint</source>
+        <translation>%1: 接続が終了しました。エンドポイントを待っています</translation>
+    </message>
+    <message>
+        <source>%1: watching again; what changed meanwhile was missed</source>
+        <translation>%1: 監視を再開しました。その間の変更は表示されません</translation>
     </message>
     <message>
         <source>--timeout takes a number of milliseconds</source>
@@ -855,10 +887,6 @@
         <translation>印刷ジョブ %1、「%2」: %3、ページ数: %4、バイト数: %5。</translation>
     </message>
     <message>
-        <source>the command was not sent to &quot;%1&quot;: %2</source>
-        <translation>コマンドは「%1」に送信されませんでした: %2</translation>
-    </message>
-    <message>
         <source>Sent to %1: %2</source>
         <translation>%1 に送信しました: %2</translation>
     </message>
@@ -885,6 +913,34 @@
     <message>
         <source>title takes a status code or --all, found nothing</source>
         <translation>title には状態コードまたは --all を指定します。何も指定されていません</translation>
+    </message>
+    <message>
+        <source>send: wait until the job was printed or has left the queue</source>
+        <translation>send: ジョブが印刷されるか、キューからなくなるまで待つ</translation>
+    </message>
+    <message>
+        <source>send: also to a printer of another maker, also nothing</source>
+        <translation>send: 他社のプリンターにも、空のコマンドも送信する</translation>
+    </message>
+    <message>
+        <source>Print job %1, bytes: %2.</source>
+        <translation>印刷ジョブ %1、バイト数: %2。</translation>
+    </message>
+    <message>
+        <source>interrupted while print job %1 was in the queue of &quot;%2&quot;</source>
+        <translation>印刷ジョブ %1 が「%2」のキューにある間に中断されました</translation>
+    </message>
+    <message>
+        <source>--force sends it nevertheless.</source>
+        <translation>--force を使うと送信されます。</translation>
+    </message>
+    <message>
+        <source>the command was not sent: %1</source>
+        <translation>コマンドは送信されませんでした: %1</translation>
+    </message>
+    <message>
+        <source>print job %1 was not printed: %2</source>
+        <translation>印刷ジョブ %1 は印刷されませんでした: %2</translation>
     </message>
 </context>
 </TS>

@@ -463,8 +463,8 @@
         <translation> 或 </translation>
     </message>
     <message>
-        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, a number or a name printed by list</source>
-        <translation>未知服务“%1”；应为 supplyd、m4、printqd、编号或 list 输出的名称</translation>
+        <source>unknown service &quot;%1&quot;; expected supplyd, m4, printqd, status, a number or a name printed by list</source>
+        <translation>未知服务“%1”；应为 supplyd、m4、printqd、status、编号或 list 输出的名称</translation>
     </message>
     <message>
         <source>no arguments</source>
@@ -479,8 +479,8 @@
         <translation>一个 SERVICE、一个 METHOD 及其参数</translation>
     </message>
     <message>
-        <source>expected list, describe or call</source>
-        <translation>应为 list、describe 或 call</translation>
+        <source>expected list, describe, call or watch</source>
+        <translation>应为 list、describe、call 或 watch</translation>
     </message>
     <message>
         <source>unknown command &quot;%1&quot;; %2</source>
@@ -503,16 +503,16 @@
         <translation>列出端点：名称、服务、进程、应用程序</translation>
     </message>
     <message>
-        <source>list the methods of an endpoint</source>
-        <translation>列出端点的方法</translation>
+        <source>list the methods and signals of an endpoint</source>
+        <translation>列出端点的方法和信号</translation>
     </message>
     <message>
         <source>call a method and print its result</source>
         <translation>调用方法并输出结果</translation>
     </message>
     <message>
-        <source>SERVICE is supplyd, m4, printqd, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
-        <translation>SERVICE 是 supplyd、m4、printqd、一个编号，或 list 输出的名称。文本参数按原样使用，其他参数按 JSON 读取。</translation>
+        <source>SERVICE is supplyd, m4, printqd, status, a number, or a name printed by list. Arguments for text parameters are taken as they are, all others are read as JSON.</source>
+        <translation>SERVICE 是 supplyd、m4、printqd、status、一个编号，或 list 输出的名称。文本参数按原样使用，其他参数按 JSON 读取。</translation>
     </message>
     <message>
         <source>Options:</source>
@@ -533,6 +533,38 @@
     <message>
         <source>what follows is not an option</source>
         <translation>其后内容不是选项</translation>
+    </message>
+    <message>
+        <source>print a line of JSON for each emission of the signals, or of all signals, until interrupted</source>
+        <translation>每当所列信号（未列出时为所有信号）发出时输出一行 JSON，直到被中断</translation>
+    </message>
+    <message>
+        <source>watch for SECONDS only</source>
+        <translation>只监视 SECONDS 秒</translation>
+    </message>
+    <message>
+        <source>--for takes a number of seconds</source>
+        <translation>--for 需要一个秒数</translation>
+    </message>
+    <message>
+        <source>%1 takes no --for</source>
+        <translation>%1 不接受 --for</translation>
+    </message>
+    <message>
+        <source>a SERVICE and SIGNALs</source>
+        <translation>一个 SERVICE 和若干 SIGNAL</translation>
+    </message>
+    <message>
+        <source>%1: it has no signals</source>
+        <translation>%1：没有信号</translation>
+    </message>
+    <message>
+        <source>%1: the connection ended; waiting for the endpoint</source>
+        <translation>%1：连接已结束；正在等待端点</translation>
+    </message>
+    <message>
+        <source>%1: watching again; what changed meanwhile was missed</source>
+        <translation>%1：已恢复监视；期间的变化未显示</translation>
     </message>
     <message>
         <source>--timeout takes a number of milliseconds</source>
@@ -855,10 +887,6 @@
         <translation>打印作业 %1，“%2”：%3，页数：%4，字节数：%5。</translation>
     </message>
     <message>
-        <source>the command was not sent to &quot;%1&quot;: %2</source>
-        <translation>命令未发送到“%1”：%2</translation>
-    </message>
-    <message>
         <source>Sent to %1: %2</source>
         <translation>已发送到 %1：%2</translation>
     </message>
@@ -885,6 +913,34 @@
     <message>
         <source>title takes a status code or --all, found nothing</source>
         <translation>title 需要一个状态代码或 --all，实际为无</translation>
+    </message>
+    <message>
+        <source>send: wait until the job was printed or has left the queue</source>
+        <translation>send：等待作业打印完成或离开队列</translation>
+    </message>
+    <message>
+        <source>send: also to a printer of another maker, also nothing</source>
+        <translation>send：也发送到其他厂商的打印机，也发送空命令</translation>
+    </message>
+    <message>
+        <source>Print job %1, bytes: %2.</source>
+        <translation>打印作业 %1，字节数：%2。</translation>
+    </message>
+    <message>
+        <source>interrupted while print job %1 was in the queue of &quot;%2&quot;</source>
+        <translation>打印作业 %1 还在“%2”的队列中时被中断</translation>
+    </message>
+    <message>
+        <source>--force sends it nevertheless.</source>
+        <translation>使用 --force 仍会发送。</translation>
+    </message>
+    <message>
+        <source>the command was not sent: %1</source>
+        <translation>命令未发送：%1</translation>
+    </message>
+    <message>
+        <source>print job %1 was not printed: %2</source>
+        <translation>打印作业 %1 未打印：%2</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,117 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>VxKit</name>
+    <message>
+        <source>The print job cannot be followed: %1</source>
+        <translation>Der Druckauftrag kann nicht verfolgt werden: %1</translation>
+    </message>
+    <message>
+        <source>The print spooler does not answer: %1</source>
+        <translation>Die Druckwarteschlange antwortet nicht: %1</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>Der Drucker ist offline.</translation>
+    </message>
+    <message>
+        <source>The printer is out of labels.</source>
+        <translation>Die Etiketten sind aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>The printer is in error.</source>
+        <translation>Der Drucker hat eine Störung.</translation>
+    </message>
+    <message>
+        <source>The printer needs attention.</source>
+        <translation>Der Drucker braucht Aufmerksamkeit.</translation>
+    </message>
+    <message>
+        <source>The job is paused.</source>
+        <translation>Der Auftrag ist angehalten.</translation>
+    </message>
+    <message>
+        <source>The job is being deleted.</source>
+        <translation>Der Auftrag wird gelöscht.</translation>
+    </message>
+    <message>
+        <source>The driver cannot print the job.</source>
+        <translation>Der Treiber kann den Auftrag nicht drucken.</translation>
+    </message>
+    <message>
+        <source>The printer is paused.</source>
+        <translation>Der Drucker ist angehalten.</translation>
+    </message>
+    <message>
+        <source>Labels are jammed.</source>
+        <translation>Etiketten haben sich gestaut.</translation>
+    </message>
+    <message>
+        <source>The printer has a problem with its labels.</source>
+        <translation>Der Drucker hat ein Problem mit seinen Etiketten.</translation>
+    </message>
+    <message>
+        <source>The printer is not available.</source>
+        <translation>Der Drucker ist nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>The printer is open.</source>
+        <translation>Der Drucker ist offen.</translation>
+    </message>
+    <message>
+        <source>The printer is set to work offline.</source>
+        <translation>Der Drucker ist auf „Drucker offline verwenden“ gestellt.</translation>
+    </message>
+    <message>
+        <source>The command is empty.</source>
+        <translation>Der Befehl ist leer.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a label printer of a supported model.</source>
+        <translation>„%1“ ist kein Etikettendrucker eines unterstützten Modells.</translation>
+    </message>
+    <message>
+        <source>The print spooler took only the first %1 bytes of the command.</source>
+        <translation>Die Druckwarteschlange hat nur die ersten %1 Byte des Befehls angenommen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2</source>
+        <translation>„%1“ kann nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>The driver of &quot;%1&quot; cannot be queried: %2</source>
+        <translation>Der Treiber von „%1“ kann nicht abgefragt werden: %2</translation>
+    </message>
+    <message>
+        <source>The command cannot be sent to &quot;%1&quot;: %2</source>
+        <translation>Der Befehl kann nicht an „%1“ gesendet werden: %2</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>The job waits in the queue.</source>
+        <translation>Der Auftrag wartet in der Druckwarteschlange.</translation>
+    </message>
+    <message>
+        <source>The job is being printed.</source>
+        <translation>Der Auftrag wird gedruckt.</translation>
+    </message>
+    <message>
+        <source>The job has been printed.</source>
+        <translation>Der Auftrag wurde gedruckt.</translation>
+    </message>
+    <message>
+        <source>The job was deleted.</source>
+        <translation>Der Auftrag wurde gelöscht.</translation>
+    </message>
+    <message>
+        <source>The job has left the queue; whether it was printed is not known.</source>
+        <translation>Der Auftrag hat die Druckwarteschlange verlassen; ob er gedruckt wurde, ist nicht bekannt.</translation>
+    </message>
+</context>
+<context>
     <name>VxKit::StatusInfo</name>
     <message>
         <source>The printer is switched off, or it is not connected to this computer. Its driver is installed, and no fault has been reported.</source>

@@ -2,6 +2,117 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>VxKit</name>
+    <message>
+        <source>The print job cannot be followed: %1</source>
+        <translation>The print job cannot be followed: %1</translation>
+    </message>
+    <message>
+        <source>The print spooler does not answer: %1</source>
+        <translation>The print spooler does not answer: %1</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>The printer is offline.</translation>
+    </message>
+    <message>
+        <source>The printer is out of labels.</source>
+        <translation>The printer is out of labels.</translation>
+    </message>
+    <message>
+        <source>The printer is in error.</source>
+        <translation>The printer is in error.</translation>
+    </message>
+    <message>
+        <source>The printer needs attention.</source>
+        <translation>The printer needs attention.</translation>
+    </message>
+    <message>
+        <source>The job is paused.</source>
+        <translation>The job is paused.</translation>
+    </message>
+    <message>
+        <source>The job is being deleted.</source>
+        <translation>The job is being deleted.</translation>
+    </message>
+    <message>
+        <source>The driver cannot print the job.</source>
+        <translation>The driver cannot print the job.</translation>
+    </message>
+    <message>
+        <source>The printer is paused.</source>
+        <translation>The printer is paused.</translation>
+    </message>
+    <message>
+        <source>Labels are jammed.</source>
+        <translation>Labels are jammed.</translation>
+    </message>
+    <message>
+        <source>The printer has a problem with its labels.</source>
+        <translation>The printer has a problem with its labels.</translation>
+    </message>
+    <message>
+        <source>The printer is not available.</source>
+        <translation>The printer is not available.</translation>
+    </message>
+    <message>
+        <source>The printer is open.</source>
+        <translation>The printer is open.</translation>
+    </message>
+    <message>
+        <source>The printer is set to work offline.</source>
+        <translation>The printer is set to work offline.</translation>
+    </message>
+    <message>
+        <source>The command is empty.</source>
+        <translation>The command is empty.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a label printer of a supported model.</source>
+        <translation>&quot;%1&quot; is not a label printer of a supported model.</translation>
+    </message>
+    <message>
+        <source>The print spooler took only the first %1 bytes of the command.</source>
+        <translation>The print spooler took only the first %1 bytes of the command.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2</source>
+        <translation>&quot;%1&quot; cannot be opened: %2</translation>
+    </message>
+    <message>
+        <source>The driver of &quot;%1&quot; cannot be queried: %2</source>
+        <translation>The driver of &quot;%1&quot; cannot be queried: %2</translation>
+    </message>
+    <message>
+        <source>The command cannot be sent to &quot;%1&quot;: %2</source>
+        <translation>The command cannot be sent to &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Command</translation>
+    </message>
+    <message>
+        <source>The job waits in the queue.</source>
+        <translation>The job waits in the queue.</translation>
+    </message>
+    <message>
+        <source>The job is being printed.</source>
+        <translation>The job is being printed.</translation>
+    </message>
+    <message>
+        <source>The job has been printed.</source>
+        <translation>The job has been printed.</translation>
+    </message>
+    <message>
+        <source>The job was deleted.</source>
+        <translation>The job was deleted.</translation>
+    </message>
+    <message>
+        <source>The job has left the queue; whether it was printed is not known.</source>
+        <translation>The job has left the queue; whether it was printed is not known.</translation>
+    </message>
+</context>
+<context>
     <name>VxKit::StatusInfo</name>
     <message>
         <source>The printer is switched off, or it is not connected to this computer. Its driver is installed, and no fault has been reported.</source>

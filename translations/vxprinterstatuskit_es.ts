@@ -2,6 +2,117 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>VxKit</name>
+    <message>
+        <source>The print job cannot be followed: %1</source>
+        <translation>No se puede seguir el trabajo de impresión: %1</translation>
+    </message>
+    <message>
+        <source>The print spooler does not answer: %1</source>
+        <translation>El administrador de trabajos de impresión no responde: %1</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>La impresora está sin conexión.</translation>
+    </message>
+    <message>
+        <source>The printer is out of labels.</source>
+        <translation>La impresora se ha quedado sin etiquetas.</translation>
+    </message>
+    <message>
+        <source>The printer is in error.</source>
+        <translation>La impresora tiene un error.</translation>
+    </message>
+    <message>
+        <source>The printer needs attention.</source>
+        <translation>La impresora requiere atención.</translation>
+    </message>
+    <message>
+        <source>The job is paused.</source>
+        <translation>El trabajo está en pausa.</translation>
+    </message>
+    <message>
+        <source>The job is being deleted.</source>
+        <translation>El trabajo se está eliminando.</translation>
+    </message>
+    <message>
+        <source>The driver cannot print the job.</source>
+        <translation>El controlador no puede imprimir el trabajo.</translation>
+    </message>
+    <message>
+        <source>The printer is paused.</source>
+        <translation>La impresora está en pausa.</translation>
+    </message>
+    <message>
+        <source>Labels are jammed.</source>
+        <translation>Hay etiquetas atascadas.</translation>
+    </message>
+    <message>
+        <source>The printer has a problem with its labels.</source>
+        <translation>La impresora tiene un problema con las etiquetas.</translation>
+    </message>
+    <message>
+        <source>The printer is not available.</source>
+        <translation>La impresora no está disponible.</translation>
+    </message>
+    <message>
+        <source>The printer is open.</source>
+        <translation>La impresora está abierta.</translation>
+    </message>
+    <message>
+        <source>The printer is set to work offline.</source>
+        <translation>La impresora está configurada para trabajar sin conexión.</translation>
+    </message>
+    <message>
+        <source>The command is empty.</source>
+        <translation>El comando está vacío.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a label printer of a supported model.</source>
+        <translation>«%1» no es una impresora de etiquetas de un modelo compatible.</translation>
+    </message>
+    <message>
+        <source>The print spooler took only the first %1 bytes of the command.</source>
+        <translation>El administrador de trabajos de impresión solo aceptó los primeros %1 bytes del comando.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2</source>
+        <translation>No se puede abrir «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The driver of &quot;%1&quot; cannot be queried: %2</source>
+        <translation>No se puede consultar el controlador de «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The command cannot be sent to &quot;%1&quot;: %2</source>
+        <translation>No se puede enviar el comando a «%1»: %2</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>The job waits in the queue.</source>
+        <translation>El trabajo espera en la cola.</translation>
+    </message>
+    <message>
+        <source>The job is being printed.</source>
+        <translation>El trabajo se está imprimiendo.</translation>
+    </message>
+    <message>
+        <source>The job has been printed.</source>
+        <translation>El trabajo se ha impreso.</translation>
+    </message>
+    <message>
+        <source>The job was deleted.</source>
+        <translation>El trabajo se ha eliminado.</translation>
+    </message>
+    <message>
+        <source>The job has left the queue; whether it was printed is not known.</source>
+        <translation>El trabajo ha salido de la cola; no se sabe si se ha impreso.</translation>
+    </message>
+</context>
+<context>
     <name>VxKit::StatusInfo</name>
     <message>
         <source>The printer is switched off, or it is not connected to this computer. Its driver is installed, and no fault has been reported.</source>

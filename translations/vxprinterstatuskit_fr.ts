@@ -2,6 +2,117 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>VxKit</name>
+    <message>
+        <source>The print job cannot be followed: %1</source>
+        <translation>Le travail d’impression ne peut pas être suivi : %1</translation>
+    </message>
+    <message>
+        <source>The print spooler does not answer: %1</source>
+        <translation>Le spouleur d’impression ne répond pas : %1</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>L’imprimante est hors connexion.</translation>
+    </message>
+    <message>
+        <source>The printer is out of labels.</source>
+        <translation>L’imprimante n’a plus d’étiquettes.</translation>
+    </message>
+    <message>
+        <source>The printer is in error.</source>
+        <translation>L’imprimante est en erreur.</translation>
+    </message>
+    <message>
+        <source>The printer needs attention.</source>
+        <translation>L’imprimante requiert une intervention.</translation>
+    </message>
+    <message>
+        <source>The job is paused.</source>
+        <translation>Le travail est en pause.</translation>
+    </message>
+    <message>
+        <source>The job is being deleted.</source>
+        <translation>Le travail est en cours de suppression.</translation>
+    </message>
+    <message>
+        <source>The driver cannot print the job.</source>
+        <translation>Le pilote ne peut pas imprimer le travail.</translation>
+    </message>
+    <message>
+        <source>The printer is paused.</source>
+        <translation>L’imprimante est en pause.</translation>
+    </message>
+    <message>
+        <source>Labels are jammed.</source>
+        <translation>Des étiquettes sont coincées.</translation>
+    </message>
+    <message>
+        <source>The printer has a problem with its labels.</source>
+        <translation>L’imprimante a un problème avec ses étiquettes.</translation>
+    </message>
+    <message>
+        <source>The printer is not available.</source>
+        <translation>L’imprimante n’est pas disponible.</translation>
+    </message>
+    <message>
+        <source>The printer is open.</source>
+        <translation>L’imprimante est ouverte.</translation>
+    </message>
+    <message>
+        <source>The printer is set to work offline.</source>
+        <translation>L’imprimante est réglée pour fonctionner hors connexion.</translation>
+    </message>
+    <message>
+        <source>The command is empty.</source>
+        <translation>La commande est vide.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a label printer of a supported model.</source>
+        <translation>« %1 » n’est pas une imprimante d’étiquettes d’un modèle pris en charge.</translation>
+    </message>
+    <message>
+        <source>The print spooler took only the first %1 bytes of the command.</source>
+        <translation>Le spouleur d’impression n’a accepté que les %1 premiers octets de la commande.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2</source>
+        <translation>Impossible d’ouvrir « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>The driver of &quot;%1&quot; cannot be queried: %2</source>
+        <translation>Impossible d’interroger le pilote de « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>The command cannot be sent to &quot;%1&quot;: %2</source>
+        <translation>Impossible d’envoyer la commande à « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>The job waits in the queue.</source>
+        <translation>Le travail attend dans la file d’attente.</translation>
+    </message>
+    <message>
+        <source>The job is being printed.</source>
+        <translation>Le travail est en cours d’impression.</translation>
+    </message>
+    <message>
+        <source>The job has been printed.</source>
+        <translation>Le travail a été imprimé.</translation>
+    </message>
+    <message>
+        <source>The job was deleted.</source>
+        <translation>Le travail a été supprimé.</translation>
+    </message>
+    <message>
+        <source>The job has left the queue; whether it was printed is not known.</source>
+        <translation>Le travail a quitté la file d’attente ; on ne sait pas s’il a été imprimé.</translation>
+    </message>
+</context>
+<context>
     <name>VxKit::StatusInfo</name>
     <message>
         <source>The printer is switched off, or it is not connected to this computer. Its driver is installed, and no fault has been reported.</source>

@@ -2,6 +2,117 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>VxKit</name>
+    <message>
+        <source>The print job cannot be followed: %1</source>
+        <translation>Impossibile seguire il lavoro di stampa: %1</translation>
+    </message>
+    <message>
+        <source>The print spooler does not answer: %1</source>
+        <translation>Lo spooler di stampa non risponde: %1</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>La stampante è offline.</translation>
+    </message>
+    <message>
+        <source>The printer is out of labels.</source>
+        <translation>Le etichette sono esaurite.</translation>
+    </message>
+    <message>
+        <source>The printer is in error.</source>
+        <translation>La stampante è in errore.</translation>
+    </message>
+    <message>
+        <source>The printer needs attention.</source>
+        <translation>La stampante richiede attenzione.</translation>
+    </message>
+    <message>
+        <source>The job is paused.</source>
+        <translation>Il lavoro è in pausa.</translation>
+    </message>
+    <message>
+        <source>The job is being deleted.</source>
+        <translation>Il lavoro è in fase di eliminazione.</translation>
+    </message>
+    <message>
+        <source>The driver cannot print the job.</source>
+        <translation>Il driver non riesce a stampare il lavoro.</translation>
+    </message>
+    <message>
+        <source>The printer is paused.</source>
+        <translation>La stampante è in pausa.</translation>
+    </message>
+    <message>
+        <source>Labels are jammed.</source>
+        <translation>Ci sono etichette inceppate.</translation>
+    </message>
+    <message>
+        <source>The printer has a problem with its labels.</source>
+        <translation>La stampante ha un problema con le etichette.</translation>
+    </message>
+    <message>
+        <source>The printer is not available.</source>
+        <translation>La stampante non è disponibile.</translation>
+    </message>
+    <message>
+        <source>The printer is open.</source>
+        <translation>La stampante è aperta.</translation>
+    </message>
+    <message>
+        <source>The printer is set to work offline.</source>
+        <translation>La stampante è impostata per lavorare offline.</translation>
+    </message>
+    <message>
+        <source>The command is empty.</source>
+        <translation>Il comando è vuoto.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a label printer of a supported model.</source>
+        <translation>&quot;%1&quot; non è una stampante di etichette di un modello supportato.</translation>
+    </message>
+    <message>
+        <source>The print spooler took only the first %1 bytes of the command.</source>
+        <translation>Lo spooler di stampa ha accettato solo i primi %1 byte del comando.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2</source>
+        <translation>Impossibile aprire &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>The driver of &quot;%1&quot; cannot be queried: %2</source>
+        <translation>Impossibile interrogare il driver di &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>The command cannot be sent to &quot;%1&quot;: %2</source>
+        <translation>Impossibile inviare il comando a &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>The job waits in the queue.</source>
+        <translation>Il lavoro attende nella coda.</translation>
+    </message>
+    <message>
+        <source>The job is being printed.</source>
+        <translation>Il lavoro è in fase di stampa.</translation>
+    </message>
+    <message>
+        <source>The job has been printed.</source>
+        <translation>Il lavoro è stato stampato.</translation>
+    </message>
+    <message>
+        <source>The job was deleted.</source>
+        <translation>Il lavoro è stato eliminato.</translation>
+    </message>
+    <message>
+        <source>The job has left the queue; whether it was printed is not known.</source>
+        <translation>Il lavoro ha lasciato la coda; non si sa se sia stato stampato.</translation>
+    </message>
+</context>
+<context>
     <name>VxKit::StatusInfo</name>
     <message>
         <source>The printer is switched off, or it is not connected to this computer. Its driver is installed, and no fault has been reported.</source>

@@ -2,6 +2,117 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>VxKit</name>
+    <message>
+        <source>The print job cannot be followed: %1</source>
+        <translation>印刷ジョブを追跡できません: %1</translation>
+    </message>
+    <message>
+        <source>The print spooler does not answer: %1</source>
+        <translation>印刷スプーラーが応答しません: %1</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>プリンターはオフラインです。</translation>
+    </message>
+    <message>
+        <source>The printer is out of labels.</source>
+        <translation>ラベルがなくなりました。</translation>
+    </message>
+    <message>
+        <source>The printer is in error.</source>
+        <translation>プリンターでエラーが発生しています。</translation>
+    </message>
+    <message>
+        <source>The printer needs attention.</source>
+        <translation>プリンターの確認が必要です。</translation>
+    </message>
+    <message>
+        <source>The job is paused.</source>
+        <translation>ジョブは一時停止中です。</translation>
+    </message>
+    <message>
+        <source>The job is being deleted.</source>
+        <translation>ジョブを削除しています。</translation>
+    </message>
+    <message>
+        <source>The driver cannot print the job.</source>
+        <translation>ドライバーがジョブを印刷できません。</translation>
+    </message>
+    <message>
+        <source>The printer is paused.</source>
+        <translation>プリンターは一時停止中です。</translation>
+    </message>
+    <message>
+        <source>Labels are jammed.</source>
+        <translation>ラベルが詰まっています。</translation>
+    </message>
+    <message>
+        <source>The printer has a problem with its labels.</source>
+        <translation>プリンターのラベルに問題があります。</translation>
+    </message>
+    <message>
+        <source>The printer is not available.</source>
+        <translation>プリンターを使用できません。</translation>
+    </message>
+    <message>
+        <source>The printer is open.</source>
+        <translation>プリンターが開いています。</translation>
+    </message>
+    <message>
+        <source>The printer is set to work offline.</source>
+        <translation>プリンターはオフラインで使用するように設定されています。</translation>
+    </message>
+    <message>
+        <source>The command is empty.</source>
+        <translation>コマンドが空です。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a label printer of a supported model.</source>
+        <translation>「%1」は対応機種のラベルプリンターではありません。</translation>
+    </message>
+    <message>
+        <source>The print spooler took only the first %1 bytes of the command.</source>
+        <translation>印刷スプーラーはコマンドの最初の %1 バイトしか受け取りませんでした。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2</source>
+        <translation>「%1」を開けません: %2</translation>
+    </message>
+    <message>
+        <source>The driver of &quot;%1&quot; cannot be queried: %2</source>
+        <translation>「%1」のドライバーを照会できません: %2</translation>
+    </message>
+    <message>
+        <source>The command cannot be sent to &quot;%1&quot;: %2</source>
+        <translation>コマンドを「%1」に送信できません: %2</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>The job waits in the queue.</source>
+        <translation>ジョブはキューで待機しています。</translation>
+    </message>
+    <message>
+        <source>The job is being printed.</source>
+        <translation>ジョブを印刷しています。</translation>
+    </message>
+    <message>
+        <source>The job has been printed.</source>
+        <translation>ジョブは印刷されました。</translation>
+    </message>
+    <message>
+        <source>The job was deleted.</source>
+        <translation>ジョブは削除されました。</translation>
+    </message>
+    <message>
+        <source>The job has left the queue; whether it was printed is not known.</source>
+        <translation>ジョブはキューからなくなりました。印刷されたかどうかは不明です。</translation>
+    </message>
+</context>
+<context>
     <name>VxKit::StatusInfo</name>
     <message>
         <source>The printer is switched off, or it is not connected to this computer. Its driver is installed, and no fault has been reported.</source>

@@ -2,6 +2,117 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>VxKit</name>
+    <message>
+        <source>The print job cannot be followed: %1</source>
+        <translation>无法跟踪打印作业：%1</translation>
+    </message>
+    <message>
+        <source>The print spooler does not answer: %1</source>
+        <translation>打印后台处理程序无响应：%1</translation>
+    </message>
+    <message>
+        <source>The printer is offline.</source>
+        <translation>打印机已脱机。</translation>
+    </message>
+    <message>
+        <source>The printer is out of labels.</source>
+        <translation>标签已用完。</translation>
+    </message>
+    <message>
+        <source>The printer is in error.</source>
+        <translation>打印机出错。</translation>
+    </message>
+    <message>
+        <source>The printer needs attention.</source>
+        <translation>打印机需要处理。</translation>
+    </message>
+    <message>
+        <source>The job is paused.</source>
+        <translation>作业已暂停。</translation>
+    </message>
+    <message>
+        <source>The job is being deleted.</source>
+        <translation>正在删除作业。</translation>
+    </message>
+    <message>
+        <source>The driver cannot print the job.</source>
+        <translation>驱动程序无法打印该作业。</translation>
+    </message>
+    <message>
+        <source>The printer is paused.</source>
+        <translation>打印机已暂停。</translation>
+    </message>
+    <message>
+        <source>Labels are jammed.</source>
+        <translation>标签卡住。</translation>
+    </message>
+    <message>
+        <source>The printer has a problem with its labels.</source>
+        <translation>打印机的标签有问题。</translation>
+    </message>
+    <message>
+        <source>The printer is not available.</source>
+        <translation>打印机不可用。</translation>
+    </message>
+    <message>
+        <source>The printer is open.</source>
+        <translation>打印机已打开盖子。</translation>
+    </message>
+    <message>
+        <source>The printer is set to work offline.</source>
+        <translation>打印机已设为脱机使用。</translation>
+    </message>
+    <message>
+        <source>The command is empty.</source>
+        <translation>命令为空。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a label printer of a supported model.</source>
+        <translation>“%1”不是受支持型号的标签打印机。</translation>
+    </message>
+    <message>
+        <source>The print spooler took only the first %1 bytes of the command.</source>
+        <translation>打印后台处理程序只接收了命令的前 %1 个字节。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2</source>
+        <translation>无法打开“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The driver of &quot;%1&quot; cannot be queried: %2</source>
+        <translation>无法查询“%1”的驱动程序：%2</translation>
+    </message>
+    <message>
+        <source>The command cannot be sent to &quot;%1&quot;: %2</source>
+        <translation>无法将命令发送到“%1”：%2</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>The job waits in the queue.</source>
+        <translation>作业在队列中等待。</translation>
+    </message>
+    <message>
+        <source>The job is being printed.</source>
+        <translation>正在打印作业。</translation>
+    </message>
+    <message>
+        <source>The job has been printed.</source>
+        <translation>作业已打印。</translation>
+    </message>
+    <message>
+        <source>The job was deleted.</source>
+        <translation>作业已删除。</translation>
+    </message>
+    <message>
+        <source>The job has left the queue; whether it was printed is not known.</source>
+        <translation>作业已离开队列；不知道是否已打印。</translation>
+    </message>
+</context>
+<context>
     <name>VxKit::StatusInfo</name>
     <message>
         <source>The printer is switched off, or it is not connected to this computer. Its driver is installed, and no fault has been reported.</source>

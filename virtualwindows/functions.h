@@ -19,11 +19,14 @@ namespace virtualwindows {
     ENTRY(DeletePrinter)                                                                           \
     ENTRY(EndDocPrinter)                                                                           \
     ENTRY(EndPagePrinter)                                                                          \
+    ENTRY(EnumJobsW)                                                                               \
     ENTRY(EnumPrintersW)                                                                           \
     ENTRY(FindClosePrinterChangeNotification)                                                      \
     ENTRY(FindFirstPrinterChangeNotification)                                                      \
     ENTRY(FindNextPrinterChangeNotification)                                                       \
+    ENTRY(FreePrinterNotifyInfo)                                                                   \
     ENTRY(GetDefaultPrinterW)                                                                      \
+    ENTRY(GetJobW)                                                                                 \
     ENTRY(GetPrinterDataA)                                                                         \
     ENTRY(GetPrinterDataW)                                                                         \
     ENTRY(GetPrinterW)                                                                             \
@@ -36,6 +39,7 @@ namespace virtualwindows {
     ENTRY(ResetEvent)                                                                              \
     ENTRY(SetDefaultPrinterW)                                                                      \
     ENTRY(SetEvent)                                                                                \
+    ENTRY(SetJobW)                                                                                 \
     ENTRY(SetPrinterDataA)                                                                         \
     ENTRY(SetPrinterDataW)                                                                         \
     ENTRY(SetPrinterW)                                                                             \

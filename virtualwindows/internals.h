@@ -13,6 +13,7 @@
 #include <condition_variable>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <span>
 #include <unordered_map>
 #include <vector>
@@ -68,6 +69,13 @@ struct Event final : Waitable
     {}
 };
 
+/// The status that a job had at some time.
+struct JobStatus
+{
+    DWORD job;
+    DWORD status;
+};
+
 /// A change notification. It is signalled from the first change that matches its filter until it is
 /// re-armed. Changes in between are collected, so none is lost between the wake-up and the
 /// re-arming.
@@ -80,7 +88,10 @@ struct ChangeNotification final : Waitable
     std::shared_ptr<Printer> printer; ///< null: all printers of the spooler
     DWORD filter = 0;
     DWORD changes = 0;
-    bool dead = false; ///< its printer handle was closed, or the spooler was stopped
+    bool reportsJobStatuses = false; ///< the status of a job was asked for as a detail
+    std::vector<JobStatus> jobStatuses;
+    bool lostJobStatuses = false; ///< there were more than are collected
+    bool dead = false;            ///< its printer handle was closed, or the spooler was stopped
 };
 
 struct Value
@@ -103,6 +114,14 @@ struct Printer
     bool deleted = false;
     QMap<QByteArray, Value> values; ///< by lower-case name, because registry names ignore case
     QList<PrintJob> jobs;
+
+    DWORD writeLimit = 0xFFFFFFFF; ///< in bytes a call
+
+    // The job that is being printed.
+    quint32 jobInPrint = 0; ///< 0: none
+    bool isMoving = false;  ///< it is not held, and is done at the time `jobDone`
+    std::chrono::nanoseconds jobDone{};
+    std::chrono::nanoseconds timeLeft{}; ///< while the job is held
 };
 
 struct PrinterHandleObject final : Object
@@ -170,6 +189,7 @@ struct Machine::Private
     DWORD spoolerState = SERVICE_RUNNING;
     quint32 nextJob = 1;
     std::vector<std::weak_ptr<ChangeNotification>> notifications;
+    std::vector<Printer*> movingPrinters; ///< those on which a job is being printed and not held
     QList<DeviceClass> deviceClasses;
 
     // Calls.
@@ -217,13 +237,33 @@ struct Machine::Private
     bool trySatisfy(Waiter& waiter);
     void finish(Waiter& waiter, DWORD result);
     DWORD wait(std::span<const HANDLE> handles, bool all, DWORD milliseconds, const ApiCall& call);
+    /// Blocks until the wait is over.
+    void block(Waiter& waiter, std::unique_lock<std::mutex>& guard);
+    /// Lets driven time pass to a moment and ends the waits that have timed out by then.
+    void passTimeTo(std::chrono::milliseconds moment);
 
     std::shared_ptr<Printer> printerNamed(const QString& name) const;
     void add(const std::shared_ptr<Printer>& printer);
     void addName(const std::shared_ptr<Printer>& printer);
     /// To be called after a printer was renamed or removed.
     void rebuildNames();
-    void notify(const Printer* printer, DWORD change);
+    /// Signals a change; `job` is the job whose status has changed, if one has.
+    void notify(const Printer* printer, DWORD change, const PrintJob* job = nullptr);
+
+    // Jobs that print.
+    std::chrono::nanoseconds now() const;
+    /// When the next job will have been printed, if one is being printed.
+    std::optional<std::chrono::nanoseconds> nextJobDone() const;
+    /// Brings the jobs up to date with the time.
+    void catchUp();
+    /// Brings the printer's jobs up to date. To be called after anything has changed that holds or
+    /// releases them.
+    void updateJobs(Printer& printer);
+    void changeJob(Printer& printer, PrintJob& job, DWORD status);
+    /// Removes a job from the queue, deleted before it was printed, or as soon as the printer has
+    /// what is on its way.
+    void deleteJob(Printer& printer, quint32 id);
+    void stopPrinting(Printer& printer);
     void removePrinter(Printer& printer);
     void setSpoolerState(DWORD state);
     bool isSpoolerRunning() const { return spoolerState == SERVICE_RUNNING; }

@@ -111,6 +111,7 @@ DWORD Machine::Private::wait(std::span<const HANDLE> handles, bool all, DWORD mi
     if (all && hasDuplicates(waiter.objects))
         return failWith(ERROR_INVALID_PARAMETER, WAIT_FAILED);
 
+    catchUp();
     if (trySatisfy(waiter))
         return waiter.result;
     if (milliseconds == 0)
@@ -128,14 +129,30 @@ DWORD Machine::Private::wait(std::span<const HANDLE> handles, bool all, DWORD mi
     if (watchers > 0)
         waitingChanged.notify_all();
 
+    block(waiter, guard);
+    return waiter.result;
+}
+
+void Machine::Private::block(Waiter& waiter, std::unique_lock<std::mutex>& guard)
+{
+    using Clock = std::chrono::steady_clock;
     while (!waiter.done) {
-        if (driven || waiter.endless)
+        // No other thread moves the jobs on in real time, so those who wait do.
+        const auto nextDone = driven ? std::nullopt : nextJobDone();
+        if (driven || (waiter.endless && !nextDone)) {
             waiter.wake.wait(guard);
-        else if (waiter.wake.wait_until(guard, waiter.deadline) == std::cv_status::timeout &&
-                 !waiter.done && !driven)
+            continue;
+        }
+        const Clock::time_point jobDone(
+            std::chrono::duration_cast<Clock::duration>(nextDone.value_or(Clock::duration::max())));
+        const Clock::time_point until =
+            waiter.endless ? jobDone : std::min(jobDone, waiter.deadline);
+        if (waiter.wake.wait_until(guard, until) != std::cv_status::timeout || driven)
+            continue;
+        catchUp();
+        if (!waiter.done && !waiter.endless && Clock::now() >= waiter.deadline)
             finish(waiter, WAIT_TIMEOUT);
     }
-    return waiter.result;
 }
 
 void Machine::driveTime(bool driven)
@@ -143,7 +160,10 @@ void Machine::driveTime(bool driven)
     const std::lock_guard guard(d->lock);
     if (d->driven == driven)
         return;
+    const std::chrono::nanoseconds before = d->now();
     d->driven = driven;
+    for (Printer* printer : d->movingPrinters)
+        printer->jobDone += d->now() - before;
     // Current waits keep their remaining time.
     const auto now = std::chrono::steady_clock::now();
     for (Waiter* waiter : d->waiting) {
@@ -159,17 +179,27 @@ void Machine::driveTime(bool driven)
 void Machine::advance(std::chrono::milliseconds time)
 {
     const std::lock_guard guard(d->lock);
-    d->drivenNow += time;
+    const std::chrono::milliseconds end = d->drivenNow + time;
+    // A job that has been printed may start the next one, so each has its own moment.
+    for (auto done = d->nextJobDone(); done && *done <= end; done = d->nextJobDone())
+        d->passTimeTo(std::max(d->drivenNow, std::chrono::ceil<std::chrono::milliseconds>(*done)));
+    d->passTimeTo(end);
+}
+
+void Machine::Private::passTimeTo(std::chrono::milliseconds moment)
+{
+    drivenNow = moment;
     // Earlier time-outs end first.
     std::vector<Waiter*> due;
-    std::copy_if(
-        d->waiting.begin(), d->waiting.end(), std::back_inserter(due),
-        [&](Waiter* waiter) { return !waiter->endless && waiter->drivenDeadline <= d->drivenNow; });
+    std::copy_if(waiting.begin(), waiting.end(), std::back_inserter(due), [&](Waiter* waiter) {
+        return !waiter->endless && waiter->drivenDeadline <= drivenNow;
+    });
     std::stable_sort(due.begin(), due.end(), [](const Waiter* left, const Waiter* right) {
         return left->drivenDeadline < right->drivenDeadline;
     });
     for (Waiter* waiter : due)
-        d->finish(*waiter, WAIT_TIMEOUT);
+        finish(*waiter, WAIT_TIMEOUT);
+    catchUp();
 }
 
 bool Machine::waitForWaitingThreads(int count, std::chrono::milliseconds limit)

@@ -51,6 +51,7 @@ void Machine::reset()
     d->spoolerState = SERVICE_RUNNING;
     d->nextJob = 1;
     d->notifications.clear();
+    d->movingPrinters.clear();
     d->deviceClasses.clear();
     d->calls.clear();
     d->recording = false;
@@ -96,15 +97,21 @@ void Machine::Private::rebuildNames()
         addName(printer);
 }
 
-void Machine::Private::notify(const Printer* printer, DWORD change)
+void Machine::Private::notify(const Printer* printer, DWORD change, const PrintJob* job)
 {
+    constexpr std::size_t mostJobStatuses = 1000;
     std::erase_if(notifications, [](const auto& notification) { return notification.expired(); });
     for (const auto& entry : notifications) {
         const std::shared_ptr<ChangeNotification> notification = entry.lock();
         const bool isWatched = !notification->printer || notification->printer.get() == printer;
         const DWORD changes = change & notification->filter;
-        if (!isWatched || !changes || notification->dead)
+        const bool isDetail = job && notification->reportsJobStatuses;
+        if (!isWatched || !(changes || isDetail) || notification->dead)
             continue;
+        if (isDetail && notification->jobStatuses.size() < mostJobStatuses)
+            notification->jobStatuses.push_back({job->id, job->status});
+        else if (isDetail)
+            notification->lostJobStatuses = true;
         notification->changes |= changes;
         signal(*notification);
     }
@@ -113,6 +120,8 @@ void Machine::Private::notify(const Printer* printer, DWORD change)
 void Machine::Private::setSpoolerState(DWORD state)
 {
     spoolerState = state;
+    for (const auto& printer : std::as_const(printers))
+        updateJobs(*printer);
     if (isSpoolerRunning())
         return;
     // All handles from the service end with it.
@@ -159,6 +168,7 @@ void changePrinter(Machine::Private& machine, const QString& name, Change change
     Printer& printer = existing(machine, name);
     change(printer);
     machine.notify(&printer, PRINTER_CHANGE_SET_PRINTER);
+    machine.updateJobs(printer);
 }
 
 } // namespace
@@ -183,6 +193,7 @@ void Machine::Private::removePrinter(Printer& printer)
     if (defaultPrinter == printer.setup.name)
         defaultPrinter = QString();
     printer.deleted = true;
+    stopPrinting(printer);
     notify(&printer, PRINTER_CHANGE_DELETE_PRINTER);
     printers.removeIf([&](const auto& entry) { return entry.get() == &printer; });
     rebuildNames();
@@ -229,6 +240,18 @@ void Machine::setDefaultPrinter(const QString& name)
     d->defaultPrinter = name;
 }
 
+void Machine::setPrintingTime(const QString& name, std::chrono::milliseconds time)
+{
+    const std::lock_guard guard(d->lock);
+    existing(*d, name).setup.printingTime = time;
+}
+
+void Machine::limitWrites(const QString& name, quint32 bytes)
+{
+    const std::lock_guard guard(d->lock);
+    existing(*d, name).writeLimit = bytes;
+}
+
 QStringList Machine::printers() const
 {
     const std::lock_guard guard(d->lock);
@@ -265,6 +288,7 @@ void Machine::notify(const QString& printer, quint32 change)
 QList<PrintJob> Machine::jobs(const QString& printer) const
 {
     const std::lock_guard guard(d->lock);
+    d->catchUp();
     return existing(*d, printer).jobs;
 }
 

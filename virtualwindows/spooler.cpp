@@ -2,13 +2,16 @@
 // Copyright The VxPrinterStatus authors
 //
 // Printers, their handles, records and values, and the notifications of their changes.
+#include "record_block.h"
 #include "spooler_handles.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <cstring>
 #include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 using namespace virtualwindows;
@@ -206,50 +209,8 @@ DWORD setPrinterData(const ApiCall& call, HANDLE handle, const std::optional<QBy
                            static_cast<qsizetype>(value.size));
     object->printer->values.insert(*name, convert(value.type, bytes));
     machine().notify(object->printer.get(), PRINTER_CHANGE_SET_PRINTER);
+    machine().updateJobs(*object->printer);
     return ERROR_SUCCESS;
-}
-
-/// A block with records, followed by the texts that they point to.
-class RecordBlock
-{
-public:
-    RecordBlock(LPBYTE start, std::size_t sizeOfRecords)
-        : m_start(start)
-        , m_used(sizeOfRecords)
-    {}
-
-    /// Appends the texts as one. Without a block, only their size is counted.
-    template <typename... Texts>
-    LPWSTR add(const Texts&... texts)
-    {
-        const LPBYTE place = m_start ? m_start + m_used : nullptr;
-        (append(texts), ...);
-        append(QStringView(u"\0", 1));
-        return reinterpret_cast<LPWSTR>(place);
-    }
-    /// The same for a text that may be null.
-    LPWSTR addIfAny(const QString& text) { return text.isNull() ? nullptr : add(text); }
-
-    DWORD used() const { return static_cast<DWORD>(m_used); }
-
-private:
-    void append(QStringView text)
-    {
-        const auto size = static_cast<std::size_t>(text.size()) * sizeof(WCHAR);
-        if (m_start && size)
-            std::memcpy(m_start + m_used, text.utf16(), size);
-        m_used += size;
-    }
-
-    LPBYTE m_start;
-    std::size_t m_used;
-};
-
-/// Jobs that are still in the queue.
-DWORD waitingJobs(const Printer& printer)
-{
-    return static_cast<DWORD>(std::count_if(printer.jobs.begin(), printer.jobs.end(),
-                                            [](const PrintJob& job) { return !job.finished; }));
 }
 
 /// A listing of level 1 by name lists print providers. This machine has one, for its own printers.
@@ -328,26 +289,12 @@ PRINTER_INFO_7W describe(const Printer& /*printer*/, RecordBlock& /*block*/, PRI
     return {nullptr, DSPRINT_UNPUBLISH};
 }
 
-/// Sizes or fills a block with one record for each source: a printer or a print provider.
 template <typename Record, typename Source>
 BOOL fill(std::span<const Source* const> sources, LPBYTE start, DWORD size, LPDWORD needed)
 {
-    const std::size_t sizeOfRecords = sources.size() * sizeof(Record);
-    RecordBlock sizing(nullptr, sizeOfRecords);
-    for (const Source* source : sources)
-        describe(*source, sizing, static_cast<Record*>(nullptr));
-    *needed = sizing.used();
-    if (size < *needed)
-        return failWith(ERROR_INSUFFICIENT_BUFFER, FALSE);
-
-    RecordBlock block(start, sizeOfRecords);
-    LPBYTE place = start;
-    for (const Source* source : sources) {
-        const Record record = describe(*source, block, static_cast<Record*>(nullptr));
-        std::memcpy(place, &record, sizeof record);
-        place += sizeof record;
-    }
-    return TRUE;
+    return fillRecords(sources, start, size, needed, [](const Source& source, RecordBlock& block) {
+        return describe(source, block, static_cast<Record*>(nullptr));
+    });
 }
 
 struct RecordLevel
@@ -391,9 +338,20 @@ bool isEnumerated(const Printer& printer, DWORD flags)
                                            : PRINTER_ENUM_LOCAL | PRINTER_ENUM_NAME)) != 0;
 }
 
+/// Deletes all jobs of the queue.
+void purge(Printer& printer)
+{
+    QList<quint32> queued;
+    for (const PrintJob& job : std::as_const(printer.jobs)) {
+        if (job.queued)
+            queued.append(job.id);
+    }
+    for (const quint32 id : std::as_const(queued))
+        machine().deleteJob(printer, id);
+}
+
 BOOL controlPrinter(Printer& printer, DWORD command, LPBYTE argument)
 {
-    DWORD change = PRINTER_CHANGE_SET_PRINTER;
     switch (command) {
     case PRINTER_CONTROL_PAUSE:
         printer.setup.status |= PRINTER_STATUS_PAUSED;
@@ -402,9 +360,8 @@ BOOL controlPrinter(Printer& printer, DWORD command, LPBYTE argument)
         printer.setup.status &= ~PRINTER_STATUS_PAUSED;
         break;
     case PRINTER_CONTROL_PURGE:
-        printer.jobs.removeIf([](const PrintJob& job) { return !job.finished; });
-        change = PRINTER_CHANGE_DELETE_JOB;
-        break;
+        purge(printer);
+        return TRUE;
     case PRINTER_CONTROL_SET_STATUS:
         // The status is passed in place of the pointer.
         printer.setup.status = static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(argument));
@@ -412,7 +369,8 @@ BOOL controlPrinter(Printer& printer, DWORD command, LPBYTE argument)
     default:
         return failWith(ERROR_INVALID_PRINTER_COMMAND, FALSE);
     }
-    machine().notify(&printer, change);
+    machine().notify(&printer, PRINTER_CHANGE_SET_PRINTER);
+    machine().updateJobs(printer);
     return TRUE;
 }
 
@@ -437,6 +395,7 @@ BOOL changePrinter(Printer& printer, const PRINTER_INFO_2W& info)
     printer.location = fromWide(info.pLocation);
     printer.setup.attributes = info.Attributes;
     machine().notify(&printer, PRINTER_CHANGE_SET_PRINTER);
+    machine().updateJobs(printer);
     return TRUE;
 }
 
@@ -525,6 +484,7 @@ BOOL WINAPI GetPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pPrinter, DWORD cbB
     const RecordLevel* const level = findLevel(Level);
     if (!level)
         return failWith(ERROR_INVALID_LEVEL, FALSE);
+    machine().catchUp();
     const Printer* const printer = object->printer.get();
     return level->fill({&printer, 1}, pPrinter, cbBuf, pcbNeeded);
 }
@@ -586,6 +546,7 @@ BOOL WINAPI EnumPrintersW(DWORD Flags, LPWSTR Name, DWORD Level, LPBYTE pPrinter
         }
     }
 
+    machine().catchUp();
     std::vector<const Printer*> listed;
     listed.reserve(static_cast<std::size_t>(machine().printers.size()));
     for (const auto& printer : std::as_const(machine().printers)) {
@@ -705,6 +666,45 @@ BOOL WINAPI DeletePrinter(HANDLE hPrinter)
     return TRUE;
 }
 
+namespace {
+
+/// Of all details, only the status of jobs can be asked for here.
+bool areKnown(const PRINTER_NOTIFY_OPTIONS& options)
+{
+    if (options.Count != 1 || !options.pTypes)
+        return false;
+    const PRINTER_NOTIFY_OPTIONS_TYPE& type = *options.pTypes;
+    return type.Type == JOB_NOTIFY_TYPE && type.Count == 1 && type.pFields &&
+           *type.pFields == JOB_NOTIFY_FIELD_STATUS;
+}
+
+/// The details that were collected since the last call, in a block of their own; null if there are
+/// none.
+PRINTER_NOTIFY_INFO* takeDetails(ChangeNotification& notification)
+{
+    const std::vector<JobStatus> statuses = std::exchange(notification.jobStatuses, {});
+    const bool lost = std::exchange(notification.lostJobStatuses, false);
+    if (statuses.empty() && !lost)
+        return nullptr;
+    const std::size_t size =
+        sizeof(PRINTER_NOTIFY_INFO) + statuses.size() * sizeof(PRINTER_NOTIFY_INFO_DATA);
+    auto* const info = static_cast<PRINTER_NOTIFY_INFO*>(std::calloc(1, size));
+    info->Version = 2;
+    info->Flags = lost ? PRINTER_NOTIFY_INFO_DISCARDED : 0;
+    info->Count = static_cast<DWORD>(statuses.size());
+    PRINTER_NOTIFY_INFO_DATA* entry = info->aData;
+    for (const JobStatus& status : statuses) {
+        entry->Type = JOB_NOTIFY_TYPE;
+        entry->Field = JOB_NOTIFY_FIELD_STATUS;
+        entry->Id = status.job;
+        entry->NotifyData.adwData[0] = status.status;
+        ++entry;
+    }
+    return info;
+}
+
+} // namespace
+
 HANDLE WINAPI FindFirstPrinterChangeNotification(HANDLE hPrinter, DWORD fdwFilter, DWORD fdwOptions,
                                                  LPVOID pPrinterNotifyOptions)
 {
@@ -717,13 +717,14 @@ HANDLE WINAPI FindFirstPrinterChangeNotification(HANDLE hPrinter, DWORD fdwFilte
     const auto object = livePrinterHandle(hPrinter, call);
     if (!object)
         return INVALID_HANDLE_VALUE;
-    // Detailed notifications (the options) are not supported here, so a filter is required.
-    if (!fdwFilter || pPrinterNotifyOptions)
+    const auto* const options = static_cast<const PRINTER_NOTIFY_OPTIONS*>(pPrinterNotifyOptions);
+    if (options ? !areKnown(*options) : !fdwFilter)
         return failWith(ERROR_INVALID_PARAMETER, INVALID_HANDLE_VALUE);
 
     auto notification = std::make_shared<ChangeNotification>();
     notification->printer = object->printer;
     notification->filter = fdwFilter;
+    notification->reportsJobStatuses = options != nullptr;
     machine().notifications.push_back(notification);
     std::erase_if(object->notifications, [](const auto& entry) { return entry.expired(); });
     object->notifications.push_back(notification);
@@ -740,6 +741,7 @@ BOOL WINAPI FindNextPrinterChangeNotification(HANDLE hChange, LPDWORD pdwChange,
         return FALSE;
 
     const std::lock_guard guard(machine().lock);
+    machine().catchUp();
     const auto notification =
         machine().find<ChangeNotification>(hChange, Object::Kind::ChangeNotification, call);
     if (!notification)
@@ -749,8 +751,10 @@ BOOL WINAPI FindNextPrinterChangeNotification(HANDLE hChange, LPDWORD pdwChange,
     if (pdwChange)
         *pdwChange = notification->changes;
     if (ppPrinterNotifyInfo)
-        *ppPrinterNotifyInfo = nullptr;
+        *ppPrinterNotifyInfo = takeDetails(*notification);
     notification->changes = 0;
+    notification->jobStatuses.clear();
+    notification->lostJobStatuses = false;
     notification->signalled = false;
     return TRUE;
 }
@@ -766,4 +770,12 @@ BOOL WINAPI FindClosePrinterChangeNotification(HANDLE hChange)
     if (object->dead)
         return failWith(machine().errorOfDeadHandles(), FALSE);
     return TRUE;
+}
+
+BOOL WINAPI FreePrinterNotifyInfo(PRINTER_NOTIFY_INFO* pPrinterNotifyInfo)
+{
+    const ApiCall call(Function::FreePrinterNotifyInfo, HANDLE(pPrinterNotifyInfo));
+    // Like the calls that close a handle, it frees the block even when it is planned to fail.
+    std::free(pPrinterNotifyInfo);
+    return !call.failsAsPlanned();
 }

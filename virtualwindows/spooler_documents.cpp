@@ -54,7 +54,9 @@ void virtualwindows::endDocument(PrinterHandleObject& handle)
     if (!job)
         return;
     job->finished = true;
-    machine().notify(handle.printer.get(), PRINTER_CHANGE_SET_JOB);
+    Printer& printer = *handle.printer;
+    machine().changeJob(printer, *job, job->status & ~DWORD{JOB_STATUS_SPOOLING});
+    machine().updateJobs(printer);
 }
 
 DWORD WINAPI StartDocPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pDocInfo)
@@ -80,9 +82,11 @@ DWORD WINAPI StartDocPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pDocInfo)
     job.document = fromWide(info.pDocName);
     job.outputFile = fromWide(info.pOutputFile);
     job.datatype = fromWide(info.pDatatype);
+    job.status = JOB_STATUS_SPOOLING;
+    job.submitted = QDateTime::currentDateTimeUtc();
     object->openJob = job.id;
     object->printer->jobs.append(job);
-    machine().notify(object->printer.get(), PRINTER_CHANGE_ADD_JOB);
+    machine().notify(object->printer.get(), PRINTER_CHANGE_ADD_JOB, &job);
     return job.id;
 }
 
@@ -109,9 +113,9 @@ BOOL WINAPI WritePrinter(HANDLE hPrinter, LPVOID pBuf, DWORD cbBuf, LPDWORD pcWr
                           // The spooler also passes on bytes outside of a page.
                           if (job.pages.isEmpty())
                               job.pages.append(QByteArray());
+                          *pcWritten = std::min(cbBuf, handle.printer->writeLimit);
                           job.pages.last().append(static_cast<const char*>(pBuf),
-                                                  static_cast<qsizetype>(cbBuf));
-                          *pcWritten = cbBuf;
+                                                  static_cast<qsizetype>(*pcWritten));
                           machine().notify(handle.printer.get(), PRINTER_CHANGE_WRITE_JOB);
                           return true;
                       });

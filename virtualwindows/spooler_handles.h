@@ -16,6 +16,9 @@ std::shared_ptr<PrinterHandleObject> livePrinterHandle(HANDLE handle, const ApiC
 std::shared_ptr<PrinterHandleObject> handleOfPrinter(HANDLE handle, const ApiCall& call,
                                                      ACCESS_MASK access);
 
+/// Jobs that are still in the queue.
+DWORD waitingJobs(const Printer& printer);
+
 /// Finishes the job that is being written through the handle, if any.
 void endDocument(PrinterHandleObject& handle);
 

@@ -71,7 +71,7 @@ int main(int argc, char* argv[])
     if (titles.load(QLocale(), "vxprinterstatus", "_", ":/vxprinterstatus/translations"))
         QCoreApplication::installTranslator(&titles);
     QTranslator texts;
-    if (texts.load(QLocale(), "minimal_host", "_", ":/i18n"))
+    if (texts.load(QLocale(), "minimal_host", "_", ":/minimal_host/translations"))
         QCoreApplication::installTranslator(&texts);
 
     QStringList arguments = QCoreApplication::arguments().mid(1);

@@ -38,7 +38,7 @@ int main(int argc, char* argv[])
     if (titles.load(QLocale(), "vxprinterstatus", "_", ":/vxprinterstatus/translations"))
         QCoreApplication::installTranslator(&titles);
     QTranslator texts;
-    if (texts.load(QLocale(), "widgets_host", "_", ":/i18n"))
+    if (texts.load(QLocale(), "widgets_host", "_", ":/widgets_host/translations"))
         QCoreApplication::installTranslator(&texts);
 
     PrinterWindow window;

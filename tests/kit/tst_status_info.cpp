@@ -11,6 +11,7 @@
 #include <QtCore/QTranslator>
 #include <QtTest/QtTest>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <limits>
@@ -386,18 +387,20 @@ void StatusInfoTest::jsonHoldsEverything()
 
 void StatusInfoTest::manyThreadsGetTheSameTexts()
 {
-    constexpr int threadCount = 16;
-    std::atomic_int waiting = threadCount;
+    // No more than can run at the same time, so that they do load a language at the same time.
+    const unsigned threadCount = std::clamp(std::thread::hardware_concurrency(), 2U, 8U);
     std::vector<QList<QList<StatusInfo>>> found(threadCount);
     std::vector<std::thread> threads;
-    threads.reserve(threadCount);
+    // How many times a thread has come to the next language.
+    std::atomic_uint arrivals = 0;
     for (QList<QList<StatusInfo>>& lists : found) {
-        threads.emplace_back([&waiting, &lists] {
-            --waiting;
-            while (waiting > 0)
-                std::this_thread::yield();
-            for (const QString& tag : tags)
-                lists.append(allStatusInfo(tag));
+        threads.emplace_back([&arrivals, &lists, threadCount] {
+            for (qsizetype i = 0; i < tags.size(); ++i) {
+                ++arrivals;
+                while (arrivals < threadCount * static_cast<unsigned>(i + 1))
+                    ;
+                lists.append(allStatusInfo(tags.at(i)));
+            }
         });
     }
     for (std::thread& thread : threads)

@@ -181,7 +181,7 @@ class Output(unittest.TestCase):
                     else:
                         # Only what the user types is the same.
                         for line in set(lines) & set(english):
-                            self.assertRegex(line, "^(rolldb |call SERVICE METHOD)")
+                            self.assertRegex(line, r"^[a-z]+ ([a-z]+ )?(\[?(--[a-z]+ )?[A-Z]+\]?(\.\.\.)? ?)+$")
 
     def test_names_for_the_command_line_stay(self):
         names = {VXPRINTMON: ("list", "watch", "status [PRINTER]", "send PRINTER COMMAND", "title CODE",
@@ -251,9 +251,15 @@ class Output(unittest.TestCase):
                         (VXIPC, "describe", "nobody"), (ROLLDB,), (ROLLDB, "check"),
                         (ROLLDB, "build", "/no/such/folder", "x.db")):
             with self.subTest(command[1:]):
-                messages = [output + errors for _, (_, output, errors) in self.in_every_language(*command)]
-                self.assertEqual(len(set(messages)), 1 + len(LANGUAGES), messages)
-                self.assertEqual({message.count("\n") for message in messages}, {1})
+                english = None
+                for language, (_, output, errors) in self.in_every_language(*command):
+                    self.assertEqual((output + errors).count("\n"), 1)
+                    # Every message is followed by the same reference to the help.
+                    message = (output + errors).split(": ", 1)[-1].split(" (see ")[0].strip()
+                    if language == "en":
+                        english = message
+                    else:
+                        self.assertNotIn(english, message, language)
 
 
 if __name__ == "__main__":

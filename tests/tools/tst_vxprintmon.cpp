@@ -117,6 +117,11 @@ private Q_SLOTS:
     void sendPrintsThePrintJob();
     void sendPrintsThePrintJobAsJson();
     void sendToAnUnknownPrinterFails();
+    void sendNeedsForce_data();
+    void sendNeedsForce();
+    void sendWaitsUntilTheJobIsPrinted();
+    void sendSaysWhatHoldsTheJob();
+    void sendFailsIfTheJobIsLost();
     void titleIsPrinted_data();
     void titleIsPrinted();
     void titlesOfAllCodesArePrinted();
@@ -307,10 +312,10 @@ void VxPrintMonTest::statusPrintsATable()
     QCOMPARE(result.exitStatus, 0);
     QCOMPARE(result.errors, QByteArray());
     const QByteArray expected =
-        R"(PRINTER        STATUS                          SUPPLY              RIBBON 1     RIBBON 2     FIRMWARE        ACTIVE
-Branch Office  Printer Is Remotely Connected.  -                   -            -            -               
-Shipping       Ready                           Yellow Vinyl, 80 %  Black, 80 %  Red, 35 %    4.2.0,boot 1.7  
-Warehouse      Ready                           White Paper, 82 %   Blue, 3 %    Black, 57 %  4.1.3,boot 1.7  yes
+        R"(PRINTER        STATUS                         SUPPLY              RIBBON 1     RIBBON 2     FIRMWARE        ACTIVE
+Branch Office  Printer Is Remotely Connected  -                   -            -            -               
+Shipping       Ready                          Yellow Vinyl, 80 %  Black, 80 %  Red, 35 %    4.2.0,boot 1.7  
+Warehouse      Ready                          White Paper, 82 %   Blue, 3 %    Black, 57 %  4.1.3,boot 1.7  yes
 )";
     QCOMPARE(result.output, expected);
 }
@@ -524,7 +529,7 @@ void VxPrintMonTest::sendPrintsThePrintJobAsJson()
     QCOMPARE(result.exitStatus, 0);
     QCOMPARE(result.errors, QByteArray());
     QCOMPARE(result.output,
-             QByteArray(R"({"printerName":"Shipping","command":"Ä \"1\"","job":{"id":1,)"
+             QByteArray(R"({"printerName":"Shipping","command":"Ä \"1\"","job":{"id":1,"bytes":8,)"
                         R"("document":"Ä \"1\"","datatype":"RAW","pages":["Ä \"1\"\r\n"]}})"
                         "\n"));
 }
@@ -539,9 +544,89 @@ void VxPrintMonTest::sendToAnUnknownPrinterFails()
         const Result result = run(arguments);
         QCOMPARE(result.exitStatus, 1);
         QCOMPARE(result.output, QByteArray());
-        QCOMPARE(result.errors, QByteArray("vxprintmon: the command was not sent to \"Nowhere\": "
-                                           "Nowhere: OpenPrinter call failed\n"));
+        QCOMPARE(result.errors,
+                 QByteArray("vxprintmon: the command was not sent: \"Nowhere\" cannot be opened: "
+                            "The printer's name is not valid.\n"));
     }
+}
+
+void VxPrintMonTest::sendNeedsForce_data()
+{
+    QTest::addColumn<QString>("printer");
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QByteArray>("why");
+    QTest::newRow("printer of another maker")
+        << QStringLiteral("Front Desk Laser") << QStringLiteral("FEED 2")
+        << QByteArray("\"Front Desk Laser\" is not a label printer of a supported model.");
+    QTest::newRow("empty command") << shipping << QString() << QByteArray("The command is empty.");
+}
+
+void VxPrintMonTest::sendNeedsForce()
+{
+    QFETCH(const QString, printer);
+    QFETCH(const QString, command);
+    QFETCH(const QByteArray, why);
+    const Result refused = run({QStringLiteral("send"), printer, command});
+    QCOMPARE(refused.exitStatus, 1);
+    QCOMPARE(refused.output, QByteArray());
+    QCOMPARE(refused.errors,
+             "vxprintmon: the command was not sent: " + why + " --force sends it nevertheless.\n");
+    const Result forced =
+        run({QStringLiteral("send"), QStringLiteral("--force"), printer, command});
+    QCOMPARE(forced.exitStatus, 0);
+    QCOMPARE(forced.errors, QByteArray());
+    QVERIFY(forced.output.contains("Print job 1"));
+}
+
+void VxPrintMonTest::sendWaitsUntilTheJobIsPrinted()
+{
+    const Result result =
+        run({QStringLiteral("send"), QStringLiteral("--wait"), shipping, QStringLiteral("FEED 2")});
+    QCOMPARE(result.exitStatus, 0);
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(result.output, QByteArray("Sent to Shipping: FEED 2\n"
+                                       "Print job 1, \"FEED 2\": RAW, pages: 1, bytes: 8.\n"
+                                       "The job is being printed.\n"
+                                       "The job has been printed.\n"));
+    const Result json = run({QStringLiteral("send"), QStringLiteral("--wait"),
+                             QStringLiteral("--json"), shipping, QStringLiteral("FEED 2")});
+    QCOMPARE(json.exitStatus, 0);
+    const QJsonObject state =
+        QJsonDocument::fromJson(json.output).object()[QStringLiteral("state")].toObject();
+    QCOMPARE(state[QStringLiteral("stage")].toString(), QStringLiteral("printed"));
+    QCOMPARE(state[QStringLiteral("statusCode")].toInt(), 1);
+}
+
+void VxPrintMonTest::sendSaysWhatHoldsTheJob()
+{
+    const QString fleet = fleetFile(R"({
+        "printers": [{"name": "A", "driver": "Stratamark Alder", "values": {"StatusCode": "4"}}],
+        "timeline": [{"at": 0.5, "printer": "A", "values": {"StatusCode": "1"}}]})");
+    const Result result =
+        run({QStringLiteral("send"), QStringLiteral("--wait"), QStringLiteral("--virtual"), fleet,
+             QStringLiteral("A"), QStringLiteral("FEED")});
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(result.exitStatus, 0);
+    QVERIFY2(result.output.contains("The job is being printed. The driver cannot print the job. "
+                                    "The cover is open"),
+             result.output.constData());
+    QVERIFY2(result.output.endsWith("The job has been printed.\n"), result.output.constData());
+}
+
+void VxPrintMonTest::sendFailsIfTheJobIsLost()
+{
+    const QString fleet = fleetFile(R"({
+        "printers": [{"name": "A", "driver": "Stratamark Alder", "status": ["paused"]}],
+        "timeline": [{"at": 0.5, "printer": "A", "remove": true}]})");
+    const Result result =
+        run({QStringLiteral("send"), QStringLiteral("--wait"), QStringLiteral("--virtual"), fleet,
+             QStringLiteral("A"), QStringLiteral("FEED")});
+    QCOMPARE(result.exitStatus, 1);
+    QVERIFY2(result.output.contains("The job waits in the queue. The printer is paused.\n"),
+             result.output.constData());
+    QCOMPARE(result.errors,
+             QByteArray("vxprintmon: print job 1 was not printed: The print job cannot be "
+                        "followed: The printer has been deleted.\n"));
 }
 
 void VxPrintMonTest::titleIsPrinted_data()
@@ -733,7 +818,7 @@ void VxPrintMonTest::watchPrintsSignalsAndChangesAsText()
                  QByteArray("records: ribbon 1 Blue (RS-43-BL), ribbon 1 left 0 % → 100 %, "
                             "ribbon 1 left 100 % → 99 %"),
                  "A printer comes.",
-                 "Quill  found    Printer Is Remotely Connected.",
+                 "Quill  found    Printer Is Remotely Connected",
                  "The lid is closed.",
                  "       errors   no printer is in error",
                  "P      status     1  Ready",

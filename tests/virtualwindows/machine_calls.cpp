@@ -279,6 +279,22 @@ const std::vector<NamedCaller>& callers()
         {"EndDocPrinter",
          [](const Handles& handles) { return attempt(EndDocPrinter(handles.printer)); },
          usesSpooler},
+        {"EnumJobsW",
+         [](const Handles& handles) {
+             return attempt(
+                 EnumJobsW(handles.printer, 0, 10, 2, block.data(), 20000, &number, &secondNumber));
+         },
+         usesSpooler},
+        {"GetJobW",
+         [](const Handles& handles) {
+             return attempt(GetJobW(handles.printer, 1, 2, block.data(), 20000, &number));
+         },
+         usesSpooler},
+        {"SetJobW",
+         [](const Handles& handles) {
+             return attempt(SetJobW(handles.printer, 1, 0, nullptr, JOB_CONTROL_DELETE));
+         },
+         usesSpooler},
         {"DeletePrinter",
          [](const Handles& handles) { return attempt(DeletePrinter(handles.printer)); },
          usesSpooler},

@@ -146,8 +146,10 @@ void MachineFailuresTest::successLeavesTheLastErrorAlone()
     QFETCH(Caller, call);
     addDefaultPrinter();
     const Handles handles = openAll();
-    if (function.endsWith(QLatin1String("Printer")) && function != QLatin1String("ClosePrinter") &&
-        function != QLatin1String("DeletePrinter")) {
+    const bool writesDocument = function.endsWith(QLatin1String("Printer")) &&
+                                function != QLatin1String("ClosePrinter") &&
+                                function != QLatin1String("DeletePrinter");
+    if (writesDocument || function.endsWith(QLatin1String("JobW"))) {
         QVERIFY(startDocument(handles.printer) != 0);
         if (function == QLatin1String("EndPagePrinter"))
             QVERIFY(StartPagePrinter(handles.printer));

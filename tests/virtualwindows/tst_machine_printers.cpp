@@ -35,6 +35,7 @@ private Q_SLOTS:
     void unpublishedValueIsGone();
     void changesNotify_data();
     void changesNotify();
+    void rightsAreNotifiedAndTheDefaultPrinterIsNot();
     void printedJobsCanBeReadBack();
     void purgedJobIsCancelled();
 };
@@ -321,6 +322,26 @@ void MachinePrintersTest::changesNotify()
     QVERIFY(!isSignalled(notification));
     FindClosePrinterChangeNotification(notification);
     ClosePrinter(printer);
+}
+
+// The default printer is a setting of the user, not of the print spooler:
+// https://learn.microsoft.com/previous-versions/windows/it-pro/windows-server-2003/cc758237(v=ws.10)
+// No change of it is among those that can be watched:
+// https://learn.microsoft.com/windows/win32/printdocs/findfirstprinterchangenotification
+void MachinePrintersTest::rightsAreNotifiedAndTheDefaultPrinterIsNot()
+{
+    addDefaultPrinter();
+    HANDLE server = nullptr;
+    QVERIFY(OpenPrinterW(nullptr, &server, nullptr));
+    const HANDLE notification = openNotification(server);
+    machine().setAdministrable(printerName, false);
+    QCOMPARE(takeChanges(notification), DWORD{PRINTER_CHANGE_SET_PRINTER});
+    machine().setDefaultPrinter(QString());
+    QCOMPARE(takeChanges(notification), DWORD{0});
+    machine().removePrinter(printerName);
+    QCOMPARE(takeChanges(notification), DWORD{PRINTER_CHANGE_DELETE_PRINTER});
+    QVERIFY(FindClosePrinterChangeNotification(notification));
+    QVERIFY(ClosePrinter(server));
 }
 
 void MachinePrintersTest::printedJobsCanBeReadBack()

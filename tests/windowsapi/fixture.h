@@ -28,6 +28,7 @@ enum class Behaviour
     DistinctWaitObjects, ///< waiting for all objects of a list refuses duplicates
     EmptyPrinterNames,   ///< an empty name is refused as a name, not as a parameter
     JobCounts,           ///< a printer's record counts its jobs
+    JobQueues,           ///< the jobs of a queue can be listed, and an unknown one is refused
     LevelsFirst,         ///< EnumPrintersW writes nothing when the level is unknown
     MissingWaitLists,    ///< waiting without a list is refused
     PageCalls,           ///< pages belong to a document

@@ -31,9 +31,9 @@ std::optional<bool>& spoolerRanBefore()
 constexpr std::array wineLacks{
     Behaviour::AccessRights,        Behaviour::ChangeNotifications, Behaviour::DeletedPrinters,
     Behaviour::DistinctWaitObjects, Behaviour::EmptyPrinterNames,   Behaviour::JobCounts,
-    Behaviour::LevelsFirst,         Behaviour::MissingWaitLists,    Behaviour::PageCalls,
-    Behaviour::PrintProviders,      Behaviour::PrinterCommands,     Behaviour::PrinterRecordChecks,
-    Behaviour::PseudoHandleChecks,  Behaviour::UniquePrinterNames,
+    Behaviour::JobQueues,           Behaviour::LevelsFirst,         Behaviour::MissingWaitLists,
+    Behaviour::PageCalls,           Behaviour::PrintProviders,      Behaviour::PrinterCommands,
+    Behaviour::PrinterRecordChecks, Behaviour::PseudoHandleChecks,  Behaviour::UniquePrinterNames,
 };
 
 ServiceHandle openSpooler()

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <thread>
+#include <vector>
 
 namespace {
 
@@ -103,6 +104,9 @@ private Q_SLOTS:
     void changesOfOtherPrintersAreNotNotified();
     void printServerNotifiesChangesOfAllPrinters();
     void printServerNotifiesANewPrinter();
+    void printServerNotifiesADeletedPrinter();
+    void printServerNotifiesANewName();
+    void printServerNotifiesJobs();
     void notificationsAreIndependent();
 
     void waitingThreadIsWoken();
@@ -321,6 +325,50 @@ void ChangeNotificationsTest::printServerNotifiesANewPrinter()
     QVERIFY(isQuiet(notification));
     QVERIFY(fixture::addPrinter({.name = fixture::uniqueName(QStringLiteral("Vx New"))}));
     QCOMPARE(waitForChanges(notification), DWORD{PRINTER_CHANGE_ADD_PRINTER});
+}
+
+void ChangeNotificationsTest::printServerNotifiesADeletedPrinter()
+{
+    const QString otherName = fixture::uniqueName(QStringLiteral("Vx Changes"));
+    QVERIFY(fixture::addPrinter({.name = otherName}));
+    const PrinterHandle server = openPrintServer();
+    const Notification notification = watch(server, PRINTER_CHANGE_DELETE_PRINTER);
+    QVERIFY(notification);
+    QVERIFY(fixture::removePrinter(otherName));
+    QCOMPARE(waitForChanges(notification), DWORD{PRINTER_CHANGE_DELETE_PRINTER});
+}
+
+// https://learn.microsoft.com/windows/win32/printdocs/findnextprinterchangenotification
+// (PRINTER_CHANGE_SET_PRINTER)
+void ChangeNotificationsTest::printServerNotifiesANewName()
+{
+    const PrinterHandle server = openPrintServer();
+    const Notification notification = watch(server);
+    QVERIFY(notification);
+    DWORD needed = 0;
+    GetPrinterW(m_printer.get(), 2, nullptr, 0, &needed);
+    std::vector<BYTE> block(needed);
+    QVERIFY(GetPrinterW(m_printer.get(), 2, block.data(), needed, &needed));
+    auto& record = *reinterpret_cast<PRINTER_INFO_2W*>(block.data());
+    WideText newName(fixture::uniqueName(QStringLiteral("Vx Renamed")));
+    WideText oldName(m_name);
+    record.pPrinterName = newName;
+    record.pSecurityDescriptor = nullptr;
+    QVERIFY(SetPrinterW(m_printer.get(), 2, block.data(), 0));
+    QVERIFY(waitForChanges(notification) & PRINTER_CHANGE_SET_PRINTER);
+    // The fixture removes the printer by its old name.
+    record.pPrinterName = oldName;
+    QVERIFY(SetPrinterW(m_printer.get(), 2, block.data(), 0));
+}
+
+void ChangeNotificationsTest::printServerNotifiesJobs()
+{
+    const PrinterHandle server = openPrintServer();
+    const Notification notification = watch(server, PRINTER_CHANGE_ADD_JOB);
+    QVERIFY(notification);
+    QVERIFY(startDocument(m_printer) != 0);
+    QCOMPARE(waitForChanges(notification), DWORD{PRINTER_CHANGE_ADD_JOB});
+    QVERIFY(EndDocPrinter(m_printer.get()));
 }
 
 void ChangeNotificationsTest::notificationsAreIndependent()

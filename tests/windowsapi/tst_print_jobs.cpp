@@ -26,6 +26,15 @@ private Q_SLOTS:
     void jobsHaveDistinctNumbers();
     void jobIsCountedWhileItIsWritten();
 
+    void jobIsQueriedWhileItIsWritten();
+    void jobsAreListed();
+    void blockThatIsTooSmallIsRefused();
+    void unknownJobIsRefused_data();
+    void unknownJobIsRefused();
+    void unknownLevelOfJobsIsRefused();
+    void deletedJobLeavesTheQueue();
+    void pausedPrinterKeepsItsJobs();
+
     void otherLevelsAreRefused_data();
     void otherLevelsAreRefused();
     void onlyOneDocumentAtATime();
@@ -48,6 +57,9 @@ private:
     {
         return QDir::toNativeSeparators(m_folder->filePath(name));
     }
+
+    /// The numbers of the jobs in the queue; 7777 when they cannot be listed.
+    QList<DWORD> queue(DWORD first = 0, DWORD most = 100) const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_name;
@@ -168,6 +180,154 @@ void PrintJobsTest::jobIsCountedWhileItIsWritten()
     QCOMPARE(jobCount(), DWORD{1});
     QVERIFY(EndDocPrinter(m_printer.get()));
     QTRY_COMPARE(jobCount(), DWORD{0});
+}
+
+QList<DWORD> PrintJobsTest::queue(DWORD first, DWORD most) const
+{
+    DWORD needed = 0;
+    DWORD count = 0;
+    EnumJobsW(m_printer.get(), first, most, 1, nullptr, 0, &needed, &count);
+    std::vector<BYTE> block(needed);
+    if (!EnumJobsW(m_printer.get(), first, most, 1, block.data(), needed, &needed, &count))
+        return {7777};
+    QList<DWORD> numbers;
+    for (DWORD index = 0; index < count; ++index)
+        numbers.append(reinterpret_cast<const JOB_INFO_1W*>(block.data())[index].JobId);
+    return numbers;
+}
+
+// https://learn.microsoft.com/windows/win32/printdocs/getjob
+void PrintJobsTest::jobIsQueriedWhileItIsWritten()
+{
+    const DWORD id = startDocument();
+    QVERIFY(id != 0);
+    for (const DWORD level : {DWORD{1}, DWORD{2}}) {
+        DWORD needed = 0;
+        GetJobW(m_printer.get(), id, level, nullptr, 0, &needed);
+        QVERIFY(needed >= (level == 1 ? sizeof(JOB_INFO_1W) : sizeof(JOB_INFO_2W)));
+        std::vector<BYTE> block(needed);
+        QVERIFY(GetJobW(m_printer.get(), id, level, block.data(), needed, &needed));
+        if (level == 1) {
+            const auto& job = *reinterpret_cast<const JOB_INFO_1W*>(block.data());
+            QCOMPARE(job.JobId, id);
+            QCOMPARE(fromWide(job.pDocument), QStringLiteral("Label"));
+            QCOMPARE(fromWide(job.pPrinterName), m_name);
+        } else {
+            const auto& job = *reinterpret_cast<const JOB_INFO_2W*>(block.data());
+            QCOMPARE(job.JobId, id);
+            QCOMPARE(fromWide(job.pDocument), QStringLiteral("Label"));
+            QCOMPARE(fromWide(job.pPrinterName), m_name);
+        }
+    }
+    QVERIFY(EndDocPrinter(m_printer.get()));
+}
+
+// https://learn.microsoft.com/windows/win32/printdocs/enumjobs
+void PrintJobsTest::jobsAreListed()
+{
+    NEEDS_BEHAVIOUR(Behaviour::JobQueues);
+    QCOMPARE(queue(), QList<DWORD>());
+    const PrinterHandle other = openPrinter(m_name);
+    const DWORD first = startDocument();
+    const DWORD second = startDocument(other, QStringLiteral("other.bin"));
+    QCOMPARE(queue(), (QList<DWORD>{first, second}));
+    QCOMPARE(queue(0, 1), QList<DWORD>{first});
+    QCOMPARE(queue(1), QList<DWORD>{second});
+    QCOMPARE(queue(2), QList<DWORD>());
+    QVERIFY(EndDocPrinter(m_printer.get()));
+    QVERIFY(EndDocPrinter(other.get()));
+    QTRY_COMPARE(queue(), QList<DWORD>());
+}
+
+void PrintJobsTest::blockThatIsTooSmallIsRefused()
+{
+    NEEDS_BEHAVIOUR(Behaviour::JobQueues);
+    const DWORD id = startDocument();
+    BYTE byte = 0;
+    DWORD needed = 0;
+    DWORD count = 7777;
+    QCOMPARE(errorOf([&] { return GetJobW(m_printer.get(), id, 1, &byte, 1, &needed); }),
+             DWORD{ERROR_INSUFFICIENT_BUFFER});
+    QVERIFY(needed >= sizeof(JOB_INFO_1W));
+    needed = 0;
+    QCOMPARE(
+        errorOf([&] { return EnumJobsW(m_printer.get(), 0, 1, 1, &byte, 1, &needed, &count); }),
+        DWORD{ERROR_INSUFFICIENT_BUFFER});
+    QVERIFY(needed >= sizeof(JOB_INFO_1W));
+    QCOMPARE(count, DWORD{0});
+    QVERIFY(EndDocPrinter(m_printer.get()));
+}
+
+void PrintJobsTest::unknownJobIsRefused_data()
+{
+    QTest::addColumn<bool>("printed");
+    QTest::newRow("never existed") << false;
+    QTest::newRow("printed") << true;
+}
+
+// https://learn.microsoft.com/openspecs/windows_protocols/ms-rprn/f7090127-287b-4aa7-ba8b-2b6b7247dfc6
+// (RpcGetJob: the identifier is looked for in the list of jobs)
+void PrintJobsTest::unknownJobIsRefused()
+{
+    NEEDS_BEHAVIOUR(Behaviour::JobQueues);
+    QFETCH(bool, printed);
+    DWORD id = 4711;
+    if (printed) {
+        id = startDocument();
+        QVERIFY(EndDocPrinter(m_printer.get()));
+        QTRY_COMPARE(queue(), QList<DWORD>());
+    }
+    DWORD needed = 0;
+    QCOMPARE(errorOf([&] { return GetJobW(m_printer.get(), id, 1, nullptr, 0, &needed); }),
+             DWORD{ERROR_INVALID_PARAMETER});
+    QCOMPARE(errorOf([&] { return SetJobW(m_printer.get(), id, 0, nullptr, JOB_CONTROL_DELETE); }),
+             DWORD{ERROR_INVALID_PARAMETER});
+}
+
+void PrintJobsTest::unknownLevelOfJobsIsRefused()
+{
+    NEEDS_BEHAVIOUR(Behaviour::JobQueues);
+    const DWORD id = startDocument();
+    DWORD needed = 0;
+    DWORD count = 0;
+    QCOMPARE(errorOf([&] { return GetJobW(m_printer.get(), id, 17, nullptr, 0, &needed); }),
+             DWORD{ERROR_INVALID_LEVEL});
+    QCOMPARE(
+        errorOf([&] { return EnumJobsW(m_printer.get(), 0, 1, 17, nullptr, 0, &needed, &count); }),
+        DWORD{ERROR_INVALID_LEVEL});
+    QVERIFY(EndDocPrinter(m_printer.get()));
+}
+
+// https://learn.microsoft.com/windows/win32/printdocs/setjob
+void PrintJobsTest::deletedJobLeavesTheQueue()
+{
+    NEEDS_BEHAVIOUR(Behaviour::PrinterCommands);
+    QVERIFY(SetPrinterW(m_printer.get(), 0, nullptr, PRINTER_CONTROL_PAUSE));
+    const DWORD first = startDocument();
+    QVERIFY(EndDocPrinter(m_printer.get()));
+    const DWORD second = startDocument();
+    QVERIFY(EndDocPrinter(m_printer.get()));
+    QVERIFY(SetJobW(m_printer.get(), first, 0, nullptr, JOB_CONTROL_DELETE));
+    QTRY_COMPARE(queue(), QList<DWORD>{second});
+    QVERIFY(SetPrinterW(m_printer.get(), 0, nullptr, PRINTER_CONTROL_PURGE));
+    QTRY_COMPARE(queue(), QList<DWORD>());
+}
+
+// https://learn.microsoft.com/windows/win32/printdocs/setprinter (PRINTER_CONTROL_PAUSE)
+void PrintJobsTest::pausedPrinterKeepsItsJobs()
+{
+    NEEDS_BEHAVIOUR(Behaviour::PrinterCommands);
+    QVERIFY(SetPrinterW(m_printer.get(), 0, nullptr, PRINTER_CONTROL_PAUSE));
+    const DWORD id = startDocument();
+    QVERIFY(write(m_printer, "kept"));
+    QVERIFY(EndDocPrinter(m_printer.get()));
+    QCOMPARE(queue(), QList<DWORD>{id});
+    QVERIFY(SetJobW(m_printer.get(), id, 0, nullptr, JOB_CONTROL_PAUSE));
+    QVERIFY(SetPrinterW(m_printer.get(), 0, nullptr, PRINTER_CONTROL_RESUME));
+    QCOMPARE(queue(), QList<DWORD>{id});
+    QVERIFY(SetJobW(m_printer.get(), id, 0, nullptr, JOB_CONTROL_RESUME));
+    QTRY_COMPARE(queue(), QList<DWORD>());
+    QCOMPARE(printed(), "kept");
 }
 
 void PrintJobsTest::otherLevelsAreRefused_data()

@@ -87,7 +87,8 @@ QString signature(const QJsonObject& method)
         const QString text =
             QStringLiteral("%1: %2").arg(parameter[QStringLiteral("name")].toString(),
                                          parameter[QStringLiteral("x-type")].toString());
-        parameters.append(parameter[QStringLiteral("required")].toBool()
+        // The arguments of a signal are always there.
+        parameters.append(parameter[QStringLiteral("required")].toBool(true)
                               ? text
                               : QStringLiteral("[%1]").arg(text));
     }

@@ -20,23 +20,38 @@ QString help()
                {QStringLiteral("list"),
                 ToolText::tr("list the endpoints: name, service, process, application")},
                {QStringLiteral("describe SERVICE"),
-                ToolText::tr("list the methods of an endpoint")},
+                ToolText::tr("list the methods and signals of an endpoint")},
                {QStringLiteral("call SERVICE METHOD [ARGUMENT]..."),
                 ToolText::tr("call a method and print its result")},
+               {QStringLiteral("watch SERVICE [SIGNAL]..."),
+                ToolText::tr("print a line of JSON for each emission of the signals, or of all "
+                             "signals, until interrupted")},
            }) +
            u'\n' +
-           paragraph(ToolText::tr("SERVICE is supplyd, m4, printqd, a number, or a name printed by "
-                                  "list. Arguments for text parameters are taken as they are, all "
-                                  "others are read as JSON.")) +
+           paragraph(ToolText::tr(
+               "SERVICE is supplyd, m4, printqd, status, a number, or a name printed by "
+               "list. Arguments for text parameters are taken as they are, all "
+               "others are read as JSON.")) +
            u'\n' + ToolText::tr("Options:") + u'\n' +
            rows({
                {QStringLiteral("--json"), ToolText::tr("print JSON")},
+               {QStringLiteral("--for SECONDS"), ToolText::tr("watch for SECONDS only")},
                {QStringLiteral("--timeout MS"),
                 ToolText::tr("wait up to MS milliseconds for an endpoint (10000)")},
                {QStringLiteral("--help"), ToolText::tr("print this help")},
                {QStringLiteral("--"), ToolText::tr("what follows is not an option")},
            }) +
            u'\n' + paragraph(ToolText::exitStatusHelp());
+}
+
+std::chrono::milliseconds secondsOf(const QString& word)
+{
+    constexpr double mostSeconds = 1e6;
+    bool ok = false;
+    const double seconds = word.toDouble(&ok);
+    if (!ok || !(seconds > 0) || seconds > mostSeconds)
+        throw wrongUsage(ToolText::tr("--for takes a number of seconds"));
+    return std::chrono::milliseconds(qRound64(seconds * 1000));
 }
 
 void run(StandardOutput& output)
@@ -62,6 +77,8 @@ void run(StandardOutput& output)
             if (!ok || timeout <= 0)
                 throw wrongUsage(ToolText::tr("--timeout takes a number of milliseconds"));
             options.timeout = std::chrono::milliseconds(timeout);
+        } else if (word == QStringLiteral("--for")) {
+            options.watchTime = secondsOf(given.value(++i));
         } else if (word.startsWith(QStringLiteral("--"))) {
             throw wrongUsage(ToolText::tr("unknown option %1").arg(word));
         } else {

@@ -42,11 +42,19 @@ constexpr Option speedOption{
 constexpr Option allOption{
     "all", "", QT_TRANSLATE_NOOP("tools", "title: all codes, with what they mean and what to do"),
     CommandOption::All};
+constexpr Option waitOption{
+    "wait", "",
+    QT_TRANSLATE_NOOP("tools", "send: wait until the job was printed or has left the queue"),
+    CommandOption::Wait};
+constexpr Option forceOption{
+    "force", "",
+    QT_TRANSLATE_NOOP("tools", "send: also to a printer of another maker, also nothing"),
+    CommandOption::Force};
 constexpr Option helpOption{"help", "", QT_TRANSLATE_NOOP("tools", "print this help")};
 constexpr Option versionOption{"version", "", QT_TRANSLATE_NOOP("tools", "print the version")};
 
-constexpr std::array options{jsonOption,  forOption, logOption,  virtualOption,
-                             speedOption, allOption, helpOption, versionOption};
+constexpr std::array options{jsonOption, forOption,  logOption,   virtualOption, speedOption,
+                             allOption,  waitOption, forceOption, helpOption,    versionOption};
 
 QString help()
 {
@@ -212,6 +220,8 @@ CommandLine parseCommandLine(const QStringList& arguments)
                 ToolText::tr("--%1 is valid only with %2")
                     .arg(QString::fromLatin1(option.name), commandNames(option.required)));
     }
+    line.wait = given.has(waitOption);
+    line.force = given.has(forceOption);
     line.seconds = given.positiveNumber(forOption);
     line.speed = given.positiveNumber(speedOption).value_or(line.speed);
     line.all = given.has(allOption);

@@ -18,6 +18,8 @@ struct CommandLine
     QString logFile;               ///< the library's log is appended to it; empty: no log
     QString fleetFile;             ///< empty: the built-in fleet, or the system's own printers
     std::optional<double> seconds; ///< how long to watch; without a value, until interrupted
+    bool wait = false;             ///< for the end of the print job
+    bool force = false;            ///< send what would be refused
     double speed = 1;              ///< of the virtual printers' story
     bool all = false;              ///< of title
 };

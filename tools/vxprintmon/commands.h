@@ -19,6 +19,8 @@ enum class CommandOption
     For = 1,
     Speed = 2,
     All = 4,
+    Wait = 8,
+    Force = 16,
 };
 Q_DECLARE_FLAGS(CommandOptions, CommandOption)
 

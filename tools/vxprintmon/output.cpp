@@ -46,9 +46,7 @@ const QString sampleBlock = QStringLiteral("\u2588\u2588 ");
 Output::Output(StandardOutput& stream)
     : m_stream(stream)
     , m_hasColours(wantsColours())
-{
-    terminal::useUtf8();
-}
+{}
 
 QString Output::sampleOf(const Cell& cell) const
 {

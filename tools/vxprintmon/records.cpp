@@ -6,6 +6,7 @@
 
 #include "printer_types.h"
 #include "status_codes.h"
+#include "status_info.h"
 #include "tool_text.h"
 
 #include <QtCore/QMetaProperty>
@@ -67,7 +68,7 @@ Cell withPercent(Cell cell, const QString& sku, int percentage)
     return cell;
 }
 
-Cell status(const Record& record, const TitleOf& titleOf)
+Cell status(const Record& record, TitleOf titleOf)
 {
     const auto colour = [&record] {
         if (!isWatched(record))
@@ -93,57 +94,57 @@ Cell yesOrNo(bool yes)
 struct Detail
 {
     const char* label;
-    Cell (*of)(const Record& record, const TitleOf& titleOf);
+    Cell (*of)(const Record& record, TitleOf titleOf);
 };
 
 const Detail details[] = {
     {QT_TRANSLATE_NOOP("tools", "status"), status},
     {QT_TRANSLATE_NOOP("tools", "online"),
-     [](const Record& record, const TitleOf&) {
+     [](const Record& record, TitleOf) {
          return yesOrNo(record.printerOnline);
      }},
     {QT_TRANSLATE_NOOP("tools", "supply"),
-     [](const Record& record, const TitleOf&) {
+     [](const Record& record, TitleOf) {
          return withSku(supply(record), record.supplySKU);
      }},
     {QT_TRANSLATE_NOOP("tools", "supply left"),
-     [](const Record& record, const TitleOf&) {
+     [](const Record& record, TitleOf) {
          return Cell{percent(record.supplyPercentage)};
      }},
     {QT_TRANSLATE_NOOP("tools", "ribbon 1"),
-     [](const Record& record, const TitleOf&) {
+     [](const Record& record, TitleOf) {
          return withSku(ribbon1(record), record.ribbon1SKU);
      }},
     {QT_TRANSLATE_NOOP("tools", "ribbon 1 left"),
-     [](const Record& record, const TitleOf&) {
+     [](const Record& record, TitleOf) {
          return Cell{percent(record.ribbon1Percentage)};
      }},
     {QT_TRANSLATE_NOOP("tools", "ribbon 2"),
-     [](const Record& record, const TitleOf&) {
+     [](const Record& record, TitleOf) {
          return withSku(ribbon2(record), record.ribbon2SKU);
      }},
     {QT_TRANSLATE_NOOP("tools", "ribbon 2 left"),
-     [](const Record& record, const TitleOf&) {
+     [](const Record& record, TitleOf) {
          return Cell{percent(record.ribbon2Percentage)};
      }},
     {QT_TRANSLATE_NOOP("tools", "has a ribbon 2"),
-     [](const Record& record, const TitleOf&) {
+     [](const Record& record, TitleOf) {
          return yesOrNo(record.ribbon2Visible);
      }},
     {QT_TRANSLATE_NOOP("tools", "firmware"),
-     [](const Record& record, const TitleOf&) {
+     [](const Record& record, TitleOf) {
          return Cell{record.softwareVersion.isEmpty() ? notKnown : record.softwareVersion};
      }},
     {QT_TRANSLATE_NOOP("tools", "network printer"),
-     [](const Record& record, const TitleOf&) {
+     [](const Record& record, TitleOf) {
          return yesOrNo(record.printerRemote);
      }},
     {QT_TRANSLATE_NOOP("tools", "managed"),
-     [](const Record& record, const TitleOf&) {
+     [](const Record& record, TitleOf) {
          return yesOrNo(!record.printerNonAdmin);
      }},
     {QT_TRANSLATE_NOOP("tools", "has been active"),
-     [](const Record& record, const TitleOf&) {
+     [](const Record& record, TitleOf) {
          return yesOrNo(record.printerDefault);
      }},
 };
@@ -179,18 +180,14 @@ bool isWatched(const Record& record)
     return !record.printerRemote && !record.printerNonAdmin;
 }
 
-TitleOf titlesOf(PrinterStatusController& controller)
+QString titleOf(int statusCode)
 {
-    return [&controller](int statusCode) {
-        return controller.getStatusTitle(statusCode).section(QLatin1Char('\n'), 0, 0);
-    };
+    return VxKit::statusInfo(statusCode).shortTitle;
 }
 
-TitleOf shortTitlesOf(PrinterStatusController& controller)
+QString titleOrNotKnown(int statusCode)
 {
-    return [titleOf = titlesOf(controller)](int statusCode) {
-        return statusCode == StatusCodes::unknown ? ToolText::tr("not known") : titleOf(statusCode);
-    };
+    return statusCode == StatusCodes::unknown ? ToolText::tr("not known") : titleOf(statusCode);
 }
 
 bool areSame(const Record& left, const Record& right)
@@ -225,7 +222,7 @@ QString json(const Record& record)
 }
 
 void printTable(Output& output, const QList<Record>& all, const QString& activePrinter,
-                const TitleOf& titleOf)
+                TitleOf titleOf)
 {
     if (all.isEmpty()) {
         output.text(ToolText::tr("There are no label printers yet.") + QLatin1Char('\n'));
@@ -250,7 +247,7 @@ void printTable(Output& output, const QList<Record>& all, const QString& activeP
 }
 
 void printDetails(Output& output, const Record& record, const QString& activePrinter,
-                  const TitleOf& titleOf)
+                  TitleOf titleOf)
 {
     QList<QList<Cell>> rows{
         {{ToolText::tr("printer"), Colour::Faint}, {record.printerName, Colour::Heading}},
@@ -261,7 +258,7 @@ void printDetails(Output& output, const Record& record, const QString& activePri
     output.rows(rows);
 }
 
-QList<Cell> difference(const Record& before, const Record& after, const TitleOf& titleOf)
+QList<Cell> difference(const Record& before, const Record& after, TitleOf titleOf)
 {
     QList<Cell> words;
     for (const Detail& detail : details) {

@@ -42,7 +42,6 @@ Reporter::Reporter(const CommandLine& line, Output& output, Controller& controll
     , m_output(output)
     , m_controller(controller)
     , m_recordsOf(std::move(recordsOf))
-    , m_titleOf(records::titlesOf(controller))
     , m_labelWidth(widestLabel())
     , m_changes([this] { printChanges(); })
 {
@@ -56,7 +55,7 @@ Reporter::Reporter(const CommandLine& line, Output& output, Controller& controll
     });
     listen(&Controller::statusChangedSignal, [this](int status, const QString& printer) {
         print(labels::status,
-              {printer, {{QStringLiteral("%1  ").arg(status, 3)}, {m_titleOf(status)}}});
+              {printer, {{QStringLiteral("%1  ").arg(status, 3)}, {records::titleOf(status)}}});
     });
     listen(&Controller::supplyIdChangedSignal, [this](const QString& printer) {
         print(labels::supply, {printer, {{ToolText::tr("changed or removed")}}});
@@ -83,7 +82,7 @@ void Reporter::printInitialRecords()
     if (m_json)
         return;
     records::printTable(m_output, all, m_controller.activeDefaultPrinter(),
-                        records::shortTitlesOf(m_controller));
+                        records::titleOrNotKnown);
     m_output.text(QStringLiteral("\n"));
 }
 
@@ -103,9 +102,10 @@ void Reporter::lookForPrinters()
         if (m_known.contains(record.printerName))
             continue;
         remember(record);
-        print(labels::found, {record.printerName,
-                              {{records::isWatched(record) ? ToolText::tr("is now watched")
-                                                           : m_titleOf(record.statusEnum)}}});
+        print(labels::found,
+              {record.printerName,
+               {{records::isWatched(record) ? ToolText::tr("is now watched")
+                                            : records::titleOf(record.statusEnum)}}});
     }
 }
 
@@ -164,7 +164,7 @@ void Reporter::remember(const Record& record)
 /// Prints what has changed in the records since the last look at them.
 void Reporter::printChanges()
 {
-    const records::TitleOf titleOf = records::shortTitlesOf(m_controller);
+    const records::TitleOf titleOf = records::titleOrNotKnown;
     bool isAnythingNew = false;
     const QList<Record> all = m_recordsOf(m_controller);
     for (const Record& record : all) {

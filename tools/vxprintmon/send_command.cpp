@@ -4,67 +4,117 @@
 
 #include "backend.h"
 #include "failure.h"
+#include "interrupt_handler.h"
 #include "json_text.h"
 #include "output.h"
 
-#include "printer_status_controller.h"
+#include "printer_command.h"
 #include "tool_text.h"
 
-#include <AbstractAppender.h>
-#include <Logger.h>
+#include <QtCore/QEventLoop>
+#include <QtCore/QFutureWatcher>
+#include <QtCore/QTimer>
 
 namespace {
 
-/// Records the line that the library logs when it cannot send a command, which it reports
-/// nowhere else.
-class CommandLog : public AbstractAppender
+using VxKit::CommandResult;
+using VxKit::JobState;
+using Stage = JobState::Stage;
+
+QString stageName(Stage stage)
 {
-public:
-    CommandLog()
-    {
-        setDetailsLevel(Logger::Debug);
-        Logger::globalInstance()->registerAppender(this);
+    switch (stage) {
+    case Stage::Queued:
+        return QStringLiteral("queued");
+    case Stage::Printing:
+        return QStringLiteral("printing");
+    case Stage::Printed:
+        return QStringLiteral("printed");
+    case Stage::Deleted:
+        return QStringLiteral("deleted");
+    case Stage::LeftQueue:
+        return QStringLiteral("leftQueue");
+    case Stage::Failed:
+        return QStringLiteral("failed");
     }
-    ~CommandLog() override { Logger::globalInstance()->removeAppender(this); }
-    Q_DISABLE_COPY_MOVE(CommandLog)
+    return {};
+}
 
-    QString failure() const { return m_failure; }
-
-protected:
-    // The monitoring threads log as well, but not under this name.
-    void append(const QDateTime& /*timeStamp*/, Logger::LogLevel /*level*/, const char* /*file*/,
-                int /*line*/, const char* function, const QString& /*category*/,
-                const QString& message) override
-    {
-        if (QLatin1String(function).contains(QLatin1String("::sendCommandToPrinter(")))
-            m_failure = message.trimmed();
-    }
-
-private:
-    QString m_failure;
-};
-
-QString jobJson(const Backend::Job& job)
+QString stateJson(const JobState& state)
 {
-    QStringList pages;
-    for (const QByteArray& page : job.pages)
-        pages.append(json_text::value(QString::fromLocal8Bit(page)));
+    QStringList obstacles;
+    for (const QString& obstacle : state.obstacles)
+        obstacles.append(json_text::value(obstacle));
     return json_text::object({
-        {QStringLiteral("id"), json_text::value(job.id)},
-        {QStringLiteral("document"), json_text::value(job.document)},
-        {QStringLiteral("datatype"), json_text::value(job.datatype)},
-        {QStringLiteral("pages"), json_text::array(pages)},
+        {QStringLiteral("stage"), json_text::value(stageName(state.stage))},
+        {QStringLiteral("text"), json_text::value(state.text())},
+        {QStringLiteral("obstacles"), json_text::array(obstacles)},
+        {QStringLiteral("statusCode"),
+         json_text::value(state.statusCode ? QJsonValue(*state.statusCode) : QJsonValue())},
     });
 }
 
-QString jobText(const Backend::Job& job)
+QString jobJson(const CommandResult& result, const std::optional<Backend::Job>& job)
 {
-    qsizetype bytes = 0;
-    for (const QByteArray& page : job.pages)
-        bytes += page.size();
+    QList<json_text::Member> members{
+        {QStringLiteral("id"), json_text::value(static_cast<qint64>(result.jobId))},
+        {QStringLiteral("bytes"), json_text::value(result.bytes)},
+    };
+    if (job) {
+        QStringList pages;
+        for (const QByteArray& page : job->pages)
+            pages.append(json_text::value(QString::fromLocal8Bit(page)));
+        members.emplaceBack(QStringLiteral("document"), json_text::value(job->document));
+        members.emplaceBack(QStringLiteral("datatype"), json_text::value(job->datatype));
+        members.emplaceBack(QStringLiteral("pages"), json_text::array(pages));
+    }
+    return json_text::object(members);
+}
+
+QString jobText(const CommandResult& result, const std::optional<Backend::Job>& job)
+{
+    const QString number = QString::number(result.jobId);
+    const QString bytes = QString::number(result.bytes);
+    if (!job)
+        return ToolText::tr("Print job %1, bytes: %2.").arg(number, bytes);
     return ToolText::tr("Print job %1, \"%2\": %3, pages: %4, bytes: %5.")
-        .arg(QString::number(job.id), job.document, job.datatype, QString::number(job.pages.size()),
-             QString::number(bytes));
+        .arg(number, job->document, job->datatype, QString::number(job->pages.size()), bytes);
+}
+
+/// Follows the job until it has left the queue, and calls `report` with each state.
+template <typename Report>
+JobState follow(const QFuture<JobState>& future, Report report)
+{
+    const InterruptHandler interruptHandler;
+    QEventLoop loop;
+    JobState last;
+    QFutureWatcher<JobState> watcher;
+    QObject::connect(&watcher, &QFutureWatcher<JobState>::resultReadyAt, &watcher, [&](int index) {
+        last = watcher.resultAt(index);
+        report(last);
+    });
+    QObject::connect(&watcher, &QFutureWatcher<JobState>::finished, &loop, &QEventLoop::quit);
+    QTimer clock;
+    QObject::connect(&clock, &QTimer::timeout, &loop, [&] {
+        if (interruptHandler.wasInterrupted())
+            loop.quit();
+    });
+    clock.start(std::chrono::milliseconds(50));
+    watcher.setFuture(future);
+    loop.exec();
+    if (interruptHandler.wasInterrupted() && !last.isFinal())
+        throw Failure(ToolText::tr("interrupted while print job %1 was in the queue of \"%2\"")
+                          .arg(QString::number(last.jobId), last.printerName));
+    return last;
+}
+
+[[noreturn]] void refuse(const CommandResult& result)
+{
+    QString why = result.errorText;
+    if (result.failure == CommandResult::Failure::ForeignPrinter ||
+        result.failure == CommandResult::Failure::Empty)
+        why += QLatin1Char(' ') + ToolText::tr("--force sends it nevertheless.");
+    throw Failure(ToolText::tr("the command was not sent: %1").arg(why));
 }
 
 } // namespace
@@ -73,25 +123,41 @@ void runSend(const CommandLine& line, Output& output, Backend& backend)
 {
     const QString& printer = line.arguments.at(0);
     const QString& command = line.arguments.at(1);
-    PrinterStatusController controller;
-    const CommandLog log;
-    controller.sendCommandToPrinter(command, printer);
-    if (!log.failure().isEmpty())
-        throw Failure(
-            ToolText::tr("the command was not sent to \"%1\": %2").arg(printer, log.failure()));
+    if (line.wait)
+        backend.start([] { return 0; });
+    VxKit::FollowedCommand followed = VxKit::sendAndFollowCommand(
+        printer, command, {.toAnyPrinter = line.force, .evenEmpty = line.force});
+    followed.command.waitForFinished();
+    const CommandResult result = followed.command.result();
+    if (!result.isSent())
+        refuse(result);
+    if (!line.wait)
+        followed.job.cancel();
 
     const std::optional<Backend::Job> job = backend.lastJob(printer);
+    JobState last;
     if (line.json) {
         QList<json_text::Member> members{
             {QStringLiteral("printerName"), json_text::value(printer)},
             {QStringLiteral("command"), json_text::value(command)},
+            {QStringLiteral("job"), jobJson(result, job)},
         };
-        if (job)
-            members.emplaceBack(QStringLiteral("job"), jobJson(*job));
+        if (line.wait) {
+            last = follow(followed.job, [](const JobState& /*state*/) {});
+            members.emplaceBack(QStringLiteral("state"), stateJson(last));
+        }
         output.text(json_text::object(members) + QLatin1Char('\n'));
-        return;
+    } else {
+        output.line({{ToolText::tr("Sent to %1: %2").arg(printer, command)}});
+        output.line({{jobText(result, job)}});
+        QString said;
+        if (line.wait)
+            last = follow(followed.job, [&](const JobState& state) {
+                if (const QString text = state.text(); text != std::exchange(said, text))
+                    output.line({{text}});
+            });
     }
-    output.line({{ToolText::tr("Sent to %1: %2").arg(printer, command)}});
-    if (job)
-        output.line({{jobText(*job)}});
+    if (line.wait && (last.stage == Stage::Failed || last.stage == Stage::Deleted))
+        throw Failure(ToolText::tr("print job %1 was not printed: %2")
+                          .arg(QString::number(result.jobId), last.text()));
 }

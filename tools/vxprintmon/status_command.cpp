@@ -92,9 +92,8 @@ void runStatus(const CommandLine& line, Output& output, Backend& /*backend*/)
         output.text(json_text::lines(texts));
     } else if (isOne) {
         records::printDetails(output, shown.first(), controller.activeDefaultPrinter(),
-                              records::titlesOf(controller));
+                              records::titleOf);
     } else {
-        records::printTable(output, shown, controller.activeDefaultPrinter(),
-                            records::titlesOf(controller));
+        records::printTable(output, shown, controller.activeDefaultPrinter(), records::titleOf);
     }
 }

@@ -97,7 +97,7 @@ FleetPrinter readPrinter(const JsonPlace& place)
     place.expectKeys({QStringLiteral("name"), QStringLiteral("driver")},
                      {QStringLiteral("port"), QStringLiteral("attributes"),
                       QStringLiteral("status"), QStringLiteral("administrable"),
-                      QStringLiteral("values")});
+                      QStringLiteral("printingTime"), QStringLiteral("values")});
     FleetPrinter printer;
     printer.setup.name = place.at("name").nonEmptyText();
     printer.setup.driver = place.at("driver").nonEmptyText();
@@ -109,6 +109,9 @@ FleetPrinter readPrinter(const JsonPlace& place)
         printer.setup.status = readBits(place.at("status"), statusNames);
     if (place.has("administrable"))
         printer.setup.administrable = place.at("administrable").flag();
+    if (place.has("printingTime"))
+        printer.setup.printingTime =
+            std::chrono::milliseconds(qRound64(place.at("printingTime").seconds() * 1000));
     if (place.has("values"))
         printer.values = readValues(place.at("values"));
     return printer;

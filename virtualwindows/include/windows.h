@@ -30,6 +30,7 @@ using LPVOID = void*;
 using PVOID = void*;
 using LPBYTE = BYTE*;
 using LPDWORD = DWORD*;
+using PWORD = WORD*;
 using PDWORD = DWORD*;
 using LPSTR = CHAR*;
 using LPCSTR = const CHAR*;
@@ -90,6 +91,18 @@ using PSECURITY_DESCRIPTOR = void*;
 #define REG_DWORD_BIG_ENDIAN 5U
 #define REG_MULTI_SZ 7U
 #define REG_QWORD 11U
+
+struct SYSTEMTIME
+{
+    WORD wYear;
+    WORD wMonth;
+    WORD wDayOfWeek;
+    WORD wDay;
+    WORD wHour;
+    WORD wMinute;
+    WORD wSecond;
+    WORD wMilliseconds;
+};
 
 struct SECURITY_ATTRIBUTES
 {

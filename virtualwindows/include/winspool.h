@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// The part of the print spooler's API that the library and its tests call.
+// The part of the print spooler's API that the library, what is built on it and the tests call.
 #pragma once
 
 #include <windows.h>
@@ -26,19 +26,47 @@
 #define PRINTER_ATTRIBUTE_NETWORK 0x00000010U
 #define PRINTER_ATTRIBUTE_HIDDEN 0x00000020U
 #define PRINTER_ATTRIBUTE_LOCAL 0x00000040U
+#define PRINTER_ATTRIBUTE_KEEPPRINTEDJOBS 0x00000100U
 #define PRINTER_ATTRIBUTE_WORK_OFFLINE 0x00000400U
 
 #define PRINTER_STATUS_PAUSED 0x00000001U
 #define PRINTER_STATUS_ERROR 0x00000002U
 #define PRINTER_STATUS_PAPER_JAM 0x00000008U
 #define PRINTER_STATUS_PAPER_OUT 0x00000010U
+#define PRINTER_STATUS_PAPER_PROBLEM 0x00000040U
 #define PRINTER_STATUS_OFFLINE 0x00000080U
 #define PRINTER_STATUS_PRINTING 0x00000400U
+#define PRINTER_STATUS_NOT_AVAILABLE 0x00001000U
+#define PRINTER_STATUS_USER_INTERVENTION 0x00100000U
+#define PRINTER_STATUS_DOOR_OPEN 0x00400000U
 
 #define PRINTER_CONTROL_PAUSE 1U
 #define PRINTER_CONTROL_RESUME 2U
 #define PRINTER_CONTROL_PURGE 3U
 #define PRINTER_CONTROL_SET_STATUS 4U
+
+#define JOB_STATUS_PAUSED 0x00000001U
+#define JOB_STATUS_ERROR 0x00000002U
+#define JOB_STATUS_DELETING 0x00000004U
+#define JOB_STATUS_SPOOLING 0x00000008U
+#define JOB_STATUS_PRINTING 0x00000010U
+#define JOB_STATUS_OFFLINE 0x00000020U
+#define JOB_STATUS_PAPEROUT 0x00000040U
+#define JOB_STATUS_PRINTED 0x00000080U
+#define JOB_STATUS_DELETED 0x00000100U
+#define JOB_STATUS_BLOCKED_DEVQ 0x00000200U
+#define JOB_STATUS_USER_INTERVENTION 0x00000400U
+#define JOB_STATUS_RESTART 0x00000800U
+#define JOB_STATUS_COMPLETE 0x00001000U
+#define JOB_STATUS_RETAINED 0x00002000U
+
+#define JOB_CONTROL_PAUSE 1U
+#define JOB_CONTROL_RESUME 2U
+#define JOB_CONTROL_CANCEL 3U
+#define JOB_CONTROL_RESTART 4U
+#define JOB_CONTROL_DELETE 5U
+#define JOB_CONTROL_RETAIN 8U
+#define JOB_CONTROL_RELEASE 9U
 
 #define DSPRINT_UNPUBLISH 0x00000004U
 
@@ -56,6 +84,10 @@
 #define PRINTER_CHANGE_PRINT_PROCESSOR 0x07000000U
 #define PRINTER_CHANGE_PRINTER_DRIVER 0x70000000U
 #define PRINTER_CHANGE_ALL 0x7777FFFFU
+
+#define JOB_NOTIFY_TYPE 1
+#define JOB_NOTIFY_FIELD_STATUS 0x0A
+#define PRINTER_NOTIFY_INFO_DISCARDED 1U
 
 struct DEVMODEA;
 struct DEVMODEW;
@@ -143,6 +175,92 @@ struct DOC_INFO_1W
     LPWSTR pDatatype;
 };
 
+struct JOB_INFO_1W
+{
+    DWORD JobId;
+    LPWSTR pPrinterName;
+    LPWSTR pMachineName;
+    LPWSTR pUserName;
+    LPWSTR pDocument;
+    LPWSTR pDatatype;
+    LPWSTR pStatus;
+    DWORD Status;
+    DWORD Priority;
+    DWORD Position;
+    DWORD TotalPages;
+    DWORD PagesPrinted;
+    SYSTEMTIME Submitted;
+};
+
+struct JOB_INFO_2W
+{
+    DWORD JobId;
+    LPWSTR pPrinterName;
+    LPWSTR pMachineName;
+    LPWSTR pUserName;
+    LPWSTR pDocument;
+    LPWSTR pNotifyName;
+    LPWSTR pDatatype;
+    LPWSTR pPrintProcessor;
+    LPWSTR pParameters;
+    LPWSTR pDriverName;
+    DEVMODEW* pDevMode;
+    LPWSTR pStatus;
+    PSECURITY_DESCRIPTOR pSecurityDescriptor;
+    DWORD Status;
+    DWORD Priority;
+    DWORD Position;
+    DWORD StartTime;
+    DWORD UntilTime;
+    DWORD TotalPages;
+    DWORD Size;
+    SYSTEMTIME Submitted;
+    DWORD Time;
+    DWORD PagesPrinted;
+};
+
+struct PRINTER_NOTIFY_OPTIONS_TYPE
+{
+    WORD Type;
+    WORD Reserved0;
+    DWORD Reserved1;
+    DWORD Reserved2;
+    DWORD Count;
+    PWORD pFields;
+};
+
+struct PRINTER_NOTIFY_OPTIONS
+{
+    DWORD Version;
+    DWORD Flags;
+    DWORD Count;
+    PRINTER_NOTIFY_OPTIONS_TYPE* pTypes;
+};
+
+struct PRINTER_NOTIFY_INFO_DATA
+{
+    WORD Type;
+    WORD Field;
+    DWORD Reserved;
+    DWORD Id;
+    union {
+        DWORD adwData[2];
+        struct
+        {
+            DWORD cbBuf;
+            LPVOID pBuf;
+        } Data;
+    } NotifyData;
+};
+
+struct PRINTER_NOTIFY_INFO
+{
+    DWORD Version;
+    DWORD Flags;
+    DWORD Count;
+    PRINTER_NOTIFY_INFO_DATA aData[1];
+};
+
 VIRTUALWINDOWS_API BOOL WINAPI OpenPrinterA(LPSTR pPrinterName, LPHANDLE phPrinter,
                                             LPPRINTER_DEFAULTSA pDefault);
 VIRTUALWINDOWS_API BOOL WINAPI OpenPrinterW(LPWSTR pPrinterName, LPHANDLE phPrinter,
@@ -178,6 +296,7 @@ VIRTUALWINDOWS_API BOOL WINAPI FindNextPrinterChangeNotification(HANDLE hChange,
                                                                  LPVOID pPrinterNotifyOptions,
                                                                  LPVOID* ppPrinterNotifyInfo);
 VIRTUALWINDOWS_API BOOL WINAPI FindClosePrinterChangeNotification(HANDLE hChange);
+VIRTUALWINDOWS_API BOOL WINAPI FreePrinterNotifyInfo(PRINTER_NOTIFY_INFO* pPrinterNotifyInfo);
 
 VIRTUALWINDOWS_API DWORD WINAPI StartDocPrinterW(HANDLE hPrinter, DWORD Level, LPBYTE pDocInfo);
 VIRTUALWINDOWS_API BOOL WINAPI StartPagePrinter(HANDLE hPrinter);
@@ -185,3 +304,11 @@ VIRTUALWINDOWS_API BOOL WINAPI WritePrinter(HANDLE hPrinter, LPVOID pBuf, DWORD 
                                             LPDWORD pcWritten);
 VIRTUALWINDOWS_API BOOL WINAPI EndPagePrinter(HANDLE hPrinter);
 VIRTUALWINDOWS_API BOOL WINAPI EndDocPrinter(HANDLE hPrinter);
+
+VIRTUALWINDOWS_API BOOL WINAPI GetJobW(HANDLE hPrinter, DWORD JobId, DWORD Level, LPBYTE pJob,
+                                       DWORD cbBuf, LPDWORD pcbNeeded);
+VIRTUALWINDOWS_API BOOL WINAPI EnumJobsW(HANDLE hPrinter, DWORD FirstJob, DWORD NoJobs, DWORD Level,
+                                         LPBYTE pJob, DWORD cbBuf, LPDWORD pcbNeeded,
+                                         LPDWORD pcReturned);
+VIRTUALWINDOWS_API BOOL WINAPI SetJobW(HANDLE hPrinter, DWORD JobId, DWORD Level, LPBYTE pJob,
+                                       DWORD Command);

@@ -5,6 +5,7 @@
 #include "virtualwindows_export.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QDateTime>
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -20,11 +21,12 @@ namespace virtualwindows {
 struct PrinterSetup
 {
     QString name{};
-    QString driver{};                        ///< null: the spooler reports a null pointer
-    QString port = QStringLiteral("USB001"); ///< null: the spooler reports a null pointer
-    quint32 attributes = 0x40;               ///< PRINTER_ATTRIBUTE_* (default: local)
-    quint32 status = 0;                      ///< PRINTER_STATUS_*
-    bool administrable = true;               ///< false: PRINTER_ALL_ACCESS is refused with error 5
+    QString driver{};                         ///< null: the spooler reports a null pointer
+    QString port = QStringLiteral("USB001");  ///< null: the spooler reports a null pointer
+    quint32 attributes = 0x40;                ///< PRINTER_ATTRIBUTE_* (default: local)
+    quint32 status = 0;                       ///< PRINTER_STATUS_*
+    bool administrable = true;                ///< false: PRINTER_ALL_ACCESS is refused with error 5
+    std::chrono::milliseconds printingTime{}; ///< how long a job takes to print (default: no time)
 };
 
 /// A value that a driver publishes, with its registry type (REG_SZ 1, REG_BINARY 3, REG_DWORD 4).
@@ -50,6 +52,9 @@ struct PrintJob
     QString datatype;   ///< null when none was given
     QList<QByteArray> pages;
     bool finished = false; ///< EndDocPrinter was called
+    bool queued = true;    ///< it is still in the printer's queue
+    quint32 status = 0;    ///< JOB_STATUS_*; when it has left the queue, those that it left with
+    QDateTime submitted;
 };
 
 /// One call of a Windows function, in the order in which the calls began.
@@ -121,7 +126,14 @@ public:
     void unpublish(const QString& printer, const QByteArray& valueName);
     /// Signals the printer's change notifications without a change.
     void notify(const QString& printer, quint32 change);
+    /// The jobs that are in the printer's queue or have been printed. Deleted jobs are not listed.
     QList<PrintJob> jobs(const QString& printer) const;
+    /// How long the printer's jobs take to print, from the next one that starts. Machine time: it
+    /// passes in advance() while the time is driven.
+    void setPrintingTime(const QString& printer, std::chrono::milliseconds time);
+    /// How many bytes of each call of WritePrinter the printer's queue takes. The call succeeds
+    /// nevertheless and reports that number.
+    void limitWrites(const QString& printer, quint32 bytes);
 
     // The service "Spooler". In any state but SERVICE_RUNNING (4), all printer handles and change
     // notifications become invalid.
