@@ -83,9 +83,13 @@ std::optional<quint32> publishedNumber(const QString& text)
 {
     bool isNumber = false;
     const uint number = text.toUInt(&isNumber);
-    if (!isNumber || number == std::numeric_limits<quint32>::max())
-        return std::nullopt;
-    return number;
+    return isNumber ? std::optional<quint32>(number) : std::nullopt;
+}
+
+std::optional<quint32> publishedMileage(const QString& text)
+{
+    const auto mileage = publishedNumber(text);
+    return mileage == std::numeric_limits<quint32>::max() ? std::nullopt : mileage;
 }
 
 Level::State stateOf(Slot slot, const QString& identifier)

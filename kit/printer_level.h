@@ -15,9 +15,11 @@ struct SlotValues
     CatalogueItemPointer item; ///< null unless the catalogue knows the identifier
 };
 
-/// A mileage or another number as a printer's thread reports it. Without a value when the text is
-/// empty, not a number, or the -1 with which a driver says that it does not know.
+/// A number as a printer's thread reports it. Without a value when the text is not a number.
 std::optional<quint32> publishedNumber(const QString& text);
+
+/// A mileage. Without a value also for the -1 with which a driver says that it does not know it.
+std::optional<quint32> publishedMileage(const QString& text);
 
 /// The state of a slot by its identifier alone: `Loaded` stands for both states of a loaded slot.
 Level::State stateOf(Slot slot, const QString& identifier);

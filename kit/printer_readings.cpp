@@ -461,7 +461,7 @@ void PrinterReadings::Private::setIdentifier(Reading& reading, Slot slot, const 
 
 void PrinterReadings::Private::setMileage(Reading& reading, Slot slot, const QString& mileage)
 {
-    reading.slotValues[indexOf(slot)].mileage = publishedNumber(mileage);
+    reading.slotValues[indexOf(slot)].mileage = publishedMileage(mileage);
     setLevel(reading, slot);
 }
 

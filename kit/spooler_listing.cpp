@@ -82,7 +82,7 @@ std::optional<QList<SpooledPrinter>> listPrinters()
     listed.reserve(all.size());
     for (const AvailablePrinters& printer : std::as_const(all)) {
         const auto model = WindowsPrinterInfo::printerType(printer.driverName);
-        if (static_cast<int>(model) <= lastUnsupportedType)
+        if (static_cast<int>(model) <= lastUnsupportedType || printer.printerName.isEmpty())
             continue;
         SpooledPrinter entry{printer.printerName, model, printer.driverName,
                              printer.portName,    {},    printer.isOffline};

@@ -60,7 +60,7 @@ struct VX_KIT_EXPORT Level
     QString identifier;
     /// The stock-keeping unit. Empty unless the state is `Loaded`, as are the next four.
     QString sku;
-    /// A name for people in the application's language, such as "Vinyl, Yellow".
+    /// A name for people in the application's language, such as "Yellow Vinyl".
     QString name;
     /// The material of a supply or the type of a ribbon.
     QString material;
@@ -80,7 +80,7 @@ struct VX_KIT_EXPORT Level
     /// The printer reports whole percents only, so that metres, ratio and labels are exact to one
     /// percent of the roll.
     bool coarse = false;
-    /// The raw value that the driver publishes.
+    /// The raw value that the driver publishes; no value when it publishes none, or -1.
     std::optional<quint32> mileage;
     MileageUnit mileageUnit = MileageUnit::Millimeters;
 
@@ -111,7 +111,8 @@ public:
     enum class Presence
     {
         Present,
-        Gone, ///< removed from the spooler since `goneSince()`
+        Gone, ///< removed from the spooler since `goneSince()`; nothing that its driver published
+              ///< is known any more, so that its slots are `NotKnown`
     };
     Q_ENUM(Presence)
 
@@ -208,7 +209,8 @@ public:
     /// The printer's network settings, as the driver publishes them. Empty when not known.
     QString ethernetConfig() const;
 
-    /// When the printer last reported anything; invalid when it has not yet.
+    /// When the printer last reported anything, in UTC; invalid when it has not yet. For values
+    /// that were published before anybody listened, the time at which they were read.
     QDateTime lastReport() const;
 
     /// The slots that the model has, in the order of `Slot`.

@@ -230,11 +230,18 @@ void PrinterLevelTest::percentModelIsCoarse()
 
 void PrinterLevelTest::publishedNumbers()
 {
+    using VxKit::publishedMileage;
     using VxKit::publishedNumber;
     QCOMPARE(publishedNumber(QStringLiteral("0")), std::optional<quint32>(0));
     QCOMPARE(publishedNumber(QStringLiteral("4294967294")), std::optional<quint32>(4294967294U));
-    for (const char* text : {"", "4294967295", "-1", "12.5", "many", "99999999999"})
+    for (const char* text : {"", "-1", "12.5", "many", "99999999999"}) {
         QVERIFY(!publishedNumber(QString::fromLatin1(text)));
+        QVERIFY(!publishedMileage(QString::fromLatin1(text)));
+    }
+    const QString minusOne = QStringLiteral("4294967295");
+    QCOMPARE(publishedNumber(minusOne), std::optional<quint32>(4294967295U));
+    QVERIFY(!publishedMileage(minusOne));
+    QCOMPARE(publishedMileage(QStringLiteral("12")), std::optional<quint32>(12));
 }
 
 QTEST_APPLESS_MAIN(PrinterLevelTest)

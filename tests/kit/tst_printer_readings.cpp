@@ -46,6 +46,7 @@ private Q_SLOTS:
     void spoolerThatDoesNotAnswerMakesNothingGone_data();
     void spoolerThatDoesNotAnswerMakesNothingGone();
     void otherModelHasOtherSlots();
+    void aPrinterWithoutNameHasNoReading();
 
     void aRenamedPrinterKeepsItsReading();
     void aRenamedPrinterMovesToItsNewThread();
@@ -177,7 +178,7 @@ void PrinterReadingsTest::readsWhatWasPublishedBeforeItWasMade()
     QCOMPARE(supply.state, State::Loaded);
     QCOMPARE(supply.identifier, QStringLiteral("000000641000030000A7"));
     QCOMPARE(supply.sku, QStringLiteral("VT-400-YL"));
-    QCOMPARE(supply.name, QStringLiteral("Vinyl, Yellow"));
+    QCOMPARE(supply.name, QStringLiteral("Yellow Vinyl"));
     QCOMPARE(supply.material, QStringLiteral("Vinyl"));
     QCOMPARE(supply.colorName, QStringLiteral("Yellow"));
     QCOMPARE(supply.colors, QStringList{QStringLiteral("#ffd100")});
@@ -189,7 +190,7 @@ void PrinterReadingsTest::readsWhatWasPublishedBeforeItWasMade()
 
     const VxKit::Level ribbon2 = now.level(Slot::Ribbon2);
     QCOMPARE(ribbon2.sku, QStringLiteral("RP-43-KR"));
-    QCOMPARE(ribbon2.name, QStringLiteral("resin, Black/Red"));
+    QCOMPARE(ribbon2.name, QStringLiteral("Black/Red resin"));
     QCOMPARE(ribbon2.colorName, QStringLiteral("Black"));
     QCOMPARE(ribbon2.colors, QStringList({QStringLiteral("#000000"), QStringLiteral("#c8102e")}));
     QCOMPARE(ribbon2.percentage(), std::optional<int>(record(shipping).ribbon2Percentage));
@@ -557,10 +558,12 @@ void PrinterReadingsTest::rawValuesAreThoseOfTheDriver()
     publishNumber(packing, "Mileage", 150);
     publishNumber(shipping, "Mileage", 0xFFFFFFFF);
     publishNumber(shipping, "Ribbon1Mileage", 130000);
+    publishNumber(shipping, "UpdateError", 0xFFFFFFFF);
     makeReadings();
     QCOMPARE(level(packing, Slot::Supply).mileage, std::optional<quint32>(150));
     QCOMPARE(level(packing, Slot::Supply).mileageUnit, VxKit::Level::MileageUnit::Percent);
     QVERIFY(!level(shipping, Slot::Supply).mileage); // -1
+    QCOMPARE(reading(shipping).updateError(), std::optional<quint32>(0xFFFFFFFF));
     QCOMPARE(level(shipping, Slot::Ribbon1).mileage, std::optional<quint32>(130000));
     QCOMPARE(level(shipping, Slot::Ribbon1).mileageUnit, VxKit::Level::MileageUnit::Millimeters);
 }
@@ -797,6 +800,16 @@ void PrinterReadingsTest::otherModelHasOtherSlots()
     QCOMPARE(takeLines(), QStringList{QStringLiteral("changed(Packing)")});
     QCOMPARE(level(packing, Slot::Ribbon2).sku, QStringLiteral("RS-43-BK"));
     QCOMPARE(level(packing, Slot::Ribbon2).percentage(), std::optional<int>(40));
+}
+
+void PrinterReadingsTest::aPrinterWithoutNameHasNoReading()
+{
+    addBirch(QStringLiteral(""));
+    addBirch(packing);
+    makeReadings();
+    QCOMPARE(readings().names(), QStringList{packing});
+    readings().refresh();
+    QCOMPARE(takeLines(), QStringList());
 }
 
 // Other names /////////////////////////////////////////////////////////////////////////////////////
