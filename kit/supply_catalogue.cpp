@@ -34,11 +34,16 @@ QString hexOf(int rgb)
     return QStringLiteral("#%1").arg(static_cast<uint>(rgb) & 0xFFFFFFU, 6, 16, QLatin1Char('0'));
 }
 
-/// A comma between the parts, which is right in every language: "Vinyl, Yellow".
-QString joined(QStringList parts)
+/// The name of a supply or ribbon by its colours and its material, of which either may be missing.
+QString nameOf(QStringList colorNames, const QString& material)
 {
-    parts.removeAll(QString());
-    return parts.join(QLatin1String(", "));
+    colorNames.removeAll(QString());
+    const QString colors = colorNames.join(QLatin1Char('/'));
+    if (colors.isEmpty() || material.isEmpty())
+        return colors + material;
+    //: The name of a supply or ribbon for people. %1 is its colour or colours, such as "Yellow" or
+    //: "Black/Red", %2 its material, such as "Vinyl".
+    return QCoreApplication::translate("VxKit::SupplyCatalogue", "%1 %2").arg(colors, material);
 }
 
 CatalogueItem supplyItem(const QString& sku, VXIPCSUPPLYDController& service)
@@ -48,9 +53,7 @@ CatalogueItem supplyItem(const QString& sku, VXIPCSUPPLYDController& service)
     item.sku = sku;
     item.material = record.materialName;
     item.colorName = record.colorName;
-    QStringList colorNames{record.colorName, record.secColorName};
-    colorNames.removeAll(QString());
-    item.name = joined({record.materialName, colorNames.join(QLatin1Char('/'))});
+    item.name = nameOf({record.colorName, record.secColorName}, record.materialName);
     for (const int rgb : {record.colorRGB, record.secColorRGB}) {
         if (rgb >= 0)
             item.colors.append(hexOf(rgb));
@@ -81,7 +84,7 @@ CatalogueItem ribbonItem(const QString& sku, VXIPCSUPPLYDController& service)
     }
     colorNames.removeAll(QString());
     item.colorName = colorNames.value(0);
-    item.name = joined({item.material, colorNames.join(QLatin1Char('/'))});
+    item.name = nameOf(colorNames, item.material);
     item.length = knownLength(static_cast<float>(service.supplyRibbonLength(sku)));
     return item;
 }

@@ -371,4 +371,12 @@
         <translation>错误</translation>
     </message>
 </context>
+<context>
+    <name>VxKit::SupplyCatalogue</name>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>The name of a supply or ribbon for people. %1 is its colour or colours, such as &quot;Yellow&quot; or &quot;Black/Red&quot;, %2 its material, such as &quot;Vinyl&quot;.</extracomment>
+        <translation>%1%2</translation>
+    </message>
+</context>
 </TS>

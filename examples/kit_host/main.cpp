@@ -18,6 +18,7 @@
 #include <status_info.h>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QHash>
 #include <QtCore/QLocale>
 #include <QtCore/QTextStream>
 #include <QtCore/QTimer>
@@ -92,17 +93,29 @@ static QString titleOf(Slot slot)
     return KitHost::tr("ribbon 2");
 }
 
-static void print(const PrinterReading& printer)
+static QString describe(const PrinterReading& printer)
 {
-    out << printer.name() << ": ";
+    QString line = printer.name() + ": ";
     if (printer.presence() == PrinterReading::Presence::Gone)
-        out << KitHost::tr("removed from Windows");
+        line += KitHost::tr("removed from Windows");
     else
-        out << VxKit::statusInfo(printer.statusCode()).shortTitle;
+        line += VxKit::statusInfo(printer.statusCode()).shortTitle;
     const QList<Slot> slotsOfPrinter = printer.slotList();
     for (const Slot slot : slotsOfPrinter)
-        out << "; " << titleOf(slot) << ' ' << describe(printer.level(slot));
-    out << Qt::endl;
+        line += "; " + titleOf(slot) + ' ' + describe(printer.level(slot));
+    return line;
+}
+
+static void print(const PrinterReading& printer)
+{
+    // Many reports change nothing that is printed.
+    static QHash<QString, QString> printed;
+    const QString line = describe(printer);
+    QString& last = printed[printer.name()];
+    if (line == last)
+        return;
+    last = line;
+    out << line << Qt::endl;
     if (out.status() != QTextStream::Ok && outputError == 0) {
         outputError = errno;
         QCoreApplication::exit();

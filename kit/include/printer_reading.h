@@ -60,7 +60,7 @@ struct VX_KIT_EXPORT Level
     QString identifier;
     /// The stock-keeping unit. Empty unless the state is `Loaded`, as are the next four.
     QString sku;
-    /// A name for people in the application's language, such as "Vinyl, Yellow".
+    /// A name for people in the application's language, such as "Yellow Vinyl".
     QString name;
     /// The material of a supply or the type of a ribbon.
     QString material;

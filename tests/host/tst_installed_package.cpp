@@ -278,9 +278,9 @@ void InstalledPackageTest::hostOnTheKitShowsSuppliesAndRibbonsAtItsFirstRun()
             { "at": 30, "printer": "Packing", "values": { "Ribbon1Identifier": 0 } }
         ]
     })");
-    QVERIFY(printsWithFleet(fleet,
-                            "Packing: Ready; supply White Vinyl, 15.2 m; ribbon 1 Black, 60.0 m\n",
-                            QStringLiteral("en"), kitHost));
+    QVERIFY(printsWithFleet(
+        fleet, "Packing: Ready; supply White Vinyl, 15.2 m; ribbon 1 Black resin, 60.0 m\n",
+        QStringLiteral("en"), kitHost));
     QVERIFY(printsWithFleet(fleet, "Packing: Ready; supply White Vinyl, 15.2 m; ribbon 1 empty\n",
                             QStringLiteral("en"), kitHost));
     QVERIFY(printsWithFleet(fleet, "Packing: Bereit; Etiketten ", QStringLiteral("de"), kitHost));

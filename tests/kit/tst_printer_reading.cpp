@@ -63,7 +63,7 @@ PrinterReading TestPrinterReading::fullReading()
     level.state = Level::State::Loaded;
     level.identifier = QStringLiteral("000000641000030000A7");
     level.sku = QStringLiteral("VT-400-YL");
-    level.name = QStringLiteral("Vinyl, Yellow");
+    level.name = QStringLiteral("Yellow Vinyl");
     level.material = QStringLiteral("Vinyl");
     level.colorName = QStringLiteral("Yellow");
     level.colors = {QStringLiteral("#ffd100")};

@@ -176,7 +176,7 @@ void PrinterReadingsTest::readsWhatWasPublishedBeforeItWasMade()
     QCOMPARE(supply.state, State::Loaded);
     QCOMPARE(supply.identifier, QStringLiteral("000000641000030000A7"));
     QCOMPARE(supply.sku, QStringLiteral("VT-400-YL"));
-    QCOMPARE(supply.name, QStringLiteral("Vinyl, Yellow"));
+    QCOMPARE(supply.name, QStringLiteral("Yellow Vinyl"));
     QCOMPARE(supply.material, QStringLiteral("Vinyl"));
     QCOMPARE(supply.colorName, QStringLiteral("Yellow"));
     QCOMPARE(supply.colors, QStringList{QStringLiteral("#ffd100")});
@@ -188,7 +188,7 @@ void PrinterReadingsTest::readsWhatWasPublishedBeforeItWasMade()
 
     const VxKit::Level ribbon2 = now.level(Slot::Ribbon2);
     QCOMPARE(ribbon2.sku, QStringLiteral("RP-43-KR"));
-    QCOMPARE(ribbon2.name, QStringLiteral("resin, Black/Red"));
+    QCOMPARE(ribbon2.name, QStringLiteral("Black/Red resin"));
     QCOMPARE(ribbon2.colorName, QStringLiteral("Black"));
     QCOMPARE(ribbon2.colors, QStringList({QStringLiteral("#000000"), QStringLiteral("#c8102e")}));
     QCOMPARE(ribbon2.percentage(), std::optional<int>(record(shipping).ribbon2Percentage));

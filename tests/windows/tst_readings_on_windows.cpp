@@ -74,7 +74,7 @@ void ReadingsOnWindowsTest::readsWhatIsLoaded()
     const Level supply = loaded.level(Slot::Supply);
     QCOMPARE(supply.state, Level::State::Loaded);
     QCOMPARE(supply.sku, QStringLiteral("VT-400-WH"));
-    QCOMPARE(supply.name, QStringLiteral("Vinyl, White"));
+    QCOMPARE(supply.name, QStringLiteral("White Vinyl"));
     QCOMPARE(supply.percentage(), std::optional<int>(50));
     QVERIFY(qAbs(*supply.meters - 15.24) < 0.01);
     QCOMPARE(loaded.level(Slot::Ribbon1).percentage(), std::optional<int>(49));
