@@ -32,8 +32,8 @@ constexpr Option virtualOption{"virtual", "FILE", "use the virtual printers that
 constexpr Option speedOption{"speed", "FACTOR",
                              "watch: speed up the virtual printers' story by FACTOR",
                              CommandOption::Speed};
-constexpr Option waitOption{
-    "wait", "", "send: wait until the job was printed or has left the queue", CommandOption::Wait};
+constexpr Option waitOption{"wait", "", "send: wait until the job has left the queue",
+                            CommandOption::Wait};
 constexpr Option forceOption{"force", "", "send: also to a printer of another maker, also nothing",
                              CommandOption::Force};
 constexpr Option helpOption{"help", "", "print this help"};
