@@ -2,13 +2,13 @@
 // Copyright The VxPrinterStatus authors
 #include "supply_catalogue.h"
 
+#include "catalogue_texts.h"
 #include "printer_types.h"
 #include "vx_ipc_supplyd_controller.h"
 
 #include <supplyc.h>
 #include <vxsupplydatabase.h>
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QSet>
 
 #include <algorithm>
@@ -19,31 +19,11 @@ namespace {
 
 /// Items are dropped and queried again when a fleet uses more kinds than this.
 constexpr qsizetype mostItems = 1024;
-/// More panels than any ribbon has.
-constexpr int mostPanels = 64;
 
 /// Unknown numbers of the service are negative.
 double knownLength(double inches)
 {
     return inches > 0.0 ? inches : 0.0;
-}
-
-/// A 0xRRGGBB number as "#rrggbb".
-QString hexOf(int rgb)
-{
-    return QStringLiteral("#%1").arg(static_cast<uint>(rgb) & 0xFFFFFFU, 6, 16, QLatin1Char('0'));
-}
-
-/// The name of a supply or ribbon by its colours and its material, of which either may be missing.
-QString nameOf(QStringList colorNames, const QString& material)
-{
-    colorNames.removeAll(QString());
-    const QString colors = colorNames.join(QLatin1Char('/'));
-    if (colors.isEmpty() || material.isEmpty())
-        return colors + material;
-    //: The name of a supply or ribbon for people. %1 is its colour or colours, such as "Yellow" or
-    //: "Black/Red", %2 its material, such as "Vinyl".
-    return QCoreApplication::translate("VxKit::SupplyCatalogue", "%1 %2").arg(colors, material);
 }
 
 CatalogueItem supplyItem(const QString& sku, VXIPCSUPPLYDController& service)
@@ -112,8 +92,7 @@ VXSupplyDatabase& SupplyCatalogue::database()
 {
     if (!m_database) {
         m_database = std::make_unique<VXSupplyDatabase>();
-        m_database->setup(QCoreApplication::applicationDirPath() + QLatin1String("/roll.db"),
-                          QStringLiteral("VXKIT_CONNECTION_NAME"));
+        m_database->setup(cataloguePath(), QStringLiteral("VXKIT_CONNECTION_NAME"));
     }
     return *m_database;
 }

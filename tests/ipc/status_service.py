@@ -99,6 +99,24 @@ class Impostor:
         os.unlink(self.path)
 
 
+def check_program(test, command, gone, patience):
+    """Checks that a client's program prints the printers and what changes, until nobody reads it.
+    `gone` is its line about a printer that is gone."""
+    program = subprocess.Popen(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+    test.addCleanup(program.wait)
+    test.addCleanup(program.stderr.close)
+    test.addCleanup(program.kill)
+    lines = set()
+    for line in program.stdout:
+        test.assertTrue(line.isascii(), line)
+        lines.add(line.split(",")[0].strip())
+        if {'"Packing"', '"F\\u00e4r\\u202e"', gone} <= lines:
+            break
+    program.stdout.close()
+    test.assertEqual(program.wait(patience), 0)
+    test.assertEqual(program.stderr.read(), "")
+
+
 REFUSALS = [
     (b"hello\n", "not JSON"),
     (b"[]\n", "not JSON-RPC 2.0"),

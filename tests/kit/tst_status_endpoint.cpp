@@ -26,6 +26,7 @@ private Q_SLOTS:
     void answersOnePrinter();
     void answersAnErrorForAnUnknownPrinter();
     void answersWhatTheCatalogueKnows();
+    void callsASupplyAsItsReadingDoes();
     void describesItself();
     void reportsAChangeAsTheWholeReading();
     void reportsOnlyTheLatestReadingOfAPrinterToAClientThatIsLate();
@@ -140,13 +141,39 @@ void StatusEndpointTest::answersWhatTheCatalogueKnows()
         QCOMPARE(supply[QStringLiteral("colors")][0].toString(),
                  QStringLiteral("#%1").arg(record.colorRGB, 6, 16, QLatin1Char('0')));
         QCOMPARE(supply[QStringLiteral("labelsAcross")].toInt(), record.multiUpCount);
-        QVERIFY(supply[QStringLiteral("name")].toString().startsWith(record.materialName));
+        QVERIFY(supply[QStringLiteral("name")].toString().contains(record.materialName));
     }
     const QJsonValue ribbon = catalogue[QStringLiteral("ribbons")][0];
     const QString sku = ribbon[QStringLiteral("sku")].toString();
     QCOMPARE(ribbon[QStringLiteral("panels")].toInt(), service.supplyRibbonPanels(sku));
     QCOMPARE(ribbon[QStringLiteral("material")].toString(), service.supplyRibbonType(sku));
     QCOMPARE(ribbon[QStringLiteral("colors")].toArray().size(), service.supplyRibbonPanels(sku));
+}
+
+void StatusEndpointTest::callsASupplyAsItsReadingDoes()
+{
+    QVERIFY(makeEndpoint());
+    publishText(packing, "SupplyIdentifier", "000001F41000420000A7");
+    publishNumber(packing, "Ribbon1Identifier", 2001);
+    QVERIFY(settleAll(1));
+    const QJsonObject catalogue = m_endpoint->supplies();
+    const auto check = [&](Slot slot, const QString& list) {
+        const VxKit::Level loaded = level(packing, slot);
+        for (const QJsonArray entries = catalogue[list].toArray();
+             const QJsonValue& entry : entries) {
+            if (entry[QStringLiteral("sku")].toString() != loaded.sku)
+                continue;
+            return entry[QStringLiteral("name")].toString() == loaded.name &&
+                   entry[QStringLiteral("material")].toString() == loaded.material &&
+                   entry[QStringLiteral("colors")] ==
+                       QJsonValue(QJsonArray::fromStringList(loaded.colors)) &&
+                   std::abs(entry[QStringLiteral("totalMeters")].toDouble() -
+                            loaded.totalMeters.value_or(0)) < 1e-5;
+        }
+        return false;
+    };
+    QVERIFY(check(Slot::Supply, QStringLiteral("supplies")));
+    QVERIFY(check(Slot::Ribbon1, QStringLiteral("ribbons")));
 }
 
 void StatusEndpointTest::describesItself()
