@@ -66,6 +66,17 @@ endforeach()
 foreach(header IN LISTS VX_PUBLIC_HEADERS)
     install(FILES "include/${header}" DESTINATION "${VX_HEADER_FOLDER}")
 endforeach()
+# The kit is a component of the package: a host that does not ask for it finds the library alone.
+install(TARGETS vxprinterstatuskit EXPORT VxPrinterStatusKitTargets
+    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+install(DIRECTORY kit/include/ DESTINATION "${VX_HEADER_FOLDER}")
+install(EXPORT VxPrinterStatusKitTargets NAMESPACE Vx:: DESTINATION "${VX_PACKAGE_FOLDER}")
+# A catalogue to begin with.
+install(DIRECTORY data/supplies DESTINATION "${CMAKE_INSTALL_DATADIR}/VxPrinterStatus")
+install(DIRECTORY docs/schema DESTINATION "${CMAKE_INSTALL_DATADIR}/VxPrinterStatus")
+
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/VxPrinterStatus")
 
 install(EXPORT VxPrinterStatusTargets NAMESPACE Vx:: DESTINATION "${VX_PACKAGE_FOLDER}")

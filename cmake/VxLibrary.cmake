@@ -4,6 +4,7 @@
 # The library itself, linked from the objects of status/, winprint/ and ipc/.
 
 include(GNUInstallDirs)
+include(VxDll)
 
 set(VX_PUBLIC_HEADERS
     printer_status_controller.h printer_status_thread.h printer_status_information.h printer_types.h
@@ -24,13 +25,4 @@ set_target_properties(vxprinterstatus PROPERTIES
     OUTPUT_NAME vxprinterstatus
     EXPORT_NAME PrinterStatus
     LINKER_LANGUAGE CXX)
-if(WIN32)
-    set_target_properties(vxprinterstatus PROPERTIES PREFIX "")
-    enable_language(RC)
-    configure_file(cmake/vxprinterstatus.rc.in "${PROJECT_BINARY_DIR}/vxprinterstatus.rc" @ONLY)
-    target_sources(vxprinterstatus PRIVATE "${PROJECT_BINARY_DIR}/vxprinterstatus.rc")
-endif()
-if(MINGW)
-    # Otherwise MinGW's linker would also export the symbols of the static libraries.
-    target_link_options(vxprinterstatus PRIVATE -Wl,--exclude-all-symbols)
-endif()
+vx_make_dll(vxprinterstatus "${PROJECT_DESCRIPTION}")

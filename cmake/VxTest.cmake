@@ -20,7 +20,8 @@ endif()
 # In seconds, far longer than any test takes. Qt Test's own limit for a test function, which is in
 # milliseconds, is set to the same time.
 set(VX_TEST_LIMIT 7200)
-set(VX_TEST_ENVIRONMENT QT_QPA_PLATFORM=offscreen QT_FORCE_STDERR_LOGGING=1
+# Texts are compared in English, whatever the language of the system.
+set(VX_TEST_ENVIRONMENT LC_ALL=C.UTF-8 LANGUAGE=en QT_QPA_PLATFORM=offscreen QT_FORCE_STDERR_LOGGING=1
     QTEST_FUNCTION_TIMEOUT=${VX_TEST_LIMIT}000)
 
 # vx_add_script_test(<name> <command>...)

@@ -3,7 +3,7 @@
 //
 // What a client sends to an endpoint. The first byte is the size of the pieces in which the rest
 // arrives. Lines are extracted, parsed and handled as an endpoint does it, and each answer has to
-// be valid JSON-RPC 2.0.
+// be valid JSON-RPC 2.0, and so has each notification that was subscribed to.
 #include "fuzz_service.h"
 #include "qt_application.h"
 #include "require.h"
@@ -13,6 +13,7 @@
 #include <line_buffer.h>
 
 #include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
 #include <QtCore/QSet>
 
 #include <algorithm>
@@ -43,9 +44,32 @@ QJsonObject checkAnswer(const QByteArray& line)
     return answer;
 }
 
-void checkRequest(const IpcDispatcher& dispatcher, const QJsonValue& request)
+/// What the client has subscribed to can be sent, with what it sent itself as an argument.
+void checkNotifications(const IpcDispatcher& dispatcher, const IpcSubscriptions& subscriptions,
+                        const QJsonObject& object)
 {
-    const std::optional<QByteArray> line = dispatcher.handle(request);
+    const IpcSignalTable& table = dispatcher.signalTable();
+    require(subscriptions.size() <= 2, "only the signals that can be sent are subscribed to");
+    for (const qsizetype place : subscriptions) {
+        require(table.at(place).unsupported.isEmpty(), "the signal can be sent");
+        const QVariantList arguments =
+            table.at(place).parameters.size() == 2
+                ? QVariantList{object.value(QStringLiteral("method")).toString(), object}
+                : QVariantList{1};
+        const QByteArray line = table.notification(place, arguments);
+        require(line.indexOf('\n') == line.size() - 1, "a notification is one line");
+        const QJsonObject notification = QJsonDocument::fromJson(line).object();
+        require(notification.size() == 3 &&
+                    notification[QStringLiteral("params")].toObject().size() == arguments.size(),
+                "a notification has its arguments");
+    }
+}
+
+void checkRequest(const IpcDispatcher& dispatcher, const QJsonValue& request,
+                  IpcSubscriptions& subscriptions)
+{
+    const std::optional<QByteArray> line = dispatcher.handle(request, subscriptions);
+    checkNotifications(dispatcher, subscriptions, request.toObject());
     const QJsonValue id = request.toObject().value(QStringLiteral("id"));
     if (!line) {
         require(request.isObject() && id.isUndefined(), "only a notification has no answer");
@@ -58,7 +82,8 @@ void checkRequest(const IpcDispatcher& dispatcher, const QJsonValue& request)
         require(answeredId == id, "a result is for its request");
 }
 
-void checkLine(const IpcDispatcher& dispatcher, QByteArrayView line)
+void checkLine(const IpcDispatcher& dispatcher, QByteArrayView line,
+               IpcSubscriptions& subscriptions)
 {
     const IpcDispatcher::Message message = IpcDispatcher::parse(line);
     if (message.failure) {
@@ -68,7 +93,7 @@ void checkLine(const IpcDispatcher& dispatcher, QByteArrayView line)
     }
     require(message.isBatch() || message.size == 1, "what is not a batch is one request");
     for (qsizetype i = 0; i < message.size; ++i)
-        checkRequest(dispatcher, message.request(i));
+        checkRequest(dispatcher, message.request(i), subscriptions);
 }
 
 } // namespace
@@ -85,6 +110,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const QByteArray bytes(reinterpret_cast<const char*>(data) + 1,
                            static_cast<qsizetype>(size) - 1);
     LineBuffer buffer;
+    IpcSubscriptions subscriptions;
     qsizetype taken = 0;
     for (qsizetype at = 0; at < bytes.size(); at += piece) {
         buffer.append(bytes.mid(at, piece));
@@ -93,7 +119,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
             require(line == bytes.mid(taken, line.size()), "lines are the bytes that arrived");
             taken += line.size() + 1;
             if (!line.trimmed().isEmpty())
-                checkLine(dispatcher, line);
+                checkLine(dispatcher, line, subscriptions);
         }
     }
     require(taken + buffer.lineSize() == bytes.size(), "no byte is lost");

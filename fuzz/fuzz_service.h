@@ -5,13 +5,16 @@
 #include "ipc_test_record.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QJsonValue>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
-/// Returns every argument as it is: one slot for each type that can cross, with short names, which
-/// the fuzzer finds sooner.
+/// Returns every argument as it is: one slot for each type that can cross, and some signals, with
+/// short names, which the fuzzer finds sooner.
 class FuzzService : public QObject
 {
     Q_OBJECT
@@ -33,6 +36,9 @@ public Q_SLOTS:
     QVariantMap p(QVariantMap value) { return value; }
     QVariant v(QVariant value) { return value; }
     TestRecord r(TestRecord value) { return value; }
+    QJsonObject j(QJsonObject value) { return value; }
+    QJsonArray k(QJsonArray value) { return value; }
+    QJsonValue w(QJsonValue value) { return value; }
     void n() {}
     /// Overloads of one name.
     int o(int value, int more = 1) { return value ^ more; }
@@ -43,4 +49,9 @@ public Q_SLOTS:
         more.append(QString::number(value));
         return more;
     }
+
+Q_SIGNALS:
+    void e(QString text, QJsonObject object);
+    void g(int number);
+    void z(QObject* unsupported);
 };

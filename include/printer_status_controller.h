@@ -88,6 +88,13 @@ public:
     /// names. Empty when no printer has a record.
     QVariantList getAvailablePrinters() const;
 
+    /// The thread that watches a printer, by the name under which the printer was found; null when
+    /// the printer is not watched. The controller owns the thread: connect to its signals and call
+    /// its functions that read values, but do not start, stop, rename or delete it. A slot that is
+    /// connected to it on the controller's thread runs after the controller's own slot for the same
+    /// report.
+    PrinterStatusThread* statusThread(const QString& printerName) const;
+
     /// Reports an error that the host has noticed itself. True raises the error state; false checks
     /// all records and clears the error state if none of them is in error.
     void updateCachedStatus(bool inError);

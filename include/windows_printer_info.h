@@ -5,6 +5,7 @@
 #include "printer_types.h"
 #include "vxprinterstatus_export.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QString>
 
@@ -84,6 +85,12 @@ public:
     /// file. When no device is on the port, it is that of the last device in the registry, which is
     /// not recorded; empty when there is no device at all.
     static QString getDeviceSerialNumber(unsigned short port);
+
+    /// The serial numbers of the maker's USB devices by the number of their port, which is 1 for
+    /// USB001. A device without a port or a serial number is not among them. Unlike the two
+    /// functions that return a serial number for a port, it never returns that of a device on
+    /// another port, and it records nothing. The registry is read once for all devices.
+    static QHash<unsigned short, QString> getDeviceSerialNumbers();
 
     /// Records a serial number with the current local time in the user's printer-serial file,
     /// unless it is empty or already recorded.

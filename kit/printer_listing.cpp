@@ -27,7 +27,7 @@ bool isSameText(const QString& text, LPCWSTR other)
     return other ? isNamed(text, other) : text.isEmpty();
 }
 
-bool isSame(const ListedPrinter& printer, PRINTER_INFO_2W& record)
+bool isSame(const SpoolerEntry& printer, PRINTER_INFO_2W& record)
 {
     return isNamed(printer.name, record.pPrinterName) && printer.attributes == record.Attributes &&
            printer.isOnline == !WindowsPrinterInfo::isPrinterOffline(&record) &&
@@ -35,14 +35,14 @@ bool isSame(const ListedPrinter& printer, PRINTER_INFO_2W& record)
            isSameText(printer.port, record.pPortName);
 }
 
-bool isSame(const ListedPrinter& printer, const PRINTER_INFO_4W& record)
+bool isSame(const SpoolerEntry& printer, const PRINTER_INFO_4W& record)
 {
     return isNamed(printer.name, record.pPrinterName) && printer.attributes == record.Attributes;
 }
 
 /// The records at the start of a block, without those that have no name.
 template <typename Record>
-bool matches(const QList<ListedPrinter>& printers, std::span<Record> records)
+bool matches(const QList<SpoolerEntry>& printers, std::span<Record> records)
 {
     auto printer = printers.begin();
     for (Record& record : records) {
@@ -60,39 +60,38 @@ bool isSupported(const QString& driver)
     return WindowsPrinterInfo::printerType(driver) > VXPrinting::PrinterType::Generic;
 }
 
-QHash<QString, const ListedPrinter*> byName(const QList<ListedPrinter>& printers)
+QHash<QString, const SpoolerEntry*> byName(const QList<SpoolerEntry>& printers)
 {
-    QHash<QString, const ListedPrinter*> index;
+    QHash<QString, const SpoolerEntry*> index;
     index.reserve(printers.size());
-    for (const ListedPrinter& printer : printers)
+    for (const SpoolerEntry& printer : printers)
         index.insert(printer.name, &printer);
     return index;
 }
 
 /// The printers of one list whose names the other list does not have.
-QList<const ListedPrinter*> missing(const QList<ListedPrinter>& printers,
-                                    const QHash<QString, const ListedPrinter*>& others)
+QList<const SpoolerEntry*> missing(const QList<SpoolerEntry>& printers,
+                                   const QHash<QString, const SpoolerEntry*>& others)
 {
-    QList<const ListedPrinter*> found;
-    for (const ListedPrinter& printer : printers) {
+    QList<const SpoolerEntry*> found;
+    for (const SpoolerEntry& printer : printers) {
         if (!others.contains(printer.name))
             found.append(&printer);
     }
     return found;
 }
 
-bool mayBeOne(const ListedPrinter& before, const ListedPrinter& after)
+bool mayBeOne(const SpoolerEntry& before, const SpoolerEntry& after)
 {
     return before.driver == after.driver && before.port == after.port;
 }
 
 /// The only printer of the list that may be the same as this one; null if there are several or
 /// none.
-const ListedPrinter* onlyMatch(const ListedPrinter& printer,
-                               const QList<const ListedPrinter*>& others)
+const SpoolerEntry* onlyMatch(const SpoolerEntry& printer, const QList<const SpoolerEntry*>& others)
 {
-    const ListedPrinter* match = nullptr;
-    for (const ListedPrinter* other : others) {
+    const SpoolerEntry* match = nullptr;
+    for (const SpoolerEntry* other : others) {
         if (!mayBeOne(printer, *other))
             continue;
         if (match)
@@ -144,20 +143,20 @@ PrinterListing::Outcome PrinterListing::list()
     if (matches(m_printers, records))
         return Outcome::Same;
 
-    const QHash<QString, const ListedPrinter*> known = byName(m_printers);
+    const QHash<QString, const SpoolerEntry*> known = byName(m_printers);
     m_fetched.clear();
     m_fetched.reserve(static_cast<qsizetype>(records.size()));
     for (PRINTER_INFO_2W& record : records) {
         if (!record.pPrinterName)
             continue;
-        ListedPrinter printer;
+        SpoolerEntry printer;
         printer.name = textFrom(record.pPrinterName);
         printer.driver = textFrom(record.pDriverName);
         printer.port = textFrom(record.pPortName);
         printer.attributes = record.Attributes;
         printer.isOnline = !WindowsPrinterInfo::isPrinterOffline(&record);
         printer.isSupported = isSupported(printer.driver);
-        if (const ListedPrinter* const before = known.value(printer.name))
+        if (const SpoolerEntry* const before = known.value(printer.name))
             printer.isAdministrable = before->isAdministrable;
         m_fetched.append(printer);
     }
@@ -172,15 +171,15 @@ bool PrinterListing::hasRenameCandidates() const
 
 ListingChanges PrinterListing::differences(bool mayBeRenamed) const
 {
-    const QHash<QString, const ListedPrinter*> before = byName(m_printers);
-    const QList<const ListedPrinter*> gone = missing(m_printers, byName(m_fetched));
-    const QList<const ListedPrinter*> fresh = missing(m_fetched, before);
+    const QHash<QString, const SpoolerEntry*> before = byName(m_printers);
+    const QList<const SpoolerEntry*> gone = missing(m_printers, byName(m_fetched));
+    const QList<const SpoolerEntry*> fresh = missing(m_fetched, before);
 
     ListingChanges changes;
     changes.any = true;
-    QSet<const ListedPrinter*> paired;
-    for (const ListedPrinter* printer : gone) {
-        const ListedPrinter* const match = mayBeRenamed ? onlyMatch(*printer, fresh) : nullptr;
+    QSet<const SpoolerEntry*> paired;
+    for (const SpoolerEntry* printer : gone) {
+        const SpoolerEntry* const match = mayBeRenamed ? onlyMatch(*printer, fresh) : nullptr;
         if (!match || onlyMatch(*match, gone) != printer) {
             changes.gone.append(printer->name);
             continue;
@@ -190,12 +189,12 @@ ListingChanges PrinterListing::differences(bool mayBeRenamed) const
         if (printer->isOnline != match->isOnline)
             changes.online.append({match->name, match->isOnline});
     }
-    for (const ListedPrinter* printer : fresh) {
+    for (const SpoolerEntry* printer : fresh) {
         if (!paired.contains(printer))
             changes.added.append(printer->name);
     }
-    for (const ListedPrinter& printer : m_fetched) {
-        const ListedPrinter* const same = before.value(printer.name);
+    for (const SpoolerEntry& printer : m_fetched) {
+        const SpoolerEntry* const same = before.value(printer.name);
         if (same && same->isOnline != printer.isOnline)
             changes.online.append({printer.name, printer.isOnline});
     }
@@ -212,7 +211,7 @@ ListingChanges PrinterListing::inspect(int count, bool alsoOnline)
     ListingChanges changes;
     const qsizetype size = m_printers.size();
     for (qsizetype seen = 0; seen < size && count > 0; ++seen) {
-        ListedPrinter& printer = m_printers[m_nextToInspect++ % size];
+        SpoolerEntry& printer = m_printers[m_nextToInspect++ % size];
         if (!printer.isSupported)
             continue;
         --count;
@@ -245,7 +244,7 @@ QStringList PrinterListing::names() const
 {
     QStringList names;
     names.reserve(m_printers.size());
-    for (const ListedPrinter& printer : m_printers)
+    for (const SpoolerEntry& printer : m_printers)
         names.append(printer.name);
     return names;
 }

@@ -18,7 +18,7 @@
 namespace VxKit {
 
 /// A printer as the spooler lists it.
-struct ListedPrinter
+struct SpoolerEntry
 {
     QString name;
     QString driver;
@@ -51,7 +51,7 @@ public:
         Failed,    ///< error() says why
     };
 
-    /// Lists the printers with everything that `ListedPrinter` holds.
+    /// Lists the printers with everything that `SpoolerEntry` holds.
     Outcome list();
     /// Lists only what is cheap to list, names and attributes. What else has changed goes
     /// unnoticed.
@@ -80,8 +80,8 @@ private:
     std::vector<BYTE> m_block;
     DWORD m_count = 0; ///< of records in the block
     DWORD m_error = 0;
-    QList<ListedPrinter> m_printers;
-    QList<ListedPrinter> m_fetched;
+    QList<SpoolerEntry> m_printers;
+    QList<SpoolerEntry> m_fetched;
     qsizetype m_nextToInspect = 0;
 };
 

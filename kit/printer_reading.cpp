@@ -5,6 +5,7 @@
 #include <QtCore/QSharedData>
 
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace VxKit {
@@ -44,6 +45,15 @@ QString slotName(Slot slot)
         break;
     }
     return QStringLiteral("supply");
+}
+
+std::optional<int> Level::percentage() const
+{
+    if (!ratio)
+        return std::nullopt;
+    constexpr double whole = 100.0;
+    // A ratio made of a whole percentage may be a little less than it.
+    return static_cast<int>(coarse ? std::round(*ratio * whole) : std::floor(*ratio * whole));
 }
 
 struct PrinterReading::Data : QSharedData
@@ -91,7 +101,15 @@ PrinterReading::~PrinterReading() = default;
 
 bool PrinterReading::isNull() const
 {
-    return d->name.isNull();
+    return d->name.isEmpty();
+}
+
+template <typename Value>
+void PrinterReading::set(Value Data::*member, const Value& value)
+{
+    // A copy of the data is made only for a value that is another one.
+    if (d.constData()->*member != value)
+        d.data()->*member = value;
 }
 
 bool PrinterReading::operator==(const PrinterReading& other) const
@@ -172,6 +190,11 @@ int PrinterReading::statusCode() const
     return d->statusCode;
 }
 
+StatusInfo PrinterReading::statusInfo() const
+{
+    return VxKit::statusInfo(d->statusCode);
+}
+
 bool PrinterReading::isOnline() const
 {
     return d->online;
@@ -236,98 +259,104 @@ Level PrinterReading::level(Slot slot) const
 
 void PrinterReading::setName(const QString& name)
 {
-    d->name = name;
+    set(&Data::name, name);
 }
 
 void PrinterReading::setModel(VXPrinting::PrinterType model)
 {
-    d->model = model;
+    set(&Data::model, model);
     for (const Slot slot : allSlots) {
         if (!hasSlot(slot))
-            d->levels[indexOf(slot)] = Level();
+            setOwnLevel(slot, Level());
     }
 }
 
 void PrinterReading::setDriver(const QString& driver)
 {
-    d->driver = driver;
+    set(&Data::driver, driver);
 }
 
 void PrinterReading::setPort(const QString& port)
 {
-    d->port = port;
+    set(&Data::port, port);
 }
 
 void PrinterReading::setSerialNumber(const QString& serialNumber)
 {
-    d->serialNumber = serialNumber;
+    set(&Data::serialNumber, serialNumber);
 }
 
 void PrinterReading::setPresent()
 {
-    d->presence = Presence::Present;
-    d->goneSince = QDateTime();
+    set(&Data::presence, Presence::Present);
+    set(&Data::goneSince, QDateTime());
 }
 
 void PrinterReading::setGone(const QDateTime& since)
 {
-    d->presence = Presence::Gone;
-    d->goneSince = since;
+    set(&Data::presence, Presence::Gone);
+    set(&Data::goneSince, since);
 }
 
 void PrinterReading::setWatching(Watching watching)
 {
-    d->watching = watching;
+    set(&Data::watching, watching);
 }
 
 void PrinterReading::setStatusCode(int statusCode)
 {
-    d->statusCode = statusCode;
+    set(&Data::statusCode, statusCode);
 }
 
 void PrinterReading::setOnline(bool online)
 {
-    d->online = online;
+    set(&Data::online, online);
 }
 
 void PrinterReading::setActive(bool active)
 {
-    d->active = active;
+    set(&Data::active, active);
 }
 
 void PrinterReading::setFirmwareVersion(const QString& version)
 {
-    d->firmwareVersion = version;
+    set(&Data::firmwareVersion, version);
 }
 
 void PrinterReading::setBootVersion(const QString& version)
 {
-    d->bootVersion = version;
+    set(&Data::bootVersion, version);
 }
 
 void PrinterReading::setUpdateProgress(std::optional<quint32> progress)
 {
-    d->updateProgress = progress;
+    set(&Data::updateProgress, progress);
 }
 
 void PrinterReading::setUpdateError(std::optional<quint32> error)
 {
-    d->updateError = error;
+    set(&Data::updateError, error);
 }
 
 void PrinterReading::setEthernetConfig(const QString& ethernetConfig)
 {
-    d->ethernetConfig = ethernetConfig;
+    set(&Data::ethernetConfig, ethernetConfig);
 }
 
 void PrinterReading::setLastReport(const QDateTime& time)
 {
-    d->lastReport = time;
+    set(&Data::lastReport, time);
 }
 
 void PrinterReading::setLevel(Slot slot, const Level& level)
 {
     if (hasSlot(slot))
+        setOwnLevel(slot, level);
+}
+
+void PrinterReading::setOwnLevel(Slot slot, const Level& level)
+{
+    if (d.constData()->levels[indexOf(slot)] != level)
         d->levels[indexOf(slot)] = level;
 }
 

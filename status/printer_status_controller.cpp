@@ -198,6 +198,11 @@ void PrinterStatusController::createNewStatusThread(QString printerName)
     statusThreads.insert(printerName, thread);
 }
 
+PrinterStatusThread* PrinterStatusController::statusThread(const QString& printerName) const
+{
+    return statusThreads.value(printerName);
+}
+
 // The active printer //////////////////////////////////////////////////////////////////////////////
 
 QString PrinterStatusController::activeDefaultPrinter() const

@@ -44,6 +44,9 @@ DeviceSerialNumbers::DeviceSerialNumbers()
         const auto port = static_cast<quint16>(parameters.portNumber.toUInt());
         if (!m_byPort.contains(port))
             m_byPort.insert(port, m_last);
+        if (isMakersDevice(device) && parameters.portNumber.isValid() && !m_last.isEmpty() &&
+            !m_ofMakersDevices.contains(port))
+            m_ofMakersDevices.insert(port, m_last);
     }
 }
 

@@ -22,7 +22,11 @@ public:
     };
     Answer onPort(unsigned short port) const;
 
+    /// Those of the maker's devices that have a port and a serial number, by port.
+    QHash<quint16, QString> ofMakersDevices() const { return m_ofMakersDevices; }
+
 private:
     QHash<quint16, QString> m_byPort;
+    QHash<quint16, QString> m_ofMakersDevices;
     QString m_last;
 };

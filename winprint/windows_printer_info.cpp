@@ -230,6 +230,11 @@ QString WindowsPrinterInfo::getDeviceSerialNumber(unsigned short port)
     return Lookups().serialNumberOnPort(port);
 }
 
+QHash<unsigned short, QString> WindowsPrinterInfo::getDeviceSerialNumbers()
+{
+    return DeviceSerialNumbers().ofMakersDevices();
+}
+
 void WindowsPrinterInfo::addPrinterSerialToIniFile(const QString& serialNumber)
 {
     PrinterSerialFile().record(serialNumber);

@@ -7,7 +7,7 @@
 // Usage: minimal_host [--log FILE] [SECONDS]
 //
 // Each example is complete, so that you can copy it: all of them contain keepLog and the lines that
-// load the titles.
+// load the translations, those of the titles and their own.
 #include <ConsoleAppender.h>
 #include <FileAppender.h>
 #include <Logger.h>
@@ -23,6 +23,12 @@
 
 static QTextStream out(stdout);
 static int outputError = 0; // errno of the first failed write
+
+/// The host's own texts. MinimalHost::tr() translates one.
+struct MinimalHost
+{
+    Q_DECLARE_TR_FUNCTIONS(MinimalHost)
+};
 
 static void keepLog(const QString& fileName)
 {
@@ -41,14 +47,17 @@ static void print(PrinterStatusController& printers)
     const QVariantList records = printers.getAvailablePrinters();
     for (const QVariant& entry : records) {
         const auto printer = entry.value<PrinterStatusInformation>();
-        out << printer.printerName << ": "
-            << printers.getStatusTitle(printer.statusEnum).simplified() << ", supply "
-            << printer.supplySKU << ' ' << printer.supplyPercentage << " %, ribbon "
-            << printer.ribbon1ColorName << ' ' << printer.ribbon1Percentage << " %\n";
+        out << MinimalHost::tr("%1: %2, supply %3 %4 %, ribbon %5 %6 %")
+                   .arg(printer.printerName,
+                        printers.getStatusTitle(printer.statusEnum).simplified(), printer.supplySKU,
+                        QString::number(printer.supplyPercentage), printer.ribbon1ColorName,
+                        QString::number(printer.ribbon1Percentage))
+            << '\n';
     }
     if (records.isEmpty())
-        out << "no printers\n";
-    out << "active printer: " << printers.activeDefaultPrinter() << '\n' << Qt::endl;
+        out << MinimalHost::tr("no printers") << '\n';
+    out << MinimalHost::tr("active printer: %1").arg(printers.activeDefaultPrinter()) << '\n'
+        << Qt::endl;
     if (out.status() != QTextStream::Ok && outputError == 0) {
         outputError = errno;
         QCoreApplication::exit();
@@ -58,6 +67,13 @@ static void print(PrinterStatusController& printers)
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
+    QTranslator titles;
+    if (titles.load(QLocale(), "vxprinterstatus", "_", ":/vxprinterstatus/translations"))
+        QCoreApplication::installTranslator(&titles);
+    QTranslator texts;
+    if (texts.load(QLocale(), "minimal_host", "_", ":/minimal_host/translations"))
+        QCoreApplication::installTranslator(&texts);
+
     QStringList arguments = QCoreApplication::arguments().mid(1);
     QString logFile;
     if (arguments.size() > 1 && arguments.first() == "--log") {
@@ -67,13 +83,11 @@ int main(int argc, char* argv[])
     bool readable = true;
     const int seconds = arguments.isEmpty() ? 0 : arguments.first().toInt(&readable);
     if (!readable || seconds < 0) {
-        QTextStream(stderr) << "minimal_host: expected a number of seconds\n";
+        QTextStream(stderr) << "minimal_host: " << MinimalHost::tr("expected a number of seconds")
+                            << '\n';
         return 2;
     }
     keepLog(logFile);
-    QTranslator titles;
-    if (titles.load(QLocale(), "vxprinterstatus", "_", ":/vxprinterstatus/translations"))
-        QCoreApplication::installTranslator(&titles);
 
     PrinterStatusController printers;
     print(printers);
@@ -87,7 +101,9 @@ int main(int argc, char* argv[])
     // A reader that closes the pipe has read all it wants, so that is no error.
     if (outputError == 0 || outputError == EPIPE)
         return 0;
-    QTextStream(stderr) << "minimal_host: standard output could not be written: "
-                        << std::strerror(outputError) << '\n';
+    QTextStream(stderr) << "minimal_host: "
+                        << MinimalHost::tr("standard output could not be written: %1")
+                               .arg(QString::fromLocal8Bit(std::strerror(outputError)))
+                        << '\n';
     return 1;
 }

@@ -6,7 +6,7 @@
 // Usage: widgets_host [--log FILE]
 //
 // Each example is complete, so that you can copy it: all of them contain keepLog and the lines that
-// load the titles.
+// load the translations, those of the titles and their own.
 #include "printer_window.h"
 
 #include <ConsoleAppender.h>
@@ -37,6 +37,9 @@ int main(int argc, char* argv[])
     QTranslator titles;
     if (titles.load(QLocale(), "vxprinterstatus", "_", ":/vxprinterstatus/translations"))
         QCoreApplication::installTranslator(&titles);
+    QTranslator texts;
+    if (texts.load(QLocale(), "widgets_host", "_", ":/widgets_host/translations"))
+        QCoreApplication::installTranslator(&texts);
 
     PrinterWindow window;
     window.show();

@@ -4,6 +4,7 @@
 
 #include "printer_types.h"
 #include "status_codes.h"
+#include "status_info.h"
 #include "vxprinterstatuskit_export.h"
 
 #include <QtCore/QDateTime>
@@ -79,9 +80,12 @@ struct VX_KIT_EXPORT Level
     /// The printer reports whole percents only, so that metres, ratio and labels are exact to one
     /// percent of the roll.
     bool coarse = false;
-    /// The raw value that the driver publishes.
+    /// The raw value that the driver publishes; no value when it publishes none, or -1.
     std::optional<quint32> mileage;
     MileageUnit mileageUnit = MileageUnit::Millimeters;
+
+    /// What is left in whole percents, rounded down, as in the library's record.
+    std::optional<int> percentage() const;
 
     bool operator==(const Level&) const = default;
 };
@@ -107,7 +111,8 @@ public:
     enum class Presence
     {
         Present,
-        Gone, ///< removed from the spooler since `goneSince()`
+        Gone, ///< removed from the spooler since `goneSince()`; nothing that its driver published
+              ///< is known any more, so that its slots are `NotKnown`
     };
     Q_ENUM(Presence)
 
@@ -181,10 +186,13 @@ public:
     QDateTime goneSince() const;
     Watching watching() const;
 
-    /// The status code: one of `VXPrinting::StatusCodes` or the driver's error code; `statusInfo()`
-    /// explains it. `disconnected` for a printer that is gone, `offline` for one that has been
+    /// The status code: one of `VXPrinting::StatusCodes` or the driver's error code.
+    /// `disconnected` for a printer that is gone, `offline` for one that has been
     /// offline since it was found, `unknown` for a watched printer that has not reported yet.
     int statusCode() const;
+    /// What the status code means, how much it matters and what to do, in the application's
+    /// language.
+    StatusInfo statusInfo() const;
     /// Whether the printer is present and not offline.
     bool isOnline() const;
     /// Whether it is the active printer, see `PrinterStatusController::activeDefaultPrinter()`.
@@ -201,7 +209,8 @@ public:
     /// The printer's network settings, as the driver publishes them. Empty when not known.
     QString ethernetConfig() const;
 
-    /// When the printer last reported anything; invalid when it has not yet.
+    /// When the printer last reported anything, in UTC; invalid when it has not yet. For values
+    /// that were published before anybody listened, the time at which they were read.
     QDateTime lastReport() const;
 
     /// The slots that the model has, in the order of `Slot`.
@@ -244,6 +253,10 @@ public:
 
 private:
     struct Data;
+    template <typename Value>
+    void set(Value Data::*member, const Value& value);
+    void setOwnLevel(Slot slot, const Level& level);
+
     QSharedDataPointer<Data> d;
 };
 Q_DECLARE_OPERATORS_FOR_FLAGS(PrinterReading::Fields)

@@ -33,14 +33,19 @@ namespace VxKit {
 ///
 /// **Where the values come from.** The threads with which the controller watches the printers, the
 /// controller's signals and its catalogue. Nothing is polled, and no further thread is created. The
-/// list of printers is read when this object is created, in `refresh()`, and when the controller
-/// reports a printer that is not known yet. `PrinterDiscovery` calls `refresh()` by itself.
+/// list of printers is read when this object is created, in `refresh()`, when the controller
+/// reports a printer that is not known yet, and when a thread reports that its printer has another
+/// name or none. Printers that are not watched come and go unnoticed until `refresh()` is called:
+/// connect `PrinterDiscovery::printersChanged` to it.
 ///
 /// **Threads.** The object belongs to the controller's thread, on which all members are called and
 /// all signals are emitted. Members that are called on another thread print a warning and return
 /// nothing. When the controller is destroyed first, the readings stay as they were and nothing is
 /// reported any more. The object may be destroyed in a slot that is connected to one of its
 /// signals.
+///
+/// **Names.** A printer that is renamed keeps its reading. Its thread goes on reporting under the
+/// old name, which also remains in the controller's records and signals.
 ///
 /// **Signals.** `changed` is emitted once for each report of a printer, after the controller's own
 /// signals for the same report. The reading has its new values before a signal is emitted.
@@ -53,7 +58,8 @@ class VX_KIT_EXPORT PrinterReadings : public QObject
 
 public:
     /// Reads the list of printers, and for each watched printer the values that its driver
-    /// publishes now. The controller must outlive neither this object nor its signals.
+    /// publishes now. Without a controller, or when it belongs to another thread, a warning is
+    /// printed and the readings stay empty.
     explicit PrinterReadings(PrinterStatusController* controller, QObject* parent = nullptr);
     ~PrinterReadings() override;
     Q_DISABLE_COPY_MOVE(PrinterReadings)
@@ -79,9 +85,11 @@ public:
 
 public Q_SLOTS:
     /// Compares the readings with the printers that the spooler lists now, and reports the
-    /// differences. It does not look for new printers to watch, which is what
-    /// `PrinterStatusController::checkForPrinters()` does. It blocks for as long as the spooler
-    /// does.
+    /// differences. A list that cannot be read changes nothing. While a watched printer is missing
+    /// and another one has its driver and port, neither is reported until the printer's thread has
+    /// said whether it was renamed, or for one second. This function does not look for new printers
+    /// to watch, which is what `PrinterStatusController::checkForPrinters()` does. It blocks for as
+    /// long as the spooler does.
     void refresh();
 
 Q_SIGNALS:

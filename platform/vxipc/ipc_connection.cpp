@@ -9,6 +9,7 @@
 #include <QtCore/QTimer>
 #include <QtNetwork/QLocalSocket>
 
+#include <algorithm>
 #include <chrono>
 
 using namespace std::chrono_literals;
@@ -19,6 +20,10 @@ constexpr auto turnTime = 250us;
 /// Parsing a line up to here takes about a turn.
 constexpr qsizetype shortLine = qsizetype{16} << 10;
 constexpr qsizetype readChunk = qsizetype{64} << 10;
+/// How many bytes of notifications are sent at a time. What a client does not take at once, its
+/// socket sends later, outside of the turns, and so may the sockets of all clients at the same
+/// time.
+constexpr qsizetype notificationChunk = qsizetype{16} << 10;
 /// How long a refused client has to read the answer that says so, and to disconnect.
 constexpr auto farewell = 1s;
 
@@ -33,6 +38,7 @@ IpcConnection::IpcConnection(QLocalSocket* socket, IpcDispatcher& dispatcher, QO
     // What a client sends faster than it is handled waits on the client's side.
     m_socket->setReadBufferSize(readChunk);
     connect(m_socket, &QLocalSocket::readyRead, this, &IpcConnection::onReadyRead);
+    connect(m_socket, &QLocalSocket::bytesWritten, this, &IpcConnection::onBytesWritten);
     connect(m_socket, &QLocalSocket::disconnected, this, &IpcConnection::onDisconnected);
     connect(&m_parsing, &QFutureWatcherBase::finished, this, &IpcConnection::onParsed);
 }
@@ -58,7 +64,11 @@ std::optional<std::chrono::steady_clock::time_point> IpcConnection::silentSince(
 {
     if (m_work == Work::Parsing || m_message.size > 0)
         return std::nullopt;
-    return m_lastRequest;
+    if (m_subscriptions.isEmpty())
+        return m_lastRequest;
+    if (m_waiting.isEmpty())
+        return std::nullopt;
+    return std::max(m_lastRequest, m_lastTaken);
 }
 
 void IpcConnection::onReadyRead()
@@ -74,6 +84,13 @@ void IpcConnection::onDisconnected()
     m_client = isRefused() ? Client::Gone : Client::Left;
     // What arrived before the client left is still handled.
     onReadyRead();
+}
+
+void IpcConnection::onBytesWritten()
+{
+    m_lastTaken = std::chrono::steady_clock::now();
+    if (canSend())
+        Q_EMIT readyToSend();
 }
 
 void IpcConnection::onParsed()
@@ -167,10 +184,15 @@ void IpcConnection::handleNextRequest()
 {
     m_lastRequest = std::chrono::steady_clock::now();
     const QPointer<IpcConnection> self(this);
+    const IpcSubscriptions before = m_subscriptions;
     const std::optional<QByteArray> answered =
-        m_dispatcher.handle(m_message.request(m_nextRequest++));
+        m_dispatcher.handle(m_message.request(m_nextRequest++), m_subscriptions);
     if (!self)
         return;
+    if (m_subscriptions != before) {
+        m_isHolding = m_message.isBatch();
+        Q_EMIT subscriptionsChanged();
+    }
     if (answered)
         answer(*answered);
     if (m_nextRequest == m_message.size)
@@ -195,21 +217,59 @@ void IpcConnection::endMessage()
     dropMessage();
     if (!m_answers.isEmpty())
         write(std::exchange(m_answers, {}) + "]\n");
+    m_isHolding = false;
+    if (canSend())
+        Q_EMIT readyToSend();
 }
 
 void IpcConnection::write(const QByteArray& bytes)
 {
     if (!isConnected())
         return;
-    if (m_socket->bytesToWrite() + bytes.size() > json_rpc::maximumAnswers)
+    // The notifications that the client has not taken do not count here.
+    const qsizetype most =
+        json_rpc::maximumAnswers + (m_subscriptions.isEmpty() ? 0 : notificationChunk);
+    if (m_socket->bytesToWrite() + bytes.size() > most)
         m_socket->flush();
-    if (m_socket->bytesToWrite() + bytes.size() > json_rpc::maximumAnswers)
+    if (m_socket->bytesToWrite() + bytes.size() > most)
         closeOverflowing();
     else if (m_received.hasLine())
         // The answer to the next line can be sent together with this one.
         m_socket->write(bytes);
     else
         sendNow(*m_socket, bytes);
+}
+
+bool IpcConnection::enqueue(const QByteArray& line, const std::optional<IpcStateId>& state)
+{
+    if (m_client != Client::Served)
+        return true;
+    // Before that the client was silent because there was nothing to take.
+    if (m_waiting.isEmpty())
+        m_lastTaken = std::chrono::steady_clock::now();
+    m_waitingSize += line.size();
+    if (const std::optional<QByteArray> replaced = m_waiting.put(line, state))
+        m_waitingSize -= replaced->size();
+    return m_waitingSize <= json_rpc::maximumAnswers;
+}
+
+bool IpcConnection::canSend() const
+{
+    return m_client == Client::Served && !m_isHolding && !m_waiting.isEmpty() &&
+           m_socket->bytesToWrite() == 0;
+}
+
+void IpcConnection::sendWaiting()
+{
+    if (!canSend())
+        return;
+    QByteArray chunk = m_waiting.takeFirst().first;
+    while (!m_waiting.isEmpty() && chunk.size() + m_waiting.first().size() <= notificationChunk)
+        chunk += m_waiting.takeFirst().first;
+    m_waitingSize -= chunk.size();
+    sendNow(*m_socket, chunk);
+    if (m_socket->bytesToWrite() == 0)
+        m_lastTaken = std::chrono::steady_clock::now();
 }
 
 void IpcConnection::closeOverflowing()
@@ -238,6 +298,8 @@ void IpcConnection::dropWork()
     m_parsing.setFuture({});
     dropMessage();
     m_answers.clear();
+    m_waiting.clear();
+    m_waitingSize = 0;
 }
 
 void IpcConnection::dropMessage()

@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "ipc_coalescing_queue.h"
 #include "ipc_dispatcher.h"
 #include "line_buffer.h"
 
@@ -39,13 +40,30 @@ public:
     void refuse(const json_rpc::Error& error);
     bool isRefused() const { return m_client == Client::Refused || m_client == Client::Gone; }
 
-    /// When the client's last request was handled, or when it connected if there was none. Nothing
-    /// while one of its requests is in progress.
+    /// Makes a notification wait until it can be sent. False when too much waits: then the
+    /// connection has to be closed by closeOverflowing().
+    bool enqueue(const QByteArray& line, const std::optional<IpcStateId>& state);
+    /// Whether something waits and the client has taken what it was sent before.
+    bool canSend() const;
+    /// Sends as much of it as the client takes at once. This may show that the client has left;
+    /// then what it sent before is handled, which may destroy the connection.
+    void sendWaiting();
+    /// Closes the connection to a client that does not read.
+    void closeOverflowing();
+
+    const IpcSubscriptions& subscriptions() const { return m_subscriptions; }
+
+    /// When the client's last request was handled, or when it connected if there was none. For a
+    /// client that does not take the notifications that wait for it, when it took one last. Nothing
+    /// while one of its requests is in progress, or while it has subscribed and takes everything.
     std::optional<std::chrono::steady_clock::time_point> silentSince() const;
 
 Q_SIGNALS:
     /// There is more to do; the connection waits for takeTurn().
     void turnWanted();
+    void subscriptionsChanged();
+    /// canSend() may have become true.
+    void readyToSend();
     /// The client has disconnected and everything it sent is handled.
     void finished();
 
@@ -98,6 +116,7 @@ private:
     void onReadyRead();
     void onDisconnected();
     void onParsed();
+    void onBytesWritten();
     void work();
     void wantTurn();
 
@@ -109,7 +128,6 @@ private:
     void answer(const QByteArray& line);
     void endMessage();
     void write(const QByteArray& bytes);
-    void closeOverflowing();
     void dropWork();
     void dropMessage();
 
@@ -126,6 +144,14 @@ private:
     qsizetype m_nextRequest = 0;
     QByteArray m_answers;
     std::chrono::steady_clock::time_point m_lastRequest = std::chrono::steady_clock::now();
+
+    IpcSubscriptions m_subscriptions;
+    /// The notifications that are still to be sent, and their size.
+    IpcCoalescingQueue<QByteArray> m_waiting;
+    qsizetype m_waitingSize = 0;
+    std::chrono::steady_clock::time_point m_lastTaken = m_lastRequest;
+    /// Whether a request of the batch in progress has subscribed. Its answer is to be sent first.
+    bool m_isHolding = false;
 
     Work m_work = Work::Idle;
     Client m_client = Client::Served;

@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #include "ipc_dispatcher.h"
 
+#include "json_writer.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -80,6 +82,7 @@ QByteArray invalidRequest(const QJsonValue& id, const QString& defect)
 
 IpcDispatcher::IpcDispatcher(QObject& object, const QMetaObject& base, QString title)
     : m_methods(object, base)
+    , m_signals(object, base)
     , m_title(std::move(title))
 {
     // A single thread, so that many clients that send long lines get no more of the machine than
@@ -143,7 +146,8 @@ void IpcDispatcher::discardInBackground(Message message)
     m_background.start([message = std::move(message)] { Q_UNUSED(message) });
 }
 
-std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& value) const
+std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& value,
+                                                IpcSubscriptions& subscriptions) const
 {
     if (!value.isObject())
         return invalidRequest(QJsonValue::Null, QStringLiteral("a request is an object"));
@@ -151,7 +155,8 @@ std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& value) const
     if (const QString defect = defectOf(request); !defect.isEmpty())
         return invalidRequest(request.id, defect);
 
-    const IpcMethodTable::Outcome outcome = call(request.method.toString(), request.parameters);
+    const IpcMethodTable::Outcome outcome =
+        call(request.method.toString(), request.parameters, subscriptions);
     if (request.id.isUndefined())
         return std::nullopt;
     QByteArray answer = outcome.error ? json_rpc::failure(request.id, *outcome.error)
@@ -165,17 +170,40 @@ std::optional<QByteArray> IpcDispatcher::handle(const QJsonValue& value) const
          {}});
 }
 
-IpcMethodTable::Outcome IpcDispatcher::call(const QString& method,
-                                            const QJsonValue& parameters) const
+IpcMethodTable::Outcome IpcDispatcher::call(const QString& method, const QJsonValue& parameters,
+                                            IpcSubscriptions& subscriptions) const
 {
     if (method == QLatin1String("rpc.discover"))
         return {describe(), std::nullopt};
+    if (method == QLatin1String("rpc.subscribe"))
+        return subscribe(parameters, true, subscriptions);
+    if (method == QLatin1String("rpc.unsubscribe"))
+        return subscribe(parameters, false, subscriptions);
     return m_methods.call(method, parameters);
+}
+
+IpcMethodTable::Outcome IpcDispatcher::subscribe(const QJsonValue& parameters, bool isToReceive,
+                                                 IpcSubscriptions& subscriptions) const
+{
+    IpcSignalTable::Selection selection = m_signals.select(parameters);
+    if (selection.error)
+        return {{}, std::move(selection.error)};
+    if (isToReceive)
+        subscriptions.unite(selection.places);
+    else
+        subscriptions.subtract(selection.places);
+    JsonWriter names;
+    names.value(QJsonArray::fromStringList(m_signals.names(subscriptions)));
+    return {names.json(), std::nullopt};
 }
 
 QByteArray IpcDispatcher::describe() const
 {
-    QJsonObject document = m_methods.describe();
+    QJsonObject records;
+    QJsonObject document{{QStringLiteral("methods"), m_methods.describe(records)},
+                         {QStringLiteral("x-signals"), m_signals.describe(records)}};
+    document.insert(QStringLiteral("components"),
+                    QJsonObject{{QStringLiteral("schemas"), records}});
     document.insert(QStringLiteral("openrpc"), QStringLiteral("1.2.6"));
     document.insert(
         QStringLiteral("info"),

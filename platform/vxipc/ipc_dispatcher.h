@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ipc_method_table.h"
+#include "ipc_signal_table.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QByteArrayView>
@@ -48,14 +49,22 @@ public:
     /// Handles one request of a message. Returns the answer as a line, or nothing for a
     /// notification. An answer that is too long to send is replaced by an error.
     ///
-    /// The called method may do anything, even destroy this dispatcher.
-    std::optional<QByteArray> handle(const QJsonValue& value) const;
+    /// `subscriptions` are those of the client that sent the request, which may change them. The
+    /// called method may do anything, even destroy this dispatcher and the subscriptions.
+    std::optional<QByteArray> handle(const QJsonValue& value,
+                                     IpcSubscriptions& subscriptions) const;
+
+    const IpcSignalTable& signalTable() const { return m_signals; }
 
 private:
-    IpcMethodTable::Outcome call(const QString& method, const QJsonValue& parameters) const;
+    IpcMethodTable::Outcome call(const QString& method, const QJsonValue& parameters,
+                                 IpcSubscriptions& subscriptions) const;
+    IpcMethodTable::Outcome subscribe(const QJsonValue& parameters, bool isToReceive,
+                                      IpcSubscriptions& subscriptions) const;
     QByteArray describe() const;
 
     IpcMethodTable m_methods;
+    IpcSignalTable m_signals;
     QString m_title;
     QThreadPool m_background;
 };

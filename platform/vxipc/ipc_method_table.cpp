@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "ipc_method_table.h"
 
+#include "ipc_call.h"
 #include "ipc_values.h"
 #include "json_writer.h"
 
@@ -12,23 +13,6 @@
 #include <tuple>
 
 namespace {
-
-json_rpc::Error invalidParams(const QString& message, const QJsonObject& data = {})
-{
-    return {json_rpc::InvalidParams, QStringLiteral("Invalid params: ") + message, data};
-}
-
-/// The part of a name from a client that an error message repeats.
-QString excerpt(const QString& name)
-{
-    constexpr qsizetype longestShown = 100;
-    if (name.size() <= longestShown)
-        return name;
-    // Keep surrogate pairs whole.
-    return name.first(name.at(longestShown - 1).isHighSurrogate() ? longestShown - 1
-                                                                  : longestShown) +
-           QStringLiteral("…");
-}
 
 bool isCallable(const QMetaMethod& method)
 {
@@ -71,20 +55,15 @@ std::optional<IpcMethodTable::Method> IpcMethodTable::readMethod(const QMetaMeth
     if (!isVoid(result) && !ipc_values::isSupported(result))
         return std::nullopt;
 
-    Method method{
-        slot, result, {}, slot.parameterCount(), (slot.attributes() & QMetaMethod::Cloned) != 0,
-        {}};
-    const QList<QByteArray> names = slot.parameterNames();
-    for (int i = 0; i < slot.parameterCount(); ++i) {
-        const QMetaType type = slot.parameterMetaType(i);
-        if (!ipc_values::isSupported(type))
-            return std::nullopt;
-        const QByteArray& name = names.at(i);
-        method.parameters.append(
-            {name.isEmpty() ? QStringLiteral("argument%1").arg(i + 1) : QString::fromUtf8(name),
-             type});
-    }
-    return method;
+    const QList<IpcParameter> parameters = parametersOf(slot);
+    if (!unsupportedType(parameters).isEmpty())
+        return std::nullopt;
+    return Method{slot,
+                  result,
+                  parameters,
+                  slot.parameterCount(),
+                  (slot.attributes() & QMetaMethod::Cloned) != 0,
+                  {}};
 }
 
 void IpcMethodTable::add(const Method& method)
@@ -131,9 +110,12 @@ IpcMethodTable::Outcome IpcMethodTable::call(const QString& name,
                                                                           : nullptr};
     for (QVariant& argument : chosen.arguments)
         arguments.append(argument.data());
+    const IpcCall call(m_object);
     QMetaObject::metacall(&m_object, QMetaObject::InvokeMetaMethod,
                           chosen.method->slot.methodIndex(), arguments.data());
     // Nothing of this table may be touched from here on.
+    if (call.refusal())
+        return {{}, call.refusal()};
     if (!result.isValid())
         return {};
     JsonWriter json;
@@ -148,7 +130,7 @@ IpcMethodTable::Match IpcMethodTable::choose(const QString& name,
     if (overloads == m_overloads.cend()) {
         Match none;
         none.error = {json_rpc::MethodNotFound,
-                      QStringLiteral("Method not found: %1").arg(excerpt(name)),
+                      QStringLiteral("Method not found: %1").arg(json_rpc::excerpt(name)),
                       {}};
         return none;
     }
@@ -180,10 +162,10 @@ IpcMethodTable::Match IpcMethodTable::match(const Method& method, const QJsonVal
 IpcMethodTable::Match IpcMethodTable::mismatchedCount(const Method& method, qsizetype given)
 {
     QStringList names;
-    for (const Parameter& parameter : method.parameters)
+    for (const IpcParameter& parameter : method.parameters)
         names.append(parameter.name);
     Match mismatch;
-    mismatch.error = invalidParams(
+    mismatch.error = json_rpc::invalidParams(
         QStringLiteral("expected %1 arguments (%2), got %3")
             .arg(method.required < names.size()
                      ? QStringLiteral("%1 to %2").arg(method.required).arg(names.size())
@@ -199,21 +181,22 @@ IpcMethodTable::Match IpcMethodTable::matchNamed(const Method& method, const QJs
     for (auto argument = given.constBegin(); argument != given.constEnd(); ++argument) {
         const QString name = argument.key();
         if (std::any_of(method.parameters.cbegin(), method.parameters.cend(),
-                        [&](const Parameter& each) { return each.name == name; }))
+                        [&](const IpcParameter& each) { return each.name == name; }))
             continue;
-        const QString shown = excerpt(name);
-        failed.error = invalidParams(QStringLiteral("there is no argument \"%1\"").arg(shown),
-                                     {{QStringLiteral("argument"), shown}});
+        const QString shown = json_rpc::excerpt(name);
+        failed.error =
+            json_rpc::invalidParams(QStringLiteral("there is no argument \"%1\"").arg(shown),
+                                    {{QStringLiteral("argument"), shown}});
         return failed;
     }
 
     QVarLengthArray<QJsonValue, usualArguments> ordered;
-    for (const Parameter& parameter : method.parameters) {
+    for (const IpcParameter& parameter : method.parameters) {
         const auto found = given.constFind(parameter.name);
         if (found == given.constEnd()) {
-            failed.error =
-                invalidParams(QStringLiteral("argument \"%1\" is missing").arg(parameter.name),
-                              {{QStringLiteral("argument"), parameter.name}});
+            failed.error = json_rpc::invalidParams(
+                QStringLiteral("argument \"%1\" is missing").arg(parameter.name),
+                {{QStringLiteral("argument"), parameter.name}});
             return failed;
         }
         ordered.append(*found);
@@ -228,12 +211,13 @@ IpcMethodTable::Match IpcMethodTable::matchArguments(const Method& method,
     match.method = &method;
     match.arityMatches = true;
     for (qsizetype i = 0; const QJsonValue& argument : given) {
-        const Parameter& parameter = method.parameters.at(i++);
+        const IpcParameter& parameter = method.parameters.at(i++);
         const auto misfit = [&](const QString& expected, const QString& got) {
-            return invalidParams(QStringLiteral("argument %1 (%2): expected %3, got %4")
-                                     .arg(QString::number(i), parameter.name, expected, got),
-                                 {{QStringLiteral("argument"), parameter.name},
-                                  {QStringLiteral("expected"), expected}});
+            return json_rpc::invalidParams(
+                QStringLiteral("argument %1 (%2): expected %3, got %4")
+                    .arg(QString::number(i), parameter.name, expected, got),
+                {{QStringLiteral("argument"), parameter.name},
+                 {QStringLiteral("expected"), expected}});
         };
         if (const auto excess = ipc_values::excessOf(argument)) {
             match.error = misfit(excess->expected, QString::number(excess->found));
@@ -250,28 +234,23 @@ IpcMethodTable::Match IpcMethodTable::matchArguments(const Method& method,
     return match;
 }
 
-QJsonObject IpcMethodTable::describe() const
+QJsonArray IpcMethodTable::describe(QJsonObject& records) const
 {
     QJsonArray methods;
-    QJsonObject records;
     for (const Method& method : m_methods) {
         if (!method.isShortened)
             methods.append(describe(method, records));
     }
-    return {{QStringLiteral("methods"), methods},
-            {QStringLiteral("components"), QJsonObject{{QStringLiteral("schemas"), records}}}};
+    return methods;
 }
 
 QJsonObject IpcMethodTable::describe(const Method& method, QJsonObject& records)
 {
     QJsonArray parameters;
     for (qsizetype i = 0; i < method.parameters.size(); ++i) {
-        const Parameter& parameter = method.parameters.at(i);
-        parameters.append(
-            QJsonObject{{QStringLiteral("name"), parameter.name},
-                        {QStringLiteral("required"), i < method.required},
-                        {QStringLiteral("schema"), ipc_values::schema(parameter.type, records)},
-                        {QStringLiteral("x-type"), QLatin1String(parameter.type.name())}});
+        QJsonObject parameter = ::describe(method.parameters.at(i), records);
+        parameter.insert(QStringLiteral("required"), i < method.required);
+        parameters.append(parameter);
     }
     const QMetaType result = method.result;
     const QJsonObject resultSchema =

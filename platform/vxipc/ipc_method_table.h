@@ -2,11 +2,13 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "ipc_parameters.h"
 #include "json_rpc.h"
 #include "vxipcserver.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QHash>
+#include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 #include <QtCore/QList>
 #include <QtCore/QMetaMethod>
@@ -37,21 +39,15 @@ public:
     /// The slot may do anything, even destroy the object and this table with it.
     Outcome call(const QString& name, const QJsonValue& parameters) const;
 
-    /// The methods and records of an OpenRPC document.
-    QJsonObject describe() const;
+    /// The methods of an OpenRPC document. The schemas of their records are added to `records`.
+    QJsonArray describe(QJsonObject& records) const;
 
 private:
-    struct Parameter
-    {
-        QString name;
-        QMetaType type;
-    };
-
     struct Method
     {
         QMetaMethod slot;
         QMetaType result;
-        QList<Parameter> parameters;
+        QList<IpcParameter> parameters;
         /// How many of the parameters have no default. Correct only in the first entry of a slot.
         qsizetype required = 0;
         /// Whether this is the entry before without its last default argument.

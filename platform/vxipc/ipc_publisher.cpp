@@ -60,6 +60,11 @@ void IpcPublisher::publish(const QString& name)
     tryToPublish(QDeadlineTimer(lockTime));
 }
 
+void IpcPublisher::setStateKey(const QByteArray& signalName, IpcPush::StateKey key)
+{
+    m_stateKeys[signalName] = std::move(key);
+}
+
 void IpcPublisher::tryToPublish(QDeadlineTimer end)
 {
     const IpcListener::Outcome outcome = listen(end);
@@ -96,8 +101,10 @@ IpcListener::Outcome IpcPublisher::listen(QDeadlineTimer end)
 
 void IpcPublisher::onNewConnection()
 {
-    if (!m_dispatcher)
+    if (!m_dispatcher) {
         m_dispatcher = std::make_unique<IpcDispatcher>(m_object, m_base, m_name);
+        m_push = std::make_unique<IpcPush>(m_object, m_dispatcher->signalTable(), m_stateKeys);
+    }
     while (QLocalSocket* socket = m_listener->nextClient()) {
         if (m_connections.size() >= json_rpc::maximumClients + maximumRefused) {
             delete socket;
@@ -106,6 +113,10 @@ void IpcPublisher::onNewConnection()
         auto* connection = new IpcConnection(socket, *m_dispatcher, this);
         connect(connection, &IpcConnection::turnWanted, this,
                 [this, connection] { onTurnWanted(connection); });
+        connect(connection, &IpcConnection::subscriptionsChanged, this,
+                [this, connection] { m_push->update(*connection); });
+        connect(connection, &IpcConnection::readyToSend, this,
+                [this, connection] { m_push->sendTo(*connection); });
         connect(connection, &IpcConnection::finished, this,
                 [this, connection] { onFinished(connection); });
         const auto served =
@@ -151,6 +162,7 @@ void IpcPublisher::onTurnWanted(IpcConnection* connection)
 
 void IpcPublisher::onFinished(IpcConnection* connection)
 {
+    m_push->remove(*connection);
     m_connections.removeOne(connection);
     m_waiting.removeOne(connection);
     connection->deleteLater();

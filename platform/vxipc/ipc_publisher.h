@@ -4,6 +4,7 @@
 
 #include "ipc_dispatcher.h"
 #include "ipc_listener.h"
+#include "ipc_push.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QList>
@@ -34,6 +35,10 @@ public:
     /// Empty while nothing is published.
     QString name() const { return m_name; }
 
+    /// Has an emission of the signals of that name replace the earlier one with the same key that
+    /// still waits to be sent.
+    void setStateKey(const QByteArray& signalName, IpcPush::StateKey key);
+
     /// How long a client may send no request, a minute unless set, before it may be disconnected in
     /// favour of a new one.
     void setPatience(std::chrono::milliseconds limit) { m_patience = limit; }
@@ -56,8 +61,10 @@ private:
     std::chrono::milliseconds m_patience = std::chrono::minutes(1);
     QTimer m_retry;
     std::chrono::milliseconds m_retryInterval;
+    IpcPush::StateKeys m_stateKeys;
     /// Created with the first client, when the object is fully constructed.
     std::unique_ptr<IpcDispatcher> m_dispatcher;
+    std::unique_ptr<IpcPush> m_push;
     QList<IpcConnection*> m_connections;
     /// Those that have more to do, in the order of their turns.
     QList<IpcConnection*> m_waiting;

@@ -280,6 +280,27 @@ QJsonObject mapSchema()
     return schemaOf("object");
 }
 
+Converted jsonObjectFromJson(const QJsonValue& json, QMetaType /*type*/)
+{
+    return json.isObject() ? fitting(json.toObject()) : unfitting(QStringLiteral("an object"));
+}
+
+Converted jsonArrayFromJson(const QJsonValue& json, QMetaType /*type*/)
+{
+    return json.isArray() ? fitting(json.toArray()) : unfitting(QStringLiteral("a list"));
+}
+
+Converted jsonValueFromJson(const QJsonValue& json, QMetaType /*type*/)
+{
+    return fitting(QVariant::fromValue(json), Fit::Lenient);
+}
+
+template <typename Json>
+void writeJson(JsonWriter& json, const QVariant& value)
+{
+    json.value(value.value<Json>());
+}
+
 /// The variant itself is the argument, whatever it holds.
 Converted anyFromJson(const QJsonValue& json, QMetaType type)
 {
@@ -342,6 +363,9 @@ const Kind* findKind(int typeId)
         {QMetaType::QVariantMap, {mapFromJson, writeMap, mapSchema}},
         {QMetaType::QVariantHash, {hashFromJson, writeMap, mapSchema}},
         {QMetaType::QVariant, {anyFromJson, writeAny, anySchema}},
+        {QMetaType::QJsonObject, {jsonObjectFromJson, writeJson<QJsonObject>, mapSchema}},
+        {QMetaType::QJsonArray, {jsonArrayFromJson, writeJson<QJsonArray>, listSchema}},
+        {QMetaType::QJsonValue, {jsonValueFromJson, writeJson<QJsonValue>, anySchema}},
     };
     const auto found = kinds.constFind(typeId);
     return found == kinds.cend() ? nullptr : &*found;

@@ -6,6 +6,22 @@
 
 namespace json_rpc {
 
+Error invalidParams(const QString& message, const QJsonObject& data)
+{
+    return {InvalidParams, QStringLiteral("Invalid params: ") + message, data};
+}
+
+QString excerpt(const QString& name)
+{
+    constexpr qsizetype longestShown = 100;
+    if (name.size() <= longestShown)
+        return name;
+    // Keep surrogate pairs whole.
+    return name.first(name.at(longestShown - 1).isHighSurrogate() ? longestShown - 1
+                                                                  : longestShown) +
+           QStringLiteral("…");
+}
+
 QByteArray request(const QString& method, const QJsonValue& parameters, std::optional<qint64> id)
 {
     JsonWriter line;

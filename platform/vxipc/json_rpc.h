@@ -45,6 +45,11 @@ struct Error
     QJsonObject data;
 };
 
+/// The error of a call whose parameters do not fit.
+Error invalidParams(const QString& message, const QJsonObject& data = {});
+/// The part of a name from a client that an error message repeats.
+QString excerpt(const QString& name);
+
 /// Messages, each as the line that is sent.
 
 /// Without an id it is a notification. Parameters that are neither list nor object are left out.

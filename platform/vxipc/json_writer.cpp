@@ -4,6 +4,7 @@
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
 #include <QtCore/QStringConverter>
 
 #include <algorithm>
@@ -86,6 +87,19 @@ void JsonWriter::value(const QJsonValue& value)
         raw(array.isEmpty() ? "[]" : "]");
         return;
     }
+    case QJsonValue::Object: {
+        const char* separator = "{";
+        const QJsonObject object = value.toObject();
+        for (auto member = object.begin(); member != object.end(); ++member) {
+            raw(separator);
+            text(member.key());
+            raw(":");
+            this->value(member.value());
+            separator = ",";
+        }
+        raw(object.isEmpty() ? "{}" : "}");
+        return;
+    }
     case QJsonValue::String:
         text(value.toString());
         return;
@@ -96,7 +110,11 @@ void JsonWriter::value(const QJsonValue& value)
         else
             number(value.toDouble());
         return;
-    default:
-        raw(writtenByQt(value));
+    case QJsonValue::Bool:
+        raw(value.toBool() ? "true" : "false");
+        return;
+    case QJsonValue::Null:
+    case QJsonValue::Undefined:
+        raw("null");
     }
 }

@@ -11,6 +11,7 @@
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QHash>
+#include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QPointer>
@@ -20,6 +21,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <variant>
 
 using namespace std::chrono_literals;
 
@@ -45,8 +47,14 @@ struct Answer
     VXIPCReply reply;
 };
 
-/// Nothing when the line is not an answer to a numbered call.
-std::optional<Answer> readAnswer(QByteArrayView line)
+struct Notification
+{
+    QString signalName;
+    QJsonObject arguments;
+};
+
+/// Nothing when the line is neither an answer to a numbered call nor a notification.
+std::optional<std::variant<Answer, Notification>> readMessage(QByteArrayView line)
 {
     const QJsonObject object =
         QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), line.size())).object();
@@ -55,6 +63,13 @@ std::optional<Answer> readAnswer(QByteArrayView line)
     const QJsonValue error = object.value(QLatin1String("error"));
     if (object.value(QLatin1String("jsonrpc")).toString() != QLatin1String("2.0"))
         return std::nullopt;
+    if (object.contains(QLatin1String("method"))) {
+        const QJsonValue method = object.value(QLatin1String("method"));
+        const QJsonValue parameters = object.value(QLatin1String("params"));
+        if (!method.isString() || !parameters.isObject() || !id.isUndefined())
+            return std::nullopt;
+        return Notification{method.toString(), parameters.toObject()};
+    }
     if (error.isUndefined() && !result.isUndefined() && id.isDouble())
         return Answer{id, {result, std::nullopt}};
     if (!error.isObject() || !result.isUndefined() || !(id.isDouble() || id.isNull()))
@@ -64,6 +79,15 @@ std::optional<Answer> readAnswer(QByteArrayView line)
                                                 error[QLatin1String("message")].toString(),
                                                 error[QLatin1String("data")]}}};
 }
+
+/// Whether an endpoint does not know the signals, rather than that it cannot serve the client now.
+bool refusesSubscriptions(const VXIPCReply& reply)
+{
+    return reply.error && (reply.error->code == json_rpc::InvalidParams ||
+                           reply.error->code == json_rpc::MethodNotFound);
+}
+
+constexpr QLatin1String subscribeMethod("rpc.subscribe");
 
 } // namespace
 
@@ -81,6 +105,9 @@ public:
     VXIPCReply callAndWait(const QString& method, const QJsonValue& parameters,
                            std::chrono::milliseconds limit);
     bool notify(const QString& method, const QJsonValue& parameters);
+    void subscribe(const QStringList& names, Callback done);
+    void unsubscribe(const QStringList& names, Callback done);
+    QStringList subscriptions() const { return m_subscriptions; }
 
     const QString serverName;
     std::chrono::milliseconds timeout = defaultTimeout;
@@ -94,12 +121,8 @@ private:
         std::optional<VXIPCReply>* awaited = nullptr;
     };
 
-    /// The outcome of a call with a callback, which is still to be called.
-    struct Outcome
-    {
-        Callback done;
-        VXIPCReply reply;
-    };
+    /// A callback with the outcome of its call, or a notification, which is still to be delivered.
+    using Delivery = std::function<void()>;
 
     /// Sends the request. The reply says why it cannot be sent, if it cannot.
     std::optional<VXIPCReply> send(const QByteArray& line, std::chrono::milliseconds limit);
@@ -108,11 +131,14 @@ private:
     void onLateness();
 
     /// These end calls, but call no callbacks. deliver() does that afterwards.
-    void readAnswers();
-    bool takeAnswer(QByteArrayView line);
+    void readMessages();
+    bool takeMessage(QByteArrayView line);
     void finish(qint64 id, const VXIPCReply& reply);
     void finishAll(const VXIPCReply& reply);
     void giveUp(const QString& reason);
+
+    void deliverOutcome(Callback done, const VXIPCReply& reply);
+    void resubscribe();
 
     /// Calls the callbacks. Each of them may make further calls, wait, or destroy the client.
     void deliver();
@@ -137,7 +163,8 @@ private:
     LineBuffer m_received;
     qint64 m_lastId = 0;
     QHash<qint64, Call> m_calls;
-    QQueue<Outcome> m_outcomes;
+    QQueue<Delivery> m_deliveries;
+    QStringList m_subscriptions;
     bool m_isDeliveryQueued = false;
     QDeadlineTimer m_nextLate{QDeadlineTimer::Forever};
     /// How many calls are waited for, each from a callback of the one before.
@@ -185,6 +212,8 @@ bool VXIPCClient::Private::connectNow(std::chrono::milliseconds limit)
         return false;
     }
     m_retryInterval = firstRetry;
+    // Before the signal: whoever then asks for the state has subscribed already.
+    resubscribe();
     Q_EMIT q.connected();
     return isConnected();
 }
@@ -207,8 +236,7 @@ void VXIPCClient::Private::call(const QString& method, const QJsonValue& paramet
 {
     const qint64 id = ++m_lastId;
     if (const auto failure = send(json_rpc::request(method, parameters, id), timeout)) {
-        if (done)
-            m_outcomes.enqueue({std::move(done), *failure});
+        deliverOutcome(std::move(done), *failure);
         deliverLater();
         return;
     }
@@ -230,7 +258,7 @@ VXIPCReply VXIPCClient::Private::callAndWait(const QString& method, const QJsonV
     ++m_waits;
     while (!outcome) {
         // readyRead is not emitted again for a wait within a callback that it led to.
-        readAnswers();
+        readMessages();
         deliverLater();
         if (outcome)
             break;
@@ -250,6 +278,59 @@ bool VXIPCClient::Private::notify(const QString& method, const QJsonValue& param
     const bool isSent = !send(json_rpc::request(method, parameters, std::nullopt), timeout);
     m_socket->flush();
     return isSent;
+}
+
+void VXIPCClient::Private::subscribe(const QStringList& names, Callback done)
+{
+    QStringList added;
+    for (const QString& name : names) {
+        if (!m_subscriptions.contains(name) && !added.contains(name))
+            added.append(name);
+    }
+    const QPointer<VXIPCClient> alive(&q);
+    call(subscribeMethod, QJsonArray::fromStringList(names),
+         [this, added, done = std::move(done)](const VXIPCReply& reply) {
+             if (refusesSubscriptions(reply)) {
+                 for (const QString& name : added)
+                     m_subscriptions.removeOne(name);
+             }
+             if (done)
+                 done(reply);
+         });
+    // Not before the call, which may connect: that would subscribe to them, too.
+    if (alive)
+        m_subscriptions += added;
+}
+
+void VXIPCClient::Private::unsubscribe(const QStringList& names, Callback done)
+{
+    for (const QString& name : names)
+        m_subscriptions.removeOne(name);
+    if (isConnected()) {
+        call(QStringLiteral("rpc.unsubscribe"), QJsonArray::fromStringList(names), std::move(done));
+        return;
+    }
+    deliverOutcome(std::move(done), {QJsonArray::fromStringList(m_subscriptions), std::nullopt});
+    deliverLater();
+}
+
+/// Subscribes to everything over a new connection.
+void VXIPCClient::Private::resubscribe()
+{
+    if (m_subscriptions.isEmpty())
+        return;
+    const auto done = [this](const VXIPCReply& reply) {
+        if (reply.isOk())
+            Q_EMIT q.resubscribed();
+        else if (refusesSubscriptions(reply))
+            Q_EMIT q.subscriptionLost(reply.error->message);
+    };
+    const qint64 id = ++m_lastId;
+    const QDeadlineTimer deadline(timeout);
+    m_socket->write(
+        json_rpc::request(subscribeMethod, QJsonArray::fromStringList(m_subscriptions), id));
+    m_calls.insert(id, {deadline, done, nullptr});
+    watch(deadline);
 }
 
 std::optional<VXIPCReply> VXIPCClient::Private::send(const QByteArray& line,
@@ -279,7 +360,7 @@ void VXIPCClient::Private::onReadyRead()
 {
     const QPointer<VXIPCClient> alive(&q);
     ++m_socketSignals;
-    readAnswers();
+    readMessages();
     if (alive)
         deliverUnlessWaiting();
     if (alive)
@@ -319,11 +400,11 @@ void VXIPCClient::Private::onLateness()
     deliverUnlessWaiting();
 }
 
-void VXIPCClient::Private::readAnswers()
+void VXIPCClient::Private::readMessages()
 {
     while (m_socket->bytesAvailable() > 0 || m_received.hasLine()) {
         if (m_received.hasLine()) {
-            if (takeAnswer(m_received.takeLine()))
+            if (takeMessage(m_received.takeLine()))
                 continue;
             giveUp(QStringLiteral("the response is not JSON-RPC 2.0"));
             return;
@@ -336,12 +417,19 @@ void VXIPCClient::Private::readAnswers()
     }
 }
 
-/// False when the line is not an answer.
-bool VXIPCClient::Private::takeAnswer(QByteArrayView line)
+/// False when the line is neither an answer nor a notification.
+bool VXIPCClient::Private::takeMessage(QByteArrayView line)
 {
-    const std::optional<Answer> answer = readAnswer(line);
-    if (!answer)
+    const auto message = readMessage(line);
+    if (!message)
         return false;
+    if (const auto* notification = std::get_if<Notification>(&*message)) {
+        m_deliveries.enqueue([this, notified = *notification] {
+            Q_EMIT q.notificationReceived(notified.signalName, notified.arguments);
+        });
+        return true;
+    }
+    const auto* answer = std::get_if<Answer>(&*message);
     if (answer->id.isNull())
         finishAll(answer->reply);
     else
@@ -359,8 +447,14 @@ void VXIPCClient::Private::finish(qint64 id, const VXIPCReply& reply)
     m_calls.erase(found);
     if (call.awaited)
         *call.awaited = reply;
-    else if (call.done)
-        m_outcomes.enqueue({std::move(call.done), reply});
+    else
+        deliverOutcome(std::move(call.done), reply);
+}
+
+void VXIPCClient::Private::deliverOutcome(Callback done, const VXIPCReply& reply)
+{
+    if (done)
+        m_deliveries.enqueue([done = std::move(done), reply] { done(reply); });
 }
 
 void VXIPCClient::Private::finishAll(const VXIPCReply& reply)
@@ -371,7 +465,7 @@ void VXIPCClient::Private::finishAll(const VXIPCReply& reply)
         finish(id, reply);
 }
 
-/// Ends the connection to an endpoint that sends something other than answers.
+/// Ends the connection to an endpoint that sends something other than JSON-RPC 2.0.
 void VXIPCClient::Private::giveUp(const QString& reason)
 {
     finishAll(failed(VXIPCError::BadAnswer, reason));
@@ -383,19 +477,20 @@ void VXIPCClient::Private::deliver()
 {
     const QPointer<VXIPCClient> alive(&q);
     // A callback may run an event loop, which then delivers the others.
-    if (m_outcomes.size() > 1)
+    if (m_deliveries.size() > 1)
         deliverLater();
     // Only those that are there now: a callback whose new call fails at once would get the next
     // outcome here, and the event loop would never run again.
-    for (qsizetype rest = m_outcomes.size(); alive && rest > 0 && !m_outcomes.isEmpty(); --rest) {
-        const Outcome next = m_outcomes.dequeue();
-        next.done(next.reply);
+    for (qsizetype rest = m_deliveries.size(); alive && rest > 0 && !m_deliveries.isEmpty();
+         --rest) {
+        const Delivery next = m_deliveries.dequeue();
+        next();
     }
 }
 
 void VXIPCClient::Private::deliverLater()
 {
-    if (m_isDeliveryQueued || m_outcomes.isEmpty())
+    if (m_isDeliveryQueued || m_deliveries.isEmpty())
         return;
     m_isDeliveryQueued = true;
     const auto deliverQueued = [this] {
@@ -488,6 +583,21 @@ VXIPCReply VXIPCClient::callAndWait(const QString& method, const QJsonValue& par
                                     std::chrono::milliseconds timeout)
 {
     return d->callAndWait(method, parameters, timeout);
+}
+
+void VXIPCClient::subscribe(const QStringList& signalNames, Callback done)
+{
+    d->subscribe(signalNames, std::move(done));
+}
+
+void VXIPCClient::unsubscribe(const QStringList& signalNames, Callback done)
+{
+    d->unsubscribe(signalNames, std::move(done));
+}
+
+QStringList VXIPCClient::subscriptions() const
+{
+    return d->subscriptions();
 }
 
 bool VXIPCClient::notify(const QString& method, const QJsonValue& parameters)

@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include <QtCore/QJsonObject>
 #include <QtCore/QJsonValue>
 #include <QtCore/QObject>
 #include <QtCore/QString>
@@ -61,6 +62,15 @@ struct VXIPCReply
 /// type is written. A client connects with its first call. When the connection is lost, it
 /// reconnects by itself, at growing intervals; a call tries to reconnect at once.
 ///
+/// A client that subscribes receives what the endpoint's signals emit:
+/// \code
+/// connect(&status, &VXIPCClient::notificationReceived, this, &Table::update);
+/// connect(&status, &VXIPCClient::resubscribed, this, &Table::askForAll);
+/// status.subscribe({"printerChanged", "printerAdded"}, [this](const VXIPCReply&) { askForAll();
+/// }); \endcode Whoever subscribes first and then asks for the state misses nothing: the state is
+/// that of the answer, and every change after it is notified. What is emitted while the client is
+/// not connected is lost; resubscribed() says when to ask again.
+///
 /// Lives in one thread, which the blocking form blocks; the other forms need its event loop.
 class VXIPCClient : public QObject
 {
@@ -70,7 +80,7 @@ public:
     using Callback = std::function<void(const VXIPCReply&)>;
 
     /// For the endpoint of a service: 0 the supply database, 1 the printer controller, 2 the print
-    /// queue.
+    /// queue, 3 the status of the printers.
     explicit VXIPCClient(int serverType, QObject* parent = nullptr);
     /// For the endpoint of that name, as VXIPCServer::serverName() and runningServers() give it.
     explicit VXIPCClient(QString serverName, QObject* parent = nullptr);
@@ -105,6 +115,20 @@ public:
     /// name.
     bool notify(const QString& method, const QJsonValue& parameters = {});
 
+    /// Subscribes to signals of the endpoint, in addition to those before. Their emissions lead to
+    /// notificationReceived() from then on. `done` is called with the outcome as call() does it;
+    /// the result is the list of all signals that this client has subscribed to.
+    ///
+    /// The client remembers the names and subscribes again whenever it has connected again, also
+    /// when no endpoint answers yet. It forgets the names that this call adds if the endpoint
+    /// refuses them.
+    void subscribe(const QStringList& signalNames, Callback done = {});
+    /// Ends subscriptions. Notifications that have arrived before are still delivered. Does not
+    /// connect.
+    void unsubscribe(const QStringList& signalNames, Callback done = {});
+    /// The names that the client subscribes to.
+    QStringList subscriptions() const;
+
     /// The names of the user's endpoints that answer now.
     static QStringList runningServers();
     /// Why endpoints are not trusted: other users may have put theirs where the user's are
@@ -117,6 +141,20 @@ Q_SIGNALS:
     void connected();
     /// The connection has ended. The calls in flight get their outcomes after this.
     void disconnected();
+    /// The endpoint has emitted a signal that this client has subscribed to. `arguments` has them
+    /// by their names, as docs/ipc.md says how each type is written.
+    ///
+    /// Notifications and the outcomes of call() are delivered in the order in which they arrived,
+    /// from the event loop of the client's thread; those that arrive during callAndWait() after it.
+    void notificationReceived(const QString& signalName, const QJsonObject& arguments);
+    /// The subscriptions hold again, after a reconnect or because the endpoint could not be reached
+    /// before. Emissions in between were missed, so this is the time to ask for the state. Emitted
+    /// before the first notification of the new connection.
+    void resubscribed();
+    /// The endpoint that the client has connected to does not have the signals any more: none of
+    /// the subscriptions holds. `reason` is one line for people. The client tries again at the next
+    /// connection.
+    void subscriptionLost(const QString& reason);
 
 private:
     class Private;

@@ -4,6 +4,7 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QHash>
+#include <QtCore/QJsonObject>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QVariantList>
@@ -16,12 +17,14 @@ class IpcPublisher;
 ///
 /// Every public slot that a derived class declares can be called as a method of JSON-RPC 2.0, by
 /// its name and with its argument names, if its types are supported (docs/ipc.md has the table).
-/// Signals, private and protected slots and everything that QObject declares cannot.
+/// Private and protected slots and everything that QObject declares cannot. The signals that a
+/// derived class declares can be subscribed to with `rpc.subscribe`, if their types are supported.
+/// They may be emitted on any thread.
 ///
 /// Calls are made on the thread that the endpoint lives in, from its event loop. Clients that send
-/// too much or do not read their answers are disconnected; the endpoint never waits for a client.
-/// The size of arguments is bounded. An endpoint that stores arguments bounds with checkCalls() how
-/// much it stores.
+/// too much or do not read what they are sent are disconnected; the endpoint never waits for a
+/// client. The size of arguments is bounded. An endpoint that stores arguments bounds with
+/// checkCalls() how much it stores.
 class VXIPCServer : public QObject
 {
     Q_OBJECT
@@ -46,9 +49,28 @@ protected:
     /// effect if it is set before the first client connects.
     void checkCalls(const QByteArray& slotName, CallCheck check);
 
+    /// What identifies the state that an emission tells, from the signal's arguments.
+    using StateKey = std::function<QString(const QVariantList& arguments)>;
+
+    /// Declares that the signals of that name tell states: an emission repeats all that matters of
+    /// an earlier one with the same key. While a client has not read the earlier one, the later one
+    /// replaces it, so that a client that reads slowly gets the latest states and stays connected.
+    /// Emissions of other signals are all sent. Meant for the constructor of an endpoint. `key` is
+    /// called at each emission while somebody has subscribed, on the endpoint's thread.
+    void coalesceSignal(const QByteArray& signalName, StateKey key);
+    /// The same with one of the arguments, as a text, for the key; -1 where there is only one
+    /// state.
+    void coalesceSignal(const QByteArray& signalName, qsizetype keyArgument);
+
+    /// Answers the call that another process makes, and that this endpoint is handling, with an
+    /// error in place of the slot's result. The codes from -32099 to -32005 are free for endpoints,
+    /// and all outside -32768 to -32000. `message` is one line for people. Does nothing for a call
+    /// within this process.
+    void refuseCall(int code, const QString& message, const QJsonObject& data = {});
+
 private:
     friend class IpcMethodTable;
 
-    IpcPublisher* m_publisher = nullptr;
+    IpcPublisher* m_publisher;
     QHash<QByteArray, CallCheck> m_callChecks;
 };

@@ -57,8 +57,8 @@ need_packages() {
 
 # shellcheck disable=SC2034 # the scripts that source this file use it
 native_packages=(ca-certificates ccache cmake g++ libgl1-mesa-dev libjsoncpp-dev libsqlite3-dev
-    libqt6sql6-sqlite ninja-build pkg-config python3 qt6-base-dev qt6-l10n-tools qt6-tools-dev
-    qt6-tools-dev-tools)
+    libqt6sql6-sqlite ninja-build nodejs pkg-config python3 python3-jsonschema qt6-base-dev qt6-l10n-tools
+    qt6-tools-dev qt6-tools-dev-tools)
 
 seconds_since() { echo $((SECONDS - $1)); }
 

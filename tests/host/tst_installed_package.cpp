@@ -19,6 +19,7 @@
 namespace {
 
 const QString host = QStringLiteral(VX_MINIMAL_HOST);
+const QString kitHost = QStringLiteral(VX_KIT_HOST);
 
 QProcessEnvironment environment()
 {
@@ -87,8 +88,10 @@ private Q_SLOTS:
     void logOfAHostWithoutAnAppenderGoesToStandardError();
 #ifdef Q_OS_WIN
     void hostPrintsThePrintersOfTheSystem();
+    void hostOnTheKitPrintsThePrintersOfTheSystem();
 #else
     void hostPrintsThePrintersOfAFleet();
+    void hostOnTheKitShowsSuppliesAndRibbonsAtItsFirstRun();
     void examplesPrintNothingOfTheLog();
     void examplesLogToAFile_data();
     void examplesLogToAFile();
@@ -98,8 +101,9 @@ private Q_SLOTS:
 
 private:
     QString fleetFile(const QByteArray& text);
-    /// Runs the host with a fleet until it prints the line. False if it does not.
-    bool printsWithFleet(const QString& fleet, const QByteArray& line, const QString& language);
+    /// Runs a host with a fleet until it prints the line. False if it does not.
+    static bool printsWithFleet(const QString& fleet, const QByteArray& line,
+                                const QString& language, const QString& program = host);
 
     QTemporaryDir m_folder;
 #endif
@@ -110,6 +114,7 @@ void InstalledPackageTest::initTestCase()
     QVERIFY2(QFileInfo::exists(host), "the host is built by the test \"installed_package\"");
     // The library looks for the database beside the host.
     writeSampleDatabase(QFileInfo(host).path());
+    writeSampleDatabase(QFileInfo(kitHost).path());
 }
 
 void InstalledPackageTest::hostWithoutPrintersSaysSo()
@@ -186,6 +191,20 @@ void InstalledPackageTest::hostPrintsThePrintersOfTheSystem()
                  .toUtf8());
 }
 
+void InstalledPackageTest::hostOnTheKitPrintsThePrintersOfTheSystem()
+{
+    QVERIFY(fixture::setSpoolerRunning(true));
+    const QString printer = fixture::uniqueName(QStringLiteral("Label Printer"));
+    QVERIFY(fixture::addPrinter({printer, QStringLiteral("Stratamark AlderMax")}));
+    const Result result = run(kitHost, {QStringLiteral("0")});
+    QCOMPARE(result.exitStatus, 0);
+    // Its driver has not published anything.
+    QCOMPARE(result.output, QStringLiteral("%1: Unable To Retrieve Printer Info; supply not known; "
+                                           "ribbon 1 not known; ribbon 2 not known\n")
+                                .arg(printer)
+                                .toUtf8());
+}
+
 #else
 
 QString InstalledPackageTest::fleetFile(const QByteArray& text)
@@ -198,7 +217,7 @@ QString InstalledPackageTest::fleetFile(const QByteArray& text)
 }
 
 bool InstalledPackageTest::printsWithFleet(const QString& fleet, const QByteArray& line,
-                                           const QString& language)
+                                           const QString& language, const QString& program)
 {
     QProcessEnvironment variables = environment();
     variables.insert(QStringLiteral("VX_VIRTUAL_FLEET"), fleet);
@@ -206,7 +225,7 @@ bool InstalledPackageTest::printsWithFleet(const QString& fleet, const QByteArra
     variables.insert(QStringLiteral("LANGUAGE"), language);
     QProcess process;
     process.setProcessEnvironment(variables);
-    process.start(host, {});
+    process.start(program, {});
     QByteArray output;
     while (!output.contains(line) && process.waitForReadyRead(patience))
         output += process.readAllStandardOutput();
@@ -247,6 +266,26 @@ void InstalledPackageTest::hostPrintsThePrintersOfAFleet()
                             QStringLiteral("en")));
 }
 
+void InstalledPackageTest::hostOnTheKitShowsSuppliesAndRibbonsAtItsFirstRun()
+{
+    const QString fleet = fleetFile(R"({
+        "printers": [
+            { "name": "Packing", "driver": "Stratamark CedarMax",
+              "values": { "StatusCode": "1", "SupplyIdentifier": "000000641000010000A7",
+                          "Mileage": 15240, "Ribbon1Identifier": 2001, "Ribbon1Mileage": 60000 } }
+        ],
+        "timeline": [
+            { "at": 30, "printer": "Packing", "values": { "Ribbon1Identifier": 0 } }
+        ]
+    })");
+    QVERIFY(printsWithFleet(
+        fleet, "Packing: Ready; supply White Vinyl, 15.2 m; ribbon 1 Black resin, 60.0 m\n",
+        QStringLiteral("en"), kitHost));
+    QVERIFY(printsWithFleet(fleet, "Packing: Ready; supply White Vinyl, 15.2 m; ribbon 1 empty\n",
+                            QStringLiteral("en"), kitHost));
+    QVERIFY(printsWithFleet(fleet, "Packing: Bereit; Etiketten ", QStringLiteral("de"), kitHost));
+}
+
 void InstalledPackageTest::examplesPrintNothingOfTheLog()
 {
     QProcessEnvironment variables = environment();
@@ -263,6 +302,9 @@ void InstalledPackageTest::examplesLogToAFile_data()
     QTest::newRow("minimal_host") << host;
     if (!QStringLiteral(VX_WIDGETS_HOST).isEmpty())
         QTest::newRow("widgets_host") << QStringLiteral(VX_WIDGETS_HOST);
+    QTest::newRow("kit_host") << kitHost;
+    if (!QStringLiteral(VX_QML_HOST).isEmpty())
+        QTest::newRow("qml_host") << QStringLiteral(VX_QML_HOST);
 }
 
 void InstalledPackageTest::examplesLogToAFile()
@@ -289,6 +331,9 @@ void InstalledPackageTest::titlesAreInTheUsersLanguage()
         printsWithFleet(QStringLiteral("built-in"), "Warehouse: Bereit, ", QStringLiteral("de")));
     QVERIFY(
         printsWithFleet(QStringLiteral("built-in"), "Warehouse: Lista, ", QStringLiteral("es")));
+    // The example's own texts.
+    QVERIFY(printsWithFleet(QStringLiteral("built-in"), "aktiver Drucker: Warehouse\n",
+                            QStringLiteral("de")));
 }
 
 void InstalledPackageTest::brokenFleetIsRefused_data()

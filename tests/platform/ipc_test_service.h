@@ -7,6 +7,10 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QEventLoop>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QJsonValue>
+#include <QtCore/QMetaMethod>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QTimer>
@@ -42,11 +46,21 @@ public:
                                    : QStringLiteral("two are enough, keep \"%1\" yourself")
                                          .arg(arguments.value(0).toString());
         });
+        coalesceSignal("stateChanged", 0);
+        coalesceSignal("readingChanged", [](const QVariantList& arguments) {
+            return arguments.value(0).toJsonObject().value(QLatin1String("name")).toString();
+        });
     }
 
     QStringList log;
     QStringList kept;
     bool isSecretTold = false;
+
+    /// Whether anybody has subscribed to the signal.
+    bool hasSubscribers(const char* signature) const
+    {
+        return isSignalConnected(metaObject()->method(metaObject()->indexOfSignal(signature)));
+    }
 
 public Q_SLOTS:
     QString echo(QString text) override { return text; }
@@ -74,6 +88,9 @@ public Q_SLOTS:
     QVariantMap mapEcho(QVariantMap map) { return map; }
     QVariant anyEcho(QVariant value) { return value; }
     TestRecord recordEcho(TestRecord record) { return record; }
+    QJsonObject jsonObjectEcho(QJsonObject object) { return object; }
+    QJsonArray jsonArrayEcho(QJsonArray array) { return array; }
+    QJsonValue jsonValueEcho(QJsonValue value) { return value; }
 
     QString overloaded(int value);
     QString overloaded(double value);
@@ -103,12 +120,57 @@ public Q_SLOTS:
     /// Blocks the thread for a while, as a slot that computes does.
     void block(int milliseconds);
     void destroy() { delete this; }
+    void destroyAfterATelling(QString text)
+    {
+        Q_EMIT told(text, 0);
+        delete this;
+    }
+
+    /// Emits `told` `count` times, numbered from 0.
+    int tell(QString text, int count = 1)
+    {
+        for (int i = 0; i < count; ++i)
+            Q_EMIT told(text, i);
+        return count;
+    }
+    void setState(QString name, int state) { Q_EMIT stateChanged(name, state); }
+    /// Like `wait`, and emits before and after.
+    void tellAroundAWait()
+    {
+        Q_EMIT told(QStringLiteral("before"), 0);
+        wait();
+        Q_EMIT told(QStringLiteral("after"), 0);
+    }
+
+    /// Answers an error, and a result where it is called within the process.
+    QString refuse(int code, QString message)
+    {
+        refuseCall(code, message);
+        return message;
+    }
+    /// Refuses the call after it has waited as `wait` does.
+    QString waitAndRefuse()
+    {
+        wait();
+        refuseCall(-32050, QStringLiteral("waited for nothing"));
+        return {};
+    }
     void quit();
 
     QObject* notACrossingType() { return this; }
 
 Q_SIGNALS:
     void released();
+    void told(QString text, int number);
+    /// States, by name.
+    void stateChanged(QString name, int state);
+    void readingChanged(QJsonObject reading);
+    void recordChanged(TestRecord record, QByteArray bytes, QVariant value, QJsonValue json,
+                       double number);
+    void unnamed(int, QString);
+    void overloadedSignal(int value);
+    void overloadedSignal(QString text, bool flag = true);
+    void unsendable(QObject* object);
 
 protected Q_SLOTS:
     void protectedSecret() { isSecretTold = true; }

@@ -6,6 +6,7 @@ test_vxipc_tool.py TOOL HOST, where HOST publishes the test service.
 """
 import json
 import os
+import select
 import subprocess
 import sys
 import unittest
@@ -30,7 +31,8 @@ class Tool(unittest.TestCase):
         cls.host.wait()
 
     def run_tool(self, *arguments):
-        done = subprocess.run([TOOL, *arguments], capture_output=True, text=True)
+        done = subprocess.run([TOOL, *arguments], capture_output=True, text=True,
+                              env=dict(os.environ, LC_ALL="C.UTF-8", LANGUAGE="en"))
         return done.returncode, done.stdout, done.stderr
 
     def check_output(self, arguments, output):
@@ -54,6 +56,7 @@ class Tool(unittest.TestCase):
     def test_describes(self):
         _, output, _ = self.run_tool("describe", self.service)
         self.assertIn("scale(value: int, [factor: int]) -> int\n", output)
+        self.assertIn("signal told(text: QString, number: int)\n", output)
         document = json.loads(self.run_tool("--json", "describe", self.name)[1])
         self.assertEqual(document["info"]["title"], self.name)
 
@@ -82,6 +85,68 @@ class Tool(unittest.TestCase):
             with self.subTest(arguments):
                 self.check_output(["call", self.service, *arguments], output)
 
+    def start_watch(self, *arguments):
+        watch = subprocess.Popen([TOOL, "watch", *arguments], stdout=subprocess.PIPE,
+                                 stderr=subprocess.PIPE, text=True, bufsize=1)
+        self.addCleanup(watch.wait)
+        self.addCleanup(watch.kill)
+        self.addCleanup(watch.stdout.close)
+        self.addCleanup(watch.stderr.close)
+        return watch
+
+    def tell_until_printed(self, watch, service, text):
+        """The first line that the watch prints of what is told."""
+        while not select.select([watch.stdout], [], [], 0.05)[0]:
+            self.assertIsNone(watch.poll())
+            self.run_tool("call", service, "tell", text)
+        return watch.stdout.readline()
+
+    def test_watches(self):
+        watch = self.start_watch(self.service, "told")
+        line = self.tell_until_printed(watch, self.service, "a\x1b\u202e")
+        self.assertEqual(
+            line, '{"signal":"told","arguments":{"number":0,"text":"a\\u001b\\u202e"}}\n')
+        # Ends when nobody reads any more.
+        watch.stdout.close()
+        self.assertEqual(watch.wait(), 0)
+        self.assertEqual(watch.stderr.read(), "")
+
+    def test_watches_all_signals(self):
+        watch = self.start_watch(self.name)
+        self.tell_until_printed(watch, self.service, "ready")
+        self.run_tool("call", self.service, "setState", "a", "5")
+        message = {"signal": "told"}
+        while message["signal"] == "told":
+            message = json.loads(watch.stdout.readline())
+        self.assertEqual(message,
+                         {"signal": "stateChanged", "arguments": {"name": "a", "state": 5}})
+
+    def test_watches_for_a_while(self):
+        self.check_output(["watch", self.service, "told", "--for", "0.1"], "")
+
+    def test_watches_again(self):
+        service = str(int(self.service) + 2)
+
+        def start():
+            host = subprocess.Popen([HOST, service], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                    text=True)
+            self.addCleanup(host.wait)
+            self.addCleanup(host.kill)
+            self.addCleanup(host.stdin.close)
+            self.addCleanup(host.stdout.close)
+            host.stdout.readline()
+            return host
+
+        host = start()
+        watch = self.start_watch(service, "told")
+        self.tell_until_printed(watch, service, "first")
+        host.kill()
+        self.assertIn("the connection ended", watch.stderr.readline())
+        start()
+        self.assertIn("watching again", watch.stderr.readline())
+        while "again" not in self.tell_until_printed(watch, service, "again"):
+            pass
+
     def test_says_what_failed(self):
         for arguments, complaint in [
                 (["nothing"], "there is no method nothing"),
@@ -96,6 +161,9 @@ class Tool(unittest.TestCase):
         nobody = str(int(self.service) + 1)
         self.check_complaint(["call", nobody, "echo", "a"], 1, "no endpoint answers")
         self.check_complaint(["describe", nobody], 1, "no endpoint answers")
+        self.check_complaint(["watch", nobody], 1, "no endpoint answers")
+        self.check_complaint(["watch", nobody, "told"], 1, "no endpoint answers")
+        self.check_complaint(["watch", self.service, "nothing"], 1, "there is no signal \"nothing\"")
 
     def test_trusts_no_folder_that_others_may_write_to(self):
         folder = os.environ["XDG_RUNTIME_DIR"]
@@ -109,14 +177,17 @@ class Tool(unittest.TestCase):
         for arguments in [[], ["nothing"], ["list", "x"], ["describe"], ["describe", "1", "2"],
                           ["call"], ["call", "supplyd"], ["call", "nosuch", "echo"],
                           ["describe", "vxipc-"], ["list", "--other"], ["list", "--timeout"],
-                          ["list", "--timeout", "x"], ["list", "--timeout", "0"]]:
+                          ["list", "--timeout", "x"], ["list", "--timeout", "0"],
+                          ["watch"], ["list", "--for", "1"], ["watch", self.service, "--for"],
+                          ["watch", self.service, "--for", "0"],
+                          ["watch", self.service, "--for", "nan"]]:
             with self.subTest(arguments):
                 self.check_complaint(arguments, 2, "")
 
     def test_helps(self):
         status, output, _ = self.run_tool("--help")
         self.assertEqual(status, 0)
-        for verb in ("list", "describe", "call"):
+        for verb in ("list", "describe", "call", "watch"):
             self.assertIn(verb, output)
 
 

@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "failure_of.h"
 #include "patience.h"
+#include "run_in_english.h"
 #include "run_statement.h"
 #include "small_catalogue.h"
 #include "start_process.h"
@@ -435,5 +436,8 @@ void RollDbTest::theToolPrintsItsHelp()
         QVERIFY2(help.contains(command), qPrintable(command));
 }
 
-QTEST_GUILESS_MAIN(RollDbTest)
+int main(int argc, char* argv[])
+{
+    return runInEnglish<QCoreApplication, RollDbTest>(argc, argv);
+}
 #include "tst_rolldb.moc"

@@ -74,6 +74,27 @@ private:
     bool m_isFirst = true;
 };
 
+/// An endpoint without signals.
+class MuteService : public VXIPCServer
+{
+    Q_OBJECT
+
+public:
+    explicit MuteService(int serverType)
+        : VXIPCServer(serverType, nullptr)
+    {}
+
+public Q_SLOTS:
+    int one() { return 1; }
+};
+
+const QString toldSignal = QStringLiteral("told");
+
+QJsonObject toldArguments(const QString& text, int number)
+{
+    return {{QStringLiteral("text"), text}, {QStringLiteral("number"), number}};
+}
+
 } // namespace
 
 class VXIPCClientTest : public QObject
@@ -107,6 +128,18 @@ private Q_SLOTS:
     void answersACallMadeWhenTheConnectionIsLost();
     void forgetsItsCallsWhenDestroyed();
     void sendsNotifications();
+
+    void receivesNotifications();
+    void deliversNotificationsAndOutcomesInOrder();
+    void deliversNotificationsAfterAWait();
+    void forgetsSubscriptionsThatAreRefused();
+    void endsSubscriptions();
+    void subscribesAgain();
+    void subscribesAgainBeforeACallThatConnects();
+    void subscribesWhenAnEndpointComes();
+    void reportsALostSubscription();
+    void keepsItsSubscriptionsWhenItIsOneClientTooMany();
+    void mayBeDestroyedByANotification();
 
     void reportsConnections();
     void connectsAgain();
@@ -487,6 +520,221 @@ void VXIPCClientTest::sendsNotifications()
              QJsonValue(QJsonArray{QStringLiteral("sent")}));
 }
 
+void VXIPCClientTest::receivesNotifications()
+{
+    VXIPCClient client(m_name);
+    const QSignalSpy received(&client, &VXIPCClient::notificationReceived);
+    std::optional<VXIPCReply> subscribed;
+    client.subscribe({toldSignal, QStringLiteral("stateChanged"), toldSignal},
+                     [&](const VXIPCReply& reply) { subscribed = reply; });
+    QVERIFY(!subscribed);
+    QTRY_VERIFY(subscribed);
+    QCOMPARE(subscribed->result,
+             QJsonValue(QJsonArray{toldSignal, QStringLiteral("stateChanged")}));
+    QCOMPARE(client.subscriptions(), (QStringList{toldSignal, QStringLiteral("stateChanged")}));
+    // Another client causes the emissions.
+    VXIPCClient other(m_name);
+    const QSignalSpy unwanted(&other, &VXIPCClient::notificationReceived);
+    QVERIFY(other.callAndWait(QStringLiteral("tell"), QJsonArray{QStringLiteral("a"), 2}).isOk());
+    QVERIFY(
+        other.callAndWait(QStringLiteral("setState"), QJsonArray{QStringLiteral("b"), 5}).isOk());
+    QTRY_COMPARE(received.size(), 3);
+    for (int i = 0; i < 2; ++i) {
+        QCOMPARE(received.at(i).at(0).toString(), toldSignal);
+        QCOMPARE(received.at(i).at(1).toJsonObject(), toldArguments(QStringLiteral("a"), i));
+    }
+    QCOMPARE(received.at(2).at(0).toString(), QStringLiteral("stateChanged"));
+    QVERIFY(unwanted.isEmpty());
+}
+
+void VXIPCClientTest::deliversNotificationsAndOutcomesInOrder()
+{
+    // Creates the folder that endpoints live in, where there is none yet.
+    TestService service(newServerType());
+    QTRY_VERIFY(!service.serverName().isEmpty());
+    const QString name = nameOf(newServerType());
+    const QByteArray notification = R"({"jsonrpc":"2.0","method":"told","params":{}})"
+                                    "\n";
+    const OddServer server(name, json_rpc::success(1, "1") + notification +
+                                     json_rpc::success(2, "2") + notification + notification);
+    QVERIFY(server.isListening());
+    VXIPCClient client(name);
+    QStringList order;
+    connect(&client, &VXIPCClient::notificationReceived, this,
+            [&](const QString& signalName) { order.append(signalName); });
+    const auto note = [&](const VXIPCReply& reply) {
+        order.append(QString::number(reply.result.toInt()));
+    };
+    client.call(QStringLiteral("notes"), {}, note);
+    client.call(QStringLiteral("notes"), {}, note);
+    QTRY_COMPARE(order.size(), 5);
+    QCOMPARE(order, (QStringList{QStringLiteral("1"), toldSignal, QStringLiteral("2"), toldSignal,
+                                 toldSignal}));
+}
+
+void VXIPCClientTest::deliversNotificationsAfterAWait()
+{
+    VXIPCClient client(m_name);
+    const QSignalSpy received(&client, &VXIPCClient::notificationReceived);
+    client.subscribe({toldSignal});
+    // Answered after the notifications have been sent.
+    for (int i = 0; i < 10; ++i)
+        QVERIFY(client.callAndWait(QStringLiteral("tell"), QJsonArray{QStringLiteral("a")}).isOk());
+    QVERIFY(received.isEmpty());
+    QTRY_COMPARE(received.size(), 10);
+}
+
+void VXIPCClientTest::forgetsSubscriptionsThatAreRefused()
+{
+    VXIPCClient client(m_name);
+    std::optional<VXIPCReply> refused;
+    client.subscribe({toldSignal});
+    client.subscribe({toldSignal, QStringLiteral("nothing")},
+                     [&](const VXIPCReply& reply) { refused = reply; });
+    QTRY_VERIFY(refused);
+    QCOMPARE(refused->error->code, -32602);
+    QVERIFY(refused->error->message.contains(QStringLiteral("nothing")));
+    QCOMPARE(client.subscriptions(), QStringList{toldSignal});
+}
+
+void VXIPCClientTest::endsSubscriptions()
+{
+    VXIPCClient client(m_name);
+    const QSignalSpy received(&client, &VXIPCClient::notificationReceived);
+    client.subscribe({toldSignal, QStringLiteral("stateChanged")});
+    std::optional<VXIPCReply> ended;
+    client.unsubscribe({toldSignal}, [&](const VXIPCReply& reply) { ended = reply; });
+    QTRY_VERIFY(ended);
+    QCOMPARE(ended->result, QJsonValue(QJsonArray{QStringLiteral("stateChanged")}));
+    QVERIFY(client.callAndWait(QStringLiteral("tell"), QJsonArray{QStringLiteral("a")}).isOk());
+    QVERIFY(
+        client.callAndWait(QStringLiteral("setState"), QJsonArray{QStringLiteral("b"), 5}).isOk());
+    QTRY_COMPARE(received.size(), 1);
+    QCOMPARE(received.at(0).at(0).toString(), QStringLiteral("stateChanged"));
+
+    // Without a connection there is nothing to end at the endpoint.
+    client.disconnectFromServer();
+    ended.reset();
+    client.unsubscribe({QStringLiteral("stateChanged")},
+                       [&](const VXIPCReply& reply) { ended = reply; });
+    QVERIFY(!ended);
+    QTRY_VERIFY(ended);
+    QVERIFY(ended->isOk());
+    QCOMPARE(client.subscriptions(), QStringList());
+    QVERIFY(!client.isConnected());
+}
+
+void VXIPCClientTest::subscribesAgain()
+{
+    const int serverType = newServerType();
+    auto host = std::make_unique<HostProcess>(serverType);
+    VXIPCClient client(serverType);
+    const QSignalSpy disconnected(&client, &VXIPCClient::disconnected);
+    const QSignalSpy resubscribed(&client, &VXIPCClient::resubscribed);
+    QStringList order;
+    connect(&client, &VXIPCClient::resubscribed, this, [&] {
+        order.append(QStringLiteral("resubscribed"));
+        client.call(QStringLiteral("tell"), QJsonArray{QStringLiteral("again")}, {});
+    });
+    connect(&client, &VXIPCClient::notificationReceived, this,
+            [&](const QString&, const QJsonObject& arguments) {
+                order.append(arguments[QStringLiteral("text")].toString());
+            });
+    bool isSubscribed = false;
+    client.subscribe({toldSignal}, [&](const VXIPCReply& reply) { isSubscribed = reply.isOk(); });
+    QTRY_VERIFY(isSubscribed);
+    QVERIFY(resubscribed.isEmpty());
+    host->kill();
+    QTRY_COMPARE(disconnected.size(), 1);
+    host = std::make_unique<HostProcess>(serverType);
+    QTRY_COMPARE_WITH_TIMEOUT(order.size(), 2, patience);
+    QCOMPARE(order, (QStringList{QStringLiteral("resubscribed"), QStringLiteral("again")}));
+}
+
+void VXIPCClientTest::subscribesAgainBeforeACallThatConnects()
+{
+    VXIPCClient client(m_name);
+    const QSignalSpy received(&client, &VXIPCClient::notificationReceived);
+    bool isSubscribed = false;
+    client.subscribe({toldSignal}, [&](const VXIPCReply& reply) { isSubscribed = reply.isOk(); });
+    QTRY_VERIFY(isSubscribed);
+    client.disconnectFromServer();
+    QVERIFY(client.callAndWait(QStringLiteral("tell"), QJsonArray{QStringLiteral("a")}).isOk());
+    QTRY_COMPARE(received.size(), 1);
+}
+
+void VXIPCClientTest::subscribesWhenAnEndpointComes()
+{
+    const int serverType = newServerType();
+    VXIPCClient client(serverType);
+    const QSignalSpy received(&client, &VXIPCClient::notificationReceived);
+    const QSignalSpy resubscribed(&client, &VXIPCClient::resubscribed);
+    std::optional<VXIPCReply> outcome;
+    client.subscribe({toldSignal}, [&](const VXIPCReply& reply) { outcome = reply; });
+    QTRY_VERIFY(outcome);
+    QCOMPARE(outcome->error->code, int(VXIPCError::NotReachable));
+    QCOMPARE(client.subscriptions(), QStringList{toldSignal});
+    TestService service(serverType);
+    QTRY_COMPARE_WITH_TIMEOUT(resubscribed.size(), 1, patience);
+    service.tell(QStringLiteral("a"));
+    QTRY_COMPARE(received.size(), 1);
+}
+
+void VXIPCClientTest::reportsALostSubscription()
+{
+    const int serverType = newServerType();
+    auto service = std::make_unique<TestService>(serverType);
+    VXIPCClient client(serverType);
+    const QSignalSpy resubscribed(&client, &VXIPCClient::resubscribed);
+    const QSignalSpy lost(&client, &VXIPCClient::subscriptionLost);
+    QTRY_VERIFY(!service->serverName().isEmpty());
+    bool isSubscribed = false;
+    client.subscribe({toldSignal}, [&](const VXIPCReply& reply) { isSubscribed = reply.isOk(); });
+    QTRY_VERIFY(isSubscribed);
+    service.reset();
+    auto mute = std::make_unique<MuteService>(serverType);
+    QTRY_COMPARE_WITH_TIMEOUT(lost.size(), 1, patience);
+    QVERIFY(lost.at(0).at(0).toString().contains(QStringLiteral("there is no signal \"told\"")));
+    QVERIFY(resubscribed.isEmpty());
+    QCOMPARE(client.subscriptions(), QStringList{toldSignal});
+    mute.reset();
+    service = std::make_unique<TestService>(serverType);
+    QTRY_COMPARE_WITH_TIMEOUT(resubscribed.size(), 1, patience);
+}
+
+void VXIPCClientTest::keepsItsSubscriptionsWhenItIsOneClientTooMany()
+{
+    HostProcess host(newServerType());
+    std::vector<std::unique_ptr<VXIPCClient>> clients;
+    for (int i = 0; i < 64; ++i) {
+        clients.push_back(std::make_unique<VXIPCClient>(host.serverName()));
+        QVERIFY(clients.back()->callAndWait(QStringLiteral("notes")).isOk());
+    }
+    VXIPCClient tooMany(host.serverName());
+    const QSignalSpy resubscribed(&tooMany, &VXIPCClient::resubscribed);
+    std::optional<VXIPCReply> outcome;
+    tooMany.subscribe({toldSignal}, [&](const VXIPCReply& reply) { outcome = reply; });
+    QTRY_VERIFY(outcome);
+    QCOMPARE(outcome->error->code, -32001);
+    clients.clear();
+    QTRY_COMPARE_WITH_TIMEOUT(resubscribed.size(), 1, patience);
+}
+
+void VXIPCClientTest::mayBeDestroyedByANotification()
+{
+    auto* client = new VXIPCClient(m_name);
+    const QPointer<VXIPCClient> alive(client);
+    int received = 0;
+    connect(client, &VXIPCClient::notificationReceived, this, [&received, client] {
+        ++received;
+        delete client;
+    });
+    client->subscribe({toldSignal});
+    client->call(QStringLiteral("tell"), QJsonArray{QStringLiteral("a"), 10}, {});
+    QTRY_VERIFY(!alive);
+    QCOMPARE(received, 1);
+}
+
 void VXIPCClientTest::reportsConnections()
 {
     VXIPCClient client(m_name);
@@ -561,6 +809,12 @@ void VXIPCClientTest::refusesInvalidAnswers_data()
     QTest::newRow("result and error")
         << QByteArray("{\"jsonrpc\":\"2.0\",\"id\":1,\"result\":1,\"error\":{}}\n");
     QTest::newRow("without a version") << QByteArray("{\"id\":1,\"result\":1}\n");
+    QTest::newRow("notification with a list")
+        << QByteArray("{\"jsonrpc\":\"2.0\",\"method\":\"a\",\"params\":[1]}\n");
+    QTest::newRow("notification without a name")
+        << QByteArray("{\"jsonrpc\":\"2.0\",\"method\":1,\"params\":{}}\n");
+    QTest::newRow("request") << QByteArray(
+        "{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"a\",\"params\":{}}\n");
     QTest::newRow("empty object") << QByteArray("{}\n");
 }
 

@@ -100,6 +100,13 @@ void VXIPCMethodsTest::carriesValues_data()
         R"([1,"a",null,[2.5],{"k":true}])");
     row("hash", "hashEcho", R"([{"a":1,"b":["c"]}])", R"({"a":1,"b":["c"]})");
     row("map", "mapEcho", R"([{"a":{"b":null}}])", R"({"a":{"b":null}})");
+    row("JSON object", "jsonObjectEcho", R"([{"a":[1,{"b":null}],"c":"\"x\u0001"}])",
+        R"({"a":[1,{"b":null}],"c":"\"x\u0001"})");
+    row("empty JSON object", "jsonObjectEcho", "[{}]", "{}");
+    row("JSON list", "jsonArrayEcho", R"([[true,false,{}]])", "[true,false,{}]");
+    row("JSON value: number", "jsonValueEcho", "[9007199254740993]", "9007199254740993");
+    row("JSON value: null", "jsonValueEcho", "[null]", "null");
+    row("JSON value: object", "jsonValueEcho", R"([{"a":[]}])", R"({"a":[]})");
     row("any: number", "anyEcho", "[7]", "7");
     row("any: object", "anyEcho", R"([{"a":[1]}])", R"({"a":[1]})");
     row("any: null", "anyEcho", "[null]", "null");
@@ -199,6 +206,9 @@ void VXIPCMethodsTest::refusesBadParameters_data()
     row("text for texts", "sorted", R"(["a"])", "texts", "expected a list of texts, got a text");
     row("number among texts", "sorted", R"([["a",1]])", "texts", "expected a list of texts");
     row("object for list", "listEcho", "[{}]", "list", "expected a list, got an object");
+    row("list for JSON object", "jsonObjectEcho", "[[]]", "object",
+        "expected an object, got a list");
+    row("text for JSON list", "jsonArrayEcho", R"(["a"])", "array", "expected a list, got a text");
     row("list for hash", "hashEcho", "[[]]", "hash", "expected an object, got a list");
     row("text for record", "recordEcho", R"(["a"])", "record",
         "expected an object with the members of TestRecord, got a text");
@@ -289,6 +299,10 @@ void VXIPCMethodsTest::refusesArgumentsBeyondTheirBounds_data()
     row("object", "hashEcho", objectOfSize(65), "expected an object of at most 64 members, got 65");
     row("long name in an object", "mapEcho", '{' + text + ":1}", longText);
     row("record", "recordEcho", R"({"panels":)" + list(65, R"("x")") + '}',
+        "expected a list of at most 64 entries, got 65");
+    row("JSON object", "jsonObjectEcho", objectOfSize(65),
+        "expected an object of at most 64 members, got 65");
+    row("JSON value", "jsonValueEcho", list(65, "1"),
         "expected a list of at most 64 entries, got 65");
     row("any", "anyEcho", list(65, "1"), "expected a list of at most 64 entries, got 65");
 }
@@ -480,8 +494,10 @@ void VXIPCMethodsTest::describesItsMethods()
         QStringLiteral(
             "echo scale invert unsignedEcho wideEcho unsignedWideEcho single half "
             "notANumber reversed sorted listEcho hashEcho mapEcho anyEcho recordEcho "
+            "jsonObjectEcho jsonArrayEcho jsonValueEcho "
             "overloaded overloaded overloaded overloaded overloaded note notes keep zeroes "
-            "wait isWaiting release block destroy quit")
+            "wait isWaiting release block destroy destroyAfterATelling tell setState "
+            "tellAroundAWait refuse waitAndRefuse quit")
             .split(QLatin1Char(' '));
     QCOMPARE(names, expected);
 }

@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 // The controller's meta-object: every method, in order, and the property.
 #include "controller_test.h"
+#include "printer_status_thread.h"
 
 #include <QtCore/QMetaProperty>
 
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void typesAreRegisteredByName();
     void everyPublicSlotCanBeCalledByName();
     void recordsAreReadThroughTheProperty();
+    void threadsAreHandedOutOutsideOfIt();
 };
 
 void ControllerMetaObjectTest::derivesFromQObjectAlone()
@@ -194,6 +196,21 @@ void ControllerMetaObjectTest::recordsAreReadThroughTheProperty()
     const QMetaObject& gadget = PrinterStatusInformation::staticMetaObject;
     const QMetaProperty name = gadget.property(gadget.indexOfProperty("printerName"));
     QCOMPARE(name.readOnGadget(records.first().constData()), QVariant(QStringLiteral("Packing")));
+}
+
+void ControllerMetaObjectTest::threadsAreHandedOutOutsideOfIt()
+{
+    addPrinter(QStringLiteral("Packing"));
+    addNetworkPrinter(QStringLiteral("Far"));
+    const PrinterStatusController& printers = makeController();
+    QVERIFY(printers.statusThread(QStringLiteral("Packing")));
+    QVERIFY(printers.statusThread(QStringLiteral("Packing"))->isRunning());
+    QVERIFY(!printers.statusThread(QStringLiteral("Far")));
+    QVERIFY(!printers.statusThread(QStringLiteral("Nobody")));
+    QVERIFY(!printers.statusThread(QString()));
+    // It is a plain member: the meta-object, of which the other tests check each entry, has no
+    // trace of it.
+    QVERIFY(PrinterStatusController::staticMetaObject.indexOfMethod("statusThread(QString)") < 0);
 }
 
 QTEST_GUILESS_MAIN(ControllerMetaObjectTest)

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Copyright The VxPrinterStatus authors
-"""What the tools do when their output cannot be written, and how they show text from elsewhere.
+"""What the tools do when their output cannot be written, how they show text from elsewhere, and how they
+speak the user's language.
 
 test_tool_output.py VXPRINTMON VXIPC ROLLDB
 """
@@ -9,6 +10,7 @@ import os
 import subprocess
 import sys
 import tempfile
+import unicodedata
 import unittest
 
 VXPRINTMON, VXIPC, ROLLDB = sys.argv[1:]
@@ -17,8 +19,14 @@ SHOWN = r"P\u001b[31m\u0007\u000d\u009b\u202e\u2028\udb40\udc01"
 FLEET = {"printers": [{"name": HOSTILE, "driver": "Stratamark Alder", "port": HOSTILE,
                        "values": {"StatusCode": "1", "SoftwareVersion": HOSTILE}}],
          "timeline": [{"at": 0.1, "say": HOSTILE}]}
+LANGUAGES = ("de", "es", "fr", "it", "ja", "zh_CN")
 # In seconds; ends a tool that hangs.
 LIMIT = 300
+
+
+def columns(text):
+    """The columns that a text takes in a terminal."""
+    return sum(2 if unicodedata.east_asian_width(character) in "WF" else 1 for character in text)
 
 
 class Output(unittest.TestCase):
@@ -37,7 +45,7 @@ class Output(unittest.TestCase):
 
     def commands(self):
         return [(VXPRINTMON, "list"), (VXPRINTMON, "list", "--json"), (VXPRINTMON, "status"),
-                (VXPRINTMON, "title", "1"), (VXPRINTMON, "send", "Shipping", "X"),
+                (VXPRINTMON, "title", "1"), (VXPRINTMON, "title", "--all"), (VXPRINTMON, "send", "Shipping", "X"),
                 (VXPRINTMON, "watch"), (VXPRINTMON, "watch", "--json"), (VXPRINTMON, "--help"),
                 (VXPRINTMON, "--version"), (VXIPC, "list", "--json"), (VXIPC, "--help"),
                 (ROLLDB, "--help")]
@@ -131,6 +139,127 @@ class Output(unittest.TestCase):
                 self.assertEqual(errors.count("\n"), 1)
                 self.assertLess(len(errors), 2000)
                 self.check_shown(errors)
+
+    def speak(self, language):
+        self.environment["LANGUAGE"] = language
+
+    def in_every_language(self, *command):
+        """What a tool prints in each language, after what it prints in English."""
+        for language in ("en",) + LANGUAGES:
+            self.speak(language)
+            yield language, self.run_tool(*command)
+
+    def test_language_is_that_of_the_locale(self):
+        # As a user has it, without the variable that comes before all others.
+        self.environment.pop("LANGUAGE")
+        self.environment.update(LC_ALL="de_DE.UTF-8")
+        self.assertIn("Befehle:", self.run_tool(VXPRINTMON, "--help")[1])
+        self.environment.pop("LC_ALL")
+        self.environment.update(LANG="de_DE.UTF-8")
+        for tool in (VXPRINTMON, VXIPC, ROLLDB):
+            self.assertTrue(self.run_tool(tool, "--help")[1].startswith("Aufruf: "), tool)
+        self.assertEqual(self.run_tool(VXPRINTMON, "title", "1")[1], "Bereit\n")
+
+    def test_first_language_with_texts_is_used(self):
+        for languages, begin in (("pt:fr:de", "Utilisation"), ("en:de", "Usage"), ("pt", "Usage")):
+            self.speak(languages)
+            self.assertTrue(self.run_tool(VXIPC, "--help")[1].startswith(begin), languages)
+
+    def test_help_and_titles_fit_in_every_language(self):
+        for command in ((VXPRINTMON, "--help"), (VXIPC, "--help"), (ROLLDB, "--help"),
+                        (VXPRINTMON, "title", "--all")):
+            english = []
+            for language, (status, output, errors) in self.in_every_language(*command):
+                with self.subTest(command=command, language=language):
+                    self.assertEqual((status, errors), (0, ""))
+                    self.assertEqual([line for line in output.splitlines() if columns(line) > 80], [])
+                    lines = [line.strip() for line in output.splitlines() if line.strip()]
+                    if language == "en":
+                        english = lines
+                    elif "title" in command:
+                        self.assertFalse(set(lines) & set(english))
+                    else:
+                        # Only what the user types is the same.
+                        for line in set(lines) & set(english):
+                            self.assertRegex(line, r"^[a-z]+ ([a-z]+ )?(\[?(--[a-z]+ )?[A-Z]+\]?(\.\.\.)? ?)+$")
+
+    def test_names_for_the_command_line_stay(self):
+        names = {VXPRINTMON: ("list", "watch", "status [PRINTER]", "send PRINTER COMMAND", "title CODE",
+                              "--json", "--for SECONDS", "--log FILE", "--virtual FILE",
+                              "--speed FACTOR", "--all", "--help", "--version"),
+                 VXIPC: ("list", "describe SERVICE", "call SERVICE METHOD [ARGUMENT]...", "--json",
+                         "--timeout MS", "--help"),
+                 ROLLDB: ("rolldb build DIRECTORY FILE", "rolldb check FILE",
+                          "rolldb show [--language TAG] FILE SKU")}
+        for tool, words in names.items():
+            for language, (_, output, _) in self.in_every_language(tool, "--help"):
+                for word in words:
+                    self.assertIn(word, output, language)
+
+    def test_tables_are_aligned_in_every_language(self):
+        headings = set()
+        for language, (status, output, errors) in self.in_every_language(VXPRINTMON, "list"):
+            with self.subTest(language):
+                self.assertEqual((status, errors), (0, ""))
+                heading, *rows = output.splitlines()
+                headings.add(heading.split()[0])
+                # The last column but one begins at the same place everywhere.
+                places = {columns(row[:row.index("Stratamark")])
+                          for row in rows if "Stratamark" in row}
+                driver = heading.split("  ")
+                driver = [part.strip() for part in driver if part.strip()][4]
+                places.add(columns(heading[:heading.index(driver)]))
+                self.assertEqual(len(places), 1)
+        self.assertEqual(len(headings), 1 + len(LANGUAGES))
+
+    def test_lines_of_details_are_aligned_in_every_language(self):
+        for language, (status, output, errors) in self.in_every_language(
+                VXPRINTMON, "status", "Shipping"):
+            with self.subTest(language):
+                self.assertEqual((status, errors), (0, ""))
+                first, *rest = output.splitlines()
+                place = columns(first[:first.index("Shipping")])
+                # Each value follows two spaces or more, the widest label exactly two.
+                gaps = []
+                for line in rest:
+                    label = line.split("  ")[0]
+                    value = line[len(label):].lstrip()
+                    self.assertEqual(columns(line[:len(line) - len(value)]), place, line)
+                    gaps.append(place - columns(label))
+                self.assertEqual(min(gaps), 2)
+
+    def test_json_has_the_same_names_in_every_language(self):
+        for command in ((VXPRINTMON, "list", "--json"), (VXPRINTMON, "status", "--json"),
+                        (VXPRINTMON, "title", "--all", "--json")):
+            keys = set()
+            for _, (status, output, _) in self.in_every_language(*command):
+                self.assertEqual(status, 0)
+                keys.add(tuple(json.loads(output)[0]))
+            self.assertEqual(len(keys), 1)
+        fixed = set()
+        for _, (_, output, _) in self.in_every_language(VXPRINTMON, "title", "--all", "--json"):
+            fixed.add(tuple((info["statusEnum"], info["key"], info["severity"])
+                            for info in json.loads(output)))
+        self.assertEqual(len(fixed), 1)
+
+    def test_messages_are_translated(self):
+        empty = self.fleet({"printers": []})
+        for command in ((VXPRINTMON,), (VXPRINTMON, "lst"), (VXPRINTMON, "list", "--jsn"),
+                        (VXPRINTMON, "watch", "--for"), (VXPRINTMON, "title", "x"),
+                        (VXPRINTMON, "status", "Nowhere"), (VXPRINTMON, "list", "--for", "2"),
+                        (VXPRINTMON, "list", "--virtual", empty), (VXIPC,), (VXIPC, "call", "m4"),
+                        (VXIPC, "describe", "nobody"), (ROLLDB,), (ROLLDB, "check"),
+                        (ROLLDB, "build", "/no/such/folder", "x.db")):
+            with self.subTest(command[1:]):
+                english = None
+                for language, (_, output, errors) in self.in_every_language(*command):
+                    self.assertEqual((output + errors).count("\n"), 1)
+                    # Every message is followed by the same reference to the help.
+                    message = (output + errors).split(": ", 1)[-1].split(" (see ")[0].strip()
+                    if language == "en":
+                        english = message
+                    else:
+                        self.assertNotIn(english, message, language)
 
 
 if __name__ == "__main__":

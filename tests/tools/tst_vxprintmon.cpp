@@ -3,6 +3,7 @@
 // The monitor as its users see it: which arguments lead to which text, JSON and exit status.
 #include "patience.h"
 #include "printer_status_controller.h"
+#include "status_info.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -64,6 +65,19 @@ bool hasInOrder(const QByteArray& text, const QByteArrayList& keys)
     return true;
 }
 
+QString withoutSpaces(const QString& text)
+{
+    return text.simplified().remove(QLatin1Char(' '));
+}
+
+/// What title --json prints.
+QJsonObject jsonOf(const VxKit::StatusInfo& info)
+{
+    QJsonObject object = info.toJson();
+    object.insert(QStringLiteral("statusEnum"), object.take(QStringLiteral("code")));
+    return object;
+}
+
 const QString updated = QStringLiteral("availablePrintersUpdated");
 const QString inError = QStringLiteral("printerErrorChangedSignal");
 const QString statusChanged = QStringLiteral("statusChangedSignal");
@@ -110,6 +124,8 @@ private Q_SLOTS:
     void sendFailsIfTheJobIsLost();
     void titleIsPrinted_data();
     void titleIsPrinted();
+    void titlesOfAllCodesArePrinted();
+    void titlesOfAllCodesArePrintedAsJson();
 
     void watchPrintsEverySignalAsJson();
     void watchPrintsSignalsAndChangesAsText();
@@ -296,10 +312,10 @@ void VxPrintMonTest::statusPrintsATable()
     QCOMPARE(result.exitStatus, 0);
     QCOMPARE(result.errors, QByteArray());
     const QByteArray expected =
-        R"(PRINTER        STATUS                          SUPPLY              RIBBON 1     RIBBON 2     FIRMWARE        ACTIVE
-Branch Office  Printer Is Remotely Connected.  -                   -            -            -               
-Shipping       Ready                           Yellow Vinyl, 80 %  Black, 80 %  Red, 35 %    4.2.0,boot 1.7  
-Warehouse      Ready                           White Paper, 82 %   Blue, 3 %    Black, 57 %  4.1.3,boot 1.7  yes
+        R"(PRINTER        STATUS                         SUPPLY              RIBBON 1     RIBBON 2     FIRMWARE        ACTIVE
+Branch Office  Printer Is Remotely Connected  -                   -            -            -               
+Shipping       Ready                          Yellow Vinyl, 80 %  Black, 80 %  Red, 35 %    4.2.0,boot 1.7  
+Warehouse      Ready                          White Paper, 82 %   Blue, 3 %    Black, 57 %  4.1.3,boot 1.7  yes
 )";
     QCOMPARE(result.output, expected);
 }
@@ -645,8 +661,48 @@ void VxPrintMonTest::titleIsPrinted()
     const Result json = run({QStringLiteral("title"), code, QStringLiteral("--json")});
     QCOMPARE(json.exitStatus, 0);
     QCOMPARE(QJsonDocument::fromJson(json.output).object(),
-             (QJsonObject{{QStringLiteral("statusEnum"), code.toInt()},
-                          {QStringLiteral("title"), title}}));
+             jsonOf(VxKit::statusInfo(code.toInt(), QStringLiteral("en"))));
+    QVERIFY(hasInOrder(json.output, {"statusEnum", "title", "shortTitle", "key", "severity",
+                                     "explanation", "remedy"}));
+}
+
+void VxPrintMonTest::titlesOfAllCodesArePrinted()
+{
+    const Result result = run({QStringLiteral("title"), QStringLiteral("--all")});
+    QCOMPARE(result.exitStatus, 0);
+    QCOMPARE(result.errors, QByteArray());
+    const QStringList blocks =
+        QString::fromUtf8(result.output).split(QStringLiteral("\n\n"), Qt::SkipEmptyParts);
+    const QList<VxKit::StatusInfo> all = VxKit::allStatusInfo(QStringLiteral("en"));
+    QCOMPARE(blocks.size(), all.size());
+    for (qsizetype i = 0; i < all.size(); ++i) {
+        const VxKit::StatusInfo& info = all.at(i);
+        QCOMPARE(withoutSpaces(blocks.at(i)),
+                 withoutSpaces(QStringLiteral("%1 %2 (%3) %4 What to do: %5")
+                                   .arg(QString::number(info.code), info.shortTitle,
+                                        VxKit::severityName(info.severity), info.explanation,
+                                        info.remedy)));
+    }
+    QCOMPARE(
+        blocks.at(2),
+        QStringLiteral("  2  The printer is out of labels (error)\n"
+                       "     The labels that were loaded are used up. What has not been printed "
+                       "yet\n     waits in the print queue.\n"
+                       "     What to do: Open the cover, take out the empty core and load a new "
+                       "roll of\n     the same labels. Close the cover; printing continues."));
+}
+
+void VxPrintMonTest::titlesOfAllCodesArePrintedAsJson()
+{
+    const Result result =
+        run({QStringLiteral("title"), QStringLiteral("--all"), QStringLiteral("--json")});
+    QCOMPARE(result.exitStatus, 0);
+    QCOMPARE(result.errors, QByteArray());
+    QJsonArray expected;
+    const QList<VxKit::StatusInfo> all = VxKit::allStatusInfo(QStringLiteral("en"));
+    for (const VxKit::StatusInfo& info : all)
+        expected.append(jsonOf(info));
+    QCOMPARE(QJsonDocument::fromJson(result.output).array(), expected);
 }
 
 // watch ///////////////////////////////////////////////////////////////////////////////////////////
@@ -762,7 +818,7 @@ void VxPrintMonTest::watchPrintsSignalsAndChangesAsText()
                  QByteArray("records: ribbon 1 Blue (RS-43-BL), ribbon 1 left 0 % → 100 %, "
                             "ribbon 1 left 100 % → 99 %"),
                  "A printer comes.",
-                 "Quill  found    Printer Is Remotely Connected.",
+                 "Quill  found    Printer Is Remotely Connected",
                  "The lid is closed.",
                  "       errors   no printer is in error",
                  "P      status     1  Ready",
@@ -1110,8 +1166,8 @@ void VxPrintMonTest::wrongUsageIsRefused_data()
     row("send", "send takes a printer and a command, found nothing");
     row("send Shipping", R"(send takes a printer and a command, found "Shipping")");
     row("send Shipping A B", R"(send takes a printer and a command, found "Shipping" "A" "B")");
-    row("title", "title takes a status code, found nothing");
-    row("title 1 2", R"(title takes a status code, found "1" "2")");
+    row("title", "title takes a status code or --all, found nothing");
+    row("title 1 2", R"(title takes a status code or --all, found "1" "2")");
     for (const char* code : {"x", "1.5", "0x10", "2147483648", "-2147483649"}) {
         const QByteArray arguments = QByteArray("title ") + code;
         const QByteArray complaint =
@@ -1119,6 +1175,8 @@ void VxPrintMonTest::wrongUsageIsRefused_data()
             code + '"';
         row(arguments.constData(), complaint.constData());
     }
+    row("title 1 --all", "title takes a status code or --all, not both");
+    row("list --all", "--all is valid only with title");
     row("list --jsn", "Unknown option 'jsn'");
     row("list --for 3", "--for is valid only with watch");
     row("status --for 3", "--for is valid only with watch");
@@ -1167,7 +1225,7 @@ void VxPrintMonTest::helpAndVersionArePrinted()
     QCOMPARE(help.exitStatus, 0);
     QVERIFY(help.output.startsWith("Usage: vxprintmon COMMAND"));
     for (const char* said : {"list ", "watch ", "status [PRINTER]", "send PRINTER COMMAND",
-                             "title CODE", "no longer than 2 seconds"})
+                             "title CODE", "--all ", "no longer than 2 seconds"})
         QVERIFY2(help.output.contains(said), said);
     const Result version = run({QStringLiteral("--version")});
     QCOMPARE(version.exitStatus, 0);

@@ -5,6 +5,7 @@
 
 #include "windows_printer_info.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QSettings>
 
 namespace {
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void firstDeviceOnAPortWins();
     void devicesOfOtherMakersInTheClassCount();
     void missingSerialNumber();
+    void ofTheMakersDevicesByPort();
     void classWithoutUsableParameters();
     void registryPathsThatAreRead();
     void fileIsInTheUsersScope();
@@ -194,6 +196,22 @@ void DeviceSerialNumbersTest::missingSerialNumber()
     // The last device has no serial number, so the result is empty.
     QVERIFY(WindowsPrinterInfo::getDeviceSerialNumber(9).isEmpty());
     QVERIFY(!QFile::exists(filePath()));
+}
+
+void DeviceSerialNumbersTest::ofTheMakersDevicesByPort()
+{
+    using SerialNumbers = QHash<unsigned short, QString>;
+    QCOMPARE(WindowsPrinterInfo::getDeviceSerialNumbers(), SerialNumbers());
+    machine().addDevice({makersClass, foreignDevice, 1, text("FOREIGN")});
+    machine().addDevice({makersClass, makersDevice(1), 2, text("TWO")});
+    machine().addDevice({makersClass, makersDevice(2), 2, text("TWO AGAIN")});
+    machine().addDevice({makersClass, makersDevice(3), {}, text("NOWHERE")});
+    machine().addDevice({makersClass, makersDevice(4), 4, {}});
+    machine().addDevice({makersClass, makersDevice(5), 5, text("FIVE")});
+    QCOMPARE(WindowsPrinterInfo::getDeviceSerialNumbers(),
+             (SerialNumbers{{2, text("TWO")}, {5, text("FIVE")}}));
+    // Nothing is recorded by that.
+    QVERIFY(QDir(settingsFolder()).isEmpty());
 }
 
 void DeviceSerialNumbersTest::classWithoutUsableParameters()

@@ -3,6 +3,7 @@
 #include "failure.h"
 
 #include "standard_output.h"
+#include "tool_text.h"
 
 namespace {
 
@@ -15,7 +16,7 @@ ExitStatus run(const StandardOutput& output, const std::function<void()>& work)
         const bool isWrongUsage = failure.exitStatus() == ExitStatus::WrongUsage;
         output.complain(
             isWrongUsage
-                ? QStringLiteral("%1 (see %2 --help)").arg(failure.message(), output.toolName())
+                ? ToolText::tr("%1 (see %2 --help)").arg(failure.message(), output.toolName())
                 : failure.message());
         return failure.exitStatus();
     } catch (const std::exception& exception) {

@@ -4,6 +4,7 @@
 
 #include "shown_text.h"
 #include "system_output.h"
+#include "tool_text.h"
 
 #include <cerrno>
 #include <system_error>
@@ -46,6 +47,6 @@ int StandardOutput::exitStatus(int status) const
     constexpr int failed = 1;
     if (m_failure.isEmpty())
         return status;
-    complain(QStringLiteral("standard output could not be written: %1").arg(m_failure));
+    complain(ToolText::tr("standard output could not be written: %1").arg(m_failure));
     return failed;
 }

@@ -12,7 +12,8 @@ namespace system_output {
 ///
 /// A write to a pipe that its reader has closed fails from now on; by default it would end the
 /// program, which would leave its files and endpoints behind. If the program was started with a
-/// closed standard stream, files that it opens later do not take that stream's place.
+/// closed standard stream, files that it opens later do not take that stream's place. A console
+/// shows the text, which is UTF-8, as it is, and gets its own setting back when the process ends.
 void prepare();
 
 /// Whether the write that has just failed did so because the reader had closed the pipe.

@@ -6,7 +6,25 @@
 
 #include <windows.h>
 
-void system_output::prepare() {} // Windows sends no signal and does not reuse the numbers
+namespace {
+
+UINT codePageBefore = 0;
+
+void restoreCodePage()
+{
+    SetConsoleOutputCP(codePageBefore);
+}
+
+} // namespace
+
+void system_output::prepare()
+{
+    // The tools write UTF-8. There is no code page if there is no console.
+    codePageBefore = GetConsoleOutputCP();
+    if (codePageBefore != 0 && SetConsoleOutputCP(CP_UTF8))
+        std::atexit(restoreCodePage);
+    // Windows sends no signal for a closed pipe, and does not reuse the numbers of closed streams.
+}
 
 bool system_output::failedAtClosedPipe()
 {

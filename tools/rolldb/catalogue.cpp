@@ -5,6 +5,7 @@
 #include "csv_table.h"
 #include "failure.h"
 #include "shown_text.h"
+#include "tool_text.h"
 
 #include <supplydb_schema.h>
 #include <vxlocalelanguages.h>
@@ -93,17 +94,17 @@ auto fieldsOf(const CsvTable& table, qsizetype row)
 void requireVisible(const CsvField& field)
 {
     if (const std::optional<char32_t> character = invisibleCharacter(field.text))
-        throw field.failure(QStringLiteral("the character U+%1 is invisible; remove it")
+        throw field.failure(ToolText::tr("the character U+%1 is invisible; remove it")
                                 .arg(QString::number(*character, 16).toUpper(), 4, u'0'));
 }
 
 QString textOf(const CsvField& field, qsizetype maxLength)
 {
     if (field.text.isEmpty())
-        throw field.failure(QStringLiteral("empty"));
+        throw field.failure(ToolText::tr("empty"));
     requireVisible(field);
     if (field.text.size() > maxLength)
-        throw field.failure(QStringLiteral("longer than %1 characters").arg(maxLength));
+        throw field.failure(ToolText::tr("longer than %1 characters").arg(maxLength));
     return field.text;
 }
 
@@ -112,7 +113,7 @@ int integerOf(const CsvField& field, const QString& text, int least, int most)
     bool isInteger = false;
     const int value = text.toInt(&isInteger);
     if (!isInteger || value < least || value > most)
-        throw field.failure(QStringLiteral("\"%1\" is not a whole number between %2 and %3")
+        throw field.failure(ToolText::tr("\"%1\" is not a whole number between %2 and %3")
                                 .arg(text)
                                 .arg(least)
                                 .arg(most));
@@ -128,8 +129,8 @@ QString skuOf(const CsvField& field)
 {
     if (!supplydb_schema::isSku(field.text))
         throw field.failure(
-            QStringLiteral("\"%1\" is not a SKU: at most %2 letters from A to Z, digits, dots, "
-                           "underscores and hyphens, starting with a letter or digit")
+            ToolText::tr("\"%1\" is not a SKU: at most %2 letters from A to Z, digits, dots, "
+                         "underscores and hyphens, starting with a letter or digit")
                 .arg(field.text)
                 .arg(supplydb_schema::maxSkuLength));
     return field.text;
@@ -143,7 +144,7 @@ int rgbOf(const CsvField& field)
                        });
     if (!isHex)
         throw field.failure(
-            QStringLiteral("\"%1\" is not a colour of the form #RRGGBB").arg(field.text));
+            ToolText::tr("\"%1\" is not a colour of the form #RRGGBB").arg(field.text));
     return field.text.mid(1).toInt(nullptr, 16);
 }
 
@@ -153,7 +154,7 @@ bool yesOrNoOf(const CsvField& field)
         return true;
     if (field.text == QLatin1String("no"))
         return false;
-    throw field.failure(QStringLiteral("\"%1\" is neither yes nor no").arg(field.text));
+    throw field.failure(ToolText::tr("\"%1\" is neither yes nor no").arg(field.text));
 }
 
 QStringList wordsOf(const CsvField& field)
@@ -187,27 +188,26 @@ private:
         const QString file = QString::fromLatin1(layout.file);
         const std::optional<QByteArray> bytes = m_readFile(file);
         if (!bytes)
-            throw Failure(QStringLiteral("%1: no such file, or it cannot be read").arg(file));
+            throw Failure(ToolText::tr("%1: no such file, or it cannot be read").arg(file));
         CsvTable table = CsvTable::parse(file, *bytes);
         for (const QString& wanted : layout.columns) {
             if (!table.hasColumn(wanted))
-                throw table.failureInFile(QStringLiteral("the column %1 is missing").arg(wanted));
+                throw table.failureInFile(ToolText::tr("the column %1 is missing").arg(wanted));
         }
         if (layout.hasNames && !table.hasColumn(englishTag))
-            throw table.failureInFile(QStringLiteral("the column en is missing"));
+            throw table.failureInFile(ToolText::tr("the column en is missing"));
         for (const QString& found : table.columns()) {
             if (layout.columns.contains(found))
                 continue;
             const std::optional<int> language = languageNumber(found);
             if (!layout.hasNames || !language)
                 throw table.failureInHeader(
-                    found,
-                    layout.hasNames
-                        ? QStringLiteral("neither a column of this table nor a known language")
-                        : QStringLiteral("not a column of this table"));
+                    found, layout.hasNames
+                               ? ToolText::tr("neither a column of this table nor a known language")
+                               : ToolText::tr("not a column of this table"));
             if (m_catalogue.languages.value(*language, found) != found)
                 throw table.failureInHeader(found,
-                                            QStringLiteral("the same language as the column %1")
+                                            ToolText::tr("the same language as the column %1")
                                                 .arg(m_catalogue.languages.value(*language)));
             m_catalogue.languages.insert(*language, found);
         }
@@ -239,7 +239,7 @@ private:
         bool isReal = false;
         const double value = text.toDouble(&isReal);
         if (!isReal || !std::isfinite(value) || value < least || value > most)
-            throw field.failure(QStringLiteral("\"%1\" is not a number between %2 and %3")
+            throw field.failure(ToolText::tr("\"%1\" is not a number between %2 and %3")
                                     .arg(field.text)
                                     .arg(least)
                                     .arg(most));
@@ -250,7 +250,7 @@ private:
     {
         const double value = realOf(table, field, 0.0, most);
         if (value <= 0.0)
-            throw field.failure(QStringLiteral("\"%1\" is not greater than 0").arg(field.text));
+            throw field.failure(ToolText::tr("\"%1\" is not greater than 0").arg(field.text));
         return value;
     }
 
@@ -258,7 +258,7 @@ private:
     {
         const auto found = m_colours.constFind(key);
         if (found == m_colours.constEnd())
-            throw field.failure(QStringLiteral("\"%1\" is not in colours.csv").arg(key));
+            throw field.failure(ToolText::tr("\"%1\" is not in colours.csv").arg(key));
         return *found;
     }
 
@@ -268,9 +268,9 @@ private:
         for (qsizetype row = 0; row < source.rowCount(); ++row) {
             const CsvField key = source.field(row, column("colour"));
             if (key.text.contains(u' '))
-                throw key.failure(QStringLiteral("a space in a colour's key"));
+                throw key.failure(ToolText::tr("a space in a colour's key"));
             if (m_colours.contains(textOf(key, maxWordLength)))
-                throw key.failure(QStringLiteral("duplicate colour \"%1\"").arg(key.text));
+                throw key.failure(ToolText::tr("duplicate colour \"%1\"").arg(key.text));
             m_colours.insert(key.text, m_catalogue.colours.size());
             m_catalogue.colours.append(
                 {key.text, rgbOf(source.field(row, column("rgb"))), nameOf(source, row)});
@@ -284,7 +284,7 @@ private:
             const CsvField field = source.field(row, column("material"));
             const int number = integerOf(field, 0, supplydb_schema::maxKind);
             if (m_materials.contains(number))
-                throw field.failure(QStringLiteral("duplicate material %1").arg(number));
+                throw field.failure(ToolText::tr("duplicate material %1").arg(number));
             m_materials.insert(number);
             m_catalogue.materials.append({number, nameOf(source, row)});
         }
@@ -297,10 +297,10 @@ private:
             const CsvField field = source.field(row, column("format"));
             const int number = integerOf(field, 0, supplydb_schema::maxKind);
             if (m_formats.contains(number))
-                throw field.failure(QStringLiteral("duplicate format %1").arg(number));
+                throw field.failure(ToolText::tr("duplicate format %1").arg(number));
             const CsvField type = source.field(row, column("type"));
             if (!formatTypes.contains(type.text))
-                throw type.failure(QStringLiteral("\"%1\" is not one of %2")
+                throw type.failure(ToolText::tr("\"%1\" is not one of %2")
                                        .arg(type.text, formatTypes.join(QStringLiteral(", "))));
             m_formats.insert(number, type.text);
             m_catalogue.formats.append({number, type.text, nameOf(source, row)});
@@ -311,7 +311,7 @@ private:
     {
         const int format = integerOf(field, 0, supplydb_schema::maxKind);
         if (!m_formats.contains(format))
-            throw field.failure(QStringLiteral("format %1 is not in formats.csv").arg(format));
+            throw field.failure(ToolText::tr("format %1 is not in formats.csv").arg(format));
         return format;
     }
 
@@ -321,7 +321,7 @@ private:
         for (const QString& word : wordsOf(field)) {
             const int number = integerOf(field, word, 1, most);
             if (taken.contains(number))
-                throw field.failure(QStringLiteral("duplicate number %1").arg(number));
+                throw field.failure(ToolText::tr("duplicate number %1").arg(number));
             taken.insert(number);
             numbers.append(number);
         }
@@ -339,7 +339,7 @@ private:
         // A catalogue must not read files from outside its folder.
         if (field.text.contains(u'/') || field.text.contains(u'\\') || field.text.contains(u':') ||
             field.text.startsWith(u'.') || field.text.size() > supplydb_schema::maxNameLength)
-            throw field.failure(QStringLiteral("\"%1\" is not a plain file name").arg(field.text));
+            throw field.failure(ToolText::tr("\"%1\" is not a plain file name").arg(field.text));
         std::optional<QByteArray> image;
         try {
             image = m_readFile(backgroundFolder + field.text);
@@ -348,9 +348,9 @@ private:
         }
         if (!image)
             throw field.failure(
-                QStringLiteral("%1%2 cannot be read").arg(backgroundFolder, field.text));
+                ToolText::tr("%1%2 cannot be read").arg(backgroundFolder, field.text));
         if (image->size() > supplydb_schema::maxImageBytes)
-            throw field.failure(QStringLiteral("%1%2 is larger than %3 KiB")
+            throw field.failure(ToolText::tr("%1%2 is larger than %3 KiB")
                                     .arg(backgroundFolder, field.text)
                                     .arg(supplydb_schema::maxImageBytes / 1024));
         QBuffer buffer;
@@ -360,9 +360,9 @@ private:
         const QSize size = reader.size();
         if (!reader.canRead() || size.isEmpty())
             throw field.failure(
-                QStringLiteral("%1%2 is not a readable image").arg(backgroundFolder, field.text));
+                ToolText::tr("%1%2 is not a readable image").arg(backgroundFolder, field.text));
         if (size.width() > maxImageSide || size.height() > maxImageSide)
-            throw field.failure(QStringLiteral("%1%2 has %3 by %4 pixels; the maximum is %5 by %5")
+            throw field.failure(ToolText::tr("%1%2 has %3 by %4 pixels; the maximum is %5 by %5")
                                     .arg(backgroundFolder, field.text)
                                     .arg(size.width())
                                     .arg(size.height())
@@ -379,7 +379,7 @@ private:
         CsvTable source = table(layout);
         if (source.rowCount() > supplydb_schema::maxListedRows)
             throw source.failureInFile(
-                QStringLiteral("more than %1 rows").arg(supplydb_schema::maxListedRows));
+                ToolText::tr("more than %1 rows").arg(supplydb_schema::maxListedRows));
         return source;
     }
 
@@ -391,14 +391,14 @@ private:
             Catalogue::Supply supply{};
             supply.sku = skuOf(field("sku"));
             if (m_supplies.contains(supply.sku))
-                throw field("sku").failure(QStringLiteral("duplicate SKU %1").arg(supply.sku));
+                throw field("sku").failure(ToolText::tr("duplicate SKU %1").arg(supply.sku));
             m_supplies.insert(supply.sku);
             supply.kinds = uniqueNumbers(field("kinds"), supplydb_schema::maxKind, m_kinds);
             supply.material = integerOf(field("material"), 0, supplydb_schema::maxKind);
             if (!m_materials.contains(supply.material))
                 throw field("material")
                     .failure(
-                        QStringLiteral("material %1 is not in materials.csv").arg(supply.material));
+                        ToolText::tr("material %1 is not in materials.csv").arg(supply.material));
             supply.format = formatOf(field("format"));
             supply.colour = colourOf(field("colour"), field("colour").text);
             supply.width = sizeOf(source, field("width"), maxWidth);
@@ -419,8 +419,8 @@ private:
         const CsvField colour = source.field(row, column("second_colour"));
         const CsvField width = source.field(row, column("second_colour_width"));
         if (colour.text.isEmpty() != width.text.isEmpty())
-            throw width.failure(QStringLiteral(
-                "a second colour and its width must be given together or not at all"));
+            throw width.failure(
+                ToolText::tr("a second colour and its width must be given together or not at all"));
         if (colour.text.isEmpty())
             return;
         supply.secondColour = colourOf(colour, colour.text);
@@ -433,9 +433,8 @@ private:
         const bool isContinuous = m_formats.value(supply.format) == continuousType;
         if (isContinuous != field.text.isEmpty())
             throw field.failure(
-                isContinuous
-                    ? QStringLiteral("a label length is given, but the format is continuous")
-                    : QStringLiteral("empty, but the format is not continuous"));
+                isContinuous ? ToolText::tr("a label length is given, but the format is continuous")
+                             : ToolText::tr("empty, but the format is not continuous"));
         if (!isContinuous)
             supply.labelLength = sizeOf(source, field, supply.length);
     }
@@ -447,8 +446,8 @@ private:
         if ((supply.multiUpCount == 1) != gap.text.isEmpty())
             throw gap.failure(
                 supply.multiUpCount == 1
-                    ? QStringLiteral("a gap is given, but there is only one label across")
-                    : QStringLiteral("empty, but there are several labels across"));
+                    ? ToolText::tr("a gap is given, but there is only one label across")
+                    : ToolText::tr("empty, but there are several labels across"));
         if (!gap.text.isEmpty())
             supply.multiUpGap = realOf(source, gap, 0.0, maxWidth);
     }
@@ -461,9 +460,9 @@ private:
             Catalogue::Ribbon ribbon{};
             ribbon.sku = skuOf(field("sku"));
             if (m_panels.contains(ribbon.sku))
-                throw field("sku").failure(QStringLiteral("duplicate SKU %1").arg(ribbon.sku));
+                throw field("sku").failure(ToolText::tr("duplicate SKU %1").arg(ribbon.sku));
             if (m_supplies.contains(ribbon.sku))
-                throw field("sku").failure(QStringLiteral("%1 is a supply's SKU").arg(ribbon.sku));
+                throw field("sku").failure(ToolText::tr("%1 is a supply's SKU").arg(ribbon.sku));
             ribbon.numbers =
                 uniqueNumbers(field("numbers"), supplydb_schema::maxRibbonNumber, m_ribbonNumbers);
             ribbon.type = textOf(field("type"), maxWordLength);
@@ -473,7 +472,7 @@ private:
             for (const QString& key : wordsOf(panels))
                 ribbon.panelColours.append(colourOf(panels, key));
             if (ribbon.panelColours.isEmpty() || ribbon.panelColours.size() > maxPanels)
-                throw panels.failure(QStringLiteral("%1 panels; a ribbon has 1 to %2")
+                throw panels.failure(ToolText::tr("%1 panels; a ribbon has 1 to %2")
                                          .arg(ribbon.panelColours.size())
                                          .arg(maxPanels));
             m_panels.insert(ribbon.sku, static_cast<int>(ribbon.panelColours.size()));
@@ -492,18 +491,17 @@ private:
             };
             const CsvField ribbon = field("ribbon");
             if (!m_panels.contains(ribbon.text))
-                throw ribbon.failure(
-                    QStringLiteral("\"%1\" is not in ribbons.csv").arg(ribbon.text));
+                throw ribbon.failure(ToolText::tr("\"%1\" is not in ribbons.csv").arg(ribbon.text));
             const int panel = integerOf(field("panel"), 1, m_panels.value(ribbon.text));
             const CsvField supply = field("supply");
             if (!m_supplies.contains(supply.text))
                 throw supply.failure(
-                    QStringLiteral("\"%1\" is not in supplies.csv").arg(supply.text));
+                    ToolText::tr("\"%1\" is not in supplies.csv").arg(supply.text));
             const QString key =
                 QStringLiteral("%1 %2 %3").arg(ribbon.text).arg(panel).arg(supply.text);
             if (seen.contains(key))
                 throw ribbon.failure(
-                    QStringLiteral("duplicate print setting for panel %1 of %2 with %3")
+                    ToolText::tr("duplicate print setting for panel %1 of %2 with %3")
                         .arg(panel)
                         .arg(ribbon.text, supply.text));
             seen.insert(key);
@@ -525,14 +523,14 @@ private:
             const QString spelling = spellings.value(text.toLower(), text);
             if (spelling != text)
                 throw modelField.failure(
-                    QStringLiteral("\"%1\" is the same model as \"%2\"").arg(text, spelling));
+                    ToolText::tr("\"%1\" is the same model as \"%2\"").arg(text, spelling));
             spellings.insert(text.toLower(), text);
             const CsvField formatField = source.field(row, column("format"));
             const int format = formatOf(formatField);
             QList<int>& list = lists[model];
             if (list.contains(format))
                 throw formatField.failure(
-                    QStringLiteral("duplicate format %1 for %2").arg(format).arg(text));
+                    ToolText::tr("duplicate format %1 for %2").arg(format).arg(text));
             m_catalogue.printerFormats.append({model, static_cast<int>(list.size()), format});
             list.append(format);
         }
@@ -561,12 +559,12 @@ Catalogue readCatalogueDirectory(const QString& directory)
 {
     const QDir dir(directory);
     if (!dir.exists())
-        throw Failure(QStringLiteral("%1: no such directory").arg(directory));
+        throw Failure(ToolText::tr("%1: no such directory").arg(directory));
     return readCatalogue([&dir](const QString& name) -> std::optional<QByteArray> {
         const QFileInfo info(dir.filePath(name));
         // Opening a pipe would block until another process writes to it.
         if (info.exists() && !info.isFile())
-            throw Failure(QStringLiteral("%1 is not a file").arg(name));
+            throw Failure(ToolText::tr("%1 is not a file").arg(name));
         QFile file(info.filePath());
         if (!file.open(QIODevice::ReadOnly))
             return std::nullopt;

@@ -5,6 +5,7 @@
 #include "database_check.h"
 #include "failure.h"
 #include "file_replacement.h"
+#include "tool_text.h"
 
 #include <supplydb_schema.h>
 
@@ -205,7 +206,7 @@ void writeDatabase(const Catalogue& catalogue, const QString& path)
     try {
         writeDraft(catalogue, draft);
     } catch (const Failure& failure) {
-        throw Failure(QStringLiteral("%1: cannot be created in %2: %3")
+        throw Failure(ToolText::tr("%1: cannot be created in %2: %3")
                           .arg(path, workshop.path(), failure.message()));
     }
     checkDatabase(draft, path);

@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #include "csv_table.h"
 
+#include "tool_text.h"
+
 #include <QtCore/QStringDecoder>
 
 #include <algorithm>
@@ -21,7 +23,7 @@ QString lineFailure(const QString& fileName, int line, const QString& reason)
 QString decoded(const QString& fileName, const QByteArray& bytes)
 {
     if (bytes.size() > maxFileBytes)
-        throw Failure(QStringLiteral("%1: larger than 16 MiB").arg(fileName));
+        throw Failure(ToolText::tr("%1: larger than 16 MiB").arg(fileName));
     // Removes a byte order mark. Stateless, so that an incomplete character at the end is an error.
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder.decode(bytes);
@@ -36,7 +38,7 @@ QString decoded(const QString& fileName, const QByteArray& bytes)
             break;
         ++line;
     }
-    throw Failure(lineFailure(fileName, line, QStringLiteral("not UTF-8 text")));
+    throw Failure(lineFailure(fileName, line, ToolText::tr("not UTF-8 text")));
 }
 
 // The first separator in the header line decides: column names contain neither in practice.
@@ -55,7 +57,7 @@ QChar separatorOf(const QString& text)
 
 QString CsvField::place() const
 {
-    return QStringLiteral("%1:%2, column %3 (%4)")
+    return ToolText::tr("%1:%2, column %3 (%4)")
         .arg(fileName)
         .arg(line)
         .arg(columnNumber)
@@ -94,15 +96,15 @@ private:
         Row row{.line = m_line, .fields = {}};
         for (;;) {
             if (row.fields.size() == maxColumns)
-                throw failure(QStringLiteral("more than %1 columns").arg(maxColumns));
+                throw failure(ToolText::tr("more than %1 columns").arg(maxColumns));
             row.fields.append(readField());
             if (!skip(m_separator))
                 break;
         }
         const bool hasReturn = skip(u'\r');
         if (m_position < m_text.size() && !skip(u'\n'))
-            throw failure(hasReturn ? QStringLiteral("a carriage return without a line feed")
-                                    : QStringLiteral("text after a closing quotation mark"));
+            throw failure(hasReturn ? ToolText::tr("a carriage return without a line feed")
+                                    : ToolText::tr("text after a closing quotation mark"));
         ++m_line;
         return row;
     }
@@ -113,9 +115,9 @@ private:
             ++m_position;
         QString field = skip(u'"') ? readQuoted() : readPlain();
         if (field.size() > maxFieldLength)
-            throw failure(QStringLiteral("a field of more than %1 characters").arg(maxFieldLength));
+            throw failure(ToolText::tr("a field of more than %1 characters").arg(maxFieldLength));
         if (field.contains(QChar::Null))
-            throw failure(QStringLiteral("a NUL character"));
+            throw failure(ToolText::tr("a NUL character"));
         return field.trimmed();
     }
 
@@ -126,7 +128,7 @@ private:
             ++m_position;
         const QString field = m_text.sliced(start, m_position - start);
         if (field.contains(u'"'))
-            throw failure(QStringLiteral("a quotation mark inside a field that is not quoted"));
+            throw failure(ToolText::tr("a quotation mark inside a field that is not quoted"));
         return field;
     }
 
@@ -146,7 +148,7 @@ private:
             field.append(character);
         }
         throw Failure(
-            lineFailure(m_fileName, openedIn, QStringLiteral("an unclosed quotation mark")));
+            lineFailure(m_fileName, openedIn, ToolText::tr("an unclosed quotation mark")));
     }
 
     bool skip(QChar character)
@@ -188,7 +190,7 @@ CsvTable CsvTable::parse(const QString& fileName, const QByteArray& bytes)
     Parser parser(fileName, text, table.m_separator);
     const std::optional<Row> header = parser.nextRow();
     if (!header)
-        throw table.failureInFile(QStringLiteral("empty; expected a line of column names"));
+        throw table.failureInFile(ToolText::tr("empty; expected a line of column names"));
     table.m_columns = header->fields;
     while (!table.m_columns.isEmpty() && table.m_columns.last().isEmpty())
         table.m_columns.removeLast(); // a spreadsheet's empty columns
@@ -196,8 +198,8 @@ CsvTable CsvTable::parse(const QString& fileName, const QByteArray& bytes)
         const QString& column = table.m_columns.at(i);
         if (column.isEmpty() || table.m_columns.indexOf(column) != i)
             throw table.failureInHeader(column, column.isEmpty()
-                                                    ? QStringLiteral("a column without a name")
-                                                    : QStringLiteral("duplicate column"));
+                                                    ? ToolText::tr("a column without a name")
+                                                    : ToolText::tr("duplicate column"));
     }
 
     while (std::optional<Row> row = parser.nextRow()) {
@@ -205,7 +207,7 @@ CsvTable CsvTable::parse(const QString& fileName, const QByteArray& bytes)
             row->fields.removeLast();
         if (row->fields.size() != table.m_columns.size())
             throw Failure(lineFailure(fileName, row->line,
-                                      QStringLiteral("%1 fields, but there are %2 columns")
+                                      ToolText::tr("%1 fields, but there are %2 columns")
                                           .arg(row->fields.size())
                                           .arg(table.m_columns.size())));
         table.m_rows.append(*std::move(row));
@@ -231,7 +233,7 @@ CsvField CsvTable::fieldAt(qsizetype row, qsizetype column) const
 
 Failure CsvTable::failureInHeader(const QString& column, const QString& reason) const
 {
-    return Failure(QStringLiteral("%1:1, column %2 (%3): %4")
+    return Failure(ToolText::tr("%1:1, column %2 (%3): %4")
                        .arg(m_fileName)
                        .arg(m_columns.lastIndexOf(column) + 1)
                        .arg(column, reason));

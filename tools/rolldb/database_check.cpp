@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #include "database_check.h"
 
+#include "tool_text.h"
+
 #include <supplydb_connection.h>
 #include <supplydb_schema.h>
 
@@ -19,20 +21,20 @@ struct Rule
 };
 // clang-format off
 constexpr std::array rules{
-    Rule{"the panels of ribbon %1 are not numbered consecutively from 1",
+    Rule{QT_TRANSLATE_NOOP("tools", "the panels of ribbon %1 are not numbered consecutively from 1"),
          R"(SELECT r.sku FROM ribbon r LEFT JOIN ribbon_panel p ON p.ribbon_sku = r.sku
             GROUP BY r.sku HAVING count(p.panel) = 0 OR max(p.panel) <> count(p.panel))"},
-    Rule{"%1 is both a supply and a ribbon",
+    Rule{QT_TRANSLATE_NOOP("tools", "%1 is both a supply and a ribbon"),
          "SELECT s.sku FROM supply s JOIN ribbon r ON r.sku = s.sku"},
-    Rule{"supply %1 has a label length and a continuous format, or neither",
+    Rule{QT_TRANSLATE_NOOP("tools", "supply %1 has a label length and a continuous format, or neither"),
          R"(SELECT s.sku FROM supply s JOIN format f ON f.id = s.format_id
             WHERE (f.type = 'continuous') <> (s.label_length IS NULL))"},
-    Rule{"the formats of the printer model \"%1\" are not numbered consecutively from 0",
+    Rule{QT_TRANSLATE_NOOP("tools", "the formats of the printer model \"%1\" are not numbered consecutively from 0"),
          R"(SELECT model FROM printer_format
             GROUP BY model HAVING max(position) <> count(*) - 1)"},
-    Rule{"the language 0 is \"%1\", not English",
+    Rule{QT_TRANSLATE_NOOP("tools", "the language 0 is \"%1\", not English"),
          "SELECT tag FROM language WHERE id = 0 AND tag <> 'en'"},
-    Rule{"English is missing%1",
+    Rule{QT_TRANSLATE_NOOP("tools", "English is missing%1"),
          "SELECT '' WHERE NOT EXISTS (SELECT 1 FROM language WHERE id = 0)"},
 };
 // clang-format on
@@ -68,11 +70,11 @@ DatabaseCounts DatabaseChecker::checkContent()
 {
     checkSchema();
     if (const QString table = first(QStringLiteral("PRAGMA foreign_key_check")); !table.isNull())
-        throw failure(QStringLiteral("a row of %1 refers to a missing row").arg(table));
+        throw failure(ToolText::tr("a row of %1 refers to a missing row").arg(table));
     for (const Rule& rule : rules) {
         const QString subject = first(QString::fromLatin1(rule.statement));
         if (!subject.isNull())
-            throw failure(QString::fromLatin1(rule.found).arg(subject));
+            throw failure(ToolText::tr(rule.found).arg(subject));
     }
     return {count("supply"), count("ribbon"), count("print_setting"), count("language")};
 }
@@ -81,7 +83,7 @@ void DatabaseChecker::checkStructure()
 {
     const QString answer = first(QStringLiteral("PRAGMA integrity_check(1)"));
     if (answer != QLatin1String("ok"))
-        throw failure(QStringLiteral("damaged: %1").arg(answer.section(u'\n', -1)));
+        throw failure(ToolText::tr("damaged: %1").arg(answer.section(u'\n', -1)));
 }
 
 // SQLite stores the statement that created each table unchanged.
@@ -101,7 +103,7 @@ void DatabaseChecker::checkSchema()
     wanted.sort();
     found.sort();
     if (found != wanted)
-        throw failure(QStringLiteral("its tables are not those of schema version %1")
+        throw failure(ToolText::tr("its tables are not those of schema version %1")
                           .arg(supplydb_schema::schemaVersion));
 }
 
@@ -114,7 +116,7 @@ QSqlQuery& DatabaseChecker::run(const QString& statement)
         query.prepare(statement);
     }
     if (!query.exec())
-        throw failure(QStringLiteral("damaged: %1").arg(query.lastError().databaseText()));
+        throw failure(ToolText::tr("damaged: %1").arg(query.lastError().databaseText()));
     return query;
 }
 

@@ -3,6 +3,7 @@
 #include "file_replacement.h"
 
 #include "failure.h"
+#include "tool_text.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
@@ -11,7 +12,7 @@ void requireFileOrNothing(const QString& path)
 {
     const QFileInfo info(path);
     if (info.exists() && !info.isFile())
-        throw Failure(QStringLiteral("%1: not a file, so it is not replaced").arg(path));
+        throw Failure(ToolText::tr("%1: not a file, so it is not replaced").arg(path));
 }
 
 void replaceFile(const QString& path, const QByteArray& bytes)

@@ -7,6 +7,8 @@
 #include "shown_text.h"
 #include "sku_report.h"
 #include "standard_output.h"
+#include "text_layout.h"
+#include "tool_text.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
@@ -16,22 +18,26 @@
 
 namespace {
 
-constexpr const char* usage = R"(Usage: rolldb build DIRECTORY FILE
-       rolldb check FILE
-       rolldb show [--language TAG] FILE SKU
-
-build creates the supply database FILE from the tables in DIRECTORY,
-check verifies FILE,
-show prints what FILE has about a supply or a ribbon, with names in English or
-in the language TAG ("de", "ja").
-
-Exit status: 0 success, 1 failure, 2 wrong usage. Failing to write the output
-is a failure, unless the reader has closed the pipe.
-)";
+QString help()
+{
+    using text_layout::paragraph;
+    const QString begin = ToolText::tr("Usage: %1");
+    const QString indent(text_layout::width(begin.arg(QString())), u' ');
+    return begin.arg(QStringLiteral("rolldb build DIRECTORY FILE\n")) + indent +
+           QStringLiteral("rolldb check FILE\n") + indent +
+           QStringLiteral("rolldb show [--language TAG] FILE SKU\n\n") +
+           paragraph(ToolText::tr("build creates the supply database FILE from the tables in "
+                                  "DIRECTORY.")) +
+           paragraph(ToolText::tr("check verifies FILE.")) +
+           paragraph(
+               ToolText::tr("show prints what FILE has about a supply or a ribbon, with names "
+                            "in English or in the language TAG (\"de\", \"ja\").")) +
+           u'\n' + paragraph(ToolText::exitStatusHelp());
+}
 
 QString counted(const DatabaseCounts& counts)
 {
-    return QStringLiteral("%1 supplies, %2 ribbons, %3 print settings, %4 languages\n")
+    return ToolText::tr("%1 supplies, %2 ribbons, %3 print settings, %4 languages")
         .arg(counts.supplies)
         .arg(counts.ribbons)
         .arg(counts.settings)
@@ -48,13 +54,14 @@ const std::array commands{
     Command{"build", 2,
             [](const QStringList& arguments, int) {
                 writeDatabase(readCatalogueDirectory(arguments.at(0)), arguments.at(1));
-                return QStringLiteral("%1: %2").arg(shown(arguments.at(1)),
-                                                    counted(checkDatabase(arguments.at(1))));
+                return QStringLiteral("%1: %2\n")
+                    .arg(shown(arguments.at(1)), counted(checkDatabase(arguments.at(1))));
             }},
     Command{"check", 1,
             [](const QStringList& arguments, int) {
-                return QStringLiteral("%1: ok, %2")
-                    .arg(shown(arguments.at(0)), counted(checkDatabase(arguments.at(0))));
+                return ToolText::tr("%1: ok, %2")
+                           .arg(shown(arguments.at(0)), counted(checkDatabase(arguments.at(0)))) +
+                       u'\n';
             }},
     Command{"show", 2,
             [](const QStringList& arguments, int language) {
@@ -65,28 +72,28 @@ const std::array commands{
 /// Runs the command line.
 void run(StandardOutput& output)
 {
-    const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
+    const QCommandLineOption helpOption(QStringList{QStringLiteral("h"), QStringLiteral("help")});
     const QCommandLineOption languageOption(QStringLiteral("language"), {}, QStringLiteral("TAG"));
     QCommandLineParser parser;
-    parser.addOptions({help, languageOption});
+    parser.addOptions({helpOption, languageOption});
     if (!parser.parse(QCoreApplication::arguments()))
         throw wrongUsage(parser.errorText());
-    if (parser.isSet(help)) {
-        output.write(QString::fromLatin1(usage));
+    if (parser.isSet(helpOption)) {
+        output.write(help());
         return;
     }
 
     QStringList arguments = parser.positionalArguments();
     if (arguments.isEmpty())
-        throw wrongUsage(QStringLiteral("expected build, check or show"));
+        throw wrongUsage(ToolText::tr("expected build, check or show"));
     const QString name = arguments.takeFirst();
     const auto* const command = std::ranges::find_if(
         commands, [&name](const Command& each) { return name == QLatin1String(each.name); });
     if (command == commands.end())
         throw wrongUsage(
-            QStringLiteral("unknown command \"%1\"; expected build, check or show").arg(name));
+            ToolText::tr("unknown command \"%1\"; expected build, check or show").arg(name));
     if (arguments.size() != command->arguments)
-        throw wrongUsage(QStringLiteral("%1 takes %2 arguments, not %3")
+        throw wrongUsage(ToolText::tr("%1 takes %2 arguments, not %3")
                              .arg(name)
                              .arg(command->arguments)
                              .arg(arguments.size()));
@@ -94,7 +101,7 @@ void run(StandardOutput& output)
         parser.isSet(languageOption) ? parser.value(languageOption) : QStringLiteral("en");
     const std::optional<int> language = languageNumber(tag);
     if (!language)
-        throw wrongUsage(QStringLiteral("\"%1\" is not a known language").arg(tag));
+        throw wrongUsage(ToolText::tr("\"%1\" is not a known language").arg(tag));
     output.write(command->run(arguments, *language));
 }
 
@@ -104,5 +111,6 @@ int main(int argc, char* argv[])
 {
     StandardOutput output("rolldb");
     const QCoreApplication application(argc, argv);
+    ToolText::useLanguageOfUser();
     return runTool(output, [&output] { run(output); });
 }

@@ -5,6 +5,8 @@
 #include "database_check.h"
 #include "failure.h"
 #include "shown_text.h"
+#include "text_layout.h"
+#include "tool_text.h"
 
 #include <vxsupplydatabase.h>
 
@@ -13,25 +15,36 @@ namespace {
 class Report
 {
 public:
-    void line(const char* label, const QString& value)
-    {
-        m_text += QStringLiteral("%1 %2\n").arg(QLatin1String(label) + u':', -16).arg(shown(value));
-    }
-    void inches(const char* label, double value)
+    void line(const QString& label, const QString& value) { m_lines.append({label + u':', value}); }
+    void inches(const QString& label, double value)
     {
         if (value >= 0.0)
             line(label, QStringLiteral("%1 in").arg(value));
     }
-    void colour(const char* label, int rgb, const QString& name)
+    void colour(const QString& label, int rgb, const QString& name)
     {
         if (rgb >= 0)
             line(label, QStringLiteral("#%1 %2").arg(rgb, 6, 16, QLatin1Char('0')).arg(name));
     }
 
-    QString text() const { return m_text; }
+    QString text() const
+    {
+        qsizetype labelWidth = 16;
+        for (const Line& line : m_lines)
+            labelWidth = std::max(labelWidth, text_layout::width(line.label));
+        QString text;
+        for (const Line& line : m_lines)
+            text += text_layout::padded(line.label, labelWidth + 1) + shown(line.value) + u'\n';
+        return text;
+    }
 
 private:
-    QString m_text;
+    struct Line
+    {
+        QString label;
+        QString value;
+    };
+    QList<Line> m_lines;
 };
 
 QString numbered(int number, const QString& name)
@@ -42,31 +55,33 @@ QString numbered(int number, const QString& name)
 QString supplyReport(const VXSupplyDatabase& database, const QString& sku)
 {
     Report report;
-    report.line("supply", sku);
-    report.line("material",
+    report.line(ToolText::tr("supply"), sku);
+    report.line(ToolText::tr("material"),
                 numbered(database.supplyMaterial(sku), database.supplyMaterialName(sku)));
-    report.line("format", numbered(database.supplyFormat(sku), database.supplyFormatName(sku)));
-    report.line("type", database.supplyFormatType(sku));
-    report.colour("colour", database.supplyColorRGB(sku), database.supplyColorName(sku));
-    report.colour("second colour", database.supplySecColorRGB(sku),
+    report.line(ToolText::tr("format"),
+                numbered(database.supplyFormat(sku), database.supplyFormatName(sku)));
+    report.line(ToolText::tr("type"), database.supplyFormatType(sku));
+    report.colour(ToolText::tr("colour"), database.supplyColorRGB(sku),
+                  database.supplyColorName(sku));
+    report.colour(ToolText::tr("second colour"), database.supplySecColorRGB(sku),
                   database.supplySecColorName(sku));
-    report.inches("stripe", database.supplySecColorWidth(sku));
-    report.inches("width", database.supplyWidth(sku));
-    report.inches("length", database.supplyLength(sku));
-    report.inches("label length", database.supplyNonContinuousLength(sku));
-    report.inches("separator", database.supplySeparatorWidth(sku));
-    report.line("landscape", database.supplyIsLandscape(sku) != 0 ? QStringLiteral("yes")
-                                                                  : QStringLiteral("no"));
-    report.line("side by side", QString::number(database.supplyMultiUpCount(sku)));
-    report.inches("gap", database.supplyMultiUpGapSize(sku));
-    report.line("background",
-                QStringLiteral("%1 bytes").arg(database.supplyBackgroundImage(sku).size()));
+    report.inches(ToolText::tr("stripe"), database.supplySecColorWidth(sku));
+    report.inches(ToolText::tr("width"), database.supplyWidth(sku));
+    report.inches(ToolText::tr("length"), database.supplyLength(sku));
+    report.inches(ToolText::tr("label length"), database.supplyNonContinuousLength(sku));
+    report.inches(ToolText::tr("separator"), database.supplySeparatorWidth(sku));
+    report.line(ToolText::tr("landscape"),
+                database.supplyIsLandscape(sku) != 0 ? ToolText::tr("yes") : ToolText::tr("no"));
+    report.line(ToolText::tr("side by side"), QString::number(database.supplyMultiUpCount(sku)));
+    report.inches(ToolText::tr("gap"), database.supplyMultiUpGapSize(sku));
+    report.line(ToolText::tr("background"),
+                ToolText::tr("%1 bytes").arg(database.supplyBackgroundImage(sku).size()));
     for (const QString& ribbon : database.supplyRibbonSKUList()) {
         for (int panel = 1; panel <= database.supplyRibbonPanels(ribbon); ++panel) {
             const int heat = database.supplyRibbonHeat(ribbon, panel, sku);
             if (heat >= 0)
-                report.line("printed with",
-                            QStringLiteral("%1 panel %2: heat %3, offset %4, speed %5, tension %6")
+                report.line(ToolText::tr("printed with"),
+                            ToolText::tr("%1 panel %2: heat %3, offset %4, speed %5, tension %6")
                                 .arg(ribbon)
                                 .arg(panel)
                                 .arg(heat)
@@ -81,12 +96,12 @@ QString supplyReport(const VXSupplyDatabase& database, const QString& sku)
 QString ribbonReport(const VXSupplyDatabase& database, const QString& sku)
 {
     Report report;
-    report.line("ribbon", sku);
-    report.line("type", database.supplyRibbonType(sku));
-    report.inches("width", database.supplyRibbonWidth(sku));
-    report.inches("length", database.supplyRibbonLength(sku));
+    report.line(ToolText::tr("ribbon"), sku);
+    report.line(ToolText::tr("type"), database.supplyRibbonType(sku));
+    report.inches(ToolText::tr("width"), database.supplyRibbonWidth(sku));
+    report.inches(ToolText::tr("length"), database.supplyRibbonLength(sku));
     for (int panel = 1; panel <= database.supplyRibbonPanels(sku); ++panel)
-        report.colour("panel", database.supplyRibbonColorRGB(sku, panel),
+        report.colour(ToolText::tr("panel"), database.supplyRibbonColorRGB(sku, panel),
                       database.supplyRibbonColorName(sku, panel));
     return report.text();
 }
@@ -103,5 +118,5 @@ QString skuReport(const QString& path, const QString& sku, int language)
         return supplyReport(database, sku);
     if (database.supplyRibbonPanels(sku) > 0)
         return ribbonReport(database, sku);
-    throw Failure(QStringLiteral("%1: no supply or ribbon \"%2\"").arg(path, sku));
+    throw Failure(ToolText::tr("%1: no supply or ribbon \"%2\"").arg(path, sku));
 }

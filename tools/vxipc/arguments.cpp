@@ -3,6 +3,7 @@
 #include "arguments.h"
 
 #include "failure.h"
+#include "tool_text.h"
 
 #include <QtCore/QJsonDocument>
 
@@ -86,7 +87,8 @@ QString signature(const QJsonObject& method)
         const QString text =
             QStringLiteral("%1: %2").arg(parameter[QStringLiteral("name")].toString(),
                                          parameter[QStringLiteral("x-type")].toString());
-        parameters.append(parameter[QStringLiteral("required")].toBool()
+        // The arguments of a signal are always there.
+        parameters.append(parameter[QStringLiteral("required")].toBool(true)
                               ? text
                               : QStringLiteral("[%1]").arg(text));
     }
@@ -115,8 +117,8 @@ QJsonArray readArguments(const QString& endpoint, const QJsonObject& service, co
     }
     if (best)
         return *best;
-    const QString reason = signatures.isEmpty() ? QStringLiteral("there is no method %1").arg(name)
-                                                : QStringLiteral("the arguments do not fit %1")
-                                                      .arg(signatures.join(QStringLiteral(" or ")));
+    const QString reason = signatures.isEmpty() ? ToolText::tr("there is no method %1").arg(name)
+                                                : ToolText::tr("the arguments do not fit %1")
+                                                      .arg(signatures.join(ToolText::tr(" or ")));
     throw Failure(QStringLiteral("%1: %2").arg(endpoint, reason));
 }

@@ -17,5 +17,5 @@ QJsonArray readArguments(const QString& endpoint, const QJsonObject& service, co
                          const QStringList& texts);
 
 /// How to call a method of the document: "name(argument: type, [argument: type])", with optional
-/// arguments in brackets.
+/// arguments in brackets. For a signal what it carries, in the same form.
 QString signature(const QJsonObject& method);

@@ -7,16 +7,21 @@
 #include "ipc_names.h"
 #include "json_text.h"
 #include "shown_text.h"
+#include "tool_text.h"
 #include "vxipcclient.h"
 
+#include <QtCore/QEventLoop>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 #include <QtCore/QRegularExpression>
+#include <QtCore/QTimer>
 
 #include <algorithm>
 #include <array>
 #include <limits>
 #include <optional>
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -26,7 +31,8 @@ struct Service
     int serverType;
 };
 
-constexpr std::array services = {Service{"supplyd", 0}, Service{"m4", 1}, Service{"printqd", 2}};
+constexpr std::array services = {Service{"supplyd", 0}, Service{"m4", 1}, Service{"printqd", 2},
+                                 Service{"status", 3}};
 
 void printLine(StandardOutput& output, const QString& line)
 {
@@ -139,9 +145,10 @@ QString requireEndpoint(const QString& service)
 {
     const std::optional<QString> name = endpointName(service);
     if (!name)
-        throw wrongUsage(QStringLiteral("unknown service \"%1\"; expected supplyd, m4, printqd, a "
-                                        "number or a name printed by list")
-                             .arg(service));
+        throw wrongUsage(
+            ToolText::tr("unknown service \"%1\"; expected supplyd, m4, printqd, status, a "
+                         "number or a name printed by list")
+                .arg(service));
     return *name;
 }
 
@@ -161,6 +168,9 @@ void describe(const QStringList& words, const Options& options, StandardOutput& 
                       .arg(signature(method.toObject()),
                            method[QStringLiteral("result")][QStringLiteral("x-type")].toString()));
     }
+    for (const QJsonArray each = service[QStringLiteral("x-signals")].toArray();
+         const QJsonValue& signal : each)
+        printLine(output, QStringLiteral("signal %1").arg(signature(signal.toObject())));
 }
 
 void call(const QStringList& words, const Options& options, StandardOutput& output)
@@ -179,6 +189,70 @@ void call(const QStringList& words, const Options& options, StandardOutput& outp
         printPlain(output, result);
 }
 
+/// All signals of the endpoint.
+QStringList signalsOf(VXIPCClient& client, const Options& options)
+{
+    QStringList names;
+    const QJsonValue service = resultOf(discover(client, options), client.serverName());
+    for (const QJsonArray each = service[QStringLiteral("x-signals")].toArray();
+         const QJsonValue& signal : each)
+        names.append(signal[QStringLiteral("name")].toString());
+    names.removeDuplicates();
+    if (names.isEmpty())
+        throw Failure(ToolText::tr("%1: it has no signals").arg(client.serverName()));
+    return names;
+}
+
+void watch(const QStringList& words, const Options& options, StandardOutput& output)
+{
+    const QString endpoint = requireEndpoint(words.at(0));
+    VXIPCClient client(endpoint);
+    client.setTimeout(options.timeout);
+    const QStringList names = words.size() > 1 ? words.mid(1) : signalsOf(client, options);
+
+    QEventLoop loop;
+    std::optional<Failure> failure;
+    const auto fail = [&](const QString& reason) {
+        failure = Failure(QStringLiteral("%1: %2").arg(endpoint, reason));
+        loop.quit();
+    };
+    QObject::connect(
+        &client, &VXIPCClient::notificationReceived, &loop,
+        [&](const QString& signalName, const QJsonObject& arguments) {
+            output.write(
+                json_text::object({{QStringLiteral("signal"), json_text::value(signalName)},
+                                   {QStringLiteral("arguments"), json_text::value(arguments)}}) +
+                QLatin1Char('\n'));
+            if (output.isOver())
+                loop.quit();
+        });
+    QObject::connect(&client, &VXIPCClient::disconnected, &loop, [&] {
+        output.complain(
+            ToolText::tr("%1: the connection ended; waiting for the endpoint").arg(endpoint));
+    });
+    QObject::connect(&client, &VXIPCClient::resubscribed, &loop, [&] {
+        output.complain(
+            ToolText::tr("%1: watching again; what changed meanwhile was missed").arg(endpoint));
+    });
+    QObject::connect(&client, &VXIPCClient::subscriptionLost, &loop, fail);
+    client.subscribe(names, [&](const VXIPCReply& reply) {
+        if (!reply.isOk())
+            fail(reply.error->message);
+    });
+    // Nothing else tells that the reader has closed the pipe while there is nothing to print.
+    QTimer clock;
+    QObject::connect(&clock, &QTimer::timeout, &loop, [&] {
+        if (output.isOver())
+            loop.quit();
+    });
+    clock.start(50ms);
+    if (options.watchTime)
+        QTimer::singleShot(*options.watchTime, &loop, &QEventLoop::quit);
+    loop.exec();
+    if (failure)
+        throw Failure(*failure);
+}
+
 struct Command
 {
     const char* name;
@@ -189,28 +263,32 @@ struct Command
 };
 
 constexpr std::array commands{
-    Command{"list", "no arguments", 0, 0, list},
-    Command{"describe", "a SERVICE", 1, 1, describe},
-    Command{"call", "a SERVICE, a METHOD and its arguments", 2,
+    Command{"list", QT_TRANSLATE_NOOP("tools", "no arguments"), 0, 0, list},
+    Command{"describe", QT_TRANSLATE_NOOP("tools", "a SERVICE"), 1, 1, describe},
+    Command{"call", QT_TRANSLATE_NOOP("tools", "a SERVICE, a METHOD and its arguments"), 2,
             std::numeric_limits<qsizetype>::max(), call},
+    Command{"watch", QT_TRANSLATE_NOOP("tools", "a SERVICE and SIGNALs"), 1,
+            std::numeric_limits<qsizetype>::max(), watch},
 };
 
 } // namespace
 
 void runCommand(const QStringList& words, const Options& options, StandardOutput& output)
 {
-    const QString expected = QStringLiteral("expected list, describe or call");
+    const QString expected = ToolText::tr("expected list, describe, call or watch");
     if (words.isEmpty())
         throw wrongUsage(expected);
     const QString& name = words.first();
     const auto command = std::ranges::find_if(
         commands, [&name](const Command& each) { return name == QLatin1String(each.name); });
     if (command == commands.end())
-        throw wrongUsage(QStringLiteral("unknown command \"%1\"; %2").arg(name, expected));
+        throw wrongUsage(ToolText::tr("unknown command \"%1\"; %2").arg(name, expected));
     const QStringList arguments = words.mid(1);
     if (arguments.size() < command->fewestArguments || arguments.size() > command->mostArguments)
         throw wrongUsage(
-            QStringLiteral("%1 takes %2")
-                .arg(QString::fromLatin1(command->name), QString::fromLatin1(command->expected)));
+            ToolText::tr("%1 takes %2")
+                .arg(QString::fromLatin1(command->name), ToolText::tr(command->expected)));
+    if (options.watchTime && name != QLatin1String("watch"))
+        throw wrongUsage(ToolText::tr("%1 takes no --for").arg(name));
     command->run(arguments, options, output);
 }

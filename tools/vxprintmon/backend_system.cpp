@@ -3,6 +3,7 @@
 #include "backend.h"
 
 #include "failure.h"
+#include "tool_text.h"
 
 #include <QtCore/QTimer>
 
@@ -29,7 +30,6 @@ private:
 std::unique_ptr<Backend> Backend::create(const CommandLine& line)
 {
     if (!line.fleetFile.isEmpty())
-        throw wrongUsage(
-            QStringLiteral("--virtual: this build uses the system's own print spooler"));
+        throw wrongUsage(ToolText::tr("--virtual: this build uses the system's own print spooler"));
     return std::make_unique<SystemBackend>();
 }

@@ -4,6 +4,8 @@
 
 #include "commands.h"
 #include "failure.h"
+#include "text_layout.h"
+#include "tool_text.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
@@ -23,68 +25,71 @@ struct Option
     CommandOptions required{}; ///< what a command must accept for this option to be valid with it
 };
 
-constexpr Option jsonOption{"json", "", "print JSON: an array, or one object per line"};
-constexpr Option forOption{"for", "SECONDS",
-                           "watch: stop after SECONDS; by default, when interrupted",
-                           CommandOption::For};
-constexpr Option logOption{"log", "FILE", "append the library's log to FILE"};
-constexpr Option virtualOption{"virtual", "FILE", "use the virtual printers that FILE describes"};
-constexpr Option speedOption{"speed", "FACTOR",
-                             "watch: speed up the virtual printers' story by FACTOR",
-                             CommandOption::Speed};
-constexpr Option waitOption{"wait", "", "send: wait until the job has left the queue",
-                            CommandOption::Wait};
-constexpr Option forceOption{"force", "", "send: also to a printer of another maker, also nothing",
-                             CommandOption::Force};
-constexpr Option helpOption{"help", "", "print this help"};
-constexpr Option versionOption{"version", "", "print the version"};
+constexpr Option jsonOption{
+    "json", "", QT_TRANSLATE_NOOP("tools", "print JSON: an array, or one object per line")};
+constexpr Option forOption{
+    "for", "SECONDS",
+    QT_TRANSLATE_NOOP("tools", "watch: stop after SECONDS; by default, when interrupted"),
+    CommandOption::For};
+constexpr Option logOption{"log", "FILE",
+                           QT_TRANSLATE_NOOP("tools", "append the library's log to FILE")};
+constexpr Option virtualOption{
+    "virtual", "FILE", QT_TRANSLATE_NOOP("tools", "use the virtual printers that FILE describes")};
+constexpr Option speedOption{
+    "speed", "FACTOR",
+    QT_TRANSLATE_NOOP("tools", "watch: speed up the virtual printers' story by FACTOR"),
+    CommandOption::Speed};
+constexpr Option allOption{
+    "all", "", QT_TRANSLATE_NOOP("tools", "title: all codes, with what they mean and what to do"),
+    CommandOption::All};
+constexpr Option waitOption{
+    "wait", "",
+    QT_TRANSLATE_NOOP("tools", "send: wait until the job was printed or has left the queue"),
+    CommandOption::Wait};
+constexpr Option forceOption{
+    "force", "",
+    QT_TRANSLATE_NOOP("tools", "send: also to a printer of another maker, also nothing"),
+    CommandOption::Force};
+constexpr Option helpOption{"help", "", QT_TRANSLATE_NOOP("tools", "print this help")};
+constexpr Option versionOption{"version", "", QT_TRANSLATE_NOOP("tools", "print the version")};
 
-constexpr std::array options{jsonOption, forOption,   logOption,  virtualOption, speedOption,
-                             waitOption, forceOption, helpOption, versionOption};
-
-constexpr char helpBegin[] = R"(Usage: vxprintmon COMMAND [OPTION]...
-
-Lists and watches the label printers of the print spooler.
-
-Commands:
-)";
-
-constexpr char helpEnd[] = R"(
-status waits until every printer that it shows has reported and 0.1 seconds have
-passed without another report, but no longer than 2 seconds. It then spends up
-to half a second more on reports that have arrived by that time.
-
-The names of colours and materials come from the file roll.db beside this
-program. Only the Windows build sees the printers of the system; any other build
-has virtual printers only, by default a fleet of six.
-
-Colours are omitted if the output is not a terminal or NO_COLOR is set.
-Characters that could control the terminal are shown as \u001b and the like.
-
-Exit status: 0 success, 1 failure, 2 wrong usage. Failing to write the output
-is a failure, unless the reader has closed the pipe.
-)";
-
-QString helpRow(const QString& left, const char* summary)
-{
-    constexpr int leftWidth = 23;
-    return QStringLiteral("  %1%2\n")
-        .arg(left.leftJustified(leftWidth), QString::fromLatin1(summary));
-}
+constexpr std::array options{jsonOption, forOption,  logOption,   virtualOption, speedOption,
+                             allOption,  waitOption, forceOption, helpOption,    versionOption};
 
 QString help()
 {
-    QString text = QString::fromLatin1(helpBegin);
+    using text_layout::paragraph;
+    QList<text_layout::Row> commandRows;
     for (const Command& command : commands())
-        text += helpRow(QStringLiteral("%1 %2").arg(QString::fromLatin1(command.name),
-                                                    QString::fromLatin1(command.arguments)),
-                        command.summary);
-    text += QStringLiteral("\nOptions:\n");
+        commandRows.append({QStringLiteral("%1 %2").arg(QString::fromLatin1(command.name),
+                                                        QString::fromLatin1(command.arguments)),
+                            ToolText::tr(command.summary)});
+    QList<text_layout::Row> optionRows;
     for (const Option& option : options)
-        text += helpRow(QStringLiteral("--%1 %2").arg(QString::fromLatin1(option.name),
-                                                      QString::fromLatin1(option.value)),
-                        option.summary);
-    return text + QString::fromLatin1(helpEnd);
+        optionRows.append({QStringLiteral("--%1 %2").arg(QString::fromLatin1(option.name),
+                                                         QString::fromLatin1(option.value)),
+                           ToolText::tr(option.summary)});
+    const QChar newLine = u'\n';
+    return ToolText::tr("Usage: %1").arg(QStringLiteral("vxprintmon COMMAND [OPTION]...")) +
+           newLine + newLine +
+           paragraph(ToolText::tr("Lists and watches the label printers of the print spooler.")) +
+           newLine + ToolText::tr("Commands:") + newLine + text_layout::rows(commandRows) +
+           newLine + ToolText::tr("Options:") + newLine + text_layout::rows(optionRows) + newLine +
+           paragraph(ToolText::tr(
+               "status waits until every printer that it shows has reported and 0.1 seconds have "
+               "passed without another report, but no longer than 2 seconds. It then spends up to "
+               "half a second more on reports that have arrived by that time.")) +
+           newLine +
+           paragraph(ToolText::tr(
+               "The names of colours and materials come from the file roll.db beside this program. "
+               "Only the Windows build sees the printers of the system; any other build has "
+               "virtual "
+               "printers only, by default a fleet of six.")) +
+           newLine +
+           paragraph(ToolText::tr(
+               "Colours are omitted if the output is not a terminal or NO_COLOR is set. Characters "
+               "that could control the terminal are shown as \\u001b and the like.")) +
+           newLine + paragraph(ToolText::exitStatusHelp());
 }
 
 /// The names of the commands that accept all of `required`.
@@ -120,7 +125,9 @@ public:
                                                   QString::fromLatin1(option.value)));
         if (!m_parser.parse(withCodeLast(arguments))) {
             const QString error = m_parser.errorText();
-            throw wrongUsage(error.endsWith(QLatin1Char('.')) ? error.chopped(1) : error);
+            const bool isSentence =
+                error.endsWith(QLatin1Char('.')) || error.endsWith(QChar(0x3002));
+            throw wrongUsage(isSentence ? error.chopped(1) : error);
         }
     }
 
@@ -134,7 +141,7 @@ public:
         const QString name = m_parser.value(QString::fromLatin1(option.name));
         if (has(option) && name.isEmpty())
             throw wrongUsage(
-                QStringLiteral("--%1: expected a file name").arg(QString::fromLatin1(option.name)));
+                ToolText::tr("--%1: expected a file name").arg(QString::fromLatin1(option.name)));
         return name;
     }
     std::optional<double> positiveNumber(const Option& option) const
@@ -148,7 +155,7 @@ public:
         const double number = text.toDouble(&isNumber);
         if (!isNumber || !std::isfinite(number) || number <= 0 || number > largest)
             throw wrongUsage(
-                QStringLiteral("--%1: expected a number above 0 and up to 1000000, found \"%2\"")
+                ToolText::tr("--%1: expected a number above 0 and up to 1000000, found \"%2\"")
                     .arg(QString::fromLatin1(option.name), text));
         return number;
     }
@@ -164,7 +171,7 @@ const Command& commandNamed(const QString& name)
         all, [&](const Command& each) { return name == QLatin1String(each.name); });
     if (command == all.end())
         throw wrongUsage(
-            QStringLiteral("unknown command \"%1\"; expected one of %2").arg(name, commandNames()));
+            ToolText::tr("unknown command \"%1\"; expected one of %2").arg(name, commandNames()));
     return *command;
 }
 
@@ -173,14 +180,12 @@ void check(const Command& command, const QStringList& arguments)
     if (arguments.size() < command.fewestArguments || arguments.size() > command.mostArguments) {
         const QString found =
             arguments.isEmpty()
-                ? QStringLiteral("nothing")
+                ? ToolText::tr("nothing")
                 : QStringLiteral("\"%1\"").arg(arguments.join(QStringLiteral("\" \"")));
-        throw wrongUsage(QStringLiteral("%1 takes %2, found %3")
-                             .arg(QString::fromLatin1(command.name),
-                                  QString::fromLatin1(command.expected), found));
+        throw wrongUsage(
+            ToolText::tr("%1 takes %2, found %3")
+                .arg(QString::fromLatin1(command.name), ToolText::tr(command.expected), found));
     }
-    if (command.check)
-        command.check(arguments);
 }
 
 } // namespace
@@ -201,7 +206,7 @@ CommandLine parseCommandLine(const QStringList& arguments)
 
     line.arguments = given.words();
     if (line.arguments.isEmpty())
-        throw wrongUsage(QStringLiteral("expected a command: ") + commandNames());
+        throw wrongUsage(ToolText::tr("expected a command: %1").arg(commandNames()));
     const Command& command = commandNamed(line.arguments.takeFirst());
     check(command, line.arguments);
     line.command = &command;
@@ -212,12 +217,15 @@ CommandLine parseCommandLine(const QStringList& arguments)
     for (const Option& option : options) {
         if (given.has(option) && (command.options & option.required) != option.required)
             throw wrongUsage(
-                QStringLiteral("--%1 is valid only with %2")
+                ToolText::tr("--%1 is valid only with %2")
                     .arg(QString::fromLatin1(option.name), commandNames(option.required)));
     }
     line.wait = given.has(waitOption);
     line.force = given.has(forceOption);
     line.seconds = given.positiveNumber(forOption);
     line.speed = given.positiveNumber(speedOption).value_or(line.speed);
+    line.all = given.has(allOption);
+    if (command.check)
+        command.check(line);
     return line;
 }

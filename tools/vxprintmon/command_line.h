@@ -21,6 +21,7 @@ struct CommandLine
     bool wait = false;             ///< for the end of the print job
     bool force = false;            ///< send what would be refused
     double speed = 1;              ///< of the virtual printers' story
+    bool all = false;              ///< of title
 };
 
 /// Throws `Failure` if the arguments are wrong.

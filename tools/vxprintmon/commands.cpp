@@ -7,33 +7,37 @@
 std::span<const Command> commands()
 {
     static constexpr std::array table{
-        Command{
-            .name = "list", .summary = "list the printers of the print spooler", .run = runList},
+        Command{.name = "list",
+                .summary = QT_TRANSLATE_NOOP("tools", "list the printers of the print spooler"),
+                .run = runList},
         Command{.name = "watch",
-                .summary = "print a line for each change to the label printers",
+                .summary = QT_TRANSLATE_NOOP("tools",
+                                             "print a line for each change to the label printers"),
                 .run = runWatch,
                 .options = {CommandOption::For, CommandOption::Speed}},
         Command{.name = "status",
-                .summary = "show the status of all label printers, or of one",
+                .summary =
+                    QT_TRANSLATE_NOOP("tools", "show the status of all label printers, or of one"),
                 .run = runStatus,
                 .arguments = "[PRINTER]",
-                .expected = "at most one printer",
+                .expected = QT_TRANSLATE_NOOP("tools", "at most one printer"),
                 .mostArguments = 1},
         Command{.name = "send",
-                .summary = "send a command in the printer's own language",
+                .summary =
+                    QT_TRANSLATE_NOOP("tools", "send a command in the printer's own language"),
                 .run = runSend,
                 .arguments = "PRINTER COMMAND",
-                .expected = "a printer and a command",
+                .expected = QT_TRANSLATE_NOOP("tools", "a printer and a command"),
                 .fewestArguments = 2,
                 .mostArguments = 2,
                 .options = {CommandOption::Wait, CommandOption::Force}},
         Command{.name = "title",
-                .summary = "print the title of a status code",
+                .summary = QT_TRANSLATE_NOOP("tools", "print the title of a status code"),
                 .run = runTitle,
                 .arguments = "CODE",
-                .expected = "a status code",
-                .fewestArguments = 1,
+                .expected = QT_TRANSLATE_NOOP("tools", "a status code or --all"),
                 .mostArguments = 1,
+                .options = {CommandOption::All},
                 .check = checkTitle},
     };
     return table;

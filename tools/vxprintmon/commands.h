@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include "tool_text.h"
+
 #include <QtCore/QFlags>
 #include <QtCore/QStringList>
 
@@ -16,8 +18,9 @@ enum class CommandOption
 {
     For = 1,
     Speed = 2,
-    Wait = 4,
-    Force = 8,
+    All = 4,
+    Wait = 8,
+    Force = 16,
 };
 Q_DECLARE_FLAGS(CommandOptions, CommandOption)
 
@@ -29,13 +32,15 @@ struct Command
     const char* summary; ///< for the help
     /// Throws `Failure` if the command cannot be carried out.
     void (*run)(const CommandLine& line, Output& output, Backend& backend);
-    const char* arguments = "";            ///< as the help shows them
-    const char* expected = "no arguments"; ///< the arguments as error messages describe them
+    const char* arguments = ""; ///< as the help shows them
+    const char* expected = QT_TRANSLATE_NOOP(
+        "tools", "no arguments"); ///< the arguments as error messages describe them
     qsizetype fewestArguments = 0;
     qsizetype mostArguments = 0;
     CommandOptions options{};
-    /// Throws `Failure` if an argument is wrong. Null: every text is accepted.
-    void (*check)(const QStringList& arguments) = nullptr;
+    /// Throws `Failure` if an argument is wrong, or does not go with an option. Null: every text is
+    /// accepted.
+    void (*check)(const CommandLine& line) = nullptr;
 };
 
 std::span<const Command> commands();
@@ -45,4 +50,4 @@ void runWatch(const CommandLine& line, Output& output, Backend& backend);
 void runStatus(const CommandLine& line, Output& output, Backend& backend);
 void runSend(const CommandLine& line, Output& output, Backend& backend);
 void runTitle(const CommandLine& line, Output& output, Backend& backend);
-void checkTitle(const QStringList& arguments);
+void checkTitle(const CommandLine& line);

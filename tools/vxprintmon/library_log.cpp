@@ -3,6 +3,7 @@
 #include "library_log.h"
 
 #include "failure.h"
+#include "tool_text.h"
 
 #include <ConsoleAppender.h>
 #include <FileAppender.h>
@@ -30,6 +31,6 @@ void setUpLibraryLog(const QString& fileName)
     QFile file(fileName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append))
         throw Failure(
-            QStringLiteral("cannot write the log %1: %2").arg(fileName, file.errorString()));
+            ToolText::tr("cannot write the log %1: %2").arg(fileName, file.errorString()));
     add(new FileAppender(fileName), Logger::Debug);
 }

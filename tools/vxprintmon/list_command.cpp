@@ -7,6 +7,7 @@
 #include "output.h"
 
 #include "printer_types.h"
+#include "tool_text.h"
 #include "windows_printer_info.h"
 
 #include <QtCore/QMetaEnum>
@@ -21,7 +22,7 @@ QString modelName(PrinterType type)
     case PrinterType::Unknown:
         return QStringLiteral("-");
     case PrinterType::Generic:
-        return QStringLiteral("other");
+        return ToolText::tr("other");
     default:
         return QString::fromLatin1(
             QMetaEnum::fromType<PrinterType>().valueToKey(static_cast<int>(type)));
@@ -48,15 +49,15 @@ Cell flags(const AvailablePrinters& printer, bool isDefault)
 {
     QStringList words;
     if (isDefault)
-        words.append(QStringLiteral("default"));
+        words.append(ToolText::tr("default"));
     if (printer.isNetworkPrinter)
-        words.append(QStringLiteral("network"));
+        words.append(ToolText::tr("network"));
     if (printer.isShared)
-        words.append(QStringLiteral("shared"));
+        words.append(ToolText::tr("shared"));
     if (!WindowsPrinterInfo::isPrinterAdmin(printer.printerName))
-        words.append(QStringLiteral("not managed"));
+        words.append(ToolText::tr("not managed"));
     if (printer.isOffline)
-        words.append(QStringLiteral("offline"));
+        words.append(ToolText::tr("offline"));
     return {words.join(QStringLiteral(", ")), printer.isOffline ? Colour::Bad : Colour::None};
 }
 
@@ -73,8 +74,8 @@ void runList(const CommandLine& line, Output& output, Backend& /*backend*/)
         return;
     }
     if (printers.isEmpty()) {
-        output.text(
-            QStringLiteral("There are no printers, or the print spooler is not running.\n"));
+        output.text(ToolText::tr("There are no printers, or the print spooler is not running.") +
+                    QLatin1Char('\n'));
         return;
     }
 
@@ -92,7 +93,7 @@ void runList(const CommandLine& line, Output& output, Backend& /*backend*/)
             flags(printer, printer.printerName == defaultPrinter),
         });
     }
-    output.table({QStringLiteral("PRINTER"), QStringLiteral("MODEL"), QStringLiteral("PORT"),
-                  QStringLiteral("SERIAL"), QStringLiteral("DRIVER"), QStringLiteral("FLAGS")},
+    output.table({ToolText::tr("PRINTER"), ToolText::tr("MODEL"), ToolText::tr("PORT"),
+                  ToolText::tr("SERIAL"), ToolText::tr("DRIVER"), ToolText::tr("FLAGS")},
                  rows);
 }

@@ -6,10 +6,9 @@
 #include "failure.h"
 #include "library_log.h"
 #include "output.h"
+#include "tool_text.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QLocale>
-#include <QtCore/QTranslator>
 
 namespace {
 
@@ -36,11 +35,7 @@ int main(int argc, char* argv[])
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vxprintmon"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VX_VERSION));
-    // The titles appear in the language in which the library gives the names of colours.
-    QTranslator titles;
-    if (titles.load(QLocale::system(), QStringLiteral("vxprinterstatus"), QStringLiteral("_"),
-                    QStringLiteral(":/vxprinterstatus/translations")))
-        QCoreApplication::installTranslator(&titles);
+    ToolText::useLanguageOfUser();
 
     return runTool(standardOutput, [&] {
         Output output(standardOutput);

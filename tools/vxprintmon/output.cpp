@@ -4,6 +4,7 @@
 
 #include "shown_text.h"
 #include "terminal.h"
+#include "text_layout.h"
 
 #include <QtCore/QtGlobal>
 #include <QtGui/QColor>
@@ -45,9 +46,7 @@ const QString sampleBlock = QStringLiteral("\u2588\u2588 ");
 Output::Output(StandardOutput& stream)
     : m_stream(stream)
     , m_hasColours(wantsColours())
-{
-    terminal::useUtf8();
-}
+{}
 
 QString Output::sampleOf(const Cell& cell) const
 {
@@ -63,7 +62,8 @@ QString Output::sampleOf(const Cell& cell) const
 
 qsizetype Output::widthOf(const Cell& cell) const
 {
-    return shown(cell.text).size() + (sampleOf(cell).isEmpty() ? 0 : sampleBlock.size());
+    return text_layout::width(shown(cell.text)) +
+           (sampleOf(cell).isEmpty() ? 0 : sampleBlock.size());
 }
 
 QString Output::coloured(const Cell& cell, qsizetype width) const
@@ -96,13 +96,18 @@ void Output::table(const QStringList& heading, const QList<QList<Cell>>& rows)
         first.append({title, Colour::Heading});
     all += rows;
 
-    QList<qsizetype> widths(heading.size(), 0);
-    for (const QList<Cell>& row : std::as_const(all)) {
+    this->rows(all);
+}
+
+void Output::rows(const QList<QList<Cell>>& rows)
+{
+    QList<qsizetype> widths(rows.value(0).size(), 0);
+    for (const QList<Cell>& row : rows) {
         for (qsizetype column = 0; column < row.size(); ++column)
             widths[column] = std::max(widths.at(column), widthOf(row.at(column)));
     }
     QString text;
-    for (const QList<Cell>& row : std::as_const(all)) {
+    for (const QList<Cell>& row : rows) {
         for (qsizetype column = 0; column < row.size(); ++column) {
             const bool isLast = column == row.size() - 1;
             text += coloured(row.at(column), isLast ? 0 : widths.at(column) + 2);

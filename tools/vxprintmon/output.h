@@ -37,7 +37,9 @@ public:
     void line(const QList<Cell>& cells);
     /// Writes text as it is: the tool's own, or JSON.
     void text(const QString& text);
-    /// Writes rows under a heading. Each column is as wide as its widest cell.
+    /// Writes rows of equally many cells. Each column is as wide as its widest cell.
+    void rows(const QList<QList<Cell>>& rows);
+    /// Writes rows under a heading.
     void table(const QStringList& heading, const QList<QList<Cell>>& rows);
 
     /// Whether further writing is pointless.

@@ -6,6 +6,8 @@
 
 #include "printer_types.h"
 #include "status_codes.h"
+#include "status_info.h"
+#include "tool_text.h"
 
 #include <QtCore/QMetaProperty>
 
@@ -24,11 +26,11 @@ const QString notKnown = QStringLiteral("-");
 Cell loaded(const QString& sku, const QString& name, const QString& colour)
 {
     if (sku == nothingLoaded)
-        return {QStringLiteral("none")};
+        return {ToolText::tr("none")};
     if (!sku.isEmpty())
         return {name, Colour::None, colour};
     // A colour without a SKU: something is loaded that the database does not contain.
-    return {colour.isEmpty() ? notKnown : QStringLiteral("of an unknown kind")};
+    return {colour.isEmpty() ? notKnown : ToolText::tr("of an unknown kind")};
 }
 
 Cell supply(const Record& record)
@@ -66,7 +68,7 @@ Cell withPercent(Cell cell, const QString& sku, int percentage)
     return cell;
 }
 
-Cell status(const Record& record, const TitleOf& titleOf)
+Cell status(const Record& record, TitleOf titleOf)
 {
     const auto colour = [&record] {
         if (!isWatched(record))
@@ -85,64 +87,64 @@ Cell status(const Record& record, const TitleOf& titleOf)
 
 Cell yesOrNo(bool yes)
 {
-    return {yes ? QStringLiteral("yes") : QStringLiteral("no")};
+    return {yes ? ToolText::tr("yes") : ToolText::tr("no")};
 }
 
 /// One line of a printer's details. Together they cover every property but the printer's name.
 struct Detail
 {
     const char* label;
-    Cell (*of)(const Record& record, const TitleOf& titleOf);
+    Cell (*of)(const Record& record, TitleOf titleOf);
 };
 
 const Detail details[] = {
-    {"status", status},
-    {"online",
-     [](const Record& record, const TitleOf&) {
+    {QT_TRANSLATE_NOOP("tools", "status"), status},
+    {QT_TRANSLATE_NOOP("tools", "online"),
+     [](const Record& record, TitleOf) {
          return yesOrNo(record.printerOnline);
      }},
-    {"supply",
-     [](const Record& record, const TitleOf&) {
+    {QT_TRANSLATE_NOOP("tools", "supply"),
+     [](const Record& record, TitleOf) {
          return withSku(supply(record), record.supplySKU);
      }},
-    {"supply left",
-     [](const Record& record, const TitleOf&) {
+    {QT_TRANSLATE_NOOP("tools", "supply left"),
+     [](const Record& record, TitleOf) {
          return Cell{percent(record.supplyPercentage)};
      }},
-    {"ribbon 1",
-     [](const Record& record, const TitleOf&) {
+    {QT_TRANSLATE_NOOP("tools", "ribbon 1"),
+     [](const Record& record, TitleOf) {
          return withSku(ribbon1(record), record.ribbon1SKU);
      }},
-    {"ribbon 1 left",
-     [](const Record& record, const TitleOf&) {
+    {QT_TRANSLATE_NOOP("tools", "ribbon 1 left"),
+     [](const Record& record, TitleOf) {
          return Cell{percent(record.ribbon1Percentage)};
      }},
-    {"ribbon 2",
-     [](const Record& record, const TitleOf&) {
+    {QT_TRANSLATE_NOOP("tools", "ribbon 2"),
+     [](const Record& record, TitleOf) {
          return withSku(ribbon2(record), record.ribbon2SKU);
      }},
-    {"ribbon 2 left",
-     [](const Record& record, const TitleOf&) {
+    {QT_TRANSLATE_NOOP("tools", "ribbon 2 left"),
+     [](const Record& record, TitleOf) {
          return Cell{percent(record.ribbon2Percentage)};
      }},
-    {"has a ribbon 2",
-     [](const Record& record, const TitleOf&) {
+    {QT_TRANSLATE_NOOP("tools", "has a ribbon 2"),
+     [](const Record& record, TitleOf) {
          return yesOrNo(record.ribbon2Visible);
      }},
-    {"firmware",
-     [](const Record& record, const TitleOf&) {
+    {QT_TRANSLATE_NOOP("tools", "firmware"),
+     [](const Record& record, TitleOf) {
          return Cell{record.softwareVersion.isEmpty() ? notKnown : record.softwareVersion};
      }},
-    {"network printer",
-     [](const Record& record, const TitleOf&) {
+    {QT_TRANSLATE_NOOP("tools", "network printer"),
+     [](const Record& record, TitleOf) {
          return yesOrNo(record.printerRemote);
      }},
-    {"managed",
-     [](const Record& record, const TitleOf&) {
+    {QT_TRANSLATE_NOOP("tools", "managed"),
+     [](const Record& record, TitleOf) {
          return yesOrNo(!record.printerNonAdmin);
      }},
-    {"has been active",
-     [](const Record& record, const TitleOf&) {
+    {QT_TRANSLATE_NOOP("tools", "has been active"),
+     [](const Record& record, TitleOf) {
          return yesOrNo(record.printerDefault);
      }},
 };
@@ -178,19 +180,14 @@ bool isWatched(const Record& record)
     return !record.printerRemote && !record.printerNonAdmin;
 }
 
-TitleOf titlesOf(PrinterStatusController& controller)
+QString titleOf(int statusCode)
 {
-    return [&controller](int statusCode) {
-        return controller.getStatusTitle(statusCode).section(QLatin1Char('\n'), 0, 0);
-    };
+    return VxKit::statusInfo(statusCode).shortTitle;
 }
 
-TitleOf shortTitlesOf(PrinterStatusController& controller)
+QString titleOrNotKnown(int statusCode)
 {
-    return [titleOf = titlesOf(controller)](int statusCode) {
-        return statusCode == StatusCodes::unknown ? QStringLiteral("not known")
-                                                  : titleOf(statusCode);
-    };
+    return statusCode == StatusCodes::unknown ? ToolText::tr("not known") : titleOf(statusCode);
 }
 
 bool areSame(const Record& left, const Record& right)
@@ -225,10 +222,10 @@ QString json(const Record& record)
 }
 
 void printTable(Output& output, const QList<Record>& all, const QString& activePrinter,
-                const TitleOf& titleOf)
+                TitleOf titleOf)
 {
     if (all.isEmpty()) {
-        output.text(QStringLiteral("There are no label printers yet.\n"));
+        output.text(ToolText::tr("There are no label printers yet.") + QLatin1Char('\n'));
         return;
     }
     QList<QList<Cell>> rows;
@@ -240,29 +237,28 @@ void printTable(Output& output, const QList<Record>& all, const QString& activeP
             withPercent(ribbon1(record), record.ribbon1SKU, record.ribbon1Percentage),
             withPercent(ribbon2(record), record.ribbon2SKU, record.ribbon2Percentage),
             {record.softwareVersion.isEmpty() ? notKnown : record.softwareVersion},
-            {record.printerName == activePrinter ? QStringLiteral("yes") : QString()},
+            {record.printerName == activePrinter ? ToolText::tr("yes") : QString()},
         });
     }
-    output.table({QStringLiteral("PRINTER"), QStringLiteral("STATUS"), QStringLiteral("SUPPLY"),
-                  QStringLiteral("RIBBON 1"), QStringLiteral("RIBBON 2"),
-                  QStringLiteral("FIRMWARE"), QStringLiteral("ACTIVE")},
+    output.table({ToolText::tr("PRINTER"), ToolText::tr("STATUS"), ToolText::tr("SUPPLY"),
+                  ToolText::tr("RIBBON 1"), ToolText::tr("RIBBON 2"), ToolText::tr("FIRMWARE"),
+                  ToolText::tr("ACTIVE")},
                  rows);
 }
 
 void printDetails(Output& output, const Record& record, const QString& activePrinter,
-                  const TitleOf& titleOf)
+                  TitleOf titleOf)
 {
-    constexpr int labelWidth = 17;
-    const auto print = [&](const char* label, const Cell& cell) {
-        output.line({{QString::fromLatin1(label).leftJustified(labelWidth), Colour::Faint}, cell});
+    QList<QList<Cell>> rows{
+        {{ToolText::tr("printer"), Colour::Faint}, {record.printerName, Colour::Heading}},
+        {{ToolText::tr("active"), Colour::Faint}, yesOrNo(record.printerName == activePrinter)},
     };
-    print("printer", {record.printerName, Colour::Heading});
-    print("active", yesOrNo(record.printerName == activePrinter));
     for (const Detail& detail : details)
-        print(detail.label, detail.of(record, titleOf));
+        rows.append({{ToolText::tr(detail.label), Colour::Faint}, detail.of(record, titleOf)});
+    output.rows(rows);
 }
 
-QList<Cell> difference(const Record& before, const Record& after, const TitleOf& titleOf)
+QList<Cell> difference(const Record& before, const Record& after, TitleOf titleOf)
 {
     QList<Cell> words;
     for (const Detail& detail : details) {
@@ -272,7 +268,7 @@ QList<Cell> difference(const Record& before, const Record& after, const TitleOf&
             continue;
         if (!words.isEmpty())
             words.append({QStringLiteral(", ")});
-        words.append({QString::fromLatin1(detail.label) + QLatin1Char(' '), Colour::Faint});
+        words.append({ToolText::tr(detail.label) + QLatin1Char(' '), Colour::Faint});
         if (was.text != notKnown)
             words.append({was.text + QStringLiteral(" \u2192 "), Colour::Faint});
         words.append(is);

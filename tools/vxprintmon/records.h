@@ -15,17 +15,17 @@
 namespace records {
 
 using Record = PrinterStatusInformation;
-using TitleOf = std::function<QString(int statusCode)>;
+using TitleOf = QString (*)(int statusCode);
 
 QList<Record> of(const PrinterStatusController& controller);
 /// Whether the library monitors the printer. Printers that it does not monitor are only listed.
 bool isWatched(const Record& record);
 
-/// The first line of a status code's title. Where there is a second, it adds nothing.
-TitleOf titlesOf(PrinterStatusController& controller);
-/// The same, but with a short title for an unknown status, as that of a printer that has not
-/// reported yet.
-TitleOf shortTitlesOf(PrinterStatusController& controller);
+/// The title of a status code in short.
+QString titleOf(int statusCode);
+/// The same, but only "not known" for an unknown status, as that of a printer that has not reported
+/// yet.
+QString titleOrNotKnown(int statusCode);
 
 /// Whether two records are equal in every property.
 bool areSame(const Record& left, const Record& right);
@@ -55,12 +55,12 @@ private:
 
 /// Prints one line for each record.
 void printTable(Output& output, const QList<Record>& all, const QString& activePrinter,
-                const TitleOf& titleOf);
+                TitleOf titleOf);
 /// Prints one line for each detail of the record.
 void printDetails(Output& output, const Record& record, const QString& activePrinter,
-                  const TitleOf& titleOf);
+                  TitleOf titleOf);
 
 /// The differences as text. Empty if there are none.
-QList<Cell> difference(const Record& before, const Record& after, const TitleOf& titleOf);
+QList<Cell> difference(const Record& before, const Record& after, TitleOf titleOf);
 
 } // namespace records

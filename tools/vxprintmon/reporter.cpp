@@ -4,8 +4,37 @@
 
 #include "json_text.h"
 #include "shown_text.h"
+#include "text_layout.h"
+#include "tool_text.h"
 
 #include <algorithm>
+#include <array>
+
+namespace {
+
+/// What the lines of the monitor begin with, after the printer.
+namespace labels {
+constexpr char errors[] = QT_TRANSLATE_NOOP("tools", "errors");
+constexpr char status[] = QT_TRANSLATE_NOOP("tools", "status");
+constexpr char supply[] = QT_TRANSLATE_NOOP("tools", "supply");
+constexpr char ribbons[] = QT_TRANSLATE_NOOP("tools", "ribbons");
+constexpr char active[] = QT_TRANSLATE_NOOP("tools", "active");
+constexpr char firmware[] = QT_TRANSLATE_NOOP("tools", "firmware");
+constexpr char found[] = QT_TRANSLATE_NOOP("tools", "found");
+constexpr char records[] = QT_TRANSLATE_NOOP("tools", "records");
+constexpr std::array<const char*, 8> all{errors, status,   supply, ribbons,
+                                         active, firmware, found,  records};
+} // namespace labels
+
+qsizetype widestLabel()
+{
+    qsizetype widest = 0;
+    for (const char* text : labels::all)
+        widest = std::max(widest, text_layout::width(ToolText::tr(text)));
+    return widest;
+}
+
+} // namespace
 
 Reporter::Reporter(const CommandLine& line, Output& output, Controller& controller,
                    std::function<QList<Record>(const Controller&)> recordsOf)
@@ -13,34 +42,35 @@ Reporter::Reporter(const CommandLine& line, Output& output, Controller& controll
     , m_output(output)
     , m_controller(controller)
     , m_recordsOf(std::move(recordsOf))
-    , m_titleOf(records::titlesOf(controller))
+    , m_labelWidth(widestLabel())
     , m_changes([this] { printChanges(); })
 {
     m_clock.start();
     listen(&Controller::availablePrintersUpdated, [this] { m_changes.schedule(); });
     listen(&Controller::printerErrorChangedSignal, [this](bool isInError) {
-        print("errors",
+        print(labels::errors,
               {{},
-               {isInError ? Cell{QStringLiteral("a printer is in error"), Colour::Bad}
-                          : Cell{QStringLiteral("no printer is in error"), Colour::Good}}});
+               {isInError ? Cell{ToolText::tr("a printer is in error"), Colour::Bad}
+                          : Cell{ToolText::tr("no printer is in error"), Colour::Good}}});
     });
     listen(&Controller::statusChangedSignal, [this](int status, const QString& printer) {
-        print("status", {printer, {{QStringLiteral("%1  ").arg(status, 3)}, {m_titleOf(status)}}});
+        print(labels::status,
+              {printer, {{QStringLiteral("%1  ").arg(status, 3)}, {records::titleOf(status)}}});
     });
     listen(&Controller::supplyIdChangedSignal, [this](const QString& printer) {
-        print("supply", {printer, {{QStringLiteral("changed or removed")}}});
+        print(labels::supply, {printer, {{ToolText::tr("changed or removed")}}});
     });
     listen(&Controller::ribbonIdsChangedSignal, [this](const QString& printer) {
-        print("ribbons", {printer, {{QStringLiteral("changed or removed")}}});
+        print(labels::ribbons, {printer, {{ToolText::tr("changed or removed")}}});
     });
     listen(&Controller::activeDefaultPrinterSetSignal, [this](const QString& printer, bool isVX) {
-        print("active", {printer,
-                         {{isVX ? QStringLiteral("is the active printer")
-                                : QStringLiteral("is the active printer but has no record"),
-                           Colour::Notice}}});
+        print(labels::active, {printer,
+                               {{isVX ? ToolText::tr("is the active printer")
+                                      : ToolText::tr("is the active printer but has no record"),
+                                 Colour::Notice}}});
     });
     listen(&Controller::softwareVersionUpdated, [this](const QString& printer) {
-        print("firmware", {printer, {{QStringLiteral("changed")}}});
+        print(labels::firmware, {printer, {{ToolText::tr("changed")}}});
     });
 }
 
@@ -52,7 +82,7 @@ void Reporter::printInitialRecords()
     if (m_json)
         return;
     records::printTable(m_output, all, m_controller.activeDefaultPrinter(),
-                        records::shortTitlesOf(m_controller));
+                        records::titleOrNotKnown);
     m_output.text(QStringLiteral("\n"));
 }
 
@@ -72,9 +102,10 @@ void Reporter::lookForPrinters()
         if (m_known.contains(record.printerName))
             continue;
         remember(record);
-        print("found", {record.printerName,
-                        {{records::isWatched(record) ? QStringLiteral("is now watched")
-                                                     : m_titleOf(record.statusEnum)}}});
+        print(labels::found,
+              {record.printerName,
+               {{records::isWatched(record) ? ToolText::tr("is now watched")
+                                            : records::titleOf(record.statusEnum)}}});
     }
 }
 
@@ -107,13 +138,12 @@ void Reporter::print(const char* label, const Words& words)
 {
     if (m_json)
         return;
-    constexpr int labelWidth = 9;
     const QString printer = shown(words.printer);
-    m_nameWidth = std::max(m_nameWidth, printer.size());
+    m_nameWidth = std::max(m_nameWidth, text_layout::width(printer));
     m_output.line(
         QList<Cell>{{clock(), Colour::Faint},
-                    {printer.leftJustified(m_nameWidth + 2)},
-                    {QString::fromLatin1(label).leftJustified(labelWidth), Colour::Faint}} +
+                    {text_layout::padded(printer, m_nameWidth + 2)},
+                    {text_layout::padded(ToolText::tr(label), m_labelWidth + 1), Colour::Faint}} +
         words.cells);
 }
 
@@ -128,13 +158,13 @@ void Reporter::remember(const Record& record)
     if (!m_known.contains(record.printerName) && records::isWatched(record))
         ++m_watchedPrinters;
     m_known.insert(record.printerName, record);
-    m_nameWidth = std::max(m_nameWidth, shown(record.printerName).size());
+    m_nameWidth = std::max(m_nameWidth, text_layout::width(shown(record.printerName)));
 }
 
 /// Prints what has changed in the records since the last look at them.
 void Reporter::printChanges()
 {
-    const records::TitleOf titleOf = records::shortTitlesOf(m_controller);
+    const records::TitleOf titleOf = records::titleOrNotKnown;
     bool isAnythingNew = false;
     const QList<Record> all = m_recordsOf(m_controller);
     for (const Record& record : all) {
@@ -146,8 +176,8 @@ void Reporter::printChanges()
         if (difference.isEmpty())
             continue;
         isAnythingNew = true;
-        print("records", {record.printerName, difference});
+        print(labels::records, {record.printerName, difference});
     }
     if (!isAnythingNew)
-        print("records", {{}, {{QStringLiteral("no changes"), Colour::Faint}}});
+        print(labels::records, {{}, {{ToolText::tr("no changes"), Colour::Faint}}});
 }

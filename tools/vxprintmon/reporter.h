@@ -55,7 +55,7 @@ private:
     Output& m_output;
     Controller& m_controller;
     std::function<QList<Record>(const Controller&)> m_recordsOf;
-    records::TitleOf m_titleOf;
+    qsizetype m_labelWidth;
     QElapsedTimer m_clock;
     QHash<QString, Record> m_known;
     records::JsonTexts m_jsonTexts;

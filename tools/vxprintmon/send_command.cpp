@@ -9,6 +9,7 @@
 #include "output.h"
 
 #include "printer_command.h"
+#include "tool_text.h"
 
 #include <QtCore/QEventLoop>
 #include <QtCore/QFutureWatcher>
@@ -75,8 +76,8 @@ QString jobText(const CommandResult& result, const std::optional<Backend::Job>& 
     const QString number = QString::number(result.jobId);
     const QString bytes = QString::number(result.bytes);
     if (!job)
-        return QStringLiteral("Print job %1, bytes: %2.").arg(number, bytes);
-    return QStringLiteral("Print job %1, \"%2\": %3, pages: %4, bytes: %5.")
+        return ToolText::tr("Print job %1, bytes: %2.").arg(number, bytes);
+    return ToolText::tr("Print job %1, \"%2\": %3, pages: %4, bytes: %5.")
         .arg(number, job->document, job->datatype, QString::number(job->pages.size()), bytes);
 }
 
@@ -102,7 +103,7 @@ JobState follow(const QFuture<JobState>& future, Report report)
     watcher.setFuture(future);
     loop.exec();
     if (interruptHandler.wasInterrupted() && !last.isFinal())
-        throw Failure(QStringLiteral("interrupted while print job %1 was in the queue of \"%2\"")
+        throw Failure(ToolText::tr("interrupted while print job %1 was in the queue of \"%2\"")
                           .arg(QString::number(last.jobId), last.printerName));
     return last;
 }
@@ -112,8 +113,8 @@ JobState follow(const QFuture<JobState>& future, Report report)
     QString why = result.errorText;
     if (result.failure == CommandResult::Failure::ForeignPrinter ||
         result.failure == CommandResult::Failure::Empty)
-        why += QStringLiteral(" --force sends it nevertheless.");
-    throw Failure(QStringLiteral("the command was not sent: ") + why);
+        why += QLatin1Char(' ') + ToolText::tr("--force sends it nevertheless.");
+    throw Failure(ToolText::tr("the command was not sent: %1").arg(why));
 }
 
 } // namespace
@@ -147,7 +148,7 @@ void runSend(const CommandLine& line, Output& output, Backend& backend)
         }
         output.text(json_text::object(members) + QLatin1Char('\n'));
     } else {
-        output.line({{QStringLiteral("Sent to %1: %2").arg(printer, command)}});
+        output.line({{ToolText::tr("Sent to %1: %2").arg(printer, command)}});
         output.line({{jobText(result, job)}});
         QString said;
         if (line.wait)
@@ -157,6 +158,6 @@ void runSend(const CommandLine& line, Output& output, Backend& backend)
             });
     }
     if (line.wait && (last.stage == Stage::Failed || last.stage == Stage::Deleted))
-        throw Failure(QStringLiteral("print job %1 was not printed: %2")
+        throw Failure(ToolText::tr("print job %1 was not printed: %2")
                           .arg(QString::number(result.jobId), last.text()));
 }

@@ -7,6 +7,7 @@
 #include "json_text.h"
 #include "records.h"
 #include "stop_condition.h"
+#include "tool_text.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>
@@ -77,11 +78,11 @@ void runStatus(const CommandLine& line, Output& output, Backend& /*backend*/)
     PrinterStatusController controller;
     const bool isOne = !line.arguments.isEmpty();
     if (isOne && selectedRecords(line, controller).isEmpty())
-        throw Failure(QStringLiteral("there is no record of a printer \"%1\"; \"vxprintmon "
-                                     "status\" shows the printers that have one")
+        throw Failure(ToolText::tr("there is no record of a printer \"%1\"; \"vxprintmon "
+                                   "status\" shows the printers that have one")
                           .arg(line.arguments.first()));
     if (!waitForFirstReports(controller, output, selectedRecords(line, controller)))
-        throw Failure(QStringLiteral("interrupted"));
+        throw Failure(ToolText::tr("interrupted"));
 
     const QList<records::Record> shown = selectedRecords(line, controller);
     if (line.json) {
@@ -91,9 +92,8 @@ void runStatus(const CommandLine& line, Output& output, Backend& /*backend*/)
         output.text(json_text::lines(texts));
     } else if (isOne) {
         records::printDetails(output, shown.first(), controller.activeDefaultPrinter(),
-                              records::titlesOf(controller));
+                              records::titleOf);
     } else {
-        records::printTable(output, shown, controller.activeDefaultPrinter(),
-                            records::titlesOf(controller));
+        records::printTable(output, shown, controller.activeDefaultPrinter(), records::titleOf);
     }
 }

@@ -8,6 +8,5 @@ namespace terminal {
 /// Whether standard output is a terminal that shows colours. Turns them on where that is needed.
 bool takesColours();
 /// Switches the terminal to UTF-8 while the program runs, where that is needed.
-void useUtf8();
 
 } // namespace terminal

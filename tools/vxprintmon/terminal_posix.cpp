@@ -8,5 +8,3 @@ bool terminal::takesColours()
 {
     return isatty(STDOUT_FILENO) != 0;
 }
-
-void terminal::useUtf8() {} // the usual setting of a terminal

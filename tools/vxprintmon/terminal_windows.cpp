@@ -2,20 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "terminal.h"
 
-#include <cstdlib>
-
 #include <windows.h>
-
-namespace {
-
-UINT codePageBefore = 0;
-
-void restoreCodePage()
-{
-    SetConsoleOutputCP(codePageBefore);
-}
-
-} // namespace
 
 bool terminal::takesColours()
 {
@@ -23,11 +10,4 @@ bool terminal::takesColours()
     DWORD mode = 0;
     return GetConsoleMode(console, &mode) &&
            SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
-}
-
-void terminal::useUtf8()
-{
-    codePageBefore = GetConsoleOutputCP();
-    if (codePageBefore != 0 && SetConsoleOutputCP(CP_UTF8))
-        std::atexit(restoreCodePage);
 }

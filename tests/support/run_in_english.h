@@ -4,8 +4,9 @@
 
 #include <QtTest/QtTest>
 
-/// The main function of a test that reads names and titles. They are in the language of the system,
-/// which must not decide the test, so it runs in English.
+/// The main function of a test that reads names, titles and messages. They are in the language of
+/// the system, which must not decide the test, so the test and the programs that it starts run in
+/// English.
 template <typename Application, typename Test>
 int runInEnglish(int argc, char* argv[])
 {

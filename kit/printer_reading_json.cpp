@@ -1,0 +1,365 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// A reading as JSON, as docs/schema/reading.schema.json describes it.
+#include "printer_reading.h"
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QMetaEnum>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace VxKit {
+
+namespace {
+
+using Presence = PrinterReading::Presence;
+using Watching = PrinterReading::Watching;
+using VXPrinting::PrinterType;
+
+// What readings from other processes may hold at most.
+constexpr qsizetype longestText = 4096;
+constexpr qsizetype mostColors = 64;
+constexpr double mostMeters = 1e6;
+constexpr double secondsOfAMinute = 60;
+
+template <typename Value>
+struct Word
+{
+    Value value;
+    const char* text;
+};
+
+constexpr std::array presences{
+    Word<Presence>{Presence::Present, "present"},
+    Word<Presence>{Presence::Gone, "gone"},
+};
+constexpr std::array watchings{
+    Word<Watching>{Watching::Watched, "watched"},
+    Word<Watching>{Watching::OfflineSinceDiscovery, "offlineSinceDiscovery"},
+    Word<Watching>{Watching::NetworkPrinter, "networkPrinter"},
+    Word<Watching>{Watching::NotManaged, "notManaged"},
+    Word<Watching>{Watching::NotDiscovered, "notDiscovered"},
+    Word<Watching>{Watching::Replaced, "replaced"},
+    Word<Watching>{Watching::Gone, "gone"},
+};
+constexpr std::array states{
+    Word<Level::State>{Level::State::NotKnown, "notKnown"},
+    Word<Level::State>{Level::State::Empty, "empty"},
+    Word<Level::State>{Level::State::Loaded, "loaded"},
+    Word<Level::State>{Level::State::NotInCatalogue, "notInCatalogue"},
+};
+constexpr std::array units{
+    Word<Level::MileageUnit>{Level::MileageUnit::Millimeters, "millimeters"},
+    Word<Level::MileageUnit>{Level::MileageUnit::Percent, "percent"},
+};
+
+template <typename Words, typename Value>
+QString wordOf(const Words& words, Value value)
+{
+    const auto found = std::ranges::find(words, value, &Word<Value>::value);
+    return QLatin1String(found == words.end() ? words.front().text : found->text);
+}
+
+// Writing /////////////////////////////////////////////////////////////////////////////////////////
+
+QJsonValue textOrNull(const QString& text)
+{
+    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
+}
+
+template <typename Number>
+QJsonValue numberOrNull(const std::optional<Number>& number)
+{
+    return number ? QJsonValue(static_cast<double>(*number)) : QJsonValue();
+}
+
+QJsonValue timeOrNull(const QDateTime& time)
+{
+    if (!time.isValid())
+        return {};
+    // A local time is otherwise written without its offset.
+    const int offset = time.offsetFromUtc();
+    const bool isWhole = std::fmod(offset, secondsOfAMinute) == 0;
+    return time.toOffsetFromUtc(isWhole ? offset : 0).toString(Qt::ISODateWithMs);
+}
+
+QString modelName(PrinterType model)
+{
+    const char* const key = QMetaEnum::fromType<PrinterType>().valueToKey(static_cast<int>(model));
+    return QLatin1String(key ? key : "Unknown");
+}
+
+QJsonObject levelToJson(const Level& level)
+{
+    return {
+        {QStringLiteral("state"), wordOf(states, level.state)},
+        {QStringLiteral("identifier"), textOrNull(level.identifier)},
+        {QStringLiteral("sku"), textOrNull(level.sku)},
+        {QStringLiteral("name"), textOrNull(level.name)},
+        {QStringLiteral("material"), textOrNull(level.material)},
+        {QStringLiteral("colorName"), textOrNull(level.colorName)},
+        {QStringLiteral("colors"), QJsonArray::fromStringList(level.colors)},
+        {QStringLiteral("totalMeters"), numberOrNull(level.totalMeters)},
+        {QStringLiteral("meters"), numberOrNull(level.meters)},
+        {QStringLiteral("ratio"), numberOrNull(level.ratio)},
+        {QStringLiteral("labels"), numberOrNull(level.labels)},
+        {QStringLiteral("coarse"), level.coarse},
+        {QStringLiteral("mileage"), numberOrNull(level.mileage)},
+        {QStringLiteral("mileageUnit"), wordOf(units, level.mileageUnit)},
+    };
+}
+
+// Reading /////////////////////////////////////////////////////////////////////////////////////////
+
+/// Reads the members of an object. The first one that is missing or impossible is remembered, and
+/// all others then count as not known.
+class Members
+{
+public:
+    Members(const QJsonObject& object, const QString& path, QString& fault)
+        : m_object(object)
+        , m_path(path)
+        , m_fault(fault)
+    {}
+
+    QString text(const char* name)
+    {
+        const QJsonValue value = member(name);
+        if (value.isNull())
+            return {};
+        if (!value.isString() || value.toString().size() > longestText)
+            reject(name, "is neither null nor a text of at most 4096 characters");
+        return m_fault.isEmpty() ? value.toString() : QString();
+    }
+
+    bool flag(const char* name)
+    {
+        const QJsonValue value = member(name);
+        if (!value.isBool())
+            reject(name, "is neither true nor false");
+        return value.toBool();
+    }
+
+    std::optional<double> number(const char* name, double least, double most)
+    {
+        const QJsonValue value = member(name);
+        if (value.isNull())
+            return std::nullopt;
+        const double number = value.toDouble(std::numeric_limits<double>::quiet_NaN());
+        if (!(number >= least && number <= most)) {
+            reject(name, "is neither null nor a number in its range");
+            return std::nullopt;
+        }
+        return number;
+    }
+
+    template <typename Number>
+    std::optional<Number> wholeNumber(const char* name,
+                                      Number least = std::numeric_limits<Number>::min())
+    {
+        const auto value = number(name, least, std::numeric_limits<Number>::max());
+        if (!value)
+            return std::nullopt;
+        if (*value != std::trunc(*value)) {
+            reject(name, "is not a whole number");
+            return std::nullopt;
+        }
+        return static_cast<Number>(*value);
+    }
+
+    template <typename Words>
+    auto word(const char* name, const Words& words)
+    {
+        const QString text = member(name).toString();
+        const auto found = std::ranges::find_if(
+            words, [&](const auto& word) { return text == QLatin1String(word.text); });
+        if (found == words.end()) {
+            reject(name, "is none of the known words");
+            return words.front().value;
+        }
+        return found->value;
+    }
+
+    PrinterType model(const char* name)
+    {
+        const QByteArray text = member(name).toString().left(longestText).toUtf8();
+        bool isKnown = false;
+        const int model = QMetaEnum::fromType<PrinterType>().keyToValue(text.constData(), &isKnown);
+        if (!isKnown)
+            reject(name, "is not a known model");
+        return isKnown ? static_cast<PrinterType>(model) : PrinterType::Unknown;
+    }
+
+    QDateTime time(const char* name)
+    {
+        const QString text = this->text(name);
+        if (text.isEmpty())
+            return {};
+        const QDateTime time = QDateTime::fromString(text, Qt::ISODateWithMs);
+        // Without an offset it would be a local time of an unknown place.
+        const bool hasOffset = time.timeSpec() == Qt::UTC || time.timeSpec() == Qt::OffsetFromUTC;
+        if (!time.isValid() || !hasOffset)
+            reject(name, "is neither null nor a time with an offset, such as "
+                         "2026-01-31T12:00:00Z");
+        return m_fault.isEmpty() ? time : QDateTime();
+    }
+
+    QStringList colors(const char* name)
+    {
+        const QJsonValue value = member(name);
+        const QJsonArray array = value.toArray();
+        QStringList colors;
+        if (value.isArray() && array.size() <= mostColors) {
+            for (const auto& entry : array)
+                colors.append(entry.toString());
+        }
+        if (!value.isArray() || array.size() > mostColors ||
+            !std::ranges::all_of(std::as_const(colors), &isColor)) {
+            reject(name, "is not a list of at most 64 colours, each as #rrggbb");
+            return {};
+        }
+        return colors;
+    }
+
+    Level level(const char* name)
+    {
+        const QJsonValue value = member(name);
+        if (!value.isObject()) {
+            reject(name, "is not an object");
+            return {};
+        }
+        Members members(value.toObject(), m_path + QLatin1String(name) + QLatin1Char('.'), m_fault);
+        Level level;
+        level.state = members.word("state", states);
+        level.identifier = members.text("identifier");
+        level.sku = members.text("sku");
+        level.name = members.text("name");
+        level.material = members.text("material");
+        level.colorName = members.text("colorName");
+        level.colors = members.colors("colors");
+        level.totalMeters = members.number("totalMeters", 0.0, mostMeters);
+        level.meters = members.number("meters", 0.0, mostMeters);
+        level.ratio = members.number("ratio", 0.0, 1.0);
+        level.labels = members.wholeNumber<int>("labels", 0);
+        level.coarse = members.flag("coarse");
+        level.mileage = members.wholeNumber<quint32>("mileage");
+        level.mileageUnit = members.word("mileageUnit", units);
+        return level;
+    }
+
+    bool isNull(const char* name) { return member(name).isNull(); }
+
+    void reject(const char* name, const char* reason)
+    {
+        if (m_fault.isEmpty())
+            m_fault =
+                QStringLiteral("%1%2 %3").arg(m_path, QLatin1String(name), QLatin1String(reason));
+    }
+
+private:
+    QJsonValue member(const char* name)
+    {
+        const auto found = m_object.constFind(QLatin1String(name));
+        if (found == m_object.constEnd()) {
+            reject(name, "is missing");
+            return {};
+        }
+        return *found;
+    }
+
+    static bool isColor(const QString& text)
+    {
+        constexpr qsizetype length = 7;
+        return text.size() == length && text.startsWith(QLatin1Char('#')) &&
+               std::ranges::all_of(QStringView(text).sliced(1), [](QChar digit) {
+                   return (digit >= u'0' && digit <= u'9') || (digit >= u'a' && digit <= u'f');
+               });
+    }
+
+    const QJsonObject m_object;
+    const QString m_path;
+    QString& m_fault;
+};
+
+} // namespace
+
+QJsonObject PrinterReading::toJson() const
+{
+    if (isNull())
+        return {};
+    QJsonObject json{
+        {QStringLiteral("name"), name()},
+        {QStringLiteral("model"), modelName(model())},
+        {QStringLiteral("driver"), textOrNull(driver())},
+        {QStringLiteral("port"), textOrNull(port())},
+        {QStringLiteral("serialNumber"), textOrNull(serialNumber())},
+        {QStringLiteral("presence"), wordOf(presences, presence())},
+        {QStringLiteral("goneSince"), timeOrNull(goneSince())},
+        {QStringLiteral("watching"), wordOf(watchings, watching())},
+        {QStringLiteral("statusCode"), statusCode()},
+        {QStringLiteral("statusKey"), statusKey(statusCode())},
+        {QStringLiteral("severity"), severityKey(statusSeverity(statusCode()))},
+        {QStringLiteral("online"), isOnline()},
+        {QStringLiteral("active"), isActive()},
+        {QStringLiteral("firmwareVersion"), textOrNull(firmwareVersion())},
+        {QStringLiteral("bootVersion"), textOrNull(bootVersion())},
+        {QStringLiteral("updateProgress"), numberOrNull(updateProgress())},
+        {QStringLiteral("updateError"), numberOrNull(updateError())},
+        {QStringLiteral("ethernetConfig"), textOrNull(ethernetConfig())},
+        {QStringLiteral("lastReport"), timeOrNull(lastReport())},
+    };
+    for (const Slot slot : {Slot::Supply, Slot::Ribbon1, Slot::Ribbon2})
+        json.insert(slotName(slot),
+                    hasSlot(slot) ? QJsonValue(levelToJson(level(slot))) : QJsonValue());
+    return json;
+}
+
+std::optional<PrinterReading> PrinterReading::fromJson(const QJsonObject& json, QString* error)
+{
+    QString fault;
+    Members members(json, QString(), fault);
+    PrinterReading reading;
+    reading.setName(members.text("name"));
+    if (reading.name().isEmpty())
+        members.reject("name", "is empty");
+    reading.setModel(members.model("model"));
+    reading.setDriver(members.text("driver"));
+    reading.setPort(members.text("port"));
+    reading.setSerialNumber(members.text("serialNumber"));
+    if (members.word("presence", presences) == Presence::Gone)
+        reading.setGone(members.time("goneSince"));
+    else if (!members.isNull("goneSince"))
+        members.reject("goneSince", "is not null, though the printer is present");
+    reading.setWatching(members.word("watching", watchings));
+    const auto code = members.wholeNumber<int>("statusCode");
+    if (!code)
+        members.reject("statusCode", "is null");
+    reading.setStatusCode(code.value_or(VXPrinting::StatusCodes::unknown));
+    // The key and the severity follow from the code.
+    reading.setOnline(members.flag("online"));
+    reading.setActive(members.flag("active"));
+    reading.setFirmwareVersion(members.text("firmwareVersion"));
+    reading.setBootVersion(members.text("bootVersion"));
+    reading.setUpdateProgress(members.wholeNumber<quint32>("updateProgress"));
+    reading.setUpdateError(members.wholeNumber<quint32>("updateError"));
+    reading.setEthernetConfig(members.text("ethernetConfig"));
+    reading.setLastReport(members.time("lastReport"));
+    for (const Slot slot : {Slot::Supply, Slot::Ribbon1, Slot::Ribbon2}) {
+        const QByteArray name = slotName(slot).toLatin1();
+        if (reading.hasSlot(slot))
+            reading.setLevel(slot, members.level(name.constData()));
+        else if (!members.isNull(name.constData()))
+            members.reject(name.constData(), "is not null, though the model has no such slot");
+    }
+    if (error)
+        *error = fault;
+    if (!fault.isEmpty())
+        return std::nullopt;
+    return reading;
+}
+
+} // namespace VxKit

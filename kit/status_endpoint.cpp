@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+#include "status_endpoint.h"
+
+#include "catalogue_list.h"
+#include "change_queue.h"
+#include "printer_readings.h"
+#include "status_info.h"
+
+#include <vxlocalelanguages.h>
+
+#include <QtCore/QMetaMethod>
+#include <QtCore/QPointer>
+#include <QtCore/QThreadPool>
+#include <QtCore/QVariantList>
+
+namespace VxKit {
+
+namespace {
+
+/// How much of an unknown name an error repeats: a printer's name is not longer.
+constexpr qsizetype longestShown = 478;
+
+QString nameIn(const QJsonObject& reading)
+{
+    return reading.value(QLatin1String("name")).toString();
+}
+
+} // namespace
+
+class StatusEndpoint::Private
+{
+public:
+    Private(StatusEndpoint& endpoint, PrinterReadings* printerReadings)
+        : readings(printerReadings)
+        , changes([this](const QString& name) { reportChange(name); }, &endpoint)
+        , m_endpoint(endpoint)
+    {
+        m_background.setMaxThreadCount(1);
+        VXLocaleLanguages languages;
+        m_background.start([this, languageId = languages.getCurrentLanguageId()] {
+            m_catalogue = readCatalogueList(languageId);
+        });
+    }
+
+    const QJsonObject& catalogue()
+    {
+        m_background.waitForDone();
+        return m_catalogue;
+    }
+
+    const QPointer<PrinterReadings> readings;
+    ChangeQueue changes;
+
+private:
+    void reportChange(const QString& name)
+    {
+        // With many printers and nobody to tell it to, writing readings would be the only cost.
+        static const QMetaMethod signal = QMetaMethod::fromSignal(&StatusEndpoint::printerChanged);
+        if (readings && m_endpoint.isSignalConnected(signal))
+            Q_EMIT m_endpoint.printerChanged(readings->reading(name).toJson());
+    }
+
+    StatusEndpoint& m_endpoint;
+    QJsonObject m_catalogue;
+    /// Last, so that its destructor waits for the thread that writes the catalogue.
+    QThreadPool m_background;
+};
+
+StatusEndpoint::StatusEndpoint(PrinterReadings* readings, QObject* parent)
+    : VXIPCServer(serverType, parent)
+    , d(std::make_unique<Private>(*this, readings))
+{
+    coalesceSignal(QByteArrayLiteral("printerChanged"), [](const QVariantList& arguments) {
+        return nameIn(arguments.value(0).toJsonObject());
+    });
+    if (!readings)
+        return;
+    connect(readings, &PrinterReadings::changed, &d->changes, &ChangeQueue::add);
+    connect(readings, &PrinterReadings::added, this, [this](const QString& name) {
+        d->changes.drop(name);
+        Q_EMIT printerAdded(d->readings->reading(name).toJson());
+    });
+    connect(readings, &PrinterReadings::gone, this, [this](const QString& name) {
+        const QPointer<StatusEndpoint> self(this);
+        d->changes.reportNow(name);
+        if (self)
+            Q_EMIT printerGone(name);
+    });
+    connect(readings, &PrinterReadings::renamed, this,
+            [this](const QString& oldName, const QString& newName) {
+                d->changes.rename(oldName, newName);
+                Q_EMIT printerRenamed(oldName, newName);
+            });
+}
+
+StatusEndpoint::~StatusEndpoint() = default;
+
+QJsonArray StatusEndpoint::printers()
+{
+    QJsonArray all;
+    if (!d->readings)
+        return all;
+    for (const QList<PrinterReading> readings = d->readings->readings();
+         const PrinterReading& reading : readings)
+        all.append(reading.toJson());
+    return all;
+}
+
+QJsonObject StatusEndpoint::printer(const QString& name)
+{
+    const PrinterReading reading = d->readings ? d->readings->reading(name) : PrinterReading();
+    if (!reading.isNull())
+        return reading.toJson();
+    refuseCall(unknownPrinter,
+               QStringLiteral("there is no printer \"%1\"; printers() lists those that there are")
+                   .arg(name.left(longestShown)),
+               {{QStringLiteral("argument"), QStringLiteral("name")}});
+    return {};
+}
+
+QJsonObject StatusEndpoint::statusInfo(int code, const QString& language)
+{
+    return VxKit::statusInfo(code, language).toJson();
+}
+
+QJsonObject StatusEndpoint::supplies()
+{
+    return d->catalogue();
+}
+
+} // namespace VxKit
