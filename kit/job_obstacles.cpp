@@ -11,9 +11,8 @@
 
 #include <QtCore/QCoreApplication>
 
-#include <algorithm>
 #include <array>
-#include <vector>
+#include <span>
 
 namespace VxKit {
 
@@ -65,8 +64,7 @@ void add(QStringList& obstacles, const QString& text)
         obstacles.append(text);
 }
 
-template <std::size_t Count>
-void add(QStringList& obstacles, DWORD flags, const std::array<Obstacle, Count>& known)
+void add(QStringList& obstacles, DWORD flags, std::span<const Obstacle> known)
 {
     for (const Obstacle& obstacle : known) {
         if (flags & obstacle.flag)

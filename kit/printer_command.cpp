@@ -228,7 +228,7 @@ private:
     bool write()
     {
         // In parts, because the number of bytes has only 32 bits.
-        constexpr qsizetype largestPart = 1024 * 1024;
+        constexpr qsizetype largestPart = qsizetype{1024} * 1024;
         for (qsizetype begin = 0; begin < m_command.bytes.size(); begin += largestPart) {
             QByteArray part = m_command.bytes.mid(begin, largestPart);
             const auto size = static_cast<DWORD>(part.size());
