@@ -31,7 +31,6 @@ namespace VxKit {
 namespace StatusCodes = VXPrinting::StatusCodes;
 using Presence = PrinterReading::Presence;
 using Watching = PrinterReading::Watching;
-using VXPrinting::PrinterType;
 
 namespace {
 

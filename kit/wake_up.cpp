@@ -21,16 +21,7 @@ void WakeUp::wake()
 
 Waited WakeUp::wait(std::chrono::milliseconds time, std::span<const HANDLE> handles)
 {
-    return waitFor(static_cast<DWORD>(time.count()), static_cast<int>(time.count()), handles);
-}
-
-void WakeUp::wait()
-{
-    waitFor(INFINITE, -1, {});
-}
-
-Waited WakeUp::waitFor(DWORD limit, int limitForSemaphore, std::span<const HANDLE> handles)
-{
+    const auto limit = static_cast<DWORD>(time.count());
     DWORD result = WAIT_FAILED;
     if (m_event && handles.empty()) {
         result = WaitForSingleObject(m_event.get(), limit);
@@ -44,7 +35,7 @@ Waited WakeUp::waitFor(DWORD limit, int limitForSemaphore, std::span<const HANDL
     }
 
     if (result == WAIT_FAILED) {
-        const bool isWoken = m_semaphore.tryAcquire(1, limitForSemaphore);
+        const bool isWoken = m_semaphore.tryAcquire(1, static_cast<int>(limit));
         return {isWoken ? Waited::Why::Woken : Waited::Why::TimedOut};
     }
     if (result == WAIT_TIMEOUT)

@@ -40,12 +40,8 @@ public:
     /// At most `MAXIMUM_WAIT_OBJECTS - 1` handles. Fails only if there are some; the thread then
     /// has to wait without them.
     Waited wait(std::chrono::milliseconds time, std::span<const HANDLE> handles = {});
-    /// Waits until the thread is woken.
-    void wait();
 
 private:
-    Waited waitFor(DWORD limit, int limitForSemaphore, std::span<const HANDLE> handles);
-
     const EventOwner m_event;
     QSemaphore m_semaphore;
 };

@@ -56,9 +56,10 @@ need_packages() {
 }
 
 # shellcheck disable=SC2034 # the scripts that source this file use it
-native_packages=(ca-certificates ccache cmake g++ libgl1-mesa-dev libjsoncpp-dev libsqlite3-dev
-    libqt6sql6-sqlite ninja-build nodejs pkg-config python3 python3-jsonschema qt6-base-dev qt6-l10n-tools
-    qt6-tools-dev qt6-tools-dev-tools)
+native_packages=(ca-certificates ccache cmake g++ libgl1-mesa-dev libjsoncpp-dev libqt6sql6-sqlite
+    libsqlite3-dev ninja-build nodejs pkg-config python3 python3-jsonschema qml6-module-qtqml
+    qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-window qt6-base-dev
+    qt6-declarative-dev qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
 
 seconds_since() { echo $((SECONDS - $1)); }
 

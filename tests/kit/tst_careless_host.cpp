@@ -17,16 +17,16 @@ public:
     WarningRecorder()
     {
         take();
-        s_previous = qInstallMessageHandler(&WarningRecorder::record);
+        previous = qInstallMessageHandler(&WarningRecorder::record);
     }
-    ~WarningRecorder() { qInstallMessageHandler(s_previous); }
+    ~WarningRecorder() { qInstallMessageHandler(previous); }
     Q_DISABLE_COPY_MOVE(WarningRecorder)
 
     /// As "category: text".
     static QStringList take()
     {
-        const QMutexLocker guard(&s_mutex);
-        return std::exchange(s_warnings, {});
+        const QMutexLocker guard(&mutex);
+        return std::exchange(warnings, {});
     }
 
 private:
@@ -34,13 +34,13 @@ private:
     {
         if (type == QtDebugMsg || type == QtInfoMsg)
             return;
-        const QMutexLocker guard(&s_mutex);
-        s_warnings.append(QStringLiteral("%1: %2").arg(QLatin1String(context.category), text));
+        const QMutexLocker guard(&mutex);
+        warnings.append(QStringLiteral("%1: %2").arg(QLatin1String(context.category), text));
     }
 
-    static inline QMutex s_mutex;
-    static inline QStringList s_warnings;
-    static inline QtMessageHandler s_previous = nullptr;
+    static inline QMutex mutex;
+    static inline QStringList warnings;
+    static inline QtMessageHandler previous = nullptr;
 };
 
 void runOnAnotherThread(const std::function<void()>& work)
@@ -125,12 +125,12 @@ private:
             int threads = 0;
             for (const QString& name : {packing, shipping, archive, warehouse})
                 threads += controller().statusThread(name) ? 1 : 0;
-            settled = settled && settleAll(threads);
+            m_settled = m_settled && settleAll(threads);
         }
     }
     QStringList takeWarnings() { return WarningRecorder::take(); }
 
-    bool settled = true;
+    bool m_settled = true;
     std::unique_ptr<WarningRecorder> m_warnings;
 };
 
@@ -173,8 +173,8 @@ void CarelessHostTest::asksOnAnotherThread_data()
 {
     using Readings = VxKit::PrinterReadings;
     QTest::addColumn<std::function<bool(Readings&)>>("asks");
-    const auto add = [](const char* row, std::function<bool(Readings&)> asks) {
-        QTest::newRow(row) << std::move(asks);
+    const auto add = [](const char* row, const std::function<bool(Readings&)>& asks) {
+        QTest::newRow(row) << asks;
     };
     add("names()", [](Readings& readings) { return readings.names().isEmpty(); });
     add("reading()", [](Readings& readings) { return readings.reading(packing).isNull(); });
@@ -272,7 +272,7 @@ void CarelessHostTest::destroysThemInASlot()
         endReadings();
     };
     causeEverySignal();
-    QVERIFY(settled);
+    QVERIFY(m_settled);
     QVERIFY(isDestroyed);
     QCOMPARE(takeWarnings(), QStringList());
 }
@@ -327,7 +327,7 @@ void CarelessHostTest::refreshesInEverySlot()
         controller().checkForPrinters();
     };
     causeEverySignal();
-    QVERIFY(settled);
+    QVERIFY(m_settled);
     const QStringList lines = takeLines();
     QCOMPARE(lines.count(QStringLiteral("added(Archive)")), 1);
     QCOMPARE(lines.count(QStringLiteral("gone(Packing)")), 1);
@@ -348,7 +348,7 @@ void CarelessHostTest::runsAnEventLoopInEverySlot()
         QEventLoop().processEvents(QEventLoop::ExcludeUserInputEvents);
     };
     causeEverySignal();
-    QVERIFY(settled);
+    QVERIFY(m_settled);
     const QStringList lines = takeLines();
     QCOMPARE(lines.count(QStringLiteral("added(Archive)")), 1);
     QCOMPARE(lines.count(QStringLiteral("gone(Packing)")), 1);

@@ -63,6 +63,25 @@ JobState lastOf(const QFuture<JobState>& future)
     return future.resultCount() ? future.resultAt(future.resultCount() - 1) : JobState();
 }
 
+/// Holds every thread that calls a function, until it may go on.
+struct HeldCalls
+{
+    explicit HeldCalls(const QString& function)
+    {
+        Machine::instance().setCallHook([this, function](const virtualwindows::Call& call) {
+            if (call.function != function)
+                return;
+            reached.release();
+            go.acquire();
+        });
+    }
+    ~HeldCalls() { Machine::instance().setCallHook(nullptr); }
+    Q_DISABLE_COPY_MOVE(HeldCalls)
+
+    QSemaphore reached;
+    QSemaphore go;
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(Action)
@@ -290,38 +309,24 @@ void PrinterCommandTest::partOfACommandIsAFailure()
 
 void PrinterCommandTest::sendingLeavesTheGlobalPoolAlone()
 {
-    QSemaphore reached;
-    QSemaphore go;
-    machine().setCallHook([&](const virtualwindows::Call& call) {
-        if (call.function != QLatin1String("WritePrinter"))
-            return;
-        reached.release();
-        go.acquire();
-    });
+    HeldCalls held(QStringLiteral("WritePrinter"));
     const QFuture<CommandResult> future = VxKit::sendCommand(alder, feed);
-    reached.acquire();
+    held.reached.acquire();
     QCOMPARE(QThreadPool::globalInstance()->activeThreadCount(), 0);
     QVERIFY(!future.isFinished());
-    go.release();
+    held.go.release();
     QVERIFY(sent(future).isSent());
 }
 
 void PrinterCommandTest::fourCommandsAreSentAtATime()
 {
-    QSemaphore reached;
-    QSemaphore go;
-    machine().setCallHook([&](const virtualwindows::Call& call) {
-        if (call.function != QLatin1String("StartDocPrinterW"))
-            return;
-        reached.release();
-        go.acquire();
-    });
+    HeldCalls held(QStringLiteral("StartDocPrinterW"));
     QList<QFuture<CommandResult>> futures;
     for (int number = 0; number < 6; ++number)
         futures.append(VxKit::sendCommand(alder, feed));
-    reached.acquire(4);
+    held.reached.acquire(4);
     QCOMPARE(machine().callCount(QStringLiteral("OpenPrinterW")), 4);
-    go.release(6);
+    held.go.release(6);
     for (const QFuture<CommandResult>& future : futures)
         QVERIFY(sent(future).isSent());
     QCOMPARE(machine().jobs(alder).size(), 6);
@@ -329,21 +334,14 @@ void PrinterCommandTest::fourCommandsAreSentAtATime()
 
 void PrinterCommandTest::cancelledCommandIsNotSent()
 {
-    QSemaphore reached;
-    QSemaphore go;
-    machine().setCallHook([&](const virtualwindows::Call& call) {
-        if (call.function != QLatin1String("StartDocPrinterW"))
-            return;
-        reached.release();
-        go.acquire();
-    });
+    HeldCalls held(QStringLiteral("StartDocPrinterW"));
     QList<QFuture<CommandResult>> futures;
     for (int number = 0; number < 4; ++number)
         futures.append(VxKit::sendCommand(alder, feed));
-    reached.acquire(4);
+    held.reached.acquire(4);
     QFuture<CommandResult> last = VxKit::sendCommand(alder, feed);
     last.cancel();
-    go.release(5);
+    held.go.release(5);
     last.waitForFinished();
     QCOMPARE(last.resultCount(), 0);
     for (const QFuture<CommandResult>& future : futures)

@@ -121,8 +121,9 @@ void TestPrinterReading::differencesNameEveryField_data()
     QTest::addColumn<std::function<void(PrinterReading&)>>("change");
     QTest::addColumn<PrinterReading::Field>("field");
     using Field = PrinterReading::Field;
-    const auto add = [](const char* row, Field field, std::function<void(PrinterReading&)> change) {
-        QTest::newRow(row) << std::move(change) << field;
+    const auto add = [](const char* row, Field field,
+                        const std::function<void(PrinterReading&)>& change) {
+        QTest::newRow(row) << change << field;
     };
     const QString other = QStringLiteral("other");
     add("name", Field::Name, [=](auto& reading) { reading.setName(other); });

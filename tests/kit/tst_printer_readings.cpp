@@ -8,8 +8,6 @@
 
 #include <windows.h>
 
-using virtualwindows::DeviceSetup;
-
 class PrinterReadingsTest : public ReadingsTest
 {
     Q_OBJECT
