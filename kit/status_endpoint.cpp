@@ -77,9 +77,9 @@ StatusEndpoint::StatusEndpoint(PrinterReadings* readings, QObject* parent)
     if (!readings)
         return;
     connect(readings, &PrinterReadings::changed, &d->changes, &ChangeQueue::add);
-    connect(readings, &PrinterReadings::added, this, [this](const QString& name) {
+    connect(readings, &PrinterReadings::added, this, [this, readings](const QString& name) {
         d->changes.drop(name);
-        Q_EMIT printerAdded(d->readings->reading(name).toJson());
+        Q_EMIT printerAdded(readings->reading(name).toJson());
     });
     connect(readings, &PrinterReadings::gone, this, [this](const QString& name) {
         const QPointer<StatusEndpoint> self(this);

@@ -16,15 +16,15 @@ class IpcCall
 public:
     explicit IpcCall(const QObject& object)
         : m_object(&object)
-        , m_outer(std::exchange(s_innermost, this))
+        , m_outer(std::exchange(innermost, this))
     {}
-    ~IpcCall() { s_innermost = m_outer; }
+    ~IpcCall() { innermost = m_outer; }
     Q_DISABLE_COPY_MOVE(IpcCall)
 
     /// The call that `object` is handling on this thread; null if there is none.
     static IpcCall* of(const QObject& object)
     {
-        return s_innermost && s_innermost->m_object == &object ? s_innermost : nullptr;
+        return innermost && innermost->m_object == &object ? innermost : nullptr;
     }
 
     void refuse(json_rpc::Error error) { m_refusal = std::move(error); }
@@ -32,7 +32,7 @@ public:
     const std::optional<json_rpc::Error>& refusal() const { return m_refusal; }
 
 private:
-    inline static thread_local IpcCall* s_innermost = nullptr;
+    inline static thread_local IpcCall* innermost = nullptr;
 
     const QObject* m_object;
     IpcCall* m_outer;

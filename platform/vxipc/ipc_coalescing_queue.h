@@ -47,7 +47,7 @@ public:
             append(std::move(item), state);
             return std::nullopt;
         }
-        const EntryIterator entry = *earlier;
+        const auto entry = *earlier;
         if (entry->place > m_lastBarrier)
             return std::exchange(entry->item, std::move(item));
         std::optional<Item> replaced = std::move(entry->item);
