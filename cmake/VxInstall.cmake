@@ -73,7 +73,9 @@ install(TARGETS vxprinterstatuskit EXPORT VxPrinterStatusKitTargets
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 install(DIRECTORY kit/include/ DESTINATION "${VX_HEADER_FOLDER}")
 install(EXPORT VxPrinterStatusKitTargets NAMESPACE Vx:: DESTINATION "${VX_PACKAGE_FOLDER}")
-# A catalogue to begin with.
+# Clients of the status service in other languages, and a catalogue to begin with.
+install(DIRECTORY examples/clients DESTINATION "${CMAKE_INSTALL_DATADIR}/VxPrinterStatus"
+    PATTERN __pycache__ EXCLUDE)
 install(DIRECTORY data/supplies DESTINATION "${CMAKE_INSTALL_DATADIR}/VxPrinterStatus")
 install(DIRECTORY docs/schema DESTINATION "${CMAKE_INSTALL_DATADIR}/VxPrinterStatus")
 
