@@ -240,16 +240,16 @@ void Machine::setDefaultPrinter(const QString& name)
     d->defaultPrinter = name;
 }
 
-void Machine::setPrintingTime(const QString& name, std::chrono::milliseconds time)
+void Machine::setPrintingTime(const QString& printer, std::chrono::milliseconds time)
 {
     const std::lock_guard guard(d->lock);
-    existing(*d, name).setup.printingTime = time;
+    existing(*d, printer).setup.printingTime = time;
 }
 
-void Machine::limitWrites(const QString& name, quint32 bytes)
+void Machine::limitWrites(const QString& printer, quint32 bytes)
 {
     const std::lock_guard guard(d->lock);
-    existing(*d, name).writeLimit = bytes;
+    existing(*d, printer).writeLimit = bytes;
 }
 
 QStringList Machine::printers() const
