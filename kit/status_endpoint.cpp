@@ -81,12 +81,13 @@ StatusEndpoint::StatusEndpoint(PrinterReadings* readings, QObject* parent)
         d->changes.drop(name);
         Q_EMIT printerAdded(readings->reading(name).toJson());
     });
-    connect(readings, &PrinterReadings::gone, this, [this](const QString& name) {
-        const QPointer<StatusEndpoint> self(this);
-        d->changes.reportNow(name);
-        if (self)
-            Q_EMIT printerGone(name);
-    });
+    connect(readings, &PrinterReadings::gone, this,
+            [this, &changes = d->changes](const QString& name) {
+                const QPointer<StatusEndpoint> self(this);
+                changes.reportNow(name);
+                if (self)
+                    Q_EMIT printerGone(name);
+            });
     connect(readings, &PrinterReadings::renamed, this,
             [this](const QString& oldName, const QString& newName) {
                 d->changes.rename(oldName, newName);

@@ -37,7 +37,7 @@ qsizetype widthOf(char32_t character)
 
 QString spaces(qsizetype count)
 {
-    return QString(std::max<qsizetype>(count, 0), QLatin1Char(' '));
+    return {std::max<qsizetype>(count, 0), QLatin1Char(' ')};
 }
 
 } // namespace

@@ -523,7 +523,7 @@ private:
             const QString spelling = spellings.value(text.toLower(), text);
             if (spelling != text)
                 throw modelField.failure(
-                    ToolText::tr("\"%1\" is the same model as \"%2\"").arg(text, spelling));
+                    ToolText::tr(R"("%1" is the same model as "%2")").arg(text, spelling));
             spellings.insert(text.toLower(), text);
             const CsvField formatField = source.field(row, column("format"));
             const int format = formatOf(formatField);

@@ -45,8 +45,8 @@ constexpr std::array statusNames{
 };
 
 /// Reads a number, given as such or as a list of the names of its bits.
-template <std::size_t Count>
-quint32 readBits(const JsonPlace& place, const std::array<NamedBit, Count>& names)
+template <std::size_t count>
+quint32 readBits(const JsonPlace& place, const std::array<NamedBit, count>& names)
 {
     if (place.isNumber())
         return place.number();
