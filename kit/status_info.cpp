@@ -9,7 +9,6 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QMutex>
 #include <QtCore/QMutexLocker>
-#include <QtCore/QRegularExpression>
 #include <QtCore/QStringList>
 #include <QtCore/QTranslator>
 
@@ -401,12 +400,28 @@ const Texts& textsOf(std::size_t language)
     return *texts;
 }
 
+/// A text without a code in brackets at its end: "Ready (Code 1)" becomes "Ready". It is looked for
+/// by hand: a thread that has used a regular expression crashes as it ends in programs built with
+/// MinGW, whose run time releases the thread's variables before Qt does.
+QString withoutCode(const QString& text)
+{
+    const auto isOneOf = [](QChar character, char16_t plain, char16_t wide) {
+        return character == plain || character == wide;
+    };
+    if (text.size() < 2 || !isOneOf(text.back(), u')', u'\uff09') ||
+        !text.at(text.size() - 2).isDigit())
+        return text;
+    for (qsizetype i = text.size() - 1; i >= 0; --i) {
+        if (isOneOf(text.at(i), u'(', u'\uff08'))
+            return text.first(i).trimmed();
+    }
+    return text;
+}
+
 /// The first line of the title, without the code in brackets and the full stop at its end.
 QString shortTitleOf(const StatusInfo& info)
 {
-    static const QRegularExpression codeInBrackets(
-        QStringLiteral("\\s*[(\uff08][^(\uff08]*\\d[)\uff09]$"));
-    QString line = info.title.section(QLatin1Char('\n'), 0, 0).remove(codeInBrackets).trimmed();
+    QString line = withoutCode(info.title.section(QLatin1Char('\n'), 0, 0)).trimmed();
     if (line.endsWith(QLatin1Char('.')) || line.endsWith(QChar(0x3002)))
         line.chop(1);
     return line;

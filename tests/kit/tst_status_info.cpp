@@ -391,6 +391,7 @@ void StatusInfoTest::manyThreadsGetTheSameTexts()
     const unsigned threadCount = std::clamp(std::thread::hardware_concurrency(), 2U, 8U);
     std::vector<QList<QList<StatusInfo>>> found(threadCount);
     std::vector<std::thread> threads;
+    threads.reserve(threadCount);
     // How many times a thread has come to the next language.
     std::atomic_uint arrivals = 0;
     for (QList<QList<StatusInfo>>& lists : found) {

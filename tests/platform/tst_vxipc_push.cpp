@@ -78,7 +78,7 @@ bool waitsInASlot(RawClient& observer)
 
 QString textOfKibibyte(QChar character = u'x')
 {
-    return QString(1024, character);
+    return {1024, character};
 }
 
 QJsonObject reading(const QString& name, int value, const QString& filler = {})
