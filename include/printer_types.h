@@ -25,6 +25,12 @@ enum class PrinterType : int
 };
 Q_ENUM_NS(PrinterType)
 
+/// Whether printers of this model are watched.
+constexpr bool isSupported(PrinterType type)
+{
+    return static_cast<int>(type) > 100;
+}
+
 /// The identifier and the SKU of an empty place: no supply is loaded in the printer, or no ribbon
 /// in one of its ribbon places. An empty text instead means that what is loaded is not known.
 inline constexpr QLatin1String nothingLoaded("-1");

@@ -101,8 +101,8 @@ void addObstacles(JobState& state, const PrinterOwner& printer, const QString& j
         add(state.obstacles, record->Status, printerObstacles);
         if (record->Attributes & PRINTER_ATTRIBUTE_WORK_OFFLINE)
             add(state.obstacles, QCoreApplication::translate("VxKit", isSetOffline));
-        isSupported = WindowsPrinterInfo::printerType(textFrom(record->pDriverName)) >
-                      VXPrinting::PrinterType::Generic;
+        isSupported =
+            VXPrinting::isSupported(WindowsPrinterInfo::printerType(textFrom(record->pDriverName)));
     }
     if (isSupported)
         state.statusCode = queryStatusCode(printer);

@@ -205,7 +205,7 @@ private:
         if (!record.isValid())
             return failIn(Failure::CannotReadDriver, "GetPrinterW");
         const QString driver = textFrom(record->pDriverName);
-        if (WindowsPrinterInfo::printerType(driver) <= VXPrinting::PrinterType::Generic)
+        if (!VXPrinting::isSupported(WindowsPrinterInfo::printerType(driver)))
             m_result.failure = Failure::ForeignPrinter;
         return m_result.isSent();
     }

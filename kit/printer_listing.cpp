@@ -55,11 +55,6 @@ bool matches(const QList<SpoolerEntry>& printers, std::span<Record> records)
     return printer == printers.end();
 }
 
-bool isSupported(const QString& driver)
-{
-    return WindowsPrinterInfo::printerType(driver) > VXPrinting::PrinterType::Generic;
-}
-
 QHash<QString, const SpoolerEntry*> byName(const QList<SpoolerEntry>& printers)
 {
     QHash<QString, const SpoolerEntry*> index;
@@ -155,7 +150,8 @@ PrinterListing::Outcome PrinterListing::list()
         printer.port = textFrom(record.pPortName);
         printer.attributes = record.Attributes;
         printer.isOnline = !WindowsPrinterInfo::isPrinterOffline(&record);
-        printer.isSupported = isSupported(printer.driver);
+        printer.isSupported =
+            VXPrinting::isSupported(WindowsPrinterInfo::printerType(printer.driver));
         if (const SpoolerEntry* const before = known.value(printer.name))
             printer.isAdministrable = before->isAdministrable;
         m_fetched.append(printer);

@@ -17,8 +17,6 @@ namespace VxKit {
 
 namespace {
 
-constexpr int lastUnsupportedType = 100;
-
 /// The full names of the ports of all printers, by printer. Without a value when the spooler does
 /// not answer, which `WindowsPrinterInfo::getAvailablePrinters()` does not tell from a spooler
 /// without printers.
@@ -82,7 +80,7 @@ std::optional<QList<SpooledPrinter>> listPrinters()
     listed.reserve(all.size());
     for (const AvailablePrinters& printer : std::as_const(all)) {
         const auto model = WindowsPrinterInfo::printerType(printer.driverName);
-        if (static_cast<int>(model) <= lastUnsupportedType || printer.printerName.isEmpty())
+        if (!VXPrinting::isSupported(model) || printer.printerName.isEmpty())
             continue;
         SpooledPrinter entry{printer.printerName, model, printer.driverName,
                              printer.portName,    {},    printer.isOffline};

@@ -29,7 +29,6 @@ namespace StatusCodes = VXPrinting::StatusCodes;
 /// The identifier that the driver publishes when no supply is loaded.
 const QString blankSupplyIdentifier = QString(20, QLatin1Char('0'));
 
-constexpr int lastUnsupportedType = 100;
 /// The panel whose colour stands for the whole ribbon; it is the first also for ribbon 2.
 constexpr int firstPanel = 1;
 
@@ -146,7 +145,7 @@ void PrinterStatusController::checkForNewPrinter(AvailablePrinters printer)
                          printer.driverName.toLocal8Bit().constData());
 
     const PrinterType type = WindowsPrinterInfo::printerType(printer.driverName);
-    if (static_cast<int>(type) <= lastUnsupportedType) {
+    if (!VXPrinting::isSupported(type)) {
         ignoredPrinters.insert(name);
         Q_EMIT statusChangedSignal(StatusCodes::disconnected, name);
         return;

@@ -83,7 +83,7 @@ void runList(const CommandLine& line, Output& output, Backend& /*backend*/)
     QList<QList<Cell>> rows;
     for (const AvailablePrinters& printer : printers) {
         const PrinterType type = WindowsPrinterInfo::printerType(printer.driverName);
-        const bool isSupported = type > PrinterType::Generic;
+        const bool isSupported = VXPrinting::isSupported(type);
         rows.append(QList<Cell>{
             {printer.printerName, isSupported ? Colour::Good : Colour::Faint},
             {modelName(type), isSupported ? Colour::None : Colour::Faint},
