@@ -401,7 +401,7 @@ BOOL WINAPI SetJobW(HANDLE hPrinter, DWORD JobId, DWORD Level, LPBYTE /*pJob*/, 
         return FALSE;
 
     const std::lock_guard guard(machine().lock);
-    // Whoever may print may control his own jobs, and all jobs of this machine belong to its user.
+    // Users who may print may control their own jobs, and all jobs here belong to one user.
     const auto object = handleOfPrinter(hPrinter, call, PRINTER_ACCESS_USE);
     if (!object)
         return FALSE;

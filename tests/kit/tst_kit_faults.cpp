@@ -180,7 +180,7 @@ QString KitFaultsTest::sendAndFollow(const QString& function, int nth)
         return QStringLiteral("the job is not followed");
     machine().setStatus(alder, 0);
     if (!eventually([&] { return followed.job.isFinished(); }))
-        return QStringLiteral("the job has no end");
+        return QStringLiteral("the job never ended");
     const JobState last = followed.job.resultAt(followed.job.resultCount() - 1);
     const bool isDone =
         last.stage == JobState::Stage::Printed || last.stage == JobState::Stage::LeftQueue;
