@@ -3,6 +3,7 @@
 #include "catalogue_list.h"
 
 #include "catalogue_texts.h"
+#include "supply_catalogue.h"
 
 #include <vxsupplydatabase.h>
 
@@ -15,8 +16,6 @@ namespace VxKit {
 
 namespace {
 
-constexpr double metersPerInch = 0.0254;
-
 /// Null for what the catalogue does not know, which is negative.
 QJsonValue meters(double inches)
 {
@@ -26,16 +25,6 @@ QJsonValue meters(double inches)
 QJsonValue textOrNull(const QString& text)
 {
     return text.isEmpty() ? QJsonValue() : QJsonValue(text);
-}
-
-QJsonArray hexColors(const QList<int>& colors)
-{
-    QJsonArray list;
-    for (const int rgb : colors) {
-        if (rgb >= 0)
-            list.append(hexOf(rgb));
-    }
-    return list;
 }
 
 QJsonObject supply(const VXSupplyDatabase& database, const QString& sku)
@@ -51,7 +40,8 @@ QJsonObject supply(const VXSupplyDatabase& database, const QString& sku)
             {QStringLiteral("format"), textOrNull(database.supplyFormatName(sku))},
             {QStringLiteral("colorName"), textOrNull(colorName)},
             {QStringLiteral("colors"),
-             hexColors({database.supplyColorRGB(sku), database.supplySecColorRGB(sku)})},
+             QJsonArray::fromStringList(
+                 hexColors({database.supplyColorRGB(sku), database.supplySecColorRGB(sku)}))},
             {QStringLiteral("widthMeters"), meters(database.supplyWidth(sku))},
             {QStringLiteral("totalMeters"), meters(database.supplyLength(sku))},
             {QStringLiteral("labelMeters"), meters(label)},
@@ -75,7 +65,7 @@ QJsonObject ribbon(const VXSupplyDatabase& database, const QString& sku)
             {QStringLiteral("name"), textOrNull(nameOf(colorNames, type))},
             {QStringLiteral("material"), textOrNull(type)},
             {QStringLiteral("colorName"), textOrNull(colorNames.value(0))},
-            {QStringLiteral("colors"), hexColors(colors)},
+            {QStringLiteral("colors"), QJsonArray::fromStringList(hexColors(colors))},
             {QStringLiteral("widthMeters"), meters(database.supplyRibbonWidth(sku))},
             {QStringLiteral("totalMeters"), meters(database.supplyRibbonLength(sku))},
             {QStringLiteral("panels"), panels > 0 ? QJsonValue(panels) : QJsonValue()}};

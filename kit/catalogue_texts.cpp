@@ -11,9 +11,15 @@ QString cataloguePath()
     return QCoreApplication::applicationDirPath() + QLatin1String("/roll.db");
 }
 
-QString hexOf(int rgb)
+QStringList hexColors(const QList<int>& colors)
 {
-    return QStringLiteral("#%1").arg(static_cast<uint>(rgb) & 0xFFFFFFU, 6, 16, QLatin1Char('0'));
+    QStringList texts;
+    for (const int rgb : colors) {
+        if (rgb >= 0)
+            texts.append(QStringLiteral("#%1").arg(static_cast<uint>(rgb) & 0xFFFFFFU, 6, 16,
+                                                   QLatin1Char('0')));
+    }
+    return texts;
 }
 
 QString nameOf(QStringList colorNames, const QString& material)

@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -13,8 +14,8 @@ inline constexpr int mostPanels = 64;
 /// The file that the library's supply service reads.
 QString cataloguePath();
 
-/// A 0xRRGGBB number as "#rrggbb".
-QString hexOf(int rgb);
+/// 0xRRGGBB numbers as "#rrggbb", without those that are not known, which are negative.
+QStringList hexColors(const QList<int>& colors);
 
 /// The name of a supply or ribbon by its colours and its material, of which either may be missing.
 QString nameOf(QStringList colorNames, const QString& material);

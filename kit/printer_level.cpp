@@ -20,7 +20,6 @@ using VXPrinting::PrinterType;
 
 constexpr double inchesPerMillimeter = 0.0393701;
 constexpr double inchesPerFoot = 12.0;
-constexpr double metersPerInch = 0.0254;
 constexpr double newRibbonInches = 4725.0;
 constexpr quint32 longestMileage = 1000000;
 /// Lengths are single-precision numbers, so a roll of 1000 labels can come out as 999.9999.

@@ -3,6 +3,7 @@
 #include "printer_list_model.h"
 
 #include "printer_readings.h"
+#include "reading_words.h"
 #include "status_info.h"
 
 #include <QtCore/QDateTime>
@@ -39,32 +40,6 @@ template <typename Number>
 QVariant known(const std::optional<Number>& number)
 {
     return number ? QVariant::fromValue(*number) : QVariant();
-}
-
-/// An enumerator as a role has it: in lower camel case.
-template <typename Enum>
-QString nameOf(Enum enumerator)
-{
-    QString name =
-        QLatin1String(QMetaEnum::fromType<Enum>().valueToKey(static_cast<int>(enumerator)));
-    if (!name.isEmpty())
-        name[0] = name.at(0).toLower();
-    return name;
-}
-
-QString nameOf(Level::State state)
-{
-    switch (state) {
-    case Level::State::Empty:
-        return QStringLiteral("empty");
-    case Level::State::Loaded:
-        return QStringLiteral("loaded");
-    case Level::State::NotInCatalogue:
-        return QStringLiteral("notInCatalogue");
-    case Level::State::NotKnown:
-        break;
-    }
-    return QStringLiteral("notKnown");
 }
 
 QString nameOf(Level::MileageUnit unit)
@@ -115,7 +90,7 @@ constexpr std::array printerRoles{
                 }},
     PrinterRole{Model::WatchingRole, "watching", Field::Watching,
                 [](const PrinterReading& reading) -> QVariant {
-                    return nameOf(reading.watching());
+                    return wordOf(watchingWords, reading.watching());
                 }},
     PrinterRole{Model::StatusCodeRole, "statusCode", Field::Status,
                 [](const PrinterReading& reading) -> QVariant {
@@ -123,7 +98,7 @@ constexpr std::array printerRoles{
                 }},
     PrinterRole{Model::StatusKeyRole, "statusKey", Field::Status,
                 [](const PrinterReading& reading) {
-                    return known(statusInfo(reading.statusCode()).key);
+                    return known(statusKey(reading.statusCode()));
                 }},
     PrinterRole{Model::StatusTitleRole, "statusTitle", Field::Status,
                 [](const PrinterReading& reading) {
@@ -132,7 +107,7 @@ constexpr std::array printerRoles{
                 true},
     PrinterRole{Model::StatusSeverityRole, "statusSeverity", Field::Status,
                 [](const PrinterReading& reading) -> QVariant {
-                    return severityKey(statusInfo(reading.statusCode()).severity);
+                    return severityKey(statusSeverity(reading.statusCode()));
                 }},
     PrinterRole{Model::StatusExplanationRole, "statusExplanation", Field::Status,
                 [](const PrinterReading& reading) {
@@ -192,7 +167,7 @@ struct LevelRole
 constexpr std::array levelRoles{
     LevelRole{"State",
               [](const Level& level) -> QVariant {
-                  return nameOf(level.state);
+                  return wordOf(stateWords, level.state);
               }},
     LevelRole{"Identifier",
               [](const Level& level) {
@@ -298,7 +273,7 @@ QList<int> changedRoles(const PrinterReading& before, const PrinterReading& afte
 bool isPrinterInError(const PrinterReading& reading)
 {
     return reading.presence() == PrinterReading::Presence::Present &&
-           statusInfo(reading.statusCode()).severity == Severity::Error;
+           statusSeverity(reading.statusCode()) == Severity::Error;
 }
 
 } // namespace

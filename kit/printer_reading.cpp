@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #include "printer_reading.h"
 
+#include "slot_table.h"
+
 #include <QtCore/QSharedData>
 
 #include <array>
@@ -11,13 +13,6 @@
 namespace VxKit {
 
 namespace {
-
-constexpr std::array allSlots{Slot::Supply, Slot::Ribbon1, Slot::Ribbon2};
-
-constexpr std::size_t indexOf(Slot slot)
-{
-    return static_cast<std::size_t>(slot);
-}
 
 constexpr PrinterReading::Field fieldOf(Slot slot)
 {

@@ -4,6 +4,8 @@
 // A reading as JSON, as docs/schema/reading.schema.json describes it.
 #include "printer_reading.h"
 
+#include "reading_words.h"
+
 #include <QtCore/QJsonArray>
 #include <QtCore/QMetaEnum>
 
@@ -26,43 +28,14 @@ constexpr qsizetype mostColors = 64;
 constexpr double mostMeters = 1e6;
 constexpr double secondsOfAMinute = 60;
 
-template <typename Value>
-struct Word
-{
-    Value value;
-    const char* text;
-};
-
 constexpr std::array presences{
     Word<Presence>{Presence::Present, "present"},
     Word<Presence>{Presence::Gone, "gone"},
-};
-constexpr std::array watchings{
-    Word<Watching>{Watching::Watched, "watched"},
-    Word<Watching>{Watching::OfflineSinceDiscovery, "offlineSinceDiscovery"},
-    Word<Watching>{Watching::NetworkPrinter, "networkPrinter"},
-    Word<Watching>{Watching::NotManaged, "notManaged"},
-    Word<Watching>{Watching::NotDiscovered, "notDiscovered"},
-    Word<Watching>{Watching::Replaced, "replaced"},
-    Word<Watching>{Watching::Gone, "gone"},
-};
-constexpr std::array states{
-    Word<Level::State>{Level::State::NotKnown, "notKnown"},
-    Word<Level::State>{Level::State::Empty, "empty"},
-    Word<Level::State>{Level::State::Loaded, "loaded"},
-    Word<Level::State>{Level::State::NotInCatalogue, "notInCatalogue"},
 };
 constexpr std::array units{
     Word<Level::MileageUnit>{Level::MileageUnit::Millimeters, "millimeters"},
     Word<Level::MileageUnit>{Level::MileageUnit::Percent, "percent"},
 };
-
-template <typename Words, typename Value>
-QString wordOf(const Words& words, Value value)
-{
-    const auto found = std::ranges::find(words, value, &Word<Value>::value);
-    return QLatin1String(found == words.end() ? words.front().text : found->text);
-}
 
 // Writing /////////////////////////////////////////////////////////////////////////////////////////
 
@@ -96,7 +69,7 @@ QString modelName(PrinterType model)
 QJsonObject levelToJson(const Level& level)
 {
     return {
-        {QStringLiteral("state"), wordOf(states, level.state)},
+        {QStringLiteral("state"), wordOf(stateWords, level.state)},
         {QStringLiteral("identifier"), textOrNull(level.identifier)},
         {QStringLiteral("sku"), textOrNull(level.sku)},
         {QStringLiteral("name"), textOrNull(level.name)},
@@ -234,7 +207,7 @@ public:
         }
         Members members(value.toObject(), m_path + QLatin1String(name) + QLatin1Char('.'), m_fault);
         Level level;
-        level.state = members.word("state", states);
+        level.state = members.word("state", stateWords);
         level.identifier = members.text("identifier");
         level.sku = members.text("sku");
         level.name = members.text("name");
@@ -299,7 +272,7 @@ QJsonObject PrinterReading::toJson() const
         {QStringLiteral("serialNumber"), textOrNull(serialNumber())},
         {QStringLiteral("presence"), wordOf(presences, presence())},
         {QStringLiteral("goneSince"), timeOrNull(goneSince())},
-        {QStringLiteral("watching"), wordOf(watchings, watching())},
+        {QStringLiteral("watching"), wordOf(watchingWords, watching())},
         {QStringLiteral("statusCode"), statusCode()},
         {QStringLiteral("statusKey"), statusKey(statusCode())},
         {QStringLiteral("severity"), severityKey(statusSeverity(statusCode()))},
@@ -334,7 +307,7 @@ std::optional<PrinterReading> PrinterReading::fromJson(const QJsonObject& json, 
         reading.setGone(members.time("goneSince"));
     else if (!members.isNull("goneSince"))
         members.reject("goneSince", "is not null, though the printer is present");
-    reading.setWatching(members.word("watching", watchings));
+    reading.setWatching(members.word("watching", watchingWords));
     const auto code = members.wholeNumber<int>("statusCode");
     if (!code)
         members.reject("statusCode", "is null");

@@ -5,6 +5,7 @@
 #include "printer_level.h"
 #include "printer_status_controller.h"
 #include "printer_status_thread.h"
+#include "slot_table.h"
 #include "spooler_listing.h"
 #include "spooler_owners.h"
 #include "supply_catalogue.h"
@@ -38,13 +39,6 @@ Q_LOGGING_CATEGORY(kitLog, "vx.kit")
 
 /// How long a watched printer that the spooler no longer lists may take to report its new name.
 constexpr int patienceForName = 1000; // milliseconds
-
-constexpr std::array allSlots{Slot::Supply, Slot::Ribbon1, Slot::Ribbon2};
-
-constexpr std::size_t indexOf(Slot slot)
-{
-    return static_cast<std::size_t>(slot);
-}
 
 bool isError(int statusCode)
 {
@@ -104,6 +98,12 @@ struct Reading
     QString name() const { return value.name(); }
     bool isPresent() const { return value.presence() == Presence::Present; }
 };
+
+/// Whether a printer that is listed may be the one of a reading under another name.
+bool mayBeOne(const Reading& reading, const SpooledPrinter& printer)
+{
+    return printer.driver == reading.value.driver() && printer.port == reading.value.port();
+}
 
 struct Event
 {
@@ -612,8 +612,7 @@ bool PrinterReadings::Private::waitsForName(Reading& reading, const QList<Spoole
     if (m_hasWaitedForNames || !reading.watch || reading.watch->currentName != reading.name())
         return false;
     return std::ranges::any_of(listed, [&](const SpooledPrinter& printer) {
-        return printer.driver == reading.value.driver() && printer.port == reading.value.port() &&
-               !readings.contains(printer.name);
+        return mayBeOne(reading, printer) && !readings.contains(printer.name);
     });
 }
 
@@ -641,10 +640,8 @@ void PrinterReadings::Private::applyListing(const QList<SpooledPrinter>& listed,
         m_nameTimer.start();
     m_hasWaitedForNames = false;
     const auto maybeRenamed = [&](const SpooledPrinter& printer) {
-        return std::ranges::any_of(missing, [&](const Reading* reading) {
-            return printer.driver == reading->value.driver() &&
-                   printer.port == reading->value.port();
-        });
+        return std::ranges::any_of(
+            missing, [&](const Reading* reading) { return mayBeOne(*reading, printer); });
     };
 
     QStringList added;

@@ -34,10 +34,7 @@ CatalogueItem supplyItem(const QString& sku, VXIPCSUPPLYDController& service)
     item.material = record.materialName;
     item.colorName = record.colorName;
     item.name = nameOf({record.colorName, record.secColorName}, record.materialName);
-    for (const int rgb : {record.colorRGB, record.secColorRGB}) {
-        if (rgb >= 0)
-            item.colors.append(hexOf(rgb));
-    }
+    item.colors = hexColors({record.colorRGB, record.secColorRGB});
     item.length = knownLength(record.supplyLength);
     static const QSet<QString> formatsWithLabels{QStringLiteral("die-cut"),
                                                  QStringLiteral("sleeve"), QStringLiteral("tag")};
@@ -55,13 +52,13 @@ CatalogueItem ribbonItem(const QString& sku, VXIPCSUPPLYDController& service)
     item.sku = sku;
     item.material = service.supplyRibbonType(sku);
     QStringList colorNames;
+    QList<int> colors;
     const int panels = std::min(service.supplyRibbonPanels(sku), mostPanels);
     for (int panel = 1; panel <= panels; ++panel) {
-        const int rgb = service.supplyRibbonColorRGB(sku, panel);
-        if (rgb >= 0)
-            item.colors.append(hexOf(rgb));
+        colors.append(service.supplyRibbonColorRGB(sku, panel));
         colorNames.append(service.supplyRibbonColorName(sku, panel));
     }
+    item.colors = hexColors(colors);
     colorNames.removeAll(QString());
     item.colorName = colorNames.value(0);
     item.name = nameOf(colorNames, item.material);

@@ -13,6 +13,9 @@ class VXSupplyDatabase;
 
 namespace VxKit {
 
+/// The catalogue's lengths are in inches.
+inline constexpr double metersPerInch = 0.0254;
+
 /// What the catalogue knows of one supply or ribbon, as far as a level needs it.
 struct CatalogueItem
 {

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// Copyright The VxPrinterStatus authors
+//
+// The enumerators of readings as other programs see them, in JSON and in the model's roles.
+#pragma once
+
+#include "printer_reading.h"
+
+#include <algorithm>
+#include <array>
+
+namespace VxKit {
+
+template <typename Value>
+struct Word
+{
+    Value value;
+    const char* text;
+};
+
+inline constexpr std::array watchingWords{
+    Word<PrinterReading::Watching>{PrinterReading::Watching::Watched, "watched"},
+    Word<PrinterReading::Watching>{PrinterReading::Watching::OfflineSinceDiscovery,
+                                   "offlineSinceDiscovery"},
+    Word<PrinterReading::Watching>{PrinterReading::Watching::NetworkPrinter, "networkPrinter"},
+    Word<PrinterReading::Watching>{PrinterReading::Watching::NotManaged, "notManaged"},
+    Word<PrinterReading::Watching>{PrinterReading::Watching::NotDiscovered, "notDiscovered"},
+    Word<PrinterReading::Watching>{PrinterReading::Watching::Replaced, "replaced"},
+    Word<PrinterReading::Watching>{PrinterReading::Watching::Gone, "gone"},
+};
+inline constexpr std::array stateWords{
+    Word<Level::State>{Level::State::NotKnown, "notKnown"},
+    Word<Level::State>{Level::State::Empty, "empty"},
+    Word<Level::State>{Level::State::Loaded, "loaded"},
+    Word<Level::State>{Level::State::NotInCatalogue, "notInCatalogue"},
+};
+
+/// The word for a value; the first one for a value that is not in the table.
+template <typename Words, typename Value>
+QString wordOf(const Words& words, Value value)
+{
+    const auto found = std::ranges::find(words, value, &Word<Value>::value);
+    return QLatin1String(found == words.end() ? words.front().text : found->text);
+}
+
+} // namespace VxKit
