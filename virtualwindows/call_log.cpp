@@ -14,6 +14,19 @@ QString textOf(HANDLE handle)
     return QStringLiteral("0x") + QString::number(reinterpret_cast<quintptr>(handle), 16);
 }
 
+QString& lastOpenedPrinter()
+{
+    thread_local QString name;
+    return name;
+}
+
+void ArgumentTexts::add(HANDLE handle)
+{
+    if (!m_handle)
+        m_handle = handle;
+    m_texts.append(textOf(handle));
+}
+
 void ArgumentTexts::add(LPCWSTR wideText)
 {
     m_texts.append(wideText ? QString::fromUtf16(wideText) : QStringLiteral("null"));
@@ -48,9 +61,51 @@ std::size_t indexOfName(const QString& function)
 
 } // namespace
 
-DWORD Machine::Private::beginWatched(Function function, int number, const QStringList& arguments)
+QString Machine::Private::printerOf(Function function, const ArgumentTexts& arguments) const
 {
-    Call call{nameOf(function), arguments, QThread::currentThreadId()};
+    if (function == Function::OpenPrinterA || function == Function::OpenPrinterW)
+        return arguments.texts().value(0);
+    const auto found = objects.find(reinterpret_cast<quintptr>(arguments.handle()));
+    if (found != objects.end()) {
+        if (const auto* printer = dynamic_cast<PrinterHandleObject*>(found->second.get()))
+            return printer->openedAs;
+        if (const auto* change = dynamic_cast<ChangeNotification*>(found->second.get()))
+            return change->openedAs;
+    }
+    return lastOpenedPrinter();
+}
+
+DWORD Machine::Private::takeNextFailure(Function function, const ArgumentTexts& arguments)
+{
+    if (nextFailures.isEmpty())
+        return ERROR_SUCCESS;
+    const auto isMeant = [&](const NextFailure& plan) {
+        using Caller = CallFailure::Caller;
+        const CallFailure& failure = plan.failure;
+        const bool isPlanner = plan.planner == QThread::currentThreadId();
+        if (failure.function != nameOf(function) ||
+            (failure.caller == Caller::ThisThread && !isPlanner) ||
+            (failure.caller == Caller::OtherThreads && isPlanner))
+            return false;
+        if (!failure.value.isNull() &&
+            arguments.texts().value(1).compare(QString::fromUtf8(failure.value),
+                                               Qt::CaseInsensitive) != 0)
+            return false;
+        return failure.printer.isNull() ||
+               failure.printer.compare(printerOf(function, arguments), Qt::CaseInsensitive) == 0;
+    };
+    const auto found = std::find_if(nextFailures.begin(), nextFailures.end(), isMeant);
+    if (found == nextFailures.end() || found->failure.after-- > 0)
+        return ERROR_SUCCESS;
+    const DWORD error = found->failure.error;
+    nextFailures.erase(found);
+    updateAttention();
+    return error;
+}
+
+DWORD Machine::Private::beginWatched(Function function, int number, const ArgumentTexts& arguments)
+{
+    Call call{nameOf(function), arguments.texts(), QThread::currentThreadId()};
     std::function<void(const Call&)> calledHook;
     {
         const std::lock_guard guard(lock);
@@ -64,14 +119,19 @@ DWORD Machine::Private::beginWatched(Function function, int number, const QStrin
     }
     if (calledHook)
         calledHook(call);
-    return call.plannedError;
+    if (call.plannedError)
+        return call.plannedError;
+    // After the hook, which may have held the thread while this failure was planned.
+    const std::lock_guard guard(lock);
+    return takeNextFailure(function, arguments);
 }
 
 void Machine::Private::updateAttention()
 {
     const bool planned = std::any_of(failures.begin(), failures.end(),
                                      [](const auto& plans) { return !plans.isEmpty(); });
-    attention.store(recording || hook || planned, std::memory_order_release);
+    attention.store(recording || hook || planned || !nextFailures.isEmpty(),
+                    std::memory_order_release);
 }
 
 void Machine::recordCalls(bool record)
@@ -127,10 +187,28 @@ void Machine::failCallsFrom(const QString& function, int nth, quint32 error)
     d->updateAttention();
 }
 
+void Machine::failNextCall(const CallFailure& failure)
+{
+    const std::lock_guard guard(d->lock);
+    d->nextFailures.append({failure, QThread::currentThreadId()});
+    d->updateAttention();
+}
+
+int Machine::forgetNextFailures(const QString& printer)
+{
+    const std::lock_guard guard(d->lock);
+    const auto count = d->nextFailures.removeIf([&](const NextFailure& plan) {
+        return printer.isNull() || printer.compare(plan.failure.printer, Qt::CaseInsensitive) == 0;
+    });
+    d->updateAttention();
+    return static_cast<int>(count);
+}
+
 void Machine::clearFailures()
 {
     const std::lock_guard guard(d->lock);
     d->failures = {};
+    d->nextFailures.clear();
     d->updateAttention();
 }
 

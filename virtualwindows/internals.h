@@ -25,6 +25,7 @@
 namespace virtualwindows {
 
 class ApiCall;
+class ArgumentTexts;
 struct Printer;
 
 /// The object behind a handle.
@@ -86,6 +87,7 @@ struct ChangeNotification final : Waitable
     {}
 
     std::shared_ptr<Printer> printer; ///< null: all printers of the spooler
+    QString openedAs;                 ///< the printer's name when it was opened
     DWORD filter = 0;
     DWORD changes = 0;
     bool reportsJobStatuses = false; ///< the status of a job was asked for as a detail
@@ -131,6 +133,7 @@ struct PrinterHandleObject final : Object
     {}
 
     std::shared_ptr<Printer> printer; ///< null: the print server
+    QString openedAs;                 ///< the name that was given
     ACCESS_MASK access = 0;
     bool dead = false;
     quint32 openJob = 0; ///< number of the job being written; 0: none
@@ -153,6 +156,7 @@ struct Waiter
     bool done = false;
     DWORD result = WAIT_FAILED;
     bool endless = false;
+    QString lastOpened; ///< the name by which the thread opened a printer last
     std::chrono::steady_clock::time_point deadline;
     std::chrono::milliseconds drivenDeadline{};
     std::condition_variable wake;
@@ -163,6 +167,13 @@ struct FailurePlan
     int from = 0; ///< the number of the call since the last reset
     bool onwards = false;
     DWORD error = 0;
+};
+
+/// A CallFailure that has not happened yet.
+struct NextFailure
+{
+    CallFailure failure;
+    Qt::HANDLE planner; ///< the thread that planned it
 };
 
 struct DeviceClass
@@ -200,18 +211,25 @@ struct Machine::Private
     QList<Call> calls;
     std::function<void(const Call&)> hook;
     std::array<QList<FailurePlan>, functionNames.size()> failures;
+    QList<NextFailure> nextFailures;
 
     // Time and waits.
     bool driven = false;
     std::chrono::milliseconds drivenNow{};
     std::vector<Waiter*> waiting;
+    bool holdsNotifications = false;
+    bool failsOnlyAsPlanned = false;
     std::condition_variable waitingChanged;
     int watchers = 0; ///< threads in waitForWaitingThreads()
 
     /// Records a counted call and runs the hook. Returns the error that the call is planned to fail
     /// with, or 0.
-    DWORD beginWatched(Function function, int number, const QStringList& arguments);
+    DWORD beginWatched(Function function, int number, const ArgumentTexts& arguments);
     void updateAttention();
+    /// Uses up the first failure of failNextCall() that matches the call. Returns its error, or 0.
+    DWORD takeNextFailure(Function function, const ArgumentTexts& arguments);
+    /// The printer's name as CallFailure::printer describes it.
+    QString printerOf(Function function, const ArgumentTexts& arguments) const;
 
     // With the lock held, all of them.
     HANDLE open(const std::shared_ptr<Object>& object);
@@ -236,6 +254,10 @@ struct Machine::Private
     void signal(Waitable& object);
     bool trySatisfy(Waiter& waiter);
     void finish(Waiter& waiter, DWORD result);
+    /// The wait of the thread that opened a printer by this name last. Null if it does not wait.
+    Waiter* waiterOf(const QString& printer) const;
+    /// The printer that this thread waits for. Null if it waits for none.
+    Printer* watchedBy(const QString& printer) const;
     DWORD wait(std::span<const HANDLE> handles, bool all, DWORD milliseconds, const ApiCall& call);
     /// Blocks until the wait is over.
     void block(Waiter& waiter, std::unique_lock<std::mutex>& guard);
@@ -260,13 +282,14 @@ struct Machine::Private
     /// releases them.
     void updateJobs(Printer& printer);
     void changeJob(Printer& printer, PrintJob& job, DWORD status);
+    void setJob(Printer& printer, const JobSetup& setup);
     /// Removes a job from the queue, deleted before it was printed, or as soon as the printer has
     /// what is on its way.
     void deleteJob(Printer& printer, quint32 id);
     void stopPrinting(Printer& printer);
     void removePrinter(Printer& printer);
     void setSpoolerState(DWORD state);
-    bool isSpoolerRunning() const { return spoolerState == SERVICE_RUNNING; }
+    bool isSpoolerRunning() const { return spoolerState == SERVICE_RUNNING || failsOnlyAsPlanned; }
     /// The error for handles from before the spooler was stopped, which changes when it runs again.
     DWORD errorOfDeadHandles() const
     {
@@ -296,11 +319,14 @@ inline QString fromWide(LPCWSTR wideText)
 
 QString textOf(HANDLE handle);
 
+/// The name by which the calling thread opened a printer last, or tried to.
+QString& lastOpenedPrinter();
+
 /// The arguments of a call as the log shows them.
 class ArgumentTexts
 {
 public:
-    void add(HANDLE handle) { m_texts.append(textOf(handle)); }
+    void add(HANDLE handle);
     void add(LPCWSTR wideText);
     void add(LPCSTR narrowText);
     void add(DWORD number) { m_texts.append(QString::number(number)); }
@@ -309,9 +335,11 @@ public:
     void add(std::span<const HANDLE> handles); ///< an argument each
 
     const QStringList& texts() const { return m_texts; }
+    HANDLE handle() const { return m_handle; } ///< the first one; null: there is none
 
 private:
     QStringList m_texts;
+    HANDLE m_handle = nullptr;
 };
 
 /// One call of a stand-in function. Constructed as the first thing in the function, it counts the
@@ -330,7 +358,7 @@ public:
             return;
         ArgumentTexts texts;
         (texts.add(arguments), ...);
-        m_plannedError = windows.beginWatched(function, number, texts.texts());
+        m_plannedError = windows.beginWatched(function, number, texts);
     }
     Q_DISABLE_COPY_MOVE(ApiCall)
     ~ApiCall() = default;

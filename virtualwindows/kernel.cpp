@@ -24,6 +24,11 @@ bool hasDuplicates(std::vector<std::shared_ptr<Waitable>> objects)
     return std::adjacent_find(objects.begin(), objects.end()) != objects.end();
 }
 
+bool isNotification(const std::shared_ptr<Waitable>& object)
+{
+    return object && object->kind == Object::Kind::ChangeNotification;
+}
+
 } // namespace
 
 // Waits, and what ends them.
@@ -100,10 +105,10 @@ DWORD Machine::Private::wait(std::span<const HANDLE> handles, bool all, DWORD mi
             continue;
         }
         const auto found = objects.find(reinterpret_cast<quintptr>(handle));
-        const bool isNotification =
+        const bool isChange =
             found != objects.end() && found->second->kind == Object::Kind::ChangeNotification;
         auto object = find<Waitable>(
-            handle, isNotification ? Object::Kind::ChangeNotification : Object::Kind::Event, call);
+            handle, isChange ? Object::Kind::ChangeNotification : Object::Kind::Event, call);
         if (!object)
             return WAIT_FAILED;
         waiter.objects.push_back(std::move(object));
@@ -117,6 +122,7 @@ DWORD Machine::Private::wait(std::span<const HANDLE> handles, bool all, DWORD mi
     if (milliseconds == 0)
         return WAIT_TIMEOUT;
 
+    waiter.lastOpened = lastOpenedPrinter();
     waiter.endless = milliseconds == INFINITE;
     const std::chrono::milliseconds timeOut(milliseconds);
     waiter.deadline = std::chrono::steady_clock::now() + timeOut;
@@ -153,6 +159,60 @@ void Machine::Private::block(Waiter& waiter, std::unique_lock<std::mutex>& guard
         if (!waiter.done && !waiter.endless && Clock::now() >= waiter.deadline)
             finish(waiter, WAIT_TIMEOUT);
     }
+}
+
+Waiter* Machine::Private::waiterOf(const QString& printer) const
+{
+    const auto found = std::find_if(waiting.begin(), waiting.end(), [&](const Waiter* waiter) {
+        return waiter->lastOpened.compare(printer, Qt::CaseInsensitive) == 0;
+    });
+    return found == waiting.end() ? nullptr : *found;
+}
+
+bool Machine::endWaitByTimeOut(const QString& printer)
+{
+    const std::lock_guard guard(d->lock);
+    Waiter* const waiter = d->waiterOf(printer);
+    if (!waiter || waiter->endless)
+        return false;
+    d->finish(*waiter, WAIT_TIMEOUT);
+    return true;
+}
+
+bool Machine::endWaitByNotification(const QString& printer)
+{
+    const std::lock_guard guard(d->lock);
+    Waiter* const waiter = d->waiterOf(printer);
+    if (!waiter)
+        return false;
+    const auto found = std::find_if(waiter->objects.begin(), waiter->objects.end(), isNotification);
+    if (found == waiter->objects.end())
+        return false;
+    // Not signalled: that of a stopped spooler could not be re-armed.
+    d->finish(*waiter, WAIT_OBJECT_0 + static_cast<DWORD>(found - waiter->objects.begin()));
+    return true;
+}
+
+Printer* Machine::Private::watchedBy(const QString& printer) const
+{
+    const Waiter* const waiter = waiterOf(printer);
+    if (!waiter)
+        return nullptr;
+    const auto found = std::find_if(waiter->objects.begin(), waiter->objects.end(), isNotification);
+    return found == waiter->objects.end()
+               ? nullptr
+               : static_cast<const ChangeNotification&>(**found).printer.get();
+}
+
+QString Machine::watchedPrinter(const QString& printer) const
+{
+    const std::lock_guard guard(d->lock);
+    const Printer* const watched = d->watchedBy(printer);
+    const auto isWatched = [watched](const std::shared_ptr<Printer>& each) {
+        return each.get() == watched;
+    };
+    return std::any_of(d->printers.cbegin(), d->printers.cend(), isWatched) ? watched->setup.name
+                                                                            : QString();
 }
 
 void Machine::driveTime(bool driven)

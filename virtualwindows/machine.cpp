@@ -5,6 +5,7 @@
 #include <QtCore/QtEndian>
 
 #include <algorithm>
+#include <utility>
 
 namespace virtualwindows {
 
@@ -57,6 +58,9 @@ void Machine::reset()
     d->recording = false;
     d->hook = nullptr;
     d->failures = {};
+    d->nextFailures.clear();
+    d->holdsNotifications = false;
+    d->failsOnlyAsPlanned = false;
     for (std::atomic<int>& count : d->counts)
         count = 0;
     d->drivenNow = {};
@@ -100,6 +104,8 @@ void Machine::Private::rebuildNames()
 void Machine::Private::notify(const Printer* printer, DWORD change, const PrintJob* job)
 {
     constexpr std::size_t mostJobStatuses = 1000;
+    if (holdsNotifications)
+        return;
     std::erase_if(notifications, [](const auto& notification) { return notification.expired(); });
     for (const auto& entry : notifications) {
         const std::shared_ptr<ChangeNotification> notification = entry.lock();
@@ -161,6 +167,15 @@ Printer& existing(Machine::Private& machine, const QString& name)
     return *printer;
 }
 
+void changeValues(Printer& printer, const QList<PrinterValue>& values,
+                  const QList<QByteArray>& unpublished)
+{
+    for (const PrinterValue& value : values)
+        printer.values.insert(value.name.toLower(), Value::fromNarrow(value.type, value.data));
+    for (const QByteArray& name : unpublished)
+        printer.values.remove(name.toLower());
+}
+
 template <typename Change>
 void changePrinter(Machine::Private& machine, const QString& name, Change change)
 {
@@ -192,7 +207,7 @@ void Machine::Private::removePrinter(Printer& printer)
 {
     if (defaultPrinter == printer.setup.name)
         defaultPrinter = QString();
-    printer.deleted = true;
+    printer.deleted = !failsOnlyAsPlanned;
     stopPrinting(printer);
     notify(&printer, PRINTER_CHANGE_DELETE_PRINTER);
     printers.removeIf([&](const auto& entry) { return entry.get() == &printer; });
@@ -252,6 +267,18 @@ void Machine::limitWrites(const QString& printer, quint32 bytes)
     existing(*d, printer).writeLimit = bytes;
 }
 
+QString Machine::defaultPrinter() const
+{
+    const std::lock_guard guard(d->lock);
+    return d->defaultPrinter;
+}
+
+bool Machine::hasPrinter(const QString& name) const
+{
+    const std::lock_guard guard(d->lock);
+    return d->printerNamed(name) != nullptr;
+}
+
 QStringList Machine::printers() const
 {
     const std::lock_guard guard(d->lock);
@@ -268,21 +295,57 @@ void Machine::publish(const QString& printer, const PrinterValue& value)
 
 void Machine::publish(const QString& printer, const QList<PrinterValue>& values)
 {
-    changePrinter(*d, printer, [&](Printer& entry) {
-        for (const PrinterValue& value : values)
-            entry.values.insert(value.name.toLower(), Value::fromNarrow(value.type, value.data));
-    });
+    publish(printer, values, {});
+}
+
+void Machine::publish(const QString& printer, const QList<PrinterValue>& values,
+                      const QList<QByteArray>& unpublished)
+{
+    changePrinter(*d, printer, [&](Printer& entry) { changeValues(entry, values, unpublished); });
+}
+
+bool Machine::publishWatched(const QString& printer, const QList<PrinterValue>& values,
+                             const QList<QByteArray>& unpublished)
+{
+    const std::lock_guard guard(d->lock);
+    Printer* const watched = d->watchedBy(printer);
+    if (!watched)
+        return false;
+    changeValues(*watched, values, unpublished);
+    d->notify(watched, PRINTER_CHANGE_SET_PRINTER);
+    d->updateJobs(*watched);
+    return true;
 }
 
 void Machine::unpublish(const QString& printer, const QByteArray& valueName)
 {
-    changePrinter(*d, printer, [&](Printer& entry) { entry.values.remove(valueName.toLower()); });
+    publish(printer, {}, {valueName});
+}
+
+QList<QByteArray> Machine::valueNames(const QString& printer) const
+{
+    const std::lock_guard guard(d->lock);
+    return existing(*d, printer).values.keys();
 }
 
 void Machine::notify(const QString& printer, quint32 change)
 {
     const std::lock_guard guard(d->lock);
+    const bool holds = std::exchange(d->holdsNotifications, false);
     d->notify(&existing(*d, printer), change);
+    d->holdsNotifications = holds;
+}
+
+void Machine::holdNotifications(bool hold)
+{
+    const std::lock_guard guard(d->lock);
+    d->holdsNotifications = hold;
+}
+
+void Machine::failOnlyAsPlanned(bool only)
+{
+    const std::lock_guard guard(d->lock);
+    d->failsOnlyAsPlanned = only;
 }
 
 QList<PrintJob> Machine::jobs(const QString& printer) const
@@ -290,6 +353,24 @@ QList<PrintJob> Machine::jobs(const QString& printer) const
     const std::lock_guard guard(d->lock);
     d->catchUp();
     return existing(*d, printer).jobs;
+}
+
+void Machine::setJob(const QString& printer, const JobSetup& job)
+{
+    const std::lock_guard guard(d->lock);
+    d->catchUp();
+    d->setJob(existing(*d, printer), job);
+}
+
+void Machine::removeJob(const QString& printer, quint32 id)
+{
+    const std::lock_guard guard(d->lock);
+    d->catchUp();
+    Printer& from = existing(*d, printer);
+    const bool isQueued = std::ranges::any_of(
+        from.jobs, [id](const PrintJob& job) { return job.queued && job.id == id; });
+    if (isQueued)
+        d->deleteJob(from, id);
 }
 
 } // namespace virtualwindows

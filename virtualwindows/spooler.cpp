@@ -115,6 +115,8 @@ ACCESS_MASK accessOf(const Defaults* defaults)
 BOOL openPrinter(const ApiCall& call, const std::optional<QString>& name, LPHANDLE result,
                  ACCESS_MASK access)
 {
+    if (name)
+        lastOpenedPrinter() = *name;
     if (call.failsAsPlanned())
         return FALSE;
     if (!result)
@@ -128,6 +130,7 @@ BOOL openPrinter(const ApiCall& call, const std::optional<QString>& name, LPHAND
     // Without a name it is the print server; no printer has an empty name.
     if (name) {
         object->printer = machine().printerNamed(*name);
+        object->openedAs = *name;
         if (!object->printer)
             return failWith(ERROR_INVALID_PRINTER_NAME, FALSE);
         if (!object->printer->setup.administrable && (access & rightsOfAdministrators))
@@ -723,6 +726,7 @@ HANDLE WINAPI FindFirstPrinterChangeNotification(HANDLE hPrinter, DWORD fdwFilte
 
     auto notification = std::make_shared<ChangeNotification>();
     notification->printer = object->printer;
+    notification->openedAs = object->openedAs;
     notification->filter = fdwFilter;
     notification->reportsJobStatuses = options != nullptr;
     machine().notifications.push_back(notification);

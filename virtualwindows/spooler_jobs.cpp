@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <vector>
 
 using namespace virtualwindows;
@@ -117,6 +118,29 @@ void Machine::Private::stopPrinting(Printer& printer)
     std::erase(movingPrinters, &printer);
 }
 
+void Machine::Private::setJob(Printer& printer, const JobSetup& setup)
+{
+    PrintJob* job = findJob(printer, setup.id);
+    const bool isNew = !job;
+    if (isNew) {
+        // A printed job of the same number is forgotten.
+        printer.jobs.removeIf([&](const PrintJob& entry) { return entry.id == setup.id; });
+        job = &printer.jobs.emplaceBack();
+        job->id = setup.id;
+        job->isSet = true;
+        job->submitted = QDateTime::currentDateTimeUtc();
+        if (setup.id >= nextJob && setup.id < std::numeric_limits<quint32>::max())
+            nextJob = setup.id + 1;
+    }
+    job->document = setup.document;
+    job->user = setup.user;
+    job->datatype = setup.datatype;
+    job->status = setup.status;
+    job->pageCount = setup.pages;
+    job->byteCount = setup.bytes;
+    notify(&printer, isNew ? PRINTER_CHANGE_ADD_JOB : PRINTER_CHANGE_SET_JOB, job);
+}
+
 void Machine::Private::deleteJob(Printer& printer, quint32 id)
 {
     PrintJob* const job = findJob(printer, id);
@@ -137,7 +161,7 @@ void Machine::Private::updateJobs(Printer& printer)
     if (printer.deleted || printer.jobs.isEmpty())
         return;
     for (;;) {
-        PrintJob* job = findJob(printer, printer.jobInPrint);
+        PrintJob* job = printer.jobInPrint ? findJob(printer, printer.jobInPrint) : nullptr;
         if (!job) {
             stopPrinting(printer);
             job = isQueueHeld(printer) ? nullptr : firstPrintableJob(printer);
@@ -232,13 +256,13 @@ Record describeCommon(const QueuedJob& entry, RecordBlock& block)
     record.JobId = job.id;
     record.pPrinterName = block.addIfAny(entry.printer->setup.name);
     record.pMachineName = block.add(u"\\\\VIRTUAL");
-    record.pUserName = block.add(u"User");
+    record.pUserName = block.add(job.user.isNull() ? QStringLiteral("User") : job.user);
     record.pDocument = block.add(job.document);
     record.pDatatype = block.add(job.datatype.isNull() ? QStringLiteral("RAW") : job.datatype);
     record.Status = job.status;
     record.Priority = usualPriority;
     record.Position = entry.position;
-    record.TotalPages = static_cast<DWORD>(job.pages.size());
+    record.TotalPages = job.isSet ? job.pageCount : static_cast<DWORD>(job.pages.size());
     record.PagesPrinted = (job.status & JOB_STATUS_PRINTED) ? record.TotalPages : 0;
     record.Submitted = systemTime(job.submitted);
     return record;
@@ -256,6 +280,7 @@ JOB_INFO_2W describe(const QueuedJob& entry, RecordBlock& block, JOB_INFO_2W*)
     record.pPrintProcessor = block.add(u"winprint");
     record.pParameters = block.add();
     record.pDriverName = block.addIfAny(entry.printer->setup.driver);
+    record.Size = entry.job->byteCount;
     for (const QByteArray& page : entry.job->pages)
         record.Size += static_cast<DWORD>(page.size());
     return record;

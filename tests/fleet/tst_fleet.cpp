@@ -5,6 +5,7 @@
 #include "patience.h"
 
 #include "printer_status_thread.h"
+#include "printer_values.h"
 #include "virtualwindows/fleet.h"
 #include "windows_printer_info.h"
 
@@ -46,6 +47,13 @@ QString errorOfFile(const QString& fileName)
     return errorOfReading([&] { return readFleet(fileName); });
 }
 
+/// A fleet of one printer whose driver publishes one value, on the second line.
+QByteArray fleetWith(const QByteArray& name, const QByteArray& value)
+{
+    return "{\"printers\": [{\"name\": \"P\", \"driver\": \"D\", \"values\": {\n\"" + name +
+           "\": " + value + "}}]}";
+}
+
 } // namespace
 
 class FleetTest : public MachineTest
@@ -59,6 +67,12 @@ private Q_SLOTS:
     void smallestFleetHasDefaults();
     void printerTakesAllItsKeys();
     void valuesAreOfEachKind();
+    void everyValueThatTheLibraryReadsIsKnown_data();
+    void everyValueThatTheLibraryReadsIsKnown();
+    void unknownValuesArePublishedAsTheyAre();
+    void rawValuesDescribeABrokenDriver();
+    void nameThatIsNearlyKnownIsRefused_data();
+    void nameThatIsNearlyKnownIsRefused();
     void bytesMayBeOfAnyLength_data();
     void bytesMayBeOfAnyLength();
     void devicesReachTheRegistry();
@@ -179,6 +193,119 @@ void FleetTest::valuesAreOfEachKind()
     QCOMPARE(values.at(2).type, quint32(REG_BINARY));
     QCOMPARE(values.at(2).data, QByteArray("\x00\xff\x10", 3));
     QCOMPARE(values.at(3).data, QByteArray("\0", 1));
+}
+
+// The fleet reader cannot include the library's table of values, so it has one of its own.
+void FleetTest::everyValueThatTheLibraryReadsIsKnown_data()
+{
+    QTest::addColumn<bool>("isText");
+
+    int count = 0;
+    for (const auto& value : {printer_values::supplyId, printer_values::statusCode,
+                              printer_values::softwareVersion, printer_values::ethernetConfig}) {
+        QTest::newRow(value.name) << true;
+        ++count;
+    }
+    for (const auto& value :
+         {printer_values::ribbon1Id, printer_values::ribbon2Id, printer_values::supplyMileage,
+          printer_values::ribbon1Mileage, printer_values::ribbon2Mileage,
+          printer_values::updateProgress, printer_values::updateError}) {
+        QTest::newRow(value.name) << false;
+        ++count;
+    }
+    QCOMPARE(count, 11);
+}
+
+void FleetTest::everyValueThatTheLibraryReadsIsKnown()
+{
+    QFETCH(const bool, isText);
+    const QByteArray name = QTest::currentDataTag();
+    const QString place =
+        QStringLiteral("fleet.json:2: printers[0].values.%1: ").arg(QLatin1String(name));
+    const QString remedy =
+        QStringLiteral(". For a driver that publishes it wrongly, write {\"raw\": VALUE}");
+    const QByteArray text = "\"5\"";
+    const QByteArray number = "5";
+    const QByteArray bytes = R"({"binary": "05000000"})";
+    QCOMPARE(errorOf(fleetWith(name, isText ? text : number)), QStringLiteral("accepted"));
+    QCOMPARE(errorOf(fleetWith(name, bytes)), QStringLiteral("accepted"));
+    QCOMPARE(errorOf(fleetWith(name, isText ? number : text)),
+             place +
+                 (isText ? QStringLiteral("expected a string or {\"binary\": \"hexadecimal "
+                                          "digits\"}, as the library reads it; found 5")
+                         : QStringLiteral("expected a number or {\"binary\": \"hexadecimal "
+                                          "digits\"}, as the library reads it; found \"5\"")) +
+                 remedy);
+    // The spooler does not distinguish upper and lower case.
+    QVERIFY(errorOf(fleetWith(name.toUpper(), isText ? number : text)).endsWith(remedy));
+}
+
+void FleetTest::unknownValuesArePublishedAsTheyAre()
+{
+    for (const char* name : {"HeadTemperature", "Ribbon3Identifier", "Ribbon3Mileage", "Status",
+                             "Code", "SupplyMileage", "UpdateTime", "A", ""}) {
+        for (const char* value : {"\"5\"", "5", R"({"binary": ""})"})
+            QCOMPARE(errorOf(fleetWith(name, value)), QStringLiteral("accepted"));
+    }
+}
+
+void FleetTest::rawValuesDescribeABrokenDriver()
+{
+    const QList<PrinterValue> values =
+        fleetOf(R"({"printers": [{"name": "P", "driver": "D", "values": {
+                   "StatusCode": {"raw": 5}, "Mileage": {"raw": "76200"},
+                   "StatusCod": {"raw": {"binary": "00ff"}}}}],
+                   "timeline": [{"at": 1, "printer": "P", "values": {"Mileage": {"raw": "1"}},
+                                 "unpublish": ["StatusCode", {"raw": "StatusCod"}]}]})")
+            .printers.first()
+            .values;
+    QCOMPARE(values.size(), 3);
+    QCOMPARE(values.at(0).type, quint32(REG_DWORD));
+    QCOMPARE(values.at(1).type, quint32(REG_SZ));
+    QCOMPARE(values.at(1).data, QByteArray("76200\0", 6));
+    QCOMPARE(values.at(2).name, QByteArray("StatusCod"));
+    QCOMPARE(values.at(2).data, QByteArray("\x00\xff", 2));
+
+    const QString place = QStringLiteral("fleet.json:2: printers[0].values.");
+    QCOMPARE(errorOf(fleetWith("Mileage", R"({"raw": true})")),
+             place + QStringLiteral("Mileage.raw: expected a string, a number or {\"binary\": "
+                                    "\"hexadecimal digits\"}"));
+    QCOMPARE(errorOf(fleetWith("Mileage", R"({"raw": 1, "binary": "00"})")),
+             place + QStringLiteral("Mileage.binary: unknown key; expected one of raw"));
+}
+
+void FleetTest::nameThatIsNearlyKnownIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("meant");
+    QTest::newRow("a character left out") << QByteArray("StatusCod") << "StatusCode";
+    QTest::newRow("a character added") << QByteArray("StatusCodes") << "StatusCode";
+    QTest::newRow("a character exchanged") << QByteArray("MiLaage") << "Mileage";
+    QTest::newRow("two characters swapped") << QByteArray("Mielage") << "Mileage";
+    QTest::newRow("twice") << QByteArray("EtherntConfg") << "EthernetConfig";
+    QTest::newRow("another case") << QByteArray("UPDATEPROGRES") << "UpdateProgress";
+    QTest::newRow("a space") << QByteArray("Software Version") << "SoftwareVersion";
+    QTest::newRow("no digit") << QByteArray("RibbonIdentifier") << "Ribbon1Identifier";
+    QTest::newRow("the nearest of two") << QByteArray("Ribon2Mileage") << "Ribbon2Mileage";
+}
+
+void FleetTest::nameThatIsNearlyKnownIsRefused()
+{
+    QFETCH(const QByteArray, name);
+    QFETCH(const QString, meant);
+    const QString shown = QString::fromLatin1(name);
+    const QString question =
+        QStringLiteral("unknown value \"%1\"; did you mean \"%2\"? If the driver has a value of "
+                       "that name, write {\"raw\": ")
+            .arg(shown, meant);
+    QCOMPARE(errorOf(fleetWith(name, "1")),
+             QStringLiteral("fleet.json:2: printers[0].values.%1: ").arg(shown) + question +
+                 QStringLiteral("VALUE}"));
+    QCOMPARE(errorOf(R"({"printers": [{"name": "P", "driver": "D"}], "timeline": [{"at": 1,
+             "printer": "P", "unpublish": [")" +
+                     name + R"("]}]})"),
+             QStringLiteral("fleet.json:2: timeline[0].unpublish[0]: ") + question +
+                 QStringLiteral("\"NAME\"}"));
 }
 
 void FleetTest::bytesMayBeOfAnyLength_data()

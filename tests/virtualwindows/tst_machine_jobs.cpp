@@ -65,6 +65,8 @@ private Q_SLOTS:
     void tooManyDetailsAreDiscarded();
     void otherDetailsAreRefused();
     void partOfTheBytesIsTaken();
+    void setJobStaysAsItIs();
+    void jobCanHaveAnyNumber();
 
 private:
     DWORD print();
@@ -442,6 +444,46 @@ void MachineJobsTest::partOfTheBytesIsTaken()
     QCOMPARE(written, DWORD{2});
     QVERIFY(EndDocPrinter(m_printer));
     QCOMPARE(machine().jobs(printerName).first().pages, QList<QByteArray>{"ab"});
+}
+
+void MachineJobsTest::setJobStaysAsItIs()
+{
+    HANDLE change = FindFirstPrinterChangeNotification(m_printer, PRINTER_CHANGE_JOB, 0, nullptr);
+    const auto changes = [change] {
+        DWORD seen = 0;
+        FindNextPrinterChangeNotification(change, &seen, nullptr, nullptr);
+        return seen;
+    };
+    machine().setJob(printerName, {.id = 41, .status = JOB_STATUS_PRINTING});
+    QCOMPARE(changes(), DWORD(PRINTER_CHANGE_ADD_JOB));
+    const DWORD printed = print();
+    QCOMPARE(printed, DWORD(42));
+    machine().advance(1h);
+    changes();
+    QCOMPARE(queue(), (QList<ListedJob>{{41, JOB_STATUS_PRINTING, 1}}));
+    machine().setJob(printerName, {.id = 41, .status = JOB_STATUS_ERROR});
+    QCOMPARE(changes(), DWORD(PRINTER_CHANGE_SET_JOB));
+    QCOMPARE(queue(), (QList<ListedJob>{{41, JOB_STATUS_ERROR, 1}}));
+    machine().removeJob(printerName, 40);
+    QCOMPARE(changes(), DWORD(0));
+    machine().removeJob(printerName, 41);
+    QCOMPARE(changes(), DWORD(PRINTER_CHANGE_DELETE_JOB));
+    QCOMPARE(queue(), QList<ListedJob>());
+    FindClosePrinterChangeNotification(change);
+}
+
+void MachineJobsTest::jobCanHaveAnyNumber()
+{
+    // 0 stands for none elsewhere, and no number follows the highest one.
+    machine().setJob(printerName, {.id = 0, .status = JOB_STATUS_PAUSED});
+    machine().setJob(printerName, {.id = 0xFFFFFFFF, .status = JOB_STATUS_PAUSED});
+    const DWORD printed = print();
+    QCOMPARE(printed, DWORD(1));
+    machine().advance(1h);
+    QCOMPARE(queue(),
+             (QList<ListedJob>{{0, JOB_STATUS_PAUSED, 1}, {0xFFFFFFFF, JOB_STATUS_PAUSED, 2}}));
+    QVERIFY(control(0, JOB_CONTROL_DELETE));
+    QCOMPARE(queue(), (QList<ListedJob>{{0xFFFFFFFF, JOB_STATUS_PAUSED, 1}}));
 }
 
 QTEST_GUILESS_MAIN(MachineJobsTest)

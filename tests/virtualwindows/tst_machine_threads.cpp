@@ -5,6 +5,7 @@
 #include "machine_calls.h"
 #include "patience.h"
 
+#include <array>
 #include <atomic>
 #include <thread>
 #include <vector>
@@ -28,6 +29,35 @@ qint64 readNumber(HANDLE printer)
                : -1;
 }
 
+/// A thread that waits once for changes of a printer.
+class Watcher
+{
+public:
+    explicit Watcher(const QString& name)
+        : m_thread([this, name] {
+            const HANDLE printer = openHandle(name);
+            const HANDLE stop = openEvent();
+            const HANDLE change = openNotification(printer);
+            const std::array<HANDLE, 2> objects{stop, change};
+            m_result = WaitForMultipleObjects(2, objects.data(), FALSE, watchdog);
+            FindClosePrinterChangeNotification(change);
+            CloseHandle(stop);
+            ClosePrinter(printer);
+        })
+    {}
+
+    /// What ended its wait.
+    DWORD result()
+    {
+        m_thread.join();
+        return m_result;
+    }
+
+private:
+    DWORD m_result = 0;
+    std::jthread m_thread;
+};
+
 } // namespace
 
 class MachineThreadsTest : public MachineTest
@@ -48,6 +78,12 @@ private Q_SLOTS:
     void callsOfAllThreadsAreRecorded();
     void plannedFailureHitsOneThread();
     void serviceCanBeStoppedUnderWatchers();
+    void heldNotificationsAreNotSignalled();
+    void oneWaitCanBeEnded_data();
+    void oneWaitCanBeEnded();
+    void waitOfAStoppedSpoolerCanBeEnded();
+    void watchedPrinterIsKnownByItsOldName();
+    void printerCanStayWatchedWhateverHappens();
 };
 
 void MachineThreadsTest::noWakeUpIsLostBetweenTwoThreads()
@@ -448,6 +484,113 @@ void MachineThreadsTest::serviceCanBeStoppedUnderWatchers()
     }
     QCOMPARE(wrong.load(), 0);
     QCOMPARE(machine().openHandles(), 0);
+}
+
+void MachineThreadsTest::heldNotificationsAreNotSignalled()
+{
+    machine().addPrinter({.name = printerName});
+    const HANDLE printer = openHandle();
+    const HANDLE change = openNotification(printer);
+    machine().holdNotifications();
+    machine().publish(printerName, PrinterValue::number("Mileage", 5));
+    machine().setStatus(printerName, 1);
+    QVERIFY(!isSignalled(change));
+    QCOMPARE(readNumber(printer), 5);
+    machine().notify(printerName, PRINTER_CHANGE_SET_PRINTER);
+    QVERIFY(isSignalled(change));
+    QCOMPARE(takeChanges(change), DWORD(PRINTER_CHANGE_SET_PRINTER));
+
+    machine().holdNotifications(false);
+    QVERIFY(!isSignalled(change));
+    machine().publish(printerName, PrinterValue::number("Mileage", 6));
+    QVERIFY(isSignalled(change));
+    FindClosePrinterChangeNotification(change);
+    ClosePrinter(printer);
+}
+
+void MachineThreadsTest::oneWaitCanBeEnded_data()
+{
+    QTest::addColumn<bool>("byTimeOut");
+    QTest::addColumn<DWORD>("result");
+    QTest::newRow("time-out") << true << DWORD(WAIT_TIMEOUT);
+    QTest::newRow("notification") << false << DWORD(WAIT_OBJECT_0 + 1);
+}
+
+void MachineThreadsTest::oneWaitCanBeEnded()
+{
+    QFETCH(const bool, byTimeOut);
+    QFETCH(const DWORD, result);
+    const auto end = [&](const QString& printer) {
+        return byTimeOut ? machine().endWaitByTimeOut(printer)
+                         : machine().endWaitByNotification(printer);
+    };
+    machine().driveTime();
+    machine().addPrinter({.name = printerName});
+    machine().addPrinter({.name = QStringLiteral("Other")});
+    QVERIFY(!end(printerName));
+    Watcher first(printerName);
+    Watcher second(QStringLiteral("Other"));
+    QVERIFY(machine().waitForWaitingThreads(2));
+    QVERIFY(!end(QStringLiteral("Nobody's")));
+    QVERIFY(end(QStringLiteral("OTHER")));
+    QCOMPARE(second.result(), result);
+    QCOMPARE(machine().waitingThreads(), 1);
+    QVERIFY(end(printerName));
+    QCOMPARE(first.result(), result);
+}
+
+void MachineThreadsTest::waitOfAStoppedSpoolerCanBeEnded()
+{
+    machine().driveTime();
+    machine().addPrinter({.name = printerName});
+    Watcher watcher(printerName);
+    QVERIFY(machine().waitForWaitingThreads(1));
+    machine().stopSpooler();
+    QVERIFY(machine().endWaitByNotification(printerName));
+    QCOMPARE(watcher.result(), DWORD(WAIT_OBJECT_0 + 1));
+}
+
+void MachineThreadsTest::watchedPrinterIsKnownByItsOldName()
+{
+    machine().driveTime();
+    machine().addPrinter({.name = printerName});
+    QCOMPARE(machine().watchedPrinter(printerName), QString());
+    Watcher watcher(printerName);
+    QVERIFY(machine().waitForWaitingThreads(1));
+    QCOMPARE(machine().watchedPrinter(printerName), printerName);
+    machine().holdNotifications();
+    machine().renamePrinter(printerName, QStringLiteral("New"));
+    QCOMPARE(machine().watchedPrinter(printerName), QStringLiteral("New"));
+    machine().removePrinter(QStringLiteral("New"));
+    QCOMPARE(machine().watchedPrinter(printerName), QString());
+    QVERIFY(machine().endWaitByNotification(printerName));
+    watcher.result();
+}
+
+void MachineThreadsTest::printerCanStayWatchedWhateverHappens()
+{
+    machine().driveTime();
+    machine().addPrinter({.name = printerName});
+    const HANDLE printer = openHandle();
+    Watcher watcher(printerName);
+    QVERIFY(machine().waitForWaitingThreads(1));
+    machine().holdNotifications();
+    machine().failOnlyAsPlanned();
+    machine().removePrinter(printerName);
+    QCOMPARE(machine().printers(), QStringList());
+    QCOMPARE(machine().watchedPrinter(printerName), QString());
+    QVERIFY(!machine().publishWatched(QStringLiteral("Other"), {}, {}));
+    QVERIFY(machine().publishWatched(printerName, {PrinterValue::number("Mileage", 5)}, {}));
+    QCOMPARE(readNumber(printer), 5);
+    QVERIFY(machine().publishWatched(printerName, {}, {"MILEAGE"}));
+    QCOMPARE(readNumber(printer), -1);
+    machine().stopSpooler();
+    QVERIFY(machine().publishWatched(printerName, {PrinterValue::number("Mileage", 6)}, {}));
+    QCOMPARE(readNumber(printer), 6);
+    QCOMPARE(machine().spoolerState(), DWORD(SERVICE_STOPPED));
+    QVERIFY(machine().endWaitByNotification(printerName));
+    watcher.result();
+    ClosePrinter(printer);
 }
 
 QTEST_GUILESS_MAIN(MachineThreadsTest)

@@ -5,8 +5,6 @@
 #include "message_text.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QSettings>
-#include <QtCore/QTemporaryDir>
 
 #include <cstdio>
 #include <cstdlib>
@@ -15,14 +13,7 @@ namespace {
 
 using virtualwindows::Fleet;
 using virtualwindows::FleetError;
-using virtualwindows::Machine;
-using virtualwindows::StoryPlayer;
-
-Fleet fleetOf(const QString& name)
-{
-    return name == QLatin1String("built-in") ? virtualwindows::builtInFleet()
-                                             : virtualwindows::readFleet(name);
-}
+using virtualwindows::RunningFleet;
 
 double speedOf(const QString& text)
 {
@@ -44,19 +35,15 @@ class EnvironmentFleet : public QObject
 public:
     EnvironmentFleet(const Fleet& fleet, double speed, QObject* parent)
         : QObject(parent)
-        , m_player(Machine::instance(), fleet.story, speed)
+        , m_fleet(fleet, speed)
     {
-        // Keeps the serial numbers of virtual printers out of the user's settings.
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
-        virtualwindows::populate(Machine::instance(), fleet);
         // The story starts with the event loop, when the program is ready for it.
-        if (!fleet.story.isEmpty())
-            QMetaObject::invokeMethod(&m_player, &StoryPlayer::start, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { m_fleet.start(); }, Qt::QueuedConnection);
     }
 
 private:
-    QTemporaryDir m_settings;
-    StoryPlayer m_player;
+    RunningFleet m_fleet;
 };
 
 } // namespace
@@ -66,7 +53,7 @@ private:
 extern "C" Q_DECL_EXPORT void virtualwindowsLoadFleetFromEnvironment()
 {
     try {
-        const Fleet fleet = fleetOf(qEnvironmentVariable("VX_VIRTUAL_FLEET"));
+        const Fleet fleet = virtualwindows::fleetNamed(qEnvironmentVariable("VX_VIRTUAL_FLEET"));
         const double speed = speedOf(qEnvironmentVariable("VX_VIRTUAL_SPEED"));
         new EnvironmentFleet(fleet, speed, QCoreApplication::instance());
     } catch (const FleetError& error) {

@@ -3,6 +3,7 @@
 #include "virtualwindows/fleet.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QSettings>
 
 // The macro requires a function outside of every namespace.
 static void initializeFleetResources()
@@ -24,6 +25,25 @@ QByteArray builtInFleetText()
 Fleet builtInFleet()
 {
     return parseFleet(builtInFleetText(), QStringLiteral("built-in fleet"));
+}
+
+Fleet fleetNamed(const QString& name)
+{
+    return name == QLatin1String("built-in") ? builtInFleet() : readFleet(name);
+}
+
+RunningFleet::RunningFleet(const Fleet& fleet, double speed)
+    : m_player(Machine::instance(), fleet.story, speed)
+    , m_hasStory(!fleet.story.isEmpty())
+{
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
+    populate(Machine::instance(), fleet);
+}
+
+void RunningFleet::start()
+{
+    if (m_hasStory)
+        m_player.start();
 }
 
 StoryPlayer::StoryPlayer(Machine& machine, const QList<StoryEvent>& story, double speed,

@@ -2,11 +2,13 @@
 // Copyright The VxPrinterStatus authors
 #include "virtualwindows/fleet.h"
 
+#include "case_changes.h"
+#include "driver_values.h"
 #include "located_json.h"
 #include "message_text.h"
+#include "virtualwindows/recorded_case.h"
+#include "whole_file.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 #include <QtCore/QHash>
 #include <QtCore/QMap>
 #include <QtCore/QSet>
@@ -69,7 +71,8 @@ quint32 readBits(const JsonPlace& place, const std::array<NamedBit, count>& name
     return bits;
 }
 
-PrinterValue readValue(const QString& name, const JsonPlace& place)
+/// Reads a value of any of the three types, whatever its name.
+PrinterValue readRawValue(const QString& name, const JsonPlace& place)
 {
     const QByteArray valueName = name.toUtf8();
     if (place.isText())
@@ -83,6 +86,35 @@ PrinterValue readValue(const QString& name, const JsonPlace& place)
     return PrinterValue::binary(valueName, place.at("binary").hexBytes());
 }
 
+/// A name that is nearly a known one is a slip of the pen: the library would never read the value.
+void expectNoSlip(const QString& name, const JsonPlace& place, const char* remedy)
+{
+    if (const driver_values::KnownValue* const meant = driver_values::meant(name))
+        place.fail(QStringLiteral("unknown value \"%1\"; did you mean \"%2\"? If the driver has a "
+                                  "value of that name, write %3")
+                       .arg(shortened(name), QLatin1String(meant->name), QLatin1String(remedy)));
+}
+
+PrinterValue readValue(const QString& name, const JsonPlace& place)
+{
+    if (place.isObject() && place.has("raw")) {
+        place.expectKeys({QStringLiteral("raw")}, {});
+        return readRawValue(name, place.at("raw"));
+    }
+    const driver_values::KnownValue* const known = driver_values::known(name);
+    if (!known)
+        expectNoSlip(name, place, R"({"raw": VALUE})");
+    const PrinterValue value = readRawValue(name, place);
+    const bool isText = known && known->kind == driver_values::Kind::Text;
+    if (known && value.type == (isText ? REG_DWORD : REG_SZ))
+        place.fail(QStringLiteral("expected %1 or {\"binary\": \"hexadecimal digits\"}, as the "
+                                  "library reads it; found %2. For a driver that publishes it "
+                                  "wrongly, write {\"raw\": VALUE}")
+                       .arg(isText ? QStringLiteral("a string") : QStringLiteral("a number"),
+                            place.found()));
+    return value;
+}
+
 QList<PrinterValue> readValues(const JsonPlace& place)
 {
     QList<PrinterValue> values;
@@ -90,6 +122,19 @@ QList<PrinterValue> readValues(const JsonPlace& place)
     for (const QString& name : names)
         values.append(readValue(name, place.at(name.toUtf8())));
     return values;
+}
+
+/// Reads the name of a value that the driver no longer publishes.
+QByteArray readUnpublishedName(const JsonPlace& place)
+{
+    if (place.isObject()) {
+        place.expectKeys({QStringLiteral("raw")}, {});
+        return place.at("raw").nonEmptyText().toUtf8();
+    }
+    const QString name = place.nonEmptyText();
+    if (!driver_values::known(name))
+        expectNoSlip(name, place, R"({"raw": "NAME"})");
+    return name.toUtf8();
 }
 
 FleetPrinter readPrinter(const JsonPlace& place)
@@ -141,6 +186,8 @@ void add(Machine& machine, const FleetPrinter& printer)
     machine.addPrinter(printer.setup);
     if (!printer.values.isEmpty())
         machine.publish(printer.setup.name, printer.values);
+    for (const JobSetup& job : printer.jobs)
+        case_changes::setJob(machine, printer.setup.name, job.id, job);
 }
 
 /// The names of the printers that exist at some time, in the order in which they were added.
@@ -271,7 +318,7 @@ private:
         if (place.has("unpublish")) {
             const QList<JsonPlace> entries = place.at("unpublish").entries();
             for (const JsonPlace& entry : entries) {
-                const QByteArray value = entry.nonEmptyText().toUtf8();
+                const QByteArray value = readUnpublishedName(entry);
                 changes.append([=](Machine& machine) { machine.unpublish(name, value); });
             }
         }
@@ -364,29 +411,10 @@ Fleet parseFleet(const QByteArray& text, const QString& name)
 
 Fleet readFleet(const QString& fileName)
 {
-    const auto fail = [&](const QString& why) {
-        throw FleetError(escaped(fileName + QStringLiteral(": ") + why));
-    };
-    QFile file(fileName);
-    if (QFileInfo(file).isDir())
-        fail(QStringLiteral("expected a file, found a folder"));
-    if (!file.open(QIODevice::ReadOnly))
-        fail(file.errorString());
-    constexpr qint64 mebibyte = 1024LL * 1024;
-    constexpr qint64 maxSize = 16 * mebibyte;
-    // Devices and pipes have no size, so the bytes are counted as they are read.
-    QByteArray text;
-    while (text.size() <= maxSize) {
-        const QByteArray more = file.read(mebibyte);
-        if (more.isEmpty())
-            break;
-        text.append(more);
-    }
-    if (text.size() > maxSize)
-        fail(QStringLiteral("expected at most %1 MiB").arg(maxSize / mebibyte));
-    if (file.error() != QFileDevice::NoError)
-        fail(file.errorString());
-    return parseFleet(text, fileName);
+    if (isCaseFile(fileName))
+        return fleetOf(readCase(fileName));
+    constexpr qsizetype mostBytes = qsizetype(16) * 1024 * 1024;
+    return parseFleet(readWholeFile(fileName, mostBytes), fileName);
 }
 
 void populate(Machine& machine, const Fleet& fleet)
@@ -397,6 +425,9 @@ void populate(Machine& machine, const Fleet& fleet)
         machine.setDefaultPrinter(fleet.defaultPrinter);
     for (const DeviceSetup& device : fleet.devices)
         machine.addDevice(device);
+    machine.setSpoolerState(fleet.spoolerState);
+    for (const auto& prepare : fleet.preparations)
+        prepare(machine);
 }
 
 } // namespace virtualwindows

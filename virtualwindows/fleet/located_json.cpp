@@ -31,9 +31,10 @@ QString quoted(const QString& text)
 
 } // namespace
 
-LocatedJson::LocatedJson(const QByteArray& text, const QString& name)
+LocatedJson::LocatedJson(const QByteArray& text, const QString& name, int firstLine)
     : m_text(text)
     , m_name(name)
+    , m_firstLine(firstLine)
 {
     checkLimits();
     Json::CharReaderBuilder builder;
@@ -59,7 +60,7 @@ void LocatedJson::checkLimits() const
     constexpr int maxValues = 1'000'000;
     int depth = 0;
     int values = 1;
-    int line = 1;
+    int line = m_firstLine;
     bool isInString = false;
     for (qsizetype place = 0; place < m_text.size(); ++place) {
         const char character = m_text.at(place);
@@ -96,15 +97,16 @@ void LocatedJson::failAsReported(const std::string& report) const
         QStringLiteral(R"(\* Line (\d+), Column \d+\n\s*([^\n]*))"));
     const QRegularExpressionMatch match = pattern.match(fromStd(report));
     if (!match.hasMatch())
-        fail(1, QStringLiteral("not JSON: expected an object"));
+        fail(m_firstLine, QStringLiteral("not JSON: expected an object"));
     constexpr qsizetype maxLength = 200; // a report quotes the text that it does not understand
-    fail(match.captured(1).toInt(),
+    fail(m_firstLine - 1 + match.captured(1).toInt(),
          QStringLiteral("not JSON: ") + shortened(match.captured(2), maxLength));
 }
 
 int LocatedJson::lineAt(qsizetype offset) const
 {
-    return static_cast<int>(1 + m_text.first(std::min(offset, m_text.size())).count('\n'));
+    return m_firstLine +
+           static_cast<int>(m_text.first(std::min(offset, m_text.size())).count('\n'));
 }
 
 int LocatedJson::lineOf(const Json::Value& value) const
@@ -158,6 +160,9 @@ void JsonPlace::expectKeys(const QStringList& required, const QStringList& allow
 
 JsonPlace JsonPlace::at(const QByteArray& key) const
 {
+    // JsonCpp would throw an error of its own.
+    if (!m_value->isObject() && !m_value->isNull())
+        fail(QStringLiteral("expected an object, found ") + found());
     const QString name = shortened(QString::fromUtf8(key));
     const Json::Value* value = m_value->find(key.begin(), key.end());
     return {*m_file, value ? *value : Json::Value::nullSingleton(),
@@ -238,4 +243,35 @@ QByteArray JsonPlace::hexBytes() const
     if (digits.size() % 2 != 0 || !areDigits)
         fail(QStringLiteral("expected bytes as pairs of hexadecimal digits, found ") + found());
     return QByteArray::fromHex(digits);
+}
+
+QByteArray JsonPlace::base64Bytes() const
+{
+    const auto bytes =
+        QByteArray::fromBase64Encoding(text().toUtf8(), QByteArray::AbortOnBase64DecodingErrors);
+    if (!bytes)
+        fail(QStringLiteral("expected bytes in Base64, found ") + found());
+    return *bytes;
+}
+
+QVariant JsonPlace::variant() const
+{
+    switch (m_value->type()) {
+    case Json::nullValue:
+        return {};
+    case Json::booleanValue:
+        return m_value->asBool();
+    case Json::stringValue:
+        return fromStd(m_value->asString());
+    case Json::intValue:
+        return QVariant::fromValue<qlonglong>(m_value->asInt64());
+    case Json::uintValue:
+        if (m_value->isInt64())
+            return QVariant::fromValue<qlonglong>(m_value->asInt64());
+        return QVariant::fromValue<qulonglong>(m_value->asUInt64());
+    case Json::realValue:
+        return m_value->asDouble();
+    default:
+        fail(QStringLiteral("expected null, true, false, a number or a string, found ") + found());
+    }
 }

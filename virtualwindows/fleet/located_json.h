@@ -5,6 +5,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+#include <QtCore/QVariant>
 
 #include <json/value.h>
 
@@ -14,8 +15,9 @@ class LocatedJson
 {
 public:
     /// Throws when the text is not JSON, has a duplicate key, or exceeds the limits for nesting and
-    /// for the number of values. `name` is the file's name in messages.
-    LocatedJson(const QByteArray& text, const QString& name);
+    /// for the number of values. `name` is the file's name in messages, and `firstLine` the number
+    /// of the line in it that the text begins with.
+    LocatedJson(const QByteArray& text, const QString& name, int firstLine = 1);
 
     const Json::Value& root() const { return m_root; }
     int lineOf(const Json::Value& value) const;
@@ -28,6 +30,7 @@ private:
 
     QByteArray m_text;
     QString m_name;
+    int m_firstLine;
     Json::Value m_root;
 };
 
@@ -53,15 +56,16 @@ public:
     double seconds() const; ///< not negative
     bool flag() const;
     QByteArray hexBytes() const;
+    QByteArray base64Bytes() const;
+    QVariant variant() const; ///< null, or a boolean, a number or a text
 
     bool isNull() const { return m_value->isNull(); }
     bool isText() const { return m_value->isString(); }
     bool isNumber() const { return m_value->isNumeric(); }
     bool isObject() const { return m_value->isObject(); }
+    QString found() const; ///< the value as messages quote it
 
 private:
-    QString found() const;
-
     const LocatedJson* m_file;
     const Json::Value* m_value;
     QString m_path;

@@ -4,7 +4,9 @@
 
 #include "machine.h"
 
+#include <QtCore/QMap>
 #include <QtCore/QObject>
+#include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
 
 #include <chrono>
@@ -19,6 +21,7 @@ struct FleetPrinter
 {
     PrinterSetup setup;
     QList<PrinterValue> values;
+    QList<JobSetup> jobs{}; ///< in its queue
 };
 
 /// One event of a fleet's story.
@@ -29,13 +32,26 @@ struct StoryEvent
     std::function<void(Machine&)> happen;
 };
 
+/// A row of a supply database.
+struct CatalogueRow
+{
+    int line = 0; ///< of the file that it was read from
+    QString table;
+    QMap<QString, QVariant> columns; ///< by name
+};
+
 /// The printers and devices of a virtual machine, and a story of how they change over time.
 struct Fleet
 {
     QList<FleetPrinter> printers;
     QString defaultPrinter; ///< null: no default printer
     QList<DeviceSetup> devices;
+    quint32 spoolerState = 4; ///< SERVICE_*
+    /// What else has to happen before anybody uses the machine.
+    QList<std::function<void(Machine&)>> preparations;
     QList<StoryEvent> story; ///< in chronological order
+    /// The rows of the supply database that its supplies and ribbons need. Null: it has none.
+    std::optional<QList<CatalogueRow>> catalogue;
 };
 
 /// Why a fleet cannot be used, in one line that is safe to print: the file, the line, what is wrong
@@ -56,12 +72,15 @@ private:
     QByteArray m_utf8;
 };
 
-/// Reads a fleet file in the format of docs/virtual-printers.md. Throws FleetError at the first
-/// mistake in the file.
+/// Reads a fleet file in the format of docs/virtual-printers.md, or a case file, whose name ends in
+/// .vxcase. Throws FleetError at the first mistake in the file.
 Fleet readFleet(const QString& fileName);
 
 /// The same for the text of a file. Error messages call the file `name`.
 Fleet parseFleet(const QByteArray& text, const QString& name);
+
+/// The built-in fleet if the name is "built-in", otherwise what readFleet() reads.
+Fleet fleetNamed(const QString& name);
 
 /// Six printers of all four models, with a story of two minutes.
 Fleet builtInFleet();
@@ -126,6 +145,25 @@ private:
     std::chrono::milliseconds m_now{};
     Clock::time_point m_begin;
     QTimer m_clock;
+};
+
+/// A fleet on the machine of this process, for a program that people run: populated, with its story
+/// ready to start.
+///
+/// As long as it lives, the serial numbers of virtual printers stay out of the user's own settings.
+class RunningFleet
+{
+public:
+    RunningFleet(const Fleet& fleet, double speed);
+
+    StoryPlayer& player() { return m_player; }
+    /// Starts the story, if there is one.
+    void start();
+
+private:
+    QTemporaryDir m_settings;
+    StoryPlayer m_player;
+    bool m_hasStory;
 };
 
 } // namespace virtualwindows

@@ -43,11 +43,24 @@ struct VIRTUALWINDOWS_EXPORT PrinterValue
     static PrinterValue binary(const QByteArray& name, const QByteArray& bytes);
 };
 
-/// A job that was printed with StartDocPrinterW … EndDocPrinter.
+/// A job that somebody else has put into a printer's queue.
+struct JobSetup
+{
+    quint32 id = 0;
+    QString document{};
+    QString user{};     ///< null: "User"
+    QString datatype{}; ///< null: "RAW"
+    quint32 pages = 0;
+    quint32 bytes = 0;
+    quint32 status = 0; ///< JOB_STATUS_*
+};
+
+/// A job that was printed with StartDocPrinterW … EndDocPrinter, or set with setJob().
 struct PrintJob
 {
     quint32 id = 0;
     QString document;
+    QString user;       ///< null: "User"
     QString outputFile; ///< null when none was given
     QString datatype;   ///< null when none was given
     QList<QByteArray> pages;
@@ -55,6 +68,9 @@ struct PrintJob
     bool queued = true;    ///< it is still in the printer's queue
     quint32 status = 0;    ///< JOB_STATUS_*; when it has left the queue, those that it left with
     QDateTime submitted;
+    bool isSet = false; ///< with setJob(): it has no pages, but these numbers
+    quint32 pageCount = 0;
+    quint32 byteCount = 0;
 };
 
 /// One call of a Windows function, in the order in which the calls began.
@@ -64,6 +80,26 @@ struct Call
     QStringList arguments; ///< names and numbers as text, handles in hexadecimal
     Qt::HANDLE thread = nullptr;
     quint32 plannedError = 0; ///< the error that failCall() made it fail with; 0: none
+};
+
+/// A call that is to fail, described by what it is about instead of by its number.
+struct CallFailure
+{
+    enum class Caller
+    {
+        Any,
+        ThisThread,   ///< the thread that planned the failure
+        OtherThreads, ///< all threads but that one
+    };
+
+    QString function;
+    /// The printer's name as the caller opened it, or that of the printer which the calling thread
+    /// opened last if the call is about none. Null: any.
+    QString printer{};
+    QByteArray value{}; ///< the name of the value that is read; null: any
+    quint32 error = 0;
+    int after = 0; ///< so many matching calls do not fail before
+    Caller caller = Caller::Any;
 };
 
 /// A mistake in the use of a handle.
@@ -118,16 +154,35 @@ public:
     void setAdministrable(const QString& name, bool administrable);
     /// With a null name, there is no default printer.
     void setDefaultPrinter(const QString& name);
+    QString defaultPrinter() const;
     QStringList printers() const;
+    /// Whether the spooler lists a printer with that name, in any letter case.
+    bool hasPrinter(const QString& name) const;
 
     /// Publishes values as a driver does. A list of values is signalled as one change.
     void publish(const QString& printer, const PrinterValue& value);
     void publish(const QString& printer, const QList<PrinterValue>& values);
+    /// The same, and takes other values away, as one change.
+    void publish(const QString& printer, const QList<PrinterValue>& values,
+                 const QList<QByteArray>& unpublished);
     void unpublish(const QString& printer, const QByteArray& valueName);
+    /// The names of the values that the driver publishes, in lower case and alphabetical order.
+    QList<QByteArray> valueNames(const QString& printer) const;
     /// Signals the printer's change notifications without a change.
     void notify(const QString& printer, quint32 change);
+    /// While notifications are held, changes signal nothing. notify() and endWaitByNotification()
+    /// still do. Changes that were made in the meantime are not signalled afterwards.
+    void holdNotifications(bool hold = true);
+    /// While this is set, handles stay valid when their printer is removed or the spooler is
+    /// stopped, and a stopped spooler takes calls: what fails then has to be planned.
+    void failOnlyAsPlanned(bool only = true);
     /// The jobs that are in the printer's queue or have been printed. Deleted jobs are not listed.
     QList<PrintJob> jobs(const QString& printer) const;
+    /// Puts a job at the end of the printer's queue, or changes the one that has its number. The
+    /// printer does not print it: it stays as it is until it is set again, removed or deleted.
+    void setJob(const QString& printer, const JobSetup& job);
+    /// Takes a job out of the printer's queue. Has no effect if there is none with this number.
+    void removeJob(const QString& printer, quint32 id);
     /// How long the printer's jobs take to print, from the next one that starts. Machine time: it
     /// passes in advance() while the time is driven.
     void setPrintingTime(const QString& printer, std::chrono::milliseconds time);
@@ -161,6 +216,12 @@ public:
     // Reads of the device registry have the name "RegistryKey" and find nothing when they fail.
     void failCall(const QString& function, int nth, quint32 error);
     void failCallsFrom(const QString& function, int nth, quint32 error);
+    /// Plans that the next call that matches fails. Several plans for the same calls are used up
+    /// one after the other. A function that this machine does not have never matches.
+    void failNextCall(const CallFailure& failure);
+    /// Drops the failures planned with failNextCall() that have not happened: those of a printer,
+    /// or all of them if the name is null. Returns their number.
+    int forgetNextFailures(const QString& printer = {});
     void clearFailures();
     /// The number of calls of a function since the last reset, including failed ones.
     int callCount(const QString& function) const;
@@ -179,6 +240,19 @@ public:
     bool waitForWaitingThreads(int count,
                                std::chrono::milliseconds limit = std::chrono::seconds(20));
     int waitingThreads() const;
+    /// Ends the wait of a thread by its time-out, whatever the time is: of the waiting thread that
+    /// opened, or tried to open, a printer by this name last. False if no such thread waits.
+    bool endWaitByTimeOut(const QString& printer);
+    /// The same as by a change notification. False if no such thread waits for one.
+    bool endWaitByNotification(const QString& printer);
+    /// The current name of the printer whose change notification that thread waits for, which
+    /// differs from the name that it was opened by after the printer was renamed. Null if there is
+    /// no such thread or the printer was removed.
+    QString watchedPrinter(const QString& printer) const;
+    /// Publishes values to the printer whose change notification that thread waits for, whether it
+    /// is still listed or not. False if there is no such thread.
+    bool publishWatched(const QString& printer, const QList<PrinterValue>& values,
+                        const QList<QByteArray>& unpublished);
 
     // The ledger of handles.
     int openHandles() const;
