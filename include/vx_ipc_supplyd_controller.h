@@ -25,11 +25,12 @@ class VXSupplyDatabase;
 /// const SupplyInformation loaded = supplies->supplyInformation(printerName);
 /// @endcode
 ///
-/// The answers come from the file "roll.db" beside the application's executable. Names are in the
-/// application's language at the time at which the service was created. Each printer that was added
-/// has its own database object, which stores what is loaded in that printer. Queries without a
-/// printer's name go to a shared database object; so do those with the name of a printer that was
-/// never added and, unless a comment says otherwise, those with an empty name.
+/// The answers come from the file "roll.db" beside the application's executable, unless
+/// `setCatalogueFile` names another one. Names are in the application's language at the time at
+/// which the service was created. Each printer that was added has its own database object, which
+/// stores what is loaded in that printer. Queries without a printer's name go to a shared database
+/// object; so do those with the name of a printer that was never added and, unless a comment says
+/// otherwise, those with an empty name.
 ///
 /// For an unknown SKU, and when the file is missing or cannot be read, texts and lists are empty
 /// and numbers are those that `SupplyInformation` has for what is not known. The identifier
@@ -50,6 +51,17 @@ public:
     /// Creates a database object for a printer. Has no effect for a printer that has one already.
     /// The object exists until the service is destroyed.
     void addNewPrinter(const QString& printerName);
+
+    /// Answers from another file than "roll.db" beside the executable from now on: the databases of
+    /// all printers, of those that are added later too, and the shared one. What is loaded in the
+    /// printers stays. An empty path means the file beside the executable again. A file that is
+    /// missing or cannot be read gives the answers described above.
+    ///
+    /// It is meant for tools that are told where the file is. Set it before anybody asks: answers
+    /// that others have kept do not change.
+    void setCatalogueFile(const QString& path);
+    /// The path of the file that the answers come from.
+    QString catalogueFile() const;
 
 public Q_SLOTS:
     /// @name What the database holds

@@ -24,10 +24,16 @@ const QString& orShared(const QString& printerName)
     return printerName.isEmpty() ? sharedKey : printerName;
 }
 
-QString databasePath()
+/// The connection of the database of a printer, or of the shared one.
+QString connectionOf(const QString& key)
 {
-    return QCoreApplication::applicationDirPath() % QLatin1String("/roll.db");
+    return key == sharedKey ? QStringLiteral("SUPPLY_INFO_QT_SQL_CONNECTION_NAME")
+                            : key % QLatin1String("_CONNECTION_NAME");
 }
+
+/// The property of the object that holds the path of another file. A data member would change the
+/// size of a class that hosts create.
+constexpr char catalogueProperty[] = "_vx_catalogueFile";
 
 } // namespace
 
@@ -37,7 +43,7 @@ VXIPCSUPPLYDController::VXIPCSUPPLYDController()
     qRegisterMetaType<SupplyInformation>("SupplyInformation");
     VXLocaleLanguages languages;
     languageId = languages.getCurrentLanguageId();
-    defaultDatabase = openDatabase(QStringLiteral("SUPPLY_INFO_QT_SQL_CONNECTION_NAME"));
+    defaultDatabase = openDatabase(connectionOf(sharedKey));
     databases.insert(sharedKey, defaultDatabase);
 }
 
@@ -50,13 +56,27 @@ void VXIPCSUPPLYDController::addNewPrinter(const QString& printerName)
 {
     VXSupplyDatabase*& database = databases[printerName];
     if (!database)
-        database = openDatabase(printerName % QLatin1String("_CONNECTION_NAME"));
+        database = openDatabase(connectionOf(printerName));
+}
+
+void VXIPCSUPPLYDController::setCatalogueFile(const QString& path)
+{
+    setProperty(catalogueProperty, path);
+    for (auto database = databases.cbegin(); database != databases.cend(); ++database)
+        database.value()->setup(catalogueFile(), connectionOf(database.key()));
+}
+
+QString VXIPCSUPPLYDController::catalogueFile() const
+{
+    const QString path = property(catalogueProperty).toString();
+    return path.isEmpty() ? QCoreApplication::applicationDirPath() % QLatin1String("/roll.db")
+                          : path;
 }
 
 VXSupplyDatabase* VXIPCSUPPLYDController::openDatabase(const QString& connectionName) const
 {
     auto* database = new VXSupplyDatabase;
-    database->setup(databasePath(), connectionName);
+    database->setup(catalogueFile(), connectionName);
     database->setLanguageId(languageId);
     return database;
 }

@@ -45,3 +45,7 @@ QString AbstractAppender::formatted(const QDateTime& timeStamp, Logger::LogLevel
         .arg(timeStamp.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzz")),
              Logger::levelToString(logLevel).leftJustified(7), origin, message);
 }
+
+ListeningAppender::ListeningAppender() = default;
+
+ListeningAppender::~ListeningAppender() = default;

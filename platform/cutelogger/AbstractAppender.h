@@ -25,6 +25,10 @@ public:
     void write(const QDateTime& timeStamp, Logger::LogLevel logLevel, const char* file, int line,
                const char* function, const QString& category, const QString& message);
 
+    /// Whether a record that it gets is written somewhere. A record that no appender writes goes to
+    /// standard error.
+    virtual bool isOutput() const { return true; }
+
 protected:
     virtual void append(const QDateTime& timeStamp, Logger::LogLevel logLevel, const char* file,
                         int line, const char* function, const QString& category,
@@ -38,4 +42,15 @@ protected:
 private:
     std::atomic<Logger::LogLevel> m_detailsLevel = Logger::Debug;
     QMutex m_mutex;
+};
+
+/// An appender that only takes notice of records. CuteLogger has none.
+class CUTELOGGERSHARED_EXPORT ListeningAppender : public AbstractAppender
+{
+public:
+    ListeningAppender();
+    ~ListeningAppender() override;
+    Q_DISABLE_COPY_MOVE(ListeningAppender)
+
+    bool isOutput() const final { return false; }
 };

@@ -11,6 +11,7 @@
 #include <QtCore/QReadWriteLock>
 #include <QtCore/QSet>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cstdarg>
@@ -195,7 +196,7 @@ bool Logger::dispatch(const QDateTime& timeStamp, LogLevel level, const char* fi
     const auto writeTo = [&](const QList<AbstractAppender*>& appenders) {
         for (AbstractAppender* appender : appenders)
             appender->write(timeStamp, level, file, line, function, category, message);
-        isWritten = isWritten || !appenders.isEmpty();
+        isWritten = isWritten || std::ranges::any_of(appenders, &AbstractAppender::isOutput);
     };
     if (!category.isNull())
         writeTo(d->categoryAppenders.values(category));

@@ -13,6 +13,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QMetaMethod>
 #include <QtCore/QMetaProperty>
+#include <QtCore/QTemporaryDir>
 #include <QtSql/QSqlDatabase>
 #include <QtTest/QtTest>
 
@@ -119,6 +120,8 @@ private Q_SLOTS:
     void printerNeverAddedUsesTheSharedDatabase();
     void eachAddedPrinterHasItsOwnDatabase();
     void addingAPrinterAgainKeepsItsDatabase();
+    void anotherCatalogueAnswersForAllPrinters();
+    void missingCatalogueMakesEverythingUnknown();
     void namesItsConnections();
     void panelDefaultsToTheFirst();
     void placeholderQueriesHaveFixedAnswers();
@@ -362,6 +365,48 @@ void SupplydControllerTest::eachAddedPrinterHasItsOwnDatabase()
     QCOMPARE(m_endpoint->supplySKUCached(QStringLiteral("Second")), label);
     QCOMPARE(m_endpoint->supplySKUCached(QStringLiteral("second")), QStringLiteral("-1"));
     QCOMPARE(m_endpoint->supplySKUCached(neverAddedPrinter), QStringLiteral("-1"));
+}
+
+void SupplydControllerTest::anotherCatalogueAnswersForAllPrinters()
+{
+    const QTemporaryDir folder;
+    const QString other = folder.filePath(QStringLiteral("other.db"));
+    SmallCatalogue catalogue;
+    catalogue.files[QStringLiteral("materials.csv")].replace("Vinyl", "Cloth");
+    catalogue.write(other);
+
+    m_endpoint->addNewPrinter(addedPrinter);
+    m_endpoint->setSupplyId(tapeId, addedPrinter);
+    m_endpoint->setRibbonIds(ribbonIds, addedPrinter);
+    // Answers that the databases have kept must not survive.
+    QCOMPARE(m_endpoint->supplyMaterialName(tape, addedPrinter), QStringLiteral("Vinyl"));
+    QCOMPARE(m_endpoint->supplyMaterialName(tape, {}), QStringLiteral("Vinyl"));
+    QCOMPARE(m_endpoint->catalogueFile(), databasePath());
+    const QStringList connections = QSqlDatabase::connectionNames();
+
+    m_endpoint->setCatalogueFile(other);
+    QCOMPARE(m_endpoint->catalogueFile(), other);
+    m_endpoint->addNewPrinter(QStringLiteral("Later"));
+    for (const QString& printer : {addedPrinter, QString(), QStringLiteral("Later")})
+        QCOMPARE(m_endpoint->supplyMaterialName(tape, printer), QStringLiteral("Cloth"));
+    QCOMPARE(m_endpoint->supplySKUCached(addedPrinter), tape);
+    QCOMPARE(m_endpoint->supplyRibbonSKUsCached(addedPrinter), (QStringList{ribbonK, ribbonRK}));
+    QCOMPARE(QSqlDatabase::connectionNames().size(), connections.size() + 1);
+
+    m_endpoint->setCatalogueFile({});
+    QCOMPARE(m_endpoint->catalogueFile(), databasePath());
+    QCOMPARE(m_endpoint->supplyMaterialName(tape, QStringLiteral("Later")),
+             QStringLiteral("Vinyl"));
+}
+
+void SupplydControllerTest::missingCatalogueMakesEverythingUnknown()
+{
+    m_endpoint->setCatalogueFile(databasePath() + QStringLiteral(".missing"));
+    QCOMPARE(m_endpoint->supplySKUList(), QStringList());
+    QCOMPARE(m_endpoint->supplyMaterialName(tape, {}), QString());
+    // Other processes cannot choose the file: the functions are not among the service's methods.
+    QVERIFY(m_endpoint->metaObject()->indexOfMethod("setCatalogueFile(QString)") < 0);
+    QVERIFY(m_endpoint->metaObject()->indexOfMethod("catalogueFile()") < 0);
 }
 
 void SupplydControllerTest::addingAPrinterAgainKeepsItsDatabase()

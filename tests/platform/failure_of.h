@@ -7,14 +7,18 @@
 
 #include <QtCore/QString>
 
-/// The message of the failure that a job ends with, as it is printed; null if it succeeds.
+/// The messages of the failure that a job ends with, as they are printed, each on a line; null if
+/// it succeeds.
 template <typename Job>
 QString failureOf(Job job)
 {
     try {
         job();
     } catch (const Failure& failure) {
-        return shownAsMessage(failure.message());
+        QStringList lines;
+        for (const QStringList messages = failure.messages(); const QString& message : messages)
+            lines.append(shownAsMessage(message));
+        return lines.join(u'\n');
     }
     return {};
 }

@@ -7,8 +7,10 @@ test_vxipc_tool.py TOOL HOST, where HOST publishes the test service.
 import json
 import os
 import select
+import socket
 import subprocess
 import sys
+import threading
 import unittest
 
 from own_folder import setUpModule  # called by unittest
@@ -173,22 +175,95 @@ class Tool(unittest.TestCase):
             with self.subTest(arguments):
                 self.check_complaint(arguments, 1, "other users may write to it")
 
+    def test_names_all_overloads_that_do_not_fit(self):
+        self.check_complaint(["call", self.service, "overloaded"], 1,
+                             " or overloaded(")
+
+    def test_an_endpoint_may_have_no_signals(self):
+        service = str(int(self.service) + 3)
+        path = f"{os.environ['XDG_RUNTIME_DIR']}/vxipc-{service}"
+        with socket.socket(socket.AF_UNIX) as listener:
+            listener.bind(path)
+            self.addCleanup(os.unlink, path)
+            listener.listen()
+
+            def answer():
+                connection, _ = listener.accept()
+                with connection, connection.makefile("rwb", buffering=0) as stream:
+                    request = json.loads(stream.readline())
+                    stream.write(json.dumps({"jsonrpc": "2.0", "id": request["id"],
+                                             "result": {"methods": []}}).encode() + b"\n")
+                    stream.readline()
+
+            thread = threading.Thread(target=answer, daemon=True)
+            thread.start()
+            self.check_complaint(["watch", service], 1, f"vxipc-{service}: it has no signals")
+            thread.join()
+
     def test_refuses_wrong_usage(self):
-        for arguments in [[], ["nothing"], ["list", "x"], ["describe"], ["describe", "1", "2"],
-                          ["call"], ["call", "supplyd"], ["call", "nosuch", "echo"],
-                          ["describe", "vxipc-"], ["list", "--other"], ["list", "--timeout"],
-                          ["list", "--timeout", "x"], ["list", "--timeout", "0"],
-                          ["watch"], ["list", "--for", "1"], ["watch", self.service, "--for"],
-                          ["watch", self.service, "--for", "0"],
-                          ["watch", self.service, "--for", "nan"]]:
+        commands = "expected list, describe, call or watch"
+        service = "expected supplyd, m4, printqd, status, a number or a name printed by list"
+        for arguments, complaint in [
+                ([], commands), (["nothing"], f"unknown command \"nothing\"; {commands}"),
+                (["list", "x"], "list takes no arguments"),
+                (["describe"], "describe takes a SERVICE"),
+                (["describe", "1", "2"], "describe takes a SERVICE"),
+                (["call"], "call takes a SERVICE, a METHOD and its arguments"),
+                (["call", "supplyd"], "call takes a SERVICE, a METHOD and its arguments"),
+                (["call", "nosuch", "echo"], f"unknown service \"nosuch\"; {service}"),
+                (["describe", "vxipc-"], f"unknown service \"vxipc-\"; {service}"),
+                (["list", "--other"], "unknown option --other"),
+                (["list", "--timeout"], "--timeout takes a number of milliseconds"),
+                (["list", "--timeout", "x"], "--timeout takes a number of milliseconds"),
+                (["list", "--timeout", "0"], "--timeout takes a number of milliseconds"),
+                (["watch"], "watch takes a SERVICE and SIGNALs"),
+                (["list", "--for", "1"], "list takes no --for"),
+                (["watch", self.service, "--for"], "--for takes a number of seconds"),
+                (["watch", self.service, "--for", "0"], "--for takes a number of seconds"),
+                (["watch", self.service, "--for", "nan"], "--for takes a number of seconds"),
+                (["help", "nothing"],
+                 "unknown command \"nothing\"; expected one of list, describe, call, watch"),
+                (["nothing", "-h"],
+                 "unknown command \"nothing\"; expected one of list, describe, call, watch"),
+                (["help", "list", "call"], "help takes at most one command")]:
             with self.subTest(arguments):
-                self.check_complaint(arguments, 2, "")
+                self.check_complaint(arguments, 2, f"vxipc: {complaint} (see vxipc --help)\n")
 
     def test_helps(self):
-        status, output, _ = self.run_tool("--help")
+        status, overview, _ = self.run_tool("--help")
         self.assertEqual(status, 0)
-        for verb in ("list", "describe", "call", "watch"):
-            self.assertIn(verb, output)
+        for text in ("Usage: vxipc COMMAND", "  list", "  describe SERVICE",
+                     "  call SERVICE METHOD [ARGUMENT]...", "  watch SERVICE [SIGNAL]...",
+                     "  help [COMMAND]", "  --json", "  --for SECONDS", "  --timeout MS", "  -- ",
+                     "  -h, --help", "  --version"):
+            self.assertIn(text, overview)
+        for arguments in (["-h"], ["help"], ["help", "--version"], ["--json", "--help"]):
+            with self.subTest(arguments):
+                self.check_output(arguments, overview)
+
+    def test_helps_with_a_command(self):
+        usage = {"list": "", "describe": "SERVICE", "call": "SERVICE METHOD [ARGUMENT]...",
+                 "watch": "SERVICE [SIGNAL]..."}
+        for verb, words in usage.items():
+            status, text, _ = self.run_tool("help", verb)
+            self.assertEqual(status, 0)
+            self.assertEqual(text.splitlines()[0],
+                             f"Usage: vxipc {verb} [OPTION]... {words}".rstrip())
+            self.assertEqual("--for SECONDS" in text, verb == "watch")
+            self.assertEqual("SERVICE is supplyd" in text, verb != "list")
+            self.assertLessEqual(max(map(len, text.splitlines())), 80)
+            for arguments in ([verb, "--help"], [verb, "-h"], ["-h", verb, "supplyd"]):
+                with self.subTest(arguments):
+                    self.check_output(arguments, text)
+
+    def test_asks_for_help_only_before_the_arguments(self):
+        self.check_output(["call", self.service, "echo", "--", "-h"], "-h\n")
+        self.check_output(["call", self.service, "echo", "help"], "help\n")
+
+    def test_says_its_version(self):
+        status, output, errors = self.run_tool("--version")
+        self.assertEqual((status, errors), (0, ""))
+        self.assertRegex(output, r"^vxipc \d+\.\d+\.\d+\n$")
 
 
 if __name__ == "__main__":

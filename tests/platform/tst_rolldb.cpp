@@ -22,10 +22,9 @@
 #include <memory>
 
 #ifdef Q_OS_UNIX
-#include <sys/resource.h>
-#include <sys/stat.h>
+#include "file_size_limit.h"
 
-#include <csignal>
+#include <sys/stat.h>
 #endif
 
 namespace {
@@ -64,6 +63,7 @@ private Q_SLOTS:
     void refusesToReportAnUnknownSku();
     void theToolReturnsItsResultAndExitStatus_data();
     void theToolReturnsItsResultAndExitStatus();
+    void theToolPrintsItsHelp_data();
     void theToolPrintsItsHelp();
 
 private:
@@ -92,7 +92,7 @@ void RollDbTest::acceptsAsManyPanelsAsAreAllowed()
     SmallCatalogue catalogue;
     catalogue.replace("ribbons.csv", ",red black", ',' + QByteArray("red ").repeated(16));
     catalogue.write(path());
-    const QString report = skuReport(path(), QStringLiteral("RIBBON-RK"), 0);
+    const QString report = skuReport(path(), QStringLiteral("RIBBON-RK"), {});
     QCOMPARE(report.count(QStringLiteral("panel: ")), 16);
 }
 
@@ -142,9 +142,10 @@ void RollDbTest::keepsTheOldFileWhenTheSchemaRefusesARow()
     const QByteArray before = contentOf(path());
     Catalogue catalogue = SmallCatalogue().read();
     catalogue.settings[0].heatOffset = -1;
-    QVERIFY(failureOf([&] {
-                writeDatabase(catalogue, path());
-            }).contains(QStringLiteral("heat_offset")));
+    const QString fault = failureOf([&] { writeDatabase(catalogue, path()); });
+    QVERIFY2(fault.startsWith(path() + QStringLiteral(": cannot be created in ")),
+             qPrintable(fault));
+    QVERIFY2(fault.contains(QStringLiteral("heat_offset")), qPrintable(fault));
     catalogue = SmallCatalogue().read();
     catalogue.supplies[0].material = 99;
     QVERIFY(failureOf([&] {
@@ -224,14 +225,11 @@ void RollDbTest::doesNotWaitForAPipe()
 void RollDbTest::reportsWhyAFileCannotBeWritten()
 {
     QVERIFY(writeFile(path(), "old"));
-    rlimit before = {};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{.rlim_cur = 50000, .rlim_max = before.rlim_max};
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
-    const QString fault = failureOf([this] { replaceFile(path(), QByteArray(100000, 'x')); });
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
-    std::signal(SIGXFSZ, handler);
+    const QString fault = failureOf([this] {
+        const FileSizeLimit limit(50000);
+        QVERIFY(limit.isSet());
+        replaceFile(path(), QByteArray(100000, 'x'));
+    });
     QCOMPARE(fault, path() + QStringLiteral(": ") + qt_error_string(EFBIG));
     QCOMPARE(contentOf(path()), QByteArray("old"));
     QCOMPARE(filesIn(m_folder->path()), QStringList{QStringLiteral("roll.db")});
@@ -264,13 +262,26 @@ void RollDbTest::findsInvalidContent_data()
         << QStringLiteral("its tables are not those of schema version 1");
     QTest::newRow("a row that refers to a missing row")
         << QByteArray("DELETE FROM material WHERE id = 7")
-        << QStringLiteral("a row of supply refers to a missing row");
+        << QStringLiteral("a row of supply refers to a missing row of material");
     QTest::newRow("a missing panel")
         << QByteArray("DELETE FROM ribbon_panel WHERE ribbon_sku = 'RIBBON-T'")
         << QStringLiteral("the panels of ribbon RIBBON-T are not numbered consecutively from 1");
-    QTest::newRow("a ribbon that is a supply")
+    QTest::newRow("a panel of a ribbon that is missing")
         << QByteArray("UPDATE ribbon_panel SET ribbon_sku = 'TAPE-1' WHERE ribbon_sku = 'RIBBON-T'")
-        << QStringLiteral("a row of ribbon_panel refers to a missing row");
+        << QStringLiteral(
+               "a row of ribbon_panel refers to a missing row of ribbon\n@: the panels of "
+               "ribbon RIBBON-T are not numbered consecutively from 1");
+    QTest::newRow("a supply that is a ribbon")
+        << QByteArray("UPDATE supply SET sku = 'RIBBON-T' WHERE sku = 'SPARE-1'")
+        << QStringLiteral("RIBBON-T is both a supply and a ribbon");
+    QTest::newRow("everything at once")
+        << QByteArray("UPDATE supply SET label_length = 2 - ifnull(label_length, 0), "
+                      "format_id = 3 - format_id, material_id = 9")
+        << QStringLiteral("a row of supply refers to a missing row of material\n"
+                          "@: supply LABEL-1 has a label length and a continuous format, or "
+                          "neither\n"
+                          "@: supply SPARE-1 has a label length and a continuous format, or "
+                          "neither");
     QTest::newRow("a continuous label")
         << QByteArray("UPDATE supply SET label_length = 1")
         << QStringLiteral("supply TAPE-1 has a label length and a continuous format, or neither");
@@ -292,6 +303,7 @@ void RollDbTest::findsInvalidContent()
     SmallCatalogue().write(path());
     QVERIFY(runStatement(path(), change));
     const QString found = failureOf([this] { checkDatabase(path()); });
+    fault.replace(u'@', path());
     QCOMPARE(found, fault.isEmpty() ? QString() : path() + QStringLiteral(": ") + fault);
 }
 
@@ -309,9 +321,10 @@ void RollDbTest::findsDamage()
 void RollDbTest::reportsASupply()
 {
     SmallCatalogue().write(path());
-    QCOMPARE(skuReport(path(), QStringLiteral("TAPE-1"), 1),
+    QCOMPARE(skuReport(path(), QStringLiteral("TAPE-1"), {.language = 1}),
              QStringLiteral(
                  "supply:          TAPE-1\n"
+                 "kinds:           100042 100043\n"
                  "material:        7 Vinylfolie\n"
                  "format:          1 Band\n"
                  "type:            continuous\n"
@@ -322,7 +335,7 @@ void RollDbTest::reportsASupply()
                  "length:          6000 in\n"
                  "landscape:       yes\n"
                  "side by side:    1\n"
-                 "background:      69 bytes\n"
+                 "background:      dot.png, 69 bytes\n"
                  "printed with:    RIBBON-K panel 1: heat 52, offset 0, speed 4, tension 30\n"
                  "printed with:    RIBBON-RK panel 1: heat 58, offset 2, speed 3, tension 32\n"
                  "printed with:    RIBBON-RK panel 2: heat 55, offset 1, speed 4, tension 33\n"));
@@ -331,19 +344,23 @@ void RollDbTest::reportsASupply()
 void RollDbTest::reportsARibbon()
 {
     SmallCatalogue().write(path());
-    QCOMPARE(skuReport(path(), QStringLiteral("RIBBON-RK"), 0),
-             QStringLiteral("ribbon:          RIBBON-RK\n"
-                            "type:            resin\n"
-                            "width:           4.33 in\n"
-                            "length:          2360 in\n"
-                            "panel:           #c8102e Red\n"
-                            "panel:           #000000 Black\n"));
+    QCOMPARE(skuReport(path(), QStringLiteral("RIBBON-RK"), {}),
+             QStringLiteral(
+                 "ribbon:          RIBBON-RK\n"
+                 "numbers:         2003\n"
+                 "type:            resin\n"
+                 "width:           4.33 in\n"
+                 "length:          2360 in\n"
+                 "panel:           #c8102e Red\n"
+                 "panel:           #000000 Black\n"
+                 "prints on:       TAPE-1 panel 1: heat 58, offset 2, speed 3, tension 32\n"
+                 "prints on:       TAPE-1 panel 2: heat 55, offset 1, speed 4, tension 33\n"));
 }
 
 void RollDbTest::refusesToReportAnUnknownSku()
 {
     SmallCatalogue().write(path());
-    QCOMPARE(failureOf([this] { skuReport(path(), QStringLiteral("NO-SUCH"), 0); }),
+    QCOMPARE(failureOf([this] { skuReport(path(), QStringLiteral("NO-SUCH"), {}); }),
              path() + QStringLiteral(": no supply or ribbon \"NO-SUCH\""));
 }
 
@@ -356,6 +373,7 @@ void RollDbTest::theToolReturnsItsResultAndExitStatus_data()
     QTest::addColumn<QString>("error");
 
     const QString usage = QStringLiteral(" (see rolldb --help)\n");
+    const QString names = QStringLiteral("build, check, list, show, find, export, template");
     QTest::newRow("build")
         << QStringList{QStringLiteral("build"), sampleCatalogue, QStringLiteral("@new.db")} << 0
         << QStringLiteral("@new.db: 46 supplies, 22 ribbons, 894 print settings, 5 languages\n")
@@ -373,13 +391,44 @@ void RollDbTest::theToolReturnsItsResultAndExitStatus_data()
                "length:          4725 in\npanel:           #008080 Teal\n")
         << QString();
     QTest::newRow("no command") << QStringList{} << 2 << QString()
-                                << QStringLiteral("rolldb: expected build, check or show") + usage;
+                                << QStringLiteral("rolldb: expected a command: ") + names + usage;
     QTest::newRow("an unknown command")
         << QStringList{QStringLiteral("fix")} << 2 << QString()
-        << QStringLiteral("rolldb: unknown command \"fix\"; expected build, check or show") + usage;
+        << QStringLiteral("rolldb: unknown command \"fix\"; expected one of ") + names + usage;
     QTest::newRow("too few arguments")
         << QStringList{QStringLiteral("build"), QStringLiteral("x")} << 2 << QString()
-        << QStringLiteral("rolldb: build takes 2 arguments, not 1") + usage;
+        << QStringLiteral("rolldb: build takes DIRECTORY FILE, found \"x\"") + usage;
+    QTest::newRow("no arguments") << QStringList{QStringLiteral("check")} << 2 << QString()
+                                  << QStringLiteral("rolldb: check takes PATH, found nothing") +
+                                         usage;
+    QTest::newRow("too many arguments")
+        << QStringList{QStringLiteral("list"), QStringLiteral("a"), QStringLiteral("b")} << 2
+        << QString() << QStringLiteral("rolldb: list takes FILE, found \"a\" \"b\"") + usage;
+    QTest::newRow("help about an unknown command")
+        << QStringList{QStringLiteral("help"), QStringLiteral("fix")} << 2 << QString()
+        << QStringLiteral("rolldb: unknown command \"fix\"; expected one of ") + names + usage;
+    QTest::newRow("help about two commands")
+        << QStringList{QStringLiteral("help"), QStringLiteral("list"), QStringLiteral("find")} << 2
+        << QString() << QStringLiteral("rolldb: help takes at most one command") + usage;
+    QTest::newRow("an option of another command")
+        << QStringList{QStringLiteral("build"), QStringLiteral("--json"), QStringLiteral("a"),
+                       QStringLiteral("b")}
+        << 2 << QString()
+        << QStringLiteral("rolldb: --json is valid only with list, show, find") + usage;
+    QTest::newRow("force where nothing is replaced")
+        << QStringList{QStringLiteral("check"), QStringLiteral("--force"), QStringLiteral("a")} << 2
+        << QString()
+        << QStringLiteral("rolldb: --force is valid only with export, template") + usage;
+    QTest::newRow("an option without its value")
+        << QStringList{QStringLiteral("list"), QStringLiteral("--language")} << 2 << QString()
+        << QStringLiteral("rolldb: Missing value after '--language'.") + usage;
+    QTest::newRow("the version") << QStringList{QStringLiteral("--version")} << 0
+                                 << QStringLiteral("rolldb " VX_VERSION "\n") << QString();
+    QTest::newRow("check of a directory")
+        << QStringList{QStringLiteral("check"), sampleCatalogue} << 0
+        << sampleCatalogue +
+               QStringLiteral(": ok, 46 supplies, 22 ribbons, 894 print settings, 5 languages\n")
+        << QString();
     QTest::newRow("another option")
         << QStringList{QStringLiteral("check"), QStringLiteral("--fix"), QStringLiteral("@roll.db")}
         << 2 << QString() << QStringLiteral("rolldb: Unknown option 'fix'.") + usage;
@@ -394,7 +443,14 @@ void RollDbTest::theToolReturnsItsResultAndExitStatus_data()
                                   << QStringLiteral("rolldb: @nowhere: no such directory\n");
     QTest::newRow("no tables")
         << QStringList{QStringLiteral("build"), QStringLiteral("@"), QStringLiteral("@new.db")} << 1
-        << QString() << QStringLiteral("rolldb: colours.csv: no such file, or it cannot be read\n");
+        << QString()
+        << QStringLiteral("rolldb: colours.csv: no such file, or it cannot be read\n"
+                          "rolldb: materials.csv: no such file, or it cannot be read\n"
+                          "rolldb: formats.csv: no such file, or it cannot be read\n"
+                          "rolldb: supplies.csv: no such file, or it cannot be read\n"
+                          "rolldb: ribbons.csv: no such file, or it cannot be read\n"
+                          "rolldb: print_settings.csv: no such file, or it cannot be read\n"
+                          "rolldb: printer_formats.csv: no such file, or it cannot be read\n");
     QTest::newRow("no file") << QStringList{QStringLiteral("check"), QStringLiteral("@none.db")}
                              << 1 << QString()
                              << QStringLiteral("rolldb: @none.db: no such file\n");
@@ -424,16 +480,70 @@ void RollDbTest::theToolReturnsItsResultAndExitStatus()
     QTEST(tool.exitCode(), "status");
 }
 
+void RollDbTest::theToolPrintsItsHelp_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("parts");
+    const QStringList all{QStringLiteral("Usage: rolldb COMMAND"),
+                          QStringLiteral("  build DIRECTORY FILE"),
+                          QStringLiteral("  check PATH"),
+                          QStringLiteral("  list FILE"),
+                          QStringLiteral("  show FILE SKU"),
+                          QStringLiteral("  find FILE IDENTIFIER"),
+                          QStringLiteral("  export FILE DIRECTORY"),
+                          QStringLiteral("  template DIRECTORY"),
+                          QStringLiteral("  --language TAG"),
+                          QStringLiteral("  --force"),
+                          QStringLiteral("  --json"),
+                          QStringLiteral("  --version")};
+    const QStringList find{QStringLiteral("Usage: rolldb find [OPTION]... FILE IDENTIFIER\n"),
+                           QStringLiteral("  --json"), QStringLiteral("  -h, --help")};
+    QTest::newRow("--help") << QStringList{QStringLiteral("--help")} << all;
+    QTest::newRow("-h") << QStringList{QStringLiteral("-h")} << all;
+    QTest::newRow("help") << QStringList{QStringLiteral("help")} << all;
+    QTest::newRow("help --version")
+        << QStringList{QStringLiteral("help"), QStringLiteral("--version")} << all;
+    const auto about = [](const char* command, const char* usage, const char* text) {
+        QTest::newRow(command) << QStringList{QStringLiteral("help"), QString::fromLatin1(command)}
+                               << QStringList{
+                                      QStringLiteral("Usage: rolldb %1 [OPTION]... %2\n")
+                                          .arg(QLatin1String(command), QLatin1String(usage)),
+                                      QString::fromLatin1(text)};
+    };
+    about("build", "DIRECTORY FILE", "All mistakes in the tables are printed, up to 50");
+    about("check", "PATH",
+          "verify a supply database or a directory of tables\n\nNothing is written.");
+    about("list", "FILE", "With the numbers in identifiers that stand for them, and their names.");
+    about("show", "FILE SKU",
+          "print what FILE has about a supply or a ribbon\n\nOptions:\n  --lang");
+    about("export", "FILE DIRECTORY", "A database that is built from them has the same bytes.");
+    about("template", "DIRECTORY",
+          "every column with its name and an example.\n\nOptions:\n  --force");
+    QTest::newRow("help find") << QStringList{QStringLiteral("help"), QStringLiteral("find")}
+                               << find;
+    QTest::newRow("find --help") << QStringList{QStringLiteral("find"), QStringLiteral("--help")}
+                                 << find;
+    QTest::newRow("-h find x") << QStringList{QStringLiteral("-h"), QStringLiteral("find"),
+                                              QStringLiteral("x")}
+                               << find;
+}
+
 void RollDbTest::theToolPrintsItsHelp()
 {
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QStringList, parts);
     QProcess tool;
-    startProcess(tool, QStringLiteral(VX_ROLLDB), {QStringLiteral("--help")});
+    startProcess(tool, QStringLiteral(VX_ROLLDB), arguments);
     QVERIFY2(tool.waitForFinished(patience), qPrintable(tool.errorString()));
     QCOMPARE(tool.exitCode(), 0);
-    const QString help = QString::fromUtf8(tool.readAllStandardOutput());
-    for (const auto& command : {QStringLiteral("rolldb build"), QStringLiteral("rolldb check"),
-                                QStringLiteral("rolldb show")})
-        QVERIFY2(help.contains(command), qPrintable(command));
+    const QString help = QString::fromUtf8(tool.readAllStandardOutput()).remove(u'\r');
+    for (const QString& part : parts)
+        QVERIFY2(help.contains(part), qPrintable(part));
+    // The help about a command has no option that it does not accept.
+    const bool replaces = help.contains(QStringLiteral("rolldb COMMAND")) ||
+                          help.contains(QStringLiteral("rolldb export")) ||
+                          help.contains(QStringLiteral("rolldb template"));
+    QCOMPARE(help.contains(QStringLiteral("--force")), replaces);
 }
 
 int main(int argc, char* argv[])

@@ -29,6 +29,20 @@ QByteArray bitmapHeader(qint32 width, qint32 height)
     return header;
 }
 
+/// Adds the columns of a test function that changes a text of a file, and returns what adds a row.
+auto rowsOfMistakes()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<QString>("fault");
+    return [](const char* name, const char* file, const char* before, const char* after,
+              const char* fault) {
+        QTest::newRow(name) << QString::fromLatin1(file) << QByteArray(before) << QByteArray(after)
+                            << QString::fromUtf8(fault);
+    };
+}
+
 } // namespace
 
 class RollDbTablesTest : public QObject
@@ -38,6 +52,13 @@ class RollDbTablesTest : public QObject
 private Q_SLOTS:
     void refusesAnInvalidRow_data();
     void refusesAnInvalidRow();
+    void reportsAllMistakesInTheOrderOfTheFiles();
+    void reportsTheFirst50MistakesAndCountsTheOthers();
+    void reportsNoMistakeThatFollowsFromAnother_data();
+    void reportsNoMistakeThatFollowsFromAnother();
+    void goesOnAfterALineThatIsNoRow();
+    void reportsOneUnclosedQuotationMark();
+    void namesTheLineOfAHeaderBelowEmptyLines();
     void refusesInvisibleCharacters_data();
     void refusesInvisibleCharacters();
     void recognisesInvisibleCharacters();
@@ -51,22 +72,16 @@ private Q_SLOTS:
     void readsTheVariantsThatSpreadsheetsWrite();
     void readsQuotedFields();
     void acceptsSemicolonsAndDecimalCommas();
+    void acceptsTabs_data();
+    void acceptsTabs();
+    void refusesATableInTwoFiles();
     void theSampleCatalogueHasEveryNameInEachLanguage();
     void everySampleSupplyHasAKindAndAPrintSetting();
 };
 
 void RollDbTablesTest::refusesAnInvalidRow_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QByteArray>("after");
-    QTest::addColumn<QString>("fault");
-
-    const auto row = [](const char* name, const char* file, const char* before, const char* after,
-                        const char* fault) {
-        QTest::newRow(name) << QString::fromLatin1(file) << QByteArray(before) << QByteArray(after)
-                            << QString::fromUtf8(fault);
-    };
+    const auto row = rowsOfMistakes();
     const char* const colours = "colours.csv";
     row("a colour without #", colours, "#ffffff", "ffffff",
         "colours.csv:2, column 2 (rgb): \"ffffff\" is not a colour of the form #RRGGBB");
@@ -77,16 +92,25 @@ void RollDbTablesTest::refusesAnInvalidRow_data()
     row("a colour twice", colours, "red,#C8102E", "white,#C8102E",
         "colours.csv:3, column 1 (colour): duplicate colour \"white\"");
     row("a colour without a key", colours, "red,#C8102E", ",#C8102E",
-        "colours.csv:3, column 1 (colour): empty");
+        "colours.csv:3, column 1 (colour): empty; expected a text of at most 40 characters");
     row("a space in a key", colours, "teal,", "dark teal,",
-        "colours.csv:5, column 1 (colour): a space in a colour's key");
-    row("no English name", colours, "Teal,,", ",Petrol,", "colours.csv:5, column 3 (en): empty");
+        "colours.csv:5, column 1 (colour): \"dark teal\" has a space; expected a key without "
+        "spaces");
+    row("no English name", colours, "Teal,,", ",Petrol,",
+        "colours.csv:5, column 3 (en): empty; expected a text of at most 200 characters");
     row("one field too many", colours, "Teal,,", "Teal,,,,x",
         "colours.csv:5: 7 fields, but there are 5 columns");
     row("one field too few", colours, "Teal,,", "Teal,",
         "colours.csv:5: 4 fields, but there are 5 columns");
     row("an unknown column", colours, "en,de,ja", "en,de,color",
-        "colours.csv:1, column 5 (color): neither a column of this table nor a known language");
+        "colours.csv:1, column 5 (color): neither a column of this table nor a known language; "
+        "expected colour, rgb and languages such as en or de");
+    row("a column of another table", "ribbons.csv", "panels\n", "panels,heat\n",
+        "ribbons.csv:1, column 7 (heat): not a column of this table; expected sku, numbers, type, "
+        "width, length, panels\n"
+        "ribbons.csv:2: 6 fields, but there are 7 columns\n"
+        "ribbons.csv:3: 6 fields, but there are 7 columns\n"
+        "ribbons.csv:4: 6 fields, but there are 7 columns");
     row("a column twice", colours, "en,de,ja", "en,de,de",
         "colours.csv:1, column 5 (de): duplicate column");
     row("a column without a name", colours, "en,de,ja", "en,,ja",
@@ -108,9 +132,9 @@ void RollDbTablesTest::refusesAnInvalidRow_data()
     row("bytes that are not text", colours, "Teal",
         "T\xe9"
         "al",
-        "colours.csv:5: not UTF-8 text");
+        "colours.csv:5: not UTF-8 text; save the table as UTF-8");
     row("half a character at the end", colours, "Teal,,\n", "Teal,,\xe7",
-        "colours.csv:5: not UTF-8 text");
+        "colours.csv:5: not UTF-8 text; save the table as UTF-8");
 
     row("a material that is not a number", "materials.csv", "7,Vinyl", "vinyl,Vinyl",
         "materials.csv:2, column 1 (material): \"vinyl\" is not a whole number between 0 and "
@@ -235,7 +259,7 @@ void RollDbTablesTest::refusesAnInvalidRow_data()
     row("an unknown format in a list", "printer_formats.csv", "AlderMax,1", "AlderMax,9",
         "printer_formats.csv:4, column 2 (format): format 9 is not in formats.csv");
     row("a list without a model", "printer_formats.csv", "AlderMax,1", ",1",
-        "printer_formats.csv:4, column 1 (model): empty");
+        "printer_formats.csv:4, column 1 (model): empty; expected a text of at most 40 characters");
 }
 
 void RollDbTablesTest::refusesAnInvalidRow()
@@ -248,6 +272,180 @@ void RollDbTablesTest::refusesAnInvalidRow()
     catalogue.files[file].replace(before, after);
     const QString fault = failureOf([&catalogue] { catalogue.read(); });
     QTEST(fault, "fault");
+}
+
+void RollDbTablesTest::reportsAllMistakesInTheOrderOfTheFiles()
+{
+    SmallCatalogue catalogue;
+    catalogue.replace("colours.csv", "#ffffff,White", "white,");
+    catalogue.replace("materials.csv", "en,de", "en,color");
+    catalogue.replace("formats.csv", "2,die-cut", "2,cut");
+    // A row's mistakes are found in another order than that of its columns.
+    catalogue.replace("supplies.csv", "0.9,1500,1.5,0.125,no,,3,0.1", "wide,0,1.5,x,maybe,,0,0.1");
+    catalogue.replace("ribbons.csv", "RIBBON-K,2001 2002,wax,4.33",
+                      "RIBBON-K,2001 0 2002 x,,4.33 in");
+    catalogue.replace("print_settings.csv", "RIBBON-K,1,LABEL-1,44,0,8,26",
+                      "RIBBON-X,17,LABEL-1,44,-1,0,1001");
+    catalogue.replace("printer_formats.csv", "Alder,2\n", "Alder,3\n");
+    QCOMPARE(
+        failureOf([&catalogue] { catalogue.read(); }).split(u'\n'),
+        (QStringList{
+            QStringLiteral("colours.csv:2, column 2 (rgb): \"white\" is not a colour of the form "
+                           "#RRGGBB"),
+            QStringLiteral("colours.csv:2, column 3 (en): empty; expected a text of at most 200 "
+                           "characters"),
+            QStringLiteral("materials.csv:1, column 3 (color): neither a column of this table "
+                           "nor a known language; expected material and languages such as en "
+                           "or de"),
+            QStringLiteral("formats.csv:3, column 2 (type): \"cut\" is not one of continuous, "
+                           "die-cut, sleeve, tag"),
+            QStringLiteral("supplies.csv:3, column 8 (width): \"wide\" is not a number between "
+                           "0 and 100"),
+            QStringLiteral("supplies.csv:3, column 9 (length): \"0\" is not greater than 0"),
+            QStringLiteral("supplies.csv:3, column 11 (separator_width): \"x\" is not a number "
+                           "between 0 and 100"),
+            QStringLiteral("supplies.csv:3, column 12 (landscape): \"maybe\" is neither yes nor "
+                           "no"),
+            QStringLiteral("supplies.csv:3, column 14 (multi_up_count): \"0\" is not a whole "
+                           "number between 1 and 100"),
+            QStringLiteral("ribbons.csv:2, column 2 (numbers): \"0\" is not a whole number "
+                           "between 1 and 100000"),
+            QStringLiteral("ribbons.csv:2, column 2 (numbers): \"x\" is not a whole number "
+                           "between 1 and 100000"),
+            QStringLiteral("ribbons.csv:2, column 3 (type): empty; expected a text of at most "
+                           "40 characters"),
+            QStringLiteral("ribbons.csv:2, column 4 (width): \"4.33 in\" is not a number between "
+                           "0 and 100"),
+            QStringLiteral("print_settings.csv:5, column 1 (ribbon): \"RIBBON-X\" is not in "
+                           "ribbons.csv"),
+            QStringLiteral("print_settings.csv:5, column 2 (panel): \"17\" is not a whole number "
+                           "between 1 and 16"),
+            QStringLiteral("print_settings.csv:5, column 5 (heat_offset): \"-1\" is not a whole "
+                           "number between 0 and 1000"),
+            QStringLiteral("print_settings.csv:5, column 6 (max_speed): \"0\" is not a whole "
+                           "number between 1 and 1000"),
+            QStringLiteral("print_settings.csv:5, column 7 (tension): \"1001\" is not a whole "
+                           "number between 0 and 1000"),
+            QStringLiteral("printer_formats.csv:2, column 2 (format): format 3 is not in "
+                           "formats.csv"),
+        }));
+}
+
+void RollDbTablesTest::reportsTheFirst50MistakesAndCountsTheOthers()
+{
+    SmallCatalogue catalogue;
+    QByteArray& colours = catalogue.files[QStringLiteral("colours.csv")];
+    for (int i = 0; i < 1000; ++i)
+        colours += "c" + QByteArray::number(i) + ",,Name,,\n";
+    catalogue.replace("ribbons.csv", "2003", "x");
+    const QStringList lines = failureOf([&catalogue] { catalogue.read(); }).split(u'\n');
+    QCOMPARE(lines.size(), 51);
+    for (int i = 0; i < 50; ++i)
+        QVERIFY2(
+            lines.at(i).startsWith(QStringLiteral("colours.csv:%1, column 2 (rgb): ").arg(6 + i)),
+            qPrintable(lines.at(i)));
+    QCOMPARE(lines.last(), QStringLiteral("... and 951 more"));
+
+    catalogue = {};
+    QByteArray& materials = catalogue.files[QStringLiteral("materials.csv")];
+    for (int i = 0; i < 50; ++i)
+        materials += "m,Name,\n";
+    QCOMPARE(failureOf([&catalogue] { catalogue.read(); }).count(u'\n'), 49);
+}
+
+void RollDbTablesTest::reportsNoMistakeThatFollowsFromAnother_data()
+{
+    const auto row = rowsOfMistakes();
+    row("a colour that cannot be read", "colours.csv", "red,#C8102E,Red,", "red,#C8102E,Red,,",
+        "colours.csv:3: 6 fields, but there are 5 columns");
+    row("a colour without a valid key", "colours.csv", "red,", "bright red,",
+        "colours.csv:3, column 1 (colour): \"bright red\" has a space; expected a key without "
+        "spaces");
+    row("a colour with another mistake", "colours.csv", "red,#C8102E", "red,C8102E",
+        "colours.csv:3, column 2 (rgb): \"C8102E\" is not a colour of the form #RRGGBB");
+    row("a column of keys that is missing", "colours.csv", "colour,", "color,",
+        "colours.csv: the column colour is missing\n"
+        "colours.csv:1, column 1 (color): neither a column of this table nor a known language; "
+        "expected colour, rgb and languages such as en or de");
+    row("a table without a header", "materials.csv", "material,en,de\n", "mat\"erial,en,de\n",
+        "materials.csv:1: a quotation mark inside a field that is not quoted");
+    row("a table in another encoding", "formats.csv", "Etiketten", "\xc4tiketten",
+        "formats.csv:3: not UTF-8 text; save the table as UTF-8");
+    row("a material without a number", "materials.csv", "7,Vinyl", ",Vinyl",
+        "materials.csv:2, column 1 (material): \"\" is not a whole number between 0 and 999999");
+    row("a format of an unknown type", "formats.csv", "continuous", "endless",
+        "formats.csv:2, column 2 (type): \"endless\" is not one of continuous, die-cut, sleeve, "
+        "tag");
+    row("a format without a number", "formats.csv", "2,die-cut", "x,die-cut",
+        "formats.csv:3, column 1 (format): \"x\" is not a whole number between 0 and 999999");
+    row("a supply without a format", "supplies.csv", ",7,1,white", ",7,x,white",
+        "supplies.csv:2, column 4 (format): \"x\" is not a whole number between 0 and 999999");
+    row("a supply without a width", "supplies.csv", "1.25,4,6000", "1.25,-4,6000",
+        "supplies.csv:2, column 8 (width): \"-4\" is not a number between 0 and 100");
+    row("a supply without a length", "supplies.csv", "0.9,1500", "0.9,",
+        "supplies.csv:3, column 9 (length): \"\" is not a number between 0 and 100000");
+    row("a supply without a SKU", "supplies.csv", "TAPE-1,", "tape 1,",
+        "supplies.csv:2, column 1 (sku): \"tape 1\" is not a SKU: at most 40 letters from A to Z, "
+        "digits, dots, underscores and hyphens, starting with a letter or digit");
+    row("a ribbon without its panels", "ribbons.csv", "red black", "red blue",
+        "ribbons.csv:3, column 6 (panels): \"blue\" is not in colours.csv");
+    row("a ribbon without any panels", "ribbons.csv", "2360,red black", "2360,",
+        "ribbons.csv:3, column 6 (panels): 0 panels; a ribbon has 1 to 16");
+    row("a ribbon without a SKU", "ribbons.csv", "RIBBON-RK,", ",",
+        "ribbons.csv:3, column 1 (sku): \"\" is not a SKU: at most 40 letters from A to Z, digits, "
+        "dots, underscores and hyphens, starting with a letter or digit");
+}
+
+void RollDbTablesTest::reportsNoMistakeThatFollowsFromAnother()
+{
+    refusesAnInvalidRow();
+}
+
+void RollDbTablesTest::goesOnAfterALineThatIsNoRow()
+{
+    QStringList mistakes;
+    const CsvTable table = CsvTable::parse(
+        QStringLiteral("t.csv"),
+        QByteArray("key,size\na,\"1\" 2\nb,2\nc\"c,3\n\"q\nq\"q,4\ne,5\rf,6\ng,7,8\n") +
+            QByteArray("h,") + QByteArray(5000, 'x') + "\ni," + '\0' + "\nj,10\n",
+        [&mistakes](const Mistake& mistake) { mistakes.append(mistake.message()); });
+    QCOMPARE(mistakes,
+             (QStringList{
+                 QStringLiteral("t.csv:2: text after a closing quotation mark"),
+                 QStringLiteral("t.csv:4: a quotation mark inside a field that is not quoted"),
+                 QStringLiteral("t.csv:6: text after a closing quotation mark"),
+                 QStringLiteral("t.csv:7: a carriage return without a line feed"),
+                 QStringLiteral("t.csv:8: 3 fields, but there are 2 columns"),
+                 QStringLiteral("t.csv:9: a field of more than 4096 characters"),
+                 QStringLiteral("t.csv:10: a NUL character"),
+             }));
+    QVERIFY(!table.isComplete());
+    QCOMPARE(table.rowCount(), 2);
+    QCOMPARE(table.field(0, QStringLiteral("key")).text, QStringLiteral("b"));
+    QCOMPARE(table.field(1, QStringLiteral("key")).text, QStringLiteral("j"));
+    QCOMPARE(table.field(1, QStringLiteral("key")).line, 11);
+}
+
+// The mark hides the rows below it, which are read as if it were not there.
+void RollDbTablesTest::reportsOneUnclosedQuotationMark()
+{
+    QStringList mistakes;
+    const CsvTable table = CsvTable::parse(
+        QStringLiteral("t.csv"), "key,size\na,1\n\"b,2\nc,3\nq,4,5\n",
+        [&mistakes](const Mistake& mistake) { mistakes.append(mistake.message()); });
+    QCOMPARE(mistakes, (QStringList{QStringLiteral("t.csv:3: an unclosed quotation mark"),
+                                    QStringLiteral("t.csv:5: 3 fields, but there are 2 columns")}));
+    QCOMPARE(table.rowCount(), 2);
+    QCOMPARE(table.field(1, QStringLiteral("key")).text, QStringLiteral("c"));
+}
+
+void RollDbTablesTest::namesTheLineOfAHeaderBelowEmptyLines()
+{
+    SmallCatalogue catalogue;
+    catalogue.files[QStringLiteral("materials.csv")].prepend("\n\n");
+    catalogue.replace("materials.csv", "en,de", "en,en");
+    QCOMPARE(failureOf([&catalogue] { catalogue.read(); }),
+             QStringLiteral("materials.csv:3, column 3 (en): duplicate column"));
 }
 
 void RollDbTablesTest::refusesInvisibleCharacters_data()
@@ -443,6 +641,50 @@ void RollDbTablesTest::acceptsSemicolonsAndDecimalCommas()
     QCOMPARE(catalogue.read().supplies.at(0).secondColourWidth, std::optional(1.25));
     supplies.replace("1,25", "1.25");
     QCOMPARE(catalogue.read().supplies.at(0).secondColourWidth, std::optional(1.25));
+}
+
+void RollDbTablesTest::acceptsTabs_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("decimalPoint");
+    for (const char* file : {"supplies.csv", "supplies.tsv"}) {
+        for (const char* point : {".", ","})
+            QTest::addRow("%s with %s", file, point)
+                << QString::fromLatin1(file) << QByteArray(point);
+    }
+}
+
+void RollDbTablesTest::acceptsTabs()
+{
+    QFETCH(const QString, file);
+    QFETCH(const QByteArray, decimalPoint);
+    SmallCatalogue catalogue;
+    const Catalogue expected = catalogue.read();
+    QByteArray supplies = catalogue.files.take(QStringLiteral("supplies.csv"));
+    supplies.replace(',', '\t').replace('.', decimalPoint).replace("dot,png", "dot.png");
+    catalogue.files.insert(file, supplies);
+    QVERIFY(catalogue.read() == expected);
+
+    // A field may have a tab if it is quoted, and messages name the file that was read.
+    catalogue.files[file].replace("TAPE-1", "\"TAPE\t1\"");
+    QVERIFY(
+        failureOf([&catalogue] {
+            catalogue.read();
+        }).startsWith(file + QStringLiteral(":2, column 1 (sku): \"TAPE\\u00091\" is not a SKU")));
+    catalogue.files[file] = supplies;
+    catalogue.replace("print_settings.csv", "TAPE-1,52", "TAPE-2,52");
+    QCOMPARE(failureOf([&catalogue] { catalogue.read(); }),
+             QStringLiteral("print_settings.csv:2, column 3 (supply): \"TAPE-2\" is not in ") +
+                 file);
+}
+
+void RollDbTablesTest::refusesATableInTwoFiles()
+{
+    SmallCatalogue catalogue;
+    catalogue.files.insert(QStringLiteral("ribbons.tsv"),
+                           catalogue.files.value(QStringLiteral("ribbons.csv")));
+    QCOMPARE(failureOf([&catalogue] { catalogue.read(); }),
+             QStringLiteral("ribbons.csv: there is also ribbons.tsv; remove one of them"));
 }
 
 void RollDbTablesTest::theSampleCatalogueHasEveryNameInEachLanguage()

@@ -22,21 +22,24 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// A server that answers every connection's lines with the same bytes.
+/// A server that answers with the same bytes whenever a connection has sent so many lines.
 class OddServer : public QLocalServer
 {
 public:
-    OddServer(const QString& name, const QByteArray& answer)
+    OddServer(const QString& name, const QByteArray& answer, qsizetype lines = 1)
     {
         setSocketOptions(UserAccessOption);
         // An endpoint of this process has created the folder by now.
         listen(VXIPCClient::address(name));
-        connect(this, &QLocalServer::newConnection, this, [this, answer] {
+        connect(this, &QLocalServer::newConnection, this, [this, answer, lines] {
             QLocalSocket* socket = nextPendingConnection();
-            connect(socket, &QLocalSocket::readyRead, socket, [socket, answer] {
-                socket->readAll();
-                socket->write(answer);
-            });
+            // Lines that are sent together may arrive one by one.
+            connect(socket, &QLocalSocket::readyRead, socket,
+                    [socket, answer, lines, arrived = qsizetype(0)]() mutable {
+                        arrived += socket->readAll().count('\n');
+                        for (; arrived >= lines; arrived -= lines)
+                            socket->write(answer);
+                    });
         });
     }
 };
@@ -411,7 +414,7 @@ void VXIPCClientTest::runsAnEventLoopInACallback()
     QTRY_VERIFY(!service.serverName().isEmpty());
     const QString name = nameOf(newServerType());
     // Both answers arrive at once, and nothing after them.
-    const OddServer server(name, json_rpc::success(1, "1") + json_rpc::success(2, "2"));
+    const OddServer server(name, json_rpc::success(1, "1") + json_rpc::success(2, "2"), 2);
     QVERIFY(server.isListening());
     VXIPCClient client(name);
     QEventLoop loop;
@@ -555,8 +558,10 @@ void VXIPCClientTest::deliversNotificationsAndOutcomesInOrder()
     const QString name = nameOf(newServerType());
     const QByteArray notification = R"({"jsonrpc":"2.0","method":"told","params":{}})"
                                     "\n";
-    const OddServer server(name, json_rpc::success(1, "1") + notification +
-                                     json_rpc::success(2, "2") + notification + notification);
+    const OddServer server(name,
+                           json_rpc::success(1, "1") + notification + json_rpc::success(2, "2") +
+                               notification + notification,
+                           2);
     QVERIFY(server.isListening());
     VXIPCClient client(name);
     QStringList order;

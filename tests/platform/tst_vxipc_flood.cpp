@@ -2,16 +2,15 @@
 // Copyright The VxPrinterStatus authors
 #include "ipc_host_process.h"
 #include "ipc_raw_client.h"
+#include "on_own_thread.h"
+#include "processor_waits.h"
 #include "vxipcclient.h"
 
 #include <QtCore/QElapsedTimer>
-#include <QtCore/QFile>
 #include <QtCore/QJsonArray>
-#include <QtCore/QThread>
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
 
-#include <algorithm>
 #include <chrono>
 #include <memory>
 #include <vector>
@@ -115,78 +114,14 @@ private:
 
 /// The bad clients, on one thread: together they still send more than the endpoint can read, and
 /// leave a processor to the endpoint and the client that are measured.
-class Flood
+std::unique_ptr<OnOwnThread<BadClient>> startFlood(const QString& serverName)
 {
-public:
-    explicit Flood(const QString& serverName)
-    {
-        m_context.moveToThread(&m_thread);
-        m_thread.start();
-        QMetaObject::invokeMethod(&m_context, [this, serverName] {
-            for (const Badness& badness : badnesses())
-                m_clients.push_back(std::make_unique<BadClient>(serverName, badness));
-        });
-    }
-
-    ~Flood()
-    {
-        QMetaObject::invokeMethod(
-            &m_context, [this] { m_clients.clear(); }, Qt::BlockingQueuedConnection);
-        m_thread.quit();
-        m_thread.wait();
-    }
-    Q_DISABLE_COPY_MOVE(Flood)
-
-private:
-    QThread m_thread;
-    QObject m_context;
-    std::vector<std::unique_ptr<BadClient>> m_clients;
-};
-
-/// How long runnable threads have waited for a processor so far. That depends on the machine's load
-/// only, and some systems do not report it.
-class ProcessorWaits
-{
-public:
-    /// Of the first thread of each process.
-    explicit ProcessorWaits(const std::vector<qint64>& processes)
-    {
-        for (const qint64 process : processes) {
-            auto file =
-                std::make_unique<QFile>(QStringLiteral("/proc/%1/task/%1/schedstat").arg(process));
-            m_isKnown = file->open(QFile::ReadOnly | QFile::Unbuffered) && m_isKnown;
-            m_files.push_back(std::move(file));
-        }
-    }
-
-    bool isKnown() const { return m_isKnown; }
-
-    std::chrono::nanoseconds all() const
-    {
-        std::chrono::nanoseconds sum = 0ns;
-        for (const auto& file : m_files) {
-            file->seek(0);
-            // Time on a processor, time waiting for one, number of turns.
-            sum += std::chrono::nanoseconds(file->readAll().split(' ').value(1).toLongLong());
-        }
-        return sum;
-    }
-
-private:
-    std::vector<std::unique_ptr<QFile>> m_files;
-    bool m_isKnown = true;
-};
-
-double milliseconds(std::chrono::nanoseconds time)
-{
-    return std::chrono::duration<double, std::milli>(time).count();
-}
-
-/// The time that the given share of them does not exceed.
-std::chrono::nanoseconds quantile(std::vector<std::chrono::nanoseconds> times, double share)
-{
-    std::ranges::sort(times);
-    return times.at(static_cast<std::size_t>(static_cast<double>(times.size() - 1) * share));
+    return std::make_unique<OnOwnThread<BadClient>>([serverName] {
+        OnOwnThread<BadClient>::Objects clients;
+        for (const Badness& badness : badnesses())
+            clients.push_back(std::make_unique<BadClient>(serverName, badness));
+        return clients;
+    });
 }
 
 } // namespace
@@ -206,7 +141,7 @@ void VXIPCFloodTest::servesAGoodClientDuringAFlood()
     VXIPCClient good(host.serverName());
     QVERIFY(good.connectToServer());
 
-    auto flood = std::make_unique<Flood>(host.serverName());
+    auto flood = startFlood(host.serverName());
     const ProcessorWaits waits({host.processId(), QCoreApplication::applicationPid()});
     std::vector<std::chrono::nanoseconds> times;
     std::vector<std::chrono::nanoseconds> timesOfTheirOwn;

@@ -28,7 +28,8 @@ make_installed(broken include "Logger* theLogger();")
 
 expect("older release" older "found: TRUE loggerInstance")
 expect("newer release" newer "found: TRUE cuteLoggerInstance")
-expect("neither" broken "declares neither")
+# CMake breaks its lines, where depends on the length of the paths.
+expect("neither" broken "declares[ \n]+neither")
 expect("none" missing "found: FALSE ")
 
 file(REMOVE_RECURSE "${BINARY}")
