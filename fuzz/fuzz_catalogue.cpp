@@ -2,15 +2,18 @@
 // Copyright The VxPrinterStatus authors
 //
 // The input consists of the files of a catalogue. Each follows a line with "@" and its name;
-// missing files are taken from a small valid catalogue. Either the catalogue is refused in one line
-// that names the file, or its rows fit the tables of a database, which the check accepts.
+// missing files are taken from a small valid catalogue. Either the catalogue is refused in lines
+// that name their files, or its rows fit the tables of a database, which the check accepts, and can
+// be written as tables again.
 #include "one_line.h"
 #include "qt_application.h"
 #include "require.h"
 #include "small_catalogue.h"
 
+#include <catalogue_tables.h>
 #include <database_check.h>
 #include <failure.h>
+#include <mistakes.h>
 #include <shown_text.h>
 
 #include <QtSql/QSqlDatabase>
@@ -75,6 +78,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     ensureCoreApplication();
     static Tables tables;
 
+    constexpr auto most = static_cast<qsizetype>(Mistakes::most);
     static const SmallCatalogue valid;
     SmallCatalogue files = valid;
     takeFiles(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)), files);
@@ -82,16 +86,21 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     try {
         catalogue = files.read();
     } catch (const Failure& failure) {
-        const QString file = failure.message().section(u':', 0, 0);
-        require(files.files.contains(file), "a failure names its file");
-        require(isOneLine(shownAsMessage(failure.message())), "a failure is one line");
+        const QStringList messages = failure.messages();
+        require(messages.size() <= most + 1, "the number of messages is limited");
+        for (qsizetype i = 0; i < messages.size(); ++i) {
+            const QString file = messages.at(i).section(u':', 0, 0);
+            require(i == most || files.files.contains(file), "a mistake names its file");
+            require(isOneLine(shownAsMessage(messages.at(i))), "a mistake is one line");
+        }
         return 0;
     }
     try {
         tables.write(catalogue);
+        catalogueFiles(catalogue);
     } catch (const Failure& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
-        require(false, "a catalogue that was accepted fits the tables");
+        require(false, "a catalogue that was accepted fits the tables, and the other way round");
     }
     return 0;
 }
