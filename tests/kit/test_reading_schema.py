@@ -26,6 +26,7 @@ def strict(schema: Json) -> Json:
     result = copy.deepcopy(schema)
     result["additionalProperties"] = False
     result["$defs"]["level"]["additionalProperties"] = False
+    result["$defs"]["remaining"]["additionalProperties"] = False
     return result
 
 
@@ -80,6 +81,9 @@ class ReadingSchema(unittest.TestCase):
         )
         states = {reading["supply"]["state"] for reading in self.readings}
         self.assertEqual(states, {"notKnown", "empty", "loaded", "notInCatalogue"})
+        estimates = [reading["supply"]["estimatedSecondsRemaining"] for reading in self.readings]
+        self.assertIn(None, estimates)
+        self.assertIn(1000, [estimate["p50"] for estimate in estimates if estimate])
         self.assertIn(0, [reading["supply"]["ratio"] for reading in self.readings])
         self.assertIn(4294967295, [reading["updateError"] for reading in self.readings])
 
@@ -151,6 +155,11 @@ class ReadingSchema(unittest.TestCase):
             ("coarse", 0),
             ("mileage", -1),
             ("mileageUnit", "inches"),
+            ("labelPitchMeters", -1),
+            ("labelsAcross", 0),
+            ("estimatedSecondsRemaining", 60),
+            ("estimatedSecondsRemaining", {"p10": 1, "p50": 2}),
+            ("estimatedSecondsRemaining", {"p10": -1, "p50": 2, "p90": 3}),
         ]
         for name, value in wrong_levels:
             reading = self.loaded()

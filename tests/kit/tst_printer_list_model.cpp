@@ -137,8 +137,10 @@ void PrinterListModelTest::everyRoleHasANameAndAValue()
     level.colors = QStringList{QStringLiteral("#ffff00")};
     level.totalMeters = 30.48;
     level.mileage = 15240;
-    for (const Slot slot : reading.slotList())
+    for (const Slot slot : reading.slotList()) {
         reading.setLevel(slot, level);
+        reading.setEstimatedSecondsRemaining(slot, VxKit::RemainingTime{60, 120, 240});
+    }
     PrinterListModel model;
     model.setReading(reading);
 
@@ -161,7 +163,20 @@ void PrinterListModelTest::everyRoleHasANameAndAValue()
     QCOMPARE(row.data(PrinterListModel::SupplyStateRole), QStringLiteral("loaded"));
     QCOMPARE(row.data(PrinterListModel::Ribbon2LabelsRole), 120);
     QCOMPARE(row.data(PrinterListModel::Ribbon1MileageUnitRole), QStringLiteral("mm"));
+    QCOMPARE(row.data(PrinterListModel::SupplyEstimatedSecondsRemainingRole)
+                 .toMap()
+                 .value(QStringLiteral("p50")),
+             120.0);
     QVERIFY(row.data(PrinterListModel::ReadingRole).value<PrinterReading>() == reading);
+
+    // A report with another estimate.
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    reading.setLastReport(reading.lastReport().addSecs(60));
+    reading.setEstimatedSecondsRemaining(Slot::Ribbon1, std::nullopt);
+    model.setReading(reading);
+    QVERIFY(changed.at(0).at(2).value<QList<int>>().contains(
+        PrinterListModel::Ribbon1EstimatedSecondsRemainingRole));
+    QVERIFY(!row.data(PrinterListModel::Ribbon1EstimatedSecondsRemainingRole).isValid());
 }
 
 void PrinterListModelTest::unknownValuesAreInvalid()

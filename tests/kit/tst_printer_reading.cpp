@@ -309,6 +309,12 @@ void TestPrinterReading::impossibleJsonIsRefused_data()
     add("supply.totalMeters", -1);
     add("supply.labels", 1.5);
     add("supply.labels", 3e9);
+    add("supply.labelPitchMeters", -1);
+    add("supply.labelsAcross", 0);
+    add("supply.estimatedSecondsRemaining", 60);
+    add("supply.estimatedSecondsRemaining", QJsonObject{{QStringLiteral("p10"), 3},
+                                                        {QStringLiteral("p50"), 2},
+                                                        {QStringLiteral("p90"), 4}});
     add("supply.coarse", {});
     add("supply.mileage", -1);
     add("supply.mileageUnit", QStringLiteral("inches"));

@@ -97,6 +97,9 @@ void ReadingsWithDiscoveryTest::aRenamedPrinterKeepsItsReading()
     publishText(packing, "SoftwareVersion", "4.2");
     QVERIFY(start());
     QTRY_COMPARE_WITH_TIMEOUT(reading(packing).firmwareVersion(), QStringLiteral("4.2"), patience);
+    // The version has been read with the list of printers. Only a thread that has opened its
+    // printer follows it to another name; the discovery waits beside it.
+    QVERIFY(machine().waitForWaitingThreads(2));
     machine().renamePrinter(packing, shipping);
     // The discovery may see it before the printer's thread, and the controller may have a thread
     // for the new name by then.

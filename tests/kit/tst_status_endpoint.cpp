@@ -26,7 +26,11 @@ private Q_SLOTS:
     void answersOnePrinter();
     void answersAnErrorForAnUnknownPrinter();
     void answersWhatTheCatalogueKnows();
+    void answersFromTheFileThatTheServiceReads();
     void callsASupplyAsItsReadingDoes();
+    void answersWhetherAJobFits();
+    void answersByTheCatalogueWhetherARibbonSuits();
+    void answersFromMemoryWhenTheControllerIsGone();
     void describesItself();
     void reportsAChangeAsTheWholeReading();
     void reportsOnlyTheLatestReadingOfAPrinterToAClientThatIsLate();
@@ -150,6 +154,22 @@ void StatusEndpointTest::answersWhatTheCatalogueKnows()
     QCOMPARE(ribbon[QStringLiteral("colors")].toArray().size(), service.supplyRibbonPanels(sku));
 }
 
+void StatusEndpointTest::answersFromTheFileThatTheServiceReads()
+{
+    QVERIFY(makeEndpoint());
+    const QString usual = QCoreApplication::applicationDirPath() + QStringLiteral("/roll.db");
+    VXIPCSUPPLYDController& service = *controller().getSupplyIdController();
+    QCOMPARE(service.catalogueFile(), usual);
+    QVERIFY(!m_endpoint->supplies()[QStringLiteral("supplies")].toArray().isEmpty());
+
+    service.setCatalogueFile(usual + QStringLiteral(".missing"));
+    VxKit::PrinterReadings readings(&controller());
+    QCOMPARE(readings.catalogueFile(), service.catalogueFile());
+    StatusEndpoint endpoint(&readings);
+    QCOMPARE(endpoint.supplies(), (QJsonObject{{QStringLiteral("ribbons"), QJsonArray()},
+                                               {QStringLiteral("supplies"), QJsonArray()}}));
+}
+
 void StatusEndpointTest::callsASupplyAsItsReadingDoes()
 {
     QVERIFY(makeEndpoint());
@@ -176,6 +196,87 @@ void StatusEndpointTest::callsASupplyAsItsReadingDoes()
     QVERIFY(check(Slot::Ribbon1, QStringLiteral("ribbons")));
 }
 
+void StatusEndpointTest::answersWhetherAJobFits()
+{
+    QVERIFY(makeEndpoint());
+    RawClient client(m_endpoint->serverName());
+    const auto ask = [&](const QByteArray& arguments) -> QJsonValue {
+        return client.call("preflight", arguments)[QStringLiteral("result")];
+    };
+    const auto reasonOf = [](const QJsonValue& answer) {
+        return answer[QStringLiteral("findings")][0][QStringLiteral("reason")].toString();
+    };
+    // The printer has not said what is loaded.
+    const QJsonValue open = ask(R"(["Packing","DN-2UP-WH",100])");
+    QCOMPARE(open[QStringLiteral("answer")].toString(), QStringLiteral("notKnown"));
+    QCOMPARE(reasonOf(open), QStringLiteral("slotNotKnown"));
+
+    // 20000 of 38100 mm, with two labels side by side: 968 labels. See docs/readings.md.
+    publishText(packing, "SupplyIdentifier", "0000007D100038000001");
+    publishNumber(packing, "Mileage", 20000);
+    publishNumber(packing, "Ribbon1Identifier", 2001);
+    publishNumber(packing, "Ribbon1Mileage", 60000);
+    QVERIFY(settleAll(1));
+    const QJsonValue yes = ask(R"(["Packing","DN-2UP-WH",968,["RS-43-BK"]])");
+    QCOMPARE(yes[QStringLiteral("answer")].toString(), QStringLiteral("yes"));
+    QCOMPARE(yes[QStringLiteral("labelsAtLeast")].toInt(), 968);
+    const QJsonValue no = ask(R"(["Packing","DN-2UP-WH",1000])");
+    QCOMPARE(no[QStringLiteral("verdict")].toString(), QStringLiteral("notEnough"));
+    QCOMPARE(no[QStringLiteral("findings")][0][QStringLiteral("shortBy")].toInt(), 32);
+    QCOMPARE(no.toObject(), m_endpoint->preflight(packing, QStringLiteral("DN-2UP-WH"), 1000));
+
+    // A roll that the catalogue lacks.
+    publishText(packing, "SupplyIdentifier", "0000007D100999000001");
+    QVERIFY(settleAll(1));
+    const QJsonValue lacking = ask(R"(["Packing","DN-2UP-WH",100])");
+    QCOMPARE(lacking[QStringLiteral("answer")].toString(), QStringLiteral("notKnown"));
+    QCOMPARE(reasonOf(lacking), QStringLiteral("notInCatalogue"));
+    QVERIFY(lacking[QStringLiteral("labelsAtMost")].isNull());
+
+    const QJsonObject unknown = client.call("preflight", R"(["Nowhere","X",1])");
+    QCOMPARE(errorCode(unknown), -32004);
+    QVERIFY(errorMessage(unknown).contains(QStringLiteral("Nowhere")));
+    QCOMPARE(errorCode(client.call("preflight", R"(["Packing","DN-2UP-WH",1e10])")), -32602);
+    QCOMPARE(m_endpoint->preflight(QStringLiteral("Nowhere"), {}, 1), QJsonObject());
+}
+
+void StatusEndpointTest::answersByTheCatalogueWhetherARibbonSuits()
+{
+    QVERIFY(makeEndpoint());
+    const VxKit::PrinterReadings& all = readings();
+    const QString paper = QStringLiteral("DE-400200-WH");
+    QCOMPARE(all.ribbonSuits(QStringLiteral("RX-43-BK"), paper), std::optional(true));
+    QCOMPARE(all.ribbonSuits(QStringLiteral("RS-43-BK"), paper), std::optional(false));
+    QCOMPARE(all.ribbonSuits(QStringLiteral("RP-43-KR"), QStringLiteral("VT-400-YL")),
+             std::optional(true));
+    for (int round = 0; round < 2; ++round) {
+        QCOMPARE(all.ribbonSuits(QStringLiteral("RS-43-BK"), QStringLiteral("nothing")),
+                 std::optional<bool>());
+        QCOMPARE(all.ribbonSuits(QStringLiteral("nothing"), paper), std::optional<bool>());
+        QCOMPARE(all.ribbonSuits({}, {}), std::optional<bool>());
+    }
+    // More pairs than are kept at a time.
+    for (int pair = 0; pair < 3000; ++pair)
+        QCOMPARE(all.ribbonSuits(QStringLiteral("R-%1").arg(pair), paper), std::optional<bool>());
+    QCOMPARE(all.ribbonSuits(QStringLiteral("RX-43-BK"), paper), std::optional(true));
+}
+
+void StatusEndpointTest::answersFromMemoryWhenTheControllerIsGone()
+{
+    QVERIFY(makeEndpoint());
+    publishText(packing, "SupplyIdentifier", "0000007D100038000001");
+    publishNumber(packing, "Mileage", 20000);
+    publishNumber(packing, "Ribbon1Identifier", 2001);
+    publishNumber(packing, "Ribbon1Mileage", 60000);
+    QVERIFY(settleAll(1));
+    endControllerBeforeReadings();
+    const QJsonObject answer = m_endpoint->preflight(packing, QStringLiteral("DN-2UP-WH"), 10);
+    QCOMPARE(answer[QStringLiteral("findings")][0][QStringLiteral("reason")].toString(),
+             QStringLiteral("suitsNotKnown"));
+    endReadings();
+    QCOMPARE(m_endpoint->preflight(packing, QStringLiteral("DN-2UP-WH"), 10), QJsonObject());
+}
+
 void StatusEndpointTest::describesItself()
 {
     QVERIFY(makeEndpoint());
@@ -189,7 +290,8 @@ void StatusEndpointTest::describesItself()
     };
     QCOMPARE(namesIn(QStringLiteral("methods")),
              (QStringList{QStringLiteral("printers"), QStringLiteral("printer"),
-                          QStringLiteral("statusInfo"), QStringLiteral("supplies")}));
+                          QStringLiteral("statusInfo"), QStringLiteral("supplies"),
+                          QStringLiteral("preflight")}));
     QCOMPARE(namesIn(QStringLiteral("x-signals")),
              (QStringList{QStringLiteral("printerChanged"), QStringLiteral("printerAdded"),
                           QStringLiteral("printerGone"), QStringLiteral("printerRenamed")}));
