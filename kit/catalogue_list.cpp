@@ -3,6 +3,7 @@
 #include "catalogue_list.h"
 
 #include "catalogue_texts.h"
+#include "json_values.h"
 #include "supply_catalogue.h"
 
 #include <vxsupplydatabase.h>
@@ -20,11 +21,6 @@ namespace {
 QJsonValue meters(double inches)
 {
     return inches > 0.0 ? QJsonValue(inches * metersPerInch) : QJsonValue();
-}
-
-QJsonValue textOrNull(const QString& text)
-{
-    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
 }
 
 QJsonObject supply(const VXSupplyDatabase& database, const QString& sku)
@@ -73,10 +69,10 @@ QJsonObject ribbon(const VXSupplyDatabase& database, const QString& sku)
 
 } // namespace
 
-QJsonObject readCatalogueList(int languageId)
+QJsonObject readCatalogueList(const QString& file, int languageId)
 {
     VXSupplyDatabase database;
-    database.setup(cataloguePath(), QStringLiteral("VXKIT_LIST_CONNECTION_NAME"));
+    database.setup(file, QStringLiteral("VXKIT_LIST_CONNECTION_NAME"));
     database.setLanguageId(languageId);
     QJsonArray supplies;
     for (const QStringList skus = database.supplySKUList(); const QString& sku : skus)

@@ -6,9 +6,9 @@
 
 namespace VxKit {
 
-/// Everything that the library's catalogue holds, as `StatusEndpoint::supplies` answers it. Reads
-/// the whole file, which takes tens of milliseconds. The language is meant as in
-/// `VXLocaleLanguages`. May be called on any thread.
-QJsonObject readCatalogueList(int languageId);
+/// Everything that a catalogue holds, as `StatusEndpoint::supplies` answers it. Reads the whole
+/// file, which takes tens of milliseconds. The language is meant as in `VXLocaleLanguages`. May be
+/// called on any thread.
+QJsonObject readCatalogueList(const QString& file, int languageId);
 
 } // namespace VxKit

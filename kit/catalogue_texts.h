@@ -11,7 +11,7 @@ namespace VxKit {
 /// More panels than any ribbon has.
 inline constexpr int mostPanels = 64;
 
-/// The file that the library's supply service reads.
+/// The file that the library's supply service reads unless it is told to read another one.
 QString cataloguePath();
 
 /// 0xRRGGBB numbers as "#rrggbb", without those that are not known, which are negative.

@@ -65,17 +65,6 @@ std::optional<double> ratioOfMileage(Slot slot, const SlotValues& values)
     return plausibleRatio((used + length) / length);
 }
 
-std::optional<int> labelsOf(const CatalogueItem& item, double inches)
-{
-    if (!(item.pitch > 0.0))
-        return std::nullopt;
-    const double rows = std::floor(inches / item.pitch * (1.0 + labelTolerance));
-    const double labels = rows * item.labelsSideBySide;
-    if (!(labels >= 0.0 && labels <= std::numeric_limits<int>::max()))
-        return std::nullopt;
-    return static_cast<int>(labels);
-}
-
 } // namespace
 
 std::optional<quint32> publishedNumber(const QString& text)
@@ -101,6 +90,17 @@ Level::State stateOf(Slot slot, const QString& identifier)
                                                : identifier == QLatin1String("0") ||
                                                      identifier == QLatin1String("4294967295"));
     return isEmpty ? Level::State::Empty : Level::State::Loaded;
+}
+
+std::optional<int> labelsOn(double length, double pitch, int across)
+{
+    if (!(pitch > 0.0))
+        return std::nullopt;
+    const double rows = std::floor(length / pitch * (1.0 + labelTolerance));
+    const double labels = rows * across;
+    if (!(labels >= 0.0 && labels <= std::numeric_limits<int>::max()))
+        return std::nullopt;
+    return static_cast<int>(labels);
 }
 
 Level levelOf(Slot slot, PrinterType model, const SlotValues& values)
@@ -130,13 +130,17 @@ Level levelOf(Slot slot, PrinterType model, const SlotValues& values)
     level.material = item.material;
     level.colorName = item.colorName;
     level.colors = item.colors;
+    if (item.pitch > 0.0) {
+        level.labelPitchMeters = item.pitch * metersPerInch;
+        level.labelsAcross = item.labelsSideBySide;
+    }
     if (std::round(item.length) < shortestLength(slot))
         return level;
     level.totalMeters = item.length * metersPerInch;
     if (level.ratio) {
         const double inches = *level.ratio * item.length;
         level.meters = inches * metersPerInch;
-        level.labels = labelsOf(item, inches);
+        level.labels = labelsOn(inches, item.pitch, item.labelsSideBySide);
     }
     return level;
 }

@@ -21,8 +21,15 @@ std::optional<quint32> publishedNumber(const QString& text);
 /// A mileage. Without a value also for the -1 with which a driver says that it does not know it.
 std::optional<quint32> publishedMileage(const QString& text);
 
+/// In what steps a printer reports what is left, as a ratio, if it reports whole percents.
+inline constexpr double coarseStep = 0.01;
+
 /// The state of a slot by its identifier alone: `Loaded` stands for both states of a loaded slot.
 Level::State stateOf(Slot slot, const QString& identifier);
+
+/// How many labels a length holds, each `pitch` long and `across` of them side by side. Without a
+/// value when the pitch is not known (not above 0), or the number is not one of an `int`.
+std::optional<int> labelsOn(double length, double pitch, int across);
 
 /// The level of a slot. docs/readings.md explains the calculation and gives examples.
 Level levelOf(Slot slot, VXPrinting::PrinterType model, const SlotValues& values);

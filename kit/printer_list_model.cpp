@@ -161,7 +161,7 @@ constexpr std::array printerRoles{
 struct LevelRole
 {
     const char* name;
-    QVariant (*value)(const Level& level);
+    QVariant (*value)(const Level& level); ///< null for the estimate, which is not of the level
 };
 
 constexpr std::array levelRoles{
@@ -221,6 +221,7 @@ constexpr std::array levelRoles{
               [](const Level& level) -> QVariant {
                   return level.mileage ? nameOf(level.mileageUnit) : QVariant();
               }},
+    LevelRole{"EstimatedSecondsRemaining", nullptr},
 };
 
 struct SlotRoles
@@ -237,10 +238,22 @@ constexpr std::array slotRoles{
 };
 static_assert(Model::Ribbon1StateRole - Model::SupplyStateRole == levelRoles.size());
 static_assert(Model::Ribbon2StateRole - Model::Ribbon1StateRole == levelRoles.size());
-static_assert(Model::Ribbon2MileageUnitRole - Model::Ribbon2StateRole + 1 == levelRoles.size());
+static_assert(Model::Ribbon2EstimatedSecondsRemainingRole - Model::Ribbon2StateRole + 1 ==
+              levelRoles.size());
+
+QVariant known(const std::optional<RemainingTime>& remaining)
+{
+    if (!remaining)
+        return {};
+    return QVariantMap{{QStringLiteral("p10"), remaining->p10},
+                       {QStringLiteral("p50"), remaining->p50},
+                       {QStringLiteral("p90"), remaining->p90}};
+}
 
 QVariant levelValue(const PrinterReading& reading, Slot slot, const LevelRole& role)
 {
+    if (!role.value)
+        return known(reading.estimatedSecondsRemaining(slot));
     return reading.hasSlot(slot) ? role.value(reading.level(slot)) : QVariant();
 }
 
@@ -259,7 +272,10 @@ QList<int> changedRoles(const PrinterReading& before, const PrinterReading& afte
     }
     // A change of the model may add or remove the second ribbon.
     for (const SlotRoles& slot : slotRoles) {
-        if (!(fields & (slot.field | Field::Model)))
+        // Each report may change the estimate.
+        const bool hasOtherLevel = bool(fields & (slot.field | Field::Model));
+        if (!hasOtherLevel && before.estimatedSecondsRemaining(slot.slot) ==
+                                  after.estimatedSecondsRemaining(slot.slot))
             continue;
         for (std::size_t i = 0; i < levelRoles.size(); ++i) {
             if (levelValue(before, slot.slot, levelRoles[i]) !=
@@ -488,7 +504,7 @@ QVariant PrinterListModel::data(const QModelIndex& index, int role) const
         return reading.name();
     if (role == ReadingRole)
         return QVariant::fromValue(reading);
-    if (role >= SupplyStateRole && role <= Ribbon2MileageUnitRole) {
+    if (role >= SupplyStateRole && role <= Ribbon2EstimatedSecondsRemainingRole) {
         constexpr int count = static_cast<int>(levelRoles.size());
         const int number = role - SupplyStateRole;
         return levelValue(reading, slotRoles[static_cast<std::size_t>(number / count)].slot,

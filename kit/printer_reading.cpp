@@ -4,6 +4,7 @@
 
 #include "slot_table.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QSharedData>
 
 #include <array>
@@ -25,6 +26,24 @@ constexpr PrinterReading::Field fieldOf(Slot slot)
         break;
     }
     return PrinterReading::Field::Supply;
+}
+
+/// What the status of a printer is about that only its agent could tell.
+StatusInfo agentOfflineInfo()
+{
+    const auto translated = [](const char* text) {
+        return QCoreApplication::translate("VxKit::StatusInfo", text);
+    };
+    StatusInfo info = VxKit::statusInfo(VXPrinting::StatusCodes::unknown);
+    info.title = translated(QT_TRANSLATE_NOOP("VxKit::StatusInfo", "Agent offline"));
+    info.shortTitle = info.title;
+    info.explanation = translated(QT_TRANSLATE_NOOP(
+        "VxKit::StatusInfo", "Nothing is heard from the agent on the printer's computer. What is "
+                             "loaded is shown as it was last reported."));
+    info.remedy = translated(QT_TRANSLATE_NOOP(
+        "VxKit::StatusInfo", "Check that the computer is switched on and connected to the network, "
+                             "and that vxprintagent is running there."));
+    return info;
 }
 
 } // namespace
@@ -61,6 +80,7 @@ struct PrinterReading::Data : QSharedData
     Presence presence = Presence::Present;
     QDateTime goneSince;
     Watching watching = Watching::NotDiscovered;
+    QDateTime unheardSince;
     int statusCode = VXPrinting::StatusCodes::unknown;
     bool online = false;
     bool active = false;
@@ -71,6 +91,7 @@ struct PrinterReading::Data : QSharedData
     QString ethernetConfig;
     QDateTime lastReport;
     std::array<Level, allSlots.size()> levels;
+    std::array<std::optional<RemainingTime>, allSlots.size()> remaining;
 };
 
 namespace {
@@ -125,7 +146,8 @@ PrinterReading::Fields PrinterReading::differences(const PrinterReading& other) 
     fields.setFlag(Field::Port, one.port != two.port);
     fields.setFlag(Field::SerialNumber, one.serialNumber != two.serialNumber);
     fields.setFlag(Field::Presence, one.presence != two.presence || one.goneSince != two.goneSince);
-    fields.setFlag(Field::Watching, one.watching != two.watching);
+    fields.setFlag(Field::Watching,
+                   one.watching != two.watching || one.unheardSince != two.unheardSince);
     fields.setFlag(Field::Status, one.statusCode != two.statusCode);
     fields.setFlag(Field::Online, one.online != two.online);
     fields.setFlag(Field::Active, one.active != two.active);
@@ -180,6 +202,16 @@ PrinterReading::Watching PrinterReading::watching() const
     return d->watching;
 }
 
+QDateTime PrinterReading::unheardSince() const
+{
+    return d->unheardSince;
+}
+
+bool PrinterReading::isUnheard() const
+{
+    return d->watching == Watching::AgentOffline || d->watching == Watching::NotConnected;
+}
+
 int PrinterReading::statusCode() const
 {
     return d->statusCode;
@@ -187,7 +219,8 @@ int PrinterReading::statusCode() const
 
 StatusInfo PrinterReading::statusInfo() const
 {
-    return VxKit::statusInfo(d->statusCode);
+    return d->watching == Watching::AgentOffline ? agentOfflineInfo()
+                                                 : VxKit::statusInfo(d->statusCode);
 }
 
 bool PrinterReading::isOnline() const
@@ -252,6 +285,11 @@ Level PrinterReading::level(Slot slot) const
     return d->levels[indexOf(slot)];
 }
 
+std::optional<RemainingTime> PrinterReading::estimatedSecondsRemaining(Slot slot) const
+{
+    return d->remaining[indexOf(slot)];
+}
+
 void PrinterReading::setName(const QString& name)
 {
     set(&Data::name, name);
@@ -261,8 +299,10 @@ void PrinterReading::setModel(VXPrinting::PrinterType model)
 {
     set(&Data::model, model);
     for (const Slot slot : allSlots) {
-        if (!hasSlot(slot))
-            setOwnLevel(slot, Level());
+        if (hasSlot(slot))
+            continue;
+        setOwnLevel(slot, Level());
+        setOwnRemaining(slot, std::nullopt);
     }
 }
 
@@ -296,6 +336,11 @@ void PrinterReading::setGone(const QDateTime& since)
 void PrinterReading::setWatching(Watching watching)
 {
     set(&Data::watching, watching);
+}
+
+void PrinterReading::setUnheardSince(const QDateTime& time)
+{
+    set(&Data::unheardSince, time);
 }
 
 void PrinterReading::setStatusCode(int statusCode)
@@ -347,6 +392,19 @@ void PrinterReading::setLevel(Slot slot, const Level& level)
 {
     if (hasSlot(slot))
         setOwnLevel(slot, level);
+}
+
+void PrinterReading::setEstimatedSecondsRemaining(Slot slot,
+                                                  const std::optional<RemainingTime>& remaining)
+{
+    if (hasSlot(slot))
+        setOwnRemaining(slot, remaining);
+}
+
+void PrinterReading::setOwnRemaining(Slot slot, const std::optional<RemainingTime>& remaining)
+{
+    if (d.constData()->remaining[indexOf(slot)] != remaining)
+        d->remaining[indexOf(slot)] = remaining;
 }
 
 void PrinterReading::setOwnLevel(Slot slot, const Level& level)

@@ -4,6 +4,7 @@
 // A reading as JSON, as docs/schema/reading.schema.json describes it.
 #include "printer_reading.h"
 
+#include "json_values.h"
 #include "reading_words.h"
 
 #include <QtCore/QJsonArray>
@@ -26,6 +27,7 @@ using VXPrinting::PrinterType;
 constexpr qsizetype longestText = 4096;
 constexpr qsizetype mostColors = 64;
 constexpr double mostMeters = 1e6;
+constexpr double mostSeconds = 1e9;
 constexpr double secondsOfAMinute = 60;
 
 constexpr std::array presences{
@@ -38,11 +40,6 @@ constexpr std::array units{
 };
 
 // Writing /////////////////////////////////////////////////////////////////////////////////////////
-
-QJsonValue textOrNull(const QString& text)
-{
-    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
-}
 
 template <typename Number>
 QJsonValue numberOrNull(const std::optional<Number>& number)
@@ -66,7 +63,16 @@ QString modelName(PrinterType model)
     return QLatin1String(key ? key : "Unknown");
 }
 
-QJsonObject levelToJson(const Level& level)
+QJsonValue remainingToJson(const std::optional<RemainingTime>& remaining)
+{
+    if (!remaining)
+        return {};
+    return QJsonObject{{QStringLiteral("p10"), remaining->p10},
+                       {QStringLiteral("p50"), remaining->p50},
+                       {QStringLiteral("p90"), remaining->p90}};
+}
+
+QJsonObject levelToJson(const Level& level, const std::optional<RemainingTime>& remaining)
 {
     return {
         {QStringLiteral("state"), wordOf(stateWords, level.state)},
@@ -80,9 +86,12 @@ QJsonObject levelToJson(const Level& level)
         {QStringLiteral("meters"), numberOrNull(level.meters)},
         {QStringLiteral("ratio"), numberOrNull(level.ratio)},
         {QStringLiteral("labels"), numberOrNull(level.labels)},
+        {QStringLiteral("labelPitchMeters"), numberOrNull(level.labelPitchMeters)},
+        {QStringLiteral("labelsAcross"), numberOrNull(level.labelsAcross)},
         {QStringLiteral("coarse"), level.coarse},
         {QStringLiteral("mileage"), numberOrNull(level.mileage)},
         {QStringLiteral("mileageUnit"), wordOf(units, level.mileageUnit)},
+        {QStringLiteral("estimatedSecondsRemaining"), remainingToJson(remaining)},
     };
 }
 
@@ -148,13 +157,10 @@ public:
     auto word(const char* name, const Words& words)
     {
         const QString text = member(name).toString();
-        const auto found = std::ranges::find_if(
-            words, [&](const auto& word) { return text == QLatin1String(word.text); });
-        if (found == words.end()) {
+        const auto value = valueOf(words, text);
+        if (!value)
             reject(name, "is none of the known words");
-            return words.front().value;
-        }
-        return found->value;
+        return value.value_or(words.front().value);
     }
 
     PrinterType model(const char* name)
@@ -198,29 +204,49 @@ public:
         return colors;
     }
 
-    Level level(const char* name)
+    /// The members of a member that is an object.
+    Members object(const char* name)
     {
         const QJsonValue value = member(name);
-        if (!value.isObject()) {
+        if (!value.isObject())
             reject(name, "is not an object");
-            return {};
+        return {value.toObject(), m_path + QLatin1String(name) + QLatin1Char('.'), m_fault};
+    }
+
+    std::optional<RemainingTime> remaining(const char* name)
+    {
+        if (isNull(name))
+            return std::nullopt;
+        Members members = object(name);
+        const auto p10 = members.number("p10", 0.0, mostSeconds);
+        const auto p50 = members.number("p50", 0.0, mostSeconds);
+        const auto p90 = members.number("p90", 0.0, mostSeconds);
+        if (!p10 || !p50 || !p90 || *p10 > *p50 || *p50 > *p90) {
+            reject(name, "does not have three ascending numbers");
+            return std::nullopt;
         }
-        Members members(value.toObject(), m_path + QLatin1String(name) + QLatin1Char('.'), m_fault);
+        return RemainingTime{*p10, *p50, *p90};
+    }
+
+    Level level()
+    {
         Level level;
-        level.state = members.word("state", stateWords);
-        level.identifier = members.text("identifier");
-        level.sku = members.text("sku");
-        level.name = members.text("name");
-        level.material = members.text("material");
-        level.colorName = members.text("colorName");
-        level.colors = members.colors("colors");
-        level.totalMeters = members.number("totalMeters", 0.0, mostMeters);
-        level.meters = members.number("meters", 0.0, mostMeters);
-        level.ratio = members.number("ratio", 0.0, 1.0);
-        level.labels = members.wholeNumber<int>("labels", 0);
-        level.coarse = members.flag("coarse");
-        level.mileage = members.wholeNumber<quint32>("mileage");
-        level.mileageUnit = members.word("mileageUnit", units);
+        level.state = word("state", stateWords);
+        level.identifier = text("identifier");
+        level.sku = text("sku");
+        level.name = text("name");
+        level.material = text("material");
+        level.colorName = text("colorName");
+        level.colors = colors("colors");
+        level.totalMeters = number("totalMeters", 0.0, mostMeters);
+        level.meters = number("meters", 0.0, mostMeters);
+        level.ratio = number("ratio", 0.0, 1.0);
+        level.labels = wholeNumber<int>("labels", 0);
+        level.labelPitchMeters = number("labelPitchMeters", 0.0, mostMeters);
+        level.labelsAcross = wholeNumber<int>("labelsAcross", 1);
+        level.coarse = flag("coarse");
+        level.mileage = wholeNumber<quint32>("mileage");
+        level.mileageUnit = word("mileageUnit", units);
         return level;
     }
 
@@ -285,11 +311,24 @@ QJsonObject PrinterReading::toJson() const
         {QStringLiteral("ethernetConfig"), textOrNull(ethernetConfig())},
         {QStringLiteral("lastReport"), timeOrNull(lastReport())},
     };
-    for (const Slot slot : {Slot::Supply, Slot::Ribbon1, Slot::Ribbon2})
+    for (const Slot slot : allSlots)
         json.insert(slotName(slot),
-                    hasSlot(slot) ? QJsonValue(levelToJson(level(slot))) : QJsonValue());
+                    hasSlot(slot)
+                        ? QJsonValue(levelToJson(level(slot), estimatedSecondsRemaining(slot)))
+                        : QJsonValue());
     return json;
 }
+
+namespace {
+
+void readSlot(Members& members, const char* name, Slot slot, PrinterReading& reading)
+{
+    Members ofSlot = members.object(name);
+    reading.setLevel(slot, ofSlot.level());
+    reading.setEstimatedSecondsRemaining(slot, ofSlot.remaining("estimatedSecondsRemaining"));
+}
+
+} // namespace
 
 std::optional<PrinterReading> PrinterReading::fromJson(const QJsonObject& json, QString* error)
 {
@@ -321,10 +360,10 @@ std::optional<PrinterReading> PrinterReading::fromJson(const QJsonObject& json, 
     reading.setUpdateError(members.wholeNumber<quint32>("updateError"));
     reading.setEthernetConfig(members.text("ethernetConfig"));
     reading.setLastReport(members.time("lastReport"));
-    for (const Slot slot : {Slot::Supply, Slot::Ribbon1, Slot::Ribbon2}) {
+    for (const Slot slot : allSlots) {
         const QByteArray name = slotName(slot).toLatin1();
         if (reading.hasSlot(slot))
-            reading.setLevel(slot, members.level(name.constData()));
+            readSlot(members, name.constData(), slot, reading);
         else if (!members.isNull(name.constData()))
             members.reject(name.constData(), "is not null, though the model has no such slot");
     }

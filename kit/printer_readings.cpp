@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "printer_readings.h"
 
+#include "case_environment.h"
 #include "printer_level.h"
 #include "printer_status_controller.h"
 #include "printer_status_thread.h"
@@ -155,8 +156,12 @@ public:
     bool isOnOwnThread(const char* member) const;
     Reading* find(const QString& name) const;
     void refresh();
+    std::optional<bool> ribbonSuits(const QString& ribbonSku, const QString& supplySku);
+
+    PrinterReading withEstimates(const PrinterReading& reading) const;
 
     PrinterReadings& q;
+    Estimator estimator;
     QPointer<PrinterStatusController> controller;
     std::map<QString, std::unique_ptr<Reading>> readings;
     QString activeName;
@@ -235,6 +240,7 @@ PrinterReadings::Private::Private(PrinterReadings& readingsObject,
 {
     if (!controller)
         return;
+    recordAsEnvironmentWants(controller);
     m_nameTimer.setSingleShot(true);
     m_nameTimer.setInterval(patienceForName);
     connect(&m_nameTimer, &QTimer::timeout, &q, [this] {
@@ -265,6 +271,24 @@ Reading* PrinterReadings::Private::find(const QString& name) const
 {
     const auto found = readings.find(name);
     return found == readings.end() ? nullptr : found->second.get();
+}
+
+PrinterReading PrinterReadings::Private::withEstimates(const PrinterReading& reading) const
+{
+    if (!estimator)
+        return reading;
+    PrinterReading result = reading;
+    for (const Slot slot : allSlots)
+        result.setEstimatedSecondsRemaining(slot, estimator(reading, slot));
+    return result;
+}
+
+std::optional<bool> PrinterReadings::Private::ribbonSuits(const QString& ribbonSku,
+                                                          const QString& supplySku)
+{
+    if (!controller)
+        return std::nullopt;
+    return m_catalogue.ribbonSuits(ribbonSku, supplySku, *controller->getSupplyIdController());
 }
 
 // Reports /////////////////////////////////////////////////////////////////////////////////////////
@@ -910,7 +934,7 @@ PrinterReading PrinterReadings::reading(const QString& name) const
     if (!d->isOnOwnThread("reading()"))
         return {};
     const Reading* const found = d->find(name);
-    return found ? found->value : PrinterReading();
+    return found ? d->withEstimates(found->value) : PrinterReading();
 }
 
 QList<PrinterReading> PrinterReadings::readings() const
@@ -920,7 +944,7 @@ QList<PrinterReading> PrinterReadings::readings() const
         return readings;
     readings.reserve(static_cast<qsizetype>(d->readings.size()));
     for (const auto& [name, reading] : d->readings)
-        readings.append(reading->value);
+        readings.append(d->withEstimates(reading->value));
     return readings;
 }
 
@@ -946,6 +970,25 @@ QString PrinterReadings::printerToUse() const
             best = reading.get();
     }
     return best ? best->name() : QString();
+}
+
+QString PrinterReadings::catalogueFile() const
+{
+    if (!d->isOnOwnThread("catalogueFile()") || !d->controller)
+        return {};
+    return d->controller->getSupplyIdController()->catalogueFile();
+}
+
+std::optional<bool> PrinterReadings::ribbonSuits(const QString& ribbonSku,
+                                                 const QString& supplySku) const
+{
+    return d->isOnOwnThread("ribbonSuits()") ? d->ribbonSuits(ribbonSku, supplySku) : std::nullopt;
+}
+
+void PrinterReadings::setEstimator(Estimator estimator)
+{
+    if (d->isOnOwnThread("setEstimator()"))
+        d->estimator = std::move(estimator);
 }
 
 bool PrinterReadings::isInError() const

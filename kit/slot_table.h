@@ -4,12 +4,9 @@
 
 #include "printer_reading.h"
 
-#include <array>
+#include <cstddef>
 
 namespace VxKit {
-
-/// All slots that a model may have, in the order of `Slot`.
-inline constexpr std::array allSlots{Slot::Supply, Slot::Ribbon1, Slot::Ribbon2};
 
 /// The place of a slot in an array with an entry for each of `allSlots`.
 constexpr std::size_t indexOf(Slot slot)

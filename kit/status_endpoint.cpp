@@ -3,7 +3,9 @@
 #include "status_endpoint.h"
 
 #include "catalogue_list.h"
+#include "catalogue_texts.h"
 #include "change_queue.h"
+#include "preflight.h"
 #include "printer_readings.h"
 #include "status_info.h"
 
@@ -33,13 +35,16 @@ class StatusEndpoint::Private
 public:
     Private(StatusEndpoint& endpoint, PrinterReadings* printerReadings)
         : readings(printerReadings)
+        , preflight(printerReadings)
         , changes([this](const QString& name) { reportChange(name); }, &endpoint)
         , m_endpoint(endpoint)
     {
         m_background.setMaxThreadCount(1);
         VXLocaleLanguages languages;
-        m_background.start([this, languageId = languages.getCurrentLanguageId()] {
-            m_catalogue = readCatalogueList(languageId);
+        const QString named = readings ? readings->catalogueFile() : QString();
+        const QString file = named.isEmpty() ? cataloguePath() : named;
+        m_background.start([this, file, languageId = languages.getCurrentLanguageId()] {
+            m_catalogue = readCatalogueList(file, languageId);
         });
     }
 
@@ -49,7 +54,17 @@ public:
         return m_catalogue;
     }
 
+    void refuseUnknown(const QString& printer, const QString& argument)
+    {
+        m_endpoint.refuseCall(
+            unknownPrinter,
+            QStringLiteral("there is no printer \"%1\"; printers() lists those that there are")
+                .arg(printer.left(longestShown)),
+            {{QStringLiteral("argument"), argument}});
+    }
+
     const QPointer<PrinterReadings> readings;
+    const Preflight preflight;
     ChangeQueue changes;
 
 private:
@@ -113,10 +128,7 @@ QJsonObject StatusEndpoint::printer(const QString& name)
     const PrinterReading reading = d->readings ? d->readings->reading(name) : PrinterReading();
     if (!reading.isNull())
         return reading.toJson();
-    refuseCall(unknownPrinter,
-               QStringLiteral("there is no printer \"%1\"; printers() lists those that there are")
-                   .arg(name.left(longestShown)),
-               {{QStringLiteral("argument"), QStringLiteral("name")}});
+    d->refuseUnknown(name, QStringLiteral("name"));
     return {};
 }
 
@@ -128,6 +140,16 @@ QJsonObject StatusEndpoint::statusInfo(int code, const QString& language)
 QJsonObject StatusEndpoint::supplies()
 {
     return d->catalogue();
+}
+
+QJsonObject StatusEndpoint::preflight(const QString& printer, const QString& supplySku, int labels,
+                                      const QStringList& ribbonSkus)
+{
+    if (!d->readings || d->readings->reading(printer).isNull()) {
+        d->refuseUnknown(printer, QStringLiteral("printer"));
+        return {};
+    }
+    return d->preflight.check(printer, supplySku, labels, ribbonSkus).toJson();
 }
 
 } // namespace VxKit

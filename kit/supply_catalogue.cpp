@@ -71,13 +71,30 @@ bool isKnown(const QString& sku)
     return !sku.isEmpty() && sku != VXPrinting::nothingLoaded;
 }
 
-template <typename Key>
-CatalogueItemPointer insert(QHash<Key, CatalogueItemPointer>& items, const Key& key,
-                            CatalogueItem item)
+template <typename Key, typename Value>
+const Value& insert(QHash<Key, Value>& items, const Key& key, Value value)
 {
     if (items.size() >= mostItems)
         items.clear();
-    return *items.insert(key, std::make_shared<const CatalogueItem>(std::move(item)));
+    return *items.insert(key, std::move(value));
+}
+
+CatalogueItemPointer shared(CatalogueItem item)
+{
+    return std::make_shared<const CatalogueItem>(std::move(item));
+}
+
+std::optional<bool> hasPrintSettings(const QString& ribbonSku, const QString& supplySku,
+                                     VXIPCSUPPLYDController& service)
+{
+    const int panels = std::min(service.supplyRibbonPanels(ribbonSku), mostPanels);
+    if (panels < 1 || service.supplyWidth(supplySku, {}) < 0.0)
+        return std::nullopt;
+    for (int panel = 1; panel <= panels; ++panel) {
+        if (service.supplyRibbonHeat(ribbonSku, panel, supplySku) < 0)
+            return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -85,11 +102,11 @@ CatalogueItemPointer insert(QHash<Key, CatalogueItemPointer>& items, const Key& 
 SupplyCatalogue::SupplyCatalogue() = default;
 SupplyCatalogue::~SupplyCatalogue() = default;
 
-VXSupplyDatabase& SupplyCatalogue::database()
+VXSupplyDatabase& SupplyCatalogue::database(const VXIPCSUPPLYDController& service)
 {
     if (!m_database) {
         m_database = std::make_unique<VXSupplyDatabase>();
-        m_database->setup(cataloguePath(), QStringLiteral("VXKIT_CONNECTION_NAME"));
+        m_database->setup(service.catalogueFile(), QStringLiteral("VXKIT_CONNECTION_NAME"));
     }
     return *m_database;
 }
@@ -103,9 +120,12 @@ CatalogueItemPointer SupplyCatalogue::supply(const QString& identifier,
     const auto found = m_supplies.constFind(supply.kind);
     if (found != m_supplies.cend())
         return *found;
-    database().setSupplyId(identifier);
-    const QString sku = database().supplySKU();
-    return isKnown(sku) ? insert(m_supplies, supply.kind, supplyItem(sku, service)) : nullptr;
+    VXSupplyDatabase& supplies = database(service);
+    supplies.setSupplyId(identifier);
+    const QString sku = supplies.supplySKU();
+    if (!isKnown(sku))
+        return {};
+    return insert(m_supplies, supply.kind, shared(supplyItem(sku, service)));
 }
 
 CatalogueItemPointer SupplyCatalogue::ribbon(const QString& identifier,
@@ -114,9 +134,22 @@ CatalogueItemPointer SupplyCatalogue::ribbon(const QString& identifier,
     const auto found = m_ribbons.constFind(identifier);
     if (found != m_ribbons.cend())
         return *found;
-    database().setRibbonIds({identifier});
-    const QString sku = database().supplyRibbonSKUs().value(0);
-    return isKnown(sku) ? insert(m_ribbons, identifier, ribbonItem(sku, service)) : nullptr;
+    VXSupplyDatabase& ribbons = database(service);
+    ribbons.setRibbonIds({identifier});
+    const QString sku = ribbons.supplyRibbonSKUs().value(0);
+    if (!isKnown(sku))
+        return {};
+    return insert(m_ribbons, identifier, shared(ribbonItem(sku, service)));
+}
+
+std::optional<bool> SupplyCatalogue::ribbonSuits(const QString& ribbonSku, const QString& supplySku,
+                                                 VXIPCSUPPLYDController& service)
+{
+    const auto pair = std::make_pair(ribbonSku, supplySku);
+    const auto found = m_pairs.constFind(pair);
+    if (found != m_pairs.cend())
+        return *found;
+    return insert(m_pairs, pair, hasPrintSettings(ribbonSku, supplySku, service));
 }
 
 } // namespace VxKit

@@ -7,6 +7,8 @@
 #include <QtCore/QStringList>
 
 #include <memory>
+#include <optional>
+#include <utility>
 
 class VXIPCSUPPLYDController;
 class VXSupplyDatabase;
@@ -37,7 +39,7 @@ using CatalogueItemPointer = std::shared_ptr<const CatalogueItem>;
 /// Finds what printers report to be loaded. Items are shared by all printers that have the same
 /// supply or ribbon loaded, and queried once.
 ///
-/// An identifier is mapped to a SKU by a database object of its own on the library's file, because
+/// An identifier is mapped to a SKU by a database object of its own on the service's file, because
 /// the supply service maps only what it has been told is loaded, and the controller tells it at the
 /// next report. The service answers everything else, in its language.
 class SupplyCatalogue
@@ -51,12 +53,18 @@ public:
     CatalogueItemPointer supply(const QString& identifier, VXIPCSUPPLYDController& service);
     CatalogueItemPointer ribbon(const QString& identifier, VXIPCSUPPLYDController& service);
 
+    /// Whether the catalogue has print settings for each panel of a ribbon on a supply. Without a
+    /// value when it does not know the one or the other.
+    std::optional<bool> ribbonSuits(const QString& ribbonSku, const QString& supplySku,
+                                    VXIPCSUPPLYDController& service);
+
 private:
-    VXSupplyDatabase& database();
+    VXSupplyDatabase& database(const VXIPCSUPPLYDController& service);
 
     std::unique_ptr<VXSupplyDatabase> m_database;
     QHash<int, CatalogueItemPointer> m_supplies;    ///< by the kind in their identifiers
     QHash<QString, CatalogueItemPointer> m_ribbons; ///< by their identifiers
+    QHash<std::pair<QString, QString>, std::optional<bool>> m_pairs; ///< a ribbon and a supply
 };
 
 } // namespace VxKit

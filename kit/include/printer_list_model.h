@@ -91,6 +91,9 @@ public:
         SupplyCoarseRole,      ///< `bool`
         SupplyMileageRole,     ///< `uint`
         SupplyMileageUnitRole, ///< `QString`: "mm" or "percent"
+        /// `QVariantMap` with the numbers `p10`, `p50` and `p90`: in how many seconds it will have
+        /// been used up, from the time of the last report
+        SupplyEstimatedSecondsRemainingRole,
 
         Ribbon1StateRole, ///< As for the supply. A ribbon has no labels.
         Ribbon1IdentifierRole,
@@ -106,6 +109,7 @@ public:
         Ribbon1CoarseRole,
         Ribbon1MileageRole,
         Ribbon1MileageUnitRole,
+        Ribbon1EstimatedSecondsRemainingRole,
 
         Ribbon2StateRole, ///< All invalid for models with one ribbon.
         Ribbon2IdentifierRole,
@@ -121,6 +125,7 @@ public:
         Ribbon2CoarseRole,
         Ribbon2MileageRole,
         Ribbon2MileageUnitRole,
+        Ribbon2EstimatedSecondsRemainingRole,
     };
     Q_ENUM(Role)
 

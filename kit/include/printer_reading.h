@@ -17,6 +17,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <array>
 #include <optional>
 
 namespace VxKit {
@@ -30,6 +31,9 @@ enum class Slot
     Ribbon2, ///< only the models with two ribbons have it
 };
 Q_ENUM_NS(Slot)
+
+/// All slots that a model may have, in the order of `Slot`.
+inline constexpr std::array allSlots{Slot::Supply, Slot::Ribbon1, Slot::Ribbon2};
 
 /// The slot's name in JSON, topics, metrics and roles: "supply", "ribbon1" or "ribbon2".
 VX_KIT_EXPORT QString slotName(Slot slot);
@@ -77,6 +81,11 @@ struct VX_KIT_EXPORT Level
     std::optional<double> ratio;
     /// The number of whole labels that are left. Only die-cut supplies, sleeves and tags have it.
     std::optional<int> labels;
+    /// From the start of one label to the start of the next, in metres. Only supplies with labels
+    /// have it.
+    std::optional<double> labelPitchMeters;
+    /// How many labels are side by side. Only supplies with labels have it.
+    std::optional<int> labelsAcross;
     /// The printer reports whole percents only, so that metres, ratio and labels are exact to one
     /// percent of the roll.
     bool coarse = false;
@@ -88,6 +97,17 @@ struct VX_KIT_EXPORT Level
     std::optional<int> percentage() const;
 
     bool operator==(const Level&) const = default;
+};
+
+/// How many seconds something will still last. With a probability of 10, 50 and 90 percent it is at
+/// most as long as this.
+struct VX_KIT_EXPORT RemainingTime
+{
+    double p10 = 0.0;
+    double p50 = 0.0;
+    double p90 = 0.0;
+
+    bool operator==(const RemainingTime&) const = default;
 };
 
 /// Everything that is known of one printer at one time.
@@ -127,6 +147,12 @@ public:
         Replaced,              ///< removed and added again under its name: watched again after the
                                ///< spooler or the host has been started again
         Gone,                  ///< the spooler no longer lists the printer
+        /// The reading is from an agent on another computer, which is offline since
+        /// `unheardSince()`. Nobody tells how the printer is.
+        AgentOffline,
+        /// The reading is from an agent on another computer, and there is no connection to its
+        /// broker since `unheardSince()`. Everything is as it was then.
+        NotConnected,
     };
     Q_ENUM(Watching)
 
@@ -139,7 +165,7 @@ public:
         Port = 0x8,
         SerialNumber = 0x10,
         Presence = 0x20, ///< presence or the time since when the printer is gone
-        Watching = 0x40,
+        Watching = 0x40, ///< watching or the time since when nothing was heard of the printer
         Status = 0x80,
         Online = 0x100,
         Active = 0x200,
@@ -166,8 +192,10 @@ public:
     /// Whether it is a reading of no printer, because a printer was asked for that is not known.
     bool isNull() const;
 
+    /// Whether everything is equal but the estimates, which change with every second.
     bool operator==(const PrinterReading& other) const;
-    /// What differs from another reading. Empty when they are equal.
+    /// What differs from another reading. Empty when they are equal. An estimate is no field: it
+    /// changes with every second, and with the level that it is made of.
     Fields differences(const PrinterReading& other) const;
 
     /// The printer's name in the print spooler.
@@ -185,13 +213,19 @@ public:
     /// Since when the printer is gone; invalid while it is present.
     QDateTime goneSince() const;
     Watching watching() const;
+    /// Since when nothing is heard of the printer, if `watching()` is `AgentOffline` or
+    /// `NotConnected` and the time is known; otherwise invalid. It is not part of the JSON.
+    QDateTime unheardSince() const;
+    /// Whether nothing is heard of the printer any more, so that its status may have changed too:
+    /// `watching()` is `AgentOffline` or `NotConnected`.
+    bool isUnheard() const;
 
     /// The status code: one of `VXPrinting::StatusCodes` or the driver's error code.
     /// `disconnected` for a printer that is gone, `offline` for one that has been
     /// offline since it was found, `unknown` for a watched printer that has not reported yet.
     int statusCode() const;
     /// What the status code means, how much it matters and what to do, in the application's
-    /// language.
+    /// language. For a printer whose agent is offline, that it is.
     StatusInfo statusInfo() const;
     /// Whether the printer is present and not offline.
     bool isOnline() const;
@@ -219,6 +253,11 @@ public:
     /// What is in a slot; `NotKnown` for a slot that the model does not have.
     Level level(Slot slot) const;
 
+    /// In how many seconds what is loaded in a slot will have been used up, from the time at which
+    /// the reading was taken. Without a value when that is not known, and unless a
+    /// `PrinterForecasts` watches the readings.
+    std::optional<RemainingTime> estimatedSecondsRemaining(Slot slot) const;
+
     /// @name Setters, for those who make readings
     /// @{
     void setName(const QString& name);
@@ -229,6 +268,7 @@ public:
     void setPresent();
     void setGone(const QDateTime& since);
     void setWatching(Watching watching);
+    void setUnheardSince(const QDateTime& time);
     void setStatusCode(int statusCode);
     void setOnline(bool online);
     void setActive(bool active);
@@ -241,6 +281,8 @@ public:
     /// Sets what is in a slot. Has no effect for a slot that the model does not have, so set the
     /// model first.
     void setLevel(Slot slot, const Level& level);
+    /// Has no effect for a slot that the model does not have.
+    void setEstimatedSecondsRemaining(Slot slot, const std::optional<RemainingTime>& remaining);
     /// @}
 
     /// The reading as it is written everywhere: on the command line, to other processes, in files.
@@ -256,6 +298,7 @@ private:
     template <typename Value>
     void set(Value Data::*member, const Value& value);
     void setOwnLevel(Slot slot, const Level& level);
+    void setOwnRemaining(Slot slot, const std::optional<RemainingTime>& remaining);
 
     QSharedDataPointer<Data> d;
 };

@@ -10,7 +10,9 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 class PrinterStatusController;
 
@@ -77,6 +79,23 @@ public:
     /// printers that are present and online, one that is ready before one that is not, a local one
     /// before a network printer, the first by name. Empty when there is none.
     QString printerToUse() const;
+
+    /// The file from which the names, colours and lengths of supplies and ribbons come; empty
+    /// without a controller.
+    QString catalogueFile() const;
+
+    /// Whether a ribbon prints on a supply: whether the catalogue has print settings for the two.
+    /// Without a value when the catalogue does not know the one or the other, or the controller was
+    /// destroyed. Answers are kept in memory.
+    std::optional<bool> ribbonSuits(const QString& ribbonSku, const QString& supplySku) const;
+
+    /// Estimates how long what is loaded in a slot of a reading will last. Without a value when
+    /// that is not known.
+    using Estimator =
+        std::function<std::optional<RemainingTime>(const PrinterReading& reading, Slot slot)>;
+    /// Has `reading()` and `readings()` enter estimates from now on; an empty function ends this.
+    /// `PrinterForecasts` does it.
+    void setEstimator(Estimator estimator);
 
     /// Whether a present printer has a status of the severity `Error`.
     bool isInError() const;

@@ -8,6 +8,7 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <memory>
 
@@ -49,7 +50,7 @@ class VX_KIT_EXPORT StatusEndpoint : public VXIPCServer
 public:
     /// The number by which clients find the service: "vxipc-3".
     static constexpr int serverType = 3;
-    /// The code of the error that `printer` answers for an unknown name.
+    /// The code of the error that `printer` and `preflight` answer for an unknown name.
     static constexpr int unknownPrinter = -32004;
 
     explicit StatusEndpoint(PrinterReadings* readings, QObject* parent = nullptr);
@@ -70,13 +71,20 @@ public Q_SLOTS:
     QJsonObject statusInfo(int code, const QString& language = QString());
 
     /// What the catalogue knows: an object with the lists `supplies` and `ribbons`, sorted by SKU.
-    /// Both are empty when there is no catalogue. It is read once, in the background.
+    /// Both are empty when there is no catalogue. It is read once, in the background, from the file
+    /// that the readings name when this object is created.
     ///
     /// Each entry has `sku`, `name`, `material` (a ribbon's type), `colorName`, `colors` (as
     /// "#rrggbb") and, in metres, `widthMeters` and `totalMeters` (of a new roll). A supply has
     /// `format`, `labelMeters` and `separatorMeters` (null for a continuous one) and `labelsAcross`
     /// too, a ribbon `panels`. Texts are in the application's language.
     QJsonObject supplies();
+
+    /// Whether a printer can print a job with what is loaded in it: `Preflight::check`, as
+    /// `PreflightResult::toJson` writes the answer. Another process that asks for an unknown
+    /// printer gets the error -32004.
+    QJsonObject preflight(const QString& printer, const QString& supplySku, int labels,
+                          const QStringList& ribbonSkus = QStringList());
 
 Q_SIGNALS:
     /// Something about a printer has changed: `reading` is all that is true of it now. Emitted from
