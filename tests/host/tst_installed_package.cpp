@@ -86,6 +86,8 @@ private Q_SLOTS:
     void wrongArgumentIsRefused();
     void hostWritesTheLogToAFile();
     void logOfAHostWithoutAnAppenderGoesToStandardError();
+    void examplesLogToAFile_data();
+    void examplesLogToAFile();
 #ifdef Q_OS_WIN
     void hostPrintsThePrintersOfTheSystem();
     void hostOnTheKitPrintsThePrintersOfTheSystem();
@@ -93,8 +95,6 @@ private Q_SLOTS:
     void hostPrintsThePrintersOfAFleet();
     void hostOnTheKitShowsSuppliesAndRibbonsAtItsFirstRun();
     void examplesPrintNothingOfTheLog();
-    void examplesLogToAFile_data();
-    void examplesLogToAFile();
     void titlesAreInTheUsersLanguage();
     void brokenFleetIsRefused_data();
     void brokenFleetIsRefused();
@@ -171,6 +171,43 @@ void InstalledPackageTest::logOfAHostWithoutAnAppenderGoesToStandardError()
     const Result result = run(QStringLiteral(VX_PLAIN_HOST), {});
     QCOMPARE(result.exitStatus, 0);
     QVERIFY2(result.errors.contains("host is up"), result.errors.constData());
+}
+
+void InstalledPackageTest::examplesLogToAFile_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::newRow("minimal_host") << host;
+    if (!QStringLiteral(VX_WIDGETS_HOST).isEmpty())
+        QTest::newRow("widgets_host") << QStringLiteral(VX_WIDGETS_HOST);
+    QTest::newRow("kit_host") << kitHost;
+    if (!QStringLiteral(VX_QML_HOST).isEmpty())
+        QTest::newRow("qml_host") << QStringLiteral(VX_QML_HOST);
+}
+
+void InstalledPackageTest::examplesLogToAFile()
+{
+    QFETCH(const QString, program);
+    const QTemporaryDir folder;
+    const QString log = folder.filePath(QStringLiteral("printers.log"));
+    QProcessEnvironment variables = environment();
+#ifdef Q_OS_WIN
+    QVERIFY(fixture::setSpoolerRunning(true));
+    const QString printer = fixture::uniqueName(QStringLiteral("Label Printer"));
+    QVERIFY(fixture::addPrinter({printer, QStringLiteral("Stratamark AlderMax")}));
+#else
+    const QString printer = QStringLiteral("Warehouse");
+    variables.insert(QStringLiteral("VX_VIRTUAL_FLEET"), QStringLiteral("built-in"));
+#endif
+    QProcess process;
+    process.setProcessEnvironment(variables);
+    startProcess(process, program, {QStringLiteral("--log"), log});
+    const QByteArray line = "Evaluating Printer: " + printer.toUtf8();
+    QTRY_VERIFY_WITH_TIMEOUT(contents(log).contains(line), patience);
+    process.kill();
+    QVERIFY(process.waitForFinished(patience));
+    // Qt may print warnings when there is no screen.
+    const QByteArray errors = process.readAllStandardError();
+    QVERIFY2(!errors.contains("Evaluating Printer"), errors.constData());
 }
 
 #ifdef Q_OS_WIN
@@ -294,35 +331,6 @@ void InstalledPackageTest::examplesPrintNothingOfTheLog()
     QCOMPARE(result.exitStatus, 0);
     QVERIFY2(result.output.contains("Warehouse: "), result.output.constData());
     QCOMPARE(result.errors, QByteArray());
-}
-
-void InstalledPackageTest::examplesLogToAFile_data()
-{
-    QTest::addColumn<QString>("program");
-    QTest::newRow("minimal_host") << host;
-    if (!QStringLiteral(VX_WIDGETS_HOST).isEmpty())
-        QTest::newRow("widgets_host") << QStringLiteral(VX_WIDGETS_HOST);
-    QTest::newRow("kit_host") << kitHost;
-    if (!QStringLiteral(VX_QML_HOST).isEmpty())
-        QTest::newRow("qml_host") << QStringLiteral(VX_QML_HOST);
-}
-
-void InstalledPackageTest::examplesLogToAFile()
-{
-    QFETCH(const QString, program);
-    const QTemporaryDir folder;
-    const QString log = folder.filePath(QStringLiteral("printers.log"));
-    QProcessEnvironment variables = environment();
-    variables.insert(QStringLiteral("VX_VIRTUAL_FLEET"), QStringLiteral("built-in"));
-    QProcess process;
-    process.setProcessEnvironment(variables);
-    process.start(program, {QStringLiteral("--log"), log});
-    QTRY_VERIFY_WITH_TIMEOUT(contents(log).contains("Evaluating Printer: Warehouse"), patience);
-    process.kill();
-    QVERIFY(process.waitForFinished(patience));
-    // Qt may print warnings when there is no screen.
-    const QByteArray errors = process.readAllStandardError();
-    QVERIFY2(!errors.contains("Evaluating Printer"), errors.constData());
 }
 
 void InstalledPackageTest::titlesAreInTheUsersLanguage()
