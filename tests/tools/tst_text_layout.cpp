@@ -16,6 +16,7 @@ private Q_SLOTS:
     void paddedTextTakesTheColumns();
     void textIsWrappedWhereItsLanguageAllowsIt_data();
     void textIsWrappedWhereItsLanguageAllowsIt();
+    void numbersAndSkusAreNotDivided();
     void everyLineOfALongTextFits_data();
     void everyLineOfALongTextFits();
     void paragraphIsIndented();
@@ -92,6 +93,14 @@ void TextLayoutTest::textIsWrappedWhereItsLanguageAllowsIt()
 {
     QFETCH(const QString, text);
     QTEST(text_layout::wrapped(text, 10), "lines");
+}
+
+void TextLayoutTest::numbersAndSkusAreNotDivided()
+{
+    QCOMPARE(text_layout::wrapped(QStringLiteral("Vinyl, only 80 % left"), 14),
+             (QStringList{QStringLiteral("Vinyl, only"), QStringLiteral("80 % left")}));
+    QCOMPARE(text_layout::wrapped(QStringLiteral("roll VT-400-YL"), 12),
+             (QStringList{QStringLiteral("roll"), QStringLiteral("VT-400-YL")}));
 }
 
 void TextLayoutTest::everyLineOfALongTextFits_data()

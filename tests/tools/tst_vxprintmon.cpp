@@ -1,57 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// The monitor as its users see it: which arguments lead to which text, JSON and exit status.
-#include "patience.h"
-#include "printer_status_controller.h"
+// The command line of the monitor, and its commands that do not watch: which arguments lead to
+// which text, JSON and exit status.
+#include "monitor_test.h"
 #include "status_info.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtCore/QMetaMethod>
-#include <QtCore/QMetaProperty>
-#include <QtCore/QProcess>
-#include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
-
-#include <array>
-#include <csignal>
+#include <printer_reading.h>
+#include <run_out_forecast.h>
+#include <usage_history.h>
 
 namespace {
-
-struct Result
-{
-    int exitStatus = -1;
-    QByteArray output;
-    QByteArray errors;
-};
-
-/// One line of `watch --json`, as text and as an object.
-struct Line
-{
-    QByteArray text;
-    QJsonObject object;
-
-    QString signal() const { return object.value(QStringLiteral("signal")).toString(); }
-    QString printer() const { return object.value(QStringLiteral("printerName")).toString(); }
-    QJsonObject record(const QString& printer) const
-    {
-        const QJsonArray printers = object.value(QStringLiteral("printers")).toArray();
-        for (const QJsonValue& entry : printers) {
-            if (entry[QStringLiteral("printerName")] == printer)
-                return entry.toObject();
-        }
-        return {};
-    }
-};
-
-QByteArrayList keysOf(const QMetaObject& type)
-{
-    QByteArrayList keys;
-    for (int i = 0; i < type.propertyCount(); ++i)
-        keys.append(type.property(i).name());
-    return keys;
-}
 
 /// Whether the text of a JSON object has these keys in this order.
 bool hasInOrder(const QByteArray& text, const QByteArrayList& keys)
@@ -78,45 +36,26 @@ QJsonObject jsonOf(const VxKit::StatusInfo& info)
     return object;
 }
 
-const QString updated = QStringLiteral("availablePrintersUpdated");
-const QString inError = QStringLiteral("printerErrorChangedSignal");
-const QString statusChanged = QStringLiteral("statusChangedSignal");
-const QString supplyChanged = QStringLiteral("supplyIdChangedSignal");
-const QString ribbonsChanged = QStringLiteral("ribbonIdsChangedSignal");
-const QString activeSet = QStringLiteral("activeDefaultPrinterSetSignal");
-
 const QString shipping = QStringLiteral("Shipping");
-const QString warehouse = QStringLiteral("Warehouse");
-const QString returns = QStringLiteral("Returns");
 
 } // namespace
 
-class VxPrintMonTest : public QObject
+class VxPrintMonTest : public MonitorTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
 
     void listPrintsATable();
+    void listNeverExceedsTheWidth();
+    void widthIsThatOfTheTerminal();
     void listPrintsJson();
-    void fleetOfHostsIsIgnored();
     void listWithoutPrintersSaysSo();
-
-    void statusPrintsATable();
-    void statusOfOnePrinterPrintsItsDetails();
-    void statusPrintsRecordsAsJson();
-    void statusOfOnePrinterPrintsItsRecordAsJson();
-    void statusOfAnUnknownPrinterFails();
-    void statusWithoutPrintersSaysSo();
-    void statusStopsWaitingForASilentPrinter();
-    void statusFailsWhenInterrupted();
-    void namesAndTitlesAreInTheUsersLanguage_data();
-    void namesAndTitlesAreInTheUsersLanguage();
 
     void sendPrintsThePrintJob();
     void sendPrintsThePrintJobAsJson();
     void sendToAnUnknownPrinterFails();
+    void sendKnowsPrintersByAnyLetterCase();
     void sendNeedsForce_data();
     void sendNeedsForce();
     void sendWaitsUntilTheJobIsPrinted();
@@ -127,120 +66,28 @@ private Q_SLOTS:
     void titlesOfAllCodesArePrinted();
     void titlesOfAllCodesArePrintedAsJson();
 
-    void watchPrintsEverySignalAsJson();
-    void watchPrintsSignalsAndChangesAsText();
-    void watchEndsAfterTheGivenTime();
-    void watchReportsAPrinterThatIsAddedLater();
-    void watchEndsWhenInterrupted_data();
-    void watchEndsWhenInterrupted();
-    void twoMonitorsRunSideBySide();
+    void enoughAnswersByItsExitStatus_data();
+    void enoughAnswersByItsExitStatus();
+    void enoughAnswersAsJson();
+    void enoughTakesSkusAsPeopleTypeThem();
+    void enoughWithoutACatalogueIsNotKnown();
 
-    void everyLineHasTheArgumentsOfItsSignal();
-    void storyReportsWhenErrorsBeginAndEnd();
-    void storyReportsTheActivePrinter();
-    void storyReportsASupplyThatRunsOut();
-    void storyReportsARibbonThatIsReplaced();
-    void storyReportsAPrinterThatIsFound();
-    void storyReportsThatTheSpoolerStops();
-    void storyReportsAPrinterThatGoesOffline();
+    void forecastWithoutAHistoryIsNotKnown();
+    void forecastLearnsFromTheUsersHistory();
+    void forecastReadsAnotherHistory();
+    void forecastSaysWhatWouldBeWarnedOf();
+    void historyThatCannotBeReadIsSaid();
 
     void coloursAppearOnlyOnATerminal();
     void wrongUsageIsRefused_data();
     void wrongUsageIsRefused();
     void brokenFleetIsRefused();
     void helpAndVersionArePrinted();
+    void everyCommandHasItsHelp();
+    void fleetOfTheEnvironmentIsUsed();
     void logIsAppendedToAFile();
     void logThatCannotBeWrittenIsAFailure();
-    void leavesNothingBehind();
-
-private:
-    QProcessEnvironment environment() const
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.remove(QStringLiteral("NO_COLOR"));
-        environment.remove(QStringLiteral("LANGUAGE"));
-        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-        // Settings, endpoints and temporary files are all written here.
-        for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "TMPDIR"})
-            environment.insert(QString::fromLatin1(name), m_home.path());
-        return environment;
-    }
-    Result run(const QStringList& arguments, const QString& program = QStringLiteral(VXPRINTMON),
-               const QProcessEnvironment& changed = {})
-    {
-        QProcess process;
-        process.setProcessEnvironment(changed.isEmpty() ? environment() : changed);
-        process.start(program, arguments);
-        if (!process.waitForFinished(patience))
-            return {};
-        return resultOf(process);
-    }
-    /// Runs the monitor until it has printed a text, then terminates it.
-    Result runUntil(const QByteArray& last, const QStringList& arguments)
-    {
-        QProcess process;
-        process.setProcessEnvironment(environment());
-        process.start(QStringLiteral(VXPRINTMON), arguments);
-        QByteArray output;
-        while (!output.contains(last)) {
-            if (!process.waitForReadyRead(patience))
-                return {-1, output + "\n... and no \"" + last + '"',
-                        process.readAllStandardError()};
-            output += process.readAllStandardOutput();
-        }
-        process.terminate();
-        process.waitForFinished(patience);
-        Result result = resultOf(process);
-        result.output.prepend(output);
-        return result;
-    }
-    static Result resultOf(QProcess& process)
-    {
-        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-                process.readAllStandardOutput(), process.readAllStandardError()};
-    }
-    QString fleetFile(const QByteArray& text)
-    {
-        const QString name = m_home.filePath(QStringLiteral("fleet %1.json").arg(++m_fleets));
-        QFile file(name);
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-            qFatal("cannot write %s", qPrintable(name));
-        return name;
-    }
-    static QList<Line> linesOf(const QByteArray& output)
-    {
-        QList<Line> lines;
-        const QList<QByteArray> texts = output.trimmed().split('\n');
-        for (const QByteArray& text : texts)
-            lines.append({text, QJsonDocument::fromJson(text).object()});
-        return lines;
-    }
-    /// The built-in story as `watch --json` prints it. It is played once for all tests.
-    const QList<Line>& story();
-    /// The lines of the story for the signal of that name.
-    QList<Line> linesOfStory(const QString& signal)
-    {
-        QList<Line> found = story();
-        found.removeIf([&](const Line& line) { return line.signal() != signal; });
-        return found;
-    }
-    /// The lines of the story from the one that first reports this status of this printer.
-    QList<Line> linesOfStoryFrom(const QString& printer, int status);
-    QStringList entries() const
-    {
-        return QDir(m_home.path())
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    }
-
-    QTemporaryDir m_home;
-    int m_fleets = 0;
-    QList<Line> m_story;
 };
-
-void VxPrintMonTest::initTestCase()
-{
-    QVERIFY(m_home.isValid());
-}
 
 // list ////////////////////////////////////////////////////////////////////////////////////////////
 
@@ -250,24 +97,66 @@ void VxPrintMonTest::listPrintsATable()
     QCOMPARE(result.exitStatus, 0);
     QCOMPARE(result.errors, QByteArray());
     const QByteArray expected =
-        R"(PRINTER           MODEL     PORT          SERIAL    DRIVER                     FLAGS
-Shipping          AlderMax  001           AM-20871  Stratamark AlderMax        shared
-Warehouse         Alder     002           AL-00342  Stratamark Alder           default
-Returns           BirchMax  003           BM-11500  Stratamark BirchMax        offline
-Laboratory        CedarMax  004           CM-00077  Stratamark CedarMax        not managed, offline
-Branch Office     BirchMax  192.168.1.20  -         Stratamark BirchMax        network
-Front Desk Laser  -         LPT1:         -         Everyday Office Laser 400  
+        R"(PRINTER          MODEL    PORT         SERIAL   FLAGS        DRIVER
+Shipping         AlderMax 001          AM-20871 shared       Stratamark AlderMax
+Warehouse        Alder    002          AL-00342 default      Stratamark Alder
+Returns          BirchMax 003          BM-11500 offline      Stratamark BirchMax
+Laboratory       CedarMax 004          CM-00077 not managed, Stratamark CedarMax
+                                                offline
+Branch Office    BirchMax 192.168.1.20 -        network      Stratamark BirchMax
+Front Desk Laser -        LPT1:        -                     Everyday Office
+                                                             Laser 400
 )";
     QCOMPARE(result.output, expected);
 }
 
-void VxPrintMonTest::fleetOfHostsIsIgnored()
+void VxPrintMonTest::listNeverExceedsTheWidth()
 {
-    QProcessEnvironment hosts = environment();
-    hosts.insert(QStringLiteral("VX_VIRTUAL_FLEET"), QStringLiteral("built-in"));
-    const Result result = run({QStringLiteral("list")}, QStringLiteral(VXPRINTMON), hosts);
-    QCOMPARE(result.exitStatus, 0);
-    QCOMPARE(result.output, run({QStringLiteral("list")}).output);
+    const auto list = [this](int columns) {
+        QProcessEnvironment wide = environment();
+        wide.insert(QStringLiteral("COLUMNS"), QString::number(columns));
+        return run({QStringLiteral("list")}, QStringLiteral(VXPRINTMON), wide).output;
+    };
+    // The flags and the driver take more lines first. Then the driver is cut short, the port, the
+    // flags, the serial number and the name.
+    QVERIFY(list(100).contains("Warehouse         Alder     002           AL-00342  default"
+                               "               Stratamark Alder\n"));
+    QVERIFY(list(92).contains("Laboratory       CedarMax 004          CM-00077 not managed,    "
+                              "   Stratamark CedarMax\n" +
+                              QByteArray(48, ' ') + "offline\n"));
+    QVERIFY(list(77).contains("Laboratory       CedarMax 004          CM-00077 not managed, "
+                              "Stratamark\n" +
+                              QByteArray(48, ' ') + "offline      CedarMax\n"));
+    QVERIFY(list(70).contains("Branch Office    BirchMax 192.168.1.20 -        network      "
+                              "Stratama…\n"));
+    QVERIFY(list(65).contains("Branch Office    BirchMax 192.168… -        network      "
+                              "Stratam…\n"));
+    QVERIFY(list(56).contains("Front Des… "));
+    for (int columns = 24; columns <= 120; columns += widthStep) {
+        const QStringList lines = QString::fromUtf8(list(columns)).split(QLatin1Char('\n'));
+        QVERIFY(lines.size() >= 8);
+        for (const QString& line : lines)
+            QVERIFY2(line.size() <= columns && !line.endsWith(QLatin1Char(' ')), qPrintable(line));
+    }
+}
+
+void VxPrintMonTest::widthIsThatOfTheTerminal()
+{
+    QProcessEnvironment plain = terminalEnvironment();
+    plain.insert(QStringLiteral("NO_COLOR"), QStringLiteral("1"));
+    const QByteArray wide = runInTerminal(QStringLiteral("list"), plain, 120);
+    if (wide.isEmpty())
+        QSKIP("there is no script(1) here to give the tool a terminal");
+    QVERIFY(wide.contains("Everyday Office Laser 400"));
+    QVERIFY(runInTerminal(QStringLiteral("list"), plain, 69).contains("Everyda…\n"));
+    // COLUMNS comes first, unless no terminal is like that.
+    plain.insert(QStringLiteral("COLUMNS"), QStringLiteral("69"));
+    QVERIFY(runInTerminal(QStringLiteral("list"), plain, 120).contains("Everyda…\n"));
+    for (const char* odd : {"0", "3", "-80", "1000000", "wide"}) {
+        plain.insert(QStringLiteral("COLUMNS"), QString::fromLatin1(odd));
+        QVERIFY(runInTerminal(QStringLiteral("list"), plain, 120)
+                    .contains("Everyday Office Laser 400"));
+    }
 }
 
 void VxPrintMonTest::listPrintsJson()
@@ -304,213 +193,6 @@ void VxPrintMonTest::listWithoutPrintersSaysSo()
     QVERIFY(people.output.contains("There are no printers"));
 }
 
-// status //////////////////////////////////////////////////////////////////////////////////////////
-
-void VxPrintMonTest::statusPrintsATable()
-{
-    const Result result = run({QStringLiteral("status")});
-    QCOMPARE(result.exitStatus, 0);
-    QCOMPARE(result.errors, QByteArray());
-    const QByteArray expected =
-        R"(PRINTER        STATUS                         SUPPLY              RIBBON 1     RIBBON 2     FIRMWARE        ACTIVE
-Branch Office  Printer Is Remotely Connected  -                   -            -            -               
-Shipping       Ready                          Yellow Vinyl, 80 %  Black, 80 %  Red, 35 %    4.2.0,boot 1.7  
-Warehouse      Ready                          White Paper, 82 %   Blue, 3 %    Black, 57 %  4.1.3,boot 1.7  yes
-)";
-    QCOMPARE(result.output, expected);
-}
-
-void VxPrintMonTest::statusOfOnePrinterPrintsItsDetails()
-{
-    const Result result = run({QStringLiteral("status"), warehouse});
-    QCOMPARE(result.exitStatus, 0);
-    const QByteArray expected = R"(printer          Warehouse
-active           yes
-status           Ready
-online           yes
-supply           White Paper (DE-400200-WH)
-supply left      82 %
-ribbon 1         Blue (RS-43-BL)
-ribbon 1 left    3 %
-ribbon 2         Black (RS-43-BK)
-ribbon 2 left    57 %
-has a ribbon 2   yes
-firmware         4.1.3,boot 1.7
-network printer  no
-managed          yes
-has been active  yes
-)";
-    QCOMPARE(result.output, expected);
-}
-
-void VxPrintMonTest::statusPrintsRecordsAsJson()
-{
-    const Result result = run({QStringLiteral("status"), QStringLiteral("--json")});
-    QCOMPARE(result.exitStatus, 0);
-    QCOMPARE(result.errors, QByteArray());
-    const QByteArrayList keys = keysOf(PrinterStatusInformation::staticMetaObject);
-    QCOMPARE(keys.size(), 21);
-    const QList<QByteArray> lines = result.output.trimmed().split('\n');
-    QCOMPARE(lines.size(), 5); // three printers between the brackets
-    for (const QByteArray& line : lines.mid(1, 3))
-        QVERIFY2(hasInOrder(line, keys), line.constData());
-
-    const QJsonArray records = QJsonDocument::fromJson(result.output).array();
-    QCOMPARE(records.size(), 3);
-    for (const QJsonValue& record : records)
-        QCOMPARE(record.toObject().size(), 21);
-    QCOMPARE(records.at(0)[QStringLiteral("printerName")].toString(),
-             QStringLiteral("Branch Office"));
-    QCOMPARE(records.at(0)[QStringLiteral("statusEnum")].toInt(), 256);
-    QCOMPARE(records.at(1).toObject(),
-             (QJsonObject{
-                 {QStringLiteral("printerName"), shipping},
-                 {QStringLiteral("statusEnum"), 1},
-                 {QStringLiteral("printerOnline"), true},
-                 {QStringLiteral("printerRemote"), false},
-                 {QStringLiteral("printerNonAdmin"), false},
-                 {QStringLiteral("printerDefault"), false},
-                 {QStringLiteral("ribbon1Percentage"), 80},
-                 {QStringLiteral("ribbon1ColorHex"), QStringLiteral("#000000")},
-                 {QStringLiteral("ribbon1ColorName"), QStringLiteral("Black")},
-                 {QStringLiteral("ribbon1SKU"), QStringLiteral("RS-43-BK")},
-                 {QStringLiteral("ribbon2Percentage"), 35},
-                 {QStringLiteral("ribbon2ColorHex"), QStringLiteral("#c8102e")},
-                 {QStringLiteral("ribbon2ColorName"), QStringLiteral("Red")},
-                 {QStringLiteral("ribbon2SKU"), QStringLiteral("RS-43-RD")},
-                 {QStringLiteral("softwareVersion"), QStringLiteral("4.2.0,boot 1.7")},
-                 {QStringLiteral("supplyPercentage"), 80},
-                 {QStringLiteral("supplyColorHex"), QStringLiteral("#ffd100")},
-                 {QStringLiteral("supplyColorName"), QStringLiteral("Yellow")},
-                 {QStringLiteral("supplySKU"), QStringLiteral("VT-400-YL")},
-                 {QStringLiteral("supplyMaterialName"), QStringLiteral("Vinyl")},
-                 {QStringLiteral("ribbon2Visible"), true},
-             }));
-}
-
-void VxPrintMonTest::statusOfOnePrinterPrintsItsRecordAsJson()
-{
-    const Result all = run({QStringLiteral("status"), QStringLiteral("--json")});
-    const Result one = run({QStringLiteral("status"), warehouse, QStringLiteral("--json")});
-    QCOMPARE(one.exitStatus, 0);
-    const QJsonArray records = QJsonDocument::fromJson(one.output).array();
-    QCOMPARE(records.size(), 1);
-    QCOMPARE(records.first(), QJsonDocument::fromJson(all.output).array().at(2));
-}
-
-void VxPrintMonTest::statusOfAnUnknownPrinterFails()
-{
-    // Names are compared exactly. Printers of other makers and printers that are offline from the
-    // beginning have no record.
-    for (const char* name : {"shipping", "Nowhere", "", "Front Desk Laser", "Returns"}) {
-        for (const bool json : {false, true}) {
-            QStringList arguments{QStringLiteral("status"), QString::fromLatin1(name)};
-            if (json)
-                arguments.append(QStringLiteral("--json"));
-            const Result result = run(arguments);
-            QCOMPARE(result.exitStatus, 1);
-            QCOMPARE(result.output, QByteArray());
-            QCOMPARE(result.errors,
-                     QByteArray("vxprintmon: there is no record of a printer \"") + name +
-                         "\"; \"vxprintmon status\" shows the printers that have one\n");
-        }
-    }
-}
-
-void VxPrintMonTest::statusWithoutPrintersSaysSo()
-{
-    const QString fleet =
-        fleetFile(R"({"printers": [{"name": "A", "driver": "Some Office Printer"}]})");
-    const Result json = run(
-        {QStringLiteral("status"), QStringLiteral("--json"), QStringLiteral("--virtual"), fleet});
-    QCOMPARE(json.exitStatus, 0);
-    QCOMPARE(json.output, QByteArray("[]\n"));
-    const Result people = run({QStringLiteral("status"), QStringLiteral("--virtual"), fleet});
-    QCOMPARE(people.exitStatus, 0);
-    QCOMPARE(people.output, QByteArray("There are no label printers yet.\n"));
-}
-
-void VxPrintMonTest::statusStopsWaitingForASilentPrinter()
-{
-    const QString fleet = fleetFile(R"({"printers": [
-        {"name": "Mute", "driver": "Stratamark Alder"},
-        {"name": "P", "driver": "Stratamark Alder", "values": {"StatusCode": "4"}}]})");
-    QElapsedTimer clock;
-    clock.start();
-    const Result result = run(
-        {QStringLiteral("status"), QStringLiteral("--json"), QStringLiteral("--virtual"), fleet});
-    QVERIFY(clock.elapsed() >= 1900);
-    QCOMPARE(result.exitStatus, 0);
-    const QJsonArray records = QJsonDocument::fromJson(result.output).array();
-    QCOMPARE(records.size(), 2);
-    QCOMPARE(records.at(0)[QStringLiteral("statusEnum")].toInt(), 255);
-    QCOMPARE(records.at(1)[QStringLiteral("statusEnum")].toInt(), 4);
-}
-
-void VxPrintMonTest::statusFailsWhenInterrupted()
-{
-    const QString fleet =
-        fleetFile(R"({"printers": [{"name": "Mute", "driver": "Stratamark Alder"}]})");
-    // It waits no longer than 2 seconds, and on a busy computer the signal may come too late.
-    int exitStatus = 0;
-    for (int attempt = 0; exitStatus == 0 && attempt < 10; ++attempt) {
-        QProcess process;
-        process.setProcessEnvironment(environment());
-        process.start(QStringLiteral(VXPRINTMON),
-                      {QStringLiteral("status"), QStringLiteral("--virtual"), fleet});
-        // The endpoint appears once the event loop runs, in which the monitor waits.
-        QTRY_VERIFY_WITH_TIMEOUT(entries().contains(QStringLiteral("vxipc-0")) ||
-                                     process.state() == QProcess::NotRunning,
-                                 patience);
-        process.terminate();
-        QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished(patience));
-        const Result result = resultOf(process);
-        exitStatus = result.exitStatus;
-        if (exitStatus != 0) {
-            QCOMPARE(result.output, QByteArray());
-            QCOMPARE(result.errors, QByteArray("vxprintmon: interrupted\n"));
-        }
-    }
-    QCOMPARE(exitStatus, 1);
-}
-
-void VxPrintMonTest::namesAndTitlesAreInTheUsersLanguage_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("colour");
-    QTest::addColumn<QString>("material");
-    QTest::addColumn<QString>("ribbon");
-    QTest::addColumn<QString>("title");
-    const auto row = [](const char* language, const QString& colour, const QString& material,
-                        const QString& ribbon, const QString& title) {
-        QTest::newRow(language) << QString::fromLatin1(language) << colour << material << ribbon
-                                << title;
-    };
-    row("de", QStringLiteral("Gelb"), QStringLiteral("Vinyl"), QStringLiteral("Schwarz"),
-        QStringLiteral("Bereit"));
-    row("ja", QStringLiteral("黄"), QStringLiteral("ビニール"), QStringLiteral("黒"),
-        QStringLiteral("準備完了"));
-    // There are Italian titles, but the catalogue has no Italian names.
-    row("it", QStringLiteral("Yellow"), QStringLiteral("Vinyl"), QStringLiteral("Black"),
-        QStringLiteral("Pronta"));
-}
-
-void VxPrintMonTest::namesAndTitlesAreInTheUsersLanguage()
-{
-    QFETCH(const QString, language);
-    QProcessEnvironment changed = environment();
-    changed.insert(QStringLiteral("LANGUAGE"), language);
-    const Result result = run({QStringLiteral("status"), shipping, QStringLiteral("--json")},
-                              QStringLiteral(VXPRINTMON), changed);
-    const QJsonObject record = QJsonDocument::fromJson(result.output).array().first().toObject();
-    QTEST(record.value(QStringLiteral("supplyColorName")).toString(), "colour");
-    QTEST(record.value(QStringLiteral("supplyMaterialName")).toString(), "material");
-    QTEST(record.value(QStringLiteral("ribbon1ColorName")).toString(), "ribbon");
-    const Result title =
-        run({QStringLiteral("title"), QStringLiteral("1")}, QStringLiteral(VXPRINTMON), changed);
-    QTEST(QString::fromUtf8(title.output).trimmed(), "title");
-}
-
 // send and title //////////////////////////////////////////////////////////////////////////////////
 
 void VxPrintMonTest::sendPrintsThePrintJob()
@@ -544,10 +226,22 @@ void VxPrintMonTest::sendToAnUnknownPrinterFails()
         const Result result = run(arguments);
         QCOMPARE(result.exitStatus, 1);
         QCOMPARE(result.output, QByteArray());
-        QCOMPARE(result.errors,
-                 QByteArray("vxprintmon: the command was not sent: \"Nowhere\" cannot be opened: "
-                            "The printer's name is not valid.\n"));
+        QCOMPARE(result.errors, QByteArray("vxprintmon: there is no printer \"Nowhere\"; "
+                                           "\"vxprintmon list\" shows all printers\n"));
     }
+    QCOMPARE(
+        run(words("send Shippin FEED")).errors,
+        QByteArray("vxprintmon: there is no printer \"Shippin\"; did you mean \"Shipping\"?\n"));
+}
+
+void VxPrintMonTest::sendKnowsPrintersByAnyLetterCase()
+{
+    const Result result = run(words("send sHIPPING FEED"));
+    QCOMPARE(result.exitStatus, 0);
+    QVERIFY2(result.output.startsWith("Sent to Shipping: FEED\n"), result.output.constData());
+    const Result json = run(words("send sHIPPING FEED --json"));
+    QCOMPARE(QJsonDocument::fromJson(json.output)[QStringLiteral("printerName")].toString(),
+             shipping);
 }
 
 void VxPrintMonTest::sendNeedsForce_data()
@@ -705,448 +399,300 @@ void VxPrintMonTest::titlesOfAllCodesArePrintedAsJson()
     QCOMPARE(QJsonDocument::fromJson(result.output).array(), expected);
 }
 
-// watch ///////////////////////////////////////////////////////////////////////////////////////////
-
-void VxPrintMonTest::watchPrintsEverySignalAsJson()
-{
-    const QString printer = QStringLiteral("P \"1\"");
-    const QString fleet = fleetFile(R"({
-        "printers": [{"name": "P \"1\"", "driver": "Stratamark Alder", "values":
-            {"StatusCode": "1", "Ribbon1Identifier": 2004, "Mileage": 50}}],
-        "defaultPrinter": "P \"1\"",
-        "timeline": [{"at": 100, "say": "a caption", "printer": "P \"1\"",
-                      "values": {"StatusCode": "42", "SoftwareVersion": "end"}}]})");
-    const Result result =
-        runUntil(R"("softwareVersion":"end")",
-                 {QStringLiteral("watch"), QStringLiteral("--json"), QStringLiteral("--speed"),
-                  QStringLiteral("500"), QStringLiteral("--virtual"), fleet});
-    QCOMPARE(result.exitStatus, 0);
-    QCOMPARE(result.errors, QByteArray());
-
-    QByteArrayList texts;
-    const QList<Line> lines = linesOf(result.output);
-    for (const Line& line : lines) {
-        if (line.signal() != updated) {
-            texts.append(line.text);
-            continue;
-        }
-        // Of the record, only the properties that change in this story.
-        const QJsonObject record = line.record(printer);
-        QCOMPARE(record.size(), 21);
-        texts.append("updated " +
-                     QByteArray::number(record.value(QStringLiteral("statusEnum")).toInt()) + ' ' +
-                     record.value(QStringLiteral("ribbon1ColorName")).toString().toUtf8() + ' ' +
-                     QByteArray::number(record.value(QStringLiteral("supplyPercentage")).toInt()) +
-                     ' ' + record.value(QStringLiteral("softwareVersion")).toString().toUtf8());
-    }
-    QCOMPARE(texts, (QByteArrayList{
-                        R"({"signal":"statusChangedSignal","status":1,"printerName":"P \"1\""})",
-                        "updated 1  0 ",
-                        R"({"signal":"ribbonIdsChangedSignal","printerName":"P \"1\""})",
-                        "updated 1 Red 0 ",
-                        "updated 1 Red 50 ",
-                        R"({"signal":"printerErrorChangedSignal","printerInErrorState":true})",
-                        R"({"signal":"statusChangedSignal","status":42,"printerName":"P \"1\""})",
-                        "updated 42 Red 50 ",
-                        "updated 42 Red 50 end",
-                    }));
-}
-
-void VxPrintMonTest::watchPrintsSignalsAndChangesAsText()
-{
-    const QString fleet = fleetFile(R"({
-        "printers": [{"name": "P", "driver": "Stratamark BirchMax", "values": {"StatusCode": "1",
-            "SupplyIdentifier": "000000641000030000A7"}}],
-        "defaultPrinter": "P",
-        "timeline": [
-            {"at": 100, "say": "The lid is opened.", "printer": "P",
-             "values": {"StatusCode": "4", "SupplyIdentifier": "00000000000000000000"}},
-            {"at": 200, "say": "A ribbon comes.", "printer": "P",
-             "values": {"Ribbon1Identifier": 2005, "Ribbon1Mileage": 120015}},
-            {"at": 250, "printer": "P", "values": {"Ribbon1Mileage": 120014}},
-            {"at": 300, "say": "A printer comes.",
-             "add": {"name": "Quill", "driver": "Stratamark Alder", "port": "10.0.0.1"}},
-            {"at": 400, "say": "The lid is closed.", "printer": "P",
-             "values": {"StatusCode": "1", "SoftwareVersion": "1.0"}}]})");
-    const Result result =
-        runUntil("firmware 1.0", {QStringLiteral("watch"), QStringLiteral("--speed"),
-                                  QStringLiteral("500"), QStringLiteral("--virtual"), fleet});
-    QCOMPARE(result.exitStatus, 0);
-    QCOMPARE(result.errors, QByteArray());
-
-    const QList<QByteArray> lines = result.output.trimmed().split('\n');
-    QCOMPARE(lines.mid(0, 3),
-             (QByteArrayList{
-                 "PRINTER  STATUS     SUPPLY  RIBBON 1  RIBBON 2  FIRMWARE  ACTIVE",
-                 "P        not known  -       -         -         -         yes",
-                 "",
-             }));
-    // Changes in the records are printed once for all signals that were queued together, so the
-    // number of lines is a matter of chance. The changes in each part of the story are not.
-    const QByteArray label = "records  ";
-    QByteArrayList printed;
-    QByteArrayList changed;
-    const auto endPart = [&] {
-        if (!changed.isEmpty())
-            printed.append("records: " + changed.join(", "));
-        changed.clear();
-    };
-    for (const QByteArray& line : lines.mid(3)) {
-        const QByteArray text = line.mid(QByteArray("   0.0 s  ").size());
-        const qsizetype records = text.indexOf(label);
-        if (text.endsWith('.'))
-            endPart();
-        if (records < 0)
-            printed.append(text);
-        else
-            changed.append(text.mid(records + label.size()));
-    }
-    endPart();
-    QCOMPARE(printed,
-             (QByteArrayList{
-                 "P  status     1  Ready",
-                 "P  supply   changed or removed",
-                 "records: status not known → Ready, supply Yellow Vinyl (VT-400-YL)",
-                 "The lid is opened.",
-                 "   errors   a printer is in error",
-                 "P  status     4  The cover is open",
-                 "P  supply   changed or removed",
-                 QByteArray("records: status Ready → The cover is open, "
-                            "supply Yellow Vinyl (VT-400-YL) → none"),
-                 "A ribbon comes.",
-                 "P  ribbons  changed or removed",
-                 QByteArray("records: ribbon 1 Blue (RS-43-BL), ribbon 1 left 0 % → 100 %, "
-                            "ribbon 1 left 100 % → 99 %"),
-                 "A printer comes.",
-                 "Quill  found    Printer Is Remotely Connected",
-                 "The lid is closed.",
-                 "       errors   no printer is in error",
-                 "P      status     1  Ready",
-                 "records: status The cover is open → Ready, firmware 1.0",
-             }));
-}
-
-void VxPrintMonTest::watchEndsAfterTheGivenTime()
-{
-    QElapsedTimer clock;
-    clock.start();
-    const Result result = run({QStringLiteral("watch"), QStringLiteral("--json"),
-                               QStringLiteral("--for"), QStringLiteral("0.5")});
-    QVERIFY(clock.elapsed() >= 500);
-    QCOMPARE(result.exitStatus, 0);
-    QCOMPARE(result.errors, QByteArray());
-}
-
-void VxPrintMonTest::watchReportsAPrinterThatIsAddedLater()
-{
-    const QString fleet = fleetFile(R"({"printers": [], "timeline": [
-        {"at": 100, "add": {"name": "P", "driver": "Stratamark Alder",
-                            "values": {"StatusCode": "1"}}}]})");
-    const QStringList arguments{QStringLiteral("watch"), QStringLiteral("--speed"),
-                                QStringLiteral("500"), QStringLiteral("--virtual"), fleet};
-    const Result people = runUntil("not known → Ready", arguments);
-    QCOMPARE(people.exitStatus, 0);
-    QVERIFY(people.output.startsWith("There are no label printers yet.\n\n"));
-    QVERIFY(people.output.contains("P  found    is now watched\n"));
-
-    const Result json =
-        runUntil("availablePrintersUpdated", arguments + QStringList{QStringLiteral("--json")});
-    QCOMPARE(json.exitStatus, 0);
-    QVERIFY(json.output.startsWith(
-        R"({"signal":"activeDefaultPrinterSetSignal","activePrinterName":"P","isVX":true})"));
-}
-
-void VxPrintMonTest::watchEndsWhenInterrupted_data()
-{
-    QTest::addColumn<int>("number");
-    QTest::newRow("interrupted") << SIGINT;
-    QTest::newRow("terminated") << SIGTERM;
-}
-
-void VxPrintMonTest::watchEndsWhenInterrupted()
-{
-    QFETCH(const int, number);
-    QProcess process;
-    process.setProcessEnvironment(environment());
-    process.start(QStringLiteral(VXPRINTMON), {QStringLiteral("watch"), QStringLiteral("--json")});
-    QTRY_VERIFY_WITH_TIMEOUT(process.bytesAvailable() > 0, patience);
-    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), number), 0);
-    QVERIFY(process.waitForFinished(patience));
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(process.exitCode(), 0);
-}
-
-void VxPrintMonTest::twoMonitorsRunSideBySide()
-{
-    // Each has its own endpoints and watches all printers.
-    std::array<QProcess, 2> processes;
-    qsizetype endpointCount = 0;
-    for (QProcess& process : processes) {
-        process.setProcessEnvironment(environment());
-        process.start(QStringLiteral(VXPRINTMON),
-                      {QStringLiteral("watch"), QStringLiteral("--json")});
-        QByteArray output;
-        QTRY_VERIFY_WITH_TIMEOUT((output += process.readAllStandardOutput())
-                                     .contains(R"("softwareVersion":"4.1.3,boot 1.7")"),
-                                 patience);
-        endpointCount += 2;
-        QTRY_COMPARE_WITH_TIMEOUT(entries().filter(QStringLiteral("vxipc-")).size(), endpointCount,
-                                  patience);
-    }
-    const QStringList endpoints = entries().filter(QStringLiteral("vxipc-"));
-    QVERIFY(endpoints.contains(QStringLiteral("vxipc-0")));
-    QVERIFY(endpoints.contains(QStringLiteral("vxipc-0-%1").arg(processes[1].processId())));
-
-    for (QProcess& process : processes) {
-        QCOMPARE(process.state(), QProcess::Running);
-        process.terminate();
-        QVERIFY(process.waitForFinished(patience));
-        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(process.exitCode(), 0);
-        QCOMPARE(process.readAllStandardError(), QByteArray());
-    }
-    QCOMPARE(entries().filter(QStringLiteral("vxipc-")), QStringList());
-}
-
-// The built-in story //////////////////////////////////////////////////////////////////////////////
-
-const QList<Line>& VxPrintMonTest::story()
-{
-    if (m_story.isEmpty()) {
-        const Result result =
-            runUntil(R"("printerName":"Warehouse","statusEnum":1,"printerOnline":true,)"
-                     R"("printerRemote":false,"printerNonAdmin":false,)"
-                     R"("printerDefault":true,"ribbon1Percentage":100,)"
-                     R"("ribbon1ColorHex":"#00843d","ribbon1ColorName":"Green",)"
-                     R"("ribbon1SKU":"RS-43-GN","ribbon2Percentage":57,)"
-                     R"("ribbon2ColorHex":"#000000","ribbon2ColorName":"Black",)"
-                     R"("ribbon2SKU":"RS-43-BK","softwareVersion":"4.2.0,boot 1.7")",
-                     {QStringLiteral("watch"), QStringLiteral("--json"), QStringLiteral("--speed"),
-                      QStringLiteral("200")});
-        m_story = linesOf(result.output);
-        if (result.exitStatus != 0 || !result.errors.isEmpty())
-            qFatal("the story ended with status %d: %s\n%s", result.exitStatus,
-                   result.errors.constData(), result.output.constData());
-    }
-    return m_story;
-}
-
-QList<Line> VxPrintMonTest::linesOfStoryFrom(const QString& printer, int status)
-{
-    const QList<Line>& lines = story();
-    for (qsizetype i = 0; i < lines.size(); ++i) {
-        const Line& line = lines.at(i);
-        if (line.signal() == statusChanged && line.printer() == printer &&
-            line.object.value(QStringLiteral("status")).toInt() == status)
-            return lines.sliced(i);
-    }
-    return {};
-}
-
-void VxPrintMonTest::everyLineHasTheArgumentsOfItsSignal()
-{
-    QMap<QString, QByteArrayList> argumentsOf;
-    const QMetaObject& type = PrinterStatusController::staticMetaObject;
-    for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
-        if (type.method(i).methodType() == QMetaMethod::Signal)
-            argumentsOf.insert(QString::fromLatin1(type.method(i).name()),
-                               type.method(i).parameterNames());
-    }
-    QCOMPARE(argumentsOf.size(), 7);
-    argumentsOf[updated] = {"printers"};
-
-    const QByteArrayList properties = keysOf(PrinterStatusInformation::staticMetaObject);
-    QSet<QString> seen;
-    for (const Line& line : story()) {
-        QVERIFY2(argumentsOf.contains(line.signal()), line.text.constData());
-        seen.insert(line.signal());
-        const QByteArrayList keys = QByteArrayList{"signal"} + argumentsOf.value(line.signal());
-        QCOMPARE(line.object.size(), keys.size());
-        QVERIFY2(hasInOrder(line.text, keys), line.text.constData());
-        const QJsonArray records = line.object.value(QStringLiteral("printers")).toArray();
-        for (const QJsonValue& record : records)
-            QCOMPARE(record.toObject().size(), properties.size());
-        if (!records.isEmpty())
-            QVERIFY2(hasInOrder(line.text, properties), line.text.constData());
-    }
-    // Every signal but the one that the library never emits.
-    QCOMPARE(seen.size(), 6);
-    QVERIFY(!seen.contains(QStringLiteral("softwareVersionUpdated")));
-}
-
-void VxPrintMonTest::storyReportsWhenErrorsBeginAndEnd()
-{
-    QList<bool> states;
-    for (const Line& line : linesOfStory(inError))
-        states.append(line.object.value(QStringLiteral("printerInErrorState")).toBool());
-    // Out of labels, lid, pause, spooler, firmware: each error begins and ends.
-    QCOMPARE(states,
-             (QList<bool>{true, false, true, false, true, false, true, false, true, false}));
-}
-
-void VxPrintMonTest::storyReportsTheActivePrinter()
-{
-    QStringList names;
-    for (const Line& line : linesOfStory(activeSet)) {
-        QVERIFY(line.object.value(QStringLiteral("isVX")).toBool());
-        names.append(line.object.value(QStringLiteral("activePrinterName")).toString());
-    }
-    // Shipping becomes the Windows default printer. It is switched off, so the first printer by
-    // name becomes active. It comes back.
-    QCOMPARE(names, (QStringList{shipping, returns, shipping}));
-
-    // The library notices the new default printer at the printer's next report, and signals it
-    // before that report.
-    const QList<Line>& lines = story();
-    const auto paused = std::ranges::find_if(lines, [](const Line& line) {
-        return line.object.value(QStringLiteral("status")).toInt() == 19;
-    });
-    QVERIFY(paused != lines.end());
-    QCOMPARE(std::prev(paused, 1)->signal(), activeSet);
-    QCOMPARE(std::prev(paused, 2)->signal(), inError);
-}
-
-void VxPrintMonTest::storyReportsASupplyThatRunsOut()
-{
-    const auto supplyOf = [](const QJsonObject& record) {
-        return QStringLiteral("%1 %2 %3 %4 %5")
-            .arg(record.value(QStringLiteral("supplyPercentage")).toInt())
-            .arg(record.value(QStringLiteral("supplyColorName")).toString(),
-                 record.value(QStringLiteral("supplyMaterialName")).toString(),
-                 record.value(QStringLiteral("supplyColorHex")).toString(),
-                 record.value(QStringLiteral("supplySKU")).toString());
-    };
-    QStringList states;
-    for (const Line& line : linesOfStory(updated)) {
-        const QString state = supplyOf(line.record(shipping));
-        if (states.isEmpty() || states.last() != state)
-            states.append(state);
-    }
-    QCOMPARE(states, (QStringList{
-                         QStringLiteral("0    "),
-                         QStringLiteral("0 Yellow Vinyl #ffd100 VT-400-YL"),
-                         QStringLiteral("80 Yellow Vinyl #ffd100 VT-400-YL"),
-                         QStringLiteral("60 Yellow Vinyl #ffd100 VT-400-YL"),
-                         QStringLiteral("40 Yellow Vinyl #ffd100 VT-400-YL"),
-                         QStringLiteral("20 Yellow Vinyl #ffd100 VT-400-YL"),
-                         QStringLiteral("2 Yellow Vinyl #ffd100 VT-400-YL"),
-                         QStringLiteral("2   #ffffff -1"),
-                         QStringLiteral("0   #ffffff -1"),
-                         QStringLiteral("0 Orange Vinyl #ff6a13 VT-400-OR"),
-                         QStringLiteral("100 Orange Vinyl #ff6a13 VT-400-OR"),
-                     }));
-
-    // When the labels run out, the status is reported first and then the supply.
-    const QList<Line> moment = linesOfStoryFrom(shipping, 2);
-    QVERIFY(moment.size() > 4);
-    QCOMPARE(moment.at(1).signal(), updated);
-    QCOMPARE(moment.at(1).record(shipping).value(QStringLiteral("statusEnum")).toInt(), 2);
-    QCOMPARE(moment.at(2).signal(), supplyChanged);
-    QCOMPARE(moment.at(2).printer(), shipping);
-    QCOMPARE(moment.at(3).signal(), updated);
-    QCOMPARE(moment.at(3).record(shipping).value(QStringLiteral("supplySKU")).toString(),
-             QStringLiteral("-1"));
-}
-
-void VxPrintMonTest::storyReportsARibbonThatIsReplaced()
-{
-    // The lid is opened, with which the printer also reports that the ribbon is used up. Then the
-    // new ribbon is loaded.
-    const QList<Line> moment = linesOfStoryFrom(warehouse, 4);
-    QVERIFY(moment.size() > 6);
-    QCOMPARE(moment.at(1).signal(), updated);
-    QCOMPARE(moment.at(2).signal(), updated);
-    QCOMPARE(moment.at(2).record(warehouse).value(QStringLiteral("ribbon1Percentage")).toInt(-1),
-             0);
-    QCOMPARE(moment.at(2).record(warehouse).value(QStringLiteral("ribbon1ColorName")).toString(),
-             QStringLiteral("Blue"));
-
-    QCOMPARE(moment.at(3).signal(), ribbonsChanged);
-    QCOMPARE(moment.at(3).printer(), warehouse);
-    QCOMPARE(moment.at(4).signal(), updated);
-    const QJsonObject record = moment.at(4).record(warehouse);
-    QCOMPARE(record.value(QStringLiteral("ribbon1ColorName")).toString(), QStringLiteral("Green"));
-    QCOMPARE(record.value(QStringLiteral("ribbon1ColorHex")).toString(), QStringLiteral("#00843d"));
-    QCOMPARE(record.value(QStringLiteral("ribbon1SKU")).toString(), QStringLiteral("RS-43-GN"));
-    QCOMPARE(record.value(QStringLiteral("ribbon2ColorName")).toString(), QStringLiteral("Black"));
-    QCOMPARE(record.value(QStringLiteral("ribbon1Percentage")).toInt(-1), 0);
-    QCOMPARE(moment.at(5).signal(), updated);
-    QCOMPARE(moment.at(5).record(warehouse).value(QStringLiteral("ribbon1Percentage")).toInt(),
-             100);
-    QCOMPARE(moment.at(6).signal(), inError);
-}
-
-void VxPrintMonTest::storyReportsAPrinterThatIsFound()
-{
-    const QList<Line> moment = linesOfStoryFrom(returns, 1);
-    QVERIFY(moment.size() > 8);
-    QStringList signalNames;
-    for (const Line& line : moment.first(8))
-        signalNames.append(line.signal());
-    QCOMPARE(signalNames, (QStringList{statusChanged, updated, supplyChanged, updated,
-                                       ribbonsChanged, updated, updated, updated}));
-    const QJsonObject record = moment.at(7).record(returns);
-    QCOMPARE(record.value(QStringLiteral("supplyColorName")).toString(), QStringLiteral("Yellow"));
-    QCOMPARE(record.value(QStringLiteral("supplyMaterialName")).toString(),
-             QStringLiteral("Reflective film"));
-    QCOMPARE(record.value(QStringLiteral("supplyPercentage")).toInt(), 90);
-    QCOMPARE(record.value(QStringLiteral("ribbon1ColorName")).toString(), QStringLiteral("Blue"));
-    QCOMPARE(record.value(QStringLiteral("ribbon1Percentage")).toInt(), 92);
-    QCOMPARE(record.value(QStringLiteral("ribbon2Visible")).toBool(true), false);
-}
-
-void VxPrintMonTest::storyReportsThatTheSpoolerStops()
-{
-    // For each printer separately, because the threads notice it in no fixed order.
-    QMap<QString, QList<int>> statuses;
-    for (const Line& line : linesOfStory(statusChanged))
-        statuses[line.printer()].append(line.object.value(QStringLiteral("status")).toInt());
-    QCOMPARE(statuses, (QMap<QString, QList<int>>{
-                           {shipping, {1, 2, 1, 19, 1, 254, 1, 257, 1}},
-                           {warehouse, {1, 4, 1, 254, 1, 21, 1}},
-                           {returns, {1, 254, 1}},
-                       }));
-}
-
-void VxPrintMonTest::storyReportsAPrinterThatGoesOffline()
-{
-    const QList<Line> moment = linesOfStoryFrom(shipping, 257);
-    QVERIFY(moment.size() > 4);
-    const QJsonObject offline = moment.at(1).record(shipping);
-    QCOMPARE(offline.value(QStringLiteral("statusEnum")).toInt(), 257);
-    QCOMPARE(offline.value(QStringLiteral("printerOnline")).toBool(true), false);
-    // When it comes back, it first becomes active and then has its status.
-    QCOMPARE(moment.at(2).signal(), activeSet);
-    QCOMPARE(moment.at(3).signal(), statusChanged);
-    QCOMPARE(moment.at(4).record(shipping).value(QStringLiteral("printerOnline")).toBool(), true);
-}
-
 // The command line ////////////////////////////////////////////////////////////////////////////////
+
+// enough //////////////////////////////////////////////////////////////////////////////////////////
+
+void VxPrintMonTest::enoughAnswersByItsExitStatus_data()
+{
+    QTest::addColumn<QString>("question");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QByteArray>("text");
+    const auto add = [](const char* question, int status, const char* text) {
+        QTest::newRow(question) << QString::fromLatin1(question) << status << QByteArray(text);
+    };
+    // Warehouse reports whole percents: 82 of 3388 labels, and 57 of a ribbon for 2223.
+    add("Warehouse DE-400200-WH 500", 0, "Ready. Labels left: 1245 to 1289, needed: 500.\n");
+    add("Warehouse DE-400200-WH 1000 RX-43-BK", 0,
+        "Ready. Labels left: 1245 to 1289, needed: 1000.\n");
+    add("Warehouse DE-400200-WH 3000 RX-43-BK", 3,
+        "Supply: not enough. Labels left: 2744 to 2812, needed: 3000, missing: at least\n188.\n"
+        "Ribbon 2: not enough. Labels left: 1245 to 1289, needed: 3000, missing: at "
+        "least\n1711.\n");
+    add("Warehouse DE-400200-WH 1260", 4,
+        "Ribbon 2: it is not known whether it lasts, because the printer reports whole\n"
+        "percents only. Labels left: 1245 to 1289, needed: 1260.\n");
+    add("Warehouse VT-400-YL 1", 3,
+        "Supply: DE-400200-WH (White Paper) is loaded, the job needs VT-400-YL.\n");
+    add("Warehouse DE-400200-WH 1 RS-43-BK", 3,
+        "Ribbon 1: RX-43-BL (Blue wax-resin) is loaded, the job needs RS-43-BK.\n");
+    add("Shipping VT-400-YL 1", 4,
+        "Supply: it is not known how many labels are left, because the catalogue has no\n"
+        "length of a label for VT-400-YL (Yellow Vinyl).\n");
+    add("Returns DE-400200-WH 1", 3,
+        "The printer is not ready: Disconnected.\n"
+        "It is not known what is loaded, because the printer is not watched.\n");
+}
+
+void VxPrintMonTest::enoughAnswersByItsExitStatus()
+{
+    QFETCH(const QString, question);
+    QFETCH(const int, status);
+    QFETCH(const QByteArray, text);
+    const Result result =
+        run(QStringList{QStringLiteral("enough")} + question.split(QLatin1Char(' ')));
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(result.output, text);
+    QCOMPARE(result.exitStatus, status);
+}
+
+void VxPrintMonTest::enoughAnswersAsJson()
+{
+    const Result result = run(words("enough Warehouse DE-400200-WH 3000 RW-43-BK --json"));
+    QCOMPARE(result.exitStatus, 3);
+    QCOMPARE(result.errors, QByteArray());
+    const QJsonObject answer = QJsonDocument::fromJson(result.output).object();
+    QCOMPARE(answer[QStringLiteral("answer")].toString(), QStringLiteral("no"));
+    QCOMPARE(answer[QStringLiteral("verdict")].toString(), QStringLiteral("wrongRibbon"));
+    QCOMPARE(answer[QStringLiteral("findings")][1][QStringLiteral("shortBy")].toInt(), 188);
+    QCOMPARE(answer[QStringLiteral("ribbonSkus")],
+             QJsonValue(QJsonArray{QStringLiteral("RW-43-BK")}));
+}
+
+void VxPrintMonTest::enoughTakesSkusAsPeopleTypeThem()
+{
+    const Result other = run(words("enough warehouse de-400200-wh 5 rx-43-bk"));
+    QCOMPARE(other.exitStatus, 0);
+    QCOMPARE(other.errors, QByteArray());
+    const Result mistyped = run(words("enough Warehouse DE-400200-HW 5 nothing"));
+    QCOMPARE(mistyped.exitStatus, 3);
+    QVERIFY2(
+        mistyped.errors.startsWith("vxprintmon: the catalogue has no DE-400200-HW; did you mean "
+                                   "DE-400200-WH, "),
+        mistyped.errors.constData());
+    QVERIFY2(mistyped.errors.endsWith("vxprintmon: the catalogue has no nothing\n"),
+             mistyped.errors.constData());
+    const Result nowhere = run(words("enough Nowhere DE-400200-WH 5"));
+    QCOMPARE(nowhere.exitStatus, 1);
+    QCOMPARE(nowhere.output, QByteArray());
+}
+
+void VxPrintMonTest::enoughWithoutACatalogueIsNotKnown()
+{
+    const Result result =
+        run(words("enough Warehouse DE-400200-WH 5 --catalogue /no/such/roll.db"));
+    QCOMPARE(result.exitStatus, 4);
+    QVERIFY2(result.errors.contains("there is no catalogue /no/such/roll.db"),
+             result.errors.constData());
+    QCOMPARE(QString::fromUtf8(result.output).simplified(),
+             QStringLiteral("Supply: it is not known what is loaded, because 00000258100039000013 "
+                            "is not in the catalogue. Ribbon 1: it is not known what is loaded, "
+                            "because 2012 is not in the catalogue."));
+}
+
+// forecast ////////////////////////////////////////////////////////////////////////////////////////
+
+namespace {
+
+/// The environment of a user who has this folder for data.
+QProcessEnvironment withData(QProcessEnvironment environment, const QTemporaryDir& data)
+{
+    environment.insert(QStringLiteral("XDG_DATA_HOME"), data.path());
+    return environment;
+}
+
+QString historyIn(const QTemporaryDir& data)
+{
+    return data.filePath(QStringLiteral("VxPrinterStatus/history.db"));
+}
+
+/// Records four weeks of Shipping, in which its roll loses 8 mm an hour, up to what it has now. The
+/// forecast learns the same without a file.
+bool recordShipping(const QString& fileName, VxKit::RunOutForecast& forecast)
+{
+    VxKit::UsageHistoryOptions options;
+    options.fileName = fileName;
+    VxKit::UsageHistory history(options);
+    VxKit::PrinterReading reading;
+    reading.setName(shipping);
+    reading.setSerialNumber(QStringLiteral("AM-20871"));
+    reading.setModel(VXPrinting::PrinterType::AlderMax);
+    VxKit::Level level;
+    level.state = VxKit::Level::State::Loaded;
+    level.identifier = QStringLiteral("000000641000030000A7");
+    level.sku = QStringLiteral("VT-400-YL");
+    level.name = level.material = QStringLiteral("Vinyl");
+    level.totalMeters = 30.48;
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    constexpr int hours = 24 * 28;
+    for (int hour = hours; hour >= 1; --hour) {
+        level.meters = 24.385 + 0.008 * hour;
+        level.ratio = *level.meters / *level.totalMeters;
+        reading.setLevel(VxKit::Slot::Supply, level);
+        const QDateTime time = now.addSecs(-3600 * qint64(hour));
+        history.record(reading, time);
+        forecast.addSample(shipping, VxKit::Slot::Supply,
+                           VxKit::RunOutForecast::sampleOf(level, time));
+    }
+    level.meters = 24.385;
+    level.ratio = *level.meters / *level.totalMeters;
+    forecast.addSample(shipping, VxKit::Slot::Supply, VxKit::RunOutForecast::sampleOf(level, now));
+    return history.flush(QDeadlineTimer(patience));
+}
+
+} // namespace
+
+void VxPrintMonTest::forecastWithoutAHistoryIsNotKnown()
+{
+    const QTemporaryDir data;
+    const QProcessEnvironment user = withData(environment(), data);
+    const Result people = run(words("forecast"), QStringLiteral(VXPRINTMON), user);
+    QCOMPARE(people.exitStatus, 0);
+    QCOMPARE(people.errors, QByteArray("vxprintmon: forecasts need a history of what printers use; "
+                                       "\"vxprintmon watch --history\" records one\n"));
+    const QString table = QString::fromUtf8(people.output).simplified();
+    QVERIFY2(table.contains(QStringLiteral("Shipping supply 80 %, 24.4 m not known yet")),
+             people.output.constData());
+
+    const Result json = run(words("forecast shipping --json"), QStringLiteral(VXPRINTMON), user);
+    QCOMPARE(json.exitStatus, 0);
+    QCOMPARE(json.errors, QByteArray());
+    const QJsonArray places = QJsonDocument::fromJson(json.output).array();
+    QCOMPARE(places.size(), 3);
+    QCOMPARE(places[0][QStringLiteral("printer")].toString(), shipping);
+    QCOMPARE(places[0][QStringLiteral("slot")].toString(), QStringLiteral("supply"));
+    QCOMPARE(places[0][QStringLiteral("reason")].toString(), QStringLiteral("notKnownYet"));
+    QVERIFY(places[0][QStringLiteral("estimatedSecondsRemaining")].isNull());
+    QVERIFY(places[0][QStringLiteral("labels")].isNull());
+    QVERIFY(std::abs(places[0][QStringLiteral("meters")].toDouble() - 24.385) < 0.01);
+    // A printer that has never reported.
+    const QJsonArray returns =
+        QJsonDocument::fromJson(
+            run(words("forecast Returns --json"), QStringLiteral(VXPRINTMON), user).output)
+            .array();
+    QCOMPARE(returns[0][QStringLiteral("reason")].toString(), QStringLiteral("neverReported"));
+    QVERIFY(returns[0][QStringLiteral("meters")].isNull());
+}
+
+void VxPrintMonTest::forecastLearnsFromTheUsersHistory()
+{
+    const QTemporaryDir data;
+    VxKit::RunOutForecast forecast;
+    QVERIFY(recordShipping(historyIn(data), forecast));
+    const auto expected =
+        forecast.forecast(shipping, VxKit::Slot::Supply, QDateTime::currentDateTimeUtc());
+    QVERIFY(expected.has_value());
+    const QProcessEnvironment user = withData(environment(), data);
+    const auto output = [&](const char* command) {
+        const Result result = run(words(command), QStringLiteral(VXPRINTMON), user);
+        return result.exitStatus == 0 ? result.output + result.errors : QByteArray("failed");
+    };
+    const QJsonArray places = QJsonDocument::fromJson(output("forecast Shipping --json")).array();
+    const QJsonValue supply = places[0];
+    const double days =
+        supply[QStringLiteral("estimatedSecondsRemaining")][QStringLiteral("p50")].toDouble() /
+        86400;
+    const double expectedDays = expected->secondsLeft.p50 / 86400;
+    QVERIFY2(std::abs(days - expectedDays) < 0.02 * expectedDays,
+             qPrintable(QStringLiteral("%1, not %2").arg(days).arg(expectedDays)));
+    QVERIFY(supply[QStringLiteral("reason")].isNull());
+    QVERIFY(places[1][QStringLiteral("estimatedSecondsRemaining")].isNull());
+
+    const QByteArray time = QByteArray::number(qRound(days)) + " d";
+    for (const char* command : {"forecast", "status", "status Shipping"}) {
+        const QByteArray text = output(command);
+        QVERIFY2(text.contains(time), text.constData());
+    }
+    QVERIFY(output("status").contains(" LASTS"));
+    QVERIFY(output("forecast").contains("LASTS ABOUT"));
+    QVERIFY(output("forecast").contains("PROBABLY"));
+    QVERIFY(output("status Shipping").contains("about " + time + ", probably "));
+}
+
+void VxPrintMonTest::forecastReadsAnotherHistory()
+{
+    const QTemporaryDir data;
+    const QString file = data.filePath(QStringLiteral("another.db"));
+    VxKit::RunOutForecast forecast;
+    QVERIFY(recordShipping(file, forecast));
+    const QProcessEnvironment user = withData(environment(), data);
+    const auto from = [&](const QString& name) {
+        return run({QStringLiteral("forecast"), QStringLiteral("Shipping"),
+                    QStringLiteral("--json"), QStringLiteral("--file"), name},
+                   QStringLiteral(VXPRINTMON), user);
+    };
+    const QJsonArray places = QJsonDocument::fromJson(from(file).output).array();
+    QVERIFY(places[0][QStringLiteral("estimatedSecondsRemaining")].isObject());
+
+    const Result missing = from(QStringLiteral("/nowhere/none.db"));
+    QCOMPARE(missing.exitStatus, 1);
+    QCOMPARE(missing.output, QByteArray());
+    QCOMPARE(missing.errors, QByteArray("vxprintmon: /nowhere/none.db: no such file\n"));
+}
+
+void VxPrintMonTest::forecastSaysWhatWouldBeWarnedOf()
+{
+    const QTemporaryDir data;
+    const auto output = [&](const QString& arguments) {
+        const Result result = run(QStringLiteral("forecast Warehouse ")
+                                      .append(arguments)
+                                      .split(QLatin1Char(' '), Qt::SkipEmptyParts),
+                                  QStringLiteral(VXPRINTMON), withData(environment(), data));
+        return result.exitStatus == 0 ? result.output : QByteArray("failed");
+    };
+    QVERIFY(!output({}).contains("few labels"));
+    // 82 percent of 182.88 m, of which a label takes 53.975 mm.
+    QVERIFY(!output(QStringLiteral("--warn-below 2778 --job 2778")).contains(" left: 2778"));
+    const QByteArray both = output(QStringLiteral("--warn-below 2779 --job 2779"));
+    QVERIFY2(both.contains("\nWarehouse: Supply: few labels left: 2778\nWarehouse: Supply: not "
+                           "enough for the job. Labels left: 2778, needed: 2779\n"),
+             both.constData());
+    const QJsonArray places =
+        QJsonDocument::fromJson(output(QStringLiteral("--json --warn-below 2779 --job 2779")))
+            .array();
+    QStringList concerns;
+    for (const QJsonValue& warning : places[0][QStringLiteral("warnings")].toArray())
+        concerns.append(warning[QStringLiteral("concern")].toString());
+    QCOMPARE(concerns, (QStringList{QStringLiteral("fewLabels"), QStringLiteral("jobTooLong")}));
+    QCOMPARE(places[0][QStringLiteral("warnings")][0][QStringLiteral("text")].toString(),
+             QStringLiteral("Supply: few labels left: 2778"));
+    QVERIFY(places[1][QStringLiteral("warnings")].isArray());
+}
+
+void VxPrintMonTest::historyThatCannotBeReadIsSaid()
+{
+    const QTemporaryDir data;
+    QVERIFY(QDir(data.path()).mkpath(QStringLiteral("VxPrinterStatus")));
+    QFile file(historyIn(data));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("this is no history");
+    file.close();
+    for (const char* command : {"forecast", "status"}) {
+        const Result result =
+            run(words(command), QStringLiteral(VXPRINTMON), withData(environment(), data));
+        QCOMPARE(result.exitStatus, 0);
+        QVERIFY2(result.errors.startsWith("vxprintmon: the history cannot be read: "),
+                 result.errors.constData());
+        QVERIFY(result.output.contains("Shipping"));
+    }
+}
 
 void VxPrintMonTest::coloursAppearOnlyOnATerminal()
 {
-    const QString script = QStandardPaths::findExecutable(QStringLiteral("script"));
-    if (script.isEmpty())
+    QProcessEnvironment terminal = terminalEnvironment();
+    const QByteArray coloured = runInTerminal(QStringLiteral("list"), terminal);
+    if (coloured.isEmpty())
         QSKIP("there is no script(1) here to give the tool a terminal");
-    const auto inTerminal = [](const char* verb) {
-        return QStringList{QStringLiteral("-qec"),
-                           QStringLiteral("'" VXPRINTMON "' ") + QString::fromLatin1(verb),
-                           QStringLiteral("/dev/null")};
-    };
-    QProcessEnvironment terminal = environment();
-    terminal.insert(QStringLiteral("TERM"), QStringLiteral("xterm"));
-    QVERIFY(run(inTerminal("list"), script, terminal).output.contains("\033[32mShipping\033[0m"));
-    const QByteArray coloured = run(inTerminal("status"), script, terminal).output;
-    QVERIFY(coloured.contains("\033[32mReady\033[0m"));
-    QVERIFY(coloured.contains("\033[38;2;255;209;0m██ \033[0mYellow Vinyl, 80 %"));
+    QVERIFY(coloured.contains("\033[32mShipping\033[0m"));
+    QVERIFY(!run({QStringLiteral("list")}, QStringLiteral(VXPRINTMON), terminal)
+                 .output.contains('\033'));
     terminal.insert(QStringLiteral("NO_COLOR"), QStringLiteral("1"));
-    const Result plain = run(inTerminal("status"), script, terminal);
-    QVERIFY(plain.output.contains("Yellow"));
-    QVERIFY(!plain.output.contains('\033'));
-    QVERIFY(!plain.output.contains("█"));
+    const QByteArray plain = runInTerminal(QStringLiteral("list"), terminal);
+    QVERIFY(plain.contains("Shipping"));
+    QVERIFY(!plain.contains('\033'));
     terminal.remove(QStringLiteral("NO_COLOR"));
     terminal.insert(QStringLiteral("TERM"), QStringLiteral("dumb"));
-    QVERIFY(!run(inTerminal("list"), script, terminal).output.contains('\033'));
+    QVERIFY(!runInTerminal(QStringLiteral("list"), terminal).contains('\033'));
 }
 
 void VxPrintMonTest::wrongUsageIsRefused_data()
@@ -1158,10 +704,23 @@ void VxPrintMonTest::wrongUsageIsRefused_data()
             << QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts)
             << QString::fromUtf8(complaint);
     };
-    row("", "expected a command: list, watch, status, send, title");
-    row("lst", R"(unknown command "lst"; expected one of list, watch, status, send, title)");
+    row("", "expected a command: list, watch, status, log, record, case, history, send, title, "
+            "forecast, enough, doctor, top");
+    row("lst",
+        R"(unknown command "lst"; expected one of list, watch, status, log, record, case, history, send, title, forecast, enough, doctor, top)");
     row("list Shipping", R"(list takes no arguments, found "Shipping")");
-    row("watch Shipping", R"(watch takes no arguments, found "Shipping")");
+    row("watch --signals", "--signals is valid only with --json");
+    row("watch Shipping --json --signals",
+        "watch --signals takes no printers: it prints every signal");
+    row("watch --json --relative", "--relative and --verbose are not valid with --json");
+    row("watch --json --verbose", "--relative and --verbose are not valid with --json");
+    row("status --relative", "--relative is valid only with watch");
+    row("list --log x", "--log is valid only with watch");
+    row("help status watch", R"(help takes at most one command, found "status" "watch")");
+    row("help lst",
+        R"(unknown command "lst"; expected one of list, watch, status, log, record, case, history, send, title, forecast, enough, doctor, top)");
+    row("lst --help",
+        R"(unknown command "lst"; expected one of list, watch, status, log, record, case, history, send, title, forecast, enough, doctor, top)");
     row("status A B", R"(status takes at most one printer, found "A" "B")");
     row("send", "send takes a printer and a command, found nothing");
     row("send Shipping", R"(send takes a printer and a command, found "Shipping")");
@@ -1175,12 +734,31 @@ void VxPrintMonTest::wrongUsageIsRefused_data()
             code + '"';
         row(arguments.constData(), complaint.constData());
     }
+    row("enough Warehouse X", "enough takes a printer, the SKU of a supply, a number of labels and "
+                              "SKUs of ribbons, found "
+                              R"("Warehouse" "X")");
+    for (const char* labels : {"0", "many", "1.5", "2147483648"}) {
+        const QByteArray arguments = QByteArray("enough Warehouse X ") + labels;
+        const QByteArray complaint =
+            QByteArray("enough takes a number of labels between 1 and 2147483647, found \"") +
+            labels + '"';
+        row(arguments.constData(), complaint.constData());
+    }
+    row("forecast --warn-below few",
+        R"(--warn-below: expected a whole number from 0 to 2147483647, found "few")");
+    row("watch --warn-below -1",
+        R"(--warn-below: expected a whole number from 0 to 2147483647, found "-1")");
+    row("watch --job 0", R"(--job: expected a whole number from 1 to 2147483647, found "0")");
+    row("watch --shift-end 14:00,24:30",
+        R"(--shift-end: expected times such as 14:00,22:00, found "24:30")");
+    row("watch --shift-end 2pm", R"(--shift-end: expected times such as 14:00,22:00, found "2pm")");
+    row("status --job 5", "--job is valid only with watch, forecast");
     row("title 1 --all", "title takes a status code or --all, not both");
     row("list --all", "--all is valid only with title");
     row("list --jsn", "Unknown option 'jsn'");
-    row("list --for 3", "--for is valid only with watch");
-    row("status --for 3", "--for is valid only with watch");
-    row("list --speed 3", "--speed is valid only with watch");
+    row("list --for 3", "--for is valid only with watch, record, top");
+    row("status --for 3", "--for is valid only with watch, record, top");
+    row("list --speed 3", "--speed is valid only with watch, record, top");
     row("watch --for", "Missing value after '--for'");
     row("watch --for soon", R"(--for: expected a number above 0 and up to 1000000, found "soon")");
     row("watch --for 0", R"(--for: expected a number above 0 and up to 1000000, found "0")");
@@ -1188,6 +766,9 @@ void VxPrintMonTest::wrongUsageIsRefused_data()
     row("watch --for 1e9", R"(--for: expected a number above 0 and up to 1000000, found "1e9")");
     row("watch --speed -2", R"(--speed: expected a number above 0 and up to 1000000, found "-2")");
     row("watch --virtual=", "--virtual: expected a file name");
+    row("watch --log=", "--log: expected a file name");
+    row("list --library-log=", "--library-log: expected a file name");
+    row("status --catalogue=", "--catalogue: expected a file name");
 }
 
 void VxPrintMonTest::wrongUsageIsRefused()
@@ -1223,15 +804,72 @@ void VxPrintMonTest::helpAndVersionArePrinted()
 {
     const Result help = run({QStringLiteral("--help")});
     QCOMPARE(help.exitStatus, 0);
+    QCOMPARE(help.errors, QByteArray());
     QVERIFY(help.output.startsWith("Usage: vxprintmon COMMAND"));
-    for (const char* said : {"list ", "watch ", "status [PRINTER]", "send PRINTER COMMAND",
-                             "title CODE", "--all ", "no longer than 2 seconds"})
+    for (const char* said :
+         {"list ", "watch [PRINTER]... ", "status [PRINTER]", "send PRINTER COMMAND", "title CODE",
+          "help [COMMAND]", "-h, --help", "--catalogue FILE", "--library-log FILE", "VX_ROLL_DB"})
         QVERIFY2(help.output.contains(said), said);
+    QCOMPARE(run({QStringLiteral("-h")}).output, help.output);
+    QCOMPARE(run({QStringLiteral("help")}).output, help.output);
     const Result version = run({QStringLiteral("--version")});
     QCOMPARE(version.exitStatus, 0);
     QVERIFY(QRegularExpression(QStringLiteral("^vxprintmon \\d+\\.\\d+\\.\\d+\n$"))
                 .match(QString::fromUtf8(version.output))
                 .hasMatch());
+    QCOMPARE(run(words("status --version")).output, version.output);
+}
+
+void VxPrintMonTest::everyCommandHasItsHelp()
+{
+    const QByteArray all = run({QStringLiteral("--help")}).output;
+    const qsizetype begin = all.indexOf("Commands:\n");
+    const QList<QByteArray> rows =
+        all.sliced(begin, all.indexOf("\n\n", begin) - begin).split('\n');
+    int commands = 0;
+    for (const QByteArray& row : rows) {
+        if (!row.startsWith("  ") || row.at(2) == ' ' || row.startsWith("  help"))
+            continue;
+        ++commands;
+        const QString name = QString::fromUtf8(row.trimmed()).section(QLatin1Char(' '), 0, 0);
+        const Result help = run({QStringLiteral("help"), name});
+        QCOMPARE(help.exitStatus, 0);
+        QVERIFY2(help.output.startsWith("Usage: vxprintmon " + name.toUtf8() + ' '),
+                 help.output.constData());
+        QVERIFY(help.output.contains("\n  --json "));
+        // Also without the arguments that the command needs.
+        QCOMPARE(run({name, QStringLiteral("--help")}).output, help.output);
+        QCOMPARE(run({name, QStringLiteral("-h")}).output, help.output);
+        // Only the options that are valid with it.
+        QCOMPARE(help.output.contains("\n  --signals "), name == QLatin1String("watch"));
+    }
+    QVERIFY(commands >= 5);
+    QVERIFY(run(words("help status")).output.contains("no longer than 2 seconds"));
+    QVERIFY(run(words("help watch")).output.contains("25, 10 and 5 %"));
+}
+
+void VxPrintMonTest::fleetOfTheEnvironmentIsUsed()
+{
+    const QByteArray builtIn = run({QStringLiteral("list")}).output;
+    const QString fleet =
+        fleetFile(R"({"printers": [{"name": "Only", "driver": "Stratamark Alder"}]})");
+    QProcessEnvironment hosts = environment();
+    const auto list = [&](const QStringList& more = {}) {
+        return run(QStringList{QStringLiteral("list")} + more, QStringLiteral(VXPRINTMON), hosts);
+    };
+    hosts.insert(QStringLiteral("VX_VIRTUAL_FLEET"), fleet);
+    QCOMPARE(list().output.count('\n'), 2);
+    QVERIFY(list().output.contains("\nOnly "));
+    // The command line comes first, and "built-in" needs no file.
+    QCOMPARE(list({QStringLiteral("--virtual"), QStringLiteral("built-in")}).output, builtIn);
+    hosts.insert(QStringLiteral("VX_VIRTUAL_FLEET"), QStringLiteral("built-in"));
+    QCOMPARE(list().output, builtIn);
+    hosts.insert(QStringLiteral("VX_VIRTUAL_FLEET"), QStringLiteral("/no/such/file"));
+    const Result missing = list();
+    QCOMPARE(missing.exitStatus, 1);
+    QCOMPARE(missing.errors, QByteArray("vxprintmon: /no/such/file: No such file or directory\n"));
+    hosts.insert(QStringLiteral("VX_VIRTUAL_FLEET"), QString());
+    QCOMPARE(list().output, builtIn);
 }
 
 void VxPrintMonTest::logIsAppendedToAFile()
@@ -1242,13 +880,13 @@ void VxPrintMonTest::logIsAppendedToAFile()
         QFile file(log);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     };
-    const Result first = run({QStringLiteral("status"), QStringLiteral("--log"), log});
+    const Result first = run({QStringLiteral("status"), QStringLiteral("--library-log"), log});
     QCOMPARE(first.exitStatus, 0);
     QCOMPARE(first.errors, QByteArray());
     const qsizetype once = lines().count("Evaluating Printer: Warehouse");
     QCOMPARE(once, 1);
     // A second run appends to the file.
-    QCOMPARE(run({QStringLiteral("status"), QStringLiteral("--log"), log}).exitStatus, 0);
+    QCOMPARE(run({QStringLiteral("status"), QStringLiteral("--library-log"), log}).exitStatus, 0);
     QCOMPARE(lines().count("Evaluating Printer: Warehouse"), 2 * once);
 
     const Result without = run({QStringLiteral("status")});
@@ -1259,23 +897,16 @@ void VxPrintMonTest::logIsAppendedToAFile()
 
 void VxPrintMonTest::logThatCannotBeWrittenIsAFailure()
 {
-    const Result result =
-        run({QStringLiteral("list"), QStringLiteral("--log"), QStringLiteral("no/such/folder")});
+    const Result result = run({QStringLiteral("list"), QStringLiteral("--library-log"),
+                               QStringLiteral("no/such/folder")});
     QCOMPARE(result.exitStatus, 1);
     QCOMPARE(result.output, QByteArray());
     QCOMPARE(result.errors, QByteArray("vxprintmon: cannot write the log no/such/folder: "
                                        "No such file or directory\n"));
-    const Result empty = run({QStringLiteral("list"), QStringLiteral("--log"), QString()});
+    const Result empty = run({QStringLiteral("list"), QStringLiteral("--library-log"), QString()});
     QCOMPARE(empty.exitStatus, 2);
-    QVERIFY2(empty.errors.startsWith("vxprintmon: --log: expected a file name"),
+    QVERIFY2(empty.errors.startsWith("vxprintmon: --library-log: expected a file name"),
              empty.errors.constData());
-}
-
-void VxPrintMonTest::leavesNothingBehind()
-{
-    const QStringList left = entries();
-    for (const QString& entry : left)
-        QVERIFY2(entry.startsWith(QLatin1String("fleet ")), qPrintable(entry));
 }
 
 QTEST_GUILESS_MAIN(VxPrintMonTest)

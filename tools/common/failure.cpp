@@ -14,10 +14,10 @@ ExitStatus run(const StandardOutput& output, const std::function<void()>& work)
         return ExitStatus::Done;
     } catch (const Failure& failure) {
         const bool isWrongUsage = failure.exitStatus() == ExitStatus::WrongUsage;
-        output.complain(
-            isWrongUsage
-                ? ToolText::tr("%1 (see %2 --help)").arg(failure.message(), output.toolName())
-                : failure.message());
+        for (const QStringList messages = failure.messages(); const QString& message : messages)
+            output.complain(isWrongUsage
+                                ? ToolText::tr("%1 (see %2 --help)").arg(message, output.toolName())
+                                : message);
         return failure.exitStatus();
     } catch (const std::exception& exception) {
         // The library throws when the spooler lists a printer without a name, port or driver.

@@ -7,6 +7,8 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <optional>
+
 /// JSON on one line, with the keys of objects in the given order. Characters that are not printable
 /// are escaped.
 namespace json_text {
@@ -14,6 +16,17 @@ namespace json_text {
 using Member = std::pair<QString, QString>;
 
 QString value(const QJsonValue& value);
+/// Null for a value that is none.
+template <typename Value>
+QJsonValue orNull(const std::optional<Value>& value)
+{
+    return value ? QJsonValue(*value) : QJsonValue();
+}
+/// Null for a text that is empty.
+inline QJsonValue orNull(const QString& text)
+{
+    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
+}
 /// Of members whose values are JSON already.
 QString object(const QList<Member>& members);
 /// Of elements that are JSON already.

@@ -20,9 +20,7 @@ void StandardOutput::write(const QString& text)
 {
     if (m_isOver)
         return;
-    const QByteArray utf8 = text.toUtf8();
-    const auto size = static_cast<std::size_t>(utf8.size());
-    if (std::fwrite(utf8.constData(), 1, size, m_stream) == size && std::fflush(m_stream) == 0)
+    if (system_output::write(m_stream, text))
         return;
     const int error = errno;
     m_isOver = true;
@@ -38,8 +36,8 @@ bool StandardOutput::isOver()
 
 void StandardOutput::complain(const QString& message) const
 {
-    const QByteArray line = shownAsMessage(message).toUtf8();
-    std::fprintf(stderr, "%s: %s\n", m_tool, line.constData());
+    system_output::write(stderr,
+                         toolName() + QLatin1String(": ") + shownAsMessage(message) + u'\n');
 }
 
 int StandardOutput::exitStatus(int status) const

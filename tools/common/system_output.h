@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include <QtCore/QString>
+
 #include <cstdio>
 
 /// The differences between systems in writing to standard output. Each system has its own source
@@ -13,8 +15,12 @@ namespace system_output {
 /// A write to a pipe that its reader has closed fails from now on; by default it would end the
 /// program, which would leave its files and endpoints behind. If the program was started with a
 /// closed standard stream, files that it opens later do not take that stream's place. A console
-/// shows the text, which is UTF-8, as it is, and gets its own setting back when the process ends.
+/// shows UTF-8 as it is, and gets its own setting back when the process ends.
 void prepare();
+
+/// Writes and flushes a text, as UTF-8 unless a console takes it as it is. False if that fails; the
+/// reason is in `errno`.
+bool write(std::FILE* stream, const QString& text);
 
 /// Whether the write that has just failed did so because the reader had closed the pipe.
 bool failedAtClosedPipe();

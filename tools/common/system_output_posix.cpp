@@ -21,6 +21,13 @@ void system_output::prepare()
     }
 }
 
+bool system_output::write(std::FILE* stream, const QString& text)
+{
+    const QByteArray utf8 = text.toUtf8();
+    const auto size = static_cast<std::size_t>(utf8.size());
+    return std::fwrite(utf8.constData(), 1, size, stream) == size && std::fflush(stream) == 0;
+}
+
 bool system_output::failedAtClosedPipe()
 {
     return errno == EPIPE;

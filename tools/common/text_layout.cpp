@@ -63,6 +63,22 @@ QString text_layout::padded(const QString& text, qsizetype columns)
     return text + spaces(columns - width(text));
 }
 
+QString text_layout::elided(const QString& text, qsizetype columns)
+{
+    if (width(text) <= columns)
+        return text;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    qsizetype taken = 0;
+    qsizetype end = 0;
+    for (qsizetype next = finder.toNextBoundary(); next > 0; next = finder.toNextBoundary()) {
+        taken += width(text.sliced(end, next - end));
+        if (taken > columns - 1)
+            break;
+        end = next;
+    }
+    return text.first(end) + QChar(u'\u2026');
+}
+
 QStringList text_layout::wrapped(const QString& text, qsizetype columns)
 {
     QStringList lines;
@@ -71,6 +87,11 @@ QStringList text_layout::wrapped(const QString& text, qsizetype columns)
     for (qsizetype begin = 0; begin < text.size();) {
         const qsizetype next = finder.toNextBoundary();
         const qsizetype end = next < 0 ? text.size() : next;
+        // A percent sign belongs to its number, and the parts of a SKU to each other.
+        const bool mayEnd =
+            end == text.size() || (text.at(end) != u'%' && text.at(end - 1) != u'-');
+        if (!mayEnd)
+            continue;
         const QString piece = text.sliced(begin, end - begin);
         // Spaces at the end of a line take no room: they are not printed.
         if (!line.isEmpty() && width((line + piece).trimmed()) > columns) {

@@ -19,6 +19,10 @@ qsizetype width(const QString& text);
 /// The text followed by spaces, so that it takes at least `columns`.
 QString padded(const QString& text, qsizetype columns);
 
+/// The text if it takes at most `columns`. Otherwise as much of its beginning as fits in front of
+/// an ellipsis, which takes the last column.
+QString elided(const QString& text, qsizetype columns);
+
 /// The text on lines of at most `columns`, broken where the rules of its language allow it. What
 /// cannot be broken stays on one line.
 QStringList wrapped(const QString& text, qsizetype columns);

@@ -132,10 +132,12 @@ CatalogueWriter::CatalogueWriter(const QSqlDatabase& database)
 
 void CatalogueWriter::write(const Catalogue& catalogue)
 {
+    // The order of the rows decides on which pages of the file they are.
+    const Catalogue rows = ordered(catalogue);
     m_names = 0;
-    writeVocabulary(catalogue);
-    writeSupplies(catalogue);
-    writeRibbons(catalogue);
+    writeVocabulary(rows);
+    writeSupplies(rows);
+    writeRibbons(rows);
 }
 
 QVariant CatalogueWriter::writeName(const Name& name)

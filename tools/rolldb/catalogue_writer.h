@@ -11,8 +11,8 @@
 
 /// Creates the database file of a catalogue. The file is created and checked in a temporary folder
 /// and then replaces an existing file atomically: the path always has either the complete old file
-/// or the complete new one. The same catalogue always gives the same bytes. Throws a Failure on
-/// failure, which leaves the old file unchanged.
+/// or the complete new one. The same catalogue always gives the same bytes, in whatever order its
+/// rows are. Throws a Failure on failure, which leaves the old file unchanged.
 void writeDatabase(const Catalogue& catalogue, const QString& path);
 
 /// Creates the tables in an empty database. Throws a Failure if SQLite reports an error.

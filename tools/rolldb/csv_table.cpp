@@ -15,21 +15,22 @@ constexpr qsizetype maxFileBytes = qsizetype{16} << 20;
 constexpr qsizetype maxFieldLength = 4096;
 constexpr qsizetype maxColumns = 64;
 
-QString lineFailure(const QString& fileName, int line, const QString& reason)
+Mistake lineFailure(const QString& fileName, int line, const QString& reason)
 {
-    return QStringLiteral("%1:%2: %3").arg(fileName).arg(line).arg(reason);
+    return {line, 0, QStringLiteral("%1:%2: %3").arg(fileName).arg(line).arg(reason)};
 }
 
 QString decoded(const QString& fileName, const QByteArray& bytes)
 {
     if (bytes.size() > maxFileBytes)
-        throw Failure(ToolText::tr("%1: larger than 16 MiB").arg(fileName));
+        throw Mistake(0, 0, ToolText::tr("%1: larger than 16 MiB").arg(fileName));
     // Removes a byte order mark. Stateless, so that an incomplete character at the end is an error.
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder.decode(bytes);
     if (!decoder.hasError())
         return text;
-    // Finds the line of the first invalid byte by decoding line by line.
+    // Finds the line of the first invalid byte by decoding line by line. The others have the same
+    // cause: the table was saved in another encoding.
     int line = 1;
     for (const QByteArray& lineBytes : bytes.split('\n')) {
         QStringDecoder lineDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
@@ -38,14 +39,16 @@ QString decoded(const QString& fileName, const QByteArray& bytes)
             break;
         ++line;
     }
-    throw Failure(lineFailure(fileName, line, ToolText::tr("not UTF-8 text")));
+    throw lineFailure(fileName, line, ToolText::tr("not UTF-8 text; save the table as UTF-8"));
 }
 
-// The first separator in the header line decides: column names contain neither in practice.
-QChar separatorOf(const QString& text)
+// The first separator in the header line decides: column names contain none in practice.
+QChar separatorOf(const QString& fileName, const QString& text)
 {
-    for (const QChar character : text) {
-        if (character == u';' || character == u',')
+    if (fileName.endsWith(QLatin1String(".tsv"), Qt::CaseInsensitive))
+        return u'\t';
+    for (const QChar character : text.trimmed()) {
+        if (character == u';' || character == u',' || character == u'\t')
             return character;
         if (character == u'\n')
             break;
@@ -64,9 +67,9 @@ QString CsvField::place() const
         .arg(column);
 }
 
-Failure CsvField::failure(const QString& reason) const
+Mistake CsvField::failure(const QString& reason) const
 {
-    return Failure(QStringLiteral("%1: %2").arg(place(), reason));
+    return {line, columnNumber, QStringLiteral("%1: %2").arg(place(), reason)};
 }
 
 /// Reads a text row by row. The number of a row is that of its first line.
@@ -79,18 +82,34 @@ public:
         , m_separator(separator)
     {}
 
-    /// The next row that is not empty.
-    std::optional<Row> nextRow()
+    /// The next row that is not empty. Mistakes before it are reported, and their rows are left
+    /// out.
+    std::optional<Row> nextRow(const ReportMistake& report)
     {
         while (m_position < m_text.size()) {
-            const Row row = readRow();
-            if (std::ranges::any_of(row.fields, [](const QString& f) { return !f.isEmpty(); }))
-                return row;
+            try {
+                const Row row = readRow();
+                if (std::ranges::any_of(row.fields, [](const QString& f) { return !f.isEmpty(); }))
+                    return row;
+            } catch (const Mistake& mistake) {
+                m_hasMistakes = true;
+                report(mistake);
+                skipLine();
+            }
         }
         return std::nullopt;
     }
 
+    bool hasMistakes() const { return m_hasMistakes; }
+
 private:
+    void skipLine()
+    {
+        const qsizetype end = m_text.indexOf(u'\n', m_position);
+        m_position = end < 0 ? m_text.size() : end + 1;
+        ++m_line;
+    }
+
     Row readRow()
     {
         Row row{.line = m_line, .fields = {}};
@@ -135,6 +154,7 @@ private:
     QString readQuoted()
     {
         const int openedIn = m_line;
+        const qsizetype openedAt = m_position;
         QString field;
         while (m_position < m_text.size()) {
             const QChar character = m_text.at(m_position++);
@@ -147,8 +167,10 @@ private:
                 ++m_line;
             field.append(character);
         }
-        throw Failure(
-            lineFailure(m_fileName, openedIn, ToolText::tr("an unclosed quotation mark")));
+        // The lines after the one with the mark are read as if it were not there.
+        m_line = openedIn;
+        m_position = openedAt;
+        throw failure(ToolText::tr("an unclosed quotation mark"));
     }
 
     bool skip(QChar character)
@@ -168,51 +190,78 @@ private:
         return character == m_separator || character == u'\n' || character == u'\r';
     }
 
-    Failure failure(const QString& reason) const
-    {
-        return Failure(lineFailure(m_fileName, m_line, reason));
-    }
+    Mistake failure(const QString& reason) const { return lineFailure(m_fileName, m_line, reason); }
 
     const QString m_fileName;
     const QString m_text;
     const QChar m_separator;
     qsizetype m_position = 0;
     int m_line = 1;
+    bool m_hasMistakes = false;
 };
 
 CsvTable CsvTable::parse(const QString& fileName, const QByteArray& bytes)
 {
-    const QString text = decoded(fileName, bytes);
+    return parse(fileName, bytes, [](const Mistake& mistake) { throw Mistake(mistake); });
+}
+
+CsvTable CsvTable::parse(const QString& fileName, const QByteArray& bytes,
+                         const ReportMistake& report)
+{
     CsvTable table;
     table.m_fileName = fileName;
-    table.m_separator = separatorOf(text);
+    QString text;
+    try {
+        text = decoded(fileName, bytes);
+    } catch (const Mistake& mistake) {
+        report(mistake);
+        return table;
+    }
+    table.m_separator = separatorOf(fileName, text);
 
     Parser parser(fileName, text, table.m_separator);
-    const std::optional<Row> header = parser.nextRow();
-    if (!header)
-        throw table.failureInFile(ToolText::tr("empty; expected a line of column names"));
-    table.m_columns = header->fields;
-    while (!table.m_columns.isEmpty() && table.m_columns.last().isEmpty())
-        table.m_columns.removeLast(); // a spreadsheet's empty columns
-    for (qsizetype i = 0; i < table.m_columns.size(); ++i) {
-        const QString& column = table.m_columns.at(i);
-        if (column.isEmpty() || table.m_columns.indexOf(column) != i)
-            throw table.failureInHeader(column, column.isEmpty()
-                                                    ? ToolText::tr("a column without a name")
-                                                    : ToolText::tr("duplicate column"));
-    }
-
-    while (std::optional<Row> row = parser.nextRow()) {
-        while (row->fields.size() > table.m_columns.size() && row->fields.last().isEmpty())
-            row->fields.removeLast();
-        if (row->fields.size() != table.m_columns.size())
-            throw Failure(lineFailure(fileName, row->line,
-                                      ToolText::tr("%1 fields, but there are %2 columns")
-                                          .arg(row->fields.size())
-                                          .arg(table.m_columns.size())));
-        table.m_rows.append(*std::move(row));
-    }
+    const std::optional<Row> header = parser.nextRow(report);
+    // If a mistake hides the names of the columns, the rows below cannot be read.
+    table.m_isComplete = header.has_value() && !parser.hasMistakes();
+    if (!header && !parser.hasMistakes())
+        report(table.failureInFile(ToolText::tr("empty; expected a line of column names")));
+    if (!table.m_isComplete)
+        return table;
+    table.takeHeader(*header, report);
+    while (std::optional<Row> row = parser.nextRow(report))
+        table.takeRow(*std::move(row), report);
+    table.m_isComplete = table.m_isComplete && !parser.hasMistakes();
     return table;
+}
+
+void CsvTable::takeHeader(const Row& row, const ReportMistake& report)
+{
+    m_headerLine = row.line;
+    m_columns = row.fields;
+    while (!m_columns.isEmpty() && m_columns.last().isEmpty())
+        m_columns.removeLast(); // a spreadsheet's empty columns
+    for (qsizetype i = 0; i < m_columns.size(); ++i) {
+        const QString& name = m_columns.at(i);
+        if (name.isEmpty())
+            report(failureInHeader(i, ToolText::tr("a column without a name")));
+        else if (m_columns.indexOf(name) != i)
+            report(failureInHeader(i, ToolText::tr("duplicate column")));
+    }
+}
+
+void CsvTable::takeRow(Row row, const ReportMistake& report)
+{
+    while (row.fields.size() > m_columns.size() && row.fields.last().isEmpty())
+        row.fields.removeLast();
+    if (row.fields.size() == m_columns.size()) {
+        m_rows.append(std::move(row));
+        return;
+    }
+    m_isComplete = false;
+    report(lineFailure(m_fileName, row.line,
+                       ToolText::tr("%1 fields, but there are %2 columns")
+                           .arg(row.fields.size())
+                           .arg(m_columns.size())));
 }
 
 CsvField CsvTable::field(qsizetype row, QLatin1String column) const
@@ -231,15 +280,18 @@ CsvField CsvTable::fieldAt(qsizetype row, qsizetype column) const
     return {source.fields.at(column), m_fileName, source.line, column + 1, m_columns.at(column)};
 }
 
-Failure CsvTable::failureInHeader(const QString& column, const QString& reason) const
+Mistake CsvTable::failureInHeader(const QString& column, const QString& reason) const
 {
-    return Failure(ToolText::tr("%1:1, column %2 (%3): %4")
-                       .arg(m_fileName)
-                       .arg(m_columns.lastIndexOf(column) + 1)
-                       .arg(column, reason));
+    return failureInHeader(m_columns.lastIndexOf(column), reason);
 }
 
-Failure CsvTable::failureInFile(const QString& reason) const
+Mistake CsvTable::failureInHeader(qsizetype column, const QString& reason) const
 {
-    return Failure(QStringLiteral("%1: %2").arg(m_fileName, reason));
+    const CsvField name{{}, m_fileName, m_headerLine, column + 1, m_columns.at(column)};
+    return name.failure(reason);
+}
+
+Mistake CsvTable::failureInFile(const QString& reason) const
+{
+    return {0, 0, QStringLiteral("%1: %2").arg(m_fileName, reason)};
 }

@@ -8,6 +8,7 @@
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlQuery>
 
+#include <functional>
 #include <map>
 
 /// How many entries a supply database has.
@@ -20,7 +21,8 @@ struct DatabaseCounts
 };
 
 /// Checks a whole file: SQLite's own structure, the schema, the references, and the rules that the
-/// schema's constraints cannot express. Throws a Failure for the first error.
+/// schema's constraints cannot express. Throws a Failure with all that is wrong. Rows are not read
+/// if the structure or the schema is wrong.
 DatabaseCounts checkDatabase(const QString& path);
 /// The same with `name` in place of the path in messages.
 DatabaseCounts checkDatabase(const QString& path, const QString& name);
@@ -40,8 +42,9 @@ private:
     void checkStructure();
     void checkSchema();
     QSqlQuery& run(const QString& statement);
-    QString first(const QString& statement);
+    void collect(const QString& statement, const std::function<void(const QSqlQuery&)>& take);
     int count(const char* table);
+    QString shownReason(const QString& reason) const;
     Failure failure(const QString& reason) const;
 
     QSqlDatabase m_database;

@@ -2,46 +2,61 @@
 // Copyright The VxPrinterStatus authors
 #include "commands.h"
 #include "failure.h"
-#include "text_layout.h"
+#include "tool_help.h"
 #include "tool_text.h"
 
 #include <QtCore/QCoreApplication>
 
 namespace {
 
-QString help()
+ToolHelp toolHelp()
 {
-    using text_layout::paragraph;
-    using text_layout::rows;
-    return ToolText::tr("Usage: %1").arg(QStringLiteral("vxipc [OPTION]... COMMAND\n\n")) +
-           paragraph(ToolText::tr("Calls the endpoints that run for this user.")) + u'\n' +
-           ToolText::tr("Commands:") + u'\n' +
-           rows({
-               {QStringLiteral("list"),
-                ToolText::tr("list the endpoints: name, service, process, application")},
-               {QStringLiteral("describe SERVICE"),
-                ToolText::tr("list the methods and signals of an endpoint")},
-               {QStringLiteral("call SERVICE METHOD [ARGUMENT]..."),
-                ToolText::tr("call a method and print its result")},
-               {QStringLiteral("watch SERVICE [SIGNAL]..."),
-                ToolText::tr("print a line of JSON for each emission of the signals, or of all "
-                             "signals, until interrupted")},
-           }) +
-           u'\n' +
-           paragraph(ToolText::tr(
-               "SERVICE is supplyd, m4, printqd, status, a number, or a name printed by "
-               "list. Arguments for text parameters are taken as they are, all "
-               "others are read as JSON.")) +
-           u'\n' + ToolText::tr("Options:") + u'\n' +
-           rows({
-               {QStringLiteral("--json"), ToolText::tr("print JSON")},
-               {QStringLiteral("--for SECONDS"), ToolText::tr("watch for SECONDS only")},
-               {QStringLiteral("--timeout MS"),
-                ToolText::tr("wait up to MS milliseconds for an endpoint (10000)")},
-               {QStringLiteral("--help"), ToolText::tr("print this help")},
-               {QStringLiteral("--"), ToolText::tr("what follows is not an option")},
-           }) +
-           u'\n' + paragraph(ToolText::exitStatusHelp());
+    const QString json = QStringLiteral("--json");
+    const QString watchTime = QStringLiteral("--for SECONDS");
+    const QString timeout = QStringLiteral("--timeout MS");
+    const QString end = QStringLiteral("--");
+    const QString service = ToolText::tr(
+        "SERVICE is supplyd, m4, printqd, status, a number, or a name printed by list.");
+    ToolHelp help;
+    help.tool = QStringLiteral("vxipc");
+    help.summary = ToolText::tr("Calls the endpoints that run for this user.");
+    help.commands = {
+        {QStringLiteral("list"),
+         {},
+         ToolText::tr("list the endpoints: name, service, process, application"),
+         {ToolText::tr(
+             "An endpoint that does not answer is listed too, with the reason in place of "
+             "its process.")},
+         {json, timeout}},
+        {QStringLiteral("describe"),
+         QStringLiteral("SERVICE"),
+         ToolText::tr("list the methods and signals of an endpoint"),
+         {service},
+         {json, timeout}},
+        {QStringLiteral("call"),
+         QStringLiteral("SERVICE METHOD [ARGUMENT]..."),
+         ToolText::tr("call a method and print its result"),
+         {service,
+          ToolText::tr(
+              "Arguments for text parameters are taken as they are, all others are read as "
+              "JSON. Of several methods of that name, the one whose parameters fit the "
+              "arguments is called.")},
+         {json, timeout, end}},
+        {QStringLiteral("watch"),
+         QStringLiteral("SERVICE [SIGNAL]..."),
+         ToolText::tr("print a line of JSON for each emission of the signals, or of all signals, "
+                      "until interrupted"),
+         {service, ToolText::tr("If the endpoint goes away, watch waits for it and goes on.")},
+         {watchTime, timeout}},
+    };
+    help.options = {
+        {json, ToolText::tr("print JSON")},
+        {watchTime, ToolText::tr("watch for SECONDS only")},
+        {timeout, ToolText::tr("wait up to MS milliseconds for an endpoint (10000)")},
+        {end, ToolText::tr("what follows is not an option")},
+    };
+    help.notes = {service};
+    return help;
 }
 
 std::chrono::milliseconds secondsOf(const QString& word)
@@ -59,17 +74,19 @@ void run(StandardOutput& output)
     const QStringList given = QCoreApplication::arguments().mid(1);
     QStringList words;
     Options options;
+    bool wantsHelp = false;
+    bool wantsVersion = false;
     for (qsizetype i = 0; i < given.size(); ++i) {
         const QString& word = given.at(i);
         if (word == QStringLiteral("--")) {
             words += given.mid(i + 1);
             break;
         }
-        if (word == QStringLiteral("--help")) {
-            output.write(help());
-            return;
-        }
-        if (word == QStringLiteral("--json")) {
+        if (word == QStringLiteral("--help") || word == QStringLiteral("-h")) {
+            wantsHelp = true;
+        } else if (word == QStringLiteral("--version")) {
+            wantsVersion = true;
+        } else if (word == QStringLiteral("--json")) {
             options.isJson = true;
         } else if (word == QStringLiteral("--timeout")) {
             bool ok = false;
@@ -85,7 +102,10 @@ void run(StandardOutput& output)
             words.append(word);
         }
     }
-    runCommand(words, options, output);
+    if (const std::optional<QString> answer = toolHelp().answer(words, wantsHelp, wantsVersion))
+        output.write(*answer);
+    else
+        runCommand(words, options, output);
 }
 
 } // namespace

@@ -18,11 +18,17 @@ class Backend : public QObject
     Q_OBJECT
 
 public:
-    /// Creates the backend that the command line asks for, or throws `Failure`.
-    static std::unique_ptr<Backend> create(const CommandLine& line);
+    /// Creates the backend that the command line asks for, or throws `Failure`. If the command line
+    /// names no fleet, it is that of the environment variable VX_VIRTUAL_FLEET, if this build has
+    /// virtual printers.
+    static std::unique_ptr<Backend> create(const CommandLine& line,
+                                           const QString& fleetOfEnvironment);
 
-    /// Starts the clock, and with it the story of virtual printers. `watchedPrinters` returns how
-    /// many printers are watched at that moment.
+    /// The supply database that came with the printers; empty if none did.
+    virtual QString catalogueFile() const { return {}; }
+
+    /// Starts to notice printers that come and go, or the clock and with it the story of virtual
+    /// printers. `watchedPrinters` returns how many printers are watched at that moment.
     virtual void start(const std::function<int()>& watchedPrinters) = 0;
 
     struct Job
@@ -38,7 +44,7 @@ public:
 Q_SIGNALS:
     /// Announces the next event of the story.
     void narrated(const QString& caption);
-    /// Printers may have been added.
+    /// Printers may have been added, removed or renamed, or there is another default printer.
     void printersMayHaveChanged();
 
 protected:

@@ -5,29 +5,51 @@
 #include "failure.h"
 #include "tool_text.h"
 
+#include <printer_discovery.h>
+
 #include <QtCore/QTimer>
 
 namespace {
 
-/// Windows notifies only programs with a window of new devices, so this backend polls for printers.
 class SystemBackend : public Backend
 {
 public:
-    SystemBackend() { connect(&m_clock, &QTimer::timeout, this, &Backend::printersMayHaveChanged); }
+    SystemBackend()
+    {
+        m_secondLook.setSingleShot(true);
+        connect(&m_secondLook, &QTimer::timeout, this, &Backend::printersMayHaveChanged);
+    }
 
     void start(const std::function<int()>& /*watchedPrinters*/) override
     {
-        m_clock.start(std::chrono::seconds(5));
+        using VxKit::PrinterDiscovery;
+        // Without a controller: the commands tell their own one to look for printers.
+        m_discovery.emplace(nullptr);
+        connect(&*m_discovery, &PrinterDiscovery::printersChanged, this, &SystemBackend::look);
+        connect(&*m_discovery, &PrinterDiscovery::defaultPrinterChanged, this,
+                &SystemBackend::look);
     }
     std::optional<Job> lastJob(const QString& /*printer*/) const override { return std::nullopt; }
 
 private:
-    QTimer m_clock;
+    /// The commands list the printers a moment after discovery. A printer that is added in that
+    /// moment and removed before discovery lists again would stay on the screen, so the commands
+    /// list them once more when discovery has listed them again.
+    void look()
+    {
+        constexpr auto longerThanBetweenListings = std::chrono::seconds(6);
+        Q_EMIT printersMayHaveChanged();
+        m_secondLook.start(longerThanBetweenListings);
+    }
+
+    std::optional<VxKit::PrinterDiscovery> m_discovery;
+    QTimer m_secondLook;
 };
 
 } // namespace
 
-std::unique_ptr<Backend> Backend::create(const CommandLine& line)
+std::unique_ptr<Backend> Backend::create(const CommandLine& line,
+                                         const QString& /*fleetOfEnvironment*/)
 {
     if (!line.fleetFile.isEmpty())
         throw wrongUsage(ToolText::tr("--virtual: this build uses the system's own print spooler"));

@@ -3,43 +3,43 @@
 #include "backend.h"
 
 #include "failure.h"
+#include "recorded_catalogue.h"
 
 #include "virtualwindows/fleet.h"
-
-#include <QtCore/QSettings>
-#include <QtCore/QTemporaryDir>
 
 namespace {
 
 using virtualwindows::Fleet;
 using virtualwindows::FleetError;
 using virtualwindows::Machine;
+using virtualwindows::RunningFleet;
 using virtualwindows::StoryPlayer;
 
 class VirtualBackend : public Backend
 {
 public:
-    VirtualBackend(const Fleet& fleet, double speed)
-        : m_player(Machine::instance(), fleet.story, speed)
-        , m_hasStory(!fleet.story.isEmpty())
+    VirtualBackend(const Fleet& fleet, const QString& fleetFile, double speed)
+        : m_fleet(fleet, speed)
     {
-        // The serial numbers of virtual printers must not end up in the user's own settings.
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
-        virtualwindows::populate(Machine::instance(), fleet);
-        connect(&m_player, &StoryPlayer::narrated, this, &Backend::narrated);
-        connect(&m_player, &StoryPlayer::happened, this, &Backend::printersMayHaveChanged);
+        if (fleet.catalogue)
+            m_catalogue.emplace(*fleet.catalogue, fleetFile);
+        const StoryPlayer& player = m_fleet.player();
+        connect(&player, &StoryPlayer::narrated, this, &Backend::narrated);
+        connect(&player, &StoryPlayer::happened, this, &Backend::printersMayHaveChanged);
     }
+
+    QString catalogueFile() const override { return m_catalogue ? m_catalogue->file() : QString(); }
 
     void start(const std::function<int()>& watchedPrinters) override
     {
-        m_player.setWatchingThreads(watchedPrinters);
-        if (m_hasStory)
-            m_player.start();
+        m_fleet.player().setWatchingThreads(watchedPrinters);
+        m_fleet.start();
     }
 
     std::optional<Job> lastJob(const QString& printer) const override
     {
-        const QList<virtualwindows::PrintJob> jobs = Machine::instance().jobs(printer);
+        QList<virtualwindows::PrintJob> jobs = Machine::instance().jobs(printer);
+        jobs.removeIf([](const virtualwindows::PrintJob& job) { return job.isSet; });
         if (jobs.isEmpty())
             return std::nullopt;
         const virtualwindows::PrintJob& job = jobs.last();
@@ -47,17 +47,15 @@ public:
     }
 
 private:
-    QTemporaryDir m_settings;
-    StoryPlayer m_player;
-    bool m_hasStory;
+    std::optional<RecordedCatalogue> m_catalogue;
+    RunningFleet m_fleet;
 };
 
 Fleet fleetOf(const QString& fileName)
 {
-    if (fileName.isEmpty())
-        return virtualwindows::builtInFleet();
     try {
-        return virtualwindows::readFleet(fileName);
+        return fileName.isEmpty() ? virtualwindows::builtInFleet()
+                                  : virtualwindows::fleetNamed(fileName);
     } catch (const FleetError& error) {
         throw Failure(error.message());
     }
@@ -65,7 +63,8 @@ Fleet fleetOf(const QString& fileName)
 
 } // namespace
 
-std::unique_ptr<Backend> Backend::create(const CommandLine& line)
+std::unique_ptr<Backend> Backend::create(const CommandLine& line, const QString& fleetOfEnvironment)
 {
-    return std::make_unique<VirtualBackend>(fleetOf(line.fleetFile), line.speed);
+    const QString& file = line.fleetFile.isEmpty() ? fleetOfEnvironment : line.fleetFile;
+    return std::make_unique<VirtualBackend>(fleetOf(file), file, line.speed);
 }

@@ -32,16 +32,100 @@ constexpr Option forOption{
     QT_TRANSLATE_NOOP("tools", "watch: stop after SECONDS; by default, when interrupted"),
     CommandOption::For};
 constexpr Option logOption{"log", "FILE",
-                           QT_TRANSLATE_NOOP("tools", "append the library's log to FILE")};
+                           QT_TRANSLATE_NOOP("tools", "watch: append what happens to FILE as well"),
+                           CommandOption::Events};
+constexpr Option historyOption{
+    "history", "",
+    QT_TRANSLATE_NOOP("tools", "watch: also record what is used, in the user's history or --file"),
+    CommandOption::Events};
+constexpr Option fileOption{
+    "file", "FILE",
+    QT_TRANSLATE_NOOP("tools",
+                      "history, forecast, watch --history: FILE in place of the user's history"),
+    CommandOption::HistoryFile};
+constexpr Option csvOption{
+    "csv", "", QT_TRANSLATE_NOOP("tools", "history: print a table for spreadsheets (CSV)"),
+    CommandOption::History};
+constexpr Option warnBelowOption{
+    "warn-below", "LABELS",
+    QT_TRANSLATE_NOOP("tools", "watch, forecast: warn when fewer LABELS are left on a roll; watch: "
+                               "100 by default, 0 for never"),
+    CommandOption::Warnings};
+constexpr Option jobOption{
+    "job", "LABELS",
+    QT_TRANSLATE_NOOP("tools",
+                      "watch, forecast: warn of rolls that have fewer LABELS than a job needs"),
+    CommandOption::Warnings};
+constexpr Option shiftEndOption{
+    "shift-end", "TIMES",
+    QT_TRANSLATE_NOOP("tools", "watch, forecast: warn of what will probably end before the shift "
+                               "does; TIMES such as 14:00,22:00"),
+    CommandOption::Warnings};
+constexpr Option relativeOption{
+    "relative", "",
+    QT_TRANSLATE_NOOP("tools", "watch: print seconds since the start, not the time of day"),
+    CommandOption::Events};
+constexpr Option verboseOption{"verbose", "",
+                               QT_TRANSLATE_NOOP("tools", "watch: print every change of a level"),
+                               CommandOption::Events};
+constexpr Option signalsOption{
+    "signals", "",
+    QT_TRANSLATE_NOOP("tools", "watch --json: print the signals that a host receives"),
+    CommandOption::Events};
+constexpr Option catalogueOption{
+    "catalogue", "FILE",
+    QT_TRANSLATE_NOOP("tools", "take the names of supplies and ribbons from FILE")};
+constexpr Option libraryLogOption{"library-log", "FILE",
+                                  QT_TRANSLATE_NOOP("tools", "append the library's log to FILE")};
 constexpr Option virtualOption{
-    "virtual", "FILE", QT_TRANSLATE_NOOP("tools", "use the virtual printers that FILE describes")};
+    "virtual", "FILE",
+    QT_TRANSLATE_NOOP("tools",
+                      "use the virtual printers that FILE describes, or those of \"built-in\"")};
 constexpr Option speedOption{
     "speed", "FACTOR",
     QT_TRANSLATE_NOOP("tools", "watch: speed up the virtual printers' story by FACTOR"),
     CommandOption::Speed};
+constexpr Option brokerOption{
+    "broker", "URL",
+    QT_TRANSLATE_NOOP("tools", "top: show what agents publish on the broker at URL, such as "
+                               "mqtts://broker.example/SITE; without SITE, all sites"),
+    CommandOption::Site};
+constexpr Option brokerConfigOption{
+    "broker-config", "FILE",
+    QT_TRANSLATE_NOOP("tools", "top: take the broker, the user and the certificates from FILE, "
+                               "which is like an agent's configuration"),
+    CommandOption::Site};
 constexpr Option allOption{
     "all", "", QT_TRANSLATE_NOOP("tools", "title: all codes, with what they mean and what to do"),
     CommandOption::All};
+constexpr Option printerOption{
+    "printer", "NAME",
+    QT_TRANSLATE_NOOP("tools", "log: only events of the printer NAME and of the spooler"),
+    CommandOption::Filter};
+constexpr Option sinceOption{
+    "since", "TIME",
+    QT_TRANSLATE_NOOP("tools",
+                      "log: only events since TIME: 2026-11-22, 2026-11-22T10:30, 10:30 (today), "
+                      "or 30m, 2h or 7d ago"),
+    CommandOption::Filter};
+constexpr Option severityOption{
+    "severity", "LEVEL",
+    QT_TRANSLATE_NOOP("tools",
+                      "log: only events that are ok, information, warning or error, or worse"),
+    CommandOption::Filter};
+constexpr Option findingsOption{
+    "findings", "FILE",
+    QT_TRANSLATE_NOOP("tools", "case explain: recognise what the table FILE describes as well"),
+    CommandOption::Findings};
+constexpr Option limitOption{
+    "limit", "SIZE",
+    QT_TRANSLATE_NOOP("tools", "record: keep the file below SIZE, such as 64M; then it keeps the "
+                               "beginning and the latest"),
+    CommandOption::Record};
+constexpr Option plainOption{
+    "plain", "",
+    QT_TRANSLATE_NOOP("tools", "record: keep names, serial numbers and addresses as they are"),
+    CommandOption::Record};
 constexpr Option waitOption{
     "wait", "",
     QT_TRANSLATE_NOOP("tools", "send: wait until the job was printed or has left the queue"),
@@ -50,46 +134,92 @@ constexpr Option forceOption{
     "force", "",
     QT_TRANSLATE_NOOP("tools", "send: also to a printer of another maker, also nothing"),
     CommandOption::Force};
-constexpr Option helpOption{"help", "", QT_TRANSLATE_NOOP("tools", "print this help")};
+constexpr Option helpOption{"help", "",
+                            QT_TRANSLATE_NOOP("tools", "print this help, or that of a command")};
 constexpr Option versionOption{"version", "", QT_TRANSLATE_NOOP("tools", "print the version")};
 
-constexpr std::array options{jsonOption, forOption,  logOption,   virtualOption, speedOption,
-                             allOption,  waitOption, forceOption, helpOption,    versionOption};
+constexpr std::array options{
+    jsonOption,         forOption,        relativeOption, verboseOption,   signalsOption,
+    logOption,          historyOption,    fileOption,     warnBelowOption, jobOption,
+    shiftEndOption,     csvOption,        virtualOption,  speedOption,     brokerOption,
+    brokerConfigOption, allOption,        waitOption,     forceOption,     printerOption,
+    sinceOption,        severityOption,   findingsOption, limitOption,     plainOption,
+    catalogueOption,    libraryLogOption, helpOption,     versionOption};
+
+QString usage(const char* words)
+{
+    return ToolText::tr("Usage: %1").arg(QStringLiteral("vxprintmon ") + QLatin1String(words)) +
+           QLatin1Char('\n');
+}
+
+bool isValidWith(const Option& option, const Command& command)
+{
+    return (command.options & option.required) == option.required;
+}
+
+/// The options that are valid with a command, or all of them.
+QString optionRows(const Command* command)
+{
+    QList<text_layout::Row> rows;
+    for (const Option& option : options) {
+        if (command && !isValidWith(option, *command))
+            continue;
+        const QString name =
+            QStringLiteral("--%1 %2").arg(QLatin1String(option.name), QLatin1String(option.value));
+        const bool isHelp = option.name == helpOption.name;
+        rows.append({isHelp ? QStringLiteral("-h, ") + name : name, ToolText::tr(option.summary)});
+    }
+    return ToolText::tr("Options:") + QLatin1Char('\n') + text_layout::rows(rows);
+}
+
+QString nameWithArguments(const Command& command)
+{
+    return QStringLiteral("%1 %2").arg(QLatin1String(command.name),
+                                       QLatin1String(command.arguments));
+}
 
 QString help()
 {
     using text_layout::paragraph;
     QList<text_layout::Row> commandRows;
     for (const Command& command : commands())
-        commandRows.append({QStringLiteral("%1 %2").arg(QString::fromLatin1(command.name),
-                                                        QString::fromLatin1(command.arguments)),
-                            ToolText::tr(command.summary)});
-    QList<text_layout::Row> optionRows;
-    for (const Option& option : options)
-        optionRows.append({QStringLiteral("--%1 %2").arg(QString::fromLatin1(option.name),
-                                                         QString::fromLatin1(option.value)),
-                           ToolText::tr(option.summary)});
+        commandRows.append({nameWithArguments(command), ToolText::tr(command.summary)});
+    commandRows.append(
+        {QStringLiteral("help [COMMAND]"), ToolText::tr("print this help, or that of a command")});
     const QChar newLine = u'\n';
-    return ToolText::tr("Usage: %1").arg(QStringLiteral("vxprintmon COMMAND [OPTION]...")) +
-           newLine + newLine +
+    return usage("COMMAND [OPTION]...") + newLine +
            paragraph(ToolText::tr("Lists and watches the label printers of the print spooler.")) +
            newLine + ToolText::tr("Commands:") + newLine + text_layout::rows(commandRows) +
-           newLine + ToolText::tr("Options:") + newLine + text_layout::rows(optionRows) + newLine +
+           newLine + optionRows(nullptr) + newLine +
            paragraph(ToolText::tr(
-               "status waits until every printer that it shows has reported and 0.1 seconds have "
-               "passed without another report, but no longer than 2 seconds. It then spends up to "
-               "half a second more on reports that have arrived by that time.")) +
+               "The names of colours and materials come from the file roll.db beside this program, "
+               "unless --catalogue or the environment variable VX_ROLL_DB names another file. Only "
+               "the Windows build sees the printers of the system; any other build has virtual "
+               "printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a "
+               "built-in "
+               "fleet of six.")) +
            newLine +
            paragraph(ToolText::tr(
-               "The names of colours and materials come from the file roll.db beside this program. "
-               "Only the Windows build sees the printers of the system; any other build has "
-               "virtual "
-               "printers only, by default a fleet of six.")) +
-           newLine +
-           paragraph(ToolText::tr(
-               "Colours are omitted if the output is not a terminal or NO_COLOR is set. Characters "
-               "that could control the terminal are shown as \\u001b and the like.")) +
+               "Tables fit the terminal, the width that COLUMNS names, or 80 columns; what is cut "
+               "short ends with an ellipsis. Colours are omitted if the output is not a terminal "
+               "or "
+               "NO_COLOR is set. Characters that could control the terminal are shown as \\u001b "
+               "and "
+               "the like.")) +
            newLine + paragraph(ToolText::exitStatusHelp());
+}
+
+QString help(const Command& command)
+{
+    using text_layout::paragraph;
+    const QChar newLine = u'\n';
+    QString text = usage((nameWithArguments(command).trimmed() + QStringLiteral(" [OPTION]..."))
+                             .toLatin1()
+                             .constData()) +
+                   newLine + paragraph(ToolText::tr(command.summary));
+    if (command.details)
+        text += newLine + paragraph(ToolText::tr(command.details));
+    return text + newLine + optionRows(&command);
 }
 
 /// The names of the commands that accept all of `required`.
@@ -120,9 +250,12 @@ class GivenOptions
 public:
     explicit GivenOptions(const QStringList& arguments)
     {
-        for (const Option& option : options)
-            m_parser.addOption(QCommandLineOption(QString::fromLatin1(option.name), {},
-                                                  QString::fromLatin1(option.value)));
+        for (const Option& option : options) {
+            QStringList names{QString::fromLatin1(option.name)};
+            if (option.name == helpOption.name)
+                names.append(QStringLiteral("h"));
+            m_parser.addOption(QCommandLineOption(names, {}, QString::fromLatin1(option.value)));
+        }
         if (!m_parser.parse(withCodeLast(arguments))) {
             const QString error = m_parser.errorText();
             const bool isSentence =
@@ -136,9 +269,20 @@ public:
     {
         return m_parser.isSet(QString::fromLatin1(option.name));
     }
+    QString text(const Option& option) const
+    {
+        return m_parser.value(QString::fromLatin1(option.name));
+    }
+    QString value(const Option& option) const
+    {
+        if (has(option) && text(option).isEmpty())
+            throw wrongUsage(
+                ToolText::tr("--%1: expected a value").arg(QString::fromLatin1(option.name)));
+        return text(option);
+    }
     QString fileName(const Option& option) const
     {
-        const QString name = m_parser.value(QString::fromLatin1(option.name));
+        const QString name = text(option);
         if (has(option) && name.isEmpty())
             throw wrongUsage(
                 ToolText::tr("--%1: expected a file name").arg(QString::fromLatin1(option.name)));
@@ -158,6 +302,32 @@ public:
                 ToolText::tr("--%1: expected a number above 0 and up to 1000000, found \"%2\"")
                     .arg(QString::fromLatin1(option.name), text));
         return number;
+    }
+    std::optional<int> wholeNumber(const Option& option, int least) const
+    {
+        if (!has(option))
+            return std::nullopt;
+        bool isNumber = false;
+        const int number = text(option).toInt(&isNumber);
+        if (!isNumber || number < least)
+            throw wrongUsage(
+                ToolText::tr("--%1: expected a whole number from %2 to 2147483647, found \"%3\"")
+                    .arg(QString::fromLatin1(option.name), QString::number(least), text(option)));
+        return number;
+    }
+    QList<QTime> timesOfDay(const Option& option) const
+    {
+        QList<QTime> times;
+        const QStringList texts =
+            has(option) ? text(option).split(QLatin1Char(',')) : QStringList();
+        for (const QString& text : texts) {
+            times.append(QTime::fromString(text.trimmed(), QStringLiteral("H:mm")));
+            if (!times.last().isValid())
+                throw wrongUsage(
+                    ToolText::tr("--%1: expected times such as 14:00,22:00, found \"%2\"")
+                        .arg(QString::fromLatin1(option.name), text));
+        }
+        return times;
     }
 
 private:
@@ -194,17 +364,24 @@ CommandLine parseCommandLine(const QStringList& arguments)
 {
     const GivenOptions given(arguments);
     CommandLine line;
-    if (given.has(helpOption)) {
-        line.information = help();
-        return line;
-    }
     if (given.has(versionOption)) {
         line.information =
             QStringLiteral("vxprintmon %1\n").arg(QCoreApplication::applicationVersion());
         return line;
     }
-
     line.arguments = given.words();
+    const bool isHelp = line.arguments.value(0) == QLatin1String("help");
+    if (isHelp)
+        line.arguments.removeFirst();
+    if (isHelp && line.arguments.size() > 1)
+        throw wrongUsage(ToolText::tr("help takes at most one command, found \"%1\"")
+                             .arg(line.arguments.join(QStringLiteral("\" \""))));
+    if (isHelp || given.has(helpOption)) {
+        line.information =
+            line.arguments.isEmpty() ? help() : help(commandNamed(line.arguments.first()));
+        return line;
+    }
+
     if (line.arguments.isEmpty())
         throw wrongUsage(ToolText::tr("expected a command: %1").arg(commandNames()));
     const Command& command = commandNamed(line.arguments.takeFirst());
@@ -212,10 +389,14 @@ CommandLine parseCommandLine(const QStringList& arguments)
     line.command = &command;
 
     line.json = given.has(jsonOption);
-    line.logFile = given.fileName(logOption);
+    line.libraryLogFile = given.fileName(libraryLogOption);
+    line.eventLogFile = given.fileName(logOption);
     line.fleetFile = given.fileName(virtualOption);
+    line.catalogueFile = given.fileName(catalogueOption);
+    line.broker = given.value(brokerOption);
+    line.brokerConfigFile = given.fileName(brokerConfigOption);
     for (const Option& option : options) {
-        if (given.has(option) && (command.options & option.required) != option.required)
+        if (given.has(option) && !isValidWith(option, command))
             throw wrongUsage(
                 ToolText::tr("--%1 is valid only with %2")
                     .arg(QString::fromLatin1(option.name), commandNames(option.required)));
@@ -225,6 +406,21 @@ CommandLine parseCommandLine(const QStringList& arguments)
     line.seconds = given.positiveNumber(forOption);
     line.speed = given.positiveNumber(speedOption).value_or(line.speed);
     line.all = given.has(allOption);
+    line.history = given.has(historyOption);
+    line.csv = given.has(csvOption);
+    line.historyFile = given.fileName(fileOption);
+    line.warnBelow = given.wholeNumber(warnBelowOption, 0);
+    line.job = given.wholeNumber(jobOption, 1);
+    line.shiftEnds = given.timesOfDay(shiftEndOption);
+    line.relative = given.has(relativeOption);
+    line.verbose = given.has(verboseOption);
+    line.watchSignals = given.has(signalsOption);
+    line.printer = given.text(printerOption);
+    line.since = given.text(sinceOption);
+    line.severity = given.text(severityOption);
+    line.limit = given.text(limitOption);
+    line.plain = given.has(plainOption);
+    line.findingsFile = given.fileName(findingsOption);
     if (command.check)
         command.check(line);
     return line;

@@ -89,11 +89,16 @@ void runList(const CommandLine& line, Output& output, Backend& /*backend*/)
             {modelName(type), isSupported ? Colour::None : Colour::Faint},
             {printer.portName},
             {isSupported && !printer.isNetworkPrinter ? printer.serialNumber : QStringLiteral("-")},
-            {printer.driverName},
             flags(printer, printer.printerName == defaultPrinter),
+            {printer.driverName},
         });
     }
-    output.table({ToolText::tr("PRINTER"), ToolText::tr("MODEL"), ToolText::tr("PORT"),
-                  ToolText::tr("SERIAL"), ToolText::tr("DRIVER"), ToolText::tr("FLAGS")},
+    using Width = Column::Width;
+    output.table({{ToolText::tr("PRINTER"), Width::Shrinks, 5, 10},
+                  {ToolText::tr("MODEL"), Width::Fixed},
+                  {ToolText::tr("PORT"), Width::Shrinks, 2, 8},
+                  {ToolText::tr("SERIAL"), Width::Shrinks, 4, 8},
+                  {ToolText::tr("FLAGS"), Width::Wraps, 3, 12},
+                  {ToolText::tr("DRIVER"), Width::Wraps, 1, 8}},
                  rows);
 }

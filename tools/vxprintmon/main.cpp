@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 #include "backend.h"
+#include "catalogue_file.h"
 #include "command_line.h"
 #include "commands.h"
 #include "failure.h"
@@ -12,15 +13,22 @@
 
 namespace {
 
-void run(Output& output)
+void run(Output& output, const QString& fleetOfEnvironment)
 {
-    const CommandLine line = parseCommandLine(QCoreApplication::arguments());
+    CommandLine line = parseCommandLine(QCoreApplication::arguments());
     if (!line.command) {
         output.text(line.information);
         return;
     }
-    setUpLibraryLog(line.logFile);
-    const std::unique_ptr<Backend> backend = Backend::create(line);
+    setUpLibraryLog(line.libraryLogFile);
+    if (line.isOfSite()) {
+        runTopOfSite(line, output);
+        return;
+    }
+    const std::unique_ptr<Backend> backend = Backend::create(line, fleetOfEnvironment);
+    // What was recorded with the printers suits them better than what is beside the program.
+    if (catalogue_file::named(line).isEmpty())
+        line.catalogueFile = backend->catalogueFile();
     line.command->run(line, output, *backend);
 }
 
@@ -29,8 +37,9 @@ void run(Output& output)
 int main(int argc, char* argv[])
 {
     StandardOutput standardOutput("vxprintmon");
-    // The monitor chooses its printers by its arguments. The library would add the fleet that this
-    // variable sets up for hosts.
+    // The monitor plays the story of a fleet itself. The library would add the fleet that this
+    // variable names once more, as it does for hosts.
+    const QString fleetOfEnvironment = qEnvironmentVariable("VX_VIRTUAL_FLEET");
     qunsetenv("VX_VIRTUAL_FLEET");
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vxprintmon"));
@@ -39,6 +48,6 @@ int main(int argc, char* argv[])
 
     return runTool(standardOutput, [&] {
         Output output(standardOutput);
-        run(output);
+        run(output, fleetOfEnvironment);
     });
 }

@@ -2,8 +2,6 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
-#include "output.h"
-
 #include "printer_status_controller.h"
 
 #include <QtCore/QHash>
@@ -11,21 +9,16 @@
 #include <functional>
 #include <utility>
 
-/// The status records of the label printers, as JSON and as text.
+/// The status records of the label printers, as JSON.
 namespace records {
 
 using Record = PrinterStatusInformation;
-using TitleOf = QString (*)(int statusCode);
 
 QList<Record> of(const PrinterStatusController& controller);
 /// Whether the library monitors the printer. Printers that it does not monitor are only listed.
 bool isWatched(const Record& record);
-
-/// The title of a status code in short.
-QString titleOf(int statusCode);
-/// The same, but only "not known" for an unknown status, as that of a printer that has not reported
-/// yet.
-QString titleOrNotKnown(int statusCode);
+/// How many printers the library monitors.
+int watchedPrinters(const PrinterStatusController& controller);
 
 /// Whether two records are equal in every property.
 bool areSame(const Record& left, const Record& right);
@@ -52,15 +45,5 @@ private:
     std::function<QString(const Record&)> m_textOf;
     QHash<QString, Entry> m_entries;
 };
-
-/// Prints one line for each record.
-void printTable(Output& output, const QList<Record>& all, const QString& activePrinter,
-                TitleOf titleOf);
-/// Prints one line for each detail of the record.
-void printDetails(Output& output, const Record& record, const QString& activePrinter,
-                  TitleOf titleOf);
-
-/// The differences as text. Empty if there are none.
-QList<Cell> difference(const Record& before, const Record& after, TitleOf titleOf);
 
 } // namespace records

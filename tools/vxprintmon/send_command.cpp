@@ -7,6 +7,7 @@
 #include "interrupt_handler.h"
 #include "json_text.h"
 #include "output.h"
+#include "printer_names.h"
 
 #include "printer_command.h"
 #include "tool_text.h"
@@ -110,6 +111,10 @@ JobState follow(const QFuture<JobState>& future, Report report)
 
 [[noreturn]] void refuse(const CommandResult& result)
 {
+    if (result.failure == CommandResult::Failure::CannotOpenPrinter) {
+        if (const auto missing = printer_names::missing(result.printerName))
+            throw Failure(*missing);
+    }
     QString why = result.errorText;
     if (result.failure == CommandResult::Failure::ForeignPrinter ||
         result.failure == CommandResult::Failure::Empty)
@@ -121,7 +126,7 @@ JobState follow(const QFuture<JobState>& future, Report report)
 
 void runSend(const CommandLine& line, Output& output, Backend& backend)
 {
-    const QString& printer = line.arguments.at(0);
+    const QString printer = printer_names::asListed(line.arguments.at(0));
     const QString& command = line.arguments.at(1);
     if (line.wait)
         backend.start([] { return 0; });

@@ -2,12 +2,20 @@
 // Copyright The VxPrinterStatus authors
 #include "commands.h"
 
+#include "catalogue_file.h"
 #include "command_line.h"
 #include "failure.h"
+#include "forecast_words.h"
+#include "history_command.h"
 #include "json_text.h"
+#include "printer_names.h"
 #include "records.h"
+#include "status_screen.h"
 #include "stop_condition.h"
 #include "tool_text.h"
+
+#include <printer_forecasts.h>
+#include <printer_readings.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>
@@ -18,15 +26,14 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// The records of all label printers, or only that of the named one, if there is such a record.
-QList<records::Record> selectedRecords(const CommandLine& line,
+/// The records of all label printers, or only that of the named one.
+QList<records::Record> selectedRecords(const QString& printer,
                                        const PrinterStatusController& controller)
 {
     QList<records::Record> found = records::of(controller);
-    if (!line.arguments.isEmpty())
-        found.removeIf([&](const records::Record& record) {
-            return record.printerName != line.arguments.first();
-        });
+    if (!printer.isNull())
+        found.removeIf(
+            [&](const records::Record& record) { return record.printerName != printer; });
     return found;
 }
 
@@ -71,29 +78,39 @@ bool waitForFirstReports(PrinterStatusController& controller, const Output& outp
     return !stop.isInterrupted();
 }
 
+/// Prints the records, which hold what the printers have reported since the controller exists.
+void printJson(PrinterStatusController& controller, Output& output, const QString& printer)
+{
+    if (!waitForFirstReports(controller, output, selectedRecords(printer, controller)))
+        throw Failure(ToolText::tr("interrupted"));
+    QStringList texts;
+    for (const records::Record& record : selectedRecords(printer, controller))
+        texts.append(records::json(record));
+    output.text(json_text::lines(texts));
+}
+
 } // namespace
 
 void runStatus(const CommandLine& line, Output& output, Backend& /*backend*/)
 {
     PrinterStatusController controller;
+    catalogue_file::use(line, controller, output);
     const bool isOne = !line.arguments.isEmpty();
-    if (isOne && selectedRecords(line, controller).isEmpty())
-        throw Failure(ToolText::tr("there is no record of a printer \"%1\"; \"vxprintmon "
-                                   "status\" shows the printers that have one")
-                          .arg(line.arguments.first()));
-    if (!waitForFirstReports(controller, output, selectedRecords(line, controller)))
-        throw Failure(ToolText::tr("interrupted"));
-
-    const QList<records::Record> shown = selectedRecords(line, controller);
-    if (line.json) {
-        QStringList texts;
-        for (const records::Record& record : shown)
-            texts.append(records::json(record));
-        output.text(json_text::lines(texts));
-    } else if (isOne) {
-        records::printDetails(output, shown.first(), controller.activeDefaultPrinter(),
-                              records::titleOf);
-    } else {
-        records::printTable(output, shown, controller.activeDefaultPrinter(), records::titleOf);
+    // The records of all printers need no readings.
+    std::optional<VxKit::PrinterReadings> readings;
+    if (isOne || !line.json)
+        readings.emplace(&controller);
+    const QString printer =
+        isOne ? printer_names::withRecord(line.arguments.first(), *readings) : QString();
+    std::optional<VxKit::PrinterForecasts> forecasts;
+    if (!line.json) {
+        forecasts.emplace(&*readings);
+        forecast_words::learn(*forecasts, historyFile(line), &output);
     }
+    if (line.json)
+        printJson(controller, output, printer);
+    else if (isOne)
+        status_screen::printDetails(output, readings->reading(printer));
+    else
+        status_screen::printTable(output, readings->readings(), readings->activePrinter());
 }

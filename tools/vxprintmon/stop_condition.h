@@ -8,10 +8,10 @@
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QTimer>
 
-/// When to stop listening to a controller: when the time is up, when the user interrupts the
-/// program, or when writing is pointless.
+/// When to stop listening to a controller and what depends on it: when the time is up, when the
+/// user interrupts the program, or when writing is pointless.
 ///
-/// From then on no report reaches the controller. Without this, thousands of printers could keep
+/// From then on no report reaches them. Without this, thousands of printers could keep
 /// the program busy for minutes: an event loop delivers everything that is queued before it looks
 /// at its timers.
 class StopCondition : public QObject
@@ -21,6 +21,8 @@ class StopCondition : public QObject
 public:
     StopCondition(QObject& controller, const Output& output);
 
+    /// Keeps reports from another object as well.
+    void alsoStop(QObject& receiver) { receiver.installEventFilter(this); }
     void setTimeLimit(std::chrono::milliseconds fromNow);
     bool isMet();
     bool isInterrupted() const { return m_interruptHandler.wasInterrupted(); }

@@ -7,6 +7,9 @@ namespace terminal {
 
 /// Whether standard output is a terminal that shows colours. Turns them on where that is needed.
 bool takesColours();
-/// Switches the terminal to UTF-8 while the program runs, where that is needed.
+/// Whether every terminal of this system shows all colours, so that none has to announce it.
+bool alwaysShowsAllColours();
+/// The columns of the terminal; 0 when standard output is none, or they are not known.
+int columns();
 
 } // namespace terminal

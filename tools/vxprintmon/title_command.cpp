@@ -5,12 +5,12 @@
 #include "failure.h"
 #include "json_text.h"
 #include "output.h"
+#include "printer_words.h"
 #include "text_layout.h"
 #include "tool_text.h"
 
 #include <status_info.h>
 
-using VxKit::Severity;
 using VxKit::StatusInfo;
 
 namespace {
@@ -41,21 +41,6 @@ QString json(const StatusInfo& info)
     });
 }
 
-Colour colourOf(Severity severity)
-{
-    switch (severity) {
-    case Severity::Ok:
-        return Colour::Good;
-    case Severity::Information:
-        return Colour::Faint;
-    case Severity::Warning:
-        return Colour::Notice;
-    case Severity::Error:
-        return Colour::Bad;
-    }
-    return Colour::Bad;
-}
-
 void print(Output& output, const StatusInfo& info)
 {
     constexpr int codeWidth = 3;
@@ -63,7 +48,7 @@ void print(Output& output, const StatusInfo& info)
     output.line({{QStringLiteral("%1  ").arg(info.code, codeWidth)},
                  {info.shortTitle, Colour::Heading},
                  {QStringLiteral(" (%1)").arg(VxKit::severityName(info.severity)),
-                  colourOf(info.severity)}});
+                  printer_words::colourOf(info.severity)}});
     output.text(text_layout::paragraph(info.explanation, indent) +
                 text_layout::paragraph(ToolText::tr("What to do: %1").arg(info.remedy), indent));
 }

@@ -19,14 +19,21 @@ void replaceFile(const QString& path, const QByteArray& bytes)
 {
     requireFileOrNothing(path);
     QSaveFile target(path); // writes a file beside the path and renames it
-    bool isDone = target.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    const bool isDone = target.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+                        writeAll(target, bytes) && target.commit();
+    if (!isDone)
+        throw Failure(QStringLiteral("%1: %2").arg(path, target.errorString()));
+}
+
+bool writeAll(QFileDevice& file, const QByteArray& bytes)
+{
     // If the disk fills up, one call writes only part of the bytes without an error, and the next
     // call fails and says why.
-    for (qsizetype written = 0; isDone && written < bytes.size();) {
-        const qint64 size = target.write(bytes.constData() + written, bytes.size() - written);
-        isDone = size > 0;
+    for (qsizetype written = 0; written < bytes.size();) {
+        const qint64 size = file.write(bytes.constData() + written, bytes.size() - written);
+        if (size <= 0)
+            return false;
         written += size;
     }
-    if (!isDone || !target.commit())
-        throw Failure(QStringLiteral("%1: %2").arg(path, target.errorString()));
+    return true;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QtCore/QByteArray>
+#include <QtCore/QFileDevice>
 #include <QtCore/QString>
 
 /// Replaces the content of a file atomically: the path always has either the complete old file or
@@ -12,3 +13,6 @@ void replaceFile(const QString& path, const QByteArray& bytes);
 
 /// Throws a Failure if the path exists and is not a regular file.
 void requireFileOrNothing(const QString& path);
+
+/// Writes all bytes to a file that was opened without a buffer. If that fails, the file says why.
+bool writeAll(QFileDevice& file, const QByteArray& bytes);
