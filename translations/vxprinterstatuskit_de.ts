@@ -113,6 +113,259 @@
     </message>
 </context>
 <context>
+    <name>VxKit::CaseFile</name>
+    <message>
+        <source>%1: line %2: %3</source>
+        <extracomment>%1 is a file, %2 the number of a line in it, %3 what is wrong.</extracomment>
+        <translation>%1: Zeile %2: %3</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>sie ist länger als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 bytes</source>
+        <translation>die Datei ist größer als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>the member &quot;kind&quot; is missing</source>
+        <translation>das Element &quot;kind&quot; fehlt</translation>
+    </message>
+    <message>
+        <source>it is not a JSON object</source>
+        <translation>sie ist kein JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>there is a line behind the end of the case</source>
+        <translation>hinter dem Ende des Falls steht noch eine Zeile</translation>
+    </message>
+    <message>
+        <source>&quot;t&quot; is not a number of seconds since the start</source>
+        <translation>&quot;t&quot; ist keine Zahl von Sekunden seit dem Beginn</translation>
+    </message>
+    <message>
+        <source>this is not a case file</source>
+        <translation>das ist keine Falldatei</translation>
+    </message>
+    <message>
+        <source>the case file has version %1, but this program reads version %2</source>
+        <translation>die Falldatei hat Version %1, dieses Programm liest aber Version %2</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::CaseRecorder</name>
+    <message>
+        <source>nothing is kept in memory</source>
+        <translation>es wird nichts im Speicher gehalten</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::Preflight</name>
+    <message>
+        <source>%1 to %2</source>
+        <extracomment>Numbers of labels</extracomment>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing is loaded, the job needs %2.</source>
+        <extracomment>%1 is a place of the printer, such as &quot;Ribbon 1&quot;. This holds for all texts that begin with it.</extracomment>
+        <translation>%1: es ist nichts eingelegt, der Auftrag benötigt %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2 is loaded, the job needs %3.</source>
+        <translation>%1: eingelegt ist %2, der Auftrag benötigt %3.</translation>
+    </message>
+    <message>
+        <source>The job needs the ribbon %1 as well, but the printer has no place for it.</source>
+        <translation>Der Auftrag benötigt auch das Farbband %1, aber der Drucker hat keinen Platz dafür.</translation>
+    </message>
+    <message>
+        <source>No ribbon is loaded.</source>
+        <translation>Es ist kein Farbband eingelegt.</translation>
+    </message>
+    <message>
+        <source>The ribbon %1 does not suit the supply %2: the catalogue has no print settings for the two.</source>
+        <translation>Das Farbband %1 passt nicht zu den Etiketten %2: der Katalog hat keine Druckeinstellungen für die beiden.</translation>
+    </message>
+    <message>
+        <source>%1: not enough. Labels left: %2, needed: %3, missing: %4.</source>
+        <translation>%1: zu wenig. Verbleibende Etiketten: %2, benötigt: %3, es fehlen: %4.</translation>
+    </message>
+    <message>
+        <source>%1: not enough. Labels left: %2, needed: %3, missing: at least %4.</source>
+        <translation>%1: zu wenig. Verbleibende Etiketten: %2, benötigt: %3, es fehlen: mindestens %4.</translation>
+    </message>
+    <message>
+        <source>There is no label printer &quot;%1&quot;.</source>
+        <translation>Es gibt keinen Etikettendrucker „%1“.</translation>
+    </message>
+    <message>
+        <source>It is not known what is loaded, because the printer is not watched.</source>
+        <translation>Es ist nicht bekannt, was eingelegt ist, weil der Drucker nicht überwacht wird.</translation>
+    </message>
+    <message>
+        <source>It is not known what is loaded, because the printer has not reported anything yet.</source>
+        <translation>Es ist nicht bekannt, was eingelegt ist, weil der Drucker noch nichts gemeldet hat.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the printer can print, because it has not reported its status.</source>
+        <translation>Es ist nicht bekannt, ob der Drucker drucken kann, weil er seinen Status nicht gemeldet hat.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known what is loaded, because the printer does not report it.</source>
+        <translation>%1: es ist nicht bekannt, was eingelegt ist, weil der Drucker es nicht meldet.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known what is loaded, because %2 is not in the catalogue.</source>
+        <translation>%1: es ist nicht bekannt, was eingelegt ist, weil %2 nicht im Katalog ist.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known how much is left.</source>
+        <translation>%1: es ist nicht bekannt, wie viel übrig ist.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether %2 suits the supply, because the catalogue cannot be read.</source>
+        <translation>%1: es ist nicht bekannt, ob %2 zu den Etiketten passt, weil der Katalog nicht gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known how many labels are left, because the catalogue has no length of a label for %2.</source>
+        <translation>%1: es ist nicht bekannt, wie viele Etiketten übrig sind, weil der Katalog für %2 keine Etikettenlänge hat.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether it lasts, because the printer reports whole percents only. Labels left: %2, needed: %3.</source>
+        <translation>%1: es ist nicht bekannt, ob es reicht, weil der Drucker nur ganze Prozente meldet. Verbleibende Etiketten: %2, benötigt: %3.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether it lasts, because a label may take several of its colours. Labels left: %2, needed: %3.</source>
+        <translation>%1: es ist nicht bekannt, ob es reicht, weil ein Etikett mehrere seiner Farben benötigen kann. Verbleibende Etiketten: %2, benötigt: %3.</translation>
+    </message>
+    <message>
+        <source>The printer is not ready: %1.</source>
+        <translation>Der Drucker ist nicht bereit: %1.</translation>
+    </message>
+    <message>
+        <source>Ready. Labels left: %1, needed: %2.</source>
+        <translation>Bereit. Verbleibende Etiketten: %1, benötigt: %2.</translation>
+    </message>
+    <message>
+        <source>Ready: what the job needs is loaded.</source>
+        <translation>Bereit: was der Auftrag benötigt, ist eingelegt.</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::PrinterEvent</name>
+    <message>
+        <source>Ribbon 1: %1</source>
+        <translation>Farbband 1: %1</translation>
+    </message>
+    <message>
+        <source>Ribbon 2: %1</source>
+        <translation>Farbband 2: %1</translation>
+    </message>
+    <message>
+        <source>Supply: %1</source>
+        <translation>Etiketten: %1</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 label</source>
+        <translation>%1 Etikett</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>%1 Etiketten</translation>
+    </message>
+    <message>
+        <source>%1 % left</source>
+        <translation>noch %1 %</translation>
+    </message>
+    <message>
+        <source>nothing loaded</source>
+        <translation>nichts eingelegt</translation>
+    </message>
+    <message>
+        <source>not in the catalogue (%1)</source>
+        <translation>nicht im Katalog (%1)</translation>
+    </message>
+    <message>
+        <source>Firmware update failed, error %1</source>
+        <translation>Firmware-Aktualisierung fehlgeschlagen, Fehler %1</translation>
+    </message>
+    <message>
+        <source>Firmware %1</source>
+        <translation>Firmware %1</translation>
+    </message>
+    <message>
+        <source>Firmware %1, was %2</source>
+        <translation>Firmware %1, vorher %2</translation>
+    </message>
+    <message>
+        <source>Command failed: %1</source>
+        <translation>Befehl fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Printer added</source>
+        <translation>Drucker hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Printer removed</source>
+        <translation>Drucker entfernt</translation>
+    </message>
+    <message>
+        <source>Printer renamed, was %1</source>
+        <translation>Drucker umbenannt, vorher %1</translation>
+    </message>
+    <message>
+        <source>Print spooler stopped, no printer can be read</source>
+        <translation>Druckwarteschlange beendet, kein Drucker kann gelesen werden</translation>
+    </message>
+    <message>
+        <source>Print spooler is running again</source>
+        <translation>Druckwarteschlange läuft wieder</translation>
+    </message>
+    <message>
+        <source>%1 event is missing since %2, because the log could not be written</source>
+        <translation>%1 Ereignis fehlt seit %2, weil das Protokoll nicht geschrieben werden konnte</translation>
+    </message>
+    <message>
+        <source>%1 events are missing since %2, because the log could not be written</source>
+        <translation>%1 Ereignisse fehlen seit %2, weil das Protokoll nicht geschrieben werden konnte</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::PrinterForecasts</name>
+    <message>
+        <source>%1: few labels left: %2</source>
+        <translation>%1: nur noch wenige: %2</translation>
+    </message>
+    <message>
+        <source>%1: not enough for the job. Labels left: %2, needed: %3</source>
+        <translation>%1: zu wenig für den Auftrag. Verbleibende Etiketten: %2, benötigt: %3</translation>
+    </message>
+    <message>
+        <source>%1: will probably end before the shift does, at %2</source>
+        <translation>%1: endet wahrscheinlich vor der Schicht, die bis %2 dauert</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::Slot</name>
+    <message>
+        <source>Ribbon 1</source>
+        <translation>Farbband 1</translation>
+    </message>
+    <message>
+        <source>Ribbon 2</source>
+        <translation>Farbband 2</translation>
+    </message>
+    <message>
+        <source>Supply</source>
+        <translation>Etiketten</translation>
+    </message>
+</context>
+<context>
     <name>VxKit::StatusInfo</name>
     <message>
         <source>The printer is switched off, or it is not connected to this computer. Its driver is installed, and no fault has been reported.</source>
@@ -370,6 +623,18 @@
         <source>error</source>
         <translation>Fehler</translation>
     </message>
+    <message>
+        <source>Agent offline</source>
+        <translation>Agent offline</translation>
+    </message>
+    <message>
+        <source>Nothing is heard from the agent on the printer&apos;s computer. What is loaded is shown as it was last reported.</source>
+        <translation>Vom Agenten auf dem Computer des Druckers kommt nichts. Was eingelegt ist, wird so gezeigt, wie es zuletzt gemeldet wurde.</translation>
+    </message>
+    <message>
+        <source>Check that the computer is switched on and connected to the network, and that vxprintagent is running there.</source>
+        <translation>Prüfen Sie, ob der Computer eingeschaltet und mit dem Netzwerk verbunden ist und ob vxprintagent dort läuft.</translation>
+    </message>
 </context>
 <context>
     <name>VxKit::SupplyCatalogue</name>
@@ -377,6 +642,53 @@
         <source>%1 %2</source>
         <extracomment>The name of a supply or ribbon for people. %1 is its colour or colours, such as &quot;Yellow&quot; or &quot;Black/Red&quot;, %2 its material, such as &quot;Vinyl&quot;.</extracomment>
         <translation>%2 %1</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::UsageHistory</name>
+    <message>
+        <source>%1: not an SQLite database</source>
+        <translation>%1: keine SQLite-Datenbank</translation>
+    </message>
+    <message>
+        <source>%1: not a file</source>
+        <translation>%1: keine Datei</translation>
+    </message>
+    <message>
+        <source>%1: larger than 1 GiB</source>
+        <translation>%1: größer als 1 GiB</translation>
+    </message>
+    <message>
+        <source>%1: no such file</source>
+        <translation>%1: keine solche Datei</translation>
+    </message>
+    <message>
+        <source>%1: not yet in the format of this version</source>
+        <translation>%1: noch nicht im Format dieser Version</translation>
+    </message>
+    <message>
+        <source>%1: a database of another program</source>
+        <translation>%1: Datenbank eines anderen Programms</translation>
+    </message>
+    <message>
+        <source>%1: written by a newer version (its format is %2; this version knows formats up to %3)</source>
+        <translation>%1: von einer neueren Version geschrieben (Format %2; diese Version kennt Formate bis %3)</translation>
+    </message>
+    <message>
+        <source>%1: not the tables of a history</source>
+        <translation>%1: nicht die Tabellen eines Verlaufs</translation>
+    </message>
+    <message>
+        <source>another program is using it</source>
+        <translation>ein anderes Programm benutzt sie gerade</translation>
+    </message>
+    <message>
+        <source>%1: another program is writing to it</source>
+        <translation>%1: ein anderes Programm schreibt darin</translation>
+    </message>
+    <message>
+        <source>%1: another program has been reading it for too long</source>
+        <translation>%1: ein anderes Programm liest sie schon zu lange</translation>
     </message>
 </context>
 </TS>

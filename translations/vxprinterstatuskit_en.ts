@@ -113,6 +113,259 @@
     </message>
 </context>
 <context>
+    <name>VxKit::CaseFile</name>
+    <message>
+        <source>%1: line %2: %3</source>
+        <extracomment>%1 is a file, %2 the number of a line in it, %3 what is wrong.</extracomment>
+        <translation>%1: line %2: %3</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>it is longer than %1 bytes</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 bytes</source>
+        <translation>the file is larger than %1 bytes</translation>
+    </message>
+    <message>
+        <source>the member &quot;kind&quot; is missing</source>
+        <translation>the member &quot;kind&quot; is missing</translation>
+    </message>
+    <message>
+        <source>it is not a JSON object</source>
+        <translation>it is not a JSON object</translation>
+    </message>
+    <message>
+        <source>there is a line behind the end of the case</source>
+        <translation>there is a line behind the end of the case</translation>
+    </message>
+    <message>
+        <source>&quot;t&quot; is not a number of seconds since the start</source>
+        <translation>&quot;t&quot; is not a number of seconds since the start</translation>
+    </message>
+    <message>
+        <source>this is not a case file</source>
+        <translation>this is not a case file</translation>
+    </message>
+    <message>
+        <source>the case file has version %1, but this program reads version %2</source>
+        <translation>the case file has version %1, but this program reads version %2</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::CaseRecorder</name>
+    <message>
+        <source>nothing is kept in memory</source>
+        <translation>nothing is kept in memory</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::Preflight</name>
+    <message>
+        <source>%1 to %2</source>
+        <extracomment>Numbers of labels</extracomment>
+        <translation>%1 to %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing is loaded, the job needs %2.</source>
+        <extracomment>%1 is a place of the printer, such as &quot;Ribbon 1&quot;. This holds for all texts that begin with it.</extracomment>
+        <translation>%1: nothing is loaded, the job needs %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2 is loaded, the job needs %3.</source>
+        <translation>%1: %2 is loaded, the job needs %3.</translation>
+    </message>
+    <message>
+        <source>The job needs the ribbon %1 as well, but the printer has no place for it.</source>
+        <translation>The job needs the ribbon %1 as well, but the printer has no place for it.</translation>
+    </message>
+    <message>
+        <source>No ribbon is loaded.</source>
+        <translation>No ribbon is loaded.</translation>
+    </message>
+    <message>
+        <source>The ribbon %1 does not suit the supply %2: the catalogue has no print settings for the two.</source>
+        <translation>The ribbon %1 does not suit the supply %2: the catalogue has no print settings for the two.</translation>
+    </message>
+    <message>
+        <source>%1: not enough. Labels left: %2, needed: %3, missing: %4.</source>
+        <translation>%1: not enough. Labels left: %2, needed: %3, missing: %4.</translation>
+    </message>
+    <message>
+        <source>%1: not enough. Labels left: %2, needed: %3, missing: at least %4.</source>
+        <translation>%1: not enough. Labels left: %2, needed: %3, missing: at least %4.</translation>
+    </message>
+    <message>
+        <source>There is no label printer &quot;%1&quot;.</source>
+        <translation>There is no label printer &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>It is not known what is loaded, because the printer is not watched.</source>
+        <translation>It is not known what is loaded, because the printer is not watched.</translation>
+    </message>
+    <message>
+        <source>It is not known what is loaded, because the printer has not reported anything yet.</source>
+        <translation>It is not known what is loaded, because the printer has not reported anything yet.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the printer can print, because it has not reported its status.</source>
+        <translation>It is not known whether the printer can print, because it has not reported its status.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known what is loaded, because the printer does not report it.</source>
+        <translation>%1: it is not known what is loaded, because the printer does not report it.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known what is loaded, because %2 is not in the catalogue.</source>
+        <translation>%1: it is not known what is loaded, because %2 is not in the catalogue.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known how much is left.</source>
+        <translation>%1: it is not known how much is left.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether %2 suits the supply, because the catalogue cannot be read.</source>
+        <translation>%1: it is not known whether %2 suits the supply, because the catalogue cannot be read.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known how many labels are left, because the catalogue has no length of a label for %2.</source>
+        <translation>%1: it is not known how many labels are left, because the catalogue has no length of a label for %2.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether it lasts, because the printer reports whole percents only. Labels left: %2, needed: %3.</source>
+        <translation>%1: it is not known whether it lasts, because the printer reports whole percents only. Labels left: %2, needed: %3.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether it lasts, because a label may take several of its colours. Labels left: %2, needed: %3.</source>
+        <translation>%1: it is not known whether it lasts, because a label may take several of its colours. Labels left: %2, needed: %3.</translation>
+    </message>
+    <message>
+        <source>The printer is not ready: %1.</source>
+        <translation>The printer is not ready: %1.</translation>
+    </message>
+    <message>
+        <source>Ready. Labels left: %1, needed: %2.</source>
+        <translation>Ready. Labels left: %1, needed: %2.</translation>
+    </message>
+    <message>
+        <source>Ready: what the job needs is loaded.</source>
+        <translation>Ready: what the job needs is loaded.</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::PrinterEvent</name>
+    <message>
+        <source>Ribbon 1: %1</source>
+        <translation>Ribbon 1: %1</translation>
+    </message>
+    <message>
+        <source>Ribbon 2: %1</source>
+        <translation>Ribbon 2: %1</translation>
+    </message>
+    <message>
+        <source>Supply: %1</source>
+        <translation>Supply: %1</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 label</source>
+        <translation>%1 label</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>%1 labels</translation>
+    </message>
+    <message>
+        <source>%1 % left</source>
+        <translation>%1 % left</translation>
+    </message>
+    <message>
+        <source>nothing loaded</source>
+        <translation>nothing loaded</translation>
+    </message>
+    <message>
+        <source>not in the catalogue (%1)</source>
+        <translation>not in the catalogue (%1)</translation>
+    </message>
+    <message>
+        <source>Firmware update failed, error %1</source>
+        <translation>Firmware update failed, error %1</translation>
+    </message>
+    <message>
+        <source>Firmware %1</source>
+        <translation>Firmware %1</translation>
+    </message>
+    <message>
+        <source>Firmware %1, was %2</source>
+        <translation>Firmware %1, was %2</translation>
+    </message>
+    <message>
+        <source>Command failed: %1</source>
+        <translation>Command failed: %1</translation>
+    </message>
+    <message>
+        <source>Printer added</source>
+        <translation>Printer added</translation>
+    </message>
+    <message>
+        <source>Printer removed</source>
+        <translation>Printer removed</translation>
+    </message>
+    <message>
+        <source>Printer renamed, was %1</source>
+        <translation>Printer renamed, was %1</translation>
+    </message>
+    <message>
+        <source>Print spooler stopped, no printer can be read</source>
+        <translation>Print spooler stopped, no printer can be read</translation>
+    </message>
+    <message>
+        <source>Print spooler is running again</source>
+        <translation>Print spooler is running again</translation>
+    </message>
+    <message>
+        <source>%1 event is missing since %2, because the log could not be written</source>
+        <translation>%1 event is missing since %2, because the log could not be written</translation>
+    </message>
+    <message>
+        <source>%1 events are missing since %2, because the log could not be written</source>
+        <translation>%1 events are missing since %2, because the log could not be written</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::PrinterForecasts</name>
+    <message>
+        <source>%1: few labels left: %2</source>
+        <translation>%1: few labels left: %2</translation>
+    </message>
+    <message>
+        <source>%1: not enough for the job. Labels left: %2, needed: %3</source>
+        <translation>%1: not enough for the job. Labels left: %2, needed: %3</translation>
+    </message>
+    <message>
+        <source>%1: will probably end before the shift does, at %2</source>
+        <translation>%1: will probably end before the shift does, at %2</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::Slot</name>
+    <message>
+        <source>Ribbon 1</source>
+        <translation>Ribbon 1</translation>
+    </message>
+    <message>
+        <source>Ribbon 2</source>
+        <translation>Ribbon 2</translation>
+    </message>
+    <message>
+        <source>Supply</source>
+        <translation>Supply</translation>
+    </message>
+</context>
+<context>
     <name>VxKit::StatusInfo</name>
     <message>
         <source>The printer is switched off, or it is not connected to this computer. Its driver is installed, and no fault has been reported.</source>
@@ -370,6 +623,18 @@
         <source>error</source>
         <translation>error</translation>
     </message>
+    <message>
+        <source>Agent offline</source>
+        <translation>Agent offline</translation>
+    </message>
+    <message>
+        <source>Nothing is heard from the agent on the printer&apos;s computer. What is loaded is shown as it was last reported.</source>
+        <translation>Nothing is heard from the agent on the printer&apos;s computer. What is loaded is shown as it was last reported.</translation>
+    </message>
+    <message>
+        <source>Check that the computer is switched on and connected to the network, and that vxprintagent is running there.</source>
+        <translation>Check that the computer is switched on and connected to the network, and that vxprintagent is running there.</translation>
+    </message>
 </context>
 <context>
     <name>VxKit::SupplyCatalogue</name>
@@ -377,6 +642,53 @@
         <source>%1 %2</source>
         <extracomment>The name of a supply or ribbon for people. %1 is its colour or colours, such as &quot;Yellow&quot; or &quot;Black/Red&quot;, %2 its material, such as &quot;Vinyl&quot;.</extracomment>
         <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::UsageHistory</name>
+    <message>
+        <source>%1: not an SQLite database</source>
+        <translation>%1: not an SQLite database</translation>
+    </message>
+    <message>
+        <source>%1: not a file</source>
+        <translation>%1: not a file</translation>
+    </message>
+    <message>
+        <source>%1: larger than 1 GiB</source>
+        <translation>%1: larger than 1 GiB</translation>
+    </message>
+    <message>
+        <source>%1: no such file</source>
+        <translation>%1: no such file</translation>
+    </message>
+    <message>
+        <source>%1: not yet in the format of this version</source>
+        <translation>%1: not yet in the format of this version</translation>
+    </message>
+    <message>
+        <source>%1: a database of another program</source>
+        <translation>%1: a database of another program</translation>
+    </message>
+    <message>
+        <source>%1: written by a newer version (its format is %2; this version knows formats up to %3)</source>
+        <translation>%1: written by a newer version (its format is %2; this version knows formats up to %3)</translation>
+    </message>
+    <message>
+        <source>%1: not the tables of a history</source>
+        <translation>%1: not the tables of a history</translation>
+    </message>
+    <message>
+        <source>another program is using it</source>
+        <translation>another program is using it</translation>
+    </message>
+    <message>
+        <source>%1: another program is writing to it</source>
+        <translation>%1: another program is writing to it</translation>
+    </message>
+    <message>
+        <source>%1: another program has been reading it for too long</source>
+        <translation>%1: another program has been reading it for too long</translation>
     </message>
 </context>
 </TS>

@@ -113,6 +113,259 @@
     </message>
 </context>
 <context>
+    <name>VxKit::CaseFile</name>
+    <message>
+        <source>%1: line %2: %3</source>
+        <extracomment>%1 is a file, %2 the number of a line in it, %3 what is wrong.</extracomment>
+        <translation>%1: línea %2: %3</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>tiene más de %1 bytes</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 bytes</source>
+        <translation>el archivo tiene más de %1 bytes</translation>
+    </message>
+    <message>
+        <source>the member &quot;kind&quot; is missing</source>
+        <translation>falta el miembro &quot;kind&quot;</translation>
+    </message>
+    <message>
+        <source>it is not a JSON object</source>
+        <translation>no es un objeto JSON</translation>
+    </message>
+    <message>
+        <source>there is a line behind the end of the case</source>
+        <translation>hay una línea después del final del caso</translation>
+    </message>
+    <message>
+        <source>&quot;t&quot; is not a number of seconds since the start</source>
+        <translation>&quot;t&quot; no es un número de segundos desde el comienzo</translation>
+    </message>
+    <message>
+        <source>this is not a case file</source>
+        <translation>esto no es un archivo de caso</translation>
+    </message>
+    <message>
+        <source>the case file has version %1, but this program reads version %2</source>
+        <translation>el archivo de caso tiene la versión %1, pero este programa lee la versión %2</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::CaseRecorder</name>
+    <message>
+        <source>nothing is kept in memory</source>
+        <translation>no se guarda nada en memoria</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::Preflight</name>
+    <message>
+        <source>%1 to %2</source>
+        <extracomment>Numbers of labels</extracomment>
+        <translation>de %1 a %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing is loaded, the job needs %2.</source>
+        <extracomment>%1 is a place of the printer, such as &quot;Ribbon 1&quot;. This holds for all texts that begin with it.</extracomment>
+        <translation>%1: no hay nada cargado, el trabajo necesita %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2 is loaded, the job needs %3.</source>
+        <translation>%1: está cargado %2, el trabajo necesita %3.</translation>
+    </message>
+    <message>
+        <source>The job needs the ribbon %1 as well, but the printer has no place for it.</source>
+        <translation>El trabajo necesita también la cinta %1, pero la impresora no tiene sitio para ella.</translation>
+    </message>
+    <message>
+        <source>No ribbon is loaded.</source>
+        <translation>No hay ninguna cinta cargada.</translation>
+    </message>
+    <message>
+        <source>The ribbon %1 does not suit the supply %2: the catalogue has no print settings for the two.</source>
+        <translation>La cinta %1 no es adecuada para el material %2: el catálogo no tiene ajustes de impresión para ambos.</translation>
+    </message>
+    <message>
+        <source>%1: not enough. Labels left: %2, needed: %3, missing: %4.</source>
+        <translation>%1: insuficiente. Etiquetas restantes: %2, necesarias: %3, faltan: %4.</translation>
+    </message>
+    <message>
+        <source>%1: not enough. Labels left: %2, needed: %3, missing: at least %4.</source>
+        <translation>%1: insuficiente. Etiquetas restantes: %2, necesarias: %3, faltan: al menos %4.</translation>
+    </message>
+    <message>
+        <source>There is no label printer &quot;%1&quot;.</source>
+        <translation>No hay ninguna impresora de etiquetas «%1».</translation>
+    </message>
+    <message>
+        <source>It is not known what is loaded, because the printer is not watched.</source>
+        <translation>No se sabe qué está cargado, porque la impresora no se supervisa.</translation>
+    </message>
+    <message>
+        <source>It is not known what is loaded, because the printer has not reported anything yet.</source>
+        <translation>No se sabe qué está cargado, porque la impresora aún no ha comunicado nada.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the printer can print, because it has not reported its status.</source>
+        <translation>No se sabe si la impresora puede imprimir, porque no ha comunicado su estado.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known what is loaded, because the printer does not report it.</source>
+        <translation>%1: no se sabe qué está cargado, porque la impresora no lo comunica.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known what is loaded, because %2 is not in the catalogue.</source>
+        <translation>%1: no se sabe qué está cargado, porque %2 no figura en el catálogo.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known how much is left.</source>
+        <translation>%1: no se sabe cuánto queda.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether %2 suits the supply, because the catalogue cannot be read.</source>
+        <translation>%1: no se sabe si %2 es adecuada para el material, porque no se puede leer el catálogo.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known how many labels are left, because the catalogue has no length of a label for %2.</source>
+        <translation>%1: no se sabe cuántas etiquetas quedan, porque el catálogo no tiene la longitud de una etiqueta de %2.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether it lasts, because the printer reports whole percents only. Labels left: %2, needed: %3.</source>
+        <translation>%1: no se sabe si alcanza, porque la impresora solo comunica porcentajes enteros. Etiquetas restantes: %2, necesarias: %3.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether it lasts, because a label may take several of its colours. Labels left: %2, needed: %3.</source>
+        <translation>%1: no se sabe si alcanza, porque una etiqueta puede gastar varios de sus colores. Etiquetas restantes: %2, necesarias: %3.</translation>
+    </message>
+    <message>
+        <source>The printer is not ready: %1.</source>
+        <translation>La impresora no está lista: %1.</translation>
+    </message>
+    <message>
+        <source>Ready. Labels left: %1, needed: %2.</source>
+        <translation>Lista. Etiquetas restantes: %1, necesarias: %2.</translation>
+    </message>
+    <message>
+        <source>Ready: what the job needs is loaded.</source>
+        <translation>Lista: está cargado lo que necesita el trabajo.</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::PrinterEvent</name>
+    <message>
+        <source>Ribbon 1: %1</source>
+        <translation>Cinta 1: %1</translation>
+    </message>
+    <message>
+        <source>Ribbon 2: %1</source>
+        <translation>Cinta 2: %1</translation>
+    </message>
+    <message>
+        <source>Supply: %1</source>
+        <translation>Material: %1</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 label</source>
+        <translation>%1 etiqueta</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>%1 etiquetas</translation>
+    </message>
+    <message>
+        <source>%1 % left</source>
+        <translation>queda el %1 %</translation>
+    </message>
+    <message>
+        <source>nothing loaded</source>
+        <translation>nada cargado</translation>
+    </message>
+    <message>
+        <source>not in the catalogue (%1)</source>
+        <translation>no figura en el catálogo (%1)</translation>
+    </message>
+    <message>
+        <source>Firmware update failed, error %1</source>
+        <translation>No se pudo actualizar el firmware, error %1</translation>
+    </message>
+    <message>
+        <source>Firmware %1</source>
+        <translation>Firmware %1</translation>
+    </message>
+    <message>
+        <source>Firmware %1, was %2</source>
+        <translation>Firmware %1, antes %2</translation>
+    </message>
+    <message>
+        <source>Command failed: %1</source>
+        <translation>No se pudo enviar un comando: %1</translation>
+    </message>
+    <message>
+        <source>Printer added</source>
+        <translation>Impresora añadida</translation>
+    </message>
+    <message>
+        <source>Printer removed</source>
+        <translation>Impresora eliminada</translation>
+    </message>
+    <message>
+        <source>Printer renamed, was %1</source>
+        <translation>Impresora renombrada, antes %1</translation>
+    </message>
+    <message>
+        <source>Print spooler stopped, no printer can be read</source>
+        <translation>Cola de impresión detenida, no se puede leer ninguna impresora</translation>
+    </message>
+    <message>
+        <source>Print spooler is running again</source>
+        <translation>La cola de impresión vuelve a funcionar</translation>
+    </message>
+    <message>
+        <source>%1 event is missing since %2, because the log could not be written</source>
+        <translation>Falta %1 suceso desde %2 porque no se pudo escribir el registro</translation>
+    </message>
+    <message>
+        <source>%1 events are missing since %2, because the log could not be written</source>
+        <translation>Faltan %1 sucesos desde %2 porque no se pudo escribir el registro</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::PrinterForecasts</name>
+    <message>
+        <source>%1: few labels left: %2</source>
+        <translation>%1: quedan pocas etiquetas: %2</translation>
+    </message>
+    <message>
+        <source>%1: not enough for the job. Labels left: %2, needed: %3</source>
+        <translation>%1: insuficiente para el trabajo. Etiquetas restantes: %2, necesarias: %3</translation>
+    </message>
+    <message>
+        <source>%1: will probably end before the shift does, at %2</source>
+        <translation>%1: probablemente se acabará antes que el turno, a las %2</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::Slot</name>
+    <message>
+        <source>Ribbon 1</source>
+        <translation>Cinta 1</translation>
+    </message>
+    <message>
+        <source>Ribbon 2</source>
+        <translation>Cinta 2</translation>
+    </message>
+    <message>
+        <source>Supply</source>
+        <translation>Material</translation>
+    </message>
+</context>
+<context>
     <name>VxKit::StatusInfo</name>
     <message>
         <source>The printer is switched off, or it is not connected to this computer. Its driver is installed, and no fault has been reported.</source>
@@ -370,6 +623,18 @@
         <source>error</source>
         <translation>error</translation>
     </message>
+    <message>
+        <source>Agent offline</source>
+        <translation>Agente sin conexión</translation>
+    </message>
+    <message>
+        <source>Nothing is heard from the agent on the printer&apos;s computer. What is loaded is shown as it was last reported.</source>
+        <translation>No se recibe nada del agente en el ordenador de la impresora. Lo que está cargado se muestra como se notificó por última vez.</translation>
+    </message>
+    <message>
+        <source>Check that the computer is switched on and connected to the network, and that vxprintagent is running there.</source>
+        <translation>Compruebe que el ordenador esté encendido y conectado a la red, y que vxprintagent se ejecute en él.</translation>
+    </message>
 </context>
 <context>
     <name>VxKit::SupplyCatalogue</name>
@@ -377,6 +642,53 @@
         <source>%1 %2</source>
         <extracomment>The name of a supply or ribbon for people. %1 is its colour or colours, such as &quot;Yellow&quot; or &quot;Black/Red&quot;, %2 its material, such as &quot;Vinyl&quot;.</extracomment>
         <translation>%2 %1</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::UsageHistory</name>
+    <message>
+        <source>%1: not an SQLite database</source>
+        <translation>%1: no es una base de datos SQLite</translation>
+    </message>
+    <message>
+        <source>%1: not a file</source>
+        <translation>%1: no es un archivo</translation>
+    </message>
+    <message>
+        <source>%1: larger than 1 GiB</source>
+        <translation>%1: mayor de 1 GiB</translation>
+    </message>
+    <message>
+        <source>%1: no such file</source>
+        <translation>%1: no existe el archivo</translation>
+    </message>
+    <message>
+        <source>%1: not yet in the format of this version</source>
+        <translation>%1: aún no tiene el formato de esta versión</translation>
+    </message>
+    <message>
+        <source>%1: a database of another program</source>
+        <translation>%1: es una base de datos de otro programa</translation>
+    </message>
+    <message>
+        <source>%1: written by a newer version (its format is %2; this version knows formats up to %3)</source>
+        <translation>%1: escrito por una versión más reciente (su formato es %2; esta versión conoce formatos hasta %3)</translation>
+    </message>
+    <message>
+        <source>%1: not the tables of a history</source>
+        <translation>%1: sus tablas no son las de un historial</translation>
+    </message>
+    <message>
+        <source>another program is using it</source>
+        <translation>otro programa lo está usando</translation>
+    </message>
+    <message>
+        <source>%1: another program is writing to it</source>
+        <translation>%1: otro programa está escribiendo en él</translation>
+    </message>
+    <message>
+        <source>%1: another program has been reading it for too long</source>
+        <translation>%1: otro programa lleva demasiado tiempo leyéndolo</translation>
     </message>
 </context>
 </TS>

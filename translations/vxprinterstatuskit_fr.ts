@@ -113,6 +113,259 @@
     </message>
 </context>
 <context>
+    <name>VxKit::CaseFile</name>
+    <message>
+        <source>%1: line %2: %3</source>
+        <extracomment>%1 is a file, %2 the number of a line in it, %3 what is wrong.</extracomment>
+        <translation>%1 : ligne %2 : %3</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>elle dépasse %1 octets</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 bytes</source>
+        <translation>le fichier dépasse %1 octets</translation>
+    </message>
+    <message>
+        <source>the member &quot;kind&quot; is missing</source>
+        <translation>le membre « kind » manque</translation>
+    </message>
+    <message>
+        <source>it is not a JSON object</source>
+        <translation>ce n&apos;est pas un objet JSON</translation>
+    </message>
+    <message>
+        <source>there is a line behind the end of the case</source>
+        <translation>il y a une ligne après la fin du cas</translation>
+    </message>
+    <message>
+        <source>&quot;t&quot; is not a number of seconds since the start</source>
+        <translation>« t » n&apos;est pas un nombre de secondes depuis le début</translation>
+    </message>
+    <message>
+        <source>this is not a case file</source>
+        <translation>ce n&apos;est pas un fichier de cas</translation>
+    </message>
+    <message>
+        <source>the case file has version %1, but this program reads version %2</source>
+        <translation>le fichier de cas a la version %1, mais ce programme lit la version %2</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::CaseRecorder</name>
+    <message>
+        <source>nothing is kept in memory</source>
+        <translation>rien n&apos;est gardé en mémoire</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::Preflight</name>
+    <message>
+        <source>%1 to %2</source>
+        <extracomment>Numbers of labels</extracomment>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing is loaded, the job needs %2.</source>
+        <extracomment>%1 is a place of the printer, such as &quot;Ribbon 1&quot;. This holds for all texts that begin with it.</extracomment>
+        <translation>%1 : rien n’est chargé, la tâche nécessite %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2 is loaded, the job needs %3.</source>
+        <translation>%1 : %2 est chargé, la tâche nécessite %3.</translation>
+    </message>
+    <message>
+        <source>The job needs the ribbon %1 as well, but the printer has no place for it.</source>
+        <translation>La tâche nécessite aussi le ruban %1, mais l’imprimante n’a pas de place pour lui.</translation>
+    </message>
+    <message>
+        <source>No ribbon is loaded.</source>
+        <translation>Aucun ruban n’est chargé.</translation>
+    </message>
+    <message>
+        <source>The ribbon %1 does not suit the supply %2: the catalogue has no print settings for the two.</source>
+        <translation>Le ruban %1 ne convient pas au consommable %2 : le catalogue n’a pas de réglages d’impression pour les deux.</translation>
+    </message>
+    <message>
+        <source>%1: not enough. Labels left: %2, needed: %3, missing: %4.</source>
+        <translation>%1 : insuffisant. Étiquettes restantes : %2, nécessaires : %3, manquantes : %4.</translation>
+    </message>
+    <message>
+        <source>%1: not enough. Labels left: %2, needed: %3, missing: at least %4.</source>
+        <translation>%1 : insuffisant. Étiquettes restantes : %2, nécessaires : %3, manquantes : au moins %4.</translation>
+    </message>
+    <message>
+        <source>There is no label printer &quot;%1&quot;.</source>
+        <translation>Il n’y a pas d’imprimante d’étiquettes « %1 ».</translation>
+    </message>
+    <message>
+        <source>It is not known what is loaded, because the printer is not watched.</source>
+        <translation>On ne sait pas ce qui est chargé, car l’imprimante n’est pas surveillée.</translation>
+    </message>
+    <message>
+        <source>It is not known what is loaded, because the printer has not reported anything yet.</source>
+        <translation>On ne sait pas ce qui est chargé, car l’imprimante n’a encore rien signalé.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the printer can print, because it has not reported its status.</source>
+        <translation>On ne sait pas si l’imprimante peut imprimer, car elle n’a pas signalé son état.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known what is loaded, because the printer does not report it.</source>
+        <translation>%1 : on ne sait pas ce qui est chargé, car l’imprimante ne le signale pas.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known what is loaded, because %2 is not in the catalogue.</source>
+        <translation>%1 : on ne sait pas ce qui est chargé, car %2 est absent du catalogue.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known how much is left.</source>
+        <translation>%1 : on ne sait pas ce qu’il en reste.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether %2 suits the supply, because the catalogue cannot be read.</source>
+        <translation>%1 : on ne sait pas si %2 convient au consommable, car le catalogue ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known how many labels are left, because the catalogue has no length of a label for %2.</source>
+        <translation>%1 : on ne sait pas combien d’étiquettes restent, car le catalogue n’a pas de longueur d’étiquette pour %2.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether it lasts, because the printer reports whole percents only. Labels left: %2, needed: %3.</source>
+        <translation>%1 : on ne sait pas si cela suffit, car l’imprimante ne signale que des pourcentages entiers. Étiquettes restantes : %2, nécessaires : %3.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether it lasts, because a label may take several of its colours. Labels left: %2, needed: %3.</source>
+        <translation>%1 : on ne sait pas si cela suffit, car une étiquette peut utiliser plusieurs de ses couleurs. Étiquettes restantes : %2, nécessaires : %3.</translation>
+    </message>
+    <message>
+        <source>The printer is not ready: %1.</source>
+        <translation>L’imprimante n’est pas prête : %1.</translation>
+    </message>
+    <message>
+        <source>Ready. Labels left: %1, needed: %2.</source>
+        <translation>Prête. Étiquettes restantes : %1, nécessaires : %2.</translation>
+    </message>
+    <message>
+        <source>Ready: what the job needs is loaded.</source>
+        <translation>Prête : ce dont la tâche a besoin est chargé.</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::PrinterEvent</name>
+    <message>
+        <source>Ribbon 1: %1</source>
+        <translation>Ruban 1 : %1</translation>
+    </message>
+    <message>
+        <source>Ribbon 2: %1</source>
+        <translation>Ruban 2 : %1</translation>
+    </message>
+    <message>
+        <source>Supply: %1</source>
+        <translation>Consommable : %1</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 label</source>
+        <translation>%1 étiquette</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>%1 étiquettes</translation>
+    </message>
+    <message>
+        <source>%1 % left</source>
+        <translation>reste %1 %</translation>
+    </message>
+    <message>
+        <source>nothing loaded</source>
+        <translation>rien de chargé</translation>
+    </message>
+    <message>
+        <source>not in the catalogue (%1)</source>
+        <translation>absent du catalogue (%1)</translation>
+    </message>
+    <message>
+        <source>Firmware update failed, error %1</source>
+        <translation>Échec de la mise à jour du micrologiciel, erreur %1</translation>
+    </message>
+    <message>
+        <source>Firmware %1</source>
+        <translation>Micrologiciel %1</translation>
+    </message>
+    <message>
+        <source>Firmware %1, was %2</source>
+        <translation>Micrologiciel %1, avant %2</translation>
+    </message>
+    <message>
+        <source>Command failed: %1</source>
+        <translation>Échec d’une commande : %1</translation>
+    </message>
+    <message>
+        <source>Printer added</source>
+        <translation>Imprimante ajoutée</translation>
+    </message>
+    <message>
+        <source>Printer removed</source>
+        <translation>Imprimante supprimée</translation>
+    </message>
+    <message>
+        <source>Printer renamed, was %1</source>
+        <translation>Imprimante renommée, avant %1</translation>
+    </message>
+    <message>
+        <source>Print spooler stopped, no printer can be read</source>
+        <translation>Spouleur d’impression arrêté, aucune imprimante ne peut être lue</translation>
+    </message>
+    <message>
+        <source>Print spooler is running again</source>
+        <translation>Le spouleur d’impression fonctionne de nouveau</translation>
+    </message>
+    <message>
+        <source>%1 event is missing since %2, because the log could not be written</source>
+        <translation>Il manque %1 événement depuis %2, car le journal n’a pas pu être écrit</translation>
+    </message>
+    <message>
+        <source>%1 events are missing since %2, because the log could not be written</source>
+        <translation>Il manque %1 événements depuis %2, car le journal n’a pas pu être écrit</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::PrinterForecasts</name>
+    <message>
+        <source>%1: few labels left: %2</source>
+        <translation>%1 : il reste peu d’étiquettes : %2</translation>
+    </message>
+    <message>
+        <source>%1: not enough for the job. Labels left: %2, needed: %3</source>
+        <translation>%1 : insuffisant pour la tâche. Étiquettes restantes : %2, nécessaires : %3</translation>
+    </message>
+    <message>
+        <source>%1: will probably end before the shift does, at %2</source>
+        <translation>%1 : sera probablement épuisé avant la fin du poste, à %2</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::Slot</name>
+    <message>
+        <source>Ribbon 1</source>
+        <translation>Ruban 1</translation>
+    </message>
+    <message>
+        <source>Ribbon 2</source>
+        <translation>Ruban 2</translation>
+    </message>
+    <message>
+        <source>Supply</source>
+        <translation>Consommable</translation>
+    </message>
+</context>
+<context>
     <name>VxKit::StatusInfo</name>
     <message>
         <source>The printer is switched off, or it is not connected to this computer. Its driver is installed, and no fault has been reported.</source>
@@ -370,6 +623,18 @@
         <source>error</source>
         <translation>erreur</translation>
     </message>
+    <message>
+        <source>Agent offline</source>
+        <translation>Agent hors connexion</translation>
+    </message>
+    <message>
+        <source>Nothing is heard from the agent on the printer&apos;s computer. What is loaded is shown as it was last reported.</source>
+        <translation>L’agent sur l’ordinateur de l’imprimante ne donne plus de nouvelles. Ce qui est chargé est affiché tel que signalé en dernier.</translation>
+    </message>
+    <message>
+        <source>Check that the computer is switched on and connected to the network, and that vxprintagent is running there.</source>
+        <translation>Vérifiez que l’ordinateur est allumé et connecté au réseau, et que vxprintagent y fonctionne.</translation>
+    </message>
 </context>
 <context>
     <name>VxKit::SupplyCatalogue</name>
@@ -377,6 +642,53 @@
         <source>%1 %2</source>
         <extracomment>The name of a supply or ribbon for people. %1 is its colour or colours, such as &quot;Yellow&quot; or &quot;Black/Red&quot;, %2 its material, such as &quot;Vinyl&quot;.</extracomment>
         <translation>%2 %1</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::UsageHistory</name>
+    <message>
+        <source>%1: not an SQLite database</source>
+        <translation>%1 : n’est pas une base de données SQLite</translation>
+    </message>
+    <message>
+        <source>%1: not a file</source>
+        <translation>%1 : n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>%1: larger than 1 GiB</source>
+        <translation>%1 : plus de 1 Gio</translation>
+    </message>
+    <message>
+        <source>%1: no such file</source>
+        <translation>%1 : ce fichier n’existe pas</translation>
+    </message>
+    <message>
+        <source>%1: not yet in the format of this version</source>
+        <translation>%1 : pas encore au format de cette version</translation>
+    </message>
+    <message>
+        <source>%1: a database of another program</source>
+        <translation>%1 : base de données d’un autre programme</translation>
+    </message>
+    <message>
+        <source>%1: written by a newer version (its format is %2; this version knows formats up to %3)</source>
+        <translation>%1 : écrit par une version plus récente (format %2 ; cette version connaît les formats jusqu’à %3)</translation>
+    </message>
+    <message>
+        <source>%1: not the tables of a history</source>
+        <translation>%1 : ses tables ne sont pas celles d’un historique</translation>
+    </message>
+    <message>
+        <source>another program is using it</source>
+        <translation>un autre programme l’utilise</translation>
+    </message>
+    <message>
+        <source>%1: another program is writing to it</source>
+        <translation>%1 : un autre programme y écrit</translation>
+    </message>
+    <message>
+        <source>%1: another program has been reading it for too long</source>
+        <translation>%1 : un autre programme le lit depuis trop longtemps</translation>
     </message>
 </context>
 </TS>

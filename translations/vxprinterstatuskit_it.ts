@@ -113,6 +113,259 @@
     </message>
 </context>
 <context>
+    <name>VxKit::CaseFile</name>
+    <message>
+        <source>%1: line %2: %3</source>
+        <extracomment>%1 is a file, %2 the number of a line in it, %3 what is wrong.</extracomment>
+        <translation>%1: riga %2: %3</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>supera %1 byte</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 bytes</source>
+        <translation>il file supera %1 byte</translation>
+    </message>
+    <message>
+        <source>the member &quot;kind&quot; is missing</source>
+        <translation>manca il membro &quot;kind&quot;</translation>
+    </message>
+    <message>
+        <source>it is not a JSON object</source>
+        <translation>non è un oggetto JSON</translation>
+    </message>
+    <message>
+        <source>there is a line behind the end of the case</source>
+        <translation>c&apos;è una riga dopo la fine del caso</translation>
+    </message>
+    <message>
+        <source>&quot;t&quot; is not a number of seconds since the start</source>
+        <translation>&quot;t&quot; non è un numero di secondi dall&apos;inizio</translation>
+    </message>
+    <message>
+        <source>this is not a case file</source>
+        <translation>non è un file di caso</translation>
+    </message>
+    <message>
+        <source>the case file has version %1, but this program reads version %2</source>
+        <translation>il file di caso ha la versione %1, ma questo programma legge la versione %2</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::CaseRecorder</name>
+    <message>
+        <source>nothing is kept in memory</source>
+        <translation>non viene conservato nulla in memoria</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::Preflight</name>
+    <message>
+        <source>%1 to %2</source>
+        <extracomment>Numbers of labels</extracomment>
+        <translation>da %1 a %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing is loaded, the job needs %2.</source>
+        <extracomment>%1 is a place of the printer, such as &quot;Ribbon 1&quot;. This holds for all texts that begin with it.</extracomment>
+        <translation>%1: non è caricato nulla, il lavoro richiede %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2 is loaded, the job needs %3.</source>
+        <translation>%1: è caricato %2, il lavoro richiede %3.</translation>
+    </message>
+    <message>
+        <source>The job needs the ribbon %1 as well, but the printer has no place for it.</source>
+        <translation>Il lavoro richiede anche il nastro %1, ma la stampante non ha posto per esso.</translation>
+    </message>
+    <message>
+        <source>No ribbon is loaded.</source>
+        <translation>Non è caricato alcun nastro.</translation>
+    </message>
+    <message>
+        <source>The ribbon %1 does not suit the supply %2: the catalogue has no print settings for the two.</source>
+        <translation>Il nastro %1 non è adatto al materiale %2: il catalogo non ha impostazioni di stampa per i due.</translation>
+    </message>
+    <message>
+        <source>%1: not enough. Labels left: %2, needed: %3, missing: %4.</source>
+        <translation>%1: insufficiente. Etichette rimaste: %2, necessarie: %3, mancanti: %4.</translation>
+    </message>
+    <message>
+        <source>%1: not enough. Labels left: %2, needed: %3, missing: at least %4.</source>
+        <translation>%1: insufficiente. Etichette rimaste: %2, necessarie: %3, mancanti: almeno %4.</translation>
+    </message>
+    <message>
+        <source>There is no label printer &quot;%1&quot;.</source>
+        <translation>Non c’è nessuna stampante di etichette &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>It is not known what is loaded, because the printer is not watched.</source>
+        <translation>Non si sa che cosa è caricato, perché la stampante non è sorvegliata.</translation>
+    </message>
+    <message>
+        <source>It is not known what is loaded, because the printer has not reported anything yet.</source>
+        <translation>Non si sa che cosa è caricato, perché la stampante non ha ancora segnalato nulla.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the printer can print, because it has not reported its status.</source>
+        <translation>Non si sa se la stampante può stampare, perché non ha segnalato il suo stato.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known what is loaded, because the printer does not report it.</source>
+        <translation>%1: non si sa che cosa è caricato, perché la stampante non lo segnala.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known what is loaded, because %2 is not in the catalogue.</source>
+        <translation>%1: non si sa che cosa è caricato, perché %2 non è nel catalogo.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known how much is left.</source>
+        <translation>%1: non si sa quanto ne rimane.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether %2 suits the supply, because the catalogue cannot be read.</source>
+        <translation>%1: non si sa se %2 è adatto al materiale, perché il catalogo non si può leggere.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known how many labels are left, because the catalogue has no length of a label for %2.</source>
+        <translation>%1: non si sa quante etichette rimangono, perché il catalogo non ha la lunghezza di un’etichetta per %2.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether it lasts, because the printer reports whole percents only. Labels left: %2, needed: %3.</source>
+        <translation>%1: non si sa se basta, perché la stampante segnala solo percentuali intere. Etichette rimaste: %2, necessarie: %3.</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether it lasts, because a label may take several of its colours. Labels left: %2, needed: %3.</source>
+        <translation>%1: non si sa se basta, perché un’etichetta può usare più colori del nastro. Etichette rimaste: %2, necessarie: %3.</translation>
+    </message>
+    <message>
+        <source>The printer is not ready: %1.</source>
+        <translation>La stampante non è pronta: %1.</translation>
+    </message>
+    <message>
+        <source>Ready. Labels left: %1, needed: %2.</source>
+        <translation>Pronta. Etichette rimaste: %1, necessarie: %2.</translation>
+    </message>
+    <message>
+        <source>Ready: what the job needs is loaded.</source>
+        <translation>Pronta: è caricato ciò che il lavoro richiede.</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::PrinterEvent</name>
+    <message>
+        <source>Ribbon 1: %1</source>
+        <translation>Nastro 1: %1</translation>
+    </message>
+    <message>
+        <source>Ribbon 2: %1</source>
+        <translation>Nastro 2: %1</translation>
+    </message>
+    <message>
+        <source>Supply: %1</source>
+        <translation>Materiale: %1</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 label</source>
+        <translation>%1 etichetta</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>%1 etichette</translation>
+    </message>
+    <message>
+        <source>%1 % left</source>
+        <translation>resta il %1 %</translation>
+    </message>
+    <message>
+        <source>nothing loaded</source>
+        <translation>niente caricato</translation>
+    </message>
+    <message>
+        <source>not in the catalogue (%1)</source>
+        <translation>non presente nel catalogo (%1)</translation>
+    </message>
+    <message>
+        <source>Firmware update failed, error %1</source>
+        <translation>Aggiornamento del firmware non riuscito, errore %1</translation>
+    </message>
+    <message>
+        <source>Firmware %1</source>
+        <translation>Firmware %1</translation>
+    </message>
+    <message>
+        <source>Firmware %1, was %2</source>
+        <translation>Firmware %1, prima %2</translation>
+    </message>
+    <message>
+        <source>Command failed: %1</source>
+        <translation>Comando non riuscito: %1</translation>
+    </message>
+    <message>
+        <source>Printer added</source>
+        <translation>Stampante aggiunta</translation>
+    </message>
+    <message>
+        <source>Printer removed</source>
+        <translation>Stampante rimossa</translation>
+    </message>
+    <message>
+        <source>Printer renamed, was %1</source>
+        <translation>Stampante rinominata, prima %1</translation>
+    </message>
+    <message>
+        <source>Print spooler stopped, no printer can be read</source>
+        <translation>Spooler di stampa arrestato, nessuna stampante può essere letta</translation>
+    </message>
+    <message>
+        <source>Print spooler is running again</source>
+        <translation>Lo spooler di stampa è di nuovo in esecuzione</translation>
+    </message>
+    <message>
+        <source>%1 event is missing since %2, because the log could not be written</source>
+        <translation>Manca %1 evento da %2 perché non è stato possibile scrivere il registro</translation>
+    </message>
+    <message>
+        <source>%1 events are missing since %2, because the log could not be written</source>
+        <translation>Mancano %1 eventi da %2 perché non è stato possibile scrivere il registro</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::PrinterForecasts</name>
+    <message>
+        <source>%1: few labels left: %2</source>
+        <translation>%1: restano poche etichette: %2</translation>
+    </message>
+    <message>
+        <source>%1: not enough for the job. Labels left: %2, needed: %3</source>
+        <translation>%1: insufficiente per il lavoro. Etichette rimaste: %2, necessarie: %3</translation>
+    </message>
+    <message>
+        <source>%1: will probably end before the shift does, at %2</source>
+        <translation>%1: finirà probabilmente prima del turno, alle %2</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::Slot</name>
+    <message>
+        <source>Ribbon 1</source>
+        <translation>Nastro 1</translation>
+    </message>
+    <message>
+        <source>Ribbon 2</source>
+        <translation>Nastro 2</translation>
+    </message>
+    <message>
+        <source>Supply</source>
+        <translation>Materiale</translation>
+    </message>
+</context>
+<context>
     <name>VxKit::StatusInfo</name>
     <message>
         <source>The printer is switched off, or it is not connected to this computer. Its driver is installed, and no fault has been reported.</source>
@@ -370,6 +623,18 @@
         <source>error</source>
         <translation>errore</translation>
     </message>
+    <message>
+        <source>Agent offline</source>
+        <translation>Agente offline</translation>
+    </message>
+    <message>
+        <source>Nothing is heard from the agent on the printer&apos;s computer. What is loaded is shown as it was last reported.</source>
+        <translation>Non arriva nulla dall’agente sul computer della stampante. Ciò che è caricato è mostrato come segnalato l’ultima volta.</translation>
+    </message>
+    <message>
+        <source>Check that the computer is switched on and connected to the network, and that vxprintagent is running there.</source>
+        <translation>Verificare che il computer sia acceso e collegato alla rete e che vxprintagent vi sia in esecuzione.</translation>
+    </message>
 </context>
 <context>
     <name>VxKit::SupplyCatalogue</name>
@@ -377,6 +642,53 @@
         <source>%1 %2</source>
         <extracomment>The name of a supply or ribbon for people. %1 is its colour or colours, such as &quot;Yellow&quot; or &quot;Black/Red&quot;, %2 its material, such as &quot;Vinyl&quot;.</extracomment>
         <translation>%2 %1</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::UsageHistory</name>
+    <message>
+        <source>%1: not an SQLite database</source>
+        <translation>%1: non è un database SQLite</translation>
+    </message>
+    <message>
+        <source>%1: not a file</source>
+        <translation>%1: non è un file</translation>
+    </message>
+    <message>
+        <source>%1: larger than 1 GiB</source>
+        <translation>%1: più grande di 1 GiB</translation>
+    </message>
+    <message>
+        <source>%1: no such file</source>
+        <translation>%1: il file non esiste</translation>
+    </message>
+    <message>
+        <source>%1: not yet in the format of this version</source>
+        <translation>%1: non ancora nel formato di questa versione</translation>
+    </message>
+    <message>
+        <source>%1: a database of another program</source>
+        <translation>%1: è un database di un altro programma</translation>
+    </message>
+    <message>
+        <source>%1: written by a newer version (its format is %2; this version knows formats up to %3)</source>
+        <translation>%1: scritto da una versione più recente (formato %2; questa versione conosce i formati fino a %3)</translation>
+    </message>
+    <message>
+        <source>%1: not the tables of a history</source>
+        <translation>%1: le tabelle non sono quelle di una cronologia</translation>
+    </message>
+    <message>
+        <source>another program is using it</source>
+        <translation>un altro programma lo sta usando</translation>
+    </message>
+    <message>
+        <source>%1: another program is writing to it</source>
+        <translation>%1: un altro programma vi sta scrivendo</translation>
+    </message>
+    <message>
+        <source>%1: another program has been reading it for too long</source>
+        <translation>%1: un altro programma lo sta leggendo da troppo tempo</translation>
     </message>
 </context>
 </TS>

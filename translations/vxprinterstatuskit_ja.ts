@@ -113,6 +113,259 @@
     </message>
 </context>
 <context>
+    <name>VxKit::CaseFile</name>
+    <message>
+        <source>%1: line %2: %3</source>
+        <extracomment>%1 is a file, %2 the number of a line in it, %3 what is wrong.</extracomment>
+        <translation>%1: %2 行目: %3</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>%1 バイトより長い行です</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 bytes</source>
+        <translation>ファイルが %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>the member &quot;kind&quot; is missing</source>
+        <translation>メンバー &quot;kind&quot; がありません</translation>
+    </message>
+    <message>
+        <source>it is not a JSON object</source>
+        <translation>JSON オブジェクトではありません</translation>
+    </message>
+    <message>
+        <source>there is a line behind the end of the case</source>
+        <translation>ケースの終わりの後に行があります</translation>
+    </message>
+    <message>
+        <source>&quot;t&quot; is not a number of seconds since the start</source>
+        <translation>&quot;t&quot; が開始からの秒数ではありません</translation>
+    </message>
+    <message>
+        <source>this is not a case file</source>
+        <translation>これはケース ファイルではありません</translation>
+    </message>
+    <message>
+        <source>the case file has version %1, but this program reads version %2</source>
+        <translation>ケース ファイルのバージョンは %1 ですが、このプログラムが読めるのはバージョン %2 です</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::CaseRecorder</name>
+    <message>
+        <source>nothing is kept in memory</source>
+        <translation>メモリに何も保持されていません</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::Preflight</name>
+    <message>
+        <source>%1 to %2</source>
+        <extracomment>Numbers of labels</extracomment>
+        <translation>%1～%2</translation>
+    </message>
+    <message>
+        <source>%1: nothing is loaded, the job needs %2.</source>
+        <extracomment>%1 is a place of the printer, such as &quot;Ribbon 1&quot;. This holds for all texts that begin with it.</extracomment>
+        <translation>%1: 何もセットされていません。ジョブには %2 が必要です。</translation>
+    </message>
+    <message>
+        <source>%1: %2 is loaded, the job needs %3.</source>
+        <translation>%1: %2 がセットされていますが、ジョブには %3 が必要です。</translation>
+    </message>
+    <message>
+        <source>The job needs the ribbon %1 as well, but the printer has no place for it.</source>
+        <translation>ジョブにはリボン %1 も必要ですが、プリンターにはセットする場所がありません。</translation>
+    </message>
+    <message>
+        <source>No ribbon is loaded.</source>
+        <translation>リボンがセットされていません。</translation>
+    </message>
+    <message>
+        <source>The ribbon %1 does not suit the supply %2: the catalogue has no print settings for the two.</source>
+        <translation>リボン %1 はサプライ %2 に適していません: この組み合わせの印刷設定がカタログにありません。</translation>
+    </message>
+    <message>
+        <source>%1: not enough. Labels left: %2, needed: %3, missing: %4.</source>
+        <translation>%1: 足りません。ラベルの残り: %2、必要: %3、不足: %4。</translation>
+    </message>
+    <message>
+        <source>%1: not enough. Labels left: %2, needed: %3, missing: at least %4.</source>
+        <translation>%1: 足りません。ラベルの残り: %2、必要: %3、不足: 少なくとも %4。</translation>
+    </message>
+    <message>
+        <source>There is no label printer &quot;%1&quot;.</source>
+        <translation>ラベルプリンター「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>It is not known what is loaded, because the printer is not watched.</source>
+        <translation>プリンターが監視されていないため、何がセットされているか不明です。</translation>
+    </message>
+    <message>
+        <source>It is not known what is loaded, because the printer has not reported anything yet.</source>
+        <translation>プリンターからまだ何も報告されていないため、何がセットされているか不明です。</translation>
+    </message>
+    <message>
+        <source>It is not known whether the printer can print, because it has not reported its status.</source>
+        <translation>プリンターの状態が報告されていないため、印刷できるかどうか不明です。</translation>
+    </message>
+    <message>
+        <source>%1: it is not known what is loaded, because the printer does not report it.</source>
+        <translation>%1: プリンターが報告しないため、何がセットされているか不明です。</translation>
+    </message>
+    <message>
+        <source>%1: it is not known what is loaded, because %2 is not in the catalogue.</source>
+        <translation>%1: %2 がカタログにないため、何がセットされているか不明です。</translation>
+    </message>
+    <message>
+        <source>%1: it is not known how much is left.</source>
+        <translation>%1: 残りの量は不明です。</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether %2 suits the supply, because the catalogue cannot be read.</source>
+        <translation>%1: カタログを読み取れないため、%2 がサプライに適しているか不明です。</translation>
+    </message>
+    <message>
+        <source>%1: it is not known how many labels are left, because the catalogue has no length of a label for %2.</source>
+        <translation>%1: カタログに %2 のラベルの長さがないため、残りの枚数は不明です。</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether it lasts, because the printer reports whole percents only. Labels left: %2, needed: %3.</source>
+        <translation>%1: プリンターが整数のパーセントしか報告しないため、足りるか不明です。ラベルの残り: %2、必要: %3。</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether it lasts, because a label may take several of its colours. Labels left: %2, needed: %3.</source>
+        <translation>%1: 1 枚のラベルに複数の色を使う場合があるため、足りるか不明です。ラベルの残り: %2、必要: %3。</translation>
+    </message>
+    <message>
+        <source>The printer is not ready: %1.</source>
+        <translation>プリンターの準備ができていません: %1。</translation>
+    </message>
+    <message>
+        <source>Ready. Labels left: %1, needed: %2.</source>
+        <translation>準備ができています。ラベルの残り: %1、必要: %2。</translation>
+    </message>
+    <message>
+        <source>Ready: what the job needs is loaded.</source>
+        <translation>準備ができています: ジョブに必要なものがセットされています。</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::PrinterEvent</name>
+    <message>
+        <source>Ribbon 1: %1</source>
+        <translation>リボン 1: %1</translation>
+    </message>
+    <message>
+        <source>Ribbon 2: %1</source>
+        <translation>リボン 2: %1</translation>
+    </message>
+    <message>
+        <source>Supply: %1</source>
+        <translation>サプライ: %1</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 label</source>
+        <translation>ラベル %1 枚</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>ラベル %1 枚</translation>
+    </message>
+    <message>
+        <source>%1 % left</source>
+        <translation>残り %1 %</translation>
+    </message>
+    <message>
+        <source>nothing loaded</source>
+        <translation>セットされていません</translation>
+    </message>
+    <message>
+        <source>not in the catalogue (%1)</source>
+        <translation>カタログにありません (%1)</translation>
+    </message>
+    <message>
+        <source>Firmware update failed, error %1</source>
+        <translation>ファームウェアを更新できませんでした (エラー %1)</translation>
+    </message>
+    <message>
+        <source>Firmware %1</source>
+        <translation>ファームウェア %1</translation>
+    </message>
+    <message>
+        <source>Firmware %1, was %2</source>
+        <translation>ファームウェア %1 (以前は %2)</translation>
+    </message>
+    <message>
+        <source>Command failed: %1</source>
+        <translation>コマンドを送信できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Printer added</source>
+        <translation>プリンターが追加されました</translation>
+    </message>
+    <message>
+        <source>Printer removed</source>
+        <translation>プリンターが削除されました</translation>
+    </message>
+    <message>
+        <source>Printer renamed, was %1</source>
+        <translation>プリンター名が変更されました (以前は %1)</translation>
+    </message>
+    <message>
+        <source>Print spooler stopped, no printer can be read</source>
+        <translation>Print Spooler が停止したため、プリンターを読み取れません</translation>
+    </message>
+    <message>
+        <source>Print spooler is running again</source>
+        <translation>Print Spooler が再び動作しています</translation>
+    </message>
+    <message>
+        <source>%1 event is missing since %2, because the log could not be written</source>
+        <translation>ログに書き込めなかったため、%2 以降の %1 件のイベントがありません</translation>
+    </message>
+    <message>
+        <source>%1 events are missing since %2, because the log could not be written</source>
+        <translation>ログに書き込めなかったため、%2 以降の %1 件のイベントがありません</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::PrinterForecasts</name>
+    <message>
+        <source>%1: few labels left: %2</source>
+        <translation>%1: ラベルの残りわずか: %2</translation>
+    </message>
+    <message>
+        <source>%1: not enough for the job. Labels left: %2, needed: %3</source>
+        <translation>%1: ジョブに足りません。ラベルの残り: %2、必要: %3</translation>
+    </message>
+    <message>
+        <source>%1: will probably end before the shift does, at %2</source>
+        <translation>%1: シフトの終わり (%2) より前になくなる見込みです</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::Slot</name>
+    <message>
+        <source>Ribbon 1</source>
+        <translation>リボン 1</translation>
+    </message>
+    <message>
+        <source>Ribbon 2</source>
+        <translation>リボン 2</translation>
+    </message>
+    <message>
+        <source>Supply</source>
+        <translation>サプライ</translation>
+    </message>
+</context>
+<context>
     <name>VxKit::StatusInfo</name>
     <message>
         <source>The printer is switched off, or it is not connected to this computer. Its driver is installed, and no fault has been reported.</source>
@@ -370,6 +623,18 @@
         <source>error</source>
         <translation>エラー</translation>
     </message>
+    <message>
+        <source>Agent offline</source>
+        <translation>エージェントがオフライン</translation>
+    </message>
+    <message>
+        <source>Nothing is heard from the agent on the printer&apos;s computer. What is loaded is shown as it was last reported.</source>
+        <translation>プリンターのコンピューターのエージェントから何も届いていません。装着されているものは、最後に報告された状態で表示されています。</translation>
+    </message>
+    <message>
+        <source>Check that the computer is switched on and connected to the network, and that vxprintagent is running there.</source>
+        <translation>コンピューターの電源が入りネットワークに接続されていること、および vxprintagent が動作していることを確認してください。</translation>
+    </message>
 </context>
 <context>
     <name>VxKit::SupplyCatalogue</name>
@@ -377,6 +642,53 @@
         <source>%1 %2</source>
         <extracomment>The name of a supply or ribbon for people. %1 is its colour or colours, such as &quot;Yellow&quot; or &quot;Black/Red&quot;, %2 its material, such as &quot;Vinyl&quot;.</extracomment>
         <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::UsageHistory</name>
+    <message>
+        <source>%1: not an SQLite database</source>
+        <translation>%1: SQLite データベースではありません</translation>
+    </message>
+    <message>
+        <source>%1: not a file</source>
+        <translation>%1: ファイルではありません</translation>
+    </message>
+    <message>
+        <source>%1: larger than 1 GiB</source>
+        <translation>%1: 1 GiB を超えています</translation>
+    </message>
+    <message>
+        <source>%1: no such file</source>
+        <translation>%1: ファイルがありません</translation>
+    </message>
+    <message>
+        <source>%1: not yet in the format of this version</source>
+        <translation>%1: まだこのバージョンの形式になっていません</translation>
+    </message>
+    <message>
+        <source>%1: a database of another program</source>
+        <translation>%1: 別のプログラムのデータベースです</translation>
+    </message>
+    <message>
+        <source>%1: written by a newer version (its format is %2; this version knows formats up to %3)</source>
+        <translation>%1: より新しいバージョンで書かれています (形式 %2。このバージョンが読める形式は %3 まで)</translation>
+    </message>
+    <message>
+        <source>%1: not the tables of a history</source>
+        <translation>%1: 履歴の表ではありません</translation>
+    </message>
+    <message>
+        <source>another program is using it</source>
+        <translation>別のプログラムが使用中です</translation>
+    </message>
+    <message>
+        <source>%1: another program is writing to it</source>
+        <translation>%1: 別のプログラムが書き込んでいます</translation>
+    </message>
+    <message>
+        <source>%1: another program has been reading it for too long</source>
+        <translation>%1: 別のプログラムが長時間読み取り中です</translation>
     </message>
 </context>
 </TS>

@@ -113,6 +113,259 @@
     </message>
 </context>
 <context>
+    <name>VxKit::CaseFile</name>
+    <message>
+        <source>%1: line %2: %3</source>
+        <extracomment>%1 is a file, %2 the number of a line in it, %3 what is wrong.</extracomment>
+        <translation>%1：第 %2 行：%3</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>该行超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 bytes</source>
+        <translation>文件超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>the member &quot;kind&quot; is missing</source>
+        <translation>缺少成员 &quot;kind&quot;</translation>
+    </message>
+    <message>
+        <source>it is not a JSON object</source>
+        <translation>不是 JSON 对象</translation>
+    </message>
+    <message>
+        <source>there is a line behind the end of the case</source>
+        <translation>在案例结束之后还有一行</translation>
+    </message>
+    <message>
+        <source>&quot;t&quot; is not a number of seconds since the start</source>
+        <translation>&quot;t&quot; 不是自开始以来的秒数</translation>
+    </message>
+    <message>
+        <source>this is not a case file</source>
+        <translation>这不是案例文件</translation>
+    </message>
+    <message>
+        <source>the case file has version %1, but this program reads version %2</source>
+        <translation>案例文件的版本是 %1，而本程序读取的版本是 %2</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::CaseRecorder</name>
+    <message>
+        <source>nothing is kept in memory</source>
+        <translation>内存中没有保存任何内容</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::Preflight</name>
+    <message>
+        <source>%1 to %2</source>
+        <extracomment>Numbers of labels</extracomment>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing is loaded, the job needs %2.</source>
+        <extracomment>%1 is a place of the printer, such as &quot;Ribbon 1&quot;. This holds for all texts that begin with it.</extracomment>
+        <translation>%1：未装入任何东西，作业需要 %2。</translation>
+    </message>
+    <message>
+        <source>%1: %2 is loaded, the job needs %3.</source>
+        <translation>%1：已装入 %2，作业需要 %3。</translation>
+    </message>
+    <message>
+        <source>The job needs the ribbon %1 as well, but the printer has no place for it.</source>
+        <translation>作业还需要色带 %1，但打印机没有可装入的位置。</translation>
+    </message>
+    <message>
+        <source>No ribbon is loaded.</source>
+        <translation>未装入色带。</translation>
+    </message>
+    <message>
+        <source>The ribbon %1 does not suit the supply %2: the catalogue has no print settings for the two.</source>
+        <translation>色带 %1 与耗材 %2 不匹配：目录中没有两者的打印设置。</translation>
+    </message>
+    <message>
+        <source>%1: not enough. Labels left: %2, needed: %3, missing: %4.</source>
+        <translation>%1：不足。剩余标签：%2，需要：%3，缺少：%4。</translation>
+    </message>
+    <message>
+        <source>%1: not enough. Labels left: %2, needed: %3, missing: at least %4.</source>
+        <translation>%1：不足。剩余标签：%2，需要：%3，缺少：至少 %4。</translation>
+    </message>
+    <message>
+        <source>There is no label printer &quot;%1&quot;.</source>
+        <translation>没有标签打印机“%1”。</translation>
+    </message>
+    <message>
+        <source>It is not known what is loaded, because the printer is not watched.</source>
+        <translation>不知道装入了什么，因为该打印机未被监视。</translation>
+    </message>
+    <message>
+        <source>It is not known what is loaded, because the printer has not reported anything yet.</source>
+        <translation>不知道装入了什么，因为打印机尚未报告任何信息。</translation>
+    </message>
+    <message>
+        <source>It is not known whether the printer can print, because it has not reported its status.</source>
+        <translation>不知道打印机能否打印，因为它尚未报告状态。</translation>
+    </message>
+    <message>
+        <source>%1: it is not known what is loaded, because the printer does not report it.</source>
+        <translation>%1：不知道装入了什么，因为打印机不报告。</translation>
+    </message>
+    <message>
+        <source>%1: it is not known what is loaded, because %2 is not in the catalogue.</source>
+        <translation>%1：不知道装入了什么，因为 %2 不在目录中。</translation>
+    </message>
+    <message>
+        <source>%1: it is not known how much is left.</source>
+        <translation>%1：不知道还剩多少。</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether %2 suits the supply, because the catalogue cannot be read.</source>
+        <translation>%1：不知道 %2 是否与耗材匹配，因为无法读取目录。</translation>
+    </message>
+    <message>
+        <source>%1: it is not known how many labels are left, because the catalogue has no length of a label for %2.</source>
+        <translation>%1：不知道还剩多少张标签，因为目录中没有 %2 的标签长度。</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether it lasts, because the printer reports whole percents only. Labels left: %2, needed: %3.</source>
+        <translation>%1：不知道是否够用，因为打印机只报告整数百分比。剩余标签：%2，需要：%3。</translation>
+    </message>
+    <message>
+        <source>%1: it is not known whether it lasts, because a label may take several of its colours. Labels left: %2, needed: %3.</source>
+        <translation>%1：不知道是否够用，因为一张标签可能用到其中多种颜色。剩余标签：%2，需要：%3。</translation>
+    </message>
+    <message>
+        <source>The printer is not ready: %1.</source>
+        <translation>打印机未就绪：%1。</translation>
+    </message>
+    <message>
+        <source>Ready. Labels left: %1, needed: %2.</source>
+        <translation>就绪。剩余标签：%1，需要：%2。</translation>
+    </message>
+    <message>
+        <source>Ready: what the job needs is loaded.</source>
+        <translation>就绪：作业所需的已装入。</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::PrinterEvent</name>
+    <message>
+        <source>Ribbon 1: %1</source>
+        <translation>色带 1：%1</translation>
+    </message>
+    <message>
+        <source>Ribbon 2: %1</source>
+        <translation>色带 2：%1</translation>
+    </message>
+    <message>
+        <source>Supply: %1</source>
+        <translation>耗材：%1</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 米</translation>
+    </message>
+    <message>
+        <source>%1 label</source>
+        <translation>%1 张标签</translation>
+    </message>
+    <message>
+        <source>%1 labels</source>
+        <translation>%1 张标签</translation>
+    </message>
+    <message>
+        <source>%1 % left</source>
+        <translation>剩余 %1 %</translation>
+    </message>
+    <message>
+        <source>nothing loaded</source>
+        <translation>未装入</translation>
+    </message>
+    <message>
+        <source>not in the catalogue (%1)</source>
+        <translation>不在目录中 (%1)</translation>
+    </message>
+    <message>
+        <source>Firmware update failed, error %1</source>
+        <translation>固件更新失败，错误 %1</translation>
+    </message>
+    <message>
+        <source>Firmware %1</source>
+        <translation>固件 %1</translation>
+    </message>
+    <message>
+        <source>Firmware %1, was %2</source>
+        <translation>固件 %1，之前为 %2</translation>
+    </message>
+    <message>
+        <source>Command failed: %1</source>
+        <translation>命令失败：%1</translation>
+    </message>
+    <message>
+        <source>Printer added</source>
+        <translation>已添加打印机</translation>
+    </message>
+    <message>
+        <source>Printer removed</source>
+        <translation>已删除打印机</translation>
+    </message>
+    <message>
+        <source>Printer renamed, was %1</source>
+        <translation>打印机已重命名，之前为 %1</translation>
+    </message>
+    <message>
+        <source>Print spooler stopped, no printer can be read</source>
+        <translation>Print Spooler 已停止，无法读取任何打印机</translation>
+    </message>
+    <message>
+        <source>Print spooler is running again</source>
+        <translation>Print Spooler 已重新运行</translation>
+    </message>
+    <message>
+        <source>%1 event is missing since %2, because the log could not be written</source>
+        <translation>由于无法写入日志，自 %2 起缺少 %1 个事件</translation>
+    </message>
+    <message>
+        <source>%1 events are missing since %2, because the log could not be written</source>
+        <translation>由于无法写入日志，自 %2 起缺少 %1 个事件</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::PrinterForecasts</name>
+    <message>
+        <source>%1: few labels left: %2</source>
+        <translation>%1：标签所剩不多：%2</translation>
+    </message>
+    <message>
+        <source>%1: not enough for the job. Labels left: %2, needed: %3</source>
+        <translation>%1：不够用于该作业。剩余标签：%2，需要：%3</translation>
+    </message>
+    <message>
+        <source>%1: will probably end before the shift does, at %2</source>
+        <translation>%1：可能在本班 %2 结束之前用完</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::Slot</name>
+    <message>
+        <source>Ribbon 1</source>
+        <translation>色带 1</translation>
+    </message>
+    <message>
+        <source>Ribbon 2</source>
+        <translation>色带 2</translation>
+    </message>
+    <message>
+        <source>Supply</source>
+        <translation>耗材</translation>
+    </message>
+</context>
+<context>
     <name>VxKit::StatusInfo</name>
     <message>
         <source>The printer is switched off, or it is not connected to this computer. Its driver is installed, and no fault has been reported.</source>
@@ -370,6 +623,18 @@
         <source>error</source>
         <translation>错误</translation>
     </message>
+    <message>
+        <source>Agent offline</source>
+        <translation>代理程序脱机</translation>
+    </message>
+    <message>
+        <source>Nothing is heard from the agent on the printer&apos;s computer. What is loaded is shown as it was last reported.</source>
+        <translation>未收到打印机所在计算机上代理程序的任何消息。装载的耗材按最后一次报告的状态显示。</translation>
+    </message>
+    <message>
+        <source>Check that the computer is switched on and connected to the network, and that vxprintagent is running there.</source>
+        <translation>请检查计算机是否已开机并连接到网络，以及 vxprintagent 是否正在其上运行。</translation>
+    </message>
 </context>
 <context>
     <name>VxKit::SupplyCatalogue</name>
@@ -377,6 +642,53 @@
         <source>%1 %2</source>
         <extracomment>The name of a supply or ribbon for people. %1 is its colour or colours, such as &quot;Yellow&quot; or &quot;Black/Red&quot;, %2 its material, such as &quot;Vinyl&quot;.</extracomment>
         <translation>%1%2</translation>
+    </message>
+</context>
+<context>
+    <name>VxKit::UsageHistory</name>
+    <message>
+        <source>%1: not an SQLite database</source>
+        <translation>%1：不是 SQLite 数据库</translation>
+    </message>
+    <message>
+        <source>%1: not a file</source>
+        <translation>%1：不是文件</translation>
+    </message>
+    <message>
+        <source>%1: larger than 1 GiB</source>
+        <translation>%1：大于 1 GiB</translation>
+    </message>
+    <message>
+        <source>%1: no such file</source>
+        <translation>%1：没有这个文件</translation>
+    </message>
+    <message>
+        <source>%1: not yet in the format of this version</source>
+        <translation>%1：尚未转换为此版本的格式</translation>
+    </message>
+    <message>
+        <source>%1: a database of another program</source>
+        <translation>%1：属于其他程序的数据库</translation>
+    </message>
+    <message>
+        <source>%1: written by a newer version (its format is %2; this version knows formats up to %3)</source>
+        <translation>%1：由更新的版本写入（格式为 %2；此版本支持的格式最高为 %3）</translation>
+    </message>
+    <message>
+        <source>%1: not the tables of a history</source>
+        <translation>%1：其中的表不是历史记录的表</translation>
+    </message>
+    <message>
+        <source>another program is using it</source>
+        <translation>其他程序正在使用它</translation>
+    </message>
+    <message>
+        <source>%1: another program is writing to it</source>
+        <translation>%1：其他程序正在写入</translation>
+    </message>
+    <message>
+        <source>%1: another program has been reading it for too long</source>
+        <translation>%1：其他程序读取时间过长</translation>
     </message>
 </context>
 </TS>
