@@ -6,9 +6,9 @@
 #include "benchmark_support.h"
 #include "by_hand.h"
 #include "printer_status_controller.h"
+#include "silent_appender.h"
 #include "vx_ipc_supplyd_controller.h"
 
-#include <AbstractAppender.h>
 #include <Logger.h>
 #include <virtualwindows/machine.h>
 
@@ -63,15 +63,6 @@ double microseconds(Clock::duration time)
 {
     return std::chrono::duration<double, std::micro>(time).count();
 }
-
-/// Drops the lines of the log, which would go to the terminal otherwise.
-class SilentAppender final : public AbstractAppender
-{
-protected:
-    void append(const QDateTime&, Logger::LogLevel, const char*, int, const char*, const QString&,
-                const QString&) override
-    {}
-};
 
 const QString labelDriver = QStringLiteral("Stratamark BirchMax");
 /// Not a supported model, so that the controller ignores it.

@@ -6,8 +6,8 @@
 #include "benchmark_support.h"
 #include "printer_readings.h"
 #include "printer_status_controller.h"
+#include "silent_appender.h"
 
-#include <AbstractAppender.h>
 #include <Logger.h>
 #include <virtualwindows/machine.h>
 
@@ -51,15 +51,6 @@ double microseconds(Clock::duration time)
 {
     return std::chrono::duration<double, std::micro>(time).count();
 }
-
-/// Drops the lines of the log, which would go to the terminal otherwise.
-class SilentAppender final : public AbstractAppender
-{
-protected:
-    void append(const QDateTime&, Logger::LogLevel, const char*, int, const char*, const QString&,
-                const QString&) override
-    {}
-};
 
 QString printerName(int number)
 {
