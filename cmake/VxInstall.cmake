@@ -4,6 +4,7 @@
 # What is installed: the library for hosts with its CMake package, and the tools.
 
 include(CMakePackageConfigHelpers)
+include(VxInstallFleet)
 
 set(VX_PACKAGE_FOLDER "${CMAKE_INSTALL_LIBDIR}/cmake/VxPrinterStatus")
 set(VX_HEADER_FOLDER "${CMAKE_INSTALL_INCLUDEDIR}/VxPrinterStatus")
@@ -51,13 +52,13 @@ else()
     set(VX_LOGS_THROUGH_INSTALLED TRUE)
     install(FILES cmake/FindCuteLogger.cmake DESTINATION "${VX_PACKAGE_FOLDER}")
     cmake_path(GET CuteLogger_LIBRARY PARENT_PATH logger_folder)
-    foreach(target vxprinterstatus vxprintmon)
+    foreach(target vxprinterstatus vxprintmon vxprintview vxprintagent)
         if(TARGET ${target})
             set_property(TARGET ${target} APPEND PROPERTY INSTALL_RPATH "${logger_folder}")
         endif()
     endforeach()
 endif()
-foreach(tool vxprintmon vxipc_tool rolldb)
+foreach(tool vxprintmon vxprintview vxprintagent vxipc_tool rolldb)
     if(TARGET ${tool})
         install(TARGETS ${tool} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
     endif()
@@ -73,6 +74,16 @@ install(TARGETS vxprinterstatuskit EXPORT VxPrinterStatusKitTargets
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 install(DIRECTORY kit/include/ DESTINATION "${VX_HEADER_FOLDER}")
 install(EXPORT VxPrinterStatusKitTargets NAMESPACE Vx:: DESTINATION "${VX_PACKAGE_FOLDER}")
+# So are the widgets, which use the kit.
+if(TARGET vxprinterstatuswidgets)
+    install(TARGETS vxprinterstatuswidgets EXPORT VxPrinterStatusWidgetsTargets
+        RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+    install(DIRECTORY widgets/include/ DESTINATION "${VX_HEADER_FOLDER}")
+    install(EXPORT VxPrinterStatusWidgetsTargets NAMESPACE Vx::
+        DESTINATION "${VX_PACKAGE_FOLDER}")
+endif()
 # Clients of the status service in other languages, and a catalogue to begin with.
 install(DIRECTORY examples/clients DESTINATION "${CMAKE_INSTALL_DATADIR}/VxPrinterStatus"
     PATTERN __pycache__ EXCLUDE)

@@ -26,6 +26,7 @@ LIBRARIES = {
     "Qt": "Qt",
     "json/": "JsonCpp",
     "rapidjson/": "RapidJSON",
+    "mosquitto.h": "libmosquitto",
     "sqlite3.h": "SQLite",
     "benchmark/": "Google Benchmark",
     "tl/": "tl::expected",

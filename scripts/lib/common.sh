@@ -10,6 +10,9 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 script=$(basename "$0")
 cache=${VX_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/vxprinterstatus}
 jobs=$(nproc)
+# Many tests wait most of the time, for processes or for intervals that the product waits.
+# shellcheck disable=SC2034 # the scripts that source this file use it
+test_jobs=$((2 * jobs))
 
 say() { printf '%s: %s\n' "$script" "$*" >&2; }
 
@@ -33,6 +36,32 @@ as_root() {
 
 installed() { dpkg-query -W -f '${Status}\n' "$1" 2>/dev/null | grep -q ' installed$'; }
 
+# without_services COMMAND...: runs it so that the packages that it installs do not start their services:
+# brokers and Prometheus are needed as programs only, and would take their usual ports.
+without_services() (
+    policy=/usr/sbin/policy-rc.d
+    if ! [ -e "$policy" ]; then
+        trap 'as_root rm -f "$policy"' EXIT
+        printf '#!/bin/sh\nexit 101\n' | as_root tee "$policy" >/dev/null
+        as_root chmod 755 "$policy"
+    fi
+    "$@"
+)
+
+# keep_services_off PACKAGE...: does what without_services cannot: the services of the packages do not start with
+# the system either, and one that an administrator's own policy let start is stopped.
+keep_services_off() {
+    local services now=()
+    command -v systemctl >/dev/null || return 0
+    mapfile -t services < <(dpkg-query -L "$@" |
+        sed -nE 's,^(/usr)?/lib/systemd/system/([^/@]+\.(service|socket|timer))$,\2,p' | sort -u)
+    [ ${#services[@]} != 0 ] || return 0
+    [ ! -d /run/systemd/system ] || now=(--now)
+    say "not needed as services, and switched off: ${services[*]}"
+    as_root systemctl disable --quiet "${now[@]}" "${services[@]}" 2>/dev/null ||
+        say "systemctl could not switch them off"
+}
+
 # need_packages NAME...: installs missing packages and prints their names. Returns quickly if none is
 # missing.
 need_packages() {
@@ -50,16 +79,34 @@ need_packages() {
         # Only one run at a time: apt-get does not wait while another run fetches the lists.
         flock 8
         as_root apt-get "${quiet[@]}" update
-        as_root env DEBIAN_FRONTEND=noninteractive apt-get "${quiet[@]}" install -y \
-            --no-install-recommends "${missing[@]}"
+        without_services as_root env DEBIAN_FRONTEND=noninteractive apt-get "${quiet[@]}" install -y \
+            --no-install-recommends "${missing[@]}" && keep_services_off "${missing[@]}"
     } >&2 8>"$cache/packages.lock" || fail "apt-get could not install: ${missing[*]}"
 }
 
 # shellcheck disable=SC2034 # the scripts that source this file use it
-native_packages=(ca-certificates ccache cmake g++ libgl1-mesa-dev libjsoncpp-dev libqt6sql6-sqlite
-    libsqlite3-dev ninja-build nodejs pkg-config python3 python3-jsonschema qml6-module-qtqml
-    qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-window qt6-base-dev
-    qt6-declarative-dev qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
+native_packages=(ca-certificates ccache cmake g++ libgl1-mesa-dev libjsoncpp-dev libmosquitto-dev
+    libqt6sql6-sqlite libsqlite3-dev mosquitto ninja-build nodejs openssl pkg-config python3
+    python3-jsonschema python3-pyte qml6-module-qtqml qml6-module-qtqml-workerscript
+    qml6-module-qtquick qml6-module-qtquick-window qt6-base-dev qt6-declarative-dev
+    qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
+
+# A broker with WebSockets for the page, and what rings alerts.
+# shellcheck disable=SC2034 # the scripts that source this file use it
+site_packages=(nats-server prometheus prometheus-alertmanager python3-paho-mqtt)
+
+# shellcheck disable=SC2034
+test_packages=(prometheus prometheus-alertmanager python3-prometheus-client)
+
+# Ubuntu has Chromium as a snap only; there the page is not tested.
+chromium_packages=()
+if grep -qs '^ID=debian$' /etc/os-release; then
+    chromium_packages=(chromium)
+fi
+# For the page and the brokers' configurations.
+# shellcheck disable=SC2034
+page_packages=(mosquitto mosquitto-clients nats-server openssl python3-paho-mqtt
+    "${chromium_packages[@]}")
 
 seconds_since() { echo $((SECONDS - $1)); }
 
@@ -75,6 +122,16 @@ follow_build() {
         fi
     done
     wait "$pid"
+}
+
+# fail_build NAME LOG: ends the script and says why a build failed, after its output.
+fail_build() {
+    cat "$2" >&2
+    if grep -q 'No space left on device' "$2"; then
+        fail "the build of $1 failed because the disk is full" \
+            "($(df --output=avail -h "$root" | tail -n 1 | tr -d ' ') are free in $root)"
+    fi
+    fail "the build of $1 failed"
 }
 
 # build_preset NAME [TARGETS [HOW_LONG]]: configures and builds, and prints the progress and how long it
@@ -98,13 +155,18 @@ build_preset() {
             fail "the build of $preset failed"
     else
         cmake --build "$root/build/$preset" --target "${targets[@]}" --parallel "$jobs" >"$log" 2>&1 &
-        follow_build $! "$log" || {
-            cat "$log" >&2
-            fail "the build of $preset failed"
-        }
+        follow_build $! "$log" || fail_build "$preset" "$log"
     fi
     rm -f "$log"
     say "built $preset in $(seconds_since $began) s"
+}
+
+# find_windows_libraries: builds what the Windows build stands on, unless that has been done, and exports
+# the prefixes.
+find_windows_libraries() {
+    VX_QT_MINGW=$("$root/scripts/build-qt" mingw) || fail "Qt for MinGW is not available"
+    VX_MQTT_MINGW=$("$root/scripts/build-mqtt") || fail "libmosquitto for MinGW is not available"
+    export VX_QT_MINGW VX_MQTT_MINGW
 }
 
 build_windows() { build_preset windows all "about 6 minutes on two cores, less with a filled ccache"; }
@@ -121,14 +183,29 @@ mingw_dll_folders() {
     done | sort -u
 }
 
-# use_wine PREFIX: creates the Wine prefix if it does not exist, and sets the path on which Windows
-# programs find their DLLs.
+# Starts an X display that nobody sees, on which Wine shows the windows of the tests that need one
+# (scripts/lib/run-under-wine).
+start_display() {
+    local number
+    exec {display_pipe}< <(exec Xvfb -displayfd 1 -screen 0 1600x1200x24 -nolisten tcp 2>/dev/null)
+    display_server=$!
+    read -r -t 60 number <&"$display_pipe" || fail "Xvfb did not start"
+    export VX_TEST_DISPLAY=:$number
+}
+
+end_display() {
+    kill "$display_server" 2>/dev/null || true
+}
+
+# use_wine PREFIX [SET_UP]: creates the Wine prefix if it does not exist, where it runs the script SET_UP,
+# and sets the path on which Windows programs find their DLLs.
 use_wine() {
     export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
     export QT_FORCE_STDERR_LOGGING=1
     local dll_folders
     mapfile -t dll_folders < <(mingw_dll_folders)
-    WINEPATH=$(windows_paths "$root/build/windows/bin" "$VX_QT_MINGW/bin" "${dll_folders[@]}")
+    WINEPATH=$(windows_paths "$root/build/windows/bin" "$VX_QT_MINGW/bin" \
+        ${VX_MQTT_MINGW:+"$VX_MQTT_MINGW/bin"} "${dll_folders[@]}")
     export WINEPATH
     # A run that was killed may have left its services running, in an unknown state.
     end_wine
@@ -142,6 +219,7 @@ use_wine() {
         # This key always exists on Windows, where CurrentControlSet is a link to ControlSet001.
         wine reg add 'HKLM\System\ControlSet001\Control\DeviceClasses' /f >/dev/null 2>&1 </dev/null ||
             fail "wine could not add a key to its registry"
+        [ $# -lt 2 ] || "$2" || fail "$2 failed"
         wineserver -w
         touch "$WINEPREFIX/ready"
     fi

@@ -103,21 +103,24 @@ def main():
         if not source.is_relative_to(root) or source.is_relative_to(build):
             continue
         inputs = recorded[re.search(r" -o (\S+)", entry["command"])[1]]
-        stamp = arguments.cache / key_of(entry, [source, *inputs], root, common, hashes)
-        if arguments.all or not stamp.exists():
-            todo.append((source, stamp))
-    todo = list({source: (source, stamp) for source, stamp in todo}.values())
+        key = key_of(entry, [source, *inputs], root, common, hashes)
+        if arguments.all or not (arguments.cache / key).exists():
+            todo.append((source, (entry, [source, *inputs], key)))
+    todo = list({source: (source, state) for source, state in todo}.values())
     print(f"tidy: {len(todo)} sources to check", file=sys.stderr)
 
     began, told, clean = time.monotonic(), time.monotonic(), True
     with (tempfile.TemporaryDirectory() as commands,
           concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool):
         without_precompiled_headers(entries, pathlib.Path(commands))
-        runs = {pool.submit(check, source, commands): stamp for source, stamp in todo}
+        runs = {pool.submit(check, source, commands): state for source, state in todo}
         for count, run in enumerate(concurrent.futures.as_completed(runs), 1):
             passed, output = run.result()
             if passed:
-                runs[run].touch()
+                # What was checked is not what the key names if somebody has edited it meanwhile.
+                entry, inputs, key = runs[run]
+                if key_of(entry, inputs, root, common, Hashes()) == key:
+                    (arguments.cache / key).touch()
             else:
                 clean = False
                 print(output.replace(f"{root}/", ""), flush=True)

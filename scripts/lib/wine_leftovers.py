@@ -20,12 +20,17 @@ import tempfile
 prefix = pathlib.Path(os.environ["WINEPREFIX"])
 
 # Changes that any run causes. Wine counts the starts of services, records the screens that it finds, and
-# creates the parent keys of drivers and printers with the first of them. The library creates the folder in
-# which processes publish their endpoints; a process that a test has killed leaves its entry there.
+# creates the parent keys of drivers and printers with the first of them. Its "Temporary System Parameters" are
+# volatile: reading a setting of the mouse or the desktop for the first time creates the key of the setting.
+# When a program first asks for certificates, Wine copies those that the build machine trusts. The library
+# creates the folder in which processes publish their endpoints; a process that a test has killed leaves its
+# entry there.
 EXPECTED = re.compile(
     r"\[HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Control\\(ServiceCurrent|Video)\b"
     r"|\\Print\\Environments\\Windows x64\\Drivers(\\Version-3)?\] ?$"
     r"|\\Windows NT\\CurrentVersion\\(Devices|PrinterPorts|Windows)\] ?$"
+    r"|\\Software\\Wine\\Temporary System Parameters\\"
+    r"|\\Microsoft\\SystemCertificates(\\|\])"
     r"|drive_c/users/[^/]+/Temp/vxipc(/vxipc-\d+)?$")
 
 

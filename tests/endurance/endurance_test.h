@@ -47,7 +47,7 @@ QList<PrinterValue> withoutMileages(const QList<PrinterValue>& values);
 QString difference(const PrinterStatusInformation& actual,
                    const PrinterStatusInformation& expected);
 
-inline constexpr qint64 mebibyte = 1024 * 1024;
+inline constexpr qint64 mebibyte = qint64(1024) * 1024;
 
 /// The resources that the process holds and that a controller must not leave behind.
 struct Footprint

@@ -118,6 +118,19 @@ class RunUntilSilent(unittest.TestCase):
                 runner.send_signal(number)
                 wait_for_end(test)
 
+    def test_tests_are_interrupted_also_in_the_background(self):
+        def be_in_the_background():
+            for number in (signal.SIGINT, signal.SIGQUIT):
+                signal.signal(number, signal.SIG_IGN)
+
+        for number in (signal.SIGINT, signal.SIGQUIT):
+            done = subprocess.run(
+                [RUNNER, "--idle", FAR, "--work", FAR, "sh", "-c", f"kill -{int(number)} $$; echo alive"],
+                stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                preexec_fn=be_in_the_background)
+            self.assertEqual(done.stdout, "")
+            self.assertNotEqual(done.returncode, 0)
+
     def test_reports_a_program_that_cannot_be_started(self):
         done = subprocess.run([RUNNER, "no/such/program"], stdout=subprocess.PIPE,
                               stderr=subprocess.STDOUT, text=True)
