@@ -102,3 +102,4 @@ install(FILES
     "${PROJECT_BINARY_DIR}/VxPrinterStatusConfig.cmake"
     "${PROJECT_BINARY_DIR}/VxPrinterStatusConfigVersion.cmake"
     DESTINATION "${VX_PACKAGE_FOLDER}")
+include(VxHelpPages)
