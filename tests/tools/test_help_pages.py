@@ -281,7 +281,7 @@ class Bash(Completion, Pages):
             self.assertEqual(shell.completed(f"{MONITOR} list --virtual=buil\t"), f"{MONITOR} list --virtual=built-in")
             self.assertEqual(shell.completed(f"{MONITOR} status --virtual 'a fleet.json' It\t"),
                              f"{MONITOR} status --virtual a fleet.json It's")
-            self.assertEqual(shell.completed(f"{MONITOR} status --virtual 'a fleet.json' $\t"),
+            self.assertEqual(shell.completed(f"{MONITOR} status --virtual 'a fleet.json' '$\t"),
                              f"{MONITOR} status --virtual a fleet.json $(touch x)")
         self.assertEqual(sorted(os.listdir(self.files)), ["a fleet.json", "a folder"])
 
