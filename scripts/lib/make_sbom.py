@@ -277,7 +277,7 @@ class Bill:
     def linked_part(self, file, library):
         component = self.licences.of_file(library)
         if self.licences.is_own(library) and not component:
-            return None
+            return None if library.lower() in self.present else self.own_part(library)
         if file.is_pe:
             if component:
                 return self.part(component)
@@ -293,6 +293,11 @@ class Bill:
             raise Mistake(f"{file.place} is linked with {library} of the package {name} (source {source}), which is "
                           f"no component in {self.licences.path.name}; add it there with its licence")
         return self.part(component, name, version, f"pkg:deb/debian/{name}@{version.replace(':', '%3A')}")
+
+    def own_part(self, library):
+        """A library of ours that another package brings."""
+        component = Component({"name": library, "licence": OWN_LICENCE, "reason": f"part of {PROJECT} itself"})
+        return self.part(component, library, self.arguments.version)
 
     def find_static(self, file):
         for component in self.licences.components:

@@ -274,11 +274,11 @@ class Bash(Completion, Pages):
                        "echo rea''dy\n")
             shell.wait_for("ready")
             self.assertEqual(shell.completed(f"{MONITOR} status Bra\t"), f"{MONITOR} status Branch Office")
-            self.assertEqual(shell.completed(f'{MONITOR} status "Fron\t'), f"{MONITOR} status Front Desk Laser")
+            self.assertEqual(shell.completed(f'{MONITOR} status "Front D\t'), f"{MONITOR} status Front Desk Laser")
             self.assertEqual(shell.completed(f"{MONITOR} status Branch\\ O\t"), f"{MONITOR} status Branch Office")
             self.assertEqual(shell.completed(f"{MONITOR} fore\t"), f"{MONITOR} forecast")
             self.assertEqual(shell.completed(f"{MONITOR} log a\\ fl\t"), f"{MONITOR} log a fleet.json")
-            self.assertEqual(shell.completed(f"{MONITOR} list --virtual=buil\t"), f"{MONITOR} list --virtual=built-in")
+            self.assertEqual(shell.completed(f"{MONITOR} list --virtual=built\t"), f"{MONITOR} list --virtual=built-in")
             self.assertEqual(shell.completed(f"{MONITOR} status --virtual 'a fleet.json' It\t"),
                              f"{MONITOR} status --virtual a fleet.json It's")
             self.assertEqual(shell.completed(f"{MONITOR} status --virtual 'a fleet.json' '$\t"),
