@@ -6,6 +6,7 @@ test_help_pages.py SOURCE_FOLDER TOOL...
 """
 import fcntl
 import html
+import json
 import os
 import pathlib
 import pty
@@ -418,6 +419,33 @@ class Fish(Completion, Pages):
 
 
 class Json(Pages):
+    @staticmethod
+    def without_texts(value):
+        """What programs use."""
+        if isinstance(value, dict):
+            return {name: Json.without_texts(each) for name, each in value.items()
+                    if name not in ("summary", "details", "notes", "exitStatus")}
+        return [Json.without_texts(each) for each in value] if isinstance(value, list) else value
+
+    def test_names_are_the_same_in_every_language(self):
+        for tool, path in TOOLS.items():
+            described = {}
+            for language in ("en", "de_DE", "ja_JP"):
+                status, output, _ = run(path, "--help-json", env=environment(LC_ALL=f"{language}.UTF-8",
+                                                                             LANGUAGE=language))
+                self.assertEqual(status, 0)
+                described[language] = json.loads(output)
+            self.assertNotEqual(described["en"]["summary"], described["de_DE"]["summary"])
+            self.assertNotEqual(described["de_DE"]["summary"], described["ja_JP"]["summary"])
+            self.assertEqual(self.without_texts(described["en"]), self.without_texts(described["de_DE"]), tool)
+            self.assertEqual(self.without_texts(described["en"]), self.without_texts(described["ja_JP"]), tool)
+
+    def test_pages_are_english_whatever_the_language(self):
+        other = pathlib.Path(self.scratch.name, "other language")
+        self.make(TOOLS[MONITOR], other, LC_ALL="de_DE.UTF-8", LANGUAGE="de")
+        self.assertEqual((other / f"man1/{MONITOR}.1").read_text(encoding="utf-8"),
+                         (self.folder / f"man1/{MONITOR}.1").read_text(encoding="utf-8"))
+
     def test_refuses_a_tool_that_says_no_json(self):
         status, _, errors = run(sys.executable, "-B", SOURCES / "scripts/lib/make_help_pages.py", "/bin/echo",
                                 self.scratch.name)
