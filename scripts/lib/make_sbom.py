@@ -33,6 +33,7 @@ import hashlib
 import json
 import os
 import pathlib
+import platform
 import re
 import subprocess
 import sys
@@ -89,7 +90,8 @@ class Licences:
                      if any(fnmatch.fnmatchcase(name.lower(), pattern) for pattern in each.files)), None)
 
     def of_debian(self, source):
-        return next((each for each in self.components if source in each.debian), None)
+        return next((each for each in self.components
+                     if any(fnmatch.fnmatchcase(source, pattern) for pattern in each.debian)), None)
 
     def expect_acceptable(self, what, licence):
         """One of those between which OR lets choose, and all that AND joins."""
@@ -292,7 +294,8 @@ class Bill:
         if not component:
             raise Mistake(f"{file.place} is linked with {library} of the package {name} (source {source}), which is "
                           f"no component in {self.licences.path.name}; add it there with its licence")
-        return self.part(component, name, version, f"pkg:deb/debian/{name}@{version.replace(':', '%3A')}")
+        system = platform.freedesktop_os_release()["ID"]
+        return self.part(component, name, version, f"pkg:deb/{system}/{name}@{version.replace(':', '%3A')}")
 
     def own_part(self, library):
         """A library of ours that another package brings."""

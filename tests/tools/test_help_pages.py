@@ -459,7 +459,8 @@ class Json(Pages):
 
 
 if __name__ == "__main__":
-    missing = [name for name in ("bash", "zsh", "fish", "groff", "man", "mandoc", "shellcheck") if not shutil.which(name)]
+    missing = [name for name in ("bash", "zsh", "fish", "groff", "man", "mandoc", "shellcheck")
+               if not shutil.which(name)]
     if missing:
         sys.exit(f"test_help_pages: not installed: {', '.join(missing)}; scripts/test installs what is needed")
     unittest.main(argv=sys.argv[:1])

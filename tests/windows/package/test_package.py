@@ -307,7 +307,8 @@ def test_bill(scratch, archive):
     for relation in (("VxPrinterStatus-win64", "DYNAMIC_LINK", "Qt"), ("VxPrinterStatus-win64", "CONTAINS", "Qt"),
                      ("VxPrinterStatus-win64", "DYNAMIC_LINK", "mosquitto"), ("mosquitto", "STATIC_LINK", "OpenSSL"),
                      ("Qt", "STATIC_LINK", "SQLite"), ("Qt", "DYNAMIC_LINK", "GCC run-time libraries"),
-                     ("VxPrinterStatus-win64", "CONTAINS", "winpthreads"), ("VxPrinterStatus-win64", "CONTAINS", "mqtt")):
+                     ("VxPrinterStatus-win64", "CONTAINS", "winpthreads"),
+                     ("VxPrinterStatus-win64", "CONTAINS", "mqtt")):
         check(relation in relations, f"the bill of materials does not say {' '.join(relation)}")
     for name in ("Qt", "mosquitto", "OpenSSL", "SQLite", "GCC run-time libraries", "winpthreads"):
         entry = next(entry for entry in packages.values() if entry["name"] == name)
