@@ -26,11 +26,13 @@ set(CPACK_COMPONENTS_GROUPING IGNORE)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_STRIP_FILES OFF)
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/packaging/debian/stage.cmake")
+set(CPACK_POST_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/packaging/debian/repack.cmake")
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+# Below every revision of a distribution, which would replace these.
+set(CPACK_DEBIAN_PACKAGE_RELEASE 0vx1)
 set(CPACK_DEBIAN_PACKAGE_SOURCE vxprinterstatus)
-set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+set(CPACK_DEBIAN_COMPRESSION_TYPE none)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
@@ -52,8 +54,8 @@ macro(vx_package component package)
     string(TOUPPER ${component} upper)
     set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package})
     set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${arg_SECTION})
-    list(JOIN arg_TEXT "\n " text)
-    set(CPACK_DEBIAN_${upper}_DESCRIPTION "${arg_SUMMARY}\n ${text}")
+    list(JOIN arg_TEXT "\n" text)
+    set(CPACK_DEBIAN_${upper}_DESCRIPTION "${arg_SUMMARY}\n${text}")
     if(arg_INDEPENDENT)
         set(CPACK_DEBIAN_${upper}_PACKAGE_ARCHITECTURE all)
         set(CPACK_DEBIAN_${upper}_PACKAGE_SHLIBDEPS OFF)
@@ -80,18 +82,18 @@ vx_package(runtime libvxprinterstatus${PROJECT_VERSION_MAJOR}
     SECTION libs
     DEPENDS libqt6sql6-sqlite
     SUMMARY "finds label printers and watches them - library"
-    TEXT ${VX_PRODUCT_TEXT} . "This package has the library that programs are linked with.")
+    TEXT ${VX_PRODUCT_TEXT} " " "This package has the library that programs are linked with.")
 vx_package(kit libvxprinterstatuskit${PROJECT_VERSION_MAJOR}
     SECTION libs
     SUMMARY "finds label printers and watches them - kit for hosts"
-    TEXT ${VX_PRODUCT_TEXT} .
+    TEXT ${VX_PRODUCT_TEXT} " "
         "This package has the kit, which is built on the library: readings, a model"
         "for views, the history, the log of events, and forecasts.")
 if(TARGET vxprinterstatuswidgets)
     vx_package(widgets libvxprinterstatuswidgets${PROJECT_VERSION_MAJOR}
         SECTION libs
         SUMMARY "finds label printers and watches them - widgets"
-        TEXT ${VX_PRODUCT_TEXT} .
+        TEXT ${VX_PRODUCT_TEXT} " "
             "This package has widgets on the kit, for hosts with a window.")
     set(with_widgets widgets)
     if(TARGET vxprintview)
@@ -100,7 +102,7 @@ if(TARGET vxprinterstatuswidgets)
             WITH data
             RECOMMENDS qt6-wayland
             SUMMARY "window that shows the status of label printers"
-            TEXT ${VX_PRODUCT_TEXT} .
+            TEXT ${VX_PRODUCT_TEXT} " "
                 "This package has a window that shows all printers at a glance, with an icon"
                 "in the tray and notices of faults.")
     endif()
@@ -112,20 +114,20 @@ vx_package(development libvxprinterstatus-dev
     DEPENDS "qt6-base-dev (>= 6.4)"
     SUGGESTS "vxprinterstatus-doc"
     SUMMARY "finds label printers and watches them - development files"
-    TEXT ${VX_PRODUCT_TEXT} .
+    TEXT ${VX_PRODUCT_TEXT} " "
         "This package has what hosts are built with: the headers of the library, the"
         "kit and the widgets, a CMake package, and files for pkg-config.")
 vx_package(data vxprinterstatus-data INDEPENDENT
     SECTION misc
     SUMMARY "catalogue of supplies for label printers"
-    TEXT ${VX_PRODUCT_TEXT} .
+    TEXT ${VX_PRODUCT_TEXT} " "
         "This package has a sample catalogue of labels and ribbons, as a database and"
         "as the tables that it is made of, and the schemas of what the tools print.")
 vx_package(tools vxprinterstatus-tools
     SECTION utils
     WITH data
     SUMMARY "command-line tools for label printers"
-    TEXT ${VX_PRODUCT_TEXT} .
+    TEXT ${VX_PRODUCT_TEXT} " "
         "This package has the monitor vxprintmon, rolldb, which makes catalogues of"
         "supplies, and vxipc, which calls the services of other processes.")
 if(TARGET vxprintagent)
@@ -137,7 +139,7 @@ if(TARGET vxprintagent)
         RECOMMENDS ca-certificates
         SUGGESTS "mosquitto | nats-server" prometheus vxprinterstatus-web vxprinterstatus-doc
         SUMMARY "agent that publishes the status of label printers"
-        TEXT ${VX_PRODUCT_TEXT} .
+        TEXT ${VX_PRODUCT_TEXT} " "
             "This package has an agent that publishes the printers of a computer to an"
             "MQTT broker and to Prometheus. Its service runs when it was configured and"
             "enabled.")
@@ -147,13 +149,13 @@ vx_package(web vxprinterstatus-web INDEPENDENT
     RECOMMENDS "nginx | httpd"
     SUGGESTS nats-server
     SUMMARY "page that shows the label printers of a site"
-    TEXT ${VX_PRODUCT_TEXT} .
+    TEXT ${VX_PRODUCT_TEXT} " "
         "This package has a page that shows in a browser what the agents of a site"
         "publish. It needs a web server, and a broker with WebSockets.")
 vx_package(documentation vxprinterstatus-doc INDEPENDENT
     SECTION doc
     SUMMARY "finds label printers and watches them - documentation"
-    TEXT ${VX_PRODUCT_TEXT} .
+    TEXT ${VX_PRODUCT_TEXT} " "
         "This package has the guides for those who write hosts and who look after"
         "printers, example configurations of brokers and of Prometheus, and clients in"
         "Python and JavaScript.")

@@ -119,9 +119,8 @@ def main():
     upstream = options.version.rpartition("-")[0]
 
     # dpkg-shlibdeps reads this file before it asks the system's packages, which know nothing of these.
-    own_libraries = "".join(
-        f"{name} {soname} {package} (>= {upstream})\n"
-        for component, package in packages.items() for name, soname in sonames(options.staging / component))
+    own_libraries = [(name, soname, package) for component, package in packages.items()
+                     for name, soname in sonames(options.staging / component)]
     for component, package in packages.items():
         folder = options.staging / component
         add_files(folder, package, options, seconds)
@@ -130,7 +129,9 @@ def main():
         set_modes_and_times(folder, seconds)
         if has_programs(folder):
             # CPack removes the folder when dpkg-shlibdeps has read it.
-            write(folder / "debian/shlibs.local", own_libraries)
+            write(folder / "debian/shlibs.local", "".join(
+                f"{name} {soname} {owner} (>= {upstream})\n" for name, soname, owner in own_libraries
+                if owner != package))
 
 
 main()
