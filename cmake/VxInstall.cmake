@@ -130,4 +130,5 @@ install(FILES
     "${PROJECT_BINARY_DIR}/VxPrinterStatusConfigVersion.cmake"
     DESTINATION "${VX_PACKAGE_FOLDER}" COMPONENT development)
 include(VxPkgConfig)
+include(VxHelpPages)
 include(VxPackages)

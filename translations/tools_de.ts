@@ -1215,6 +1215,10 @@
         <translation>die virtuellen Drucker verwenden, die FILE beschreibt, oder die eingebauten („built-in“)</translation>
     </message>
     <message>
+        <source>print this help as JSON</source>
+        <translation>diese Hilfe als JSON ausgeben</translation>
+    </message>
+    <message>
         <source>print this help, or that of a command</source>
         <translation>diese Hilfe oder die eines Befehls ausgeben</translation>
     </message>

@@ -1215,6 +1215,10 @@
         <translation>use the virtual printers that FILE describes, or those of &quot;built-in&quot;</translation>
     </message>
     <message>
+        <source>print this help as JSON</source>
+        <translation>print this help as JSON</translation>
+    </message>
+    <message>
         <source>print this help, or that of a command</source>
         <translation>print this help, or that of a command</translation>
     </message>

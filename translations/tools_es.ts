@@ -1215,6 +1215,10 @@
         <translation>usar las impresoras virtuales que describe FILE, o las integradas («built-in»)</translation>
     </message>
     <message>
+        <source>print this help as JSON</source>
+        <translation>mostrar esta ayuda como JSON</translation>
+    </message>
+    <message>
         <source>print this help, or that of a command</source>
         <translation>mostrar esta ayuda o la de un comando</translation>
     </message>

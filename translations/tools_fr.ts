@@ -1215,6 +1215,10 @@
         <translation>utiliser les imprimantes virtuelles décrites par FILE, ou celles intégrées (« built-in »)</translation>
     </message>
     <message>
+        <source>print this help as JSON</source>
+        <translation>afficher cette aide en JSON</translation>
+    </message>
+    <message>
         <source>print this help, or that of a command</source>
         <translation>afficher cette aide ou celle d’une commande</translation>
     </message>

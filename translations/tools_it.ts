@@ -1215,6 +1215,10 @@
         <translation>usare le stampanti virtuali descritte da FILE, o quelle incorporate («built-in»)</translation>
     </message>
     <message>
+        <source>print this help as JSON</source>
+        <translation>mostrare questo aiuto come JSON</translation>
+    </message>
+    <message>
         <source>print this help, or that of a command</source>
         <translation>mostrare questo aiuto o quello di un comando</translation>
     </message>

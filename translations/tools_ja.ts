@@ -1215,6 +1215,10 @@
         <translation>FILE に記述された仮想プリンター、または組み込みのもの (built-in) を使う</translation>
     </message>
     <message>
+        <source>print this help as JSON</source>
+        <translation>このヘルプを JSON として出力する</translation>
+    </message>
+    <message>
         <source>print this help, or that of a command</source>
         <translation>このヘルプ、またはコマンドのヘルプを表示する</translation>
     </message>

@@ -1215,6 +1215,10 @@
         <translation>使用 FILE 所描述的虚拟打印机，或内置的打印机（“built-in”）</translation>
     </message>
     <message>
+        <source>print this help as JSON</source>
+        <translation>以 JSON 格式输出此帮助</translation>
+    </message>
+    <message>
         <source>print this help, or that of a command</source>
         <translation>输出此帮助或某个命令的帮助</translation>
     </message>

@@ -95,10 +95,15 @@ def move_page_configuration(folder):
     beside.symlink_to("/etc/vxprinterstatus/page.json")
 
 
+def is_script(path):
+    with path.open("rb") as file:
+        return file.read(2) == b"#!"
+
+
 def set_modes_and_times(folder, seconds):
     for path in [folder, *folder.rglob("*")]:
         if not path.is_symlink():
-            is_open = path.is_dir() or path.stat().st_mode & 0o100
+            is_open = path.is_dir() or path.stat().st_mode & 0o100 or is_script(path)
             path.chmod(0o755 if is_open else 0o644)
         os.utime(path, (seconds, seconds), follow_symlinks=False)
 

@@ -96,7 +96,8 @@ native_packages=(ca-certificates ccache cmake g++ libgl1-mesa-dev libjsoncpp-dev
 site_packages=(nats-server prometheus prometheus-alertmanager python3-paho-mqtt)
 
 # shellcheck disable=SC2034
-test_packages=(prometheus prometheus-alertmanager python3-prometheus-client)
+test_packages=(bash fish groff man-db mandoc prometheus prometheus-alertmanager python3-prometheus-client
+    shellcheck zsh)
 
 # Ubuntu has Chromium as a snap only; there the page is not tested.
 chromium_packages=()
