@@ -83,7 +83,7 @@ use() {
     expect Ready vxprintmon title 1
     # The name of a supply comes from the installed catalogue.
     expect Vinyl vxprintmon status --virtual built-in
-    expect '"sku"' vxprintmon status --json --virtual built-in
+    expect '"supplySKU":"VT-400-YL"' vxprintmon status --json --virtual built-in
     expect ': ok, 46 supplies' rolldb check /usr/share/VxPrinterStatus/roll.db
     quietly runuser -u tester -- rolldb build /usr/share/VxPrinterStatus/supplies /home/tester/roll.db
     cmp /home/tester/roll.db /usr/share/VxPrinterStatus/roll.db ||
