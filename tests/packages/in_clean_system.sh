@@ -181,8 +181,11 @@ quietly apt-get -q remove -y $own_packages
 ! command -v vxprintmon || fail "vxprintmon is still there"
 
 say "purging: only what people made stays"
+# The others had no configuration, so nothing of them is known any more.
+remaining=$(dpkg-query -W -f '${db:Status-Abbrev} ${Package}\n' | sed -n 's/^rc  *//p' | grep -xF "$own_packages")
+[ "$remaining" = "$(printf 'vxprintagent\nvxprinterstatus-web')" ] || fail "these have a configuration: $remaining"
 # shellcheck disable=SC2086
-quietly apt-get -q purge -y $own_packages
+quietly apt-get -q purge -y $remaining
 files >/tmp/after
 cat >/tmp/made_by_people <<END
 /etc/vxprintagent d 755
