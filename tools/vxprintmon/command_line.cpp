@@ -218,11 +218,10 @@ QStringList notes()
     return {
         ToolText::tr(
             "The names of colours and materials come from the file roll.db beside this program, "
-            "unless --catalogue or the environment variable VX_ROLL_DB names another file. Only "
-            "the Windows build sees the printers of the system; any other build has virtual "
-            "printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a "
-            "built-in "
-            "fleet of six."),
+            "or from the catalogue that was installed with it, unless --catalogue or the "
+            "environment variable VX_ROLL_DB names another file. Only the Windows build sees "
+            "the printers of the system; any other build has virtual printers only: those of "
+            "--virtual, those that VX_VIRTUAL_FLEET names, or a built-in fleet of six."),
         ToolText::tr(
             "Tables fit the terminal, the width that COLUMNS names, or 80 columns; what is cut "
             "short ends with an ellipsis. Colours are omitted if the output is not a terminal "
