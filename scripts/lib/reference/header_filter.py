@@ -1,0 +1,16 @@
+# SPDX-License-Identifier: MIT
+# Copyright The VxPrinterStatus authors
+"""Doxygen's filter for headers: a guide that a comment names becomes a link to its page.
+
+Usage: header_filter.py HEADER
+"""
+import pathlib
+import re
+import sys
+
+for line in pathlib.Path(sys.argv[1]).read_text(encoding="utf-8").splitlines(keepends=True):
+    if "///" in line or line.lstrip().startswith(("*", "/*", "//")):
+        line = re.sub(r"`?\bdocs/([a-z0-9-]+)\.md\b`?", r'<a href="\1.html">docs/\1.md</a>', line)
+        line = re.sub(r"`?\bdocs/schema/([a-z]+)\.schema\.json\b`?",
+                      r'<a href="schema-\1.html">docs/schema/\1.schema.json</a>', line)
+    sys.stdout.write(line)
