@@ -28,6 +28,8 @@ QHELPGENERATORS = ["/usr/lib/qt6/libexec/qhelpgenerator", "/usr/lib/qt6/bin/qhel
 HEADER_FOLDERS = ["include", "kit/include", "widgets/include"]
 SERVICE_HEADERS = [f"platform/vxipc/{name}.h"
                    for name in ("ivxipcm4", "ivxipcprintqd", "ivxipcsupplyd", "vxipcclient", "vxipcserver")]
+# Qt describes these on the pages of other classes.
+WITHOUT_PAGE = {"QLatin1String", "QVariantHash", "QVariantList"}
 LARGEST_PICTURE = 300 * 1024
 
 
@@ -78,23 +80,28 @@ class Reference:
         for folder in (self.assets, self.bodies, self.help):
             folder.mkdir()
 
-    def doxygen(self, **options):
-        """One run. A warning fails it, except, where no page is made, that a member has no comment."""
-        headers = [*HEADER_FOLDERS, *SERVICE_HEADERS]
+    def headers(self):
+        """The headers that hosts include."""
+        found = [path for folder in HEADER_FOLDERS for path in sorted((self.root / folder).glob("*.h"))]
+        return found + [self.root / name for name in SERVICE_HEADERS]
+
+    def doxygen(self, *pages, **options):
+        """One run over the headers and files with further pages. A warning fails it, except, where no page is made,
+        that a member has no comment.
+        """
         settings = {
             "PROJECT_NUMBER": version(self.root),
-            "INPUT": " ".join(f'"{self.root / name}"' for name in headers),
+            "INPUT": " ".join(f'"{path}"' for path in self.headers()),
             "RECURSIVE": "YES",
-            "FILE_PATTERNS": "*.h *.dox",
+            "FILE_PATTERNS": "*.h",
             "STRIP_FROM_PATH": f'"{self.root}"',
             "STRIP_FROM_INC_PATH": " ".join(f'"{self.root / name}"' for name in [*HEADER_FOLDERS, "platform/vxipc"]),
-            "INPUT_FILTER": f'"{sys.executable} -B {HERE / "header_filter.py"}"',
+            "INPUT_FILTER": f'"{sys.executable} -B {HERE / "header_filter.py"} {self.headers()[0]} {" ".join(map(str, pages))}"',
             "EXAMPLE_PATH": f'"{self.bodies}"',
             "OUTPUT_DIRECTORY": f'"{self.scratch}"',
+            "TAGFILES": f'"{self.qt_tags()}=https://doc.qt.io/qt-6"',
             **options,
         }
-        settings["INPUT"] += options.get("more_input", "")
-        settings.pop("more_input", None)
         text = (HERE / "Doxyfile").read_text() + "".join(f"{name} = {value}\n" for name, value in settings.items())
         done = subprocess.run(["doxygen", "-"], input=text, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
                               encoding="utf-8", cwd=self.scratch, check=False)
@@ -108,40 +115,44 @@ class Reference:
 
     def make(self):
         tags = self.scratch / "tags.xml"
-        self.doxygen(GENERATE_HTML="NO", GENERATE_TAGFILE=f'"{tags}"', EXTRACT_ALL="NO", WARN_IF_UNDOCUMENTED="YES")
+        self.doxygen(self.header_list(), GENERATE_HTML="NO", GENERATE_TAGFILE=f'"{tags}"', WARN_IF_UNDOCUMENTED="YES")
         self.tags = Tags(tags)
         self.site = Site(self.root, self.bodies, self.assets, self.tags)
         self.site.write()
         shutil.copyfile(HERE / "start.html", self.bodies / "start.html")
         (self.scratch / "pages.dox").write_text(self.page_list(), encoding="utf-8")
+        pages = (self.scratch / "headers.dox", self.scratch / "pages.dox")
         shared = {"EXTRACT_ALL": "YES", "WARN_IF_UNDOCUMENTED": "NO", "GENERATE_HTML": "YES",
-                  "more_input": f' "{self.scratch / "pages.dox"}"',
                   "LAYOUT_FILE": f'"{HERE / "layout.xml"}"', "HTML_EXTRA_STYLESHEET": f'"{HERE / "style.css"}"',
-                  "PROJECT_LOGO": f'"{self.root / "web/icon.svg"}"',
-                  "HTML_HEADER": f'"{self.header()}"'}
+                  "HTML_HEADER": f'"{HERE / "header.html"}"', "HTML_FOOTER": f'"{HERE / "footer.html"}"'}
         shutil.rmtree(self.html, ignore_errors=True)
         self.output.mkdir(parents=True, exist_ok=True)
-        self.doxygen(**shared, HTML_OUTPUT=f'"{self.html}"', GENERATE_TREEVIEW="YES", SEARCHENGINE="YES",
+        self.doxygen(*pages, **shared, HTML_OUTPUT=f'"{self.html}"', GENERATE_TREEVIEW="YES", SEARCHENGINE="YES",
                      DISABLE_INDEX="YES", FULL_SIDEBAR="NO")
         self.finish(self.html)
         # A viewer of help files has a navigation of its own, and runs no scripts.
-        self.doxygen(**shared, HTML_OUTPUT=f'"{self.help}"', GENERATE_TREEVIEW="NO", SEARCHENGINE="NO",
+        self.doxygen(*pages, **shared, HTML_OUTPUT=f'"{self.help}"', GENERATE_TREEVIEW="NO", SEARCHENGINE="NO",
                      DISABLE_INDEX="YES", GENERATE_QHP="YES", QHP_NAMESPACE="vxprinterstatus",
                      QHP_VIRTUAL_FOLDER="reference", QHG_LOCATION="")
         self.finish(self.help)
         self.help_file()
 
-    def header(self):
-        """Doxygen's own header, with the page's width given for phones."""
-        parts = [self.scratch / name for name in ("header.html", "footer.html", "doxygen.css")]
-        subprocess.run(["doxygen", "-w", "html", *parts], check=True, stdout=subprocess.DEVNULL, cwd=self.scratch)
-        text = parts[0].read_text(encoding="utf-8")
-        text = text.replace("</head>", '<link rel="icon" type="image/svg+xml" href="$relpath^icon.svg"/>\n</head>')
-        if "viewport" not in text:
-            text = text.replace("</head>",
-                                '<meta name="viewport" content="width=device-width, initial-scale=1"/>\n</head>')
-        parts[0].write_text(text, encoding="utf-8")
-        return parts[0]
+    def header_list(self):
+        """What Doxygen shows of a header outside of classes it shows only if header and namespace are documented."""
+        file = self.scratch / "headers.dox"
+        file.write_text((HERE / "namespaces.dox").read_text() + "".join(f"/** @file {path.relative_to(self.root)} */\n" for path in self.headers()))
+        return file
+
+    def qt_tags(self):
+        """Qt's classes that the headers include, for links to Qt's own documentation."""
+        names = set()
+        for header in self.headers():
+            names |= set(re.findall(r"^#include <Qt\w+/(Q[A-Z]\w+)>", header.read_text(encoding="utf-8"), re.M))
+        file = self.scratch / "qt.tags"
+        file.write_text('<?xml version="1.0" encoding="UTF-8"?>\n<tagfile>\n' + "".join(
+            f'<compound kind="class"><name>{name}</name><filename>{name.lower()}.html</filename></compound>\n'
+            for name in sorted(names - WITHOUT_PAGE)) + "</tagfile>\n")
+        return file
 
     def page_list(self):
         """The pages besides those of classes and headers, as Doxygen reads them."""
@@ -152,9 +163,9 @@ class Reference:
             return f' * <li>@subpage {name} "{title(text)}"</li>'
 
         def page(name, text):
-            return f"/** @page {name} {title(text)}\n * @htmlinclude {name}.html\n */"
+            return f"/*! @page {name} {title(text)}\n * @htmlinclude {name}.html\n */"
 
-        lines = ["/** @mainpage VxPrinterStatus", " * @htmlinclude start.html", " */", "/** @page guides Guides"]
+        lines = ["/*! @mainpage VxPrinterStatus", " * @htmlinclude start.html", " */", "/*! @page guides Guides"]
         pages = []
         for group, paths in self.site.groups():
             if not paths:
@@ -167,20 +178,21 @@ class Reference:
                 lines.append(item(name, text))
                 pages.append(page(name, text))
             lines.append(" * </ul>")
-        lines += [" */", "/** @page formats Formats",
+        lines += [" */", "/*! @page formats Formats",
                   " * What the programs write as JSON, as JSON Schema 2020-12.", " * <ul>"]
         for path, file in self.site.schemas.items():
             name, text = self.site.name_of(path), schema_pages.title(file)
             lines.append(item(name, text))
             pages.append(page(name, text))
-        lines += [" * </ul>", " */", "/** @page sources Files that the guides name", " * <ul>"]
+        lines += [" * </ul>", " */", "/*! @page sources Files that the guides name", " * <ul>"]
         for path, name in self.site.sources().items():
             lines.append(item(name, path))
             pages.append(page(name, path))
         return "\n".join([*lines, " * </ul>", " */", *pages]) + "\n"
 
     def finish(self, folder):
-        """Adds the pictures and schemas, and removes what differs between two runs or leads nowhere."""
+        """Adds the pictures, the schemas and the icon."""
+        shutil.copyfile(self.root / "web/icon.svg", folder / "icon.svg")
         for file in self.assets.iterdir():
             shutil.copyfile(file, folder / file.name)
 
@@ -233,7 +245,7 @@ def picture(page, file):
         return False
     with contextlib.closing(Chromium()) as browser:
         with contextlib.closing(browser.open(page.as_uri(), width=1280, height=860)) as view:
-            view.until("document.readyState === 'complete' && document.querySelector('#nav-tree .item')")
+            view.until("document.readyState === 'complete' && !!document.querySelector('#nav-tree .item')")
             view.picture(file)
     return True
 

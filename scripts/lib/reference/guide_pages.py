@@ -143,7 +143,9 @@ class Site:
 
     def _contents(self, page):
         headings = [(text, anchor) for level, text, anchor in page.headings if level == 2]
-        if len(headings) < 3:
+        # Long guides have such a list of their own.
+        listed = {link.target for link in page.links}
+        if len(headings) < 3 or all(f"#{anchor}" in listed for _, anchor in headings):
             return ""
         items = "".join(f'<li><a href="#{anchor}">{html.escape(text)}</a></li>' for text, anchor in headings)
         return f'<nav class="contents" aria-label="On this page"><p>On this page</p><ul>{items}</ul></nav>\n'
