@@ -24,7 +24,8 @@ public:
 
 public Q_SLOTS:
     /// @name The service's methods
-    /// `VXIPCPRINTQDController` is this library's implementation, and its header says what each does.
+    /// `VXIPCPRINTQDController` is this library's implementation, and its header says what each
+    /// does.
     /// @{
     virtual bool printQueueFull(uint value) = 0;
     virtual bool printQueueComplete(uint value) = 0;

@@ -26,7 +26,8 @@ public:
 
 public Q_SLOTS:
     /// @name The service's methods
-    /// `VXIPCSUPPLYDController` is this library's implementation, and its header says what each does.
+    /// `VXIPCSUPPLYDController` is this library's implementation, and its header says what each
+    /// does.
     /// @{
     virtual QStringList supplySKUList() = 0;
     virtual QStringList supplyRibbonSKUList() = 0;
