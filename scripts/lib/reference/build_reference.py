@@ -245,7 +245,10 @@ def picture(page, file):
         return False
     with contextlib.closing(Chromium()) as browser:
         with contextlib.closing(browser.open(page.as_uri(), width=1280, height=860)) as view:
-            view.until("document.readyState === 'complete' && !!document.querySelector('#nav-tree .item')")
+            # The tree at the left unfolds.
+            view.until("document.readyState === 'complete' && jQuery(':animated').length === 0 &&"
+                       " [...document.querySelectorAll('#nav-tree .label')].some(label =>"
+                       " label.textContent === 'Files' && label.offsetParent !== null)")
             view.picture(file)
     return True
 
