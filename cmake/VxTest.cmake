@@ -29,6 +29,7 @@ set(VX_TEST_ENVIRONMENT LC_ALL=C.UTF-8 LANGUAGE=en QT_QPA_PLATFORM=offscreen QT_
 set(VX_TESTS_WITHOUT_THREADS
     forecast_accuracy
     status_codes_document
+    test_check_links
     test_check_page_texts
     test_check_translations
     test_deploy_mosquitto
@@ -36,6 +37,7 @@ set(VX_TESTS_WITHOUT_THREADS
     test_deploy_page_on_nats
     test_event_schema
     test_find_cutelogger
+    test_header_examples
     test_host_guide
     test_need_packages
     test_page
