@@ -84,11 +84,11 @@ HostProcess::HostProcess(const SessionOptions& options)
         return;
     }
     m_application = makeApplication();
+    keepLog(options.logFile);
     const QLocale locale = localeOf(options.language);
-    QLocale::setDefault(locale);
     loadTexts(QStringLiteral("vxprinterstatus"), locale);
     loadTexts(QStringLiteral("vxprinterstatuskit"), locale);
-    keepLog(options.logFile);
+    QLocale::setDefault(locale);
 }
 
 HostProcess::~HostProcess()

@@ -99,7 +99,7 @@ void stopAtExit()
         return current().lock();
     }();
     // A host that ends the process in a callback does not get its session stopped.
-    if (session && session->isOnOwnThread())
+    if (session && session->isInCallback())
         return;
     if (session)
         session->stop();
@@ -108,9 +108,9 @@ void stopAtExit()
 
 } // namespace
 
-bool Session::isOnOwnThread() const
+bool Session::isInCallback() const
 {
-    return m_threadId.load() == std::this_thread::get_id();
+    return m_callbackThread.load() == std::this_thread::get_id();
 }
 
 bool Session::isRunning() const
@@ -157,7 +157,7 @@ vxkit_result Session::start()
 {
     std::unique_lock lock(m_mutex);
     // Whoever stops it on another thread is waited for.
-    m_changed.wait(lock, [this] { return m_state != State::Stopping || isOnOwnThread(); });
+    m_changed.wait(lock, [this] { return m_state != State::Stopping || isInCallback(); });
     if (m_state != State::Idle)
         return fail(VXKIT_ERROR_RUNNING, QStringLiteral("the session runs already"));
     WorkThread::instance().start([self = shared_from_this()] { self->run(); });
@@ -170,7 +170,7 @@ vxkit_result Session::start()
 
 vxkit_result Session::stop()
 {
-    if (isOnOwnThread())
+    if (isInCallback())
         return fail(VXKIT_ERROR_IN_CALLBACK,
                     QStringLiteral("a callback cannot stop or destroy its session; do it on "
                                    "another thread"));
@@ -192,7 +192,6 @@ vxkit_result Session::stop()
 
 void Session::run()
 {
-    m_threadId = std::this_thread::get_id();
     QString error;
     try {
         watch([this] {
@@ -204,7 +203,6 @@ void Session::run()
     } catch (...) {
         error = QStringLiteral("an exception of an unknown kind");
     }
-    m_threadId = std::thread::id();
     const std::lock_guard guard(m_mutex);
     m_error = error;
     m_readings.clear();
@@ -213,6 +211,33 @@ void Session::run()
     ++m_endedRuns;
     m_changed.notify_all();
 }
+
+/// The thread on which callbacks are called, while it lives.
+class Session::CallbackThread
+{
+public:
+    explicit CallbackThread(Session& session)
+        : m_session(session)
+        , m_thread(&Session::callBack, &session)
+    {}
+    ~CallbackThread()
+    {
+        {
+            const std::lock_guard guard(m_session.m_mutex);
+            m_session.m_areCallbacksEnding = true;
+            m_session.m_changed.notify_all();
+        }
+        m_thread.join();
+        const std::lock_guard guard(m_session.m_mutex);
+        m_session.m_areCallbacksEnding = false;
+        m_session.m_changes.clear();
+    }
+    Q_DISABLE_COPY_MOVE(CallbackThread)
+
+private:
+    Session& m_session;
+    std::thread m_thread;
+};
 
 void Session::watch(const SessionOptions& options)
 {
@@ -235,6 +260,7 @@ void Session::watch(const SessionOptions& options)
     }
     // Now that Qt's own objects exist, so that they are destroyed after the session has stopped.
     callAtExit(stopAtExit);
+    const CallbackThread callbacks(*this);
     runLoop();
 }
 
@@ -330,7 +356,7 @@ void Session::follow(PrinterReadings& readings)
                              const std::lock_guard guard(m_mutex);
                              m_activePrinter = name;
                          }
-                         call(VXKIT_CHANGE_ACTIVE, name.toUtf8(), {}, 0);
+                         enqueue({VXKIT_CHANGE_ACTIVE, name.toUtf8(), {}, 0});
                      });
 }
 
@@ -361,29 +387,63 @@ void Session::tell(const PrinterReadings& readings, int32_t change, const QStrin
         if (!reading.isNull())
             m_readings.insert_or_assign(printer, reading);
     }
-    call(change, printer.toUtf8(), oldName.toUtf8(), reading.differences(before).toInt());
+    enqueue({change, printer.toUtf8(), oldName.toUtf8(),
+             static_cast<uint32_t>(reading.differences(before).toInt())});
 }
 
-void Session::call(int32_t change, const QByteArray& printer, const QByteArray& oldName,
-                   uint32_t fields)
+void Session::enqueue(const Change& change)
 {
+    const std::lock_guard guard(m_mutex);
+    if (m_callbacks.empty())
+        return;
+    // Reports of one printer are told together when callbacks are slower than they arrive.
+    if (change.kind == VXKIT_CHANGE_CHANGED) {
+        const auto earlier =
+            std::find_if(m_changes.rbegin(), m_changes.rend(), [&](const Change& each) {
+                return each.printer == change.printer && each.kind != VXKIT_CHANGE_ACTIVE;
+            });
+        if (earlier != m_changes.rend() && earlier->kind == VXKIT_CHANGE_CHANGED) {
+            earlier->fields |= change.fields;
+            return;
+        }
+    }
+    m_changes.push_back(change);
+    m_changed.notify_all();
+}
+
+void Session::callBack()
+{
+    m_callbackThread = std::this_thread::get_id();
     std::unique_lock lock(m_mutex);
+    for (;;) {
+        m_changed.wait(lock, [this] { return m_areCallbacksEnding || !m_changes.empty(); });
+        if (m_areCallbacksEnding)
+            break;
+        const Change change = m_changes.front();
+        m_changes.pop_front();
+        call(change, lock);
+    }
+    m_callbackThread = std::thread::id();
+}
+
+void Session::call(const Change& change, std::unique_lock<std::mutex>& lock)
+{
     const std::vector<std::shared_ptr<Callback>> all = m_callbacks;
     for (const std::shared_ptr<Callback>& callback : all) {
         // From the moment at which somebody waits for the session to stop, nothing is told.
-        if (callback->isRemoved || m_state == State::Stopping)
+        if (callback->isRemoved || m_state != State::Running)
             continue;
-        ++callback->calls;
+        callback->isBeingCalled = true;
         lock.unlock();
         try {
-            callback->function(m_handle, change, printer.constData(), oldName.constData(), fields,
-                               callback->userData);
+            callback->function(m_handle, change.kind, change.printer.constData(),
+                               change.oldName.constData(), change.fields, callback->userData);
         } catch (...) {
             qCWarning(kitLog, "a callback of the C interface has thrown an exception, which is "
                               "dropped");
         }
         lock.lock();
-        --callback->calls;
+        callback->isBeingCalled = false;
         m_changed.notify_all();
     }
 }
@@ -414,8 +474,8 @@ vxkit_result Session::removeCallback(uint64_t id)
     const std::shared_ptr<Callback> callback = *found;
     m_callbacks.erase(found);
     callback->isRemoved = true;
-    if (!isOnOwnThread())
-        m_changed.wait(lock, [&] { return callback->calls == 0; });
+    if (!isInCallback())
+        m_changed.wait(lock, [&] { return !callback->isBeingCalled; });
     return VXKIT_OK;
 }
 

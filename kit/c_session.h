@@ -13,6 +13,7 @@
 #include <atomic>
 #include <condition_variable>
 #include <cstdint>
+#include <deque>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -26,8 +27,10 @@ class PrinterReadings;
 
 namespace VxKit::c_interface {
 
-/// A session of the C interface: a controller with readings and discovery on a thread of their own,
-/// and copies of what they tell, which every thread can read without waiting for them.
+/// A session of the C interface: a controller with readings and discovery on the work thread, and
+/// copies of what they tell, which every thread can read without waiting for them. Callbacks are
+/// called on a further thread, which ends with the session: runtimes such as Mono wait for every
+/// thread that has called into them.
 class Session : public std::enable_shared_from_this<Session>
 {
 public:
@@ -43,7 +46,7 @@ public:
     vxkit_result stop();
     bool isRunning() const;
     /// Whether this is called by one of the session's callbacks.
-    bool isOnOwnThread() const;
+    bool isInCallback() const;
 
     /// All functions below fail when the session does not run.
     vxkit_result readings(QList<PrinterReading>& result) const;
@@ -77,13 +80,21 @@ private:
         Running,
         Stopping,
     };
+    struct Change
+    {
+        int32_t kind = 0;
+        QByteArray printer;
+        QByteArray oldName;
+        uint32_t fields = 0;
+    };
+    class CallbackThread;
     struct Callback
     {
         uint64_t id = 0;
         vxkit_callback function = nullptr;
         void* userData = nullptr;
         bool isRemoved = false;
-        int calls = 0; ///< in progress
+        bool isBeingCalled = false;
     };
 
     void run();
@@ -93,11 +104,12 @@ private:
     void takeAll(const PrinterReadings& readings);
     void tell(const PrinterReadings& readings, int32_t change, const QString& printer,
               const QString& oldName = QString());
-    void call(int32_t change, const QByteArray& printer, const QByteArray& oldName,
-              uint32_t fields);
+    void enqueue(const Change& change);
+    void callBack();
+    void call(const Change& change, std::unique_lock<std::mutex>& lock);
 
     vxkit_session* m_handle = nullptr;
-    std::atomic<std::thread::id> m_threadId;
+    std::atomic<std::thread::id> m_callbackThread;
 
     // All of these are guarded by the mutex.
     mutable std::mutex m_mutex;
@@ -112,6 +124,8 @@ private:
     QString m_activePrinter;
     std::vector<std::shared_ptr<Callback>> m_callbacks;
     uint64_t m_lastId = 0;
+    std::deque<Change> m_changes; ///< that callbacks have not been told yet
+    bool m_areCallbacksEnding = false;
 };
 
 } // namespace VxKit::c_interface

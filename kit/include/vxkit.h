@@ -58,11 +58,13 @@
 /// valid or null; the library cannot check them.
 ///
 /// **Threads.** Every function may be called on any thread, by several at the same time. Sessions
-/// work on a thread of their own. Functions that read do not wait for the print spooler: they
+/// work on threads of their own. Functions that read do not wait for the print spooler: they
 /// return what was reported last. Those that wait say so.
 ///
-/// **Callbacks** are called on the session's thread, one after the other. Meanwhile no other report
-/// is handled, so they should be short. A callback may call every function but `vxkit_stop` and
+/// **Callbacks** are called one after the other on a thread of the session's own, which is another
+/// one at each start and ends when the session is stopped. While a callback runs, printers are
+/// watched and can be read, but no other callback is called: reports of one printer that arrive
+/// meanwhile are told as one. A callback may call every function but `vxkit_stop` and
 /// `vxkit_destroy`, which return `VXKIT_ERROR_IN_CALLBACK` and do nothing. It must return: it must
 /// not end its thread or the process, nor jump out with longjmp. A C++ exception that leaves it is
 /// dropped.
@@ -468,7 +470,8 @@ enum
 
 /// Is called for every change. The new reading can be read already. `printer` is its name, and
 /// `old_name` the one before for `VXKIT_CHANGE_RENAMED`, else an empty text; both are valid until
-/// the callback returns. `fields` are bits of `VXKIT_CHANGED_*`; 0 for `VXKIT_CHANGE_ACTIVE`.
+/// the callback returns. `fields` are bits of `VXKIT_CHANGED_*`; 0 for `VXKIT_CHANGE_ACTIVE`, and
+/// for a report with nothing new in the same millisecond as the one before.
 typedef void(VXKIT_CALL* vxkit_callback)(vxkit_session* session, int32_t change,
                                          const char* printer, const char* old_name, uint32_t fields,
                                          void* user_data);
@@ -535,7 +538,7 @@ typedef struct vxkit_command_result
 ///
 /// Returns `VXKIT_OK` when the spooler has the whole command, and `VXKIT_ERROR_COMMAND` when not:
 /// then `*result` says which step failed, and `vxkit_last_error` why. Half a command is not
-/// printed. Called by a callback, it holds up all reports until it returns.
+/// printed.
 VXKIT_API vxkit_result VXKIT_CALL vxkit_send_text(vxkit_session* session, const char* printer,
                                                   const char* text, uint32_t flags,
                                                   vxkit_command_result* result);

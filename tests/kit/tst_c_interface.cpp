@@ -134,6 +134,7 @@ protected Q_SLOTS:
     {
         MachineTest::init();
         QCOMPARE(vxkit_create(&m_session), VXKIT_OK);
+        QCOMPARE(vxkit_set_option(m_session, VXKIT_OPTION_CATALOGUE, VX_ROLL_DB), VXKIT_OK);
     }
     void cleanup() override
     {
@@ -270,7 +271,7 @@ void CInterfaceTest::unknownEmptyAndZeroAreToldApart()
     QCOMPARE(vxkit_slot_number(readings, 0, slot, VXKIT_NUMBER_METERS, &value), result);
     QCOMPARE(std::isnan(value), std::isnan(meters));
     if (result == VXKIT_OK)
-        QCOMPARE(value, meters);
+        QCOMPARE(std::round(value * 1000), std::round(meters * 1000));
     int64_t labels = 0;
     QCOMPARE(vxkit_slot_integer(readings, 0, slot, VXKIT_SLOT_INTEGER_LABELS, &labels),
              result == VXKIT_OK ? vxkit_result{VXKIT_UNKNOWN} : result);
@@ -369,7 +370,6 @@ void CInterfaceTest::everyKindOfChangeIsReported()
     add(Recorder::record, &recorder);
     QVERIFY(start());
     QTRY_VERIFY(recorder.has(QStringLiteral("CHANGED Packing")));
-    QTRY_VERIFY(recorder.has(QStringLiteral("ACTIVE Packing")));
     std::array<char, 64> name{};
     QCOMPARE(vxkit_active_printer(m_session, name.data(), name.size(), nullptr), VXKIT_OK);
     QCOMPARE(name.data(), "Packing");
@@ -384,6 +384,8 @@ void CInterfaceTest::everyKindOfChangeIsReported()
     QCOMPARE(integerOf(QStringLiteral("Archive"), VXKIT_INTEGER_STATUS_CODE), 1);
     QCOMPARE(integerOf(shipping, VXKIT_INTEGER_STATUS_CODE), VXKIT_NO_INTEGER);
 
+    machine().setDefaultPrinter(QStringLiteral("Archive"));
+    QTRY_VERIFY(recorder.has(QStringLiteral("ACTIVE Archive")));
     machine().removePrinter(QStringLiteral("Archive"));
     QTRY_VERIFY(recorder.has(QStringLiteral("GONE Archive")));
     QCOMPARE(integerOf(QStringLiteral("Archive"), VXKIT_INTEGER_PRESENT), 0);
@@ -430,7 +432,8 @@ void CInterfaceTest::aCommandIsPrinted()
 {
     addPrinter(packing);
     QVERIFY(start());
-    vxkit_command_result result{.size = sizeof(vxkit_command_result)};
+    vxkit_command_result result{};
+    result.size = sizeof result;
     QCOMPARE(vxkit_send_text(m_session, "Packing", "FEED 3", 0, &result), VXKIT_OK);
     QCOMPARE(result.failure, VXKIT_FAILURE_NONE);
     QCOMPARE(result.bytes, 8);
@@ -447,7 +450,8 @@ void CInterfaceTest::aFailedCommandSaysWhy()
     addPrinter(packing);
     machine().addPrinter({.name = shipping, .driver = QStringLiteral("Everyday Office Laser 400")});
     QVERIFY(start());
-    vxkit_command_result result{.size = sizeof(vxkit_command_result)};
+    vxkit_command_result result{};
+    result.size = sizeof result;
     QCOMPARE(vxkit_send_text(m_session, "Shipping", "FEED", 0, &result), VXKIT_ERROR_COMMAND);
     QCOMPARE(result.failure, VXKIT_FAILURE_FOREIGN_PRINTER);
     QCOMPARE(lastError(),
@@ -479,7 +483,7 @@ struct Slow
         while (!self.mayLeave)
             std::this_thread::yield();
         // Whoever does not wait for the callback is most likely back before this.
-        for (int i = 0; i < 10000; ++i)
+        for (int i = 0; i < 100; ++i)
             std::this_thread::yield();
         self.hasLeft = true;
     }
