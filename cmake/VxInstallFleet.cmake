@@ -4,10 +4,10 @@
 # What is installed besides programs and libraries: the page, the configurations for what a site runs, and
 # the guides. They lie beside each other as in the source tree, so the guides' links and commands hold there too.
 
-set(VX_SITE_FOLDER "${CMAKE_INSTALL_DATADIR}/VxPrinterStatus")
+set(VX_SITE_FOLDER "${VX_DATA_FOLDER}")
 
 # What browsers load. The list of packages that the bundle is made from stays with the sources.
-install(DIRECTORY web/ DESTINATION "${VX_SITE_FOLDER}/web" COMPONENT documentation
+install(DIRECTORY web/ DESTINATION "${VX_SITE_FOLDER}/web" COMPONENT web
     PATTERN package.json EXCLUDE
     PATTERN package-lock.json EXCLUDE
     PATTERN node_modules EXCLUDE)

@@ -1215,12 +1215,16 @@
         <translation>die virtuellen Drucker verwenden, die FILE beschreibt, oder die eingebauten („built-in“)</translation>
     </message>
     <message>
+        <source>print this help as JSON</source>
+        <translation>diese Hilfe als JSON ausgeben</translation>
+    </message>
+    <message>
         <source>print this help, or that of a command</source>
         <translation>diese Hilfe oder die eines Befehls ausgeben</translation>
     </message>
     <message>
-        <source>The names of colours and materials come from the file roll.db beside this program, unless --catalogue or the environment variable VX_ROLL_DB names another file. Only the Windows build sees the printers of the system; any other build has virtual printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a built-in fleet of six.</source>
-        <translation>Die Namen der Farben und Materialien kommen aus der Datei roll.db neben diesem Programm, außer wenn --catalogue oder die Umgebungsvariable VX_ROLL_DB eine andere nennt. Nur die Fassung für Windows sieht die Drucker des Systems; jede andere hat nur virtuelle Drucker: die von --virtual, die von VX_VIRTUAL_FLEET oder sechs eingebaute.</translation>
+        <source>The names of colours and materials come from the file roll.db beside this program, or from the catalogue that was installed with it, unless --catalogue or the environment variable VX_ROLL_DB names another file. Only the Windows build sees the printers of the system; any other build has virtual printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a built-in fleet of six.</source>
+        <translation>Die Namen der Farben und Materialien kommen aus der Datei roll.db neben diesem Programm oder aus dem Katalog, der mit ihm installiert wurde, außer wenn --catalogue oder die Umgebungsvariable VX_ROLL_DB eine andere nennt. Nur die Fassung für Windows sieht die Drucker des Systems; jede andere hat nur virtuelle Drucker: die von --virtual, die von VX_VIRTUAL_FLEET oder sechs eingebaute.</translation>
     </message>
     <message>
         <source>Tables fit the terminal, the width that COLUMNS names, or 80 columns; what is cut short ends with an ellipsis. Colours are omitted if the output is not a terminal or NO_COLOR is set. Characters that could control the terminal are shown as \u001b and the like.</source>

@@ -1215,12 +1215,16 @@
         <translation>usar las impresoras virtuales que describe FILE, o las integradas («built-in»)</translation>
     </message>
     <message>
+        <source>print this help as JSON</source>
+        <translation>mostrar esta ayuda como JSON</translation>
+    </message>
+    <message>
         <source>print this help, or that of a command</source>
         <translation>mostrar esta ayuda o la de un comando</translation>
     </message>
     <message>
-        <source>The names of colours and materials come from the file roll.db beside this program, unless --catalogue or the environment variable VX_ROLL_DB names another file. Only the Windows build sees the printers of the system; any other build has virtual printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a built-in fleet of six.</source>
-        <translation>Los nombres de colores y materiales proceden del archivo roll.db situado junto a este programa, salvo que --catalogue o la variable de entorno VX_ROLL_DB indiquen otro. Solo la versión para Windows ve las impresoras del sistema; las demás solo tienen impresoras virtuales: las de --virtual, las que indica VX_VIRTUAL_FLEET o seis integradas.</translation>
+        <source>The names of colours and materials come from the file roll.db beside this program, or from the catalogue that was installed with it, unless --catalogue or the environment variable VX_ROLL_DB names another file. Only the Windows build sees the printers of the system; any other build has virtual printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a built-in fleet of six.</source>
+        <translation>Los nombres de colores y materiales proceden del archivo roll.db situado junto a este programa o del catálogo instalado con él, salvo que --catalogue o la variable de entorno VX_ROLL_DB indiquen otro. Solo la versión para Windows ve las impresoras del sistema; las demás solo tienen impresoras virtuales: las de --virtual, las que indica VX_VIRTUAL_FLEET o seis integradas.</translation>
     </message>
     <message>
         <source>Tables fit the terminal, the width that COLUMNS names, or 80 columns; what is cut short ends with an ellipsis. Colours are omitted if the output is not a terminal or NO_COLOR is set. Characters that could control the terminal are shown as \u001b and the like.</source>

@@ -1215,12 +1215,16 @@
         <translation>utiliser les imprimantes virtuelles décrites par FILE, ou celles intégrées (« built-in »)</translation>
     </message>
     <message>
+        <source>print this help as JSON</source>
+        <translation>afficher cette aide en JSON</translation>
+    </message>
+    <message>
         <source>print this help, or that of a command</source>
         <translation>afficher cette aide ou celle d’une commande</translation>
     </message>
     <message>
-        <source>The names of colours and materials come from the file roll.db beside this program, unless --catalogue or the environment variable VX_ROLL_DB names another file. Only the Windows build sees the printers of the system; any other build has virtual printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a built-in fleet of six.</source>
-        <translation>Les noms des couleurs et des matériaux viennent du fichier roll.db à côté de ce programme, sauf si --catalogue ou la variable d’environnement VX_ROLL_DB en indique un autre. Seule la version pour Windows voit les imprimantes du système ; toute autre n’a que des imprimantes virtuelles : celles de --virtual, celles qu’indique VX_VIRTUAL_FLEET, ou six intégrées.</translation>
+        <source>The names of colours and materials come from the file roll.db beside this program, or from the catalogue that was installed with it, unless --catalogue or the environment variable VX_ROLL_DB names another file. Only the Windows build sees the printers of the system; any other build has virtual printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a built-in fleet of six.</source>
+        <translation>Les noms des couleurs et des matériaux viennent du fichier roll.db à côté de ce programme ou du catalogue installé avec lui, sauf si --catalogue ou la variable d’environnement VX_ROLL_DB en indique un autre. Seule la version pour Windows voit les imprimantes du système ; toute autre n’a que des imprimantes virtuelles : celles de --virtual, celles qu’indique VX_VIRTUAL_FLEET, ou six intégrées.</translation>
     </message>
     <message>
         <source>Tables fit the terminal, the width that COLUMNS names, or 80 columns; what is cut short ends with an ellipsis. Colours are omitted if the output is not a terminal or NO_COLOR is set. Characters that could control the terminal are shown as \u001b and the like.</source>

@@ -1215,12 +1215,16 @@
         <translation>usare le stampanti virtuali descritte da FILE, o quelle incorporate («built-in»)</translation>
     </message>
     <message>
+        <source>print this help as JSON</source>
+        <translation>mostrare questo aiuto come JSON</translation>
+    </message>
+    <message>
         <source>print this help, or that of a command</source>
         <translation>mostrare questo aiuto o quello di un comando</translation>
     </message>
     <message>
-        <source>The names of colours and materials come from the file roll.db beside this program, unless --catalogue or the environment variable VX_ROLL_DB names another file. Only the Windows build sees the printers of the system; any other build has virtual printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a built-in fleet of six.</source>
-        <translation>I nomi di colori e materiali provengono dal file roll.db accanto a questo programma, a meno che --catalogue o la variabile d’ambiente VX_ROLL_DB ne indichi un altro. Solo la versione per Windows vede le stampanti del sistema; le altre hanno solo stampanti virtuali: quelle di --virtual, quelle indicate da VX_VIRTUAL_FLEET o sei incorporate.</translation>
+        <source>The names of colours and materials come from the file roll.db beside this program, or from the catalogue that was installed with it, unless --catalogue or the environment variable VX_ROLL_DB names another file. Only the Windows build sees the printers of the system; any other build has virtual printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a built-in fleet of six.</source>
+        <translation>I nomi di colori e materiali provengono dal file roll.db accanto a questo programma o dal catalogo installato con esso, a meno che --catalogue o la variabile d’ambiente VX_ROLL_DB ne indichi un altro. Solo la versione per Windows vede le stampanti del sistema; le altre hanno solo stampanti virtuali: quelle di --virtual, quelle indicate da VX_VIRTUAL_FLEET o sei incorporate.</translation>
     </message>
     <message>
         <source>Tables fit the terminal, the width that COLUMNS names, or 80 columns; what is cut short ends with an ellipsis. Colours are omitted if the output is not a terminal or NO_COLOR is set. Characters that could control the terminal are shown as \u001b and the like.</source>

@@ -1215,12 +1215,16 @@
         <translation>FILE に記述された仮想プリンター、または組み込みのもの (built-in) を使う</translation>
     </message>
     <message>
+        <source>print this help as JSON</source>
+        <translation>このヘルプを JSON として出力する</translation>
+    </message>
+    <message>
         <source>print this help, or that of a command</source>
         <translation>このヘルプ、またはコマンドのヘルプを表示する</translation>
     </message>
     <message>
-        <source>The names of colours and materials come from the file roll.db beside this program, unless --catalogue or the environment variable VX_ROLL_DB names another file. Only the Windows build sees the printers of the system; any other build has virtual printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a built-in fleet of six.</source>
-        <translation>色と素材の名前は、--catalogue または環境変数 VX_ROLL_DB で別のファイルを指定しない限り、このプログラムと同じ場所にある roll.db から取得されます。システムのプリンターが見えるのは Windows 版だけです。その他の版には仮想プリンターだけがあります。--virtual で指定したもの、VX_VIRTUAL_FLEET で指定したもの、または組み込みの 6 台です。</translation>
+        <source>The names of colours and materials come from the file roll.db beside this program, or from the catalogue that was installed with it, unless --catalogue or the environment variable VX_ROLL_DB names another file. Only the Windows build sees the printers of the system; any other build has virtual printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a built-in fleet of six.</source>
+        <translation>色と素材の名前は、--catalogue または環境変数 VX_ROLL_DB で別のファイルを指定しない限り、このプログラムと同じ場所にある roll.db、またはプログラムと一緒にインストールされたカタログから取得されます。システムのプリンターが見えるのは Windows 版だけです。その他の版には仮想プリンターだけがあります。--virtual で指定したもの、VX_VIRTUAL_FLEET で指定したもの、または組み込みの 6 台です。</translation>
     </message>
     <message>
         <source>Tables fit the terminal, the width that COLUMNS names, or 80 columns; what is cut short ends with an ellipsis. Colours are omitted if the output is not a terminal or NO_COLOR is set. Characters that could control the terminal are shown as \u001b and the like.</source>

@@ -1215,12 +1215,16 @@
         <translation>使用 FILE 所描述的虚拟打印机，或内置的打印机（“built-in”）</translation>
     </message>
     <message>
+        <source>print this help as JSON</source>
+        <translation>以 JSON 格式输出此帮助</translation>
+    </message>
+    <message>
         <source>print this help, or that of a command</source>
         <translation>输出此帮助或某个命令的帮助</translation>
     </message>
     <message>
-        <source>The names of colours and materials come from the file roll.db beside this program, unless --catalogue or the environment variable VX_ROLL_DB names another file. Only the Windows build sees the printers of the system; any other build has virtual printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a built-in fleet of six.</source>
-        <translation>颜色和材料的名称来自本程序旁边的 roll.db 文件，除非 --catalogue 或环境变量 VX_ROLL_DB 指定了另一个文件。只有 Windows 版本能看到系统的打印机；其他版本只有虚拟打印机：--virtual 指定的、VX_VIRTUAL_FLEET 指定的，或内置的六台。</translation>
+        <source>The names of colours and materials come from the file roll.db beside this program, or from the catalogue that was installed with it, unless --catalogue or the environment variable VX_ROLL_DB names another file. Only the Windows build sees the printers of the system; any other build has virtual printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a built-in fleet of six.</source>
+        <translation>颜色和材料的名称来自本程序旁边的 roll.db 文件或随程序安装的目录，除非 --catalogue 或环境变量 VX_ROLL_DB 指定了另一个文件。只有 Windows 版本能看到系统的打印机；其他版本只有虚拟打印机：--virtual 指定的、VX_VIRTUAL_FLEET 指定的，或内置的六台。</translation>
     </message>
     <message>
         <source>Tables fit the terminal, the width that COLUMNS names, or 80 columns; what is cut short ends with an ellipsis. Colours are omitted if the output is not a terminal or NO_COLOR is set. Characters that could control the terminal are shown as \u001b and the like.</source>

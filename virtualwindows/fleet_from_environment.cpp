@@ -22,12 +22,23 @@ QString folderOfThisLibrary()
     return QFileInfo(QFile::decodeName(info.dli_fname)).absolutePath();
 }
 
+/// Programs do not link the module, so it is installed in a folder of its own. In a build it is
+/// beside this library.
+QString moduleWithFleets()
+{
+    const QString folder = folderOfThisLibrary();
+    const QString installed =
+        folder + QStringLiteral("/VxPrinterStatus/libvirtualwindows_fleet.so");
+    return QFileInfo::exists(installed) ? installed
+                                        : folder + QStringLiteral("/libvirtualwindows_fleet.so");
+}
+
 void loadFleetFromEnvironment()
 {
     if (qEnvironmentVariableIsEmpty("VX_VIRTUAL_FLEET"))
         return;
     // A separate library, so that programs without a fleet load neither it nor its JSON parser.
-    QLibrary library(folderOfThisLibrary() + QStringLiteral("/libvirtualwindows_fleet"));
+    QLibrary library(moduleWithFleets());
     if (const QFunctionPointer load = library.resolve("virtualwindowsLoadFleetFromEnvironment")) {
         load();
         return;

@@ -96,7 +96,8 @@ native_packages=(ca-certificates ccache cmake g++ libgl1-mesa-dev libjsoncpp-dev
 site_packages=(nats-server prometheus prometheus-alertmanager python3-paho-mqtt)
 
 # shellcheck disable=SC2034
-test_packages=(prometheus prometheus-alertmanager python3-prometheus-client)
+test_packages=(bash fish groff man-db mandoc prometheus prometheus-alertmanager python3-prometheus-client
+    shellcheck zsh)
 
 # Ubuntu has Chromium as a snap only; there the page is not tested.
 chromium_packages=()
@@ -107,6 +108,18 @@ fi
 # shellcheck disable=SC2034
 page_packages=(mosquitto mosquitto-clients nats-server openssl python3-paho-mqtt
     "${chromium_packages[@]}")
+
+# For the Debian packages.
+# shellcheck disable=SC2034
+release_packages=(appstream binutils desktop-file-utils dpkg-dev file git lintian xz-utils)
+
+# use_time_of_sources: has everything that is built bear the time of the last commit, not that of the build.
+use_time_of_sources() {
+    [ -z "${SOURCE_DATE_EPOCH:-}" ] || return 0
+    SOURCE_DATE_EPOCH=$(git -C "$root" log -1 --format=%ct 2>/dev/null) ||
+        fail "$root is no clone of the repository; set SOURCE_DATE_EPOCH to the time of the sources in seconds"
+    export SOURCE_DATE_EPOCH
+}
 
 seconds_since() { echo $((SECONDS - $1)); }
 

@@ -2,17 +2,39 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
 #include <optional>
 
-/// The help of a tool with several commands, and how people ask for it: `-h`, `--help`, `help`,
-/// `help COMMAND`, `COMMAND --help` and `--version`. All texts are translated already.
+/// The help of a tool, and how people ask for it: `-h`, `--help`, `help`, `help COMMAND`,
+/// `COMMAND --help` and `--version`. All texts are translated already.
+///
+/// Programs ask for it with `--help-json`. Manual pages and the completions of shells are made from
+/// that (scripts/lib/make_help_pages.py).
 class ToolHelp
 {
 public:
+    /// What a placeholder stands for, so that a shell can offer it.
+    enum class Kind
+    {
+        Word, ///< a text of which nothing more is known
+        Number,
+        File,
+        Folder,
+        Printer, ///< the name of a printer that the monitor lists
+        Choice,  ///< one of the choices
+    };
+    struct Value
+    {
+        /// "FILE", or "--virtual FILE" if it is another thing for this option than for others.
+        QString placeholder;
+        Kind kind = Kind::Word;
+        QStringList choices; ///< also words that stand for something beside files
+    };
     struct Option
     {
         QString spelling; ///< "--language TAG"
@@ -29,15 +51,31 @@ public:
 
     QString tool;
     QString summary;
-    QList<Command> commands;
+    QList<Command> commands; ///< none: the tool has options only
     QList<Option> options;
-    QStringList notes; ///< paragraphs below the list of options
+    QStringList notes;   ///< paragraphs below the list of options
+    QList<Value> values; ///< of each placeholder in an option or in a command's arguments
 
     /// What to print in place of running a command: the help for the whole tool or for a command,
     /// or the version. Nothing if the user did not ask for it. `words` are the arguments without
     /// the options. Throws Failure if the user asks for help about an unknown command.
     std::optional<QString> answer(const QStringList& words, bool wantsHelp,
                                   bool wantsVersion) const;
+
+    /// All of it as a JSON object with these members. Texts are in the language of the user, and
+    /// everything else is the same in every language.
+    ///
+    /// | member | is |
+    /// |---|---|
+    /// | `format` | 1; another number if a member changes its meaning |
+    /// | `tool`, `version`, `summary` | texts |
+    /// | `commands` | a list of objects: `name`, `summary`, `usage` ("FILE SKU"), `details`
+    /// (paragraphs), `options` (the names of those that it accepts), `arguments` | | `arguments` |
+    /// a list of values with `required` and `repeated` | | `options` | a list of objects: `names`
+    /// (["-h", "--help"]), `summary`, `value`, which is null if it takes none | | a value | an
+    /// object: `placeholder`, `kind` (`word`, `number`, `file`, `folder`, `printer`, `choice`; null
+    /// if the tool does not say), `choices` | | `notes` | paragraphs | | `exitStatus` | a text |
+    QString json() const;
 
     /// The names of the commands, separated by commas.
     QString commandNames() const;
@@ -47,4 +85,8 @@ private:
     QString about(const Command& command) const;
     const Command* find(const QString& name) const;
     QString optionList(const std::optional<QStringList>& spellings = {}) const;
+    QJsonObject valueOf(const QString& placeholder, const QString& spelling) const;
+    QJsonArray argumentsOf(const Command& command) const;
+    QJsonArray commandList() const;
+    QJsonArray optionObjects() const;
 };

@@ -33,6 +33,10 @@ constexpr const char* languageSpelling = "--language TAG";
 constexpr const char* jsonSpelling = "--json";
 constexpr const char* forceSpelling = "--force";
 
+/// What a shell offers as a language. Further forms of the same tags are accepted too.
+constexpr std::array languageTags{"de", "en", "es", "fr", "it",      "ja",
+                                  "ko", "nl", "pl", "pt", "zh-Hans", "zh-Hant"};
+
 QString counted(const DatabaseCounts& counts)
 {
     return ToolText::tr("%1 supplies, %2 ribbons, %3 print settings, %4 languages")
@@ -194,6 +198,16 @@ ToolHelp toolHelp()
                                   "English")},
                     {QString::fromLatin1(jsonSpelling), ToolText::tr("print JSON")},
                     {QString::fromLatin1(forceSpelling), ToolText::tr("replace existing files")}};
+    using Kind = ToolHelp::Kind;
+    QStringList tags;
+    for (const char* tag : languageTags)
+        tags.append(QString::fromLatin1(tag));
+    help.values = {{QStringLiteral("DIRECTORY"), Kind::Folder, {}},
+                   {QStringLiteral("FILE"), Kind::File, {}},
+                   {QStringLiteral("PATH"), Kind::File, {}},
+                   {QStringLiteral("SKU"), Kind::Word, {}},
+                   {QStringLiteral("IDENTIFIER"), Kind::Word, {}},
+                   {QStringLiteral("TAG"), Kind::Choice, tags}};
     return help;
 }
 
@@ -221,15 +235,18 @@ void checkOption(const QCommandLineParser& parser, const Command& command, const
 QString rolldbAnswer(const QStringList& arguments)
 {
     const QCommandLineOption helpOption(QStringList{QStringLiteral("h"), QStringLiteral("help")});
+    const QCommandLineOption helpJsonOption(QStringLiteral("help-json"));
     const QCommandLineOption versionOption(QStringLiteral("version"));
     const QCommandLineOption languageOption(nameOf(languageSpelling), {}, QStringLiteral("TAG"));
     QCommandLineParser parser;
-    parser.addOptions({helpOption, versionOption, languageOption,
+    parser.addOptions({helpOption, helpJsonOption, versionOption, languageOption,
                        QCommandLineOption(nameOf(jsonSpelling)),
                        QCommandLineOption(nameOf(forceSpelling))});
     if (!parser.parse(arguments))
         throw wrongUsage(parser.errorText());
     const ToolHelp help = toolHelp();
+    if (parser.isSet(helpJsonOption))
+        return help.json();
     QStringList words = parser.positionalArguments();
     if (const std::optional<QString> answer =
             help.answer(words, parser.isSet(helpOption), parser.isSet(versionOption)))

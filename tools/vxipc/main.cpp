@@ -56,6 +56,18 @@ ToolHelp toolHelp()
         {end, ToolText::tr("what follows is not an option")},
     };
     help.notes = {service};
+    using Kind = ToolHelp::Kind;
+    help.values = {
+        {QStringLiteral("SERVICE"),
+         Kind::Choice,
+         {QStringLiteral("supplyd"), QStringLiteral("m4"), QStringLiteral("printqd"),
+          QStringLiteral("status")}},
+        {QStringLiteral("METHOD"), Kind::Word, {}},
+        {QStringLiteral("ARGUMENT"), Kind::Word, {}},
+        {QStringLiteral("SIGNAL"), Kind::Word, {}},
+        {QStringLiteral("SECONDS"), Kind::Number, {}},
+        {QStringLiteral("MS"), Kind::Number, {}},
+    };
     return help;
 }
 
@@ -75,6 +87,7 @@ void run(StandardOutput& output)
     QStringList words;
     Options options;
     bool wantsHelp = false;
+    bool wantsHelpJson = false;
     bool wantsVersion = false;
     for (qsizetype i = 0; i < given.size(); ++i) {
         const QString& word = given.at(i);
@@ -84,6 +97,8 @@ void run(StandardOutput& output)
         }
         if (word == QStringLiteral("--help") || word == QStringLiteral("-h")) {
             wantsHelp = true;
+        } else if (word == QStringLiteral("--help-json")) {
+            wantsHelpJson = true;
         } else if (word == QStringLiteral("--version")) {
             wantsVersion = true;
         } else if (word == QStringLiteral("--json")) {
@@ -102,7 +117,10 @@ void run(StandardOutput& output)
             words.append(word);
         }
     }
-    if (const std::optional<QString> answer = toolHelp().answer(words, wantsHelp, wantsVersion))
+    const ToolHelp help = toolHelp();
+    if (wantsHelpJson)
+        output.write(help.json());
+    else if (const std::optional<QString> answer = help.answer(words, wantsHelp, wantsVersion))
         output.write(*answer);
     else
         runCommand(words, options, output);

@@ -3,6 +3,7 @@
 #include "agent.h"
 
 #include "agent_log.h"
+#include "default_catalogue.h"
 #include "hidden_printers.h"
 
 #include <usage_history_reader.h>
@@ -124,8 +125,8 @@ int Agent::watchedPrinters() const
 PrinterStatusController* Agent::withCatalogue()
 {
     VXIPCSUPPLYDController& service = *m_controller.getSupplyIdController();
-    if (!m_config.catalogue.isEmpty())
-        service.setCatalogueFile(m_config.catalogue);
+    service.setCatalogueFile(m_config.catalogue.isEmpty() ? defaultCatalogue()
+                                                          : m_config.catalogue);
     if (service.supplySKUList().isEmpty() && service.supplyRibbonSKUList().isEmpty())
         m_log.warning(
             QStringLiteral("supplies and ribbons have no names, and levels are not known: "

@@ -28,8 +28,8 @@ class Agent : public QObject
     Q_OBJECT
 
 public:
-    /// Does not watch yet. If the configuration names no catalogue, it is roll.db beside the
-    /// program.
+    /// Does not watch yet. If the configuration names no catalogue, it is the default of the
+    /// tools.
     Agent(const AgentConfig& config, AgentLog& log);
     ~Agent() override;
     Q_DISABLE_COPY_MOVE(Agent)

@@ -64,7 +64,7 @@ struct AgentConfig
     QString site;
     QString host;                   ///< the computer's name unless the file says another
     QString dataFolder;             ///< of what the agent keeps; see `defaultDataFolder`
-    QString catalogue;              ///< of supplies; empty: roll.db beside the program
+    QString catalogue;              ///< of supplies; empty: the default of the tools
     QString eventLog;               ///< a file for people who support the printers; empty: none
     QString history;                ///< a file with what was used, for forecasts; empty: none
     std::optional<MqttConfig> mqtt; ///< none: off

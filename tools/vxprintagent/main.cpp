@@ -27,6 +27,7 @@ struct Arguments
     QString fleetFile;
     double speed = 1;
     bool wantsHelp = false;
+    bool wantsHelpJson = false;
     bool wantsVersion = false;
 };
 
@@ -67,6 +68,11 @@ ToolHelp toolHelp()
         {fleet, ToolText::tr("use the virtual printers that FILE describes")},
         {speed, ToolText::tr("play the story of virtual printers FACTOR times as fast")},
     };
+    help.values = {
+        {QStringLiteral("FILE"), ToolHelp::Kind::File, {}},
+        {fleet, ToolHelp::Kind::File, {QStringLiteral("built-in")}},
+        {QStringLiteral("FACTOR"), ToolHelp::Kind::Number, {}},
+    };
     return help;
 }
 
@@ -92,6 +98,8 @@ Arguments parsed(const QStringList& given)
         const QString& word = given.at(i);
         if (word == QLatin1String("--help") || word == QLatin1String("-h"))
             arguments.wantsHelp = true;
+        else if (word == QLatin1String("--help-json"))
+            arguments.wantsHelpJson = true;
         else if (word == QLatin1String("--version"))
             arguments.wantsVersion = true;
         else if (word == QLatin1String("--config"))
@@ -165,6 +173,10 @@ void run(StandardOutput& output)
 {
     const Arguments arguments = parsed(QCoreApplication::arguments().mid(1));
     const ToolHelp help = toolHelp();
+    if (arguments.wantsHelpJson) {
+        output.write(help.json());
+        return;
+    }
     if (const auto answer =
             help.answer(arguments.words, arguments.wantsHelp, arguments.wantsVersion)) {
         output.write(*answer);

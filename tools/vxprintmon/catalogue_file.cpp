@@ -3,13 +3,13 @@
 #include "catalogue_file.h"
 
 #include "command_line.h"
+#include "default_catalogue.h"
 #include "output.h"
 #include "tool_text.h"
 
 #include <printer_status_controller.h>
 #include <vx_ipc_supplyd_controller.h>
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
@@ -21,17 +21,14 @@ QString catalogue_file::named(const CommandLine& line)
 QString catalogue_file::path(const CommandLine& line)
 {
     const QString file = named(line);
-    return file.isEmpty() ? QCoreApplication::applicationDirPath() + QLatin1String("/roll.db")
-                          : file;
+    return file.isEmpty() ? defaultCatalogue() : file;
 }
 
 void catalogue_file::use(const CommandLine& line, PrinterStatusController& controller,
                          const Output& output)
 {
     VXIPCSUPPLYDController& service = *controller.getSupplyIdController();
-    const QString file = named(line);
-    if (!file.isEmpty())
-        service.setCatalogueFile(file);
+    service.setCatalogueFile(path(line));
     if (!service.supplySKUList().isEmpty() || !service.supplyRibbonSKUList().isEmpty())
         return;
     const QString path = QDir::toNativeSeparators(service.catalogueFile());

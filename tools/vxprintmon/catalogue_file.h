@@ -11,11 +11,11 @@ struct CommandLine;
 /// The catalogue of supplies and ribbons.
 namespace catalogue_file {
 
-/// The file that the command line or the environment variable VX_ROLL_DB names; empty when the file
-/// beside the program is meant.
+/// The file that the command line or the environment variable VX_ROLL_DB names; empty when the default
+/// is meant.
 QString named(const CommandLine& line);
 
-/// The same, but the path of the file beside the program where that is meant.
+/// The same, but `defaultCatalogue()` where that is meant.
 QString path(const CommandLine& line);
 
 /// Lets the controller use that file. If nothing can be read from the file, that is said once, with

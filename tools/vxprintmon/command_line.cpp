@@ -5,6 +5,7 @@
 #include "commands.h"
 #include "failure.h"
 #include "text_layout.h"
+#include "tool_help.h"
 #include "tool_text.h"
 
 #include <QtCore/QCommandLineParser>
@@ -136,6 +137,8 @@ constexpr Option forceOption{
     CommandOption::Force};
 constexpr Option helpOption{"help", "",
                             QT_TRANSLATE_NOOP("tools", "print this help, or that of a command")};
+constexpr Option helpJsonOption{"help-json", "",
+                                QT_TRANSLATE_NOOP("tools", "print this help as JSON")};
 constexpr Option versionOption{"version", "", QT_TRANSLATE_NOOP("tools", "print the version")};
 
 constexpr std::array options{
@@ -144,7 +147,37 @@ constexpr std::array options{
     shiftEndOption,     csvOption,        virtualOption,  speedOption,     brokerOption,
     brokerConfigOption, allOption,        waitOption,     forceOption,     printerOption,
     sinceOption,        severityOption,   findingsOption, limitOption,     plainOption,
-    catalogueOption,    libraryLogOption, helpOption,     versionOption};
+    catalogueOption,    libraryLogOption, helpOption,     helpJsonOption,  versionOption};
+
+using Kind = ToolHelp::Kind;
+
+/// What a placeholder of an option or of a command's arguments stands for.
+struct Placeholder
+{
+    const char* name;
+    Kind kind;
+    std::array<const char*, 4> choices{};
+};
+
+constexpr std::array placeholders{
+    Placeholder{"ACTION", Kind::Choice, {"show", "explain", "redact", "verify"}},
+    Placeholder{"CODE", Kind::Number},
+    Placeholder{"COMMAND", Kind::Word},
+    Placeholder{"FACTOR", Kind::Number},
+    Placeholder{"FILE", Kind::File},
+    Placeholder{"--virtual FILE", Kind::File, {"built-in"}},
+    Placeholder{"LABELS", Kind::Number},
+    Placeholder{"LEVEL", Kind::Choice, {"ok", "information", "warning", "error"}},
+    Placeholder{"NAME", Kind::Printer},
+    Placeholder{"PRINTER", Kind::Printer},
+    Placeholder{"RIBBON", Kind::Word},
+    Placeholder{"SECONDS", Kind::Number},
+    Placeholder{"SIZE", Kind::Word},
+    Placeholder{"SKU", Kind::Word},
+    Placeholder{"TIME", Kind::Word},
+    Placeholder{"TIMES", Kind::Word},
+    Placeholder{"URL", Kind::Word},
+};
 
 QString usage(const char* words)
 {
@@ -157,6 +190,14 @@ bool isValidWith(const Option& option, const Command& command)
     return (command.options & option.required) == option.required;
 }
 
+/// "--language TAG"
+QString spellingOf(const Option& option)
+{
+    return QStringLiteral("--%1 %2")
+        .arg(QLatin1String(option.name), QLatin1String(option.value))
+        .trimmed();
+}
+
 /// The options that are valid with a command, or all of them.
 QString optionRows(const Command* command)
 {
@@ -164,8 +205,7 @@ QString optionRows(const Command* command)
     for (const Option& option : options) {
         if (command && !isValidWith(option, *command))
             continue;
-        const QString name =
-            QStringLiteral("--%1 %2").arg(QLatin1String(option.name), QLatin1String(option.value));
+        const QString name = spellingOf(option);
         const bool isHelp = option.name == helpOption.name;
         rows.append({isHelp ? QStringLiteral("-h, ") + name : name, ToolText::tr(option.summary)});
     }
@@ -178,6 +218,67 @@ QString nameWithArguments(const Command& command)
                                        QLatin1String(command.arguments));
 }
 
+/// Paragraphs below the list of options.
+QStringList notes()
+{
+    return {
+        ToolText::tr(
+            "The names of colours and materials come from the file roll.db beside this program, "
+            "or from the catalogue that was installed with it, unless --catalogue or the "
+            "environment variable VX_ROLL_DB names another file. Only the Windows build sees "
+            "the printers of the system; any other build has virtual printers only: those of "
+            "--virtual, those that VX_VIRTUAL_FLEET names, or a built-in fleet of six."),
+        ToolText::tr(
+            "Tables fit the terminal, the width that COLUMNS names, or 80 columns; what is cut "
+            "short ends with an ellipsis. Colours are omitted if the output is not a terminal "
+            "or "
+            "NO_COLOR is set. Characters that could control the terminal are shown as \\u001b "
+            "and "
+            "the like."),
+    };
+}
+
+QString summary()
+{
+    return ToolText::tr("Lists and watches the label printers of the print spooler.");
+}
+
+/// The same for programs.
+QString helpAsJson()
+{
+    ToolHelp result;
+    result.tool = QStringLiteral("vxprintmon");
+    result.summary = summary();
+    result.notes = notes();
+    for (const Option& option : options) {
+        // Those about the help itself are added by ToolHelp.
+        if (option.name != helpOption.name && option.name != helpJsonOption.name &&
+            option.name != versionOption.name)
+            result.options.append({spellingOf(option), ToolText::tr(option.summary)});
+    }
+    for (const Command& command : commands()) {
+        QStringList accepted;
+        for (const Option& option : options) {
+            if (isValidWith(option, command))
+                accepted.append(spellingOf(option));
+        }
+        result.commands.append(
+            {QString::fromLatin1(command.name), QString::fromLatin1(command.arguments),
+             ToolText::tr(command.summary),
+             command.details ? QStringList{ToolText::tr(command.details)} : QStringList(),
+             accepted});
+    }
+    for (const Placeholder& placeholder : placeholders) {
+        QStringList choices;
+        for (const char* choice : placeholder.choices) {
+            if (choice)
+                choices.append(QString::fromLatin1(choice));
+        }
+        result.values.append({QString::fromLatin1(placeholder.name), placeholder.kind, choices});
+    }
+    return result.json();
+}
+
 QString help()
 {
     using text_layout::paragraph;
@@ -187,26 +288,12 @@ QString help()
     commandRows.append(
         {QStringLiteral("help [COMMAND]"), ToolText::tr("print this help, or that of a command")});
     const QChar newLine = u'\n';
-    return usage("COMMAND [OPTION]...") + newLine +
-           paragraph(ToolText::tr("Lists and watches the label printers of the print spooler.")) +
-           newLine + ToolText::tr("Commands:") + newLine + text_layout::rows(commandRows) +
-           newLine + optionRows(nullptr) + newLine +
-           paragraph(ToolText::tr(
-               "The names of colours and materials come from the file roll.db beside this program, "
-               "unless --catalogue or the environment variable VX_ROLL_DB names another file. Only "
-               "the Windows build sees the printers of the system; any other build has virtual "
-               "printers only: those of --virtual, those that VX_VIRTUAL_FLEET names, or a "
-               "built-in "
-               "fleet of six.")) +
-           newLine +
-           paragraph(ToolText::tr(
-               "Tables fit the terminal, the width that COLUMNS names, or 80 columns; what is cut "
-               "short ends with an ellipsis. Colours are omitted if the output is not a terminal "
-               "or "
-               "NO_COLOR is set. Characters that could control the terminal are shown as \\u001b "
-               "and "
-               "the like.")) +
-           newLine + paragraph(ToolText::exitStatusHelp());
+    QString text = usage("COMMAND [OPTION]...") + newLine + paragraph(summary()) + newLine +
+                   ToolText::tr("Commands:") + newLine + text_layout::rows(commandRows) + newLine +
+                   optionRows(nullptr);
+    for (const QString& note : notes())
+        text += newLine + paragraph(note);
+    return text + newLine + paragraph(ToolText::exitStatusHelp());
 }
 
 QString help(const Command& command)
@@ -367,6 +454,10 @@ CommandLine parseCommandLine(const QStringList& arguments)
     if (given.has(versionOption)) {
         line.information =
             QStringLiteral("vxprintmon %1\n").arg(QCoreApplication::applicationVersion());
+        return line;
+    }
+    if (given.has(helpJsonOption)) {
+        line.information = helpAsJson();
         return line;
     }
     line.arguments = given.words();

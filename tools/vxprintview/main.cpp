@@ -107,6 +107,7 @@ void run(StandardOutput& output, const QString& fleetOfEnvironment)
     sourceOptions.fewestLabels = settings.fewestLabels();
     line.catalogueFile = sourceOptions.catalogueFile;
     const QString catalogue = catalogue_file::path(line);
+    sourceOptions.catalogueFile = catalogue;
 
     // When the last window is closed, the program may live on in the tray.
     QApplication::setQuitOnLastWindowClosed(false);
@@ -139,6 +140,8 @@ int main(int argc, char* argv[])
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vxprintview"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VX_VERSION));
+    // By this name desktops find the icon and the name of the window, tools/vxprintview/desktop.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.vxprinterstatus.vxprintview"));
     ToolText::useLanguageOfUser();
     return runTool(standardOutput, [&] { run(standardOutput, fleetOfEnvironment); });
 }

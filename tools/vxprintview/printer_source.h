@@ -19,7 +19,7 @@ class PrinterSource : public ViewSource
 public:
     struct Options
     {
-        QString catalogueFile;           ///< empty: roll.db beside the program
+        QString catalogueFile;           ///< empty: what the library reads by default
         QString historyFile;             ///< empty: nothing is recorded
         std::optional<int> fewestLabels; ///< warn when fewer are left
     };

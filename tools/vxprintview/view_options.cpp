@@ -3,7 +3,7 @@
 #include "view_options.h"
 
 #include "failure.h"
-#include "text_layout.h"
+#include "tool_help.h"
 #include "tool_text.h"
 
 #include <QtCore/QCommandLineParser>
@@ -48,8 +48,28 @@ constexpr std::array options{
            QT_TRANSLATE_NOOP("tools", "save a picture of the window in FILE.png and end")},
     Option{"after", "SECONDS",
            QT_TRANSLATE_NOOP("tools", "with --screenshot: SECONDS after the start, 3 by default")},
-    Option{"help", "", QT_TRANSLATE_NOOP("tools", "print this help")},
-    Option{"version", "", QT_TRANSLATE_NOOP("tools", "print the version")},
+};
+
+using Kind = ToolHelp::Kind;
+
+/// What a placeholder stands for.
+struct Placeholder
+{
+    const char* name;
+    Kind kind;
+    std::array<const char*, 7> choices{};
+};
+
+constexpr std::array placeholders{
+    Placeholder{"FACTOR", Kind::Number},
+    Placeholder{"FILE", Kind::File},
+    Placeholder{"--virtual FILE", Kind::File, {"built-in"}},
+    Placeholder{"FILE.png", Kind::File},
+    Placeholder{"SCHEME", Kind::Choice, {"light", "dark", "system"}},
+    Placeholder{"SECONDS", Kind::Number},
+    Placeholder{"TAG", Kind::Choice, {"en", "de", "es", "fr", "it", "ja", "zh_CN"}},
+    Placeholder{"URL", Kind::Word},
+    Placeholder{"WIDTHxHEIGHT", Kind::Word},
 };
 
 constexpr double longestWait = 86400;
@@ -57,20 +77,26 @@ constexpr double greatestSpeed = 1000;
 constexpr int leastSide = 100;
 constexpr int greatestSide = 10000;
 
-QString help()
+ToolHelp toolHelp()
 {
-    QList<text_layout::Row> rows;
+    ToolHelp help;
+    help.tool = QStringLiteral("vxprintview");
+    help.summary = ToolText::tr("Shows the label printers of this computer in a window.");
     for (const Option& option : options) {
         QString spelling = QStringLiteral("--") + QLatin1String(option.name);
         if (option.value[0] != '\0')
             spelling += QLatin1Char(' ') + QLatin1String(option.value);
-        rows.append({spelling, ToolText::tr(option.summary)});
+        help.options.append({spelling, ToolText::tr(option.summary)});
     }
-    return QStringLiteral("vxprintview [OPTION…]\n\n") +
-           text_layout::paragraph(
-               ToolText::tr("Shows the label printers of this computer in a window.")) +
-           QLatin1Char('\n') + text_layout::rows(rows) + QLatin1Char('\n') +
-           text_layout::paragraph(ToolText::exitStatusHelp());
+    for (const Placeholder& placeholder : placeholders) {
+        QStringList choices;
+        for (const char* choice : placeholder.choices) {
+            if (choice)
+                choices.append(QString::fromLatin1(choice));
+        }
+        help.values.append({QString::fromLatin1(placeholder.name), placeholder.kind, choices});
+    }
+    return help;
 }
 
 /// A number above 0 and up to `most`.
@@ -107,6 +133,10 @@ ViewOptions parseViewOptions(const QStringList& arguments)
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
     for (const Option& option : options)
         parser.addOption({QString::fromLatin1(option.name), {}, QString::fromLatin1(option.value)});
+    const QCommandLineOption helpOption(QStringList{QStringLiteral("h"), QStringLiteral("help")});
+    const QCommandLineOption helpJsonOption(QStringLiteral("help-json"));
+    const QCommandLineOption versionOption(QStringLiteral("version"));
+    parser.addOptions({helpOption, helpJsonOption, versionOption});
     if (!parser.parse(arguments))
         throw wrongUsage(parser.errorText());
     ViewOptions result;
@@ -116,14 +146,13 @@ ViewOptions parseViewOptions(const QStringList& arguments)
             throw wrongUsage(ToolText::tr("--%1: expected a value").arg(option));
         return parser.value(option);
     };
-    if (parser.isSet(QStringLiteral("help"))) {
-        result.information = help();
+    const ToolHelp help = toolHelp();
+    result.information = parser.isSet(helpJsonOption) ? help.json()
+                                                      : help.answer({}, parser.isSet(helpOption),
+                                                                    parser.isSet(versionOption))
+                                                            .value_or(QString());
+    if (!result.information.isEmpty())
         return result;
-    }
-    if (parser.isSet(QStringLiteral("version"))) {
-        result.information = QStringLiteral("vxprintview " VX_VERSION "\n");
-        return result;
-    }
     if (!parser.positionalArguments().isEmpty())
         throw wrongUsage(ToolText::tr("expected options only, found \"%1\"")
                              .arg(parser.positionalArguments().first()));

@@ -12,7 +12,7 @@ struct ViewOptions
     QString fleetFile;        ///< empty: the built-in fleet, or the system's own printers
     QString broker;           ///< a URL; empty: that of the next
     QString brokerConfigFile; ///< empty: no user, no certificates of one's own
-    QString catalogueFile;    ///< empty: what the environment names, or roll.db beside the program
+    QString catalogueFile;    ///< empty: what the environment names, or the default
     QString historyFile;      ///< empty: the user's own; none for virtual printers
     QString settingsFile;     ///< empty: the user's own
     QString pictureFile;      ///< save a picture of the window and end
