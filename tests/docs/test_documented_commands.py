@@ -86,14 +86,12 @@ def called_by_ci():
     while todo:
         script = todo.pop()
         found.add(script)
+        if script.suffix == ".py":
+            continue  # calls no script that is described
         code = "\n".join(line for line in text_of(script).splitlines() if not line.lstrip().startswith("#"))
-        for name in re.findall(r"\bscripts/([\w/-]+(?:\.sh)?)", code):
-            called = ROOT / "scripts" / name
+        for name in re.findall(r"\b(?:scripts|lib)/[\w/-]+(?:\.\w+)?", code):
+            called = ROOT / (name if name.startswith("scripts/") else f"scripts/{name}")
             if called.is_file() and called not in found:
-                todo.add(called)
-        for name in re.findall(r"/lib/([\w-]+(?:\.sh)?)", code):
-            called = ROOT / "scripts/lib" / name
-            if called.is_file() and called not in found and called.suffix in ("", ".sh"):
                 todo.add(called)
     return found
 
