@@ -104,6 +104,7 @@ set(VX_LONG_TESTS
     test_record
     tst_kit_faults
     tst_storm
+    test_documented_commands
     test_top
     tst_vxprintmon
     tst_monitor_status

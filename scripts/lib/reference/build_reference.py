@@ -130,6 +130,8 @@ class Reference:
         self.doxygen(*pages, **shared, HTML_OUTPUT=f'"{self.html}"', GENERATE_TREEVIEW="YES", SEARCHENGINE="YES",
                      DISABLE_INDEX="YES", FULL_SIDEBAR="NO")
         self.finish(self.html)
+        with open(self.html / "search/search.css", "a", encoding="utf-8") as styles:
+            styles.write((HERE / "search.css").read_text(encoding="utf-8"))
         # A viewer of help files has a navigation of its own, and runs no scripts.
         self.doxygen(*pages, **shared, HTML_OUTPUT=f'"{self.help}"', GENERATE_TREEVIEW="NO", SEARCHENGINE="NO",
                      DISABLE_INDEX="YES", GENERATE_QHP="YES", QHP_NAMESPACE="vxprinterstatus",

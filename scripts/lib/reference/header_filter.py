@@ -10,12 +10,22 @@ import pathlib
 import re
 import sys
 
+ROOT = pathlib.Path(__file__).resolve().parents[3]
+
+
+def link(found):
+    """A link to the page of a guide or schema; the name as it is if there is none in the tree."""
+    path = found["path"]
+    if not (ROOT / path).exists():
+        return found[0]
+    name = pathlib.PurePosixPath(path).name.partition(".")[0]
+    return f'<a href="{"schema-" if path.endswith(".json") else ""}{name}.html">{path}</a>'
+
+
 first, *files, header = map(pathlib.Path, sys.argv[1:])
 for line in header.read_text(encoding="utf-8").splitlines(keepends=True):
     if "///" in line or line.lstrip().startswith(("*", "/*", "//")):
-        line = re.sub(r"`?\bdocs/([a-z0-9-]+)\.md\b`?", r'<a href="\1.html">docs/\1.md</a>', line)
-        line = re.sub(r"`?\bdocs/schema/([a-z]+)\.schema\.json\b`?",
-                      r'<a href="schema-\1.html">docs/schema/\1.schema.json</a>', line)
+        line = re.sub(r"`?\b(?P<path>docs/(?:[a-z0-9-]+\.md|schema/[a-z]+\.schema\.json))\b`?", link, line)
     sys.stdout.write(line)
 if header == first:
     for file in files:
