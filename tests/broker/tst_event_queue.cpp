@@ -481,7 +481,7 @@ void EventQueueTest::killsLoseNothingThatWasAccepted()
     int lastDelivered = 0;
     constexpr int kills = 20;
     for (int kill = 0; kill < kills; ++kill) {
-        child.start(QStringLiteral(VX_EVENT_QUEUE_CHILD), {folder(), QString::number(begin)});
+        child.start(testFile(VX_EVENT_QUEUE_CHILD), {folder(), QString::number(begin)});
         QVERIFY(child.waitForStarted(patience));
         // At a different moment each time.
         const int until = begin + 5 + kill * 7 % 60;
@@ -528,4 +528,5 @@ void EventQueueTest::killsLoseNothingThatWasAccepted()
 }
 
 QTEST_GUILESS_MAIN(EventQueueTest)
+#include "test_file.h"
 #include "tst_event_queue.moc"

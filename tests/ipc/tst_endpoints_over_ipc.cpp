@@ -626,7 +626,7 @@ private:
 
 void EndpointsOverIpcTest::initTestCase()
 {
-    writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), databasePath());
+    writeDatabase(readCatalogueDirectory(testFile(VX_SAMPLE_CATALOGUE)), databasePath());
     m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connectionName);
     m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
     m_database.setDatabaseName(databasePath());
@@ -1071,4 +1071,5 @@ int main(int argc, char* argv[])
     EndpointsOverIpcTest test;
     return QTest::qExec(&test, argc, argv);
 }
+#include "test_file.h"
 #include "tst_endpoints_over_ipc.moc"

@@ -94,7 +94,7 @@ void CaseReaderTest::init()
 
 void CaseReaderTest::readsEveryLineInOrder()
 {
-    CaseFile file(QStringLiteral(VX_EVERY_KIND));
+    CaseFile file(testFile(VX_EVERY_KIND));
     QCOMPARE(file.errorString(), QString());
     QCOMPARE(file.header().value(u"locale").toString(), QStringLiteral("de_DE"));
     qint64 number = 0;
@@ -282,7 +282,7 @@ void CaseReaderTest::manyPrintersAreBounded()
 
 void CaseReaderTest::readingsFollowTheCase()
 {
-    CaseFile file(QStringLiteral(VX_EVERY_KIND));
+    CaseFile file(testFile(VX_EVERY_KIND));
     CaseReadings readings;
     std::optional<Level> first;
     while (const std::optional<CaseLine> line = file.next()) {
@@ -312,7 +312,7 @@ void CaseReaderTest::readingsFollowTheCase()
 
 void CaseReaderTest::eventsHaveTheTimesOfTheCase()
 {
-    CaseFile file(QStringLiteral(VX_EVERY_KIND));
+    CaseFile file(testFile(VX_EVERY_KIND));
     CaseReadings readings;
     QStringList events;
     while (const std::optional<CaseLine> line = file.next()) {
@@ -391,4 +391,5 @@ void CaseReaderTest::impossibleMembersAreSurvived()
 }
 
 QTEST_APPLESS_MAIN(CaseReaderTest)
+#include "test_file.h"
 #include "tst_case_reader.moc"

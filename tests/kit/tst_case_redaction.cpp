@@ -20,7 +20,7 @@ namespace {
 QList<QJsonObject> linesOfEveryKind()
 {
     QList<QJsonObject> lines;
-    VxKit::CaseFile file(QStringLiteral(VX_EVERY_KIND));
+    VxKit::CaseFile file(testFile(VX_EVERY_KIND));
     while (const std::optional<CaseLine> line = file.next())
         lines.append(line->object);
     if (!file.errorString().isEmpty())
@@ -604,4 +604,5 @@ void CaseRedactionTest::namesThatTheLogHasBrokenAreFound()
 }
 
 QTEST_APPLESS_MAIN(CaseRedactionTest)
+#include "test_file.h"
 #include "tst_case_redaction.moc"

@@ -51,7 +51,7 @@ QString shown(const std::optional<Number>& number, int decimals)
 
 QList<QStringList> ReadingsDocumentTest::examples()
 {
-    QFile file(QStringLiteral(VX_READINGS_DOCUMENT));
+    QFile file(testFile(VX_READINGS_DOCUMENT));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("%s cannot be read", VX_READINGS_DOCUMENT);
     QList<QStringList> rows;
@@ -145,4 +145,5 @@ void ReadingsDocumentTest::everyKindOfExampleIsThere()
 }
 
 QTEST_GUILESS_MAIN(ReadingsDocumentTest)
+#include "test_file.h"
 #include "tst_readings_document.moc"

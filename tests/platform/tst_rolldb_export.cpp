@@ -32,7 +32,7 @@
 namespace {
 
 // An absolute path, because on Windows the tool may run on another drive.
-const QString sampleCatalogue = QDir(QStringLiteral(VX_SAMPLE_CATALOGUE)).absolutePath();
+const QString sampleCatalogue = QDir(testFile(VX_SAMPLE_CATALOGUE)).absolutePath();
 
 /// A catalogue of any content that tables can have, in any order.
 class RandomCatalogue
@@ -272,7 +272,7 @@ QString RollDbExportTest::run(QStringList arguments) const
 {
     const QString folder = m_folder->path() + u'/';
     QProcess tool;
-    startProcess(tool, QStringLiteral(VX_ROLLDB),
+    startProcess(tool, testFile(VX_ROLLDB),
                  arguments.replaceInStrings(QStringLiteral("@"), folder));
     if (!tool.waitForFinished(patience))
         return tool.errorString();
@@ -526,4 +526,5 @@ void RollDbExportTest::templateShowsEveryColumn()
 }
 
 QTEST_GUILESS_MAIN(RollDbExportTest)
+#include "test_file.h"
 #include "tst_rolldb_export.moc"

@@ -12,7 +12,7 @@
 
 namespace {
 
-const QString sampleCatalogue = QStringLiteral(VX_SAMPLE_CATALOGUE);
+const QString sampleCatalogue = testFile(VX_SAMPLE_CATALOGUE);
 
 /// The header of a bitmap file with a size, without any pixels.
 QByteArray bitmapHeader(qint32 width, qint32 height)
@@ -715,4 +715,5 @@ void RollDbTablesTest::everySampleSupplyHasAKindAndAPrintSetting()
 }
 
 QTEST_GUILESS_MAIN(RollDbTablesTest)
+#include "test_file.h"
 #include "tst_rolldb_tables.moc"

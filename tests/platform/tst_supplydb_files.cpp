@@ -311,7 +311,7 @@ void SupplyDbFilesTest::misplacedPagesAreRefused()
 void SupplyDbFilesTest::aTreeThatReachesAPageTwiceIsRefused()
 {
     const QString sample = m_folder->filePath(QStringLiteral("sample.db"));
-    writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), sample);
+    writeDatabase(readCatalogueDirectory(testFile(VX_SAMPLE_CATALOGUE)), sample);
     QCOMPARE(failureOf(sample), QString());
     constexpr qsizetype pageSize = 4096;
     qsizetype root = 0;
@@ -521,4 +521,5 @@ void SupplyDbFilesTest::anUnusableFileIsNotOpenedForEachQuery()
 }
 
 QTEST_GUILESS_MAIN(SupplyDbFilesTest)
+#include "test_file.h"
 #include "tst_supplydb_files.moc"

@@ -458,7 +458,7 @@ void VXSupplyDatabaseTest::oneConnectionNameServesTwoObjects()
 void VXSupplyDatabaseTest::agreesWithTheSampleDatabase()
 {
     const QString sample = m_folder->filePath(QStringLiteral("sample.db"));
-    writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), sample);
+    writeDatabase(readCatalogueDirectory(testFile(VX_SAMPLE_CATALOGUE)), sample);
     m_database->setup(sample, connectionName);
     m_database->setLanguageId(japanese);
     const TestConnection other(sample);
@@ -495,4 +495,5 @@ void VXSupplyDatabaseTest::agreesWithTheSampleDatabase()
 }
 
 QTEST_GUILESS_MAIN(VXSupplyDatabaseTest)
+#include "test_file.h"
 #include "tst_vxsupplydb.moc"

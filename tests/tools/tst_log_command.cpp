@@ -104,8 +104,7 @@ private:
         environment.insert(QStringLiteral("LANGUAGE"), language);
         QProcess process;
         process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(VXPRINTMON),
-                      QStringList{QStringLiteral("log"), file()} + options);
+        process.start(testFile(VXPRINTMON), QStringList{QStringLiteral("log"), file()} + options);
         if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit)
             return {};
         return {process.exitCode(), process.readAllStandardOutput().replace("\r\n", "\n"),
@@ -370,4 +369,5 @@ void LogCommandTest::timesAreUnderstood()
 }
 
 QTEST_GUILESS_MAIN(LogCommandTest)
+#include "test_file.h"
 #include "tst_log_command.moc"

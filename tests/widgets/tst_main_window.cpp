@@ -290,7 +290,7 @@ void MainWindowTest::takesPicturesOfSuppliesFromTheCatalogue()
 {
     writeSampleDatabase(m_folder->path());
     const QString catalogue = m_folder->filePath(QStringLiteral("roll.db"));
-    QFile file(QStringLiteral(VX_SAMPLE_PICTURES "/danger_header.png"));
+    QFile file(testFile(VX_SAMPLE_PICTURES "/danger_header.png"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const SupplyPictures pictures(catalogue);
     QCOMPARE(pictures(QStringLiteral("VH-400-RW")), file.readAll());
@@ -437,4 +437,5 @@ int main(int argc, char* argv[])
 {
     return runInEnglish<QApplication, MainWindowTest>(argc, argv);
 }
+#include "test_file.h"
 #include "tst_main_window.moc"

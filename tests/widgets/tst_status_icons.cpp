@@ -72,7 +72,7 @@ private Q_SLOTS:
 
 void StatusIconsTest::everySourceIsDrawnByTheWidgets()
 {
-    const QDir folder(QStringLiteral(VX_ICONS));
+    const QDir folder(testFile(VX_ICONS));
     const QStringList sources = folder.entryList({QStringLiteral("*.svg")});
     QCOMPARE(sources.size(), qsizetype(iconCount));
     for (const QString& name : sources) {
@@ -193,4 +193,5 @@ void StatusIconsTest::readingHasTheIconOfWhatItSays()
 
 QTEST_MAIN(StatusIconsTest)
 
+#include "test_file.h"
 #include "tst_status_icons.moc"

@@ -37,9 +37,9 @@ BOOL WINAPI recordEntry(HANDLE /*log*/, WORD type, WORD /*category*/, DWORD mess
 /// the source names.
 QString shownByEventViewer(const Entry& entry)
 {
-    const HMODULE program = LoadLibraryExW(
-        QDir::toNativeSeparators(QStringLiteral(VXPRINTAGENT)).toStdWString().c_str(), nullptr,
-        LOAD_LIBRARY_AS_DATAFILE);
+    const HMODULE program =
+        LoadLibraryExW(QDir::toNativeSeparators(testFile(VXPRINTAGENT)).toStdWString().c_str(),
+                       nullptr, LOAD_LIBRARY_AS_DATAFILE);
     if (!program)
         return {};
     const std::wstring insertion = entry.insertions.value(0).toStdWString();
@@ -172,4 +172,5 @@ void EventViewerLogTest::sourceNamesTheProgramWithTheTexts()
 }
 
 QTEST_GUILESS_MAIN(EventViewerLogTest)
+#include "test_file.h"
 #include "tst_event_viewer_log.moc"
