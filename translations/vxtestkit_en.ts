@@ -5,168 +5,168 @@
     <name>vxtestkit</name>
     <message>
         <source>Runs the tests of VxPrinterStatus on this computer and writes a report about them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Runs the tests of VxPrinterStatus on this computer and writes a report about them.</translation>
     </message>
     <message>
         <source>Shows this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Shows this help.</translation>
     </message>
     <message>
         <source>Runs the tests without asking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Runs the tests without asking.</translation>
     </message>
     <message>
         <source>Allows tests to stop and start the print spooler, without asking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Allows tests to stop and start the print spooler, without asking.</translation>
     </message>
     <message>
         <source>Leaves out the tests that stop the print spooler, without asking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Leaves out the tests that stop the print spooler, without asking.</translation>
     </message>
     <message>
         <source>Leaves out the tests that need an administrator&apos;s rights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Leaves out the tests that need an administrator's rights.</translation>
     </message>
     <message>
         <source>Runs only the tests whose names match this regular expression.</source>
-        <translation type="unfinished"></translation>
+        <translation>Runs only the tests whose names match this regular expression.</translation>
     </message>
     <message>
         <source>Ends a test that prints nothing for so many seconds (180).</source>
-        <translation type="unfinished"></translation>
+        <translation>Ends a test that prints nothing for so many seconds (180).</translation>
     </message>
     <message>
         <source>Writes the report into this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Writes the report into this folder.</translation>
     </message>
     <message>
         <source>Speaks this language: de, en, es, fr, it, ja or zh.</source>
-        <translation type="unfinished"></translation>
+        <translation>Speaks this language: de, en, es, fr, it, ja or zh.</translation>
     </message>
     <message>
         <source>unexpected argument &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>unexpected argument "%1"</translation>
     </message>
     <message>
         <source>--allow-spooler-stop and --no-spooler-stop contradict each other</source>
-        <translation type="unfinished"></translation>
+        <translation>--allow-spooler-stop and --no-spooler-stop contradict each other</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a regular expression: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>"%1" is not a regular expression: %2</translation>
     </message>
     <message>
         <source>--silence: expected a number of seconds from 1 to %1, found &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>--silence: expected a number of seconds from 1 to %1, found "%2"</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cannot be written: %2</translation>
     </message>
     <message>
         <source>passed</source>
-        <translation type="unfinished"></translation>
+        <translation>passed</translation>
     </message>
     <message>
         <source>FAILED</source>
-        <translation type="unfinished"></translation>
+        <translation>FAILED</translation>
     </message>
     <message>
         <source>CRASHED</source>
-        <translation type="unfinished"></translation>
+        <translation>CRASHED</translation>
     </message>
     <message>
         <source>HANGS, was ended</source>
-        <translation type="unfinished"></translation>
+        <translation>HANGS, was ended</translation>
     </message>
     <message>
         <source>skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>skipped</translation>
     </message>
     <message>
         <source>not run</source>
-        <translation type="unfinished"></translation>
+        <translation>not run</translation>
     </message>
     <message>
         <source>interrupted</source>
-        <translation type="unfinished"></translation>
+        <translation>interrupted</translation>
     </message>
     <message>
         <source>Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nothing was changed.</translation>
     </message>
     <message>
         <source>The folder %1 cannot be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>The folder %1 cannot be created.</translation>
     </message>
     <message>
         <source>An earlier run did not end by itself. What it has left behind is removed now.</source>
-        <translation type="unfinished"></translation>
+        <translation>An earlier run did not end by itself. What it has left behind is removed now.</translation>
     </message>
     <message>
         <source>%1 cannot be read, so it is not known what there was before that run. Remove the file if its printers are gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cannot be read, so it is not known what there was before that run. Remove the file if its printers are gone.</translation>
     </message>
     <message>
         <source>Tests of VxPrinterStatus %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tests of VxPrinterStatus %1</translation>
     </message>
     <message>
         <source>This program runs the tests of VxPrinterStatus on this computer. It adds printers, drivers and ports of its own names, but prints nothing on your printers. It writes keys of its own into the registry, adds a service of its own, and shows windows that come and go. It removes all of this again. For a moment, one of its printers is the default printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>This program runs the tests of VxPrinterStatus on this computer. It adds printers, drivers and ports of its own names, but prints nothing on your printers. It writes keys of its own into the registry, adds a service of its own, and shows windows that come and go. It removes all of this again. For a moment, one of its printers is the default printer.</translation>
     </message>
     <message>
         <source>It leaves one file, a report, which you can read before you send it. Names of people, computers and your printers are not in it. Nothing is sent by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>It leaves one file, a report, which you can read before you send it. Names of people, computers and your printers are not in it. Nothing is sent by itself.</translation>
     </message>
     <message>
         <source>It takes 10 to 30 minutes. Ctrl+C ends it at any time, and it then removes what it has added.</source>
-        <translation type="unfinished"></translation>
+        <translation>It takes 10 to 30 minutes. Ctrl+C ends it at any time, and it then removes what it has added.</translation>
     </message>
     <message>
         <source>It does not have an administrator&apos;s rights, so %1 of %2 tests cannot run. To run all, answer no, then right-click run-tests.cmd and choose &quot;Run as administrator&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>It does not have an administrator's rights, so %1 of %2 tests cannot run. To run all, answer no, then right-click run-tests.cmd and choose "Run as administrator".</translation>
     </message>
     <message>
         <source>Windows is not in English here. Some tests compare English texts, and may fail for that reason alone. The report says so.</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows is not in English here. Some tests compare English texts, and may fail for that reason alone. The report says so.</translation>
     </message>
     <message>
         <source>Run the tests?</source>
-        <translation type="unfinished"></translation>
+        <translation>Run the tests?</translation>
     </message>
     <message>
         <source>Some tests stop the print spooler for some seconds and start it again. In that time nobody can print with this computer, and jobs wait. Without them, the other tests run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Some tests stop the print spooler for some seconds and start it again. In that time nobody can print with this computer, and jobs wait. Without them, the other tests run.</translation>
     </message>
     <message>
         <source>May they stop the print spooler?</source>
-        <translation type="unfinished"></translation>
+        <translation>May they stop the print spooler?</translation>
     </message>
     <message>
         <source>%1 passed, %2 failed, %3 skipped, %4 not run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 passed, %2 failed, %3 skipped, %4 not run</translation>
     </message>
     <message>
         <source>Not as it was before:</source>
-        <translation type="unfinished"></translation>
+        <translation>Not as it was before:</translation>
     </message>
     <message>
         <source>Please send back this file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Please send back this file:</translation>
     </message>
     <message>
         <source>The tests are already running on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>The tests are already running on this computer.</translation>
     </message>
     <message>
         <source>Press Enter to close.</source>
-        <translation type="unfinished"></translation>
+        <translation>Press Enter to close.</translation>
     </message>
     <message>
         <source>[y/n]</source>
         <comment>the first letters of yes and no</comment>
-        <translation type="unfinished"></translation>
+        <translation>[y/n]</translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 // Events that wait on the disk for a broker.
+#include "test_file.h"
+
 #include <event_queue.h>
 #include <patience.h>
 
@@ -528,5 +530,4 @@ void EventQueueTest::killsLoseNothingThatWasAccepted()
 }
 
 QTEST_GUILESS_MAIN(EventQueueTest)
-#include "test_file.h"
 #include "tst_event_queue.moc"

@@ -5,6 +5,7 @@
 #include "patience.h"
 #include "sample_database.h"
 #include "start_process.h"
+#include "test_file.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -382,5 +383,4 @@ void InstalledPackageTest::brokenFleetIsRefused()
 #endif
 
 QTEST_GUILESS_MAIN(InstalledPackageTest)
-#include "test_file.h"
 #include "tst_installed_package.moc"

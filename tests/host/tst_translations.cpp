@@ -4,6 +4,7 @@
 #include "patience.h"
 #include "printer_status_controller.h"
 #include "status_codes.h"
+#include "test_file.h"
 
 #ifdef VX_HAS_OWN_LANGUAGES
 #include <vxlocalelanguages.h>
@@ -436,5 +437,4 @@ int main(int argc, char* argv[])
     return QTest::qExec(&test, argc, argv);
 }
 
-#include "test_file.h"
 #include "tst_translations.moc"

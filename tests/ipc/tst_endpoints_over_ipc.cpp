@@ -6,6 +6,7 @@
 // What the database answers is compared with what plain SQL finds in the same file. The host opens
 // the file beside its executable, so host and test lie in a folder of their own.
 #include "ipc_host_process.h"
+#include "test_file.h"
 
 #include <catalogue.h>
 #include <catalogue_writer.h>
@@ -1071,5 +1072,4 @@ int main(int argc, char* argv[])
     EndpointsOverIpcTest test;
     return QTest::qExec(&test, argc, argv);
 }
-#include "test_file.h"
 #include "tst_endpoints_over_ipc.moc"

@@ -3,6 +3,7 @@
 // Reading case files, also those that somebody has made to break the reader.
 #include "case_file.h"
 #include "case_readings.h"
+#include "test_file.h"
 
 #include <status_codes.h>
 
@@ -391,5 +392,4 @@ void CaseReaderTest::impossibleMembersAreSurvived()
 }
 
 QTEST_APPLESS_MAIN(CaseReaderTest)
-#include "test_file.h"
 #include "tst_case_reader.moc"

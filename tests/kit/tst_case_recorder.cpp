@@ -8,6 +8,7 @@
 #include "machine_test.h"
 #include "patience.h"
 #include "printer_status_controller.h"
+#include "test_file.h"
 #include "vx_ipc_supplyd_controller.h"
 
 #include <virtualwindows/fleet.h>
@@ -1081,5 +1082,4 @@ void CaseRecorderTest::leavesTheLogWhereItWas()
 }
 
 QTEST_GUILESS_MAIN(CaseRecorderTest)
-#include "test_file.h"
 #include "tst_case_recorder.moc"

@@ -3,6 +3,7 @@
 // What is left of the lines of a case file when names and texts have been taken out of them.
 #include "case_file.h"
 #include "case_redaction.h"
+#include "test_file.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
@@ -604,5 +605,4 @@ void CaseRedactionTest::namesThatTheLogHasBrokenAreFound()
 }
 
 QTEST_APPLESS_MAIN(CaseRedactionTest)
-#include "test_file.h"
 #include "tst_case_redaction.moc"

@@ -3,6 +3,7 @@
 // The file of events: its lines, its rotation, several writers, and what happens when it cannot be
 // written.
 #include "patience.h"
+#include "test_file.h"
 #include "whole_file.h"
 
 #include <event_log.h>
@@ -840,5 +841,4 @@ void EventLogTest::memoryIsBounded()
 }
 
 QTEST_GUILESS_MAIN(EventLogTest)
-#include "test_file.h"
 #include "tst_event_log.moc"

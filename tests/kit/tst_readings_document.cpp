@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 // Each example of docs/readings.md, calculated from its own row.
 #include "readings_test.h"
+#include "test_file.h"
 
 #include <supplyc.h>
 #include <vx_ipc_supplyd_controller.h>
@@ -145,5 +146,4 @@ void ReadingsDocumentTest::everyKindOfExampleIsThere()
 }
 
 QTEST_GUILESS_MAIN(ReadingsDocumentTest)
-#include "test_file.h"
 #include "tst_readings_document.moc"

@@ -3,6 +3,7 @@
 // The history of what was used: what is recorded, how it grows old, and what happens to its file.
 #include "patience.h"
 #include "start_process.h"
+#include "test_file.h"
 #include "usage_printers.h"
 #include "whole_file.h"
 
@@ -1447,5 +1448,4 @@ void UsageHistoryTest::impossibleBytesAreNoSamples()
 }
 
 QTEST_GUILESS_MAIN(UsageHistoryTest)
-#include "test_file.h"
 #include "tst_usage_history.moc"

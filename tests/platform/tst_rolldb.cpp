@@ -6,6 +6,7 @@
 #include "run_statement.h"
 #include "small_catalogue.h"
 #include "start_process.h"
+#include "test_file.h"
 #include "test_files.h"
 
 #include <database_check.h>
@@ -550,5 +551,4 @@ int main(int argc, char* argv[])
 {
     return runInEnglish<QCoreApplication, RollDbTest>(argc, argv);
 }
-#include "test_file.h"
 #include "tst_rolldb.moc"

@@ -6,6 +6,7 @@
 #include "run_statement.h"
 #include "small_catalogue.h"
 #include "start_process.h"
+#include "test_file.h"
 #include "test_files.h"
 
 #include <catalogue_tables.h>
@@ -526,5 +527,4 @@ void RollDbExportTest::templateShowsEveryColumn()
 }
 
 QTEST_GUILESS_MAIN(RollDbExportTest)
-#include "test_file.h"
 #include "tst_rolldb_export.moc"

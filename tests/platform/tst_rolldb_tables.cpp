@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "failure_of.h"
 #include "small_catalogue.h"
+#include "test_file.h"
 
 #include <csv_table.h>
 #include <shown_text.h>
@@ -715,5 +716,4 @@ void RollDbTablesTest::everySampleSupplyHasAKindAndAPrintSetting()
 }
 
 QTEST_GUILESS_MAIN(RollDbTablesTest)
-#include "test_file.h"
 #include "tst_rolldb_tables.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 #include "supplydb_test.h"
+#include "test_file.h"
 #include "test_files.h"
 
 #include <supplydb_connection.h>
@@ -521,5 +522,4 @@ void SupplyDbFilesTest::anUnusableFileIsNotOpenedForEachQuery()
 }
 
 QTEST_GUILESS_MAIN(SupplyDbFilesTest)
-#include "test_file.h"
 #include "tst_supplydb_files.moc"

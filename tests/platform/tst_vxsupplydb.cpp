@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 #include "supplydb_test.h"
+#include "test_file.h"
 
 #include <QtTest/QtTest>
 
@@ -495,5 +496,4 @@ void VXSupplyDatabaseTest::agreesWithTheSampleDatabase()
 }
 
 QTEST_GUILESS_MAIN(VXSupplyDatabaseTest)
-#include "test_file.h"
 #include "tst_vxsupplydb.moc"

@@ -3,6 +3,7 @@
 // The log of events as `vxprintmon log` prints it.
 #include "log_command.h"
 #include "patience.h"
+#include "test_file.h"
 #include "text_layout.h"
 
 #include <event_log.h>
@@ -369,5 +370,4 @@ void LogCommandTest::timesAreUnderstood()
 }
 
 QTEST_GUILESS_MAIN(LogCommandTest)
-#include "test_file.h"
 #include "tst_log_command.moc"

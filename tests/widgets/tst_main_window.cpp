@@ -9,6 +9,7 @@
 #include "run_in_english.h"
 #include "sample_database.h"
 #include "supply_pictures.h"
+#include "test_file.h"
 #include "view_colors.h"
 #include "view_language.h"
 #include "view_settings.h"
@@ -437,5 +438,4 @@ int main(int argc, char* argv[])
 {
     return runInEnglish<QApplication, MainWindowTest>(argc, argv);
 }
-#include "test_file.h"
 #include "tst_main_window.moc"

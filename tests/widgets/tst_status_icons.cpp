@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "pictures.h"
 #include "svg_drawing.h"
+#include "test_file.h"
 
 #include <status_codes.h>
 #include <status_icons.h>
@@ -193,5 +194,4 @@ void StatusIconsTest::readingHasTheIconOfWhatItSays()
 
 QTEST_MAIN(StatusIconsTest)
 
-#include "test_file.h"
 #include "tst_status_icons.moc"

@@ -5,6 +5,7 @@
 #include "event_viewer_log.h"
 #include "import_table.h"
 #include "shown_text.h"
+#include "test_file.h"
 
 #include <QtTest/QtTest>
 
@@ -172,5 +173,4 @@ void EventViewerLogTest::sourceNamesTheProgramWithTheTexts()
 }
 
 QTEST_GUILESS_MAIN(EventViewerLogTest)
-#include "test_file.h"
 #include "tst_event_viewer_log.moc"

@@ -4,6 +4,7 @@
 // The monitor on the system's own spooler.
 #include "host_test.h"
 #include "start_process.h"
+#include "test_file.h"
 
 #include "backend.h"
 #include "command_line.h"
@@ -502,5 +503,4 @@ void MonitorOnWindowsTest::caseIsRedacted()
 }
 
 QTEST_GUILESS_MAIN(MonitorOnWindowsTest)
-#include "test_file.h"
 #include "tst_monitor_on_windows.moc"
