@@ -121,11 +121,10 @@ def entry_of(test, packing):
 
 
 def compiler(build):
-    cache = (build / "CMakeCache.txt").read_text(encoding="utf-8")
-    path = re.search(r"^CMAKE_CXX_COMPILER:[^=]*=(.+)$", cache, re.MULTILINE).group(1)
-    path = path if path.startswith("/") else shutil.which(path)
-    found = subprocess.run([path, "-dumpfullversion"], check=True, capture_output=True, text=True)
-    return f"{pathlib.Path(path).name} {found.stdout.strip()}"
+    (found,) = build.glob("CMakeFiles/*/CMakeCXXCompiler.cmake")
+    text = found.read_text(encoding="utf-8")
+    return " ".join(re.search(rf'set\(CMAKE_CXX_COMPILER_{what} "([^"]*)"\)', text).group(1)
+                    for what in ("ID", "VERSION"))
 
 
 def main():

@@ -65,6 +65,8 @@ class Kit:
         self.prefix.mkdir()
         shutil.unpack_archive(archive, scratch / "Entpackt für Tests (1)")
         (self.folder,) = (scratch / "Entpackt für Tests (1)").iterdir()
+        # Of the build, which the kit's Wine cannot reach.
+        self.printer_adder = shutil.copy2(build / "bin/add_printer.exe", scratch)
         self.manifest_file = self.folder / "manifest.json"
         self.manifest = json.loads(self.manifest_file.read_text(encoding="utf-8"))
         self.environment = {
@@ -80,7 +82,6 @@ class Kit:
         for folder in hidden:
             if folder.is_dir():
                 options += ["--tmpfs", str(folder)]
-        # What is asked for must not be in what is hidden.
         return ["bwrap", *options, "--die-with-parent", "--chdir", str(self.scratch), *command]
 
     def wine(self, *command, **options):
@@ -125,7 +126,7 @@ class Kit:
         self.manifest_file.write_text(json.dumps({**self.manifest, "tests": tests}), encoding="utf-8")
 
     def add_printer(self, name, driver, port):
-        code = self.wine(str(self.build / "bin/add_printer.exe"), name, driver, port)
+        code = self.wine(self.printer_adder, name, driver, port)
         check(code == 0, f"the printer {name} cannot be added")
 
     def has_printer(self, name):

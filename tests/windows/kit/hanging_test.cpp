@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
-// A test that hangs, as does the process that it starts. scripts/test-windows-kit lets the kit run it.
+// A test that hangs, as does the process that it starts. scripts/test-windows-kit lets the kit run
+// it.
 #include <QtCore/QCoreApplication>
 #include <QtCore/QProcess>
 

@@ -99,6 +99,21 @@ QString fileVersion(const QString& path)
         .arg(LOWORD(info->dwFileVersionLS));
 }
 
+/// The folder, with both kinds of separators, and by its long and its short name.
+void addFolder(Redaction& redaction, const QString& folder, const QString& replacement)
+{
+    const std::wstring path = QDir::toNativeSeparators(folder).toStdWString();
+    wchar_t longName[1024] = {};
+    wchar_t shortName[1024] = {};
+    GetLongPathNameW(path.c_str(), longName, 1024);
+    GetShortPathNameW(path.c_str(), shortName, 1024);
+    for (const QString& name :
+         {folder, QString::fromWCharArray(longName), QString::fromWCharArray(shortName)}) {
+        redaction.add(QDir::toNativeSeparators(name), replacement);
+        redaction.add(QDir::fromNativeSeparators(name), replacement);
+    }
+}
+
 } // namespace
 
 bool system_facts::isAdministrator()
@@ -171,8 +186,8 @@ QJsonArray system_facts::files(const QString& folder)
 void system_facts::addNames(Redaction& redaction)
 {
     const QString profile = QDir::toNativeSeparators(qEnvironmentVariable("USERPROFILE"));
-    redaction.add(profile, QStringLiteral("<profile>"));
-    redaction.add(QDir::fromNativeSeparators(profile), QStringLiteral("<profile>"));
+    addFolder(redaction, profile, QStringLiteral("<profile>"));
+    addFolder(redaction, qEnvironmentVariable("TEMP"), QStringLiteral("<temp>"));
     wchar_t user[UNLEN + 1] = {};
     DWORD size = UNLEN + 1;
     if (GetUserNameW(user, &size))

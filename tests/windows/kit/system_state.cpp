@@ -137,10 +137,13 @@ QStringList watchedFolders()
     return folders;
 }
 
+/// The folder VxPrinterStatusTestKit has what the kit remembers (Journal in main.cpp), which it
+/// removes itself.
 bool isOwnFolderName(const QString& name)
 {
-    return matches(R"(\A(vxtest-|vxtestkit-|vxipc|vxprint|VxPrinterStatus|Harlow Devices Inc))",
-                   name);
+    return matches(
+        R"(\A(vxtest-|vxtestkit-|vxipc|vxprint|VxPrinterStatus(?!TestKit)|Harlow Devices Inc))",
+        name);
 }
 
 void addEverythingIn(const QString& folder, QStringList& all)
@@ -410,6 +413,13 @@ QJsonObject SystemState::toJson() const
 QStringList SystemState::printerNames() const
 {
     QStringList names = printers();
+    // Also when the spooler does not run.
+    const QString key = QStringLiteral("\\Control\\Print\\Printers\\");
+    for (const QString& each : m_items.value(QStringLiteral("keys"))) {
+        const qsizetype place = each.indexOf(key, 0, Qt::CaseInsensitive);
+        if (place >= 0)
+            names.append(each.sliced(place + key.size()));
+    }
     DWORD needed = 0;
     DWORD count = 0;
     QByteArray block;
@@ -443,7 +453,8 @@ QMap<QString, QStringList> SystemState::added(const SystemState& before) const
 QMap<QString, QStringList> SystemState::removed(const SystemState& before) const
 {
     QMap<QString, QStringList> result;
-    for (const char* each : kinds) {
+    // Processes and services of others come and go.
+    for (const char* each : {"printers", "drivers", "ports", "keys", "files"}) {
         const QString kind = QString::fromLatin1(each);
         const QStringList now = m_items.value(kind);
         for (const QString& item : before.m_items.value(kind)) {
@@ -476,7 +487,7 @@ QStringList SystemState::restore(const SystemState& before, const QString& folde
     if (spoolerState() != QLatin1String("running")) {
         if (startSpooler())
             done.append(QStringLiteral("the print spooler was started"));
-        else
+        else if (before.spooler() == QLatin1String("running"))
             problems.append(QStringLiteral("the print spooler cannot be started: error %1")
                                 .arg(GetLastError()));
     }
