@@ -168,5 +168,21 @@
         <comment>the first letters of yes and no</comment>
         <translation>[j/n]</translation>
     </message>
+    <message>
+        <source>Removed: %1. Could not be removed: %2.</source>
+        <translation>Entfernt: %1. Konnte nicht entfernt werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1: the test &quot;%2&quot; has no program in this folder</source>
+        <translation>%1: der Test „%2“ hat kein Programm in diesem Ordner</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 lists no tests</source>
+        <translation>%1 führt keine Tests auf</translation>
+    </message>
 </context>
 </TS>

@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Leaves out the tests that need an administrator&apos;s rights.</source>
-        <translation>Leaves out the tests that need an administrator's rights.</translation>
+        <translation>Leaves out the tests that need an administrator&apos;s rights.</translation>
     </message>
     <message>
         <source>Runs only the tests whose names match this regular expression.</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>unexpected argument &quot;%1&quot;</source>
-        <translation>unexpected argument "%1"</translation>
+        <translation>unexpected argument &quot;%1&quot;</translation>
     </message>
     <message>
         <source>--allow-spooler-stop and --no-spooler-stop contradict each other</source>
@@ -53,11 +53,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a regular expression: %2</source>
-        <translation>"%1" is not a regular expression: %2</translation>
+        <translation>&quot;%1&quot; is not a regular expression: %2</translation>
     </message>
     <message>
         <source>--silence: expected a number of seconds from 1 to %1, found &quot;%2&quot;</source>
-        <translation>--silence: expected a number of seconds from 1 to %1, found "%2"</translation>
+        <translation>--silence: expected a number of seconds from 1 to %1, found &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>It does not have an administrator&apos;s rights, so %1 of %2 tests cannot run. To run all, answer no, then right-click run-tests.cmd and choose &quot;Run as administrator&quot;.</source>
-        <translation>It does not have an administrator's rights, so %1 of %2 tests cannot run. To run all, answer no, then right-click run-tests.cmd and choose "Run as administrator".</translation>
+        <translation>It does not have an administrator&apos;s rights, so %1 of %2 tests cannot run. To run all, answer no, then right-click run-tests.cmd and choose &quot;Run as administrator&quot;.</translation>
     </message>
     <message>
         <source>Windows is not in English here. Some tests compare English texts, and may fail for that reason alone. The report says so.</source>
@@ -167,6 +167,22 @@
         <source>[y/n]</source>
         <comment>the first letters of yes and no</comment>
         <translation>[y/n]</translation>
+    </message>
+    <message>
+        <source>Removed: %1. Could not be removed: %2.</source>
+        <translation>Removed: %1. Could not be removed: %2.</translation>
+    </message>
+    <message>
+        <source>%1: the test &quot;%2&quot; has no program in this folder</source>
+        <translation>%1: the test "%2" has no program in this folder</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>%1 lists no tests</source>
+        <translation>%1 lists no tests</translation>
     </message>
 </context>
 </TS>

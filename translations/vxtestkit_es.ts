@@ -168,5 +168,21 @@
         <comment>the first letters of yes and no</comment>
         <translation>[s/n]</translation>
     </message>
+    <message>
+        <source>Removed: %1. Could not be removed: %2.</source>
+        <translation>Eliminados: %1. No se pudieron eliminar: %2.</translation>
+    </message>
+    <message>
+        <source>%1: the test &quot;%2&quot; has no program in this folder</source>
+        <translation>%1: la prueba «%2» no tiene ningún programa en esta carpeta</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>no se puede leer %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 lists no tests</source>
+        <translation>%1 no enumera ninguna prueba</translation>
+    </message>
 </context>
 </TS>

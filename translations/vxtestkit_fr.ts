@@ -168,5 +168,21 @@
         <comment>the first letters of yes and no</comment>
         <translation>[o/n]</translation>
     </message>
+    <message>
+        <source>Removed: %1. Could not be removed: %2.</source>
+        <translation>Supprimés : %1. N’ont pas pu être supprimés : %2.</translation>
+    </message>
+    <message>
+        <source>%1: the test &quot;%2&quot; has no program in this folder</source>
+        <translation>%1 : le test « %2 » n’a pas de programme dans ce dossier</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 ne peut pas être lu : %2</translation>
+    </message>
+    <message>
+        <source>%1 lists no tests</source>
+        <translation>%1 n’énumère aucun test</translation>
+    </message>
 </context>
 </TS>

@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a regular expression: %2</source>
-        <translation>«%1» non è un'espressione regolare: %2</translation>
+        <translation>«%1» non è un&apos;espressione regolare: %2</translation>
     </message>
     <message>
         <source>--silence: expected a number of seconds from 1 to %1, found &quot;%2&quot;</source>
@@ -101,11 +101,11 @@
     </message>
     <message>
         <source>An earlier run did not end by itself. What it has left behind is removed now.</source>
-        <translation>Un'esecuzione precedente non è terminata da sola. Ora viene rimosso ciò che ha lasciato.</translation>
+        <translation>Un&apos;esecuzione precedente non è terminata da sola. Ora viene rimosso ciò che ha lasciato.</translation>
     </message>
     <message>
         <source>%1 cannot be read, so it is not known what there was before that run. Remove the file if its printers are gone.</source>
-        <translation>Impossibile leggere %1, quindi non si sa che cosa c'era prima di quell'esecuzione. Eliminare il file se le sue stampanti non ci sono più.</translation>
+        <translation>Impossibile leggere %1, quindi non si sa che cosa c&apos;era prima di quell&apos;esecuzione. Eliminare il file se le sue stampanti non ci sono più.</translation>
     </message>
     <message>
         <source>Tests of VxPrinterStatus %1</source>
@@ -167,6 +167,22 @@
         <source>[y/n]</source>
         <comment>the first letters of yes and no</comment>
         <translation>[s/n]</translation>
+    </message>
+    <message>
+        <source>Removed: %1. Could not be removed: %2.</source>
+        <translation>Rimossi: %1. Non è stato possibile rimuovere: %2.</translation>
+    </message>
+    <message>
+        <source>%1: the test &quot;%2&quot; has no program in this folder</source>
+        <translation>%1: il test «%2» non ha alcun programma in questa cartella</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>impossibile leggere %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 lists no tests</source>
+        <translation>%1 non elenca alcun test</translation>
     </message>
 </context>
 </TS>

@@ -168,5 +168,21 @@
         <comment>the first letters of yes and no</comment>
         <translation>[y/n]</translation>
     </message>
+    <message>
+        <source>Removed: %1. Could not be removed: %2.</source>
+        <translation>削除: %1。削除できなかったもの: %2。</translation>
+    </message>
+    <message>
+        <source>%1: the test &quot;%2&quot; has no program in this folder</source>
+        <translation>%1: テスト「%2」のプログラムがこのフォルダーにありません</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>%1 lists no tests</source>
+        <translation>%1 にテストがありません</translation>
+    </message>
 </context>
 </TS>

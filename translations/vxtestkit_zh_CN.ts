@@ -168,5 +168,21 @@
         <comment>the first letters of yes and no</comment>
         <translation>[y/n]</translation>
     </message>
+    <message>
+        <source>Removed: %1. Could not be removed: %2.</source>
+        <translation>已删除：%1。无法删除：%2。</translation>
+    </message>
+    <message>
+        <source>%1: the test &quot;%2&quot; has no program in this folder</source>
+        <translation>%1：测试“%2”在此文件夹中没有程序</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 lists no tests</source>
+        <translation>%1 未列出任何测试</translation>
+    </message>
 </context>
 </TS>

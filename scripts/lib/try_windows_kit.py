@@ -256,6 +256,21 @@ def try_permissions(kit):
     check(reasons == {"needs an administrator's rights"}, str(reasons))
 
 
+def try_stopped_spooler(kit):
+    kit.wine("net", "stop", "Spooler")
+    with kit.unchanged("a run while the spooler is stopped"):
+        status, output = kit.run("--yes", "--only", "^tst_printer_data$")
+        check(status == 0, f"exit status {status}\n{output}")
+        text, report = kit.report()
+    check(report["system"]["spooler"] == "stopped", f"the spooler was {report['system']['spooler']}")
+    check("a driver and a port can be added and removed" in report["printerCheck"], report["printerCheck"])
+    check(not report["leftBehind"], str(report["leftBehind"]))
+    # Its names cannot be asked for then.
+    check(FOREIGN_PRINTER not in text, "the report contains the name of a printer")
+    check("<printer 2>" in report["replacedNames"], str(report["replacedNames"]))
+    check(kit.wine("net", "start", "Spooler") == 0, "the spooler was not stopped again")
+
+
 def try_hang(kit):
     kit.use_tests([hanging_test()])
     with kit.unchanged("a test that hangs"):
@@ -354,7 +369,7 @@ def main():
         try:
             count = try_manifest(kit)
             kit.set_up()
-            for trial in (try_options, try_no, try_permissions, try_hang, try_kill, try_interruption):
+            for trial in (try_options, try_no, try_permissions, try_stopped_spooler, try_hang, try_kill, try_interruption):
                 began = time.monotonic()
                 trial(kit)
                 print(f"try_windows_kit: {trial.__name__} passed ({time.monotonic() - began:.0f} s)", flush=True)

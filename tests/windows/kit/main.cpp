@@ -292,6 +292,10 @@ public:
                     QStringLiteral("/vxtestkit-%1").arg(QCoreApplication::applicationPid());
         if (!QDir().mkpath(m_scratch))
             throw Failure(Kit::tr("The folder %1 cannot be created.").arg(shownPath(m_scratch)));
+        if (m_isAdministrator && before.spooler() != QLatin1String("running") &&
+            !SystemState::startSpooler())
+            m_report.notes.append(QStringLiteral(
+                "the print spooler did not run before the tests, and cannot be started"));
         m_report.printerCheck = checkPrinter(m_isAdministrator);
         runTests(before);
         finish(before);
@@ -312,9 +316,10 @@ private:
                         "run. Remove the file if its printers are gone.")
                     .arg(shownPath(m_journal.file())));
         QStringList problems;
-        QStringList done = SystemState::restore(*before, m_folder, problems);
-        for (const QString& line : std::as_const(done))
-            m_output.write(QStringLiteral("  ") + line + QLatin1Char('\n'));
+        const QStringList done = SystemState::restore(*before, m_folder, problems);
+        m_output.write(Kit::tr("Removed: %1. Could not be removed: %2.")
+                           .arg(QString::number(done.size()), QString::number(problems.size())) +
+                       QLatin1Char('\n'));
         for (const QString& line : std::as_const(problems))
             m_output.complain(line);
         m_report.notes.append(

@@ -4,6 +4,7 @@
 
 #include "failure.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
@@ -11,6 +12,11 @@
 #include <QtCore/QJsonObject>
 
 namespace {
+
+struct ManifestText
+{
+    Q_DECLARE_TR_FUNCTIONS(vxtestkit)
+};
 
 QStringList texts(const QJsonValue& array)
 {
@@ -20,7 +26,7 @@ QStringList texts(const QJsonValue& array)
     return result;
 }
 
-KitTest testOf(const QJsonObject& object, const QString& file)
+KitTest readTest(const QJsonObject& object, const QString& file)
 {
     KitTest test;
     test.name = object[QLatin1String("name")].toString();
@@ -40,7 +46,7 @@ KitTest testOf(const QJsonObject& object, const QString& file)
     const bool isInside = !program.isEmpty() && QDir::isRelativePath(program) &&
                           !program.startsWith(QLatin1String(".."));
     if (test.name.isEmpty() || (test.notPossible.isEmpty() && !isInside))
-        throw Failure(QStringLiteral("%1: the test \"%2\" has no program in this folder")
+        throw Failure(ManifestText::tr("%1: the test \"%2\" has no program in this folder")
                           .arg(QDir::toNativeSeparators(file), test.name));
     return test;
 }
@@ -51,15 +57,15 @@ Manifest Manifest::read(const QString& file)
 {
     QFile content(file);
     if (!content.open(QIODevice::ReadOnly))
-        throw Failure(QStringLiteral("%1 cannot be read: %2")
+        throw Failure(ManifestText::tr("%1 cannot be read: %2")
                           .arg(QDir::toNativeSeparators(file), content.errorString()));
     const QJsonObject object = QJsonDocument::fromJson(content.readAll()).object();
     Manifest manifest;
     manifest.version = object[QLatin1String("version")].toString();
     manifest.compiler = object[QLatin1String("compiler")].toString();
     for (const QJsonValue& test : object[QLatin1String("tests")].toArray())
-        manifest.tests.append(testOf(test.toObject(), file));
+        manifest.tests.append(readTest(test.toObject(), file));
     if (manifest.version.isEmpty() || manifest.tests.isEmpty())
-        throw Failure(QStringLiteral("%1 lists no tests").arg(QDir::toNativeSeparators(file)));
+        throw Failure(ManifestText::tr("%1 lists no tests").arg(QDir::toNativeSeparators(file)));
     return manifest;
 }

@@ -248,7 +248,7 @@ bool waitForSpooler(const QString& state)
     return true;
 }
 
-bool startSpooler()
+bool startTheSpooler()
 {
     const ServiceHandle service = openService(L"Spooler", SERVICE_START | SERVICE_QUERY_STATUS);
     if (!service)
@@ -479,13 +479,18 @@ QMap<QString, int> SystemState::addedByOthers(const SystemState& before) const
     return result;
 }
 
+bool SystemState::startSpooler()
+{
+    return startTheSpooler();
+}
+
 QStringList SystemState::restore(const SystemState& before, const QString& folder,
                                  QStringList& problems)
 {
     QStringList done;
     // Without the spooler, no printer can be removed.
     if (spoolerState() != QLatin1String("running")) {
-        if (startSpooler())
+        if (startTheSpooler())
             done.append(QStringLiteral("the print spooler was started"));
         else if (before.spooler() == QLatin1String("running"))
             problems.append(QStringLiteral("the print spooler cannot be started: error %1")

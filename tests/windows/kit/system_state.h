@@ -34,6 +34,9 @@ public:
     QString defaultPrinter() const { return m_defaultPrinter; }
     QString spooler() const { return m_spooler; }
 
+    /// Whether the print spooler runs now.
+    static bool startSpooler();
+
     /// Removes what `added()` lists, and restores the default printer and the spooler. Returns a
     /// line for each thing that was done, and adds those that could not be done to `problems`.
     static QStringList restore(const SystemState& before, const QString& folder,
