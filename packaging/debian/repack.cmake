@@ -6,7 +6,10 @@
 # with no time after SOURCE_DATE_EPOCH, and without what depends on the number of processors. CPack has also measured
 # the packages before their programs were stripped.
 
+# Each package gets its bill of materials, which is made of the files as they are packed.
+
 find_program(dpkg_deb dpkg-deb REQUIRED)
+find_program(python python3 REQUIRED)
 foreach(package IN LISTS CPACK_PACKAGE_FILES)
     set(folder "${package}.contents")
     execute_process(COMMAND "${dpkg_deb}" --raw-extract "${package}" "${folder}" COMMAND_ERROR_IS_FATAL ANY)
@@ -19,6 +22,21 @@ foreach(package IN LISTS CPACK_PACKAGE_FILES)
             endif()
         endif()
     endforeach()
+    file(READ "${folder}/DEBIAN/control" control)
+    # Debug information is of what the other packages have.
+    if(NOT package MATCHES "ddeb$")
+        string(REGEX MATCH "(^|\n)Package: ([^\n]+)" found "${control}")
+        set(name "${CMAKE_MATCH_2}")
+        string(REGEX MATCH "\nVersion: ([^\n]+)" found "${control}")
+        set(version "${CMAKE_MATCH_1}")
+        set(bill "usr/share/doc/${name}/${name}.spdx.json")
+        execute_process(
+            COMMAND "${python}" -B "${CPACK_VX_SOURCES}/scripts/lib/make_sbom.py" --root "${folder}"
+                --name "${name}" --version "${version}" --output "${folder}/${bill}"
+            COMMAND_ERROR_IS_FATAL ANY)
+        file(MD5 "${folder}/${bill}" sum)
+        file(APPEND "${folder}/DEBIAN/md5sums" "${sum}  ${bill}\n")
+    endif()
     file(GLOB_RECURSE files LIST_DIRECTORIES true RELATIVE "${folder}" "${folder}/*")
     list(FILTER files EXCLUDE REGEX "^DEBIAN")
     # In KiB, as Debian's policy counts: what is no file takes one.
@@ -31,7 +49,6 @@ foreach(package IN LISTS CPACK_PACKAGE_FILES)
         endif()
         math(EXPR installed_size "${installed_size} + ${size}")
     endforeach()
-    file(READ "${folder}/DEBIAN/control" control)
     string(REGEX REPLACE "Installed-Size: [0-9]+" "Installed-Size: ${installed_size}" control "${control}")
     file(WRITE "${folder}/DEBIAN/control" "${control}")
     # The debug information is large, and xz would take minutes for it.
