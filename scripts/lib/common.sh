@@ -156,6 +156,9 @@ build_preset() {
     read -ra targets <<<"${2:-all}"
     # Clones in other folders can reuse what this one has compiled, through ccache.
     export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
+    # Embedded files have a time. That of the files, or SOURCE_DATE_EPOCH, would not be the same in every clone and
+    # after every commit, because only what has changed is embedded anew.
+    export QT_RCC_SOURCE_DATE_OVERRIDE=1
     log=$(mktemp)
     say "configuring $preset"
     (cd "$root" && cmake --preset "$preset" "${configure_options[@]}") >"$log" 2>&1 || {

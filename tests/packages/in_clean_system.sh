@@ -90,6 +90,11 @@ use() {
         fail "rolldb makes another catalogue of the installed tables than the installed one"
     expect vxipc vxipc --help
 
+    for tool in vxprintmon rolldb vxipc vxprintview vxprintagent; do
+        [ -s "/usr/share/man/man1/$tool.1.gz" ] || fail "$tool has no manual page"
+        [ -s "/usr/share/bash-completion/completions/$tool" ] || fail "$tool has no completions"
+    done
+
     say "the window"
     quietly runuser -u tester -- env QT_QPA_PLATFORM=offscreen vxprintview --virtual built-in \
         --screenshot /home/tester/window.png --after 3
