@@ -30,6 +30,7 @@ set(VX_TESTS_WITHOUT_THREADS
     forecast_accuracy
     status_codes_document
     test_changelog
+    test_check_links
     test_check_page_texts
     test_check_translations
     test_deploy_mosquitto
@@ -37,6 +38,7 @@ set(VX_TESTS_WITHOUT_THREADS
     test_deploy_page_on_nats
     test_event_schema
     test_find_cutelogger
+    test_header_examples
     test_host_guide
     test_need_packages
     test_page
@@ -102,6 +104,7 @@ set(VX_LONG_TESTS
     test_record
     tst_kit_faults
     tst_storm
+    test_documented_commands
     test_top
     tst_vxprintmon
     tst_monitor_status
@@ -129,7 +132,7 @@ set(VX_LONG_TESTS
 # Sets what depends on a test's name.
 function(describe_test name)
     if(name IN_LIST VX_TESTS_WITHOUT_THREADS)
-        set_tests_properties(${name} PROPERTIES LABELS without_threads)
+        set_property(TEST ${name} APPEND PROPERTY LABELS without_threads)
     endif()
     list(FIND VX_LONG_TESTS ${name} place)
     if(place GREATER_EQUAL 0)
@@ -137,6 +140,15 @@ function(describe_test name)
         math(EXPR cost "2000 - ${place}")
         set_tests_properties(${name} PROPERTIES COST ${cost})
     endif()
+endfunction()
+
+# vx_label_tests(<label> <test>...)
+#
+# What somebody who runs packed tests on a Windows of his own has to know of them
+# (docs/windows-test-kit.md): needs_administrator, stops_spooler (some functions do), only_stops_spooler (all
+# do) and opens_windows.
+function(vx_label_tests label)
+    set_property(TEST ${ARGN} APPEND PROPERTY LABELS ${label})
 endfunction()
 
 # vx_add_script_test(<name> <command>...)
@@ -176,7 +188,7 @@ function(vx_add_test name)
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE
         vx_build_settings vx_lasting_pool_threads vx_own_folder vx_patience Qt6::Test
-        ${arg_LIBRARIES})
+        ${arg_LIBRARIES} vx_test_file)
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests"
         WIN32_EXECUTABLE OFF)

@@ -60,6 +60,7 @@ struct AvailablePrinters;
 class VX_PRINTERSTATUS_EXPORT PrinterStatusController : public QObject
 {
     Q_OBJECT
+    /// Every record, for QML; see `getAvailablePrinters()`.
     Q_PROPERTY(
         QVariantList availablePrinters READ getAvailablePrinters NOTIFY availablePrintersUpdated)
 

@@ -103,6 +103,7 @@ public Q_SLOTS:
     void stop();
 
 Q_SIGNALS:
+    /// Another supply was loaded, or the supply was removed: then `newId` is empty.
     void supplyIdChanged(QString dashboardPrinterName, const QString& newId);
     /// `newIds` has two entries, ribbon 1 first. Emitted once when one of them changed or both did.
     void ribbonIdsChanged(QString dashboardPrinterName, const QList<QString>& newIds);
@@ -110,13 +111,24 @@ Q_SIGNALS:
     /// `VXPrinting::StatusCodes::spoolerDown`, when the print spooler service leaves the running
     /// state.
     void printerStatusChanged(QString dashboardPrinterName, const QString& newStatus);
+    /// @name How much is left
+    /// A mileage changed. `newMileage` is unsigned decimal text, in millimetres, for the model
+    /// `Alder` in percent.
+    /// @{
     void supplyIntMileageChanged(QString dashboardPrinterName, const QString& newMileage);
     void ribbon1IntMileageChanged(QString dashboardPrinterName, const QString& newMileage);
     void ribbon2IntMileageChanged(QString dashboardPrinterName, const QString& newMileage);
+    /// @}
+    /// The printer was renamed in the print spooler. `dashboardPrinterName` stays the name under
+    /// which the printer is watched.
     void printerNameChangedSignal(QString dashboardPrinterName, const QString& newName);
+    /// The firmware's version changed.
     void softwareVersionChanged(QString dashboardPrinterName, const QString& newVersion);
+    /// A firmware update has advanced. `newProgress` is unsigned decimal text.
     void updateProgressChanged(QString dashboardPrinterName, const QString& newProgress);
+    /// A firmware update reported another error code, as unsigned decimal text.
     void updateErrorChanged(QString dashboardPrinterName, const QString& newError);
+    /// The printer's Ethernet configuration changed, in the driver's own form.
     void ethernetConfigChanged(QString dashboardPrinterName, const QString& newEthernetConfig);
 
 protected:

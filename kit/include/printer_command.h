@@ -14,6 +14,7 @@
 
 namespace VxKit {
 
+/// How a command is sent. What is not set here is right for a command to a label printer.
 struct CommandOptions
 {
     /// Also send to printers of other makers and of unsupported models, which print the command as
@@ -136,6 +137,7 @@ VX_KIT_EXPORT QFuture<CommandResult> sendCommand(const QString& printerName,
 /// are none (Wine), and for more than 63 jobs at the same time, it looks once a second.
 VX_KIT_EXPORT QFuture<JobState> followJob(const QString& printerName, quint32 jobId);
 
+/// A command and the job that it has become.
 struct FollowedCommand
 {
     QFuture<CommandResult> command;

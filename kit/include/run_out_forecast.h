@@ -81,6 +81,7 @@ public:
         bool operator==(const Quantiles&) const = default;
     };
 
+    /// What is left on a slot, and how long it will last.
     struct Forecast
     {
         /// What is left, as it was last reported; empty when the length of the roll is not known.
@@ -113,6 +114,7 @@ public:
         EndsInShift ///< the roll is more likely to end before the end of the shift than after it
     };
 
+    /// Why a person should look at a slot before it is empty.
     struct Warning
     {
         QString key;
@@ -128,6 +130,7 @@ public:
         QDateTime shiftEnd;
     };
 
+    /// When to warn. What is empty warns of nothing.
     struct WarningSettings
     {
         /// Warns when fewer labels are left.

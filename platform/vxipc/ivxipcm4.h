@@ -21,11 +21,15 @@ class IVXIPCM4 : public VXIPCServer
     Q_OBJECT
 
 public:
+    /// Publishes the endpoint as VXIPCServer does.
     IVXIPCM4(int serverType, QObject* parent);
     ~IVXIPCM4() override;
     Q_DISABLE_COPY_MOVE(IVXIPCM4)
 
 public Q_SLOTS:
+    /// @name The service's methods
+    /// `VXIPCM4Controller` is this library's implementation, and its header says what each does.
+    /// @{
     virtual int getError() = 0;
     virtual int getAlert() = 0;
     virtual bool isPrinterReady() = 0;
@@ -112,4 +116,5 @@ private:
 
     /// Those that other processes have reported.
     QSet<QString> m_reportedPrinters;
+    /// @}
 };

@@ -17,11 +17,16 @@ class IVXIPCPRINTQD : public VXIPCServer
     Q_OBJECT
 
 public:
+    /// Publishes the endpoint as VXIPCServer does.
     IVXIPCPRINTQD(int serverType, QObject* parent);
     ~IVXIPCPRINTQD() override;
     Q_DISABLE_COPY_MOVE(IVXIPCPRINTQD)
 
 public Q_SLOTS:
+    /// @name The service's methods
+    /// `VXIPCPRINTQDController` is this library's implementation, and its header says what each
+    /// does.
+    /// @{
     virtual bool printQueueFull(uint value) = 0;
     virtual bool printQueueComplete(uint value) = 0;
     virtual void addJob(QString GUID, QString jobName, QString appName, int copies,
@@ -32,4 +37,5 @@ public Q_SLOTS:
     virtual bool retryPrintJob() = 0;
     virtual bool clearPrintJob() = 0;
     virtual bool clearAllPrintJobs() = 0;
+    /// @}
 };

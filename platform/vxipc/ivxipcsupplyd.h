@@ -19,11 +19,16 @@ class IVXIPCSUPPLYD : public VXIPCServer
     Q_OBJECT
 
 public:
+    /// Publishes the endpoint as VXIPCServer does.
     IVXIPCSUPPLYD(int serverType, QObject* parent);
     ~IVXIPCSUPPLYD() override;
     Q_DISABLE_COPY_MOVE(IVXIPCSUPPLYD)
 
 public Q_SLOTS:
+    /// @name The service's methods
+    /// `VXIPCSUPPLYDController` is this library's implementation, and its header says what each
+    /// does.
+    /// @{
     virtual QStringList supplySKUList() = 0;
     virtual QStringList supplyRibbonSKUList() = 0;
     virtual QVariantHash supplyColorHash() = 0;
@@ -66,4 +71,5 @@ public Q_SLOTS:
     virtual void applicationWasClicked() = 0;
     virtual void setModulePrinterName(QString printerName) = 0;
     virtual void openLabelFile(QString filePath) = 0;
+    /// @}
 };

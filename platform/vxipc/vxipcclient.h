@@ -49,27 +49,32 @@ struct VXIPCReply
 
 /// Calls the methods of an endpoint in another process, or in this one.
 ///
-/// \code
+/// @code
+/// using namespace std::chrono_literals;
 /// VXIPCClient supplies(0);
-/// const VXIPCReply reply
-///     = supplies.callAndWait("supplyColorName", QJsonArray{"SKU", "PRINTER"}, 2s);
+/// const VXIPCReply reply =
+///     supplies.callAndWait("supplyColorName", QJsonArray{"SKU", "PRINTER"}, 2s);
 /// if (reply.isOk())
 ///     qInfo() << reply.result.toString();
 /// supplies.call("supplySKUList", {}, [](const VXIPCReply& skus) { … });
-/// \endcode
+/// @endcode
 ///
 /// Parameters are a QJsonArray, by position, or a QJsonObject, by name; docs/ipc.md says how each
 /// type is written. A client connects with its first call. When the connection is lost, it
 /// reconnects by itself, at growing intervals; a call tries to reconnect at once.
 ///
 /// A client that subscribes receives what the endpoint's signals emit:
-/// \code
+///
+/// @code
 /// connect(&status, &VXIPCClient::notificationReceived, this, &Table::update);
 /// connect(&status, &VXIPCClient::resubscribed, this, &Table::askForAll);
-/// status.subscribe({"printerChanged", "printerAdded"}, [this](const VXIPCReply&) { askForAll();
-/// }); \endcode Whoever subscribes first and then asks for the state misses nothing: the state is
-/// that of the answer, and every change after it is notified. What is emitted while the client is
-/// not connected is lost; resubscribed() says when to ask again.
+/// status.subscribe({"printerChanged", "printerAdded"},
+///                  [this](const VXIPCReply&) { askForAll(); });
+/// @endcode
+///
+/// Whoever subscribes first and then asks for the state misses nothing: the state is that of the
+/// answer, and every change after it is notified. What is emitted while the client is not connected
+/// is lost; resubscribed() says when to ask again.
 ///
 /// Lives in one thread, which the blocking form blocks; the other forms need its event loop.
 class VXIPCClient : public QObject

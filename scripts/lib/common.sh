@@ -87,7 +87,7 @@ need_packages() {
 # shellcheck disable=SC2034 # the scripts that source this file use it
 native_packages=(ca-certificates ccache cmake g++ libgl1-mesa-dev libjsoncpp-dev libmosquitto-dev
     libqt6sql6-sqlite libsqlite3-dev mosquitto ninja-build nodejs openssl pkg-config python3
-    python3-jsonschema python3-pyte qml6-module-qtqml qml6-module-qtqml-workerscript
+    python3-jsonschema python3-markdown-it python3-pyte qml6-module-qtqml qml6-module-qtqml-workerscript
     qml6-module-qtquick qml6-module-qtquick-window qt6-base-dev qt6-declarative-dev
     qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
 
@@ -190,6 +190,30 @@ build_windows() { build_preset windows all "about 6 minutes on two cores, less w
 # shellcheck disable=SC2034 # the scripts that source this file use it
 windows_packages=(ca-certificates ccache cmake g++-mingw-w64-x86-64-posix ninja-build python3
     qt6-base-dev qt6-base-dev-tools qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
+
+# For the installer for Windows.
+# shellcheck disable=SC2034
+installer_packages=(librsvg2-bin nsis)
+
+# stage_installer: builds for Windows and stages what the installer installs. Sets staged (a folder), assignment (which
+# file belongs to which component) and version.
+# shellcheck disable=SC2034 # the scripts that source this file use them
+stage_installer() {
+    local build=$root/build/windows
+    need_packages "${windows_packages[@]}" "${installer_packages[@]}"
+    find_windows_libraries
+    use_time_of_sources
+    build_windows
+    version=$(sed -n 's/^CMAKE_PROJECT_VERSION:[^=]*=//p' "$build/CMakeCache.txt")
+    staged=$build/installer/files
+    assignment=$build/installer/assignment.txt
+    rm -rf "$build/installer"
+    mkdir -p "$build/installer"
+    say "staging"
+    "$root/scripts/lib/stage-windows" "$staged" "$build" "$VX_QT_MINGW" "$VX_MQTT_MINGW"
+    python3 -B "$root/scripts/lib/installer_files.py" assign "$build" "$staged" >"$assignment" ||
+        fail "the staged files could not be assigned to components"
+}
 
 # Prints the folders of MinGW's run-time DLLs: those of GCC and of its thread library.
 mingw_dll_folders() {

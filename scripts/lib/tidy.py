@@ -2,14 +2,16 @@
 # Copyright The VxPrinterStatus authors
 """Runs clang-tidy on the sources of a build, leaving out those that were found clean as they are now.
 
-Usage: tidy.py [--all] BUILD CACHE
+Usage: tidy.py [--all] [--minutes N] BUILD CACHE
 
 BUILD has been built with Ninja: it knows the headers that each source includes. Each source is checked
 without precompiled headers: clang cannot read another compiler's, and a source that includes too little
 is found that way. CACHE keeps one empty file for each source that was found clean, named after a hash of
 everything that the result depends on: the source, our headers that it includes, how it is compiled, the
-configuration and clang-tidy itself. --all checks every source again. Findings are printed; the exit
-status is 1 when there are any.
+configuration and clang-tidy itself. --all checks every source again. The sources that were committed last
+are checked first, and with --minutes no further one is begun after N minutes: the last line says how many
+were left out, and the next run goes on with them. Findings are printed; the exit status is 1 when there are
+any.
 """
 import argparse
 import concurrent.futures
@@ -77,7 +79,19 @@ def without_precompiled_headers(entries, folder):
     (folder / "compile_commands.json").write_text(json.dumps(plain), encoding="utf-8")
 
 
-def check(source, build):
+def ages(root):
+    """The place of each file in the history: 0 for one that was committed last."""
+    names = subprocess.run(["git", "-C", str(root), "log", "--format=", "--name-only", "-z"], check=True,
+                           capture_output=True, text=True).stdout.split("\0")
+    found = {}
+    for name in names:
+        found.setdefault(root / name.strip("\n"), len(found))
+    return found
+
+
+def check(source, build, end):
+    if time.monotonic() > end:
+        return None, ""
     run = subprocess.run(["clang-tidy", "-p", str(build), "--quiet", str(source)],
                          capture_output=True, text=True, timeout=PATIENCE, check=False)
     return run.returncode == 0, run.stdout + ("" if run.returncode == 0 else run.stderr)
@@ -86,6 +100,7 @@ def check(source, build):
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("--all", action="store_true")
+    parser.add_argument("--minutes", type=int, default=24 * 60)
     parser.add_argument("build", type=pathlib.Path)
     parser.add_argument("cache", type=pathlib.Path)
     arguments = parser.parse_args()
@@ -106,17 +121,22 @@ def main():
         key = key_of(entry, [source, *inputs], root, common, hashes)
         if arguments.all or not (arguments.cache / key).exists():
             todo.append((source, (entry, [source, *inputs], key)))
-    todo = list({source: (source, state) for source, state in todo}.values())
+    age = ages(root)
+    todo = sorted({source: (source, state) for source, state in todo}.values(),
+                  key=lambda each: age.get(each[0], -1))
     print(f"tidy: {len(todo)} sources to check", file=sys.stderr)
 
-    began, told, clean = time.monotonic(), time.monotonic(), True
+    began, told, clean, left_out = time.monotonic(), time.monotonic(), True, 0
+    end = began + arguments.minutes * 60
     with (tempfile.TemporaryDirectory() as commands,
           concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool):
         without_precompiled_headers(entries, pathlib.Path(commands))
-        runs = {pool.submit(check, source, commands): state for source, state in todo}
+        runs = {pool.submit(check, source, commands, end): state for source, state in todo}
         for count, run in enumerate(concurrent.futures.as_completed(runs), 1):
             passed, output = run.result()
-            if passed:
+            if passed is None:
+                left_out += 1
+            elif passed:
                 # What was checked is not what the key names if somebody has edited it meanwhile.
                 entry, inputs, key = runs[run]
                 if key_of(entry, inputs, root, common, Hashes()) == key:
@@ -127,7 +147,10 @@ def main():
             if time.monotonic() - told > 30:
                 told = time.monotonic()
                 print(f"tidy:   [{count}/{len(todo)}] after {told - began:.0f} s", file=sys.stderr)
-    sys.exit(0 if clean else 1)
+    if left_out:
+        print(f"tidy: {left_out} of {len(todo)} sources NOT CHECKED within {arguments.minutes} minutes",
+              file=sys.stderr)
+    sys.exit(1 if not clean else 4 if left_out else 0)
 
 
 main()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 // Events that wait on the disk for a broker.
+#include "test_file.h"
+
 #include <event_queue.h>
 #include <patience.h>
 
@@ -481,7 +483,7 @@ void EventQueueTest::killsLoseNothingThatWasAccepted()
     int lastDelivered = 0;
     constexpr int kills = 20;
     for (int kill = 0; kill < kills; ++kill) {
-        child.start(QStringLiteral(VX_EVENT_QUEUE_CHILD), {folder(), QString::number(begin)});
+        child.start(testFile(VX_EVENT_QUEUE_CHILD), {folder(), QString::number(begin)});
         QVERIFY(child.waitForStarted(patience));
         // At a different moment each time.
         const int until = begin + 5 + kill * 7 % 60;

@@ -4,6 +4,7 @@
 
 #include "patience.h"
 #include "start_process.h"
+#include "test_file.h"
 
 #include <vxipcserver.h>
 
@@ -23,7 +24,7 @@ inline QJsonValue callFromOtherProcess(const VXIPCServer& endpoint, const QStrin
     if (!QTest::qWaitFor([&endpoint] { return !endpoint.serverName().isEmpty(); }, patience))
         return QJsonValue::Undefined;
     QProcess process;
-    startProcess(process, QStringLiteral(VX_VXIPC),
+    startProcess(process, testFile(VX_VXIPC),
                  QStringList{QStringLiteral("--json"), QStringLiteral("call"),
                              endpoint.serverName(), method, QStringLiteral("--")} +
                      arguments);

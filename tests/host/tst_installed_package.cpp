@@ -5,6 +5,7 @@
 #include "patience.h"
 #include "sample_database.h"
 #include "start_process.h"
+#include "test_file.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -18,8 +19,8 @@
 
 namespace {
 
-const QString host = QStringLiteral(VX_MINIMAL_HOST);
-const QString kitHost = QStringLiteral(VX_KIT_HOST);
+const QString host = testFile(VX_MINIMAL_HOST);
+const QString kitHost = testFile(VX_KIT_HOST);
 
 QProcessEnvironment environment()
 {
@@ -30,8 +31,8 @@ QProcessEnvironment environment()
 #ifdef Q_OS_WIN
     // The library is found on the PATH, like any DLL. The DLLs that it needs are already there.
     environment.insert(QStringLiteral("PATH"),
-                       QDir::toNativeSeparators(QStringLiteral(VX_INSTALLED_DLLS)) +
-                           QLatin1Char(';') + environment.value(QStringLiteral("PATH")));
+                       QDir::toNativeSeparators(testFile(VX_INSTALLED_DLLS)) + QLatin1Char(';') +
+                           environment.value(QStringLiteral("PATH")));
 #endif
     return environment;
 }
@@ -158,7 +159,7 @@ void InstalledPackageTest::hostWritesTheLogToAFile()
 {
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("printers.log"));
-    const Result result = run(QStringLiteral(VX_LOGGING_HOST), {file});
+    const Result result = run(testFile(VX_LOGGING_HOST), {file});
     QCOMPARE(result.errors, QByteArray());
     QCOMPARE(result.exitStatus, 0);
     const QByteArray text = contents(file);
@@ -168,7 +169,7 @@ void InstalledPackageTest::hostWritesTheLogToAFile()
 
 void InstalledPackageTest::logOfAHostWithoutAnAppenderGoesToStandardError()
 {
-    const Result result = run(QStringLiteral(VX_PLAIN_HOST), {});
+    const Result result = run(testFile(VX_PLAIN_HOST), {});
     QCOMPARE(result.exitStatus, 0);
     QVERIFY2(result.errors.contains("host is up"), result.errors.constData());
 }
@@ -177,11 +178,11 @@ void InstalledPackageTest::examplesLogToAFile_data()
 {
     QTest::addColumn<QString>("program");
     QTest::newRow("minimal_host") << host;
-    if (!QStringLiteral(VX_WIDGETS_HOST).isEmpty())
-        QTest::newRow("widgets_host") << QStringLiteral(VX_WIDGETS_HOST);
+    if (!testFile(VX_WIDGETS_HOST).isEmpty())
+        QTest::newRow("widgets_host") << testFile(VX_WIDGETS_HOST);
     QTest::newRow("kit_host") << kitHost;
-    if (!QStringLiteral(VX_QML_HOST).isEmpty())
-        QTest::newRow("qml_host") << QStringLiteral(VX_QML_HOST);
+    if (!testFile(VX_QML_HOST).isEmpty())
+        QTest::newRow("qml_host") << testFile(VX_QML_HOST);
 }
 
 void InstalledPackageTest::examplesLogToAFile()

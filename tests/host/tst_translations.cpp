@@ -4,6 +4,7 @@
 #include "patience.h"
 #include "printer_status_controller.h"
 #include "status_codes.h"
+#include "test_file.h"
 
 #ifdef VX_HAS_OWN_LANGUAGES
 #include <vxlocalelanguages.h>
@@ -64,7 +65,7 @@ struct Message
 
 QString fileOf(const QString& language)
 {
-    return QStringLiteral(VX_TRANSLATIONS "/vxprinterstatus_%1.ts").arg(language);
+    return testFile(VX_TRANSLATIONS "/vxprinterstatus_%1.ts").arg(language);
 }
 
 /// The messages of a translation file. Empty if the file cannot be read.
@@ -228,8 +229,8 @@ void TranslationsTest::everyTitleOfTheSourceIsInEveryFile()
     QProcess lupdate;
     lupdate.start(QStringLiteral(VX_LUPDATE),
                   {QStringLiteral("-silent"), QStringLiteral("-locations"), QStringLiteral("none"),
-                   QStringLiteral(VX_TITLES_SOURCE), QStringLiteral(VX_FAULTS_SOURCE),
-                   QStringLiteral("-ts"), found});
+                   testFile(VX_TITLES_SOURCE), testFile(VX_FAULTS_SOURCE), QStringLiteral("-ts"),
+                   found});
     QVERIFY(lupdate.waitForFinished(patience));
     QVERIFY2(lupdate.exitCode() == 0, lupdate.readAllStandardError().constData());
 

@@ -6,6 +6,7 @@
 // What the database answers is compared with what plain SQL finds in the same file. The host opens
 // the file beside its executable, so host and test lie in a folder of their own.
 #include "ipc_host_process.h"
+#include "test_file.h"
 
 #include <catalogue.h>
 #include <catalogue_writer.h>
@@ -626,7 +627,7 @@ private:
 
 void EndpointsOverIpcTest::initTestCase()
 {
-    writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), databasePath());
+    writeDatabase(readCatalogueDirectory(testFile(VX_SAMPLE_CATALOGUE)), databasePath());
     m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connectionName);
     m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
     m_database.setDatabaseName(databasePath());

@@ -3,6 +3,7 @@
 // Reading case files, also those that somebody has made to break the reader.
 #include "case_file.h"
 #include "case_readings.h"
+#include "test_file.h"
 
 #include <status_codes.h>
 
@@ -94,7 +95,7 @@ void CaseReaderTest::init()
 
 void CaseReaderTest::readsEveryLineInOrder()
 {
-    CaseFile file(QStringLiteral(VX_EVERY_KIND));
+    CaseFile file(testFile(VX_EVERY_KIND));
     QCOMPARE(file.errorString(), QString());
     QCOMPARE(file.header().value(u"locale").toString(), QStringLiteral("de_DE"));
     qint64 number = 0;
@@ -282,7 +283,7 @@ void CaseReaderTest::manyPrintersAreBounded()
 
 void CaseReaderTest::readingsFollowTheCase()
 {
-    CaseFile file(QStringLiteral(VX_EVERY_KIND));
+    CaseFile file(testFile(VX_EVERY_KIND));
     CaseReadings readings;
     std::optional<Level> first;
     while (const std::optional<CaseLine> line = file.next()) {
@@ -312,7 +313,7 @@ void CaseReaderTest::readingsFollowTheCase()
 
 void CaseReaderTest::eventsHaveTheTimesOfTheCase()
 {
-    CaseFile file(QStringLiteral(VX_EVERY_KIND));
+    CaseFile file(testFile(VX_EVERY_KIND));
     CaseReadings readings;
     QStringList events;
     while (const std::optional<CaseLine> line = file.next()) {

@@ -8,6 +8,7 @@
 #include "machine_test.h"
 #include "patience.h"
 #include "printer_status_controller.h"
+#include "test_file.h"
 #include "vx_ipc_supplyd_controller.h"
 
 #include <virtualwindows/fleet.h>
@@ -643,7 +644,7 @@ void CaseRecorderTest::writesRowsOfTheCatalogue()
     addPrinter(shipping);
     m_recorder = std::make_unique<CaseRecorder>(options());
     m_controller = std::make_unique<PrinterStatusController>();
-    m_controller->getSupplyIdController()->setCatalogueFile(QStringLiteral(VX_ROLL_DB));
+    m_controller->getSupplyIdController()->setCatalogueFile(testFile(VX_ROLL_DB));
     m_recorder->setController(m_controller.get());
     settle();
     QCOMPARE(recorded("catalogue").size(), 0);
@@ -989,7 +990,7 @@ void CaseRecorderTest::sharesWithAnotherRecorder()
 void CaseRecorderTest::goesOnAfterTheDiskWasFull()
 {
     QProcess process;
-    process.start(QStringLiteral(VX_CASE_RECORDER_CHILD), {QStringLiteral("full"), fileName()});
+    process.start(testFile(VX_CASE_RECORDER_CHILD), {QStringLiteral("full"), fileName()});
     QVERIFY2(process.waitForFinished(-1), qPrintable(process.errorString()));
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 0);
@@ -1021,7 +1022,7 @@ void CaseRecorderTest::leavesAValidFileWhenKilled()
         QProcess process;
         // Half of them reach the limit.
         const qint64 limit = number % 2 == 0 ? mebibyte : 64 * mebibyte;
-        process.start(QStringLiteral(VX_CASE_RECORDER_CHILD),
+        process.start(testFile(VX_CASE_RECORDER_CHILD),
                       {QStringLiteral("storm"), name, QString::number(limit)});
         QVERIFY2(process.waitForReadyRead(-1), qPrintable(process.errorString()));
         QTest::qWait(random.bounded(number % 10 == 0 ? 1500 : 150));
@@ -1047,7 +1048,7 @@ void CaseRecorderTest::recordsAHostWithoutCodeForIt()
     process.setProcessEnvironment(environment);
     // The second run does not replace the file of the first.
     for (int run = 0; run < 2; ++run) {
-        process.start(QStringLiteral(VX_CASE_RECORDER_CHILD), {QStringLiteral("host")});
+        process.start(testFile(VX_CASE_RECORDER_CHILD), {QStringLiteral("host")});
         QVERIFY2(process.waitForFinished(-1), qPrintable(process.errorString()));
         QCOMPARE(process.exitCode(), 0);
     }
@@ -1067,7 +1068,7 @@ void CaseRecorderTest::leavesTheLogWhereItWas()
     // Without an appender, the log goes to standard error.
     const auto logOf = [](const QStringList& arguments) {
         QProcess process;
-        process.start(QStringLiteral(VX_CASE_RECORDER_CHILD), arguments);
+        process.start(testFile(VX_CASE_RECORDER_CHILD), arguments);
         process.waitForFinished(-1);
         QList<QByteArray> lines = process.readAllStandardError().split('\n');
         std::ranges::sort(lines); // threads write some of them

@@ -3,6 +3,7 @@
 // What is left of the lines of a case file when names and texts have been taken out of them.
 #include "case_file.h"
 #include "case_redaction.h"
+#include "test_file.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
@@ -20,7 +21,7 @@ namespace {
 QList<QJsonObject> linesOfEveryKind()
 {
     QList<QJsonObject> lines;
-    VxKit::CaseFile file(QStringLiteral(VX_EVERY_KIND));
+    VxKit::CaseFile file(testFile(VX_EVERY_KIND));
     while (const std::optional<CaseLine> line = file.next())
         lines.append(line->object);
     if (!file.errorString().isEmpty())

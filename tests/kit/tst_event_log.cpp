@@ -3,6 +3,7 @@
 // The file of events: its lines, its rotation, several writers, and what happens when it cannot be
 // written.
 #include "patience.h"
+#include "test_file.h"
 #include "whole_file.h"
 
 #include <event_log.h>
@@ -602,7 +603,7 @@ void EventLogTest::fullDiskLosesNoneUncounted()
     QSKIP("a process cannot limit the size of its files there");
 #else
     QProcess process;
-    process.start(QStringLiteral(VX_EVENT_LOG_FULL_DISK), {m_fileName});
+    process.start(testFile(VX_EVENT_LOG_FULL_DISK), {m_fileName});
     QVERIFY(process.waitForFinished(patience));
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 0);
@@ -669,7 +670,7 @@ void EventLogTest::twoProcessesLoseNoLine()
     const QStringList writers{QStringLiteral("one"), QStringLiteral("two")};
     std::array<QProcess, 2> processes;
     for (int i = 0; i < 2; ++i)
-        processes.at(i).start(QStringLiteral(VX_EVENT_LOG_CHILD),
+        processes.at(i).start(testFile(VX_EVENT_LOG_CHILD),
                               {QStringLiteral("write"), m_fileName, writers.at(i),
                                QString::number(count), QString::number(rounds)});
     for (int round = 0; round < rounds; ++round) {
@@ -712,7 +713,7 @@ void EventLogTest::killedWriterLeavesCompleteLines()
     for (int i = 0; i < kills; ++i) {
         const qint64 size = QFileInfo(m_fileName).size();
         QProcess process;
-        process.start(QStringLiteral(VX_EVENT_LOG_CHILD),
+        process.start(testFile(VX_EVENT_LOG_CHILD),
                       {QStringLiteral("write-forever"), m_fileName, QString::number(i)});
         QVERIFY(process.waitForStarted(patience));
         const qint64 more = random.bounded(1, 200000);
@@ -816,7 +817,7 @@ void EventLogTest::memoryIsBounded()
 #else
     const auto run = [](const QStringList& arguments) {
         QProcess process;
-        process.start(QStringLiteral(VX_EVENT_LOG_CHILD), arguments);
+        process.start(testFile(VX_EVENT_LOG_CHILD), arguments);
         if (!process.waitForFinished(patience) || process.exitCode() != 0)
             return QList<QByteArray>();
         return process.readAllStandardOutput().trimmed().split(' ');

@@ -31,7 +31,7 @@ private Q_SLOTS:
     void commandToAnUnknownPrinterFails();
 
 private:
-    QString addLabelPrinter(const QString& port = QStringLiteral("USB001"))
+    QString addLabelPrinter(const QString& port = QStringLiteral("USB901"))
     {
         const QString name = fixture::uniqueName(QStringLiteral("Vx Kit"));
         const bool isAdded = fixture::addPrinter(
@@ -78,6 +78,7 @@ void KitOnTheSpoolerTest::anotherDefaultPrinterIsReported()
 
 void KitOnTheSpoolerTest::stopAndStartOfTheSpoolerAreReported()
 {
+    STOPS_SPOOLER();
     const QString name = addLabelPrinter();
     QVERIFY(!name.isEmpty());
     const PrinterDiscovery discovery(nullptr);

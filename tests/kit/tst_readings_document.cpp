@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 // Each example of docs/readings.md, calculated from its own row.
 #include "readings_test.h"
+#include "test_file.h"
 
 #include <supplyc.h>
 #include <vx_ipc_supplyd_controller.h>
@@ -51,7 +52,7 @@ QString shown(const std::optional<Number>& number, int decimals)
 
 QList<QStringList> ReadingsDocumentTest::examples()
 {
-    QFile file(QStringLiteral(VX_READINGS_DOCUMENT));
+    QFile file(testFile(VX_READINGS_DOCUMENT));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("%s cannot be read", VX_READINGS_DOCUMENT);
     QList<QStringList> rows;

@@ -3,6 +3,7 @@
 // The history of what was used: what is recorded, how it grows old, and what happens to its file.
 #include "patience.h"
 #include "start_process.h"
+#include "test_file.h"
 #include "usage_printers.h"
 #include "whole_file.h"
 
@@ -1054,7 +1055,7 @@ void UsageHistoryTest::killedWriterLosesNothingThatWasWritten()
     int written = -1;
     for (int i = 0; i < kills; ++i) {
         QProcess process;
-        startProcess(process, QStringLiteral(VX_USAGE_HISTORY_CHILD),
+        startProcess(process, testFile(VX_USAGE_HISTORY_CHILD),
                      {m_fileName, QString::number(written + 1)});
         QVERIFY(process.waitForStarted(patience));
         const int last = written + 7 * random.bounded(1, 30);
@@ -1132,7 +1133,7 @@ void UsageHistoryTest::fullDiskIsCountedAndSaidOnce()
     QSKIP("a process cannot limit the size of its files there");
 #else
     QProcess process;
-    process.start(QStringLiteral(VX_USAGE_HISTORY_FULL_DISK), {m_fileName, QString::number(limit)});
+    process.start(testFile(VX_USAGE_HISTORY_FULL_DISK), {m_fileName, QString::number(limit)});
     QVERIFY(process.waitForFinished(patience));
     QCOMPARE(process.readAllStandardError(), QByteArray());
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);

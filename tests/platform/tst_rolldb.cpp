@@ -6,6 +6,7 @@
 #include "run_statement.h"
 #include "small_catalogue.h"
 #include "start_process.h"
+#include "test_file.h"
 #include "test_files.h"
 
 #include <database_check.h>
@@ -30,7 +31,7 @@
 namespace {
 
 // An absolute path, because on Windows the tool may run on another drive.
-const QString sampleCatalogue = QDir(QStringLiteral(VX_SAMPLE_CATALOGUE)).absolutePath();
+const QString sampleCatalogue = QDir(testFile(VX_SAMPLE_CATALOGUE)).absolutePath();
 
 } // namespace
 
@@ -213,7 +214,7 @@ void RollDbTest::doesNotWaitForAPipe()
     QVERIFY(QFile::remove(m_folder->filePath(file)));
     QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
     QProcess tool;
-    tool.start(QStringLiteral(VX_ROLLDB), {QStringLiteral("build"), m_folder->path(), path()});
+    tool.start(testFile(VX_ROLLDB), {QStringLiteral("build"), m_folder->path(), path()});
     QVERIFY2(tool.waitForFinished(), qPrintable(tool.errorString()));
     QCOMPARE(tool.exitCode(), 1);
     QCOMPARE(QString::fromUtf8(tool.readAllStandardError()),
@@ -469,7 +470,7 @@ void RollDbTest::theToolReturnsItsResultAndExitStatus()
     SmallCatalogue().write(path());
     QVERIFY(writeFile(m_folder->filePath(QStringLiteral("text.db")), "not a database"));
     QProcess tool;
-    startProcess(tool, QStringLiteral(VX_ROLLDB),
+    startProcess(tool, testFile(VX_ROLLDB),
                  arguments.replaceInStrings(QStringLiteral("@"), folder));
     QVERIFY2(tool.waitForFinished(patience), qPrintable(tool.errorString()));
     QCOMPARE(tool.exitStatus(), QProcess::NormalExit);
@@ -533,7 +534,7 @@ void RollDbTest::theToolPrintsItsHelp()
     QFETCH(const QStringList, arguments);
     QFETCH(const QStringList, parts);
     QProcess tool;
-    startProcess(tool, QStringLiteral(VX_ROLLDB), arguments);
+    startProcess(tool, testFile(VX_ROLLDB), arguments);
     QVERIFY2(tool.waitForFinished(patience), qPrintable(tool.errorString()));
     QCOMPARE(tool.exitCode(), 0);
     const QString help = QString::fromUtf8(tool.readAllStandardOutput()).remove(u'\r');

@@ -6,6 +6,7 @@
 #include "run_statement.h"
 #include "small_catalogue.h"
 #include "start_process.h"
+#include "test_file.h"
 #include "test_files.h"
 
 #include <catalogue_tables.h>
@@ -32,7 +33,7 @@
 namespace {
 
 // An absolute path, because on Windows the tool may run on another drive.
-const QString sampleCatalogue = QDir(QStringLiteral(VX_SAMPLE_CATALOGUE)).absolutePath();
+const QString sampleCatalogue = QDir(testFile(VX_SAMPLE_CATALOGUE)).absolutePath();
 
 /// A catalogue of any content that tables can have, in any order.
 class RandomCatalogue
@@ -272,7 +273,7 @@ QString RollDbExportTest::run(QStringList arguments) const
 {
     const QString folder = m_folder->path() + u'/';
     QProcess tool;
-    startProcess(tool, QStringLiteral(VX_ROLLDB),
+    startProcess(tool, testFile(VX_ROLLDB),
                  arguments.replaceInStrings(QStringLiteral("@"), folder));
     if (!tool.waitForFinished(patience))
         return tool.errorString();

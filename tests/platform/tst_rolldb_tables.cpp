@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "failure_of.h"
 #include "small_catalogue.h"
+#include "test_file.h"
 
 #include <csv_table.h>
 #include <shown_text.h>
@@ -12,7 +13,7 @@
 
 namespace {
 
-const QString sampleCatalogue = QStringLiteral(VX_SAMPLE_CATALOGUE);
+const QString sampleCatalogue = testFile(VX_SAMPLE_CATALOGUE);
 
 /// The header of a bitmap file with a size, without any pixels.
 QByteArray bitmapHeader(qint32 width, qint32 height)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 #include "supplydb_test.h"
+#include "test_file.h"
 #include "test_files.h"
 
 #include <supplydb_connection.h>
@@ -311,7 +312,7 @@ void SupplyDbFilesTest::misplacedPagesAreRefused()
 void SupplyDbFilesTest::aTreeThatReachesAPageTwiceIsRefused()
 {
     const QString sample = m_folder->filePath(QStringLiteral("sample.db"));
-    writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), sample);
+    writeDatabase(readCatalogueDirectory(testFile(VX_SAMPLE_CATALOGUE)), sample);
     QCOMPARE(failureOf(sample), QString());
     constexpr qsizetype pageSize = 4096;
     qsizetype root = 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 #include "supplydb_test.h"
+#include "test_file.h"
 
 #include <QtTest/QtTest>
 
@@ -458,7 +459,7 @@ void VXSupplyDatabaseTest::oneConnectionNameServesTwoObjects()
 void VXSupplyDatabaseTest::agreesWithTheSampleDatabase()
 {
     const QString sample = m_folder->filePath(QStringLiteral("sample.db"));
-    writeDatabase(readCatalogueDirectory(QStringLiteral(VX_SAMPLE_CATALOGUE)), sample);
+    writeDatabase(readCatalogueDirectory(testFile(VX_SAMPLE_CATALOGUE)), sample);
     m_database->setup(sample, connectionName);
     m_database->setLanguageId(japanese);
     const TestConnection other(sample);

@@ -32,6 +32,16 @@ def wait_for_end(process_id):
 
 
 class RunUntilSilent(unittest.TestCase):
+    def test_removes_the_temporary_files_of_a_test_and_of_what_it_started(self):
+        program = ("import os, subprocess, tempfile\n"
+                   "open(os.path.join(tempfile.mkdtemp(), 'file'), 'w').close()\n"
+                   "print(tempfile.gettempdir(), flush=True)\n")
+        for end, status in (("", 0), ("os.kill(os.getpid(), 9)\n", -signal.SIGKILL)):
+            done = run(program + end)
+            self.assertEqual(done.returncode, status)
+            self.assertNotEqual(done.stdout.strip(), tempfile.gettempdir())
+            self.assertFalse(os.path.exists(done.stdout.strip()), done.stdout)
+
     def test_passes_on_output_and_status(self):
         done = run("import sys; print('out', flush=True); print('err', file=sys.stderr); sys.exit(7)")
         self.assertEqual((done.stdout, done.returncode), ("out\nerr\n", 7))

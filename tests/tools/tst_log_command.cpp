@@ -3,6 +3,7 @@
 // The log of events as `vxprintmon log` prints it.
 #include "log_command.h"
 #include "patience.h"
+#include "test_file.h"
 #include "text_layout.h"
 
 #include <event_log.h>
@@ -104,8 +105,7 @@ private:
         environment.insert(QStringLiteral("LANGUAGE"), language);
         QProcess process;
         process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(VXPRINTMON),
-                      QStringList{QStringLiteral("log"), file()} + options);
+        process.start(testFile(VXPRINTMON), QStringList{QStringLiteral("log"), file()} + options);
         if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit)
             return {};
         return {process.exitCode(), process.readAllStandardOutput().replace("\r\n", "\n"),

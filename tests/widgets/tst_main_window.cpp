@@ -9,6 +9,7 @@
 #include "run_in_english.h"
 #include "sample_database.h"
 #include "supply_pictures.h"
+#include "test_file.h"
 #include "view_colors.h"
 #include "view_language.h"
 #include "view_settings.h"
@@ -290,7 +291,7 @@ void MainWindowTest::takesPicturesOfSuppliesFromTheCatalogue()
 {
     writeSampleDatabase(m_folder->path());
     const QString catalogue = m_folder->filePath(QStringLiteral("roll.db"));
-    QFile file(QStringLiteral(VX_SAMPLE_PICTURES "/danger_header.png"));
+    QFile file(testFile(VX_SAMPLE_PICTURES "/danger_header.png"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const SupplyPictures pictures(catalogue);
     QCOMPARE(pictures(QStringLiteral("VH-400-RW")), file.readAll());

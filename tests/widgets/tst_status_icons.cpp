@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "pictures.h"
 #include "svg_drawing.h"
+#include "test_file.h"
 
 #include <status_codes.h>
 #include <status_icons.h>
@@ -72,7 +73,7 @@ private Q_SLOTS:
 
 void StatusIconsTest::everySourceIsDrawnByTheWidgets()
 {
-    const QDir folder(QStringLiteral(VX_ICONS));
+    const QDir folder(testFile(VX_ICONS));
     const QStringList sources = folder.entryList({QStringLiteral("*.svg")});
     QCOMPARE(sources.size(), qsizetype(iconCount));
     for (const QString& name : sources) {

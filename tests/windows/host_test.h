@@ -44,7 +44,7 @@ protected Q_SLOTS:
 
 protected:
     QString addPrinter(const char* model, DWORD attributes = localPrinter,
-                       const QString& port = QStringLiteral("USB001"))
+                       const QString& port = QStringLiteral("USB901"))
     {
         const QString name = fixture::uniqueName(QStringLiteral("Label Printer"));
         const bool added =

@@ -76,7 +76,7 @@ void EndToEndOnWindowsTest::statusOutsideIsThatOfDiscovery()
 {
     const QString watched = addLoadedPrinter();
     const QString remote =
-        addPrinter("Stratamark Alder", localPrinter, QStringLiteral("192.168.1.20"));
+        addPrinter("Stratamark Alder", localPrinter, QStringLiteral("192.0.2.20"));
     host();
     QVERIFY(waitUntilLoaded(watched));
     QCOMPARE(record(remote).statusEnum, 256);

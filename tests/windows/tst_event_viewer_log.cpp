@@ -5,6 +5,7 @@
 #include "event_viewer_log.h"
 #include "import_table.h"
 #include "shown_text.h"
+#include "test_file.h"
 
 #include <QtTest/QtTest>
 
@@ -37,9 +38,9 @@ BOOL WINAPI recordEntry(HANDLE /*log*/, WORD type, WORD /*category*/, DWORD mess
 /// the source names.
 QString shownByEventViewer(const Entry& entry)
 {
-    const HMODULE program = LoadLibraryExW(
-        QDir::toNativeSeparators(QStringLiteral(VXPRINTAGENT)).toStdWString().c_str(), nullptr,
-        LOAD_LIBRARY_AS_DATAFILE);
+    const HMODULE program =
+        LoadLibraryExW(QDir::toNativeSeparators(testFile(VXPRINTAGENT)).toStdWString().c_str(),
+                       nullptr, LOAD_LIBRARY_AS_DATAFILE);
     if (!program)
         return {};
     const std::wstring insertion = entry.insertions.value(0).toStdWString();

@@ -116,7 +116,7 @@ void LibraryOnWindowsTest::printersOfEveryModelAreListed()
                          [&](const AvailablePrinters& entry) { return entry.printerName == name; });
         QVERIFY2(found != printers.end(), driver);
         QCOMPARE(found->driverName, QString::fromLatin1(driver));
-        QCOMPARE(found->portName, QStringLiteral("001"));
+        QCOMPARE(found->portName, QStringLiteral("901"));
         QCOMPARE(WindowsPrinterInfo::printerType(found->driverName), type);
         QVERIFY(!found->isNetworkPrinter && !found->isShared && !found->isOffline);
     }
@@ -126,7 +126,7 @@ void LibraryOnWindowsTest::offlinePrinters()
 {
     const QString printer = fixture::uniqueName(QStringLiteral("Label Printer"));
     QVERIFY(
-        fixture::addPrinter({printer, QStringLiteral("Stratamark Alder"), QStringLiteral("USB001"),
+        fixture::addPrinter({printer, QStringLiteral("Stratamark Alder"), QStringLiteral("USB901"),
                              PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_SHARED}));
     QVERIFY(!WindowsPrinterInfo::isPrinterOffline(printer));
     QVERIFY(WindowsPrinterInfo::getAvailablePrinterInfo(printer).isShared);

@@ -4,6 +4,7 @@
 // The monitor on the system's own spooler.
 #include "host_test.h"
 #include "start_process.h"
+#include "test_file.h"
 
 #include "backend.h"
 #include "command_line.h"
@@ -38,7 +39,7 @@ public:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("VX_ROLL_DB"), catalogue());
         m_process.setProcessEnvironment(environment);
-        startProcess(m_process, QStringLiteral(VXPRINTMON), arguments);
+        startProcess(m_process, testFile(VXPRINTMON), arguments);
     }
     ~Monitor()
     {
@@ -296,9 +297,9 @@ void MonitorOnWindowsTest::statusAndListShowThePrinters()
     QVERIFY(!printer.isEmpty() && !office.isEmpty());
     Monitor list({QStringLiteral("list")});
     QCOMPARE(list.exitStatus(), 0);
-    QVERIFY2(list.output().contains(printer.toUtf8() + "  AlderMax  001"),
+    QVERIFY2(list.output().contains(printer.toUtf8() + "  AlderMax  901"),
              list.output().constData());
-    QVERIFY2(list.output().contains(office.toUtf8() + "  -         001"),
+    QVERIFY2(list.output().contains(office.toUtf8() + "  -         901"),
              list.output().constData());
     QCOMPARE(list.errors(), QByteArray());
 
@@ -345,7 +346,7 @@ void MonitorOnWindowsTest::doctorJudgesThePrinters()
     const QString office = addPrinter("Some Office Printer");
     const QString asleep = addPrinter("Stratamark CedarMax", offlinePrinter);
     const QString remote =
-        addPrinter("Stratamark BirchMax", localPrinter, QStringLiteral("192.168.1.20"));
+        addPrinter("Stratamark BirchMax", localPrinter, QStringLiteral("192.0.2.20"));
     QVERIFY(!printer.isEmpty() && !office.isEmpty() && !asleep.isEmpty() && !remote.isEmpty());
     QVERIFY(publish(printer, {"Mileage", REG_DWORD, word(900000)}));
     Monitor doctor({QStringLiteral("doctor"), QStringLiteral("--json")});
@@ -364,7 +365,7 @@ void MonitorOnWindowsTest::doctorJudgesThePrinters()
     QCOMPARE(check("rights", printer), QStringLiteral("ok: You may manage the printer."));
     QCOMPARE(check("online", printer), QStringLiteral("ok: The printer is online."));
     QCOMPARE(check("port", printer), QStringLiteral("note: No USB device of a label printer is on "
-                                                    "the printer's port USB001."));
+                                                    "the printer's port USB901."));
     QCOMPARE(check("value.Mileage", printer),
              QStringLiteral("problem: Mileage: REG_DWORD, 4 B: a0 bb 0d 00 (900000); a number up "
                             "to 152400 is plausible"));
@@ -378,7 +379,7 @@ void MonitorOnWindowsTest::doctorJudgesThePrinters()
     QCOMPARE(check("online", asleep),
              QStringLiteral("problem: The printer is set to be used offline."));
     QCOMPARE(check("port", remote),
-             QStringLiteral("note: The printer is reached over a network (port 192.168.1.20), so "
+             QStringLiteral("note: The printer is reached over a network (port 192.0.2.20), so "
                             "it is listed, but not watched."));
     QVERIFY2(check("model", office).startsWith(QLatin1String("note: The driver")),
              qPrintable(check("model", office)));
@@ -386,6 +387,7 @@ void MonitorOnWindowsTest::doctorJudgesThePrinters()
 
 void MonitorOnWindowsTest::doctorSaysThatTheSpoolerMustBeStarted()
 {
+    STOPS_SPOOLER();
     QVERIFY(fixture::setSpoolerRunning(false));
     Monitor doctor({QStringLiteral("doctor"), QStringLiteral("--json")});
     QCOMPARE(doctor.exitStatus(), 1);
@@ -402,6 +404,7 @@ void MonitorOnWindowsTest::doctorSaysThatTheSpoolerMustBeStarted()
 
 void MonitorOnWindowsTest::recordFollowsASpoolerThatStops()
 {
+    STOPS_SPOOLER();
     const QString printer = addLoadedPrinter();
     const QString office = addPrinter("Some Office Printer");
     QVERIFY(!printer.isEmpty() && !office.isEmpty());
@@ -440,7 +443,7 @@ void MonitorOnWindowsTest::recordFollowsPrintersThatComeAndGo()
     QVERIFY2(recording.has(R"("kind":"started")"), recording.content().constData());
     const QString asleep = addPrinter("Stratamark CedarMax", offlinePrinter);
     const QString remote =
-        addPrinter("Stratamark BirchMax", localPrinter, QStringLiteral("192.168.1.20"));
+        addPrinter("Stratamark BirchMax", localPrinter, QStringLiteral("192.0.2.20"));
     QVERIFY(!asleep.isEmpty() && !remote.isEmpty());
     QVERIFY2(recording.has("Stratamark BirchMax"), recording.content().constData());
     QVERIFY(fixture::removePrinter(remote));
@@ -460,7 +463,7 @@ void MonitorOnWindowsTest::caseIsRedacted()
         "{\"kind\":\"case\",\"version\":\"1.0\",\"product\":\"VxPrinterStatus 2.0.0\",\"redacted\":"
         "false}\n"
         "{\"kind\":\"printer\",\"name\":\"Frau Müller\",\"driver\":\"Stratamark BirchMax\","
-        "\"port\":\"USB001\",\"values\":[{\"name\":\"StatusCode\",\"type\":1,\"text\":\"1\"}]}\n"
+        "\"port\":\"USB901\",\"values\":[{\"name\":\"StatusCode\",\"type\":1,\"text\":\"1\"}]}\n"
         "{\"kind\":\"begun\"}\n"
         "{\"kind\":\"job\",\"t\":1,\"printer\":\"Frau Müller\",\"id\":3,\"user\":\"Erika\","
         "\"document\":\"Kündigung.pdf\",\"status\":16}\n"

@@ -64,7 +64,7 @@ void ReadingsOnWindowsTest::readsWhatIsLoaded()
     const PrinterReading loaded = reading(printer);
     QCOMPARE(loaded.watching(), Watching::Watched);
     QCOMPARE(loaded.model(), VXPrinting::PrinterType::AlderMax);
-    QCOMPARE(loaded.port(), QStringLiteral("001"));
+    QCOMPARE(loaded.port(), QStringLiteral("901"));
     QCOMPARE(loaded.serialNumber(), QString());
     QCOMPARE(loaded.statusCode(), 1);
     QVERIFY(loaded.isOnline());
@@ -108,7 +108,7 @@ void ReadingsOnWindowsTest::everyPrinterOfASupportedModelHasAReading()
 {
     const QString asleep = addPrinter("Stratamark CedarMax", offlinePrinter);
     const QString remote =
-        addPrinter("Stratamark BirchMax", localPrinter, QStringLiteral("192.168.1.20"));
+        addPrinter("Stratamark BirchMax", localPrinter, QStringLiteral("192.0.2.20"));
     const QString other = addPrinter("Some Office Printer");
     QVERIFY(!asleep.isEmpty() && !remote.isEmpty() && !other.isEmpty());
     makeReadings();
@@ -143,6 +143,7 @@ void ReadingsOnWindowsTest::printersComeAndGo()
 
 void ReadingsOnWindowsTest::stoppedSpoolerMakesNothingGone()
 {
+    STOPS_SPOOLER();
     const QString printer = addLoadedPrinter();
     makeReadings();
     QVERIFY(waitUntilLoaded(printer));

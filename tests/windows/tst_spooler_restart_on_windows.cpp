@@ -42,6 +42,7 @@ private:
 
 void SpoolerRestartTest::spoolerThatStopsAndComesBack()
 {
+    STOPS_SPOOLER();
     const QString printer = watchReadyPrinter("Stratamark AlderMax");
     QVERIFY(!printer.isEmpty());
 
@@ -53,6 +54,7 @@ void SpoolerRestartTest::spoolerThatStopsAndComesBack()
 
 void SpoolerRestartTest::valueThatChangesWhileTheSpoolerIsDown()
 {
+    STOPS_SPOOLER();
     const QString printer = watchReadyPrinter("Stratamark AlderMax");
     QVERIFY(!printer.isEmpty());
 
@@ -65,6 +67,7 @@ void SpoolerRestartTest::valueThatChangesWhileTheSpoolerIsDown()
 
 void SpoolerRestartTest::stopEndsAThreadWhileTheSpoolerIsDown()
 {
+    STOPS_SPOOLER();
     const QString printer = watchReadyPrinter("Stratamark Alder");
     QVERIFY(!printer.isEmpty());
     QVERIFY(setSpoolerRunning(false, printer, "254"));
@@ -78,6 +81,7 @@ void SpoolerRestartTest::stopEndsAThreadWhileTheSpoolerIsDown()
 
 void SpoolerRestartTest::printerThatCouldNotBeOpened()
 {
+    STOPS_SPOOLER();
     const QString printer = fixture::uniqueName(QStringLiteral("Label Printer"));
     const int before = waitsBegun();
     watch(printer);

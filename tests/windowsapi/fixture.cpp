@@ -50,7 +50,7 @@ HANDLE fixture::NewPrinter::add(DWORD level)
 
 bool fixture::addPrinter(const PrinterSetup& setup)
 {
-    if (!system::installDriver(setup.driver))
+    if (!system::installDriver(setup.driver) || !system::addPort(setup.port))
         return false;
     NewPrinter record(setup);
     const PrinterHandle printer(record.add());

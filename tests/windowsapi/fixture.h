@@ -46,6 +46,13 @@ enum class Behaviour
             QSKIP("this system lacks " #behaviour);                                                \
     } while (false)
 
+/// Skips the test function when the service "Spooler" must not be stopped.
+#define STOPS_SPOOLER()                                                                            \
+    do {                                                                                           \
+        if (!fixture::maySpoolerStop())                                                            \
+            QSKIP("the print spooler must not be stopped");                                        \
+    } while (false)
+
 /// A wide text for calls that take a pointer to non-const characters.
 class WideText
 {
@@ -85,7 +92,7 @@ struct PrinterSetup
 {
     QString name;
     QString driver = QStringLiteral("Vx Test Driver");
-    QString port = QStringLiteral("USB001");
+    QString port = QStringLiteral("USB901");
     DWORD attributes = PRINTER_ATTRIBUTE_LOCAL;
 };
 
@@ -116,8 +123,11 @@ bool addPrinter(const PrinterSetup& setup);
 bool removePrinter(const QString& name);
 
 /// Starts or stops the service "Spooler" and waits until that is done. Its former state is restored
-/// at the end of the test function.
+/// at the end of the test function. A function that stops it begins with STOPS_SPOOLER.
 bool setSpoolerRunning(bool running);
+/// Whether the service may be stopped. On a computer that others print with, it may not: then the
+/// environment variable VX_SPOOLER_MAY_STOP is 0.
+bool maySpoolerStop();
 
 bool has(Behaviour behaviour);
 
@@ -134,6 +144,8 @@ void begin();
 /// each of the functions listed.
 QStringList end(const QStringList& allowedMisuses);
 bool installDriver(const QString& name);
+/// Adds the port, if the system needs it. It is removed at the end of the test function.
+bool addPort(const QString& name);
 } // namespace system
 
 } // namespace fixture

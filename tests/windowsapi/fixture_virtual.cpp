@@ -36,6 +36,16 @@ bool fixture::system::installDriver(const QString& /*name*/)
     return true; // the virtual spooler accepts any driver's name
 }
 
+bool fixture::system::addPort(const QString& /*name*/)
+{
+    return true; // nor does it check ports
+}
+
+bool fixture::maySpoolerStop()
+{
+    return true;
+}
+
 bool fixture::setSpoolerRunning(bool running)
 {
     Machine::instance().setSpoolerState(running ? SERVICE_RUNNING : SERVICE_STOPPED);

@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #include "fixture.h"
 #include "is_wine.h"
+#include "test_spooler.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QFile>
@@ -13,9 +14,13 @@
 
 namespace {
 
-constexpr wchar_t environment[] = L"Windows x64";
-
 QStringList& installedDrivers()
+{
+    static QStringList names;
+    return names;
+}
+
+QStringList& addedPorts()
 {
     static QStringList names;
     return names;
@@ -73,13 +78,16 @@ void fixture::system::begin()
 QStringList fixture::system::end(const QStringList& /*allowedMisuses*/)
 {
     QStringList wrong;
+    const auto check = [&wrong](const test_spooler::Problem& problem, const QString& what) {
+        if (!problem.isNone())
+            wrong.append(QStringLiteral("the %1 cannot be removed: %2").arg(what, problem.text()));
+    };
     const QStringList drivers = std::exchange(installedDrivers(), {});
-    for (const QString& driver : drivers) {
-        WideText environmentText(QString::fromWCharArray(environment));
-        if (!DeletePrinterDriverExW(nullptr, environmentText, WideText(driver), 0, 0))
-            wrong.append(QStringLiteral("the driver \"%1\" cannot be removed: error %2")
-                             .arg(driver, QString::number(GetLastError())));
-    }
+    for (const QString& driver : drivers)
+        check(test_spooler::removeDriver(driver), QStringLiteral("driver \"%1\"").arg(driver));
+    const QStringList ports = std::exchange(addedPorts(), {});
+    for (const QString& port : ports)
+        check(test_spooler::removePort(port), QStringLiteral("port \"%1\"").arg(port));
     if (spoolerRanBefore().has_value() && !setSpoolerRunning(*spoolerRanBefore()))
         wrong.append(
             QStringLiteral("the former state of the service \"Spooler\" could not be restored"));
@@ -90,24 +98,46 @@ bool fixture::system::installDriver(const QString& name)
 {
     if (installedDrivers().contains(name))
         return true;
-    WideText driver(name);
-    WideText environmentText(QString::fromWCharArray(environment));
-    WideText file(QStringLiteral("localspl.dll"));
-    DRIVER_INFO_3W info{};
-    info.cVersion = 3;
-    info.pName = driver;
-    info.pEnvironment = environmentText;
-    info.pDriverPath = file;
-    info.pDataFile = file;
-    info.pConfigFile = file;
-    if (!AddPrinterDriverExW(nullptr, 3, reinterpret_cast<LPBYTE>(&info), APD_COPY_NEW_FILES))
+    const test_spooler::Problem problem = test_spooler::installDriver(name);
+    if (!problem.isNone()) {
+        qWarning("the driver \"%s\" cannot be installed: %s", qPrintable(name),
+                 qPrintable(problem.text()));
+        SetLastError(problem.error);
         return false;
+    }
     installedDrivers().append(name);
     return true;
 }
 
+bool fixture::system::addPort(const QString& name)
+{
+    if (addedPorts().contains(name, Qt::CaseInsensitive))
+        return true;
+    // Wine takes any port, and does not list all of them.
+    if (isWine())
+        return true;
+    const test_spooler::Problem problem = test_spooler::addPort(name);
+    if (!problem.isNone()) {
+        qWarning("the port \"%s\" cannot be added: %s", qPrintable(name),
+                 qPrintable(problem.text()));
+        SetLastError(problem.error);
+        return false;
+    }
+    addedPorts().append(name);
+    return true;
+}
+
+bool fixture::maySpoolerStop()
+{
+    return qEnvironmentVariable("VX_SPOOLER_MAY_STOP") != QLatin1String("0");
+}
+
 bool fixture::setSpoolerRunning(bool running)
 {
+    if (!running && !maySpoolerStop()) {
+        qWarning("the print spooler must not be stopped (VX_SPOOLER_MAY_STOP is 0)");
+        return false;
+    }
     const ServiceHandle service = openSpooler();
     if (!service)
         return false;

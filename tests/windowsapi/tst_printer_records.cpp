@@ -181,7 +181,7 @@ void PrinterRecordsTest::init()
     m_name = fixture::uniqueName(QStringLiteral("Vx Record"));
     QVERIFY(fixture::addPrinter({.name = m_name,
                                  .driver = QStringLiteral("Vx Record Driver"),
-                                 .port = QStringLiteral("USB004")}));
+                                 .port = QStringLiteral("USB904")}));
     m_printer = openPrinter(m_name);
     QVERIFY(m_printer);
 }
@@ -232,7 +232,7 @@ void PrinterRecordsTest::level2HoldsTheWholeRecord()
     const auto& record = block.record<PRINTER_INFO_2W>();
     QCOMPARE(fromWide(record.pPrinterName), m_name);
     QCOMPARE(fromWide(record.pDriverName), QStringLiteral("Vx Record Driver"));
-    QCOMPARE(fromWide(record.pPortName), QStringLiteral("USB004"));
+    QCOMPARE(fromWide(record.pPortName), QStringLiteral("USB904"));
     QCOMPARE(fromWide(record.pPrintProcessor).toLower(), QStringLiteral("winprint"));
     QCOMPARE(fromWide(record.pDatatype), QStringLiteral("RAW"));
     QCOMPARE(fromWide(record.pServerName), QString());
@@ -272,7 +272,7 @@ void PrinterRecordsTest::levels4And5HoldAFewMembers()
     QCOMPARE(ports.error, DWORD{ERROR_SUCCESS});
     const auto& record5 = ports.record<PRINTER_INFO_5W>();
     QCOMPARE(fromWide(record5.pPrinterName), m_name);
-    QCOMPARE(fromWide(record5.pPortName), QStringLiteral("USB004"));
+    QCOMPARE(fromWide(record5.pPortName), QStringLiteral("USB904"));
     QCOMPARE(record5.Attributes, DWORD{PRINTER_ATTRIBUTE_LOCAL});
     QVERIFY(ports.holds(record5.pPrinterName, sizeof record5));
     QVERIFY(ports.holds(record5.pPortName, sizeof record5));
@@ -388,7 +388,7 @@ void PrinterRecordsTest::recordCanBeChanged()
     ChangedRecord changed(m_printer.get());
     WideText comment(QStringLiteral("by the door"));
     WideText location(QStringLiteral("Hall 2"));
-    WideText port(QStringLiteral("USB007"));
+    WideText port(QStringLiteral("USB907"));
     changed.info.pComment = comment;
     changed.info.pLocation = location;
     changed.info.pPortName = port;
@@ -400,7 +400,7 @@ void PrinterRecordsTest::recordCanBeChanged()
     const auto& record = block.record<PRINTER_INFO_2W>();
     QCOMPARE(fromWide(record.pComment), QStringLiteral("by the door"));
     QCOMPARE(fromWide(record.pLocation), QStringLiteral("Hall 2"));
-    QCOMPARE(fromWide(record.pPortName), QStringLiteral("USB007"));
+    QCOMPARE(fromWide(record.pPortName), QStringLiteral("USB907"));
     QCOMPARE(fromWide(record.pDriverName), QStringLiteral("Vx Record Driver"));
     QCOMPARE(record.Attributes, DWORD{PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_WORK_OFFLINE});
 }
@@ -489,7 +489,7 @@ void PrinterRecordsTest::listHoldsRecords()
     const QString second = fixture::uniqueName(QStringLiteral("Vx Record"));
     QVERIFY(fixture::addPrinter(
         {.name = second,
-         .port = QStringLiteral("USB009"),
+         .port = QStringLiteral("USB909"),
          .attributes = PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_WORK_OFFLINE}));
     const Block block = enumPrinters(allLocal, enumPrinters(allLocal, 0).needed);
     QVERIFY(block.done);
@@ -502,9 +502,9 @@ void PrinterRecordsTest::listHoldsRecords()
     QCOMPARE(records.size(), static_cast<qsizetype>(block.returned));
     QVERIFY(records.contains(m_name));
     QCOMPARE(fromWide(records.value(m_name).pDriverName), QStringLiteral("Vx Record Driver"));
-    QCOMPARE(fromWide(records.value(m_name).pPortName), QStringLiteral("USB004"));
+    QCOMPARE(fromWide(records.value(m_name).pPortName), QStringLiteral("USB904"));
     QVERIFY(records.contains(second));
-    QCOMPARE(fromWide(records.value(second).pPortName), QStringLiteral("USB009"));
+    QCOMPARE(fromWide(records.value(second).pPortName), QStringLiteral("USB909"));
     QCOMPARE(records.value(second).Attributes,
              DWORD{PRINTER_ATTRIBUTE_LOCAL | PRINTER_ATTRIBUTE_WORK_OFFLINE});
 }
@@ -727,6 +727,7 @@ void PrinterRecordsTest::deletedPrinterIsNoLongerTheDefault()
 // than a short buffer and a missing default printer: the choice is stored in the user's registry.
 void PrinterRecordsTest::defaultPrinterNeedsNoSpooler()
 {
+    STOPS_SPOOLER();
     const DefaultPrinterRestorer restorer;
     QVERIFY(SetDefaultPrinterW(WideText(m_name)));
     const bool hasStopped = fixture::setSpoolerRunning(false);

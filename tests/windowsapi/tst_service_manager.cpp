@@ -122,6 +122,7 @@ void ServiceManagerTest::serviceNameIsRequired()
 
 void ServiceManagerTest::statusFollowsTheService()
 {
+    STOPS_SPOOLER();
     const ServiceHandle manager = openManager();
     const ServiceHandle service = openService(manager, spooler);
     QVERIFY(service);
@@ -140,6 +141,7 @@ void ServiceManagerTest::statusFollowsTheService()
 
 void ServiceManagerTest::stoppedServiceAcceptsNothing()
 {
+    STOPS_SPOOLER();
     QVERIFY(fixture::setSpoolerRunning(false));
     const ServiceHandle manager = openManager();
     const ServiceHandle service = openService(manager, spooler);
