@@ -253,15 +253,16 @@ vxkit_result vxkit_last_error(char* buffer, size_t size, size_t* needed)
 {
     return guarded([&]() -> vxkit_result {
         // A buffer that is too small must not cost the caller the text.
+        const size_t length = std::strlen(lastError()) + 1;
         if (needed)
-            *needed = std::strlen(lastError()) + 1;
+            *needed = length;
         if (!buffer && size > 0)
             return VXKIT_ERROR_INVALID_ARGUMENT;
         if (size > 0)
             *buffer = '\0';
-        if (size < std::strlen(lastError()) + 1)
+        if (size < length)
             return VXKIT_ERROR_BUFFER_TOO_SMALL;
-        std::strcpy(buffer, lastError());
+        std::memcpy(buffer, lastError(), length);
         return VXKIT_OK;
     });
 }

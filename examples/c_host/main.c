@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// A host in C. It prints a line for each of the maker's label printers, then one for each change until
-// the user presses Enter.
+// A host in C. It prints a line for each of the maker's label printers, then one for each change
+// until the user presses Enter.
 //
 // Usage: c_host [CATALOGUE]
 //
-// CATALOGUE is the file roll.db with the names of supplies; without it, the one beside this program is
-// used.
+// CATALOGUE is the file roll.db with the names of supplies; without it, the one beside this program
+// is used.
 #include <stdio.h>
 #include <vxkit.h>
 

@@ -2,6 +2,8 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+// C has its own headers and names, and neither using nor constexpr.
+// NOLINTBEGIN(modernize-*, readability-identifier-naming, cppcoreguidelines-*, misc-*)
 #include <stddef.h>
 #include <stdint.h>
 
@@ -91,9 +93,6 @@
 /// `VXKIT_INTERFACE_VERSION` that of this header. As long as the major number stays the same,
 /// functions and constants are only added, and nothing that exists changes its meaning or number. A
 /// host should expect numbers of changes, models and the like that it does not know.
-
-// C has no using, no constexpr and no namespaces.
-// NOLINTBEGIN(modernize-*, readability-identifier-naming, cppcoreguidelines-*, misc-*)
 
 #if defined(_WIN32)
 #define VXKIT_CALL __cdecl

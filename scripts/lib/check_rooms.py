@@ -18,7 +18,7 @@ import sys
 
 DOCUMENT = "docs/architecture.md"
 HEADING = "## Rooms"
-SOURCES = ("*.h", "*.cpp", "*.h.in")
+SOURCES = ("*.h", "*.c", "*.cpp", "*.h.in")
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^>"\n]+)[>"]', re.MULTILINE)
 
 # The beginnings of other libraries' header names, and the name of each library in the table.

@@ -86,10 +86,10 @@ need_packages() {
 
 # shellcheck disable=SC2034 # the scripts that source this file use it
 native_packages=(ca-certificates ccache cmake g++ libgl1-mesa-dev libjsoncpp-dev libmosquitto-dev
-    libqt6sql6-sqlite libsqlite3-dev mosquitto ninja-build nodejs openssl pkg-config python3
-    python3-jsonschema python3-markdown-it python3-pyte qml6-module-qtqml qml6-module-qtqml-workerscript
-    qml6-module-qtquick qml6-module-qtquick-window qt6-base-dev qt6-declarative-dev
-    qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
+    libqt6sql6-sqlite libsqlite3-dev mono-mcs mono-runtime mosquitto mypy ninja-build nodejs openssl
+    pkg-config python3 python3-jsonschema python3-markdown-it python3-pyte python3-setuptools python3-wheel
+    qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-window
+    qt6-base-dev qt6-declarative-dev qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
 
 # A broker with WebSockets for the page, and what rings alerts.
 # shellcheck disable=SC2034 # the scripts that source this file use it

@@ -21,6 +21,7 @@ foreach(example IN LISTS EXAMPLES)
     cmake_path(GET example FILENAME name)
     run("configuring ${name}" "${CMAKE_COMMAND}" -S "${example}" -B "${SCRATCH}/${name}" -G Ninja
         "-D${FIND_BY}=${SCRATCH}/installed" -DCMAKE_BUILD_TYPE=Release
+        "-DCMAKE_C_FLAGS=-Wall -Wextra -Wpedantic -Werror"
         "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Werror" ${OPTIONS})
     run("building ${name}" "${CMAKE_COMMAND}" --build "${SCRATCH}/${name}")
 endforeach()

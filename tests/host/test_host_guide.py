@@ -12,6 +12,7 @@ import unittest
 ROOT = pathlib.Path(sys.argv.pop(1))
 GUIDE = ROOT / "docs/host-guide.md"
 README = ROOT / "README.md"
+C_GUIDE = ROOT / "docs/c-interface.md"
 # A test compiles each of these.
 SOURCES = [
     *sorted(path for path in ROOT.glob("examples/*/*") if path.is_file()),
@@ -25,7 +26,7 @@ def lines(text):
 
 
 def blocks(page):
-    return re.findall(r"^```(?:cpp|cmake)\n(.*?)^```$", page.read_text(), re.M | re.S)
+    return re.findall(r"^```(?:c|cpp|cmake|csharp|python)\n(.*?)^```$", page.read_text(), re.M | re.S)
 
 
 def contains(whole, part):
@@ -37,7 +38,8 @@ class HostGuide(unittest.TestCase):
         sources = [lines(source.read_text()) for source in SOURCES]
         self.assertGreater(len(blocks(GUIDE)), 12)
         self.assertGreater(len(blocks(README)), 1)
-        for block in blocks(GUIDE) + blocks(README):
+        self.assertGreater(len(blocks(C_GUIDE)), 4)
+        for block in blocks(GUIDE) + blocks(README) + blocks(C_GUIDE):
             self.assertTrue(any(contains(source, lines(block)) for source in sources),
                             f"no compiled file has this:\n{block}")
 
@@ -76,6 +78,17 @@ class HostGuide(unittest.TestCase):
         guide = GUIDE.read_text()
         for file in ROOT.glob("translations/vxprinterstatus_*.ts"):
             self.assertIn(f"`{file.stem.removeprefix('vxprinterstatus_')}`", guide)
+
+    def test_c_guide_names_existing_functions(self):
+        header = (ROOT / "kit/include/vxkit.h").read_text()
+        names = re.findall(r"`(vxkit_\w+|VXKIT_\w+)`", C_GUIDE.read_text())
+        self.assertGreater(len(names), 10)
+        for name in names:
+            self.assertRegex(header, rf"\b{name}\b")
+
+    def test_c_guide_links_to_existing_files(self):
+        for target in re.findall(r"\]\(([^)#]+)", C_GUIDE.read_text()):
+            self.assertTrue((C_GUIDE.parent / target).exists(), target)
 
     def test_refers_to_its_own_headings(self):
         guide = GUIDE.read_text()

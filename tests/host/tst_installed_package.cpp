@@ -89,6 +89,7 @@ private Q_SLOTS:
     void logOfAHostWithoutAnAppenderGoesToStandardError();
     void examplesLogToAFile_data();
     void examplesLogToAFile();
+    void hostInCPrintsPrinters();
 #ifdef Q_OS_WIN
     void hostPrintsThePrintersOfTheSystem();
     void hostOnTheKitPrintsThePrintersOfTheSystem();
@@ -209,6 +210,32 @@ void InstalledPackageTest::examplesLogToAFile()
     // Qt may print warnings when there is no screen.
     const QByteArray errors = process.readAllStandardError();
     QVERIFY2(!errors.contains("Evaluating Printer"), errors.constData());
+}
+
+void InstalledPackageTest::hostInCPrintsPrinters()
+{
+    QProcessEnvironment variables = environment();
+#ifdef Q_OS_WIN
+    QVERIFY(fixture::setSpoolerRunning(true));
+    const QString printer = fixture::uniqueName(QStringLiteral("Label Printer"));
+    QVERIFY(fixture::addPrinter({printer, QStringLiteral("Stratamark CedarMax")}));
+    const QByteArray line =
+        printer.toUtf8() +
+        ": Unable To Retrieve Printer Info; supply not known; ribbon 1 not known\n";
+#else
+    variables.insert(QStringLiteral("VX_VIRTUAL_FLEET"), QStringLiteral("built-in"));
+    const QByteArray line = "Branch Office: Printer Is Remotely Connected; supply not known; "
+                            "ribbon 1 not known\n";
+#endif
+    QProcess process;
+    process.setProcessEnvironment(variables);
+    startProcess(process, QStringLiteral(VX_C_HOST), {});
+    process.closeWriteChannel(); // it runs until the user presses Enter
+    QVERIFY2(process.waitForFinished(patience), qPrintable(process.errorString()));
+    QCOMPARE(process.exitCode(), 0);
+    const QByteArray output = process.readAllStandardOutput().replace("\r\n", "\n");
+    QVERIFY2(output.contains(line), output.constData());
+    QCOMPARE(process.readAllStandardError(), QByteArray());
 }
 
 #ifdef Q_OS_WIN

@@ -2,11 +2,12 @@
 // Copyright The VxPrinterStatus authors
 //
 // Runs the host in plain C, c_host.c: on a virtual fleet, and on Windows on the system's spooler.
-#include "patience.h"
 #include "start_process.h"
 
 #include <QtCore/QProcess>
 #include <QtTest/QtTest>
+
+#include <cstdio>
 
 #ifdef Q_OS_WIN
 #include "fixture.h"
@@ -43,14 +44,15 @@ bool CHostTest::run(const QStringList& arguments)
     process.setProcessEnvironment(variables);
     startProcess(process, program, arguments);
     QByteArray output;
-    while (process.waitForReadyRead(patience)) {
+    for (bool isRunning = true; isRunning;) {
+        constexpr int betweenLines = 200; // milliseconds
+        isRunning =
+            !process.waitForFinished(betweenLines) && process.state() != QProcess::NotRunning;
         // The lines show that the host is alive.
         const QByteArray part = process.readAll();
         std::fprintf(stderr, "%s", part.constData());
         output += part;
     }
-    if (!process.waitForFinished(patience))
-        process.kill();
     const bool hasPassed = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
     // Neither sanitizers nor Qt have anything to say.
     const bool isQuiet = !output.contains("WARNING") && !output.contains("QObject");
