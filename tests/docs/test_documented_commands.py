@@ -295,7 +295,8 @@ class Sandbox:
             path.write_text(self.fill("\n".join(text) if isinstance(text, list) else text) + "\n", encoding="utf-8")
             path.chmod(0o600)
         for command in self.page.get("set_up", ()):
-            self.run(command, {})
+            rule = command if isinstance(command, dict) else {"command": command}
+            self.run(rule["command"], rule)
         for host in self.page.get("hosts", ()):
             self.host(host)
 
