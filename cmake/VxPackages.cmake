@@ -152,8 +152,10 @@ vx_package(web vxprinterstatus-web INDEPENDENT
     TEXT ${VX_PRODUCT_TEXT} " "
         "This package has a page that shows in a browser what the agents of a site"
         "publish. It needs a web server, and a broker with WebSockets.")
+# The clients of the status service are scripts.
 vx_package(documentation vxprinterstatus-doc INDEPENDENT
     SECTION doc
+    SUGGESTS python3 nodejs
     SUMMARY "finds label printers and watches them - documentation"
     TEXT ${VX_PRODUCT_TEXT} " "
         "This package has the guides for those who write hosts and who look after"

@@ -29,6 +29,7 @@ set(VX_TEST_ENVIRONMENT LC_ALL=C.UTF-8 LANGUAGE=en QT_QPA_PLATFORM=offscreen QT_
 set(VX_TESTS_WITHOUT_THREADS
     forecast_accuracy
     status_codes_document
+    test_changelog
     test_check_links
     test_check_page_texts
     test_check_translations

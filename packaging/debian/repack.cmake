@@ -3,7 +3,8 @@
 #
 # Run by CPack when the packages are made. CPack gives each package with a library scripts that call ldconfig,
 # for which there is a trigger (packaging/debian/*/triggers); these are removed. dpkg-deb then packs again: sorted,
-# with no time after SOURCE_DATE_EPOCH, and without what depends on the number of processors.
+# with no time after SOURCE_DATE_EPOCH, and without what depends on the number of processors. CPack has also measured
+# the packages before their programs were stripped.
 
 find_program(dpkg_deb dpkg-deb REQUIRED)
 foreach(package IN LISTS CPACK_PACKAGE_FILES)
@@ -18,6 +19,21 @@ foreach(package IN LISTS CPACK_PACKAGE_FILES)
             endif()
         endif()
     endforeach()
+    file(GLOB_RECURSE files LIST_DIRECTORIES true RELATIVE "${folder}" "${folder}/*")
+    list(FILTER files EXCLUDE REGEX "^DEBIAN")
+    # In KiB, as Debian's policy counts: what is no file takes one.
+    set(installed_size 0)
+    foreach(file IN LISTS files)
+        set(size 1)
+        if(NOT IS_DIRECTORY "${folder}/${file}" AND NOT IS_SYMLINK "${folder}/${file}")
+            file(SIZE "${folder}/${file}" size)
+            math(EXPR size "(${size} + 1023) / 1024")
+        endif()
+        math(EXPR installed_size "${installed_size} + ${size}")
+    endforeach()
+    file(READ "${folder}/DEBIAN/control" control)
+    string(REGEX REPLACE "Installed-Size: [0-9]+" "Installed-Size: ${installed_size}" control "${control}")
+    file(WRITE "${folder}/DEBIAN/control" "${control}")
     # The debug information is large, and xz would take minutes for it.
     set(compression -Zxz)
     if(package MATCHES "ddeb$")

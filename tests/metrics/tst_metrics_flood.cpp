@@ -223,25 +223,19 @@ void MetricsFloodTest::servesGoodScrapesDuringAFlood()
         QSKIP("This user may not open so many connections");
     QVERIFY(scrape(agent.port()));
 
-    bool isGiven = false;
-    const int given = qEnvironmentVariableIntValue("VX_FLOOD_SECONDS", &isGiven);
-    const std::chrono::seconds floodTime(isGiven ? given : usualSeconds);
-    // What else runs on the machine can only make it slower: it is fast enough if it is once.
-    constexpr int attempts = 3;
-    Measured measured;
-    for (int attempt = 0; attempt < attempts; ++attempt) {
-        measured = measure(agent, floodTime);
-        QVERIFY(measured.isServed);
-        QVERIFY(scrape(agent.port()));
-        if (isSanitized)
-            return;
+    bool isByHand = false;
+    const int given = qEnvironmentVariableIntValue("VX_FLOOD_SECONDS", &isByHand);
+    const Measured measured = measure(agent, std::chrono::seconds(isByHand ? given : usualSeconds));
+    QVERIFY(measured.isServed);
+    QVERIFY(scrape(agent.port()));
+    if (!isSanitized)
         QVERIFY(measured.growth < mostGrowth);
-        if (!measured.areWaitsKnown)
-            QSKIP("The system does not report how long threads wait for a processor");
-        if (measured.p99 < slowestOfAHundred)
-            break;
+    // Beside other tests the time says nothing: the caches and the disk are theirs too.
+    if (isByHand) {
+        QVERIFY2(measured.areWaitsKnown,
+                 "The system does not report how long threads wait for a processor");
+        QVERIFY(measured.p99 < slowestOfAHundred);
     }
-    QVERIFY(measured.p99 < slowestOfAHundred);
 }
 
 MetricsFloodTest::Measured MetricsFloodTest::measure(const AgentProcess& agent,

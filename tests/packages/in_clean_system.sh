@@ -83,7 +83,7 @@ use() {
     expect Ready vxprintmon title 1
     # The name of a supply comes from the installed catalogue.
     expect Vinyl vxprintmon status --virtual built-in
-    expect '"sku"' vxprintmon status --json --virtual built-in
+    expect '"supplySKU":"VT-400-YL"' vxprintmon status --json --virtual built-in
     expect ': ok, 46 supplies' rolldb check /usr/share/VxPrinterStatus/roll.db
     quietly runuser -u tester -- rolldb build /usr/share/VxPrinterStatus/supplies /home/tester/roll.db
     cmp /home/tester/roll.db /usr/share/VxPrinterStatus/roll.db ||
@@ -181,8 +181,11 @@ quietly apt-get -q remove -y $own_packages
 ! command -v vxprintmon || fail "vxprintmon is still there"
 
 say "purging: only what people made stays"
+# The others had no configuration, so nothing of them is known any more.
+remaining=$(dpkg-query -W -f '${db:Status-Abbrev} ${Package}\n' | sed -n 's/^rc  *//p' | grep -xF "$own_packages")
+[ "$remaining" = "$(printf 'vxprintagent\nvxprinterstatus-web')" ] || fail "these have a configuration: $remaining"
 # shellcheck disable=SC2086
-quietly apt-get -q purge -y $own_packages
+quietly apt-get -q purge -y $remaining
 files >/tmp/after
 cat >/tmp/made_by_people <<END
 /etc/vxprintagent d 755

@@ -6,6 +6,7 @@ test_help_pages.py SOURCE_FOLDER TOOL...
 """
 import fcntl
 import html
+import json
 import os
 import pathlib
 import pty
@@ -274,11 +275,11 @@ class Bash(Completion, Pages):
                        "echo rea''dy\n")
             shell.wait_for("ready")
             self.assertEqual(shell.completed(f"{MONITOR} status Bra\t"), f"{MONITOR} status Branch Office")
-            self.assertEqual(shell.completed(f'{MONITOR} status "Fron\t'), f"{MONITOR} status Front Desk Laser")
+            self.assertEqual(shell.completed(f'{MONITOR} status "Front D\t'), f"{MONITOR} status Front Desk Laser")
             self.assertEqual(shell.completed(f"{MONITOR} status Branch\\ O\t"), f"{MONITOR} status Branch Office")
             self.assertEqual(shell.completed(f"{MONITOR} fore\t"), f"{MONITOR} forecast")
             self.assertEqual(shell.completed(f"{MONITOR} log a\\ fl\t"), f"{MONITOR} log a fleet.json")
-            self.assertEqual(shell.completed(f"{MONITOR} list --virtual=buil\t"), f"{MONITOR} list --virtual=built-in")
+            self.assertEqual(shell.completed(f"{MONITOR} list --virtual=built\t"), f"{MONITOR} list --virtual=built-in")
             self.assertEqual(shell.completed(f"{MONITOR} status --virtual 'a fleet.json' It\t"),
                              f"{MONITOR} status --virtual a fleet.json It's")
             self.assertEqual(shell.completed(f"{MONITOR} status --virtual 'a fleet.json' '$\t"),
@@ -418,6 +419,33 @@ class Fish(Completion, Pages):
 
 
 class Json(Pages):
+    @staticmethod
+    def without_texts(value):
+        """What programs use."""
+        if isinstance(value, dict):
+            return {name: Json.without_texts(each) for name, each in value.items()
+                    if name not in ("summary", "details", "notes", "exitStatus")}
+        return [Json.without_texts(each) for each in value] if isinstance(value, list) else value
+
+    def test_names_are_the_same_in_every_language(self):
+        for tool, path in TOOLS.items():
+            described = {}
+            for language in ("en", "de_DE", "ja_JP"):
+                status, output, _ = run(path, "--help-json", env=environment(LC_ALL=f"{language}.UTF-8",
+                                                                             LANGUAGE=language))
+                self.assertEqual(status, 0)
+                described[language] = json.loads(output)
+            self.assertNotEqual(described["en"]["summary"], described["de_DE"]["summary"])
+            self.assertNotEqual(described["de_DE"]["summary"], described["ja_JP"]["summary"])
+            self.assertEqual(self.without_texts(described["en"]), self.without_texts(described["de_DE"]), tool)
+            self.assertEqual(self.without_texts(described["en"]), self.without_texts(described["ja_JP"]), tool)
+
+    def test_pages_are_english_whatever_the_language(self):
+        other = pathlib.Path(self.scratch.name, "other language")
+        self.make(TOOLS[MONITOR], other, LC_ALL="de_DE.UTF-8", LANGUAGE="de")
+        self.assertEqual((other / f"man1/{MONITOR}.1").read_text(encoding="utf-8"),
+                         (self.folder / f"man1/{MONITOR}.1").read_text(encoding="utf-8"))
+
     def test_refuses_a_tool_that_says_no_json(self):
         status, _, errors = run(sys.executable, "-B", SOURCES / "scripts/lib/make_help_pages.py", "/bin/echo",
                                 self.scratch.name)

@@ -29,6 +29,13 @@ std::pair<QString, QString> partsOf(const QString& spelling)
 
 } // namespace
 
+void ToolHelp::addValues(std::span<const Placeholder> placeholders)
+{
+    for (const Placeholder& placeholder : placeholders)
+        values.append({QString::fromLatin1(placeholder.name), placeholder.kind,
+                       QString::fromLatin1(placeholder.choices).split(u' ', Qt::SkipEmptyParts)});
+}
+
 std::optional<QString> ToolHelp::answer(const QStringList& words, bool wantsHelp,
                                         bool wantsVersion) const
 {

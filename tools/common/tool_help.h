@@ -9,6 +9,7 @@
 #include <QtCore/QStringList>
 
 #include <optional>
+#include <span>
 
 /// The help of a tool, and how people ask for it: `-h`, `--help`, `help`, `help COMMAND`,
 /// `COMMAND --help` and `--version`. All texts are translated already.
@@ -35,6 +36,13 @@ public:
         Kind kind = Kind::Word;
         QStringList choices; ///< also words that stand for something beside files
     };
+    /// The same as a row of a table.
+    struct Placeholder
+    {
+        const char* name;
+        Kind kind;
+        const char* choices = ""; ///< separated by spaces
+    };
     struct Option
     {
         QString spelling; ///< "--language TAG"
@@ -55,6 +63,8 @@ public:
     QList<Option> options;
     QStringList notes;   ///< paragraphs below the list of options
     QList<Value> values; ///< of each placeholder in an option or in a command's arguments
+
+    void addValues(std::span<const Placeholder> placeholders);
 
     /// What to print in place of running a command: the help for the whole tool or for a command,
     /// or the version. Nothing if the user did not ask for it. `words` are the arguments without

@@ -33,9 +33,19 @@ constexpr const char* languageSpelling = "--language TAG";
 constexpr const char* jsonSpelling = "--json";
 constexpr const char* forceSpelling = "--force";
 
-/// What a shell offers as a language. Further forms of the same tags are accepted too.
-constexpr std::array languageTags{"de", "en", "es", "fr", "it",      "ja",
-                                  "ko", "nl", "pl", "pt", "zh-Hans", "zh-Hant"};
+using Kind = ToolHelp::Kind;
+using Placeholder = ToolHelp::Placeholder;
+
+/// What the placeholders of options and of commands' arguments stand for. As a language, further
+/// forms of the same tags are accepted too.
+constexpr std::array placeholders{
+    Placeholder{"DIRECTORY", Kind::Folder},
+    Placeholder{"FILE", Kind::File},
+    Placeholder{"PATH", Kind::File},
+    Placeholder{"SKU", Kind::Word},
+    Placeholder{"IDENTIFIER", Kind::Word},
+    Placeholder{"TAG", Kind::Choice, "de en es fr it ja ko nl pl pt zh-Hans zh-Hant"},
+};
 
 QString counted(const DatabaseCounts& counts)
 {
@@ -198,16 +208,7 @@ ToolHelp toolHelp()
                                   "English")},
                     {QString::fromLatin1(jsonSpelling), ToolText::tr("print JSON")},
                     {QString::fromLatin1(forceSpelling), ToolText::tr("replace existing files")}};
-    using Kind = ToolHelp::Kind;
-    QStringList tags;
-    for (const char* tag : languageTags)
-        tags.append(QString::fromLatin1(tag));
-    help.values = {{QStringLiteral("DIRECTORY"), Kind::Folder, {}},
-                   {QStringLiteral("FILE"), Kind::File, {}},
-                   {QStringLiteral("PATH"), Kind::File, {}},
-                   {QStringLiteral("SKU"), Kind::Word, {}},
-                   {QStringLiteral("IDENTIFIER"), Kind::Word, {}},
-                   {QStringLiteral("TAG"), Kind::Choice, tags}};
+    help.addValues(placeholders);
     return help;
 }
 

@@ -7,6 +7,8 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <array>
+
 namespace {
 
 ToolHelp toolHelp()
@@ -57,17 +59,15 @@ ToolHelp toolHelp()
     };
     help.notes = {service};
     using Kind = ToolHelp::Kind;
-    help.values = {
-        {QStringLiteral("SERVICE"),
-         Kind::Choice,
-         {QStringLiteral("supplyd"), QStringLiteral("m4"), QStringLiteral("printqd"),
-          QStringLiteral("status")}},
-        {QStringLiteral("METHOD"), Kind::Word, {}},
-        {QStringLiteral("ARGUMENT"), Kind::Word, {}},
-        {QStringLiteral("SIGNAL"), Kind::Word, {}},
-        {QStringLiteral("SECONDS"), Kind::Number, {}},
-        {QStringLiteral("MS"), Kind::Number, {}},
+    constexpr std::array placeholders{
+        ToolHelp::Placeholder{"SERVICE", Kind::Choice, "supplyd m4 printqd status"},
+        ToolHelp::Placeholder{"METHOD", Kind::Word},
+        ToolHelp::Placeholder{"ARGUMENT", Kind::Word},
+        ToolHelp::Placeholder{"SIGNAL", Kind::Word},
+        ToolHelp::Placeholder{"SECONDS", Kind::Number},
+        ToolHelp::Placeholder{"MS", Kind::Number},
     };
+    help.addValues(placeholders);
     return help;
 }
 

@@ -11,8 +11,8 @@ struct CommandLine;
 /// The catalogue of supplies and ribbons.
 namespace catalogue_file {
 
-/// The file that the command line or the environment variable VX_ROLL_DB names; empty when the default
-/// is meant.
+/// The file that the command line or the environment variable VX_ROLL_DB names; empty when the
+/// default is meant.
 QString named(const CommandLine& line);
 
 /// The same, but `defaultCatalogue()` where that is meant.

@@ -150,24 +150,18 @@ constexpr std::array options{
     catalogueOption,    libraryLogOption, helpOption,     helpJsonOption,  versionOption};
 
 using Kind = ToolHelp::Kind;
+using Placeholder = ToolHelp::Placeholder;
 
-/// What a placeholder of an option or of a command's arguments stands for.
-struct Placeholder
-{
-    const char* name;
-    Kind kind;
-    std::array<const char*, 4> choices{};
-};
-
+/// What the placeholders of options and of commands' arguments stand for.
 constexpr std::array placeholders{
-    Placeholder{"ACTION", Kind::Choice, {"show", "explain", "redact", "verify"}},
+    Placeholder{"ACTION", Kind::Choice, "show explain redact verify"},
     Placeholder{"CODE", Kind::Number},
     Placeholder{"COMMAND", Kind::Word},
     Placeholder{"FACTOR", Kind::Number},
     Placeholder{"FILE", Kind::File},
-    Placeholder{"--virtual FILE", Kind::File, {"built-in"}},
+    Placeholder{"--virtual FILE", Kind::File, "built-in"},
     Placeholder{"LABELS", Kind::Number},
-    Placeholder{"LEVEL", Kind::Choice, {"ok", "information", "warning", "error"}},
+    Placeholder{"LEVEL", Kind::Choice, "ok information warning error"},
     Placeholder{"NAME", Kind::Printer},
     Placeholder{"PRINTER", Kind::Printer},
     Placeholder{"RIBBON", Kind::Word},
@@ -268,14 +262,7 @@ QString helpAsJson()
              command.details ? QStringList{ToolText::tr(command.details)} : QStringList(),
              accepted});
     }
-    for (const Placeholder& placeholder : placeholders) {
-        QStringList choices;
-        for (const char* choice : placeholder.choices) {
-            if (choice)
-                choices.append(QString::fromLatin1(choice));
-        }
-        result.values.append({QString::fromLatin1(placeholder.name), placeholder.kind, choices});
-    }
+    result.addValues(placeholders);
     return result.json();
 }
 

@@ -51,23 +51,17 @@ constexpr std::array options{
 };
 
 using Kind = ToolHelp::Kind;
+using Placeholder = ToolHelp::Placeholder;
 
-/// What a placeholder stands for.
-struct Placeholder
-{
-    const char* name;
-    Kind kind;
-    std::array<const char*, 7> choices{};
-};
-
+/// What the placeholders stand for.
 constexpr std::array placeholders{
     Placeholder{"FACTOR", Kind::Number},
     Placeholder{"FILE", Kind::File},
-    Placeholder{"--virtual FILE", Kind::File, {"built-in"}},
+    Placeholder{"--virtual FILE", Kind::File, "built-in"},
     Placeholder{"FILE.png", Kind::File},
-    Placeholder{"SCHEME", Kind::Choice, {"light", "dark", "system"}},
+    Placeholder{"SCHEME", Kind::Choice, "light dark system"},
     Placeholder{"SECONDS", Kind::Number},
-    Placeholder{"TAG", Kind::Choice, {"en", "de", "es", "fr", "it", "ja", "zh_CN"}},
+    Placeholder{"TAG", Kind::Choice, "en de es fr it ja zh_CN"},
     Placeholder{"URL", Kind::Word},
     Placeholder{"WIDTHxHEIGHT", Kind::Word},
 };
@@ -88,14 +82,7 @@ ToolHelp toolHelp()
             spelling += QLatin1Char(' ') + QLatin1String(option.value);
         help.options.append({spelling, ToolText::tr(option.summary)});
     }
-    for (const Placeholder& placeholder : placeholders) {
-        QStringList choices;
-        for (const char* choice : placeholder.choices) {
-            if (choice)
-                choices.append(QString::fromLatin1(choice));
-        }
-        help.values.append({QString::fromLatin1(placeholder.name), placeholder.kind, choices});
-    }
+    help.addValues(placeholders);
     return help;
 }
 

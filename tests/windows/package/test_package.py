@@ -6,6 +6,7 @@ Usage: test_package.py monitor ZIP ADD_PRINTER
        test_package.py window ZIP ADD_PRINTER [PICTURE]
        test_package.py consumer ZIP SOURCE_FOLDER CMAKE_OPTION...
        test_package.py site ZIP
+       test_package.py bill ZIP
 
 monitor:  in a new Wine prefix, with printers that ADD_PRINTER adds to Wine's spooler, the monitor
           lists and watches them and loads no DLL but the package's and Wine's own. The catalogue is
@@ -15,10 +16,12 @@ window:   the same for the window, which shows printers on the display
 consumer: the project of SOURCE_FOLDER finds the package's CMake package, compiles, links and starts.
 site:     the page, the configurations and the guides are there, the agent accepts its examples, and the
           licences of everything that others have written are there.
+bill:     the bill of materials names every file of the package with its checksum, and what it is linked with.
 """
 import collections
 import contextlib
 import fnmatch
+import hashlib
 import json
 import os
 import pathlib
@@ -289,9 +292,31 @@ def test_site(scratch, archive):
             check(output == f"{windows_path(example)} is a valid configuration\n", output)
 
 
+def test_bill(scratch, archive):
+    package = unpack(archive, scratch / "unpacked")
+    bill = package / "share/doc/VxPrinterStatus/VxPrinterStatus.spdx.json"
+    document = json.loads(bill.read_text(encoding="utf-8"))
+    sums = {"./" + path.relative_to(package).as_posix(): hashlib.sha256(path.read_bytes()).hexdigest()
+            for path in package.rglob("*") if path.is_file() and path != bill}
+    listed = {entry["fileName"]: entry["checksums"][1]["checksumValue"] for entry in document["files"]}
+    check(listed == sums, f"files are missing, added or changed: {sorted(listed.items() ^ sums.items())}")
+    packages = {entry["SPDXID"]: entry for entry in document["packages"]}
+    relations = {(packages[each["spdxElementId"]]["name"], each["relationshipType"],
+                  packages[each["relatedSpdxElement"]]["name"]) for each in document["relationships"]
+                 if {each["spdxElementId"], each["relatedSpdxElement"]} <= packages.keys()}
+    for relation in (("VxPrinterStatus-win64", "DYNAMIC_LINK", "Qt"), ("VxPrinterStatus-win64", "CONTAINS", "Qt"),
+                     ("VxPrinterStatus-win64", "DYNAMIC_LINK", "mosquitto"), ("mosquitto", "STATIC_LINK", "OpenSSL"),
+                     ("Qt", "STATIC_LINK", "SQLite"), ("Qt", "DYNAMIC_LINK", "GCC run-time libraries"),
+                     ("VxPrinterStatus-win64", "CONTAINS", "winpthreads"), ("VxPrinterStatus-win64", "CONTAINS", "mqtt")):
+        check(relation in relations, f"the bill of materials does not say {' '.join(relation)}")
+    for name in ("Qt", "mosquitto", "OpenSSL", "SQLite", "GCC run-time libraries", "winpthreads"):
+        entry = next(entry for entry in packages.values() if entry["name"] == name)
+        check(re.match(r"\d+\.\d", entry.get("versionInfo", "")), f"the bill of materials has no version of {name}")
+
+
 def main():
     tests = {"monitor": (test_monitor, 2, 2), "window": (test_window, 2, 3), "consumer": (test_consumer, 2, 99),
-             "site": (test_site, 1, 1)}
+             "site": (test_site, 1, 1), "bill": (test_bill, 1, 1)}
     test, least, most = tests.get(sys.argv[1] if len(sys.argv) > 1 else "", (None, 0, 0))
     if not test or not least <= len(sys.argv) - 2 <= most:
         sys.exit(__doc__.strip())
