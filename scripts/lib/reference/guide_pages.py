@@ -20,10 +20,11 @@ from markdown_pages import NOT_OURS, Page, files_of_tree, parser  # noqa: E402
 
 # The guides by reader. A guide that is named nowhere is one for those who work on the product.
 GROUPS = [
-    ("First steps", ["README.md", "CHANGELOG.md"]),
+    ("First steps", ["README.md", "docs/packages.md", "docs/windows-installer.md", "CHANGELOG.md"]),
     ("For applications", ["docs/host-guide.md", "docs/readings.md", "docs/preflight.md", "docs/forecast.md",
                           "docs/history.md", "docs/event-log.md", "docs/status-codes.md", "docs/ipc.md",
-                          "docs/c-interface.md", "docs/supply-database.md", "docs/compatibility.md"]),
+                          "docs/c-interface.md", "bindings/python/README.md", "docs/supply-database.md",
+                          "docs/compatibility.md"]),
     ("For people who support printers", ["docs/support.md", "docs/vxprintmon.md", "docs/vxprintview.md",
                                          "docs/case-files.md", "docs/virtual-printers.md"]),
     ("For sites with many computers", ["docs/fleet.md", "docs/agent-on-windows.md", "docs/fleet-scale.md"]),
