@@ -4,7 +4,7 @@
 # The installer for Windows. docs/windows-installer.md says what it does; scripts/lib/make-installer calls makensis with:
 #   VERSION       such as 1.0.0
 #   GENERATED     the folder with files.nsh and the lists of files, by scripts/lib/installer_files.py
-#   LICENSE_FILE, ICON, CONFIGURATION  files
+#   LICENSE_FILE, ICON, SIDE, CONFIGURATION  files
 #   OUTPUT        the installer to make
 #   COMPRESSOR    zlib or lzma
 
@@ -73,7 +73,7 @@ Var RefusedWhere
 !define MUI_UNICON "${ICON}"
 !define MUI_ABORTWARNING
 !define MUI_CUSTOMFUNCTION_GUIINIT RefuseIfNecessary
-!define MUI_COMPONENTSPAGE_SMALLDESC
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDE}"
 !insertmacro MUI_PAGE_WELCOME
 !insertmacro MUI_PAGE_LICENSE "${LICENSE_FILE}"
 !insertmacro MUI_PAGE_COMPONENTS
