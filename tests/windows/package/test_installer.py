@@ -76,6 +76,9 @@ class Installer(unittest.TestCase):
                                 WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d", HOME=str(self.scratch))
         self.addCleanup(self.end_wine)
         self.quietly("wine", "wineboot", "-i")
+        self.quietly("wineserver", "-w")
+        # It stays up; otherwise each program would start Wine's services again, which makes services hard to start.
+        self.quietly("wineserver", "-p")
         self.wine("reg", "add", "HKCU\\Software\\Wine", "/v", "Version", "/d", "win10", "/f")
         # The first program that asks for them makes some keys and folders.
         self.wine("cmd", "/c", "exit")
@@ -138,6 +141,7 @@ class Installer(unittest.TestCase):
     def registry(self):
         """The values of the whole registry by key, as Wine writes them down at its end."""
         self.end_wine()
+        self.quietly("wineserver", "-p")
         found = {}
         for file in ("system.reg", "user.reg", "userdef.reg"):
             key = None
@@ -233,7 +237,6 @@ class Service(Installer):
 
         self.uninstall()
         self.assertIsNone(self.service_state())
-        (self.path(FOLDER) / "uninstall.exe").unlink(missing_ok=True)
         self.assert_same(before, self.state())
 
     def configure(self):
@@ -247,7 +250,7 @@ class Service(Installer):
     def start_spooler(self):
         # Wine starts no service for others while it starts its own.
         until(lambda: re.search("success|already", self.wine("net", "start", "Spooler", expected=None)),
-              lambda: "Wine does not start its print spooler")
+              lambda: "Wine does not start its print spooler: " + self.wine("net", "start", "Spooler", expected=None))
 
     def test_upgrade_stops_and_starts_the_service_and_keeps_its_configuration(self):
         folder = "C:\\Etiketten Süd 札幌\\Vx Printer"
@@ -276,7 +279,7 @@ class Service(Installer):
         self.assertIsNone(self.service_state())
         self.assertEqual(self.installed(folder), assigned("library", "tools") | OWN_FILES)
         self.uninstall(folder)
-        self.assertEqual(self.installed(folder), {"uninstall.exe"})
+        self.assertFalse(self.path(folder).exists())
         self.assertEqual(config.read_bytes(), written)
 
     @contextlib.contextmanager
@@ -329,8 +332,7 @@ class Upgrade(Installer):
                                                   "\\vxprintmon.exe"))
 
         self.uninstall()
-        (self.path(FOLDER) / "uninstall.exe").unlink(missing_ok=True)
-        self.assertEqual(self.files(FOLDER).keys(), people | {"bin", "share", "share/VxPrinterStatus"})
+        self.assertEqual(set(self.files(FOLDER)), people | {"bin", "share", "share/VxPrinterStatus"})
         self.assertTrue(settings.exists())
         self.assertIsNone(self.value("DisplayName"))
 
