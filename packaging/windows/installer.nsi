@@ -4,7 +4,7 @@
 # The installer for Windows. docs/windows-installer.md says what it does; scripts/lib/make-installer calls makensis with:
 #   VERSION       such as 1.0.0
 #   GENERATED     the folder with files.nsh and the lists of files, by scripts/lib/installer_files.py
-#   LICENSE_FILE, ICON, CONFIGURATION  files
+#   LICENSE_FILE, ICON, SIDE, CONFIGURATION  files
 #   OUTPUT        the installer to make
 #   COMPRESSOR    zlib or lzma
 
@@ -65,11 +65,15 @@ Var NotRemoved
 Var InstalledVersion
 Var Chosen
 Var Configuration
+Var Refused
+Var RefusedWhat
+Var RefusedWhere
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
 !define MUI_ABORTWARNING
-!define MUI_COMPONENTSPAGE_SMALLDESC
+!define MUI_CUSTOMFUNCTION_GUIINIT RefuseIfNecessary
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDE}"
 !insertmacro MUI_PAGE_WELCOME
 !insertmacro MUI_PAGE_LICENSE "${LICENSE_FILE}"
 !insertmacro MUI_PAGE_COMPONENTS
@@ -202,6 +206,9 @@ FunctionEnd
 
 # Everything that can refuse an upgrade, and what must happen before files are replaced.
 Function Prepare
+    ${If} ${Silent}
+        Call RefuseIfNecessary
+    ${EndIf}
     # The new lists, which include files that are there for another reason, and those of the installed version.
     InitPluginsDir
     SetOutPath "$PLUGINSDIR\new"
@@ -245,19 +252,47 @@ Function Prepare
     Call RemoveEntries
 FunctionEnd
 
+# Remembers why to refuse: $0 is what, $1 where.
+!macro RefuseLater REASON
+    StrCpy $Refused ${REASON}
+    StrCpy $RefusedWhat $0
+    StrCpy $RefusedWhere $1
+!macroend
+
+# The texts get the language that .onInit chooses only after it, so what is refused here is said in RefuseIfNecessary,
+# which is called before the first page or, when silent, before anything is installed.
 Function .onInit
     SetRegView 64
     SetShellVarContext all
     Call ReadOptions
-    !insertmacro RequireAdministrator ""
-    ${IfNot} ${AtLeastWin10}
-        !insertmacro Refuse "" ${EXIT_OLD_WINDOWS} "$(OldWindows)"
+    ${If} $Refused == ""
+        Call LookAtInstalled
     ${EndIf}
-    Call LookAtInstalled
     ${If} $Chosen != ""
         StrCpy $Chosen "library,$Chosen"
         !insertmacro ForEachComponent SelectIfChosen
     ${EndIf}
+FunctionEnd
+
+Function RefuseIfNecessary
+    !insertmacro RequireAdministrator ""
+    ${IfNot} ${AtLeastWin10}
+        !insertmacro Refuse "" ${EXIT_OLD_WINDOWS} "$(OldWindows)"
+    ${EndIf}
+    StrCpy $0 $RefusedWhat
+    StrCpy $1 $RefusedWhere
+    ${Select} $Refused
+    ${Case} "option"
+        !insertmacro Refuse "" ${EXIT_WRONG_OPTION} "$(WrongOption)"
+    ${Case} "language"
+        !insertmacro Refuse "" ${EXIT_WRONG_OPTION} "$(UnknownLanguage)"
+    ${Case} "component"
+        !insertmacro Refuse "" ${EXIT_WRONG_OPTION} "$(UnknownComponent)"
+    ${Case} "newer"
+        !insertmacro Refuse "" ${EXIT_NEWER_INSTALLED} "$(NewerInstalled)"
+    ${Case} "folder"
+        !insertmacro Refuse "" ${EXIT_OTHER_FOLDER} "$(OtherFolder)"
+    ${EndSelect}
 FunctionEnd
 
 # Everything on the command line has to be known: a misspelt option would install something else than was wanted.
@@ -265,9 +300,9 @@ FunctionEnd
 Function ReadOptions
     StrCpy $Chosen ""
     StrCpy $Kept "" # whether an older version may replace a newer one
-    StrCpy $Message ""
+    StrCpy $Refused ""
     ${GetParameters} $R0
-    ${Do}
+    ${DoWhile} $Refused == ""
         StrCpy $0 $R0 1
         ${If} $0 == ""
             ${Break}
@@ -292,7 +327,8 @@ Function ReadOptions
             StrCpy $0 $0 "" 12
             Call CheckComponents
         ${Else}
-            !insertmacro Refuse "" ${EXIT_WRONG_OPTION} "$(WrongOption)"
+            !insertmacro RefuseLater option
+            Return
         ${EndIf}
     ${Loop}
 FunctionEnd
@@ -313,7 +349,8 @@ Function ChooseLanguage
     ${ElseIf} $0 == "zh_CN"
         StrCpy $LANGUAGE ${LANG_SIMPCHINESE}
     ${Else}
-        !insertmacro Refuse "" ${EXIT_WRONG_OPTION} "$(UnknownLanguage)"
+        !insertmacro RefuseLater language
+        Return
     ${EndIf}
 FunctionEnd
 
@@ -331,12 +368,14 @@ Function CheckComponents
         ClearErrors
         ${WordFind} ",library,tools,window,agent,documentation," "," "E/$0" $2
         ${If} ${Errors}
-            !insertmacro Refuse "" ${EXIT_WRONG_OPTION} "$(UnknownComponent)"
+            !insertmacro RefuseLater component
+            Return
         ${EndIf}
     ${Loop}
     ${If} $1 = 1
         StrCpy $0 $Chosen
-        !insertmacro Refuse "" ${EXIT_WRONG_OPTION} "$(UnknownComponent)"
+        !insertmacro RefuseLater component
+        Return
     ${EndIf}
 FunctionEnd
 
@@ -351,11 +390,13 @@ Function LookAtInstalled
         ${VersionCompare} "$0" "${VERSION}" $2
         ${If} $2 = 1
         ${AndIf} $Kept == ""
-            !insertmacro Refuse "" ${EXIT_NEWER_INSTALLED} "$(NewerInstalled)"
+            !insertmacro RefuseLater newer
+            Return
         ${EndIf}
         ${If} $INSTDIR != ""
         ${AndIf} $INSTDIR != $1
-            !insertmacro Refuse "" ${EXIT_OTHER_FOLDER} "$(OtherFolder)"
+            !insertmacro RefuseLater folder
+            Return
         ${EndIf}
         StrCpy $INSTDIR $1
         ${If} $Chosen == ""

@@ -63,12 +63,12 @@ FunctionEnd
 # The example is removed if nobody has changed it.
 Function un.RemoveConfiguration
     StrCpy $Configuration "$APPDATA\VxPrinterStatus\agent.json"
-    ClearErrors
-    FileOpen $1 "$INSTDIR\uninstall\agent.json" r
-    FileOpen $2 "$Configuration" r
-    ${If} ${Errors}
+    ${IfNot} ${FileExists} "$Configuration"
+    ${OrIfNot} ${FileExists} "$INSTDIR\uninstall\agent.json"
         Return
     ${EndIf}
+    FileOpen $1 "$INSTDIR\uninstall\agent.json" r
+    FileOpen $2 "$Configuration" r
     ${Do}
         ClearErrors
         FileReadByte $1 $3
