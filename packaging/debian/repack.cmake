@@ -51,10 +51,14 @@ foreach(package IN LISTS CPACK_PACKAGE_FILES)
     endforeach()
     string(REGEX REPLACE "Installed-Size: [0-9]+" "Installed-Size: ${installed_size}" control "${control}")
     file(WRITE "${folder}/DEBIAN/control" "${control}")
-    # The debug information is large, and xz would take minutes for it.
     set(compression -Zxz)
     if(package MATCHES "ddeb$")
+        # It is large, and xz would take minutes for it.
         set(compression -Zzstd)
+        # CPack lists the files of these packages with the folder that it made them in.
+        file(READ "${folder}/DEBIAN/md5sums" sums)
+        string(REGEX REPLACE "  /[^\n]*-dbgsym/usr/" "  usr/" sums "${sums}")
+        file(WRITE "${folder}/DEBIAN/md5sums" "${sums}")
     endif()
     execute_process(
         COMMAND "${dpkg_deb}" --root-owner-group --uniform-compression --threads-max=1 ${compression}
