@@ -16,6 +16,21 @@ bool isOfWord(QChar character)
 
 void Redaction::add(const QString& name, const QString& replacement)
 {
+    addSpelling(name, replacement);
+    // As programs write it whose code page lacks some of its letters, or is taken for UTF-8.
+    for (const QChar substitute : {QChar(u'?'), QChar(QChar::ReplacementCharacter)}) {
+        QString spelling = name;
+        for (QChar& letter : spelling) {
+            if (letter.unicode() > 0x7f)
+                letter = substitute;
+        }
+        if (spelling != name)
+            addSpelling(spelling, replacement);
+    }
+}
+
+void Redaction::addSpelling(const QString& name, const QString& replacement)
+{
     const QString text = name.trimmed();
     const auto isSame = [&](const Name& other) {
         return other.text.compare(text, Qt::CaseInsensitive) == 0;

@@ -21,6 +21,8 @@ public:
     QStringList replacements() const;
 
 private:
+    void addSpelling(const QString& name, const QString& replacement);
+
     struct Name
     {
         QString text;

@@ -35,6 +35,7 @@ void TestKitTest::namesAreReplaced_data()
     row("other letters beside it", "Annä", "Annä");
     row("at the end", "by ann", "by <user>");
     row("sign at its end", "at Büro (2)!", "at <printer 1>!");
+    row("without its letters", "at B?ro (2), B\uFFFDro (2)", "at <printer 1>, <printer 1>");
     row("in upper case", "AT BÜRO (2)", "AT <printer 1>");
 }
 
