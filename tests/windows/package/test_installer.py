@@ -36,7 +36,7 @@ from test_package import PRINTERS, foreign_dlls  # noqa: E402
 
 # What Wine itself writes while programs run: where an uninstaller has itself deleted at the next start, what
 # programs keep for a while, its print spooler, and the devices that it finds.
-VOLATILE_FILES = re.compile(r"^(users/[^/]+/AppData/Local/Temp|windows/temp|windows/wininit\.ini)(/|$)", re.IGNORECASE)
+VOLATILE_FILES = re.compile(r"^(users/[^/]+/(AppData/Local/)?Temp|windows/temp|windows/wininit\.ini)(/|$)", re.IGNORECASE)
 VOLATILE_KEYS = re.compile(r"\\Control\\(Session Manager$|Print\\|Class\\|DeviceClasses\\)"
                            r"|^System\\CurrentControlSet\\(Enum|Services\\wine[a-z]*$)|\\NetworkCards$", re.IGNORECASE)
 
