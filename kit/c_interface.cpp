@@ -16,7 +16,9 @@
 #include <array>
 #include <atomic>
 #include <cstring>
+#include <future>
 #include <limits>
+#include <optional>
 
 // The functions have the names of the C interface.
 // NOLINTBEGIN(readability-identifier-naming)
@@ -102,6 +104,15 @@ vxkit_result addReadings(const QList<PrinterReading>& printers, vxkit_readings**
     return VXKIT_OK;
 }
 
+/// Calls the function on a thread of its own, and waits for it. Qt keeps a record of each thread
+/// that makes use of its threads and texts, and releases it when the thread ends; the main thread
+/// of a host without Qt never ends for it.
+template <typename Function>
+auto onShortThread(const Function& function)
+{
+    return std::async(std::launch::async, function).get();
+}
+
 /// Calls the function with the language that the caller names, while the session runs.
 template <typename Function>
 vxkit_result withLanguage(const vxkit_session* handle, const char* language,
@@ -177,16 +188,20 @@ vxkit_result sendAndWait(Session& session, const char* printer, const Command& c
     CommandOptions options;
     options.toAnyPrinter = flags & VXKIT_SEND_TO_ANY_PRINTER;
     options.evenEmpty = flags & VXKIT_SEND_EVEN_EMPTY;
-    QFuture<CommandResult> future = VxKit::sendCommand(name, command, options);
-    future.waitForFinished();
-    if (future.resultCount() == 0)
+    const std::optional<CommandResult> sent = onShortThread([&]() -> std::optional<CommandResult> {
+        QFuture<CommandResult> future = VxKit::sendCommand(name, command, options);
+        future.waitForFinished();
+        if (future.resultCount() == 0)
+            return std::nullopt;
+        return future.result();
+    });
+    if (!sent)
         return fail(VXKIT_ERROR_NOT_RUNNING,
                     QStringLiteral("the host's application ended before the command was sent"));
-    const CommandResult sent = future.result();
     if (result)
-        *result = {result->size, static_cast<int32_t>(sent.failure), sent.errorCode, sent.jobId,
-                   sent.bytes};
-    return sent.isSent() ? VXKIT_OK : fail(VXKIT_ERROR_COMMAND, sent.errorText);
+        *result = {result->size, static_cast<int32_t>(sent->failure), sent->errorCode, sent->jobId,
+                   sent->bytes};
+    return sent->isSent() ? VXKIT_OK : fail(VXKIT_ERROR_COMMAND, sent->errorText);
 }
 
 struct ResultName
@@ -481,7 +496,9 @@ vxkit_result vxkit_status_text(vxkit_session* session, int32_t code, int32_t fie
 {
     return withLanguage(session, language, TextBuffer(buffer, size, needed),
                         [&](const QString& tag, QString& text) -> vxkit_result {
-                            return statusText(VxKit::statusInfo(code, tag), field, text);
+                            const StatusInfo info =
+                                onShortThread([&] { return VxKit::statusInfo(code, tag); });
+                            return statusText(info, field, text);
                         });
 }
 
@@ -490,7 +507,9 @@ vxkit_result vxkit_status_json(vxkit_session* session, int32_t code, const char*
 {
     return withLanguage(session, language, TextBuffer(buffer, size, needed),
                         [&](const QString& tag, QString& text) -> vxkit_result {
-                            const QJsonDocument document(VxKit::statusInfo(code, tag).toJson());
+                            const StatusInfo info =
+                                onShortThread([&] { return VxKit::statusInfo(code, tag); });
+                            const QJsonDocument document(info.toJson());
                             text = QString::fromUtf8(document.toJson(QJsonDocument::Compact));
                             return VXKIT_OK;
                         });
@@ -502,7 +521,8 @@ vxkit_result vxkit_all_status_json(vxkit_session* session, const char* language,
     return withLanguage(session, language, TextBuffer(buffer, size, needed),
                         [&](const QString& tag, QString& text) -> vxkit_result {
                             QJsonArray array;
-                            const QList<StatusInfo> infos = VxKit::allStatusInfo(tag);
+                            const QList<StatusInfo> infos =
+                                onShortThread([&] { return VxKit::allStatusInfo(tag); });
                             for (const StatusInfo& info : infos)
                                 array.append(info.toJson());
                             text = QString::fromUtf8(
