@@ -26,6 +26,8 @@ COMPONENTS = {
     "documentation": ["documentation", "web"],
 }
 THIRD_PARTY_LICENCES = "share/doc/VxPrinterStatus/third-party/"
+# It lists the files of all components.
+BILL_OF_MATERIALS = "share/doc/VxPrinterStatus/VxPrinterStatus.spdx.json"
 OBJDUMP = "x86_64-w64-mingw32-objdump"
 
 
@@ -77,6 +79,8 @@ def assign(build, staged):
         if place.parent == pathlib.PurePosixPath("bin"):
             users = [component for component, names in needs.items() if place.name.lower() in names]
             owners[path] = users[0] if len(users) == 1 else "library"
+        elif path == BILL_OF_MATERIALS:
+            owners[path] = "library"
         elif path.startswith(THIRD_PARTY_LICENCES) or path.startswith("bin/") and place.suffix == ".dll":
             owners[path] = "library"
         else:
