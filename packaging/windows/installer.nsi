@@ -39,6 +39,7 @@ ShowUninstDetails nevershow
 !define EXIT_OTHER_FOLDER 8
 !define EXIT_SERVICE 9
 !define EXIT_NOT_REMOVED 10
+!define EXIT_FOLDER 11
 
 Name "VxPrinterStatus ${VERSION}"
 OutFile "${OUTPUT}"
@@ -218,6 +219,7 @@ Function Prepare
         CopyFiles /SILENT "$INSTDIR\uninstall\*.ini" "$PLUGINSDIR\old"
     ${EndIf}
 
+    Call CheckFolder
     Call StopService
     ${If} $ServiceState != ""
     ${AndIf} $ServiceState <> 1
@@ -246,10 +248,63 @@ Function Prepare
     ${IfNot} ${SectionIsSelected} ${Agent}
         Call RemoveService
         ${If} $0 != ""
+            ${If} $WasRunning = 1
+                Push $0
+                Call StartService
+                Pop $0
+            ${EndIf}
             !insertmacro Refuse "" ${EXIT_SERVICE} "$(ServiceNotRemoved)"
         ${EndIf}
     ${EndIf}
     Call RemoveEntries
+FunctionEnd
+
+# Refuses a folder that cannot be written, or a drive that is too full, before anything is changed.
+Function CheckFolder
+    StrCpy $1 0
+    StrCpy $2 $Chosen
+    !insertmacro ForEachComponent AddToTotal
+    StrCpy $Chosen $2
+    ${If} $InstalledVersion != ""
+        # An upgrade replaces one file after the other.
+        ReadRegDWORD $0 HKLM "${UNINSTALL_KEY}" "EstimatedSize"
+        IntOp $1 $1 - $0
+    ${EndIf}
+    StrCpy $2 $INSTDIR
+    ${DoUntil} ${FileExists} "$2\*.*"
+        ${GetParent} $2 $2
+        ${If} $2 == ""
+            ${ExitDo}
+        ${EndIf}
+    ${Loop}
+    System::Call 'kernel32::GetDiskFreeSpaceExW(w "$2\", *l .r3, p 0, p 0) i .r4'
+    ${If} $4 <> 0
+        System::Int64Op $3 / 1024
+        Pop $3
+        ${If} $3 L< $1
+            StrCpy $0 $INSTDIR
+            IntOp $1 $1 / 1024
+            IntOp $1 $1 + 1
+            !insertmacro Refuse "" ${EXIT_FOLDER} "$(NoRoom)"
+        ${EndIf}
+    ${EndIf}
+
+    StrCpy $2 ""
+    ${IfNot} ${FileExists} "$INSTDIR\*.*"
+        StrCpy $2 $INSTDIR
+        CreateDirectory "$INSTDIR"
+    ${EndIf}
+    ClearErrors
+    FileOpen $1 "$INSTDIR\uninstall.new" w
+    ${If} ${Errors}
+        StrCpy $0 $INSTDIR
+        !insertmacro Refuse "" ${EXIT_FOLDER} "$(NotWritable)"
+    ${EndIf}
+    FileClose $1
+    Delete "$INSTDIR\uninstall.new"
+    ${If} $2 != ""
+        RMDir "$2"
+    ${EndIf}
 FunctionEnd
 
 # Remembers why to refuse: $0 is what, $1 where.

@@ -18,6 +18,8 @@
 !insertmacro Text NoAdministrator "Only an administrator can do this. Start the program again with $\"Run as administrator$\". Nothing was changed."
 !insertmacro Text NewerInstalled "The newer version $0 is installed in $1. Uninstall it first, or use the option /ALLOWDOWNGRADE. Nothing was changed."
 !insertmacro Text OtherFolder "VxPrinterStatus is installed in $1. Uninstall it first to install it elsewhere, or leave out the option /D. Nothing was changed."
+!insertmacro Text NoRoom "There is too little space for $0: $1 MB must be free there. Nothing was changed."
+!insertmacro Text NotWritable "Nothing can be written to $0. Check the rights of this folder, or choose another one. Nothing was changed."
 !insertmacro Text FileInUse "$0 is in use. End the programs that use it and try again. Nothing was changed."
 !insertmacro Text ServiceNotStopped "The service vxprintagent does not stop. End vxprintagent.exe in the task manager and try again. Nothing was changed."
 !insertmacro Text ServiceNotInstalled "Everything is installed, but the service vxprintagent could not be registered:$\r$\n$0"

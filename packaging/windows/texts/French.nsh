@@ -18,6 +18,8 @@
 !insertmacro Text NoAdministrator "Seul un administrateur peut faire cela. Lancez le programme avec « Exécuter en tant qu’administrateur ». Rien n’a été modifié."
 !insertmacro Text NewerInstalled "La version $0, plus récente, est installée dans $1. Désinstallez-la d’abord ou utilisez l’option /ALLOWDOWNGRADE. Rien n’a été modifié."
 !insertmacro Text OtherFolder "VxPrinterStatus est installé dans $1. Désinstallez-le d’abord pour l’installer ailleurs, ou omettez l’option /D. Rien n’a été modifié."
+!insertmacro Text NoRoom "Il n’y a pas assez de place dans $0 : $1 Mo libres sont nécessaires. Rien n’a été modifié."
+!insertmacro Text NotWritable "Impossible d’écrire dans $0. Vérifiez les droits de ce dossier ou choisissez-en un autre. Rien n’a été modifié."
 !insertmacro Text FileInUse "$0 est en cours d’utilisation. Fermez les programmes qui l’utilisent et réessayez. Rien n’a été modifié."
 !insertmacro Text ServiceNotStopped "Le service vxprintagent ne s’arrête pas. Mettez fin à vxprintagent.exe dans le Gestionnaire des tâches et réessayez. Rien n’a été modifié."
 !insertmacro Text ServiceNotInstalled "Tout est installé, mais le service vxprintagent n’a pas pu être enregistré :$\r$\n$0"

@@ -18,6 +18,8 @@
 !insertmacro Text NoAdministrator "Das kann nur ein Administrator. Starten Sie das Programm mit „Als Administrator ausführen“. Es wurde nichts geändert."
 !insertmacro Text NewerInstalled "Die neuere Version $0 ist in $1 installiert. Deinstallieren Sie diese zuerst oder verwenden Sie die Option /ALLOWDOWNGRADE. Es wurde nichts geändert."
 !insertmacro Text OtherFolder "VxPrinterStatus ist in $1 installiert. Deinstallieren Sie es zuerst, um es anderswo zu installieren, oder lassen Sie die Option /D weg. Es wurde nichts geändert."
+!insertmacro Text NoRoom "In $0 ist zu wenig Platz: $1 MB müssen dort frei sein. Es wurde nichts geändert."
+!insertmacro Text NotWritable "In $0 kann nichts geschrieben werden. Prüfen Sie die Rechte dieses Ordners, oder wählen Sie einen anderen. Es wurde nichts geändert."
 !insertmacro Text FileInUse "$0 wird gerade verwendet. Beenden Sie die Programme, die diese Datei verwenden, und versuchen Sie es erneut. Es wurde nichts geändert."
 !insertmacro Text ServiceNotStopped "Der Dienst vxprintagent lässt sich nicht beenden. Beenden Sie vxprintagent.exe im Task-Manager und versuchen Sie es erneut. Es wurde nichts geändert."
 !insertmacro Text ServiceNotInstalled "Alles ist installiert, aber der Dienst vxprintagent konnte nicht registriert werden:$\r$\n$0"

@@ -18,6 +18,8 @@
 !insertmacro Text NoAdministrator "Solo un amministratore può farlo. Avviare il programma con «Esegui come amministratore». Non è stato modificato nulla."
 !insertmacro Text NewerInstalled "La versione $0, più recente, è installata in $1. Disinstallarla prima oppure usare l’opzione /ALLOWDOWNGRADE. Non è stato modificato nulla."
 !insertmacro Text OtherFolder "VxPrinterStatus è installato in $1. Disinstallarlo prima per installarlo altrove oppure omettere l’opzione /D. Non è stato modificato nulla."
+!insertmacro Text NoRoom "Lo spazio in $0 non basta: servono $1 MB liberi. Non è stato modificato nulla."
+!insertmacro Text NotWritable "Impossibile scrivere in $0. Controllare i diritti della cartella o sceglierne un’altra. Non è stato modificato nulla."
 !insertmacro Text FileInUse "$0 è in uso. Chiudere i programmi che lo usano e riprovare. Non è stato modificato nulla."
 !insertmacro Text ServiceNotStopped "Il servizio vxprintagent non si arresta. Terminare vxprintagent.exe in Gestione attività e riprovare. Non è stato modificato nulla."
 !insertmacro Text ServiceNotInstalled "È stato installato tutto, ma non è stato possibile registrare il servizio vxprintagent:$\r$\n$0"

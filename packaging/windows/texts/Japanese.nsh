@@ -18,6 +18,8 @@
 !insertmacro Text NoAdministrator "この操作には管理者権限が必要です。「管理者として実行」でもう一度起動してください。何も変更されていません。"
 !insertmacro Text NewerInstalled "新しいバージョン $0 が $1 にインストールされています。先にアンインストールするか、オプション /ALLOWDOWNGRADE を使用してください。何も変更されていません。"
 !insertmacro Text OtherFolder "VxPrinterStatus は $1 にインストールされています。別の場所にインストールするには先にアンインストールするか、オプション /D を省略してください。何も変更されていません。"
+!insertmacro Text NoRoom "$0 の空き容量が足りません。$1 MB の空きが必要です。何も変更されていません。"
+!insertmacro Text NotWritable "$0 に書き込めません。このフォルダーのアクセス権を確認するか、別のフォルダーを選んでください。何も変更されていません。"
 !insertmacro Text FileInUse "$0 は使用中です。このファイルを使用しているプログラムを終了して、もう一度実行してください。何も変更されていません。"
 !insertmacro Text ServiceNotStopped "サービス vxprintagent が停止しません。タスク マネージャーで vxprintagent.exe を終了して、もう一度実行してください。何も変更されていません。"
 !insertmacro Text ServiceNotInstalled "すべてインストールされましたが、サービス vxprintagent を登録できませんでした:$\r$\n$0"

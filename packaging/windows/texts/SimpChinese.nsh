@@ -18,6 +18,8 @@
 !insertmacro Text NoAdministrator "此操作需要管理员权限。请选择“以管理员身份运行”重新启动程序。未进行任何更改。"
 !insertmacro Text NewerInstalled "$1 中已安装较新的版本 $0。请先将其卸载，或使用选项 /ALLOWDOWNGRADE。未进行任何更改。"
 !insertmacro Text OtherFolder "VxPrinterStatus 已安装在 $1 中。若要安装到其他位置，请先将其卸载，或去掉选项 /D。未进行任何更改。"
+!insertmacro Text NoRoom "$0 的可用空间不足，需要 $1 MB 的可用空间。未进行任何更改。"
+!insertmacro Text NotWritable "无法写入 $0。请检查该文件夹的权限，或选择其他文件夹。未进行任何更改。"
 !insertmacro Text FileInUse "$0 正在使用中。请关闭使用该文件的程序，然后重试。未进行任何更改。"
 !insertmacro Text ServiceNotStopped "服务 vxprintagent 无法停止。请在任务管理器中结束 vxprintagent.exe，然后重试。未进行任何更改。"
 !insertmacro Text ServiceNotInstalled "所有文件均已安装，但无法注册服务 vxprintagent：$\r$\n$0"

@@ -18,6 +18,8 @@
 !insertmacro Text NoAdministrator "Solo un administrador puede hacerlo. Inicie el programa con «Ejecutar como administrador». No se ha cambiado nada."
 !insertmacro Text NewerInstalled "La versión $0, más reciente, está instalada en $1. Desinstálela primero o use la opción /ALLOWDOWNGRADE. No se ha cambiado nada."
 !insertmacro Text OtherFolder "VxPrinterStatus está instalado en $1. Desinstálelo primero para instalarlo en otra carpeta u omita la opción /D. No se ha cambiado nada."
+!insertmacro Text NoRoom "No hay espacio suficiente en $0: se necesitan $1 MB libres. No se ha cambiado nada."
+!insertmacro Text NotWritable "No se puede escribir en $0. Compruebe los permisos de esa carpeta o elija otra. No se ha cambiado nada."
 !insertmacro Text FileInUse "$0 está en uso. Cierre los programas que lo usan e inténtelo de nuevo. No se ha cambiado nada."
 !insertmacro Text ServiceNotStopped "El servicio vxprintagent no se detiene. Finalice vxprintagent.exe en el Administrador de tareas e inténtelo de nuevo. No se ha cambiado nada."
 !insertmacro Text ServiceNotInstalled "Todo está instalado, pero no se ha podido registrar el servicio vxprintagent:$\r$\n$0"

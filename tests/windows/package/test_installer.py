@@ -30,7 +30,7 @@ FOLDER = "C:\\Program Files\\VxPrinterStatus"
 CONFIG = "C:\\ProgramData\\VxPrinterStatus\\agent.json"
 UNINSTALL = "HKLM\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\VxPrinterStatus"
 OWN_FILES = {"uninstall.exe", "uninstall/icon.ico", "uninstall/agent.json"}
-WRONG_OPTION, OLD_WINDOWS, NEWER_INSTALLED, IN_USE, OTHER_FOLDER, SERVICE = 3, 4, 6, 7, 8, 9
+WRONG_OPTION, OLD_WINDOWS, NEWER_INSTALLED, IN_USE, OTHER_FOLDER, SERVICE, NO_FOLDER = 3, 4, 6, 7, 8, 9, 11
 sys.path.append(str(pathlib.Path(__file__).parent))
 from test_package import PRINTERS, foreign_dlls  # noqa: E402
 
@@ -345,6 +345,10 @@ class Refused(Installer):
         self.assert_refused(WRONG_OPTION, r'/LANGUAGE: "xx" is not known', NEW, "/LANGUAGE=xx")
         self.assert_refused(WRONG_OPTION, r"Die Option /x .* unbekannt", NEW, "/LANGUAGE=de", "/x")
         self.assert_refused(WRONG_OPTION, r"/COMPONENTS：未知的组件“x”", NEW, "/LANGUAGE=zh_CN", "/COMPONENTS=x")
+
+    def test_drive_that_is_full(self):
+        # There is no space in /proc.
+        self.assert_refused(NO_FOLDER, r"too little space for Z:\\proc\\vx: [1-9]\d MB", NEW, "/D=Z:\\proc\\vx")
 
     def test_windows_that_is_too_old(self):
         self.wine("reg", "add", "HKCU\\Software\\Wine", "/v", "Version", "/d", "win7", "/f")
