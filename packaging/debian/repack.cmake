@@ -39,7 +39,7 @@ foreach(package IN LISTS CPACK_PACKAGE_FILES)
     endif()
     file(GLOB_RECURSE files LIST_DIRECTORIES true RELATIVE "${folder}" "${folder}/*")
     list(FILTER files EXCLUDE REGEX "^DEBIAN")
-    # In KiB, as Debian's policy counts: what is no file takes one.
+    # In KiB, as Debian's policy counts: anything but a file takes one.
     set(installed_size 0)
     foreach(file IN LISTS files)
         set(size 1)

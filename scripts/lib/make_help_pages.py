@@ -50,7 +50,7 @@ def help_of(tool):
     try:
         described = json.loads(done.stdout)
     except ValueError as error:
-        fail(f"{tool} --help-json: it is no JSON: {error}")
+        fail(f"{tool} --help-json: it is not JSON: {error}")
     if described.get("format") != FORMAT:
         fail(f"{tool} --help-json: its format is {described.get('format')}, expected {FORMAT}")
     check(described)

@@ -450,7 +450,7 @@ class Json(Pages):
         status, _, errors = run(sys.executable, "-B", SOURCES / "scripts/lib/make_help_pages.py", "/bin/echo",
                                 self.scratch.name)
         self.assertEqual((status, errors),
-                         (1, "make_help_pages: /bin/echo --help-json: it is no JSON: Expecting value: line 1 column 1 "
+                         (1, "make_help_pages: /bin/echo --help-json: it is not JSON: Expecting value: line 1 column 1 "
                              "(char 0)\n"))
 
     def test_wrong_usage(self):
