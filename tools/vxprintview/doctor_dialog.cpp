@@ -120,7 +120,9 @@ DoctorDialog::DoctorDialog(const QString& printer, const QString& catalogueFile,
             qOverload<const QList<Check>&>(&DoctorDialog::show));
     m_thread.reset(QThread::create(
         [this, printer, catalogueFile] { Q_EMIT checked(allChecks(printer, catalogueFile)); }));
-    m_thread->start();
+    // Later, so that whoever makes the dialog can connect to its signal first.
+    QMetaObject::invokeMethod(
+        this, [this] { m_thread->start(); }, Qt::QueuedConnection);
 }
 
 DoctorDialog::~DoctorDialog()
