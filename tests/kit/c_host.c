@@ -9,6 +9,10 @@
 //        c_host watch NAME                  waits until the printer has reported a status
 //        c_host locale                      looks at what a session changes in the process
 //        c_host forgetful                   ends without stopping its session
+
+// Names are those of C, as in vxkit.h.
+// NOLINTBEGIN(readability-identifier-naming)
+
 #include <vxkit.h>
 
 #include <locale.h>
@@ -56,7 +60,7 @@ static int check_result(vxkit_result result, vxkit_result expected, const char* 
 /* The test that runs this program ends it when it hangs. */
 static void rest(void)
 {
-    const struct timespec time = {0, 10 * 1000 * 1000};
+    const struct timespec time = {0, 10000000L};
     nanosleep(&time, NULL);
 }
 
@@ -719,3 +723,5 @@ int main(int argc, char* argv[])
     fprintf(stderr, "usage: c_host careless | forgetful | locale | list NAME | watch NAME\n");
     return 2;
 }
+
+// NOLINTEND(readability-identifier-naming)
