@@ -44,13 +44,17 @@ public:
         : topics(site, host)
         , client(optionsFor(port, topics.state()))
     {
+        QObject::connect(&client, &MqttClient::delivered, &client, [this] { ++m_delivered; });
         client.start();
     }
 
     void put(const QString& topic, const QByteArray& payload, bool isRetained = true)
     {
         client.publish({topic, payload, isRetained});
+        ++m_put;
     }
+    /// Whether the broker has everything, so that whoever subscribes now gets it.
+    bool isDelivered() const { return m_delivered == m_put; }
     void sayOnline() { put(topics.state(), "online"); }
     void put(const VxKit::PrinterReading& reading)
     {
@@ -63,6 +67,9 @@ public:
     MqttClient client;
 
 private:
+    int m_put = 0;
+    int m_delivered = 0;
+
     static MqttOptions optionsFor(quint16 port, const QString& stateTopic)
     {
         static int publishers = 0;

@@ -132,6 +132,7 @@ void SiteReadingsTest::showsWhatAgentsPublish()
     PrinterReading published = watchedReading(QStringLiteral("Packing"));
     published.setActive(true);
     agent.put(published);
+    QTRY_VERIFY(agent.isDelivered());
     SiteReadings site(options());
     QSignalSpy listed(&site, &SiteReadings::listed);
     QSignalSpy changed(&site, &SiteReadings::changed);
@@ -161,6 +162,7 @@ void SiteReadingsTest::onlyThatSite()
         agent->sayOnline();
         agent->put(watchedReading(QStringLiteral("Packing")));
     }
+    QTRY_VERIFY(here.isDelivered() && there.isDelivered());
     SiteReadings site(options());
     QSignalSpy listed(&site, &SiteReadings::listed);
     site.start();
@@ -268,6 +270,7 @@ void SiteReadingsTest::anAgentThatWasOfflineBeforeHasNoTime()
     QTRY_VERIFY(agent->client.isConnected());
     agent->put(agent->topics.state(), "offline");
     agent->put(watchedReading(QStringLiteral("Packing")));
+    QTRY_VERIFY(agent->isDelivered());
     SiteReadings site(options());
     site.start();
     QTRY_COMPARE(watchingOf(site, ofPacking), Watching::AgentOffline);
@@ -279,6 +282,7 @@ void SiteReadingsTest::anAgentWithoutStateIsOffline()
     Publisher agent(m_broker->port(), QStringLiteral("bremen"), QStringLiteral("h1"));
     QTRY_VERIFY(agent.client.isConnected());
     agent.put(watchedReading(QStringLiteral("Packing")));
+    QTRY_VERIFY(agent.isDelivered());
     SiteReadings site(options());
     QSignalSpy listed(&site, &SiteReadings::listed);
     site.start();
@@ -344,8 +348,9 @@ void SiteReadingsTest::aBrokerThatForgotGetsEverythingFromItsAgents()
     QTRY_VERIFY(agent.client.isConnected());
     agent.sayOnline();
     agent.put(watchedReading(QStringLiteral("Packing"), 4));
-    QTRY_COMPARE(watchingOf(site, ofPacking), Watching::Watched);
-    QCOMPARE(reading(site, ofPacking).statusCode(), 4);
+    // The state comes first: until the reading comes too, the old one is shown.
+    QTRY_COMPARE(reading(site, ofPacking).statusCode(), 4);
+    QCOMPARE(watchingOf(site, ofPacking), Watching::Watched);
     QCOMPARE(removed.size(), 0);
     QCOMPARE(site.state(), (SiteState{.isConnected = true}));
 }
@@ -371,7 +376,6 @@ void SiteReadingsTest::whatIsNotPublishedAgainIsForgotten()
 void SiteReadingsTest::whatWasRemovedMeanwhileDisappears()
 {
     Publisher agent(m_broker->port(), QStringLiteral("bremen"), QStringLiteral("h1"));
-    const QSignalSpy delivered(&agent.client, &MqttClient::delivered);
     GatedProxy proxy(m_broker->port());
     SiteReadingsOptions throughTheProxy = options();
     throughTheProxy.client.broker.port = proxy.port();
@@ -382,11 +386,11 @@ void SiteReadingsTest::whatWasRemovedMeanwhileDisappears()
     agent.put(watchedReading(QStringLiteral("Packing")));
     agent.put(watchedReading(QStringLiteral("Shipping")));
     QTRY_COMPARE(names(site).size(), 2);
-    QTRY_COMPARE(delivered.size(), 3);
+    QTRY_VERIFY(agent.isDelivered());
     proxy.close();
     QTRY_VERIFY(!site.state().isConnected);
     agent.remove(QStringLiteral("Shipping"));
-    QTRY_COMPARE(delivered.size(), 4);
+    QTRY_VERIFY(agent.isDelivered());
     QCOMPARE(names(site).size(), 2);
     proxy.open();
     QTRY_COMPARE(names(site), QStringList{ofPacking});
@@ -490,11 +494,14 @@ void SiteReadingsTest::manyUnreadableMessagesAreSaidOnce()
     site.start();
     QTRY_VERIFY(agent.client.isConnected() && site.state().isConnected);
     constexpr int messages = 1000;
+    QElapsedTimer since;
+    since.start();
     for (int i = 0; i < messages; ++i)
         agent.put(agent.topics.printer(QString::number(i)), "{");
     QTRY_COMPARE(site.state().unreadable, messages);
-    // One a minute.
-    QVERIFY2(warned.size() <= 2, qPrintable(QString::number(warned.size())));
+    // The first, and one a minute.
+    QVERIFY2(warned.size() <= 2 + since.elapsed() / 60000,
+             qPrintable(QString::number(warned.size())));
 }
 
 void SiteReadingsTest::printersBeyondTheLimitAreCountedAndSaidOnce()

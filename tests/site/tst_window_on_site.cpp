@@ -87,6 +87,7 @@ void WindowOnSiteTest::init()
     QTRY_VERIFY(m_agent->client.isConnected());
     m_agent->sayOnline();
     m_agent->put(watchedReading(QStringLiteral("Packing")));
+    QTRY_VERIFY(m_agent->isDelivered());
 }
 
 void WindowOnSiteTest::cleanup()
@@ -123,6 +124,7 @@ void WindowOnSiteTest::filtersByComputer()
     QTRY_VERIFY(other.client.isConnected());
     other.sayOnline();
     other.put(watchedReading(QStringLiteral("Packing")));
+    QTRY_VERIFY(other.isDelivered());
     WindowOnReadings window(QStringLiteral("en"));
     follow(window);
     QTRY_COMPARE(window->list().shownPrinters().size(), 2);
