@@ -41,18 +41,26 @@ def is_interface(kind, name):
     return False
 
 
-def exported_symbols(library):
-    """What the library exports, readable, one a line; sorted."""
-    listing = subprocess.run(["nm", "-D", "--defined-only", "--extern-only", "--demangle", library],
+def symbol_lines(library, *options):
+    """(kind, name) of everything that the library has for others, in nm's order."""
+    listing = subprocess.run(["nm", "-D", "--defined-only", "--extern-only", *options, library],
                              check=True, capture_output=True, encoding="utf-8").stdout
-    names = set()
     for line in listing.splitlines():
         _, kind, name = line.split(" ", 2)
         # With a version behind it where the library has a version script.
-        name = name.partition("@@")[0]
-        if is_interface(kind, name):
-            names.add(name)
-    return sorted(names)
+        yield kind, name.partition("@@")[0]
+
+
+def exported_symbols(library):
+    """What the library exports, readable, one a line; sorted."""
+    return sorted({name for kind, name in symbol_lines(library, "--demangle") if is_interface(kind, name)})
+
+
+def exported_identifiers(library):
+    """The same as the linker knows it."""
+    readable = symbol_lines(library, "--no-sort", "--demangle")
+    return {identifier for (kind, name), (_, identifier) in zip(readable, symbol_lines(library, "--no-sort"))
+            if is_interface(kind, name)}
 
 
 def symbol_differences(kept, found):
@@ -122,10 +130,26 @@ def drop_unused(root):
             scope.remove(declaration)
 
 
-def prune(file):
-    """Keeps what hosts depend on. abidw also writes down every type that the sources mention, two thirds of the file."""
+def drop_other_symbols(root, exported):
+    """Removes what is in the library only because each program that uses a template has a copy of it."""
+    def is_other(name):
+        return name is not None and name.partition("@")[0] not in exported
+
+    for parent in root.iter():
+        for element in list(parent):
+            symbol = element.get("name") if element.tag == "elf-symbol" else element.get("elf-symbol-id")
+            # As a member it is wrapped, and without its symbol it is dropped like an inline function.
+            if is_other(symbol) and parent.tag == "member-function":
+                del element.attrib["elf-symbol-id"]
+            elif is_other(symbol):
+                parent.remove(element)
+
+
+def prune(file, exported):
+    """Keeps what hosts depend on. abidw also writes down every type that the sources mention, most of the file."""
     tree = xml.etree.ElementTree.parse(file)
     root = tree.getroot()
+    drop_other_symbols(root, exported)
     drop_inline_functions(root)
     while drop_unused_member_types(root):
         pass
@@ -141,7 +165,7 @@ def write_abi(library, header_folders, output):
     subprocess.run(["abidw", *header_options(header_folders), "--drop-private-types", "--no-comp-dir-path",
                     "--no-show-locs", "--no-corpus-path", "--no-architecture", "--short-locs", "--type-id-style", "hash",
                     "--exported-interfaces-only", "--out-file", output, library], check=True)
-    prune(output)
+    prune(output, exported_identifiers(library))
 
 
 def abi_differences(kept, found):
