@@ -7,6 +7,7 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
+#include <QtCore/QMetaProperty>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
@@ -36,6 +37,24 @@ protected:
     static QStringList words(const char* text)
     {
         return QString::fromUtf8(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    }
+    static QByteArrayList keysOf(const QMetaObject& type)
+    {
+        QByteArrayList keys;
+        for (int i = 0; i < type.propertyCount(); ++i)
+            keys.append(type.property(i).name());
+        return keys;
+    }
+    /// Whether the text of a JSON object has these keys in this order.
+    static bool hasInOrder(const QByteArray& text, const QByteArrayList& keys)
+    {
+        qsizetype place = 0;
+        for (const QByteArray& key : keys) {
+            place = text.indexOf('"' + key + "\":", place);
+            if (place < 0)
+                return false;
+        }
+        return true;
     }
     QProcessEnvironment environment() const
     {

@@ -5,7 +5,6 @@
 #include "printer_status_controller.h"
 
 #include <QtCore/QMetaMethod>
-#include <QtCore/QMetaProperty>
 
 #include <array>
 #include <csignal>
@@ -30,26 +29,6 @@ struct Line
         return {};
     }
 };
-
-QByteArrayList keysOf(const QMetaObject& type)
-{
-    QByteArrayList keys;
-    for (int i = 0; i < type.propertyCount(); ++i)
-        keys.append(type.property(i).name());
-    return keys;
-}
-
-/// Whether the text of a JSON object has these keys in this order.
-bool hasInOrder(const QByteArray& text, const QByteArrayList& keys)
-{
-    qsizetype place = 0;
-    for (const QByteArray& key : keys) {
-        place = text.indexOf('"' + key + "\":", place);
-        if (place < 0)
-            return false;
-    }
-    return true;
-}
 
 const QString updated = QStringLiteral("availablePrintersUpdated");
 const QString inError = QStringLiteral("printerErrorChangedSignal");

@@ -4,29 +4,8 @@
 #include "monitor_test.h"
 #include "printer_status_information.h"
 
-#include <QtCore/QMetaProperty>
 
 namespace {
-
-QByteArrayList keysOf(const QMetaObject& type)
-{
-    QByteArrayList keys;
-    for (int i = 0; i < type.propertyCount(); ++i)
-        keys.append(type.property(i).name());
-    return keys;
-}
-
-/// Whether the text of a JSON object has these keys in this order.
-bool hasInOrder(const QByteArray& text, const QByteArrayList& keys)
-{
-    qsizetype place = 0;
-    for (const QByteArray& key : keys) {
-        place = text.indexOf('"' + key + "\":", place);
-        if (place < 0)
-            return false;
-    }
-    return true;
-}
 
 const QString shipping = QStringLiteral("Shipping");
 const QString warehouse = QStringLiteral("Warehouse");

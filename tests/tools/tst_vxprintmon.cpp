@@ -11,18 +11,6 @@
 
 namespace {
 
-/// Whether the text of a JSON object has these keys in this order.
-bool hasInOrder(const QByteArray& text, const QByteArrayList& keys)
-{
-    qsizetype place = 0;
-    for (const QByteArray& key : keys) {
-        place = text.indexOf('"' + key + "\":", place);
-        if (place < 0)
-            return false;
-    }
-    return true;
-}
-
 QString withoutSpaces(const QString& text)
 {
     return text.simplified().remove(QLatin1Char(' '));
