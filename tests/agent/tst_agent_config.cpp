@@ -153,7 +153,7 @@ void AgentConfigTest::aMistakeHasItsLineAndWhatWasExpected_data()
     row("not JSON", "{\n site: 1}", "2: expected a key in quotation marks, found \"s\"");
     row("no comma", "{\"site\": \"a\"\n \"host\": \"b\"}", R"(2: expected "}", found """)");
     row("more after it", "{\"site\": \"a\"}\n}", "2: expected the end of the file, found \"}\"");
-    row("twice", "{\"site\": \"a\",\n\"site\": \"b\"}", "2: the key \"site\" is there twice");
+    row("twice", "{\"site\": \"a\",\n\"site\": \"b\"}", "2: the key \"site\" occurs twice");
     row("open text", "{\"site\": \"a\n\"}", "1: a text has no closing quotation mark");
     row("bad escape", R"({"site": "C:\data"})",
         "1: a text is not valid JSON; write \\\\ for a backslash");

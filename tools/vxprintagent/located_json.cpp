@@ -94,7 +94,7 @@ private:
             const int line = m_line;
             const QString key = text().toString();
             if (object.find(key))
-                fail(QStringLiteral("the key \"%1\" is there twice").arg(key));
+                fail(QStringLiteral("the key \"%1\" occurs twice").arg(key));
             expect(':');
             object.members.append({key, line, value(depth + 1)});
             if (peek() != ',')

@@ -32,7 +32,7 @@ namespace VxKit {
 /// **What it shows.** A value holds until the next sample, as the printer reports changes only. A
 /// sample without a value begins a gap, in which nothing is drawn: it was not known. The last value
 /// holds until `knownUntil`. Times on the axis are those of the user's time zone. Two changes of
-/// the clock a year make an hour of the axis be missing or be there twice, as it was.
+/// the clock a year make an hour of the axis be missing or appear twice, as it was.
 ///
 /// **Reading values.** With the mouse over the plot, or with the keys Left, Right, Home and End,
 /// the value at a time is shown together with what happened then. Escape ends it. `readOut()` has
