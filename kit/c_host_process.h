@@ -18,6 +18,7 @@ struct SessionOptions
     QString catalogue;
     QString language;
     QString logFile;
+    QString history;
 };
 
 /// The locale that a language tag names; without a language, the user's. `*isKnown` says whether

@@ -72,11 +72,22 @@ constexpr std::array slotTexts{
     Member{VXKIT_SLOT_TEXT_COLORS, "colors"},
 };
 
+/// A field whose value is a number in the JSON of a slot, or in an object in it.
+struct Number
+{
+    int32_t field;
+    const char* name;
+    const char* part = nullptr;
+};
+
 constexpr std::array slotNumbers{
-    Member{VXKIT_NUMBER_RATIO, "ratio"},
-    Member{VXKIT_NUMBER_METERS, "meters"},
-    Member{VXKIT_NUMBER_TOTAL_METERS, "totalMeters"},
-    Member{VXKIT_NUMBER_LABEL_PITCH_METERS, "labelPitchMeters"},
+    Number{VXKIT_NUMBER_RATIO, "ratio"},
+    Number{VXKIT_NUMBER_METERS, "meters"},
+    Number{VXKIT_NUMBER_TOTAL_METERS, "totalMeters"},
+    Number{VXKIT_NUMBER_LABEL_PITCH_METERS, "labelPitchMeters"},
+    Number{VXKIT_NUMBER_SECONDS_REMAINING_P10, "estimatedSecondsRemaining", "p10"},
+    Number{VXKIT_NUMBER_SECONDS_REMAINING_P50, "estimatedSecondsRemaining", "p50"},
+    Number{VXKIT_NUMBER_SECONDS_REMAINING_P90, "estimatedSecondsRemaining", "p90"},
 };
 
 /// A field of a value that is no member of the JSON, or there in another form.
@@ -338,13 +349,15 @@ vxkit_result Readings::slotNumber(std::size_t index, int32_t slot, int32_t field
                                   double& value) const
 {
     const Printer* const printer = at(index);
-    const Member* const member = printer ? entryOf(slotNumbers, field, "VXKIT_NUMBER_*") : nullptr;
-    if (!member)
+    const Number* const entry = printer ? entryOf(slotNumbers, field, "VXKIT_NUMBER_*") : nullptr;
+    if (!entry)
         return VXKIT_ERROR_INVALID_ARGUMENT;
     const SlotOfPrinter place = slotOf(printer->reading, printer->json, slot);
     if (place.result != VXKIT_OK)
         return place.result;
-    const QJsonValue number = place.json.value(QLatin1String(member->name));
+    QJsonValue number = place.json.value(QLatin1String(entry->name));
+    if (entry->part)
+        number = number[QLatin1String(entry->part)];
     if (number.isNull() || number.isUndefined())
         return noValue(place.level);
     value = number.toDouble();

@@ -5,16 +5,21 @@
 #include "c_text.h"
 #include "c_work_thread.h"
 #include "printer_discovery.h"
+#include "printer_forecasts.h"
 #include "printer_readings.h"
 #include "printer_status_controller.h"
+#include "usage_history.h"
+#include "usage_history_reader.h"
 #include "vx_ipc_supplyd_controller.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QScopeGuard>
+#include <QtCore/QTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <exception>
 #include <optional>
 
@@ -83,6 +88,32 @@ public:
     Q_DISABLE_COPY_MOVE(Guest)
 };
 
+/// Learns from the history how long rolls last, and goes on recording it.
+std::unique_ptr<UsageHistory> followHistory(const QString& fileName, PrinterReadings& readings,
+                                            PrinterForecasts& forecasts)
+{
+    const UsageHistoryReader past(fileName);
+    if (past.errorString().isEmpty())
+        forecasts.learn(past);
+    else if (!past.isMissing())
+        qCWarning(kitLog, "nothing is learned from the history, which cannot be read: %s",
+                  qUtf8Printable(past.errorString()));
+    UsageHistoryOptions options;
+    options.fileName = fileName;
+    auto history = std::make_unique<UsageHistory>(&readings, options);
+    QObject::connect(history.get(), &UsageHistory::writingFailed, &readings,
+                     [](const QString& reason) {
+                         qCWarning(kitLog, "the history cannot be written: %s",
+                                   qUtf8Printable(reason));
+                     });
+    QObject::connect(history.get(), &UsageHistory::fileSetAside, &readings,
+                     [](const QString& newName, const QString& reason) {
+                         qCWarning(kitLog, "the history was damaged (%s); it is now %s",
+                                   qUtf8Printable(reason), qUtf8Printable(newName));
+                     });
+    return history;
+}
+
 /// The session that runs, for the end of the process.
 std::mutex currentMutex;
 std::weak_ptr<Session>& current()
@@ -144,6 +175,9 @@ vxkit_result Session::setOption(int32_t option, const QString& value)
         return VXKIT_OK;
     case VXKIT_OPTION_LOG_FILE:
         m_options.logFile = value;
+        return VXKIT_OK;
+    case VXKIT_OPTION_HISTORY:
+        m_options.history = value;
         return VXKIT_OK;
     default:
         return fail(VXKIT_ERROR_INVALID_ARGUMENT,
@@ -250,7 +284,13 @@ void Session::watch(const SessionOptions& options)
     PrinterDiscovery discovery(&controller);
     QObject::connect(&discovery, &PrinterDiscovery::printersChanged, &readings,
                      &PrinterReadings::refresh);
+    PrinterForecasts forecasts(&readings);
+    const std::unique_ptr<UsageHistory> history =
+        options.history.isEmpty() ? nullptr : followHistory(options.history, readings, forecasts);
     follow(readings);
+    QTimer minutes;
+    QObject::connect(&minutes, &QTimer::timeout, &readings, [&] { estimate(readings); });
+    minutes.start(std::chrono::minutes(1));
     std::optional<Guest> guest;
     if (isGuest)
         guest.emplace(weak_from_this());
@@ -369,6 +409,21 @@ void Session::takeAll(const PrinterReadings& readings)
     for (const PrinterReading& reading : all)
         m_readings.emplace(reading.name(), reading);
     m_activePrinter = active;
+}
+
+/// Has the readings carry what is estimated now. Whatever else is new in them is told by a signal.
+void Session::estimate(const PrinterReadings& readings)
+{
+    const QList<PrinterReading> estimated = readings.readings();
+    const std::lock_guard guard(m_mutex);
+    for (const PrinterReading& reading : estimated) {
+        const auto found = m_readings.find(reading.name());
+        if (found == m_readings.end())
+            continue;
+        for (const Slot slot : {Slot::Supply, Slot::Ribbon1, Slot::Ribbon2})
+            found->second.setEstimatedSecondsRemaining(slot,
+                                                       reading.estimatedSecondsRemaining(slot));
+    }
 }
 
 void Session::tell(const PrinterReadings& readings, int32_t change, const QString& printer,

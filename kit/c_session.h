@@ -100,6 +100,7 @@ private:
     void run();
     void watch(const SessionOptions& options);
     void runLoop();
+    void estimate(const PrinterReadings& readings);
     void follow(PrinterReadings& readings);
     void takeAll(const PrinterReadings& readings);
     void tell(const PrinterReadings& readings, int32_t change, const QString& printer,

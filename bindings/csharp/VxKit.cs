@@ -196,6 +196,24 @@ namespace VxPrinterStatus
     }
 
     /// <summary>
+    /// How many seconds something will still last. With a probability of 10, 50 and 90 percent it is at most
+    /// as long as this.
+    /// </summary>
+    public sealed class RemainingTime
+    {
+        internal RemainingTime(double p10, double p50, double p90)
+        {
+            P10 = p10;
+            P50 = p50;
+            P90 = p90;
+        }
+
+        public double P10 { get; private set; }
+        public double P50 { get; private set; }
+        public double P90 { get; private set; }
+    }
+
+    /// <summary>
     /// What is loaded in one slot of a printer, and how much of it is left. Null is not known, or does not
     /// apply; nothing that is not known is 0.
     /// </summary>
@@ -221,6 +239,11 @@ namespace VxPrinterStatus
             Meters = Native.SlotNumber(readings, index, slot, 2);
             TotalMeters = Native.SlotNumber(readings, index, slot, 3);
             LabelPitchMeters = Native.SlotNumber(readings, index, slot, 4);
+            double? p10 = Native.SlotNumber(readings, index, slot, 5);
+            double? p50 = Native.SlotNumber(readings, index, slot, 6);
+            double? p90 = Native.SlotNumber(readings, index, slot, 7);
+            if (p10.HasValue && p50.HasValue && p90.HasValue)
+                SecondsRemaining = new RemainingTime(p10.Value, p50.Value, p90.Value);
         }
 
         public SlotState State { get; private set; }
@@ -255,6 +278,10 @@ namespace VxPrinterStatus
         public double? TotalMeters { get; private set; }
         /// <summary>From the start of one label to the start of the next, in metres.</summary>
         public double? LabelPitchMeters { get; private set; }
+        /// <summary>
+        /// In how many seconds it will have been used up. It is estimated at each report, and once a minute.
+        /// </summary>
+        public RemainingTime SecondsRemaining { get; private set; }
     }
 
     /// <summary>Everything that is known of one printer at one time. Null is not known.</summary>
@@ -407,6 +434,11 @@ namespace VxPrinterStatus
         /// error.
         /// </summary>
         public string LogFile { get; set; }
+        /// <summary>
+        /// What printers use is recorded in this file, from which it is learned how long rolls last. Without
+        /// it, that is learned from what is reported while the session runs.
+        /// </summary>
+        public string History { get; set; }
     }
 
     /// <summary>
@@ -451,6 +483,7 @@ namespace VxPrinterStatus
                 SetOption(1, options.Catalogue, "Catalogue");
                 SetOption(2, options.Language, "Language");
                 SetOption(3, options.LogFile, "LogFile");
+                SetOption(4, options.History, "History");
                 ulong id;
                 Native.Check(Native.vxkit_add_callback(handle, callback, new IntPtr(number), out id));
                 Native.Check(Native.vxkit_start(handle));

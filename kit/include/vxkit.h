@@ -205,6 +205,13 @@ enum
     /// logged, to standard error. As with the language, it cannot be set when the host has a Qt
     /// application.
     VXKIT_OPTION_LOG_FILE = 3,
+    /// The path of a file in which it is recorded what printers use (docs/history.md). From it the
+    /// session learns how long rolls and ribbons last, so that it can estimate it from the start
+    /// (`VXKIT_NUMBER_SECONDS_REMAINING_*`). The file and its folder are created when they are
+    /// missing. One process writes to a file at a time: another goes on without recording, tries
+    /// again every second, and logs a warning, as it does when the file cannot be written. Without
+    /// this option nothing is recorded, and the session learns from what is reported while it runs.
+    VXKIT_OPTION_HISTORY = 4,
 };
 
 /// Sets an option for the next start. Null or an empty value sets it back. At most
@@ -214,7 +221,8 @@ VXKIT_API vxkit_result VXKIT_CALL vxkit_set_option(vxkit_session* session, int32
 
 /// Starts to find and watch printers. Returns when each printer that the spooler lists has a
 /// reading, so it waits for the print spooler. What the printers report follows moments later. A
-/// session that was stopped can be started again.
+/// session that was stopped can be started again. It takes some seconds longer when much is to be
+/// learned from a history.
 ///
 /// On systems other than Windows the printers are virtual, and the environment variable
 /// `VX_VIRTUAL_FLEET` names them (docs/virtual-printers.md). When it names a fleet that cannot be
@@ -397,6 +405,13 @@ enum
     VXKIT_NUMBER_METERS = 2,             ///< what is left, in metres
     VXKIT_NUMBER_TOTAL_METERS = 3,       ///< the length of a new roll or ribbon, in metres
     VXKIT_NUMBER_LABEL_PITCH_METERS = 4, ///< from one label to the next, in metres
+
+    /// In how many seconds it will have been used up: with a probability of 10, 50 and 90 percent
+    /// in at most so many. They are estimated at each report, and once a minute. Unknown until
+    /// enough was reported or learned from a history (`VXKIT_OPTION_HISTORY`).
+    VXKIT_NUMBER_SECONDS_REMAINING_P10 = 5,
+    VXKIT_NUMBER_SECONDS_REMAINING_P50 = 6,
+    VXKIT_NUMBER_SECONDS_REMAINING_P90 = 7,
 };
 VXKIT_API vxkit_result VXKIT_CALL vxkit_slot_number(vxkit_readings* readings, size_t index,
                                                     int32_t slot, int32_t field, double* value);

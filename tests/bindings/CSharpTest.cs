@@ -6,6 +6,7 @@
 // Usage: CSharpTest.exe CATALOGUE
 using System;
 using System.Collections.Generic;
+using System.IO;
 using System.Linq;
 using System.Threading;
 using VxPrinterStatus;
@@ -83,6 +84,25 @@ internal static class CSharpTest
             Check(branch.Ribbon2 == null, "there is no second ribbon");
             CheckEqual(branch.LastReport, (DateTimeOffset?)null, "the report of a network printer");
             WaitFor(() => session.ActivePrinter == "Warehouse");
+        }
+    }
+
+    private static void RecordsWhatIsUsed()
+    {
+        string folder = Path.Combine(Path.GetTempPath(), Path.GetRandomFileName());
+        string file = Path.Combine(folder, "history.db");
+        try
+        {
+            using (var session = new Session(new SessionOptions { Catalogue = catalogue, History = file }))
+            {
+                WaitFor(() => session.Read("Shipping").Supply.Ratio != null);
+                Check(session.Read("Branch Office").Supply.SecondsRemaining == null, "nothing is estimated");
+            }
+            Check(new FileInfo(file).Length > 0, "the history was written");
+        }
+        finally
+        {
+            Directory.Delete(folder, true);
         }
     }
 
@@ -212,8 +232,8 @@ internal static class CSharpTest
     private static int Main(string[] arguments)
     {
         catalogue = arguments[0];
-        foreach (Action test in new Action[] { ReadsPrinters, TellsWhatCodesMean, TellsChanges, SendsCommands,
-            RefusesCarelessCallers, ManyThreadsRead })
+        foreach (Action test in new Action[] { ReadsPrinters, RecordsWhatIsUsed, TellsWhatCodesMean,
+            TellsChanges, SendsCommands, RefusesCarelessCallers, ManyThreadsRead })
         {
             int before = failures;
             test();

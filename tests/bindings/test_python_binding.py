@@ -5,8 +5,10 @@
 Usage: test_python_binding.py BINDING_FOLDER LIBRARY CATALOGUE VERSION [TEST...]
 """
 import os
+import sqlite3
 import subprocess
 import sys
+import tempfile
 import textwrap
 import threading
 import time
@@ -84,6 +86,25 @@ class Library(unittest.TestCase):
 def _any_other_library():
     with open("/proc/self/maps", encoding="utf-8") as maps:
         return next(line.split()[-1] for line in maps if "/libc.so" in line)
+
+
+class History(unittest.TestCase):
+    def test_what_is_used_is_recorded(self):
+        with tempfile.TemporaryDirectory() as folder:
+            file = os.path.join(folder, "new", "history.db")
+            with vx.Session(catalogue=CATALOGUE, history=file) as session:
+                wait_for(lambda: session.reading("Shipping").supply.ratio is not None)
+            connection = sqlite3.connect(file)
+            names = {row[0] for row in connection.execute("SELECT name FROM printer")}
+            connection.close()
+            self.assertIn("Shipping", names)
+
+    def test_estimates_are_those_of_the_json(self):
+        with vx.Session(catalogue=CATALOGUE) as session:
+            json = dict(session.reading("Shipping").json["supply"])
+        self.assertIsNone(vx.Level.from_json({**json, "estimatedSecondsRemaining": None}).seconds_remaining)
+        json["estimatedSecondsRemaining"] = {"p10": 60.0, "p50": 120.5, "p90": 600.0}
+        self.assertEqual(vx.Level.from_json(json).seconds_remaining, vx.RemainingTime(60.0, 120.5, 600.0))
 
 
 class Reading(unittest.TestCase):

@@ -277,6 +277,7 @@ static void wrong_options_are_refused(vxkit_session* session)
     CHECK_RESULT(vxkit_start(session), VXKIT_ERROR_FAILED);
     CHECK(strstr(last_error(), "/no/such/folder/file.log") != NULL);
     CHECK_RESULT(vxkit_set_option(session, VXKIT_OPTION_LOG_FILE, ""), VXKIT_OK);
+    CHECK_RESULT(vxkit_set_option(session, VXKIT_OPTION_HISTORY, too_long), VXKIT_ERROR_TOO_LONG);
     CHECK_RESULT(vxkit_set_option(session, VXKIT_OPTION_LANGUAGE, "en"), VXKIT_OK);
     free(longest);
     free(too_long);

@@ -6,6 +6,8 @@
 #include "patience.h"
 
 #include <printer_reading.h>
+#include <usage_history.h>
+#include <usage_history_reader.h>
 #include <vxkit.h>
 
 #include <QtCore/QCoreApplication>
@@ -118,6 +120,9 @@ private Q_SLOTS:
     void unknownEmptyAndZeroAreToldApart();
     void fieldsAndJsonTellTheSame();
     void aFailedIdentityIsNoValue();
+    void estimatesFromItsHistory();
+    void estimatesNothingWithoutAHistory();
+    void worksWithoutTheHistoryThatCannotBeWritten();
     void everyKindOfChangeIsReported();
     void theFieldsOfAChangeAreNamed();
     void namesAreUtf8();
@@ -182,6 +187,15 @@ private:
         int64_t value = VXKIT_NO_INTEGER;
         vxkit_read(m_session, printer.toUtf8().constData(), &readings);
         vxkit_reading_integer(readings, 0, field, &value);
+        vxkit_readings_free(readings);
+        return value;
+    }
+    double numberOf(const QString& printer, int32_t slot, int32_t field, vxkit_result* result)
+    {
+        vxkit_readings* readings = nullptr;
+        double value = 0;
+        vxkit_read(m_session, printer.toUtf8().constData(), &readings);
+        *result = vxkit_slot_number(readings, 0, slot, field, &value);
         vxkit_readings_free(readings);
         return value;
     }
@@ -375,6 +389,104 @@ void CInterfaceTest::aFailedIdentityIsNoValue()
 }
 
 // Changes /////////////////////////////////////////////////////////////////////////////////////////
+
+namespace {
+
+const QString rollOfHistory = QStringLiteral("00000258100039000013");
+constexpr double metersAnHour = 0.06;
+
+/// Four weeks in which a roll lost as much in each hour, until 100 m were left.
+[[nodiscard]] bool writeHistory(const QString& fileName, const QString& printer)
+{
+    VxKit::UsageHistoryOptions options;
+    options.fileName = fileName;
+    VxKit::UsageHistory history(options);
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    constexpr int hours = 24 * 28;
+    for (int hour = hours; hour > 0; --hour) {
+        VxKit::PrinterReading reading;
+        reading.setName(printer);
+        reading.setModel(VXPrinting::PrinterType::BirchMax);
+        VxKit::Level level;
+        level.state = VxKit::Level::State::Loaded;
+        level.identifier = rollOfHistory;
+        level.sku = QStringLiteral("DE-400200-WH");
+        level.totalMeters = 182.88;
+        level.meters = 100.0 + metersAnHour * hour;
+        level.ratio = *level.meters / *level.totalMeters;
+        reading.setLevel(VxKit::Slot::Supply, level);
+        history.record(reading, now.addSecs(qint64(-3600) * hour));
+    }
+    return history.flush(QDeadlineTimer(patience));
+}
+
+} // namespace
+
+void CInterfaceTest::estimatesFromItsHistory()
+{
+    const QTemporaryDir folder;
+    const QString fileName = folder.filePath(QStringLiteral("history.db"));
+    QVERIFY(writeHistory(fileName, packing));
+    QCOMPARE(vxkit_set_option(m_session, VXKIT_OPTION_HISTORY, fileName.toUtf8().constData()),
+             VXKIT_OK);
+    addPrinter(packing,
+               {PrinterValue::text("SupplyIdentifier", rollOfHistory.toUtf8()),
+                PrinterValue::number("Mileage", 100000)},
+               QStringLiteral("Stratamark BirchMax"));
+    QVERIFY(start());
+    vxkit_result result = VXKIT_ERROR_FAILED;
+    const auto seconds = [&](int32_t field) {
+        return numberOf(packing, VXKIT_SLOT_SUPPLY, field, &result);
+    };
+    QTRY_VERIFY((seconds(VXKIT_NUMBER_SECONDS_REMAINING_P50), result == VXKIT_OK));
+    const double p50 = seconds(VXKIT_NUMBER_SECONDS_REMAINING_P50);
+    constexpr double expected = 100.0 / metersAnHour * 3600;
+    QVERIFY2(std::abs(p50 - expected) < 0.1 * expected, qPrintable(QString::number(p50)));
+    QVERIFY(seconds(VXKIT_NUMBER_SECONDS_REMAINING_P10) <= p50);
+    QVERIFY(seconds(VXKIT_NUMBER_SECONDS_REMAINING_P90) >= p50);
+    const QJsonValue estimate = jsonOf(packing)[QStringLiteral("supply")].toObject().value(
+        QStringLiteral("estimatedSecondsRemaining"));
+    QVERIFY(estimate[QStringLiteral("p50")].isDouble());
+    seconds(VXKIT_NUMBER_SECONDS_REMAINING_P90 + 1);
+    QCOMPARE(result, VXKIT_ERROR_INVALID_ARGUMENT);
+
+    // What it reports now is recorded, too.
+    machine().publish(packing, PrinterValue::number("Mileage", 90000));
+    QTRY_COMPARE(qRound(seconds(VXKIT_NUMBER_METERS)), 90);
+    QCOMPARE(vxkit_stop(m_session), VXKIT_OK);
+    const QList<VxKit::UsageSegment> rolls =
+        VxKit::UsageHistoryReader(fileName).segments(packing);
+    QCOMPARE(rolls.size(), 1);
+    QCOMPARE(rolls.first().metersLeft, 90.0);
+}
+
+void CInterfaceTest::estimatesNothingWithoutAHistory()
+{
+    addPrinter(packing, {PrinterValue::text("SupplyIdentifier", rollOfHistory.toUtf8()),
+                         PrinterValue::number("Mileage", 100000)});
+    QVERIFY(start());
+    vxkit_result result = VXKIT_ERROR_FAILED;
+    QTRY_VERIFY((numberOf(packing, VXKIT_SLOT_SUPPLY, VXKIT_NUMBER_METERS, &result),
+                 result == VXKIT_OK));
+    const double value =
+        numberOf(packing, VXKIT_SLOT_SUPPLY, VXKIT_NUMBER_SECONDS_REMAINING_P50, &result);
+    QCOMPARE(result, VXKIT_UNKNOWN);
+    QVERIFY(std::isnan(value));
+    numberOf(packing, VXKIT_SLOT_RIBBON2, VXKIT_NUMBER_SECONDS_REMAINING_P50, &result);
+    QCOMPARE(result, VXKIT_NO_SLOT);
+}
+
+void CInterfaceTest::worksWithoutTheHistoryThatCannotBeWritten()
+{
+    const QTemporaryDir folder; // which is no file
+    QCOMPARE(vxkit_set_option(m_session, VXKIT_OPTION_HISTORY, folder.path().toUtf8().constData()),
+             VXKIT_OK);
+    addPrinter(packing);
+    QVERIFY(start());
+    QTRY_COMPARE(integerOf(packing, VXKIT_INTEGER_STATUS_CODE), 1);
+    QCOMPARE(vxkit_stop(m_session), VXKIT_OK);
+    QVERIFY(QDir(folder.path()).isEmpty());
+}
 
 void CInterfaceTest::everyKindOfChangeIsReported()
 {

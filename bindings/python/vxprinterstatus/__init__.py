@@ -34,7 +34,17 @@ from ._errors import (
     TooManyError,
     VxError,
 )
-from ._reading import CommandResult, Failure, Level, Presence, Reading, Severity, State, StatusInfo
+from ._reading import (
+    CommandResult,
+    Failure,
+    Level,
+    Presence,
+    Reading,
+    RemainingTime,
+    Severity,
+    State,
+    StatusInfo,
+)
 from ._session import Change, ChangeKind, Field, Session, Subscription, library_version
 from ._version import __version__
 
@@ -56,6 +66,7 @@ __all__ = [
     "NotRunningError",
     "Presence",
     "Reading",
+    "RemainingTime",
     "Result",
     "Session",
     "Severity",

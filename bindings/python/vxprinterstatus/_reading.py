@@ -75,6 +75,18 @@ def _time(value: Optional[str]) -> Optional[datetime]:
 
 
 @dataclass(frozen=True)
+class RemainingTime:
+    """How many seconds something will still last.
+
+    With a probability of 10, 50 and 90 percent it is at most as long as this.
+    """
+
+    p10: float
+    p50: float
+    p90: float
+
+
+@dataclass(frozen=True)
 class Level:
     """What is loaded in one slot of a printer, and how much of it is left.
 
@@ -112,10 +124,13 @@ class Level:
     """The raw value that the driver publishes."""
     mileage_unit: str
     """The unit of `mileage`: "millimeters" or "percent"."""
+    seconds_remaining: Optional[RemainingTime]
+    """In how many seconds it will have been used up. It is estimated at each report, and once a minute."""
 
     @staticmethod
     def from_json(value: Mapping[str, Any]) -> "Level":
         """The level that a reading's JSON has."""
+        remaining = value["estimatedSecondsRemaining"]
         return Level(
             state=_word(State, value["state"], State.NOT_KNOWN),
             identifier=value["identifier"],
@@ -133,6 +148,9 @@ class Level:
             coarse=value["coarse"],
             mileage=value["mileage"],
             mileage_unit=value["mileageUnit"],
+            seconds_remaining=None
+            if remaining is None
+            else RemainingTime(remaining["p10"], remaining["p50"], remaining["p90"]),
         )
 
 

@@ -28,6 +28,7 @@ from ._reading import CommandResult, Reading, StatusInfo
 _OPTION_CATALOGUE = 1
 _OPTION_LANGUAGE = 2
 _OPTION_LOG_FILE = 3
+_OPTION_HISTORY = 4
 _TEXT_STATUS_SHORT_TITLE = 16
 _TEXT_STATUS_REMEDY = 18
 _SEND_TO_ANY_PRINTER = 0x1
@@ -200,7 +201,8 @@ class Session:
     `catalogue` is the file `roll.db` with the names and lengths of supplies and ribbons; by default the one
     beside the Python interpreter, so most hosts name it. `language` is that of texts for people, such as "de";
     by default the user's. The library's log is appended to `log_file`; by default only warnings are written, to
-    standard error.
+    standard error. What printers use is recorded in the file `history`, from which it is learned how long rolls
+    last; without it, that is learned from what is reported while the session runs.
     """
 
     def __init__(
@@ -209,6 +211,7 @@ class Session:
         catalogue: Union[str, "os.PathLike[str]", None] = None,
         language: Optional[str] = None,
         log_file: Union[str, "os.PathLike[str]", None] = None,
+        history: Union[str, "os.PathLike[str]", None] = None,
     ) -> None:
         self._handle: Optional[int] = None
         # Those of the iterators that wait for a change, which None ends.
@@ -217,6 +220,7 @@ class Session:
             _OPTION_CATALOGUE: ("catalogue", None if catalogue is None else os.fspath(catalogue)),
             _OPTION_LANGUAGE: ("language", language),
             _OPTION_LOG_FILE: ("log_file", None if log_file is None else os.fspath(log_file)),
+            _OPTION_HISTORY: ("history", None if history is None else os.fspath(history)),
         }
         values = {
             option: text_bytes(value, name) for option, (name, value) in options.items() if value is not None
