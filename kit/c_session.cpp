@@ -277,6 +277,8 @@ void Session::watch(const SessionOptions& options)
 {
     const bool isGuest = QCoreApplication::instance() != nullptr;
     const HostProcess process(options);
+    // Before everything that starts timers: the thread has none until it has a loop.
+    QEventLoop loop;
     PrinterStatusController controller;
     if (!options.catalogue.isEmpty())
         controller.getSupplyIdController()->setCatalogueFile(options.catalogue);
@@ -301,12 +303,11 @@ void Session::watch(const SessionOptions& options)
     // Now that Qt's own objects exist, so that they are destroyed after the session has stopped.
     callAtExit(stopAtExit);
     const CallbackThread callbacks(*this);
-    runLoop();
+    runLoop(loop);
 }
 
-void Session::runLoop()
+void Session::runLoop(QEventLoop& loop)
 {
-    QEventLoop loop;
     const auto setLoop = [this](QEventLoop* current) {
         const std::lock_guard guard(m_mutex);
         m_loop = current;

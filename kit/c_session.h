@@ -99,7 +99,7 @@ private:
 
     void run();
     void watch(const SessionOptions& options);
-    void runLoop();
+    void runLoop(QEventLoop& loop);
     void estimate(const PrinterReadings& readings);
     void follow(PrinterReadings& readings);
     void takeAll(const PrinterReadings& readings);

@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 //
 // The C interface in a host that has a Qt application. c_host.c is a host without one.
+#include "log_recorder.h"
 #include "machine_test.h"
 #include "patience.h"
 
@@ -424,6 +425,7 @@ constexpr double metersAnHour = 0.06;
 
 void CInterfaceTest::estimatesFromItsHistory()
 {
+    const LogRecorder log;
     const QTemporaryDir folder;
     const QString fileName = folder.filePath(QStringLiteral("history.db"));
     QVERIFY(writeHistory(fileName, packing));
@@ -458,6 +460,11 @@ void CInterfaceTest::estimatesFromItsHistory()
         VxKit::UsageHistoryReader(fileName).segments(packing);
     QCOMPARE(rolls.size(), 1);
     QCOMPARE(rolls.first().metersLeft, 90.0);
+
+    // Qt warns when something of the session cannot start its timer.
+    const QList<LogRecord> records = log.records();
+    for (const LogRecord& record : records)
+        QVERIFY2(record.level < Logger::Warning, qPrintable(record.message));
 }
 
 void CInterfaceTest::estimatesNothingWithoutAHistory()
