@@ -101,11 +101,10 @@ std::unique_ptr<UsageHistory> followHistory(const QString& fileName, PrinterRead
     UsageHistoryOptions options;
     options.fileName = fileName;
     auto history = std::make_unique<UsageHistory>(&readings, options);
-    QObject::connect(history.get(), &UsageHistory::writingFailed, &readings,
-                     [](const QString& reason) {
-                         qCWarning(kitLog, "the history cannot be written: %s",
-                                   qUtf8Printable(reason));
-                     });
+    QObject::connect(
+        history.get(), &UsageHistory::writingFailed, &readings, [](const QString& reason) {
+            qCWarning(kitLog, "the history cannot be written: %s", qUtf8Printable(reason));
+        });
     QObject::connect(history.get(), &UsageHistory::fileSetAside, &readings,
                      [](const QString& newName, const QString& reason) {
                          qCWarning(kitLog, "the history was damaged (%s); it is now %s",

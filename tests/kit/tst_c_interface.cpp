@@ -456,8 +456,7 @@ void CInterfaceTest::estimatesFromItsHistory()
     machine().publish(packing, PrinterValue::number("Mileage", 90000));
     QTRY_COMPARE(qRound(seconds(VXKIT_NUMBER_METERS)), 90);
     QCOMPARE(vxkit_stop(m_session), VXKIT_OK);
-    const QList<VxKit::UsageSegment> rolls =
-        VxKit::UsageHistoryReader(fileName).segments(packing);
+    const QList<VxKit::UsageSegment> rolls = VxKit::UsageHistoryReader(fileName).segments(packing);
     QCOMPARE(rolls.size(), 1);
     QCOMPARE(rolls.first().metersLeft, 90.0);
 
@@ -473,8 +472,8 @@ void CInterfaceTest::estimatesNothingWithoutAHistory()
                          PrinterValue::number("Mileage", 100000)});
     QVERIFY(start());
     vxkit_result result = VXKIT_ERROR_FAILED;
-    QTRY_VERIFY((numberOf(packing, VXKIT_SLOT_SUPPLY, VXKIT_NUMBER_METERS, &result),
-                 result == VXKIT_OK));
+    QTRY_VERIFY(
+        (numberOf(packing, VXKIT_SLOT_SUPPLY, VXKIT_NUMBER_METERS, &result), result == VXKIT_OK));
     const double value =
         numberOf(packing, VXKIT_SLOT_SUPPLY, VXKIT_NUMBER_SECONDS_REMAINING_P50, &result);
     QCOMPARE(result, VXKIT_UNKNOWN);
