@@ -4,7 +4,6 @@
 #include "monitor_test.h"
 #include "printer_status_information.h"
 
-
 namespace {
 
 const QString shipping = QStringLiteral("Shipping");
