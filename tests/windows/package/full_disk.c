@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// A disk that fills up, for one program and without mounting anything. Preloaded into Wine (LD_PRELOAD), it lets a
-// program write VX_FULL_DISK_BYTES bytes to the files whose path contains VX_FULL_DISK_FOLDER. After that there is no
-// space left.
+// A disk that fills up, for one program and without mounting anything. Preloaded into Wine
+// (LD_PRELOAD), it lets a program write VX_FULL_DISK_BYTES bytes to the files whose path contains
+// VX_FULL_DISK_FOLDER. After that there is no space left.
 #define _GNU_SOURCE
 #include <dlfcn.h>
 #include <errno.h>
@@ -32,7 +32,7 @@ static int isFull(int file, size_t size)
     path[length] = '\0';
     if (!strstr(path, folder))
         return 0;
-    if (atomic_fetch_add(&written, (long long) size) + (long long) size <= atoll(bytes))
+    if (atomic_fetch_add(&written, (long long)size) + (long long)size <= atoll(bytes))
         return 0;
     errno = ENOSPC;
     return 1;
@@ -42,7 +42,7 @@ ssize_t write(int file, const void* data, size_t size)
 {
     static ssize_t (*next)(int, const void*, size_t);
     if (!next)
-        *(void**) &next = dlsym(RTLD_NEXT, "write");
+        *(void**)&next = dlsym(RTLD_NEXT, "write");
     return isFull(file, size) ? -1 : next(file, data, size);
 }
 
@@ -50,7 +50,7 @@ ssize_t pwrite(int file, const void* data, size_t size, off_t offset)
 {
     static ssize_t (*next)(int, const void*, size_t, off_t);
     if (!next)
-        *(void**) &next = dlsym(RTLD_NEXT, "pwrite");
+        *(void**)&next = dlsym(RTLD_NEXT, "pwrite");
     return isFull(file, size) ? -1 : next(file, data, size, offset);
 }
 
@@ -58,6 +58,6 @@ ssize_t pwrite64(int file, const void* data, size_t size, off64_t offset)
 {
     static ssize_t (*next)(int, const void*, size_t, off64_t);
     if (!next)
-        *(void**) &next = dlsym(RTLD_NEXT, "pwrite64");
+        *(void**)&next = dlsym(RTLD_NEXT, "pwrite64");
     return isFull(file, size) ? -1 : next(file, data, size, offset);
 }

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright The VxPrinterStatus authors
 //
-// Opens a file so that nobody else can open, rename or remove it, says "held", and closes it when standard input ends.
+// Opens a file so that nobody else can open, rename or remove it, says "held", and closes it when
+// standard input ends.
 //
 //     hold_file PATH
 #include <cstdio>
