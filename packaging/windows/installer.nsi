@@ -14,7 +14,7 @@ Target amd64-unicode
 SetCompressor /SOLID ${COMPRESSOR}
 ManifestDPIAware true
 RequestExecutionLevel admin
-# A file that cannot be written ends the installation. Skipping it would mix two versions.
+# A file that cannot be written ends the installation (.onInstFailed). Skipping it would mix two versions.
 AllowSkipFiles off
 CRCCheck on
 ShowInstDetails nevershow
@@ -30,7 +30,16 @@ ShowUninstDetails nevershow
 
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\VxPrinterStatus"
 !define APP_PATHS "Software\Microsoft\Windows\CurrentVersion\App Paths"
+# The new files are written here, in the folder of the installation and so on its disk, where they can take the place of
+# the old ones without being copied:
+#   new    the files of the components, until they take their places
+#   old    what was in these places
+#   lists  the lists of the new files, from the first file that takes its place to the last. If this folder is there,
+#          the installation is half done, and everything in it can be put back.
+!define TEMPORARY "$INSTDIR\VxPrinterStatus-setup.tmp"
+
 # 1 and 2 are those of NSIS: cancelled by the user, and failed in the middle.
+!define EXIT_FAILED 2
 !define EXIT_WRONG_OPTION 3
 !define EXIT_OLD_WINDOWS 4
 !define EXIT_NO_ADMINISTRATOR 5
@@ -40,6 +49,9 @@ ShowUninstDetails nevershow
 !define EXIT_SERVICE 9
 !define EXIT_NOT_REMOVED 10
 !define EXIT_FOLDER 11
+!define EXIT_FILES_OF_OTHERS 12
+!define EXIT_NOT_PUT_BACK 13
+!define EXIT_SERVICE_NOT_STARTED 14
 
 Name "VxPrinterStatus ${VERSION}"
 OutFile "${OUTPUT}"
@@ -69,6 +81,16 @@ Var Configuration
 Var Refused
 Var RefusedWhat
 Var RefusedWhere
+Var ExistingFolder
+Var Ours
+Var Action
+Var ListName
+Var SearchHandle
+Var Failed
+Var NotPutBack
+Var RemovedService
+Var MadeConfiguration
+Var MadeConfigurationFolder
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
@@ -116,7 +138,7 @@ Var RefusedWhere
 
 !macro ForgetListUnlessChosen NAME SECTION
     ${IfNot} ${SectionIsSelected} ${SECTION}
-        Delete "$INSTDIR\uninstall\${NAME}.ini"
+        Delete "$ListFolder\${NAME}.ini"
     ${EndIf}
 !macroend
 
@@ -149,6 +171,13 @@ Var RefusedWhere
     ${EndIf}
 !macroend
 
+# Writes the lists of what is going to be installed to the folder $ListFolder.
+!macro WriteLists
+    SetOutPath "$ListFolder"
+    File "${GENERATED}/*.ini"
+    !insertmacro ForEachComponent ForgetListUnlessChosen
+!macroend
+
 Section "-prepare"
     SectionIn RO
     Call Prepare
@@ -161,23 +190,14 @@ SectionEnd
 
 Section "$(Tools)" Tools
     !insertmacro InstallFilesOf_tools
-    !insertmacro RegisterProgram vxprintmon
-    !insertmacro RegisterProgram rolldb
-    !insertmacro RegisterProgram vxipc
 SectionEnd
 
 Section "$(Window)" Window
     !insertmacro InstallFilesOf_window
-    !insertmacro RegisterProgram vxprintview
-    # The folder in which a program that is started from the menu works.
-    SetOutPath "$INSTDIR\bin"
-    CreateShortcut "$SMPROGRAMS\$(WindowName).lnk" "$INSTDIR\bin\vxprintview.exe" "" "$INSTDIR\uninstall\icon.ico"
-    WriteRegStr HKLM "${UNINSTALL_KEY}" "StartMenuEntry" "$(WindowName)"
 SectionEnd
 
 Section /o "$(Agent)" Agent
     !insertmacro InstallFilesOf_agent
-    !insertmacro RegisterProgram vxprintagent
 SectionEnd
 
 Section "$(Documentation)" Documentation
@@ -210,16 +230,20 @@ Function Prepare
     ${If} ${Silent}
         Call RefuseIfNecessary
     ${EndIf}
-    # The new lists, which include files that are there for another reason, and those of the installed version.
+    Call FinishInterrupted
+    # The new lists, and those of the installed version.
     InitPluginsDir
-    SetOutPath "$PLUGINSDIR\new"
-    File "${GENERATED}/*.ini"
+    StrCpy $ListFolder "$PLUGINSDIR\new"
+    !insertmacro WriteLists
     CreateDirectory "$PLUGINSDIR\old"
-    ${If} ${FileExists} "$INSTDIR\uninstall\*.ini"
+    StrCpy $Ours ""
+    ReadINIStr $Ours "$INSTDIR\uninstall\library.ini" files "bin\vxprinterstatus.dll"
+    ${If} $Ours != ""
         CopyFiles /SILENT "$INSTDIR\uninstall\*.ini" "$PLUGINSDIR\old"
     ${EndIf}
 
     Call CheckFolder
+    Call RefuseFilesOfOthers
     Call StopService
     ${If} $ServiceState != ""
     ${AndIf} $ServiceState <> 1
@@ -244,19 +268,246 @@ Function Prepare
         SetErrorLevel ${EXIT_IN_USE}
         Quit
     ${EndIf}
+FunctionEnd
 
-    ${IfNot} ${SectionIsSelected} ${Agent}
-        Call RemoveService
-        ${If} $0 != ""
-            ${If} $WasRunning = 1
-                Push $0
-                Call StartService
-                Pop $0
+# Calls the function at $Action for each path of the lists in $ListFolder, and for the place of each list of a
+# component itself. The function has the path in $Path and its last character in $0. It ends the calls by setting
+# $Failed.
+Function EachPath
+    StrCpy $Failed ""
+    FindFirst $SearchHandle $ListName "$ListFolder\*.ini"
+    ${DoUntil} $ListName == ""
+        FileOpen $List "$ListFolder\$ListName" r
+        ${Do}
+            Call ReadPath
+            ${If} $Path == ""
+                ${Break}
             ${EndIf}
-            !insertmacro Refuse "" ${EXIT_SERVICE} "$(ServiceNotRemoved)"
+            StrCpy $0 $Path "" -1
+            Call $Action
+            ${If} $Failed != ""
+                ${Break}
+            ${EndIf}
+        ${Loop}
+        FileClose $List
+        ${If} $Failed == ""
+        ${AndIf} $ListName != "own.ini"
+            StrCpy $Path "uninstall\$ListName"
+            StrCpy $0 "i"
+            Call $Action
+        ${EndIf}
+        ${If} $Failed != ""
+            ${Break}
+        ${EndIf}
+        FindNext $SearchHandle $ListName
+    ${Loop}
+    FindClose $SearchHandle
+FunctionEnd
+
+# An installer that was ended from outside while files took their places: puts everything back first.
+Function FinishInterrupted
+    ${If} ${FileExists} "${TEMPORARY}\lists\own.ini"
+        Call StopService
+        Call PutBack
+        ${If} $NotPutBack != ""
+            StrCpy $0 $NotPutBack
+            !insertmacro Refuse "" ${EXIT_NOT_PUT_BACK} "$(NotPutBack)"
+        ${EndIf}
+        ${If} $WasRunning = 1
+            Call StartService
         ${EndIf}
     ${EndIf}
-    Call RemoveEntries
+    RMDir /r "${TEMPORARY}"
+FunctionEnd
+
+# What others have in the folder stays theirs: it is neither replaced nor removed by the uninstaller later.
+Function RefuseFilesOfOthers
+    ${If} $Ours == ""
+    ${AndIf} ${FileExists} "$INSTDIR\uninstall\*.ini"
+        # The uninstaller would take it for a list.
+        StrCpy $Failed "$INSTDIR\uninstall\*.ini"
+    ${Else}
+        StrCpy $ListFolder "$PLUGINSDIR\new"
+        GetFunctionAddress $Action LookWhetherOfOthers
+        Call EachPath
+    ${EndIf}
+    ${If} $Failed != ""
+        StrCpy $0 $Failed
+        !insertmacro Refuse "" ${EXIT_FILES_OF_OTHERS} "$(FilesOfOthers)"
+    ${EndIf}
+FunctionEnd
+
+Function LookWhetherOfOthers
+    ${If} $0 == "\"
+        StrCpy $Path $Path -1
+        ${If} ${FileExists} "$INSTDIR\$Path"
+        ${AndIfNot} ${FileExists} "$INSTDIR\$Path\*.*"
+            StrCpy $Failed "$INSTDIR\$Path"
+        ${EndIf}
+        Return
+    ${EndIf}
+    ${IfNot} ${FileExists} "$INSTDIR\$Path"
+        Return
+    ${EndIf}
+    ${If} $Ours != ""
+    ${AndIfNot} ${FileExists} "$INSTDIR\$Path\*.*"
+        StrCpy $1 $Path 10
+        ${If} $ListName == "own.ini"
+        ${OrIf} $1 == "uninstall\"
+            Return
+        ${EndIf}
+        # Mostly it is in the list of the same name.
+        ReadINIStr $1 "$PLUGINSDIR\old\$ListName" files "$Path"
+        FindFirst $2 $3 "$PLUGINSDIR\old\*.ini"
+        ${DoUntil} $3 == ""
+            ${If} $1 != ""
+                ${Break}
+            ${EndIf}
+            ReadINIStr $1 "$PLUGINSDIR\old\$3" files "$Path"
+            FindNext $2 $3
+        ${Loop}
+        FindClose $2
+        ${If} $1 != ""
+            Return
+        ${EndIf}
+    ${EndIf}
+    StrCpy $Failed "$INSTDIR\$Path"
+FunctionEnd
+
+# Has the new files take their places. $Failed is a file that could not, and then everything has to be put back.
+Function TakePlaces
+    StrCpy $ListFolder "${TEMPORARY}\lists"
+    GetFunctionAddress $Action MakePlace
+    Call EachPath
+    ${If} $Failed == ""
+        GetFunctionAddress $Action TakePlace
+        Call EachPath
+    ${EndIf}
+FunctionEnd
+
+Function MakePlace
+    ${If} $0 == "\"
+        StrCpy $Path $Path -1
+        ClearErrors
+        CreateDirectory "$INSTDIR\$Path"
+        CreateDirectory "${TEMPORARY}\old\$Path"
+        ${If} ${Errors}
+            StrCpy $Failed "$INSTDIR\$Path"
+        ${EndIf}
+    ${EndIf}
+FunctionEnd
+
+Function TakePlace
+    ${If} $0 == "\"
+        Return
+    ${EndIf}
+    ClearErrors
+    ${If} ${FileExists} "$INSTDIR\$Path"
+        Rename "$INSTDIR\$Path" "${TEMPORARY}\old\$Path"
+    ${EndIf}
+    ${IfNot} ${Errors}
+        Rename "${TEMPORARY}\new\$Path" "$INSTDIR\$Path"
+        ${IfNot} ${Errors}
+            Return
+        ${EndIf}
+    ${EndIf}
+    StrCpy $Failed "$INSTDIR\$Path"
+FunctionEnd
+
+# Puts back what was in the places of the new files. $NotPutBack is one for which that was impossible.
+Function PutBack
+    StrCpy $NotPutBack ""
+    SetOutPath $TEMP
+    ${If} ${FileExists} "${TEMPORARY}\lists\own.ini"
+        StrCpy $ListFolder "${TEMPORARY}\lists"
+        GetFunctionAddress $Action PutBackPath
+        Call EachPath
+    ${EndIf}
+FunctionEnd
+
+# A file has taken its place if it is not among the new ones any more.
+Function PutBackPath
+    ${If} $0 == "\"
+        StrCpy $Path $Path -1
+        RMDir "$INSTDIR\$Path" # if nothing is left in it
+        Return
+    ${EndIf}
+    # Another list may have had its folder removed.
+    ${GetParent} "$INSTDIR\$Path" $0
+    CreateDirectory "$0"
+    ClearErrors
+    ${If} ${FileExists} "$INSTDIR\$Path"
+    ${AndIfNot} ${FileExists} "${TEMPORARY}\new\$Path"
+        Rename "$INSTDIR\$Path" "${TEMPORARY}\new\$Path"
+    ${EndIf}
+    ${IfNot} ${Errors} # which forgets the error
+        ${If} ${FileExists} "${TEMPORARY}\old\$Path"
+            Rename "${TEMPORARY}\old\$Path" "$INSTDIR\$Path"
+        ${EndIf}
+        ${IfNot} ${Errors}
+            Return
+        ${EndIf}
+    ${EndIf}
+    StrCpy $NotPutBack "$INSTDIR\$Path"
+FunctionEnd
+
+# Leaves everything as it was before the installation, and the service as it was.
+Function Undo
+    ${If} $MadeConfiguration = 1
+        Delete "$Configuration"
+    ${EndIf}
+    ${If} $MadeConfigurationFolder = 1
+        RMDir "$APPDATA\VxPrinterStatus"
+    ${EndIf}
+    Call PutBack
+    ${If} $NotPutBack == ""
+        RMDir /r "${TEMPORARY}"
+        Call RemoveNewFolders
+    ${EndIf}
+    ${If} $RemovedService != ""
+        # The last part of its command line is the configuration.
+        ${WordFind} '$RemovedService' '"' "-1" $0
+        nsExec::Exec '"$INSTDIR\bin\vxprintagent.exe" install --config "$0"'
+        Pop $0
+    ${EndIf}
+    ${If} $WasRunning = 1
+        Call StartService
+    ${EndIf}
+FunctionEnd
+
+# Ends an installation that has begun to change something. $Message says why.
+!macro UndoAndQuit CODE TEXT
+    StrCpy $Message "${TEXT}"
+    StrCpy $R8 ${CODE}
+    Call UndoAndQuit
+!macroend
+
+Function UndoAndQuit
+    Call Undo
+    ${If} $NotPutBack != ""
+        StrCpy $R8 ${EXIT_NOT_PUT_BACK}
+        StrCpy $0 $NotPutBack
+        StrCpy $Message "$(NotPutBack)"
+    ${EndIf}
+    SetErrorLevel $R8
+    Call Tell
+    Quit
+FunctionEnd
+
+# Removes the folder of the installation, and those in which it is, as far as they were made by CheckFolder and are
+# empty.
+Function RemoveNewFolders
+    ${If} $ExistingFolder == ""
+        Return
+    ${EndIf}
+    StrCpy $2 $INSTDIR
+    ${DoUntil} $2 == $ExistingFolder
+        ${If} $2 == ""
+            ${Break}
+        ${EndIf}
+        RMDir "$2"
+        ${GetParent} $2 $2
+    ${Loop}
 FunctionEnd
 
 # Refuses a folder that cannot be written, or a drive that is too full, before anything is changed.
@@ -265,11 +516,6 @@ Function CheckFolder
     StrCpy $2 $Chosen
     !insertmacro ForEachComponent AddToTotal
     StrCpy $Chosen $2
-    ${If} $InstalledVersion != ""
-        # An upgrade replaces one file after the other.
-        ReadRegDWORD $0 HKLM "${UNINSTALL_KEY}" "EstimatedSize"
-        IntOp $1 $1 - $0
-    ${EndIf}
     StrCpy $2 $INSTDIR
     ${DoUntil} ${FileExists} "$2\*.*"
         ${GetParent} $2 $2
@@ -277,7 +523,11 @@ Function CheckFolder
             ${ExitDo}
         ${EndIf}
     ${Loop}
-    System::Call 'kernel32::GetDiskFreeSpaceExW(w "$2\", *l .r3, p 0, p 0) i .r4'
+    StrCpy $ExistingFolder $2
+    StrCpy $4 0
+    ${If} $2 != ""
+        System::Call 'kernel32::GetDiskFreeSpaceExW(w "$2\", *l .r3, p 0, p 0) i .r4'
+    ${EndIf}
     ${If} $4 <> 0
         System::Int64Op $3 / 1024
         Pop $3
@@ -289,22 +539,18 @@ Function CheckFolder
         ${EndIf}
     ${EndIf}
 
-    StrCpy $2 ""
-    ${IfNot} ${FileExists} "$INSTDIR\*.*"
-        StrCpy $2 $INSTDIR
-        CreateDirectory "$INSTDIR"
-    ${EndIf}
     ClearErrors
-    FileOpen $1 "$INSTDIR\uninstall.new" w
+    CreateDirectory "${TEMPORARY}"
+    FileOpen $1 "${TEMPORARY}\try" w
     ${If} ${Errors}
+        RMDir "${TEMPORARY}"
+        Call RemoveNewFolders
         StrCpy $0 $INSTDIR
         !insertmacro Refuse "" ${EXIT_FOLDER} "$(NotWritable)"
     ${EndIf}
     FileClose $1
-    Delete "$INSTDIR\uninstall.new"
-    ${If} $2 != ""
-        RMDir "$2"
-    ${EndIf}
+    RMDir /r "${TEMPORARY}"
+    Call RemoveNewFolders
 FunctionEnd
 
 # Remembers why to refuse: $0 is what, $1 where.
@@ -319,6 +565,10 @@ FunctionEnd
 Function .onInit
     SetRegView 64
     SetShellVarContext all
+    StrCpy $WasRunning 0
+    StrCpy $RemovedService ""
+    StrCpy $MadeConfiguration 0
+    StrCpy $MadeConfigurationFolder 0
     Call ReadOptions
     ${If} $Refused == ""
         Call LookAtInstalled
@@ -345,17 +595,32 @@ Function RefuseIfNecessary
         !insertmacro Refuse "" ${EXIT_WRONG_OPTION} "$(UnknownComponent)"
     ${Case} "newer"
         !insertmacro Refuse "" ${EXIT_NEWER_INSTALLED} "$(NewerInstalled)"
+    ${Case} "unusable"
+        !insertmacro Refuse "" ${EXIT_FOLDER} "$(NotWritable)"
     ${Case} "folder"
         !insertmacro Refuse "" ${EXIT_OTHER_FOLDER} "$(OtherFolder)"
     ${EndSelect}
 FunctionEnd
 
 # Everything on the command line has to be known: a misspelt option would install something else than was wanted.
-# NSIS itself takes /D= off.
+# NSIS itself takes /D= off. It also forgets a folder of which it knows that it cannot be made, such as one on a drive
+# that does not exist, and then it would be the usual one.
 Function ReadOptions
     StrCpy $Chosen ""
     StrCpy $Kept "" # whether an older version may replace a newer one
     StrCpy $Refused ""
+    ${If} $INSTDIR == ""
+        System::Call 'kernel32::GetCommandLineW() w .r1'
+        ${DoUntil} $1 == ""
+            StrCpy $0 $1 4
+            ${If} $0 == " /D="
+                StrCpy $0 $1 "" 4
+                !insertmacro RefuseLater unusable
+                Return
+            ${EndIf}
+            StrCpy $1 $1 "" 1
+        ${Loop}
+    ${EndIf}
     ${GetParameters} $R0
     ${DoWhile} $Refused == ""
         StrCpy $0 $R0 1
@@ -439,7 +704,19 @@ Function LookAtInstalled
     StrCpy $InstalledVersion ""
     ReadRegStr $1 HKLM "${UNINSTALL_KEY}" "InstallLocation"
     ${If} $1 != ""
-    ${AndIf} ${FileExists} "$1\uninstall.exe"
+        # The second is left of an installer that was ended in the middle of an upgrade.
+        StrCpy $2 $INSTDIR
+        StrCpy $INSTDIR $1
+        StrCpy $3 0
+        ${If} ${FileExists} "$INSTDIR\uninstall.exe"
+        ${OrIf} ${FileExists} "${TEMPORARY}\old\uninstall.exe"
+            StrCpy $3 1
+        ${EndIf}
+        StrCpy $INSTDIR $2
+    ${Else}
+        StrCpy $3 0
+    ${EndIf}
+    ${If} $3 = 1
         ReadRegStr $0 HKLM "${UNINSTALL_KEY}" "DisplayVersion"
         StrCpy $InstalledVersion $0
         ${VersionCompare} "$0" "${VERSION}" $2
@@ -462,18 +739,80 @@ Function LookAtInstalled
     ${EndIf}
 FunctionEnd
 
-# What is the same for all components, and what needs them complete.
+# Everything is written. Has it take its place, and tells Windows of it. What fails before the last file and the service
+# are in their places is undone.
 Function Finish
-    SetOutPath "$INSTDIR\uninstall"
+    SetOutPath "${TEMPORARY}\new\uninstall"
     File "/oname=icon.ico" "${ICON}"
     File "/oname=agent.json" "${CONFIGURATION}"
-    WriteUninstaller "$INSTDIR\uninstall.exe"
+    ClearErrors
+    WriteUninstaller "${TEMPORARY}\new\uninstall.exe"
+    ${If} ${Errors}
+        StrCpy $0 $INSTDIR
+        !insertmacro UndoAndQuit ${EXIT_FAILED} "$(FileNotWritten)"
+    ${EndIf}
+    StrCpy $ListFolder "${TEMPORARY}\complete"
+    !insertmacro WriteLists
+    SetOutPath $TEMP
 
+    # With the program of the installed version, before it loses its DLLs.
+    ${IfNot} ${SectionIsSelected} ${Agent}
+        Call RemoveService
+        ${If} $0 != ""
+            !insertmacro UndoAndQuit ${EXIT_SERVICE} "$(ServiceNotRemoved)"
+        ${EndIf}
+        ${If} $ServiceState != ""
+            StrCpy $RemovedService $ServiceProgram
+        ${EndIf}
+    ${EndIf}
+    ClearErrors
+    Rename "${TEMPORARY}\complete" "${TEMPORARY}\lists"
+    ${If} ${Errors}
+        StrCpy $Failed "${TEMPORARY}\lists"
+    ${Else}
+        Call TakePlaces
+    ${EndIf}
+    ${If} $Failed != ""
+        StrCpy $0 $Failed
+        !insertmacro UndoAndQuit ${EXIT_FAILED} "$(FileNotReplaced)"
+    ${EndIf}
+    ${If} ${SectionIsSelected} ${Agent}
+        Call RegisterService
+        ${If} $0 != ""
+            !insertmacro UndoAndQuit ${EXIT_SERVICE} "$(ServiceNotInstalled)"
+        ${EndIf}
+    ${EndIf}
+    # From here nothing is put back any more.
+    Rename "${TEMPORARY}\lists" "${TEMPORARY}\complete"
+
+    StrCpy $ListFolder "$INSTDIR\uninstall"
     !insertmacro ForEachComponent ForgetListUnlessChosen
     StrCpy $NotRemoved ""
     StrCpy $ListFolder "$PLUGINSDIR\old"
     Call RemoveListed
+    ClearErrors
+    RMDir /r "${TEMPORARY}"
+    ${If} ${Errors}
+        StrCpy $NotRemoved "${TEMPORARY}"
+    ${EndIf}
 
+    Call RemoveEntries
+    ${If} ${SectionIsSelected} ${Tools}
+        !insertmacro RegisterProgram vxprintmon
+        !insertmacro RegisterProgram rolldb
+        !insertmacro RegisterProgram vxipc
+    ${EndIf}
+    ${If} ${SectionIsSelected} ${Window}
+        !insertmacro RegisterProgram vxprintview
+        # The folder in which a program that is started from the menu works.
+        SetOutPath "$INSTDIR\bin"
+        CreateShortcut "$SMPROGRAMS\$(WindowName).lnk" "$INSTDIR\bin\vxprintview.exe" "" "$INSTDIR\uninstall\icon.ico"
+        SetOutPath $TEMP
+        WriteRegStr HKLM "${UNINSTALL_KEY}" "StartMenuEntry" "$(WindowName)"
+    ${EndIf}
+    ${If} ${SectionIsSelected} ${Agent}
+        !insertmacro RegisterProgram vxprintagent
+    ${EndIf}
     StrCpy $1 0
     StrCpy $Chosen ""
     !insertmacro ForEachComponent AddToTotal
@@ -490,7 +829,13 @@ Function Finish
     WriteRegStr HKLM "${UNINSTALL_KEY}" "Components" "$Chosen"
 
     ${If} ${SectionIsSelected} ${Agent}
-        Call SetUpService
+    ${AndIf} $WasRunning = 1
+        Call StartService
+        ${If} $ServiceState <> 4
+            SetErrorLevel ${EXIT_SERVICE_NOT_STARTED}
+            StrCpy $Message "$(ServiceNotStarted)"
+            Call Tell
+        ${EndIf}
     ${EndIf}
     ${If} $NotRemoved != ""
         StrCpy $0 $NotRemoved
@@ -506,35 +851,33 @@ Function SkipFolderOfUpgrade
     ${EndIf}
 FunctionEnd
 
+# A file could not be written. Nothing has taken its place yet. NSIS itself makes it exit code 2.
 Function .onInstFailed
-    ${If} $WasRunning = 1
-        Call StartService
-    ${EndIf}
+    Call Undo
+    StrCpy $0 $INSTDIR
+    StrCpy $Message "$(FileNotWritten)"
+    Call Tell
 FunctionEnd
 
-# Registers the agent's service unless it is registered. It is started if it ran before, or if somebody has put its
-# configuration there beforehand. With the example alone it would publish nothing of use.
-Function SetUpService
+# Registers the agent's service unless it is registered. $0 is what its program printed if that was impossible. The
+# service is going to be started if it ran before, or if somebody has put its configuration there beforehand. With the
+# example alone it would publish nothing of use.
+Function RegisterService
     StrCpy $ServiceRequest ""
     Call LookAtService
+    StrCpy $0 ""
     ${If} $ServiceState == ""
         Call MakeConfiguration
         nsExec::ExecToStack '"$INSTDIR\bin\vxprintagent.exe" install --config "$Configuration"'
         Pop $1
         Pop $0
-        ${If} $1 != 0
-            SetErrorLevel ${EXIT_SERVICE}
-            StrCpy $Message "$(ServiceNotInstalled)"
-            Call Tell
-            Return
-        ${EndIf}
-    ${EndIf}
-    ${If} $WasRunning = 1
-        Call StartService
-        ${If} $ServiceState <> 4
-            SetErrorLevel ${EXIT_SERVICE}
-            StrCpy $Message "$(ServiceNotStarted)"
-            Call Tell
+        ${If} $1 == 0
+            StrCpy $0 ""
+        ${Else}
+            StrCpy $WasRunning 0 # there is none to be started again
+            ${If} $0 == ""
+                StrCpy $0 "$1"
+            ${EndIf}
         ${EndIf}
     ${EndIf}
 FunctionEnd
@@ -544,6 +887,7 @@ FunctionEnd
 Function MakeConfiguration
     StrCpy $Configuration "$APPDATA\VxPrinterStatus\agent.json"
     ${IfNot} ${FileExists} "$APPDATA\VxPrinterStatus\*.*"
+        StrCpy $MadeConfigurationFolder 1
         CreateDirectory "$APPDATA\VxPrinterStatus"
         nsExec::Exec 'icacls "$APPDATA\VxPrinterStatus" /setowner *S-1-5-32-544'
         Pop $0
@@ -553,6 +897,7 @@ Function MakeConfiguration
     ${If} ${FileExists} "$Configuration"
         StrCpy $WasRunning 1
     ${Else}
+        StrCpy $MadeConfiguration 1
         CopyFiles /SILENT "$INSTDIR\uninstall\agent.json" "$Configuration"
         nsExec::Exec 'icacls "$Configuration" /setowner *S-1-5-32-544'
         Pop $0

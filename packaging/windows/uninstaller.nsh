@@ -39,6 +39,8 @@ Section "Uninstall"
     Delete "$INSTDIR\uninstall\icon.ico"
     Delete "$INSTDIR\uninstall\agent.json"
     RMDir "$INSTDIR\uninstall"
+    # Left if an installer was ended from outside.
+    RMDir /r "${TEMPORARY}"
     Delete "$INSTDIR\uninstall.exe"
     RMDir "$INSTDIR"
     DeleteRegKey HKLM "${UNINSTALL_KEY}"

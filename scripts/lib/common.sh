@@ -202,8 +202,9 @@ stage_installer() {
     local build=$root/build/windows
     need_packages "${windows_packages[@]}" "${installer_packages[@]}"
     find_windows_libraries
-    use_time_of_sources
     build_windows
+    # Not before: Qt would give it to embedded files, which are embedded anew only when they change.
+    use_time_of_sources
     version=$(sed -n 's/^CMAKE_PROJECT_VERSION:[^=]*=//p' "$build/CMakeCache.txt")
     staged=$build/installer/files
     assignment=$build/installer/assignment.txt

@@ -8,8 +8,9 @@ Usage: installer_files.py assign BUILD_FOLDER STAGED_FOLDER >ASSIGNMENT
 assign: prints a line "component<TAB>path" for each file of STAGED_FOLDER, which scripts/lib/stage-windows has made
         from BUILD_FOLDER. Our files go where CMake's components say. A DLL of others goes to the component that needs
         it, or to the library, which is always installed, if several do.
-lists:  makes FOLDER with files.nsh, a macro for each component that installs its files, and with a list for each
-        component, by which an installer or uninstaller knows later what it may remove.
+lists:  makes FOLDER with files.nsh, a macro for each component that writes its files beside those of the installed
+        version, and with a list for each component, by which an installer or uninstaller knows later what it may
+        remove. own.ini lists what every installation has besides; it is not installed.
 """
 import pathlib
 import re
@@ -29,6 +30,10 @@ THIRD_PARTY_LICENCES = "share/doc/VxPrinterStatus/third-party/"
 # It lists the files of all components.
 BILL_OF_MATERIALS = "share/doc/VxPrinterStatus/VxPrinterStatus.spdx.json"
 OBJDUMP = "x86_64-w64-mingw32-objdump"
+
+
+# What installer.nsi itself adds.
+OWN_FILES = ["uninstall.exe", "uninstall/agent.json", "uninstall/icon.ico"]
 
 
 def files_below(folder):
@@ -100,6 +105,12 @@ def folders_of(paths):
     return sorted(found - {"."}, key=lambda folder: (-folder.count("/"), folder))
 
 
+def write_list(file, paths):
+    lines = ["[files]", *(path.replace("/", "\\") + "=1" for path in paths),
+             *(path.replace("/", "\\") + "\\=1" for path in folders_of(paths))]
+    file.write_text("\r\n".join(lines) + "\r\n", encoding="utf-16")
+
+
 def lists(staged, assignment, folder):
     folder.mkdir()
     owners = [line.split("\t") for line in assignment.read_text(encoding="utf-8").splitlines()]
@@ -110,19 +121,19 @@ def lists(staged, assignment, folder):
         odd = [path for path in paths if re.search(r'[=;\[\]\r\n"\\]', path)]
         if odd:
             sys.exit(f"installer_files: unexpected characters in {', '.join(map(repr, odd))}")
-        lines = ["[files]", *(path.replace("/", "\\") + "=1" for path in paths),
-                 *(path.replace("/", "\\") + "\\=1" for path in folders_of(paths))]
-        (folder / f"{component}.ini").write_text("\r\n".join(lines) + "\r\n", encoding="utf-16")
+        write_list(folder / f"{component}.ini", paths)
         script.append(f"!macro InstallFilesOf_{component}")
         now = None
         for path in paths:
             place = pathlib.PurePosixPath(path).parent.as_posix().replace("/", "\\")
             if place != now:
-                script.append(f'    SetOutPath "$INSTDIR\\{place}"')
+                script.append(f'    SetOutPath "${{TEMPORARY}}\\new\\{place}"')
                 now = place
             script.append(f"    File {quoted(str(staged / path))}")
-        script += ['    SetOutPath "$INSTDIR\\uninstall"', f"    File {quoted(str(folder / f'{component}.ini'))}",
+        script += ['    SetOutPath "${TEMPORARY}\\new\\uninstall"',
+                   f"    File {quoted(str(folder / f'{component}.ini'))}",
                    "!macroend"]
+    write_list(folder / "own.ini", OWN_FILES)
     (folder / "files.nsh").write_text("\n".join(script) + "\n", encoding="utf-8")
 
 

@@ -2,10 +2,11 @@
 # Copyright The VxPrinterStatus authors
 """Installs, uses, upgrades and removes the product with its installer, in new Wine prefixes.
 
-Usage: test_installer.py STAGED_FOLDER ASSIGNMENT NEW OLD ADD_PRINTER [TEST...]
+Usage: test_installer.py STAGED_FOLDER ASSIGNMENT NEW OLD HELPERS [TEST...]
 
 NEW is the installer of STAGED_FOLDER. OLD is one of version 0.9.0, which also has the files OLD_FILES of the command-line
-tools. scripts/test-installer makes all of them. The programs find no DLLs but those that were installed and Wine's own.
+tools, and another CHANGED_FILE. HELPERS is a folder with the programs that the tests use. scripts/test-installer makes
+all of them. The programs find no DLLs but those that were installed and Wine's own.
 """
 import contextlib
 import hashlib
@@ -20,17 +21,25 @@ import tempfile
 import time
 import unittest
 
-STAGED, ASSIGNMENT, NEW, OLD, ADD_PRINTER = map(pathlib.Path, sys.argv[1:6])
+STAGED, ASSIGNMENT, NEW, OLD, HELPERS = map(pathlib.Path, sys.argv[1:6])
+ADD_PRINTER = HELPERS / "add_printer.exe"
+HOLD_FILE = HELPERS / "hold_file.exe"
+FULL_DISK = HELPERS / "full_disk.so"
 OLD_VERSION = "0.9.0"
 NEW_VERSION = re.search(r"-([0-9.]+)-win64", NEW.name).group(1)
 OLD_FILES = ("bin/oldtool.dll", "share/VxPrinterStatus/old/notes.txt")
+CHANGED_FILE = "include/VxPrinterStatus/printer_types.h"
+# One of both versions that takes its place after the changed one.
+LATER_FILE = "lib/cmake/VxPrinterStatus/VxPrinterStatusConfig.cmake"
 # In seconds; ends what hangs.
 LIMIT = 300
 FOLDER = "C:\\Program Files\\VxPrinterStatus"
 CONFIG = "C:\\ProgramData\\VxPrinterStatus\\agent.json"
 UNINSTALL = "HKLM\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\VxPrinterStatus"
 OWN_FILES = {"uninstall.exe", "uninstall/icon.ico", "uninstall/agent.json"}
-WRONG_OPTION, OLD_WINDOWS, NEWER_INSTALLED, IN_USE, OTHER_FOLDER, SERVICE, NO_FOLDER = 3, 4, 6, 7, 8, 9, 11
+TEMPORARY = "VxPrinterStatus-setup.tmp"
+FAILED, WRONG_OPTION, OLD_WINDOWS, NEWER_INSTALLED, IN_USE, OTHER_FOLDER, SERVICE = 2, 3, 4, 6, 7, 8, 9
+NO_FOLDER, FILES_OF_OTHERS, NOT_PUT_BACK, NOT_STARTED = 11, 12, 13, 14
 sys.path.append(str(pathlib.Path(__file__).parent))
 from test_package import PRINTERS, foreign_dlls  # noqa: E402
 
@@ -74,6 +83,8 @@ class Installer(unittest.TestCase):
         self.environment = {key: value for key, value in os.environ.items() if key not in ("DISPLAY", "WAYLAND_DISPLAY")}
         self.environment.update(WINEPREFIX=str(self.prefix), WINEPATH="", WINEDEBUG="-all", LC_ALL="C.UTF-8",
                                 WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d", HOME=str(self.scratch))
+        # A command that starts programs in another way.
+        self.launcher = ()
         self.addCleanup(self.end_wine)
         self.quietly("wine", "wineboot", "-i")
         self.quietly("wineserver", "-w")
@@ -84,7 +95,7 @@ class Installer(unittest.TestCase):
         self.wine("cmd", "/c", "exit")
 
     def quietly(self, *command):
-        subprocess.run(command, env=self.environment, check=False, timeout=LIMIT, stdin=subprocess.DEVNULL,
+        subprocess.run((*self.launcher, *command), env=self.environment, check=False, timeout=LIMIT, stdin=subprocess.DEVNULL,
                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def end_wine(self):
@@ -95,16 +106,35 @@ class Installer(unittest.TestCase):
         """Runs a Windows program and returns what it printed. The output is a file, because a service that is started
         on the way keeps a pipe open."""
         with tempfile.TemporaryFile(dir=self.scratch) as output:
-            status = subprocess.run(("wine", *map(str, command)), env={**self.environment, **environment}, check=False,
-                                    stdin=subprocess.DEVNULL, stdout=output, stderr=output, timeout=LIMIT).returncode
+            status = subprocess.run((*self.launcher, "wine", *map(str, command)), check=False, timeout=LIMIT,
+                                    env={**self.environment, **environment}, stdin=subprocess.DEVNULL, stdout=output,
+                                    stderr=output).returncode
             output.seek(0)
             text = output.read().decode("utf-8", "replace").replace("\r\n", "\n")
         if expected is not None:
             self.assertEqual(status, expected, f"{command}\n{text}")
         return text
 
-    def install(self, installer, *options, expected=0):
-        return self.wine(installer, "/S", *options, expected=expected)
+    def install(self, installer, *options, expected=0, **environment):
+        return self.wine(installer, "/S", *options, expected=expected, **environment)
+
+    def install_on_full_disk(self, installer, megabytes, *options):
+        """Fails because no more than some megabytes can be written below the folder of the new files."""
+        text = self.install(installer, *options, expected=FAILED, LD_PRELOAD=str(FULL_DISK),
+                            VX_FULL_DISK_FOLDER=f"/{TEMPORARY}/new/", VX_FULL_DISK_BYTES=str(megabytes * 1024 * 1024))
+        self.assertRegex(text, re.escape(f"A file could not be written to {FOLDER}.") + ".* Nothing was changed")
+
+    @contextlib.contextmanager
+    def held(self, name, folder=FOLDER):
+        """Keeps a file open so that nobody can replace it."""
+        with subprocess.Popen(("wine", str(HOLD_FILE), f"{folder}\\{name}".replace("/", "\\")), env=self.environment,
+                              stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL) as holder:
+            self.assertEqual(holder.stdout.readline().strip(), b"held")
+            try:
+                yield
+            finally:
+                holder.stdin.close()
+                self.assertEqual(holder.wait(LIMIT), 0)
 
     def uninstall(self, folder=FOLDER, expected=0):
         """Removes the product with a copy of its uninstaller, which can be waited for."""
@@ -295,13 +325,54 @@ class Service(Installer):
             finally:
                 monitor.kill()
 
-    def test_configuration_that_is_wrong_leaves_everything_else_installed(self):
+    def test_new_installation_that_fails_leaves_no_service_and_no_configuration(self):
+        before = self.state()
+        self.install_on_full_disk(NEW, 5, "/COMPONENTS=agent")
+        self.assert_same(before, self.state())
+
+    def test_upgrade_that_fails_leaves_the_service_as_it_was(self):
+        self.configure()
+        self.start_spooler()
+        self.install(OLD, "/COMPONENTS=agent,tools")
+        self.assertEqual(self.service_state(), 4)
+        key = "HKLM\\System\\CurrentControlSet\\Services\\vxprintagent"
+        service, before = self.wine("reg", "query", key, "/s"), self.files(FOLDER)
+
+        self.install_on_full_disk(NEW, 5)
+        self.assertEqual((self.files(FOLDER), self.service_state()), (before, 4))
+        # Without the agent: its service is gone for a while.
+        with self.held(LATER_FILE):
+            self.install(NEW, "/COMPONENTS=tools", expected=FAILED)
+        self.assertEqual((self.files(FOLDER), self.service_state()), (before, 4))
+        self.assertEqual(self.wine("reg", "query", key, "/s"), service)
+        self.assertEqual((self.value("DisplayVersion"), self.value("Components")), (OLD_VERSION, "library,tools,agent"))
+
+    def test_configuration_that_is_wrong_leaves_nothing_installed(self):
         config = self.configure()
         config.write_text('{\n"site": "bremen",\n"mqt": {}}', encoding="utf-8")
+        before = self.state()
         text = self.install(NEW, "/COMPONENTS=agent", expected=SERVICE)
-        self.assertRegex(text, r"could not be registered")
+        self.assertRegex(text, r"could not be registered. Nothing was changed")
         self.assertRegex(text, r"agent\.json:3: mqt: unknown key")
         self.assertIsNone(self.service_state())
+        self.assert_same(before, self.state())
+
+    def test_configuration_that_is_wrong_leaves_the_installed_version(self):
+        self.install(OLD, "/COMPONENTS=tools")
+        self.configure().write_text("{", encoding="utf-8")
+        before = self.state()
+        self.install(NEW, "/COMPONENTS=tools,agent", expected=SERVICE)
+        self.assert_same(before, self.state())
+
+    def test_service_that_does_not_start_after_an_upgrade(self):
+        config = self.configure()
+        self.start_spooler()
+        self.install(OLD, "/COMPONENTS=agent")
+        self.assertEqual(self.service_state(), 4)
+        config.write_text("{", encoding="utf-8")
+        text = self.install(NEW, expected=NOT_STARTED)
+        self.assertRegex(text, "Everything is installed, but the service vxprintagent could not be started")
+        self.assertEqual(self.service_state(), 1)
         self.assertEqual(self.installed(), assigned("library", "agent") | OWN_FILES)
 
 
@@ -337,6 +408,121 @@ class Upgrade(Installer):
         self.assertIsNone(self.value("DisplayName"))
 
 
+class Undone(Installer):
+    def test_new_installation_on_a_disk_that_fills_up(self):
+        before = self.state()
+        self.install_on_full_disk(NEW, 5)
+        # Later, and in folders that did not exist.
+        (self.drive / "mine").mkdir()
+        before[1]["mine"] = ""
+        text = self.install(NEW, "/D=C:\\mine\\a\\b", expected=FAILED, LD_PRELOAD=str(FULL_DISK),
+                            VX_FULL_DISK_FOLDER=f"/{TEMPORARY}/new/uninstall", VX_FULL_DISK_BYTES="100000")
+        self.assertIn("A file could not be written to C:\\mine\\a\\b.", text)
+        self.assert_same(before, self.state())
+
+    def test_upgrade_with_a_file_that_cannot_be_replaced(self):
+        self.install(OLD, "/COMPONENTS=tools,window")
+        before = self.state()
+        self.install_on_full_disk(NEW, 5)
+        with self.held(LATER_FILE):
+            text = self.install(NEW, expected=FAILED)
+        self.assertIn(f"{FOLDER}\\{LATER_FILE} could not be replaced.".replace("/", "\\"), text)
+        self.assert_same(before, self.state())
+        self.assertIn(NEW_VERSION, self.wine(FOLDER + "\\bin\\vxprintmon.exe", "--version"))
+
+        self.install(NEW)
+        self.assertEqual(self.installed(), assigned("library", "tools", "window") | OWN_FILES)
+        self.assertEqual(self.files(FOLDER)[CHANGED_FILE], digest(STAGED / CHANGED_FILE))
+
+    def test_installer_that_was_ended_in_the_middle(self):
+        """What it leaves when files have begun to take their places."""
+        self.install(OLD, "/COMPONENTS=tools")
+        before = self.state()
+        folder = self.path(FOLDER)
+        temporary = folder / TEMPORARY
+        for name in ("lists", "new/bin", "new/share/later", "old/bin"):
+            (temporary / name).mkdir(parents=True)
+        # The first file is new, the second replaced, the third has not yet taken the place that is free for it, the
+        # fourth and fifth are still to come.
+        (folder / "bin/first.dll").write_text("new", encoding="ascii")
+        (folder / "bin/rolldb.exe").rename(temporary / "old/bin/rolldb.exe")
+        (folder / "bin/rolldb.exe").write_text("new", encoding="ascii")
+        (folder / "uninstall.exe").rename(temporary / "old/uninstall.exe")
+        (temporary / "new/uninstall.exe").write_text("new", encoding="ascii")
+        (temporary / "new/bin/vxipc.exe").write_text("new", encoding="ascii")
+        (temporary / "new/share/later/file.txt").write_text("new", encoding="ascii")
+        (folder / "share/later").mkdir()
+        (temporary / "new/uninstall").mkdir()
+        for name in ("library", "tools"):
+            shutil.copy(folder / f"uninstall/{name}.ini", temporary / f"new/uninstall/{name}.ini")
+        for name, lines in (("library", ("bin\\",)), ("own", ("uninstall.exe",)),
+                            ("tools", ("bin\\first.dll", "bin\\rolldb.exe", "bin\\vxipc.exe", "share\\later\\file.txt",
+                                       "share\\later\\", "bin\\"))):
+            (temporary / f"lists/{name}.ini").write_text("\r\n".join(["[files]", *(f"{line}=1" for line in lines), ""]),
+                                                         encoding="utf-16")
+        shutil.copytree(folder, self.scratch / "copy")
+
+        # One of these files is in use.
+        with self.held("bin/first.dll"):
+            text = self.install(NEW, expected=NOT_PUT_BACK)
+        self.assertIn(f"{FOLDER}\\bin\\first.dll could not be put back.", text)
+        self.assertTrue((temporary / "lists").exists())
+
+        # The installer puts everything back even if it then goes no further.
+        (self.scratch / "copy").rename(self.scratch / "again")
+        with self.held(LATER_FILE):
+            self.install(NEW, expected=FAILED)
+        self.assert_same(before, self.state())
+
+        shutil.rmtree(folder)
+        shutil.copytree(self.scratch / "again", folder)
+        self.install(NEW)
+        self.assertEqual(self.installed(), assigned("library", "tools") | OWN_FILES)
+        self.assertFalse(temporary.exists())
+        self.uninstall()
+        self.assertFalse(folder.exists())
+
+
+class FilesOfOthers(Installer):
+    def test_files_of_the_same_names_are_refused_and_others_stay(self):
+        folder = self.path("C:\\Tools")
+        for name in ("bin/vxipc.exe", "uninstall.exe", "uninstall/agent.ini", "uninstall/mine.ini", "LICENSES", "share"):
+            self.assertFalse(folder.exists())
+            file = folder / name
+            file.parent.mkdir(parents=True)
+            file.write_text("[files]\nbin\\mine.txt=1\n", encoding="ascii")
+            shown = r"uninstall\*.ini" if name.endswith(".ini") else name.replace("/", "\\")
+            if name == "LICENSES":
+                self.install(NEW, "/COMPONENTS=tools", "/D=C:\\Tools")
+                self.uninstall("C:\\Tools")
+                self.assertEqual(self.installed("C:\\Tools"), {name})
+            else:
+                self.assert_refused(FILES_OF_OTHERS, re.escape(f"C:\\Tools\\{shown} exists already"), NEW,
+                                    "/D=C:\\Tools")
+            shutil.rmtree(folder)
+        # A folder where a file belongs, and one of a component that is not installed.
+        (folder / "bin/vxipc.exe").mkdir(parents=True)
+        self.assert_refused(FILES_OF_OTHERS, r"bin\\vxipc\.exe exists already", NEW, "/D=C:\\Tools")
+        self.install(NEW, "/COMPONENTS=library", "/D=C:\\Tools")
+        self.uninstall("C:\\Tools")
+        self.assertEqual(set(self.files("C:\\Tools")), {"bin", "bin/vxipc.exe"})
+
+    def test_upgrade_refuses_what_somebody_has_put_in_the_place_of_a_new_file(self):
+        self.install(NEW, "/COMPONENTS=library")
+        (self.path(FOLDER) / "bin/vxipc.exe").write_text("mine", encoding="ascii")
+        self.assert_refused(FILES_OF_OTHERS, r"bin\\vxipc\.exe exists already", NEW, "/COMPONENTS=tools")
+        self.uninstall()
+        self.assertEqual(self.installed(), {"bin/vxipc.exe"})
+
+    def test_registry_that_was_lost(self):
+        # Windows was installed anew, and the folder is on another disk.
+        self.install(OLD, "/COMPONENTS=tools")
+        self.wine("reg", "delete", UNINSTALL, "/f")
+        self.install(NEW, "/COMPONENTS=tools")
+        self.assertEqual(self.installed(), assigned("library", "tools") | OWN_FILES)
+        self.assertEqual(self.value("DisplayVersion"), NEW_VERSION)
+
+
 class Refused(Installer):
     def test_wrong_options(self):
         self.assert_refused(WRONG_OPTION, r'"tolls" is not known\. Expected .* agent', NEW, "/COMPONENTS=tools,tolls")
@@ -349,6 +535,23 @@ class Refused(Installer):
     def test_drive_that_is_full(self):
         # There is no space in /proc.
         self.assert_refused(NO_FOLDER, r"too little space for Z:\\proc\\vx: [1-9]\d MB", NEW, "/D=Z:\\proc\\vx")
+
+    def test_folder_that_cannot_be_written(self):
+        (self.drive / "file.txt").write_text("mine", encoding="ascii")
+        # NSIS itself would take the usual folder instead of these: below a file, on a drive that does not exist.
+        for folder in (r"C:\file.txt\vx", r"C:\file.txt\vx\deeper", r"Q:\vx", "relative"):
+            self.assert_refused(NO_FOLDER, re.escape(f"Nothing can be written to {folder}."), NEW, f"/D={folder}")
+
+        # One in which nobody may write. The rights keep root out, too, without the capability to pass over them.
+        if os.geteuid() == 0:
+            self.end_wine()
+            self.launcher = ("setpriv", "--bounding-set=-dac_override,-dac_read_search",
+                             "--inh-caps=-dac_override,-dac_read_search")
+            self.quietly("wineserver", "-p")
+        (self.drive / "mine").mkdir()
+        (self.drive / "mine").chmod(0o555)
+        for folder in (r"C:\mine", r"C:\mine\a\b"):
+            self.assert_refused(NO_FOLDER, re.escape(f"Nothing can be written to {folder}."), NEW, f"/D={folder}")
 
     def test_windows_that_is_too_old(self):
         self.wine("reg", "add", "HKCU\\Software\\Wine", "/v", "Version", "/d", "win7", "/f")
