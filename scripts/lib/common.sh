@@ -191,6 +191,19 @@ build_windows() { build_preset windows all "about 6 minutes on two cores, less w
 windows_packages=(ca-certificates ccache cmake g++-mingw-w64-x86-64-posix ninja-build python3
     qt6-base-dev qt6-base-dev-tools qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
 
+# make_for_packages BUILD_FOLDER: makes what is packed but not compiled, where cmake --install finds it: the
+# reference and the wheel of the Python binding, unpacked.
+make_for_packages() {
+    local build=$1 wheel
+    say "making the reference"
+    "$root/scripts/docs" --output "$build/reference" --no-picture >&2
+    say "making the Python package"
+    rm -rf "$build/wheel" "$build/python"
+    wheel=$("$root/scripts/python-wheel" "$build/wheel")
+    python3 -m zipfile -e "$wheel" "$build/python"
+    rm -rf "$build/wheel"
+}
+
 # For the installer for Windows.
 # shellcheck disable=SC2034
 installer_packages=(librsvg2-bin nsis)
