@@ -2,7 +2,7 @@
 # Copyright The VxPrinterStatus authors
 #
 # What is installed for those who write hosts, besides headers and libraries: the bindings, the example hosts and the
-# reference. make_for_packages in scripts/lib/common.sh makes the reference and the Python package; without
+# reference. make_reference and make_python_package in scripts/lib/common.sh make these in the build folder; without
 # them an installation has neither.
 
 set(VX_REFERENCE_FOLDER "${PROJECT_BINARY_DIR}/reference")

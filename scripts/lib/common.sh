@@ -191,13 +191,15 @@ build_windows() { build_preset windows all "about 6 minutes on two cores, less w
 windows_packages=(ca-certificates ccache cmake g++-mingw-w64-x86-64-posix ninja-build python3
     qt6-base-dev qt6-base-dev-tools qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
 
-# make_for_packages BUILD_FOLDER: makes what is packed but not compiled, where cmake --install finds it: the
-# reference and the wheel of the Python binding, unpacked.
-make_for_packages() {
+# make_reference BUILD_FOLDER: makes the reference where cmake --install finds it.
+make_reference() {
+    say "making the reference (about half a minute)"
+    "$root/scripts/docs" --output "$1/reference" --no-picture >&2
+}
+
+# make_python_package BUILD_FOLDER: makes the files of the Python package where cmake --install finds them.
+make_python_package() {
     local build=$1 wheel
-    say "making the reference"
-    "$root/scripts/docs" --output "$build/reference" --no-picture >&2
-    say "making the Python package"
     rm -rf "$build/wheel" "$build/python"
     wheel=$("$root/scripts/python-wheel" "$build/wheel")
     python3 -m zipfile -e "$wheel" "$build/python"
@@ -222,6 +224,7 @@ stage_installer() {
     assignment=$build/installer/assignment.txt
     rm -rf "$build/installer"
     mkdir -p "$build/installer"
+    make_reference "$build"
     say "staging"
     "$root/scripts/lib/stage-windows" "$staged" "$build" "$VX_QT_MINGW" "$VX_MQTT_MINGW"
     python3 -B "$root/scripts/lib/installer_files.py" assign "$build" "$staged" >"$assignment" ||

@@ -16,7 +16,8 @@ with contextlib.closing(sqlite3.connect(f"file:{HELP}?mode=ro", uri=True)) as fi
     namespaces = [name for name, in file.execute("SELECT Name FROM NamespaceTable")]
     # Each is compressed by Qt, which writes the length before it.
     pages = {name: zlib.decompress(data[4:]) for name, data in file.execute(
-        "SELECT FileNameTable.Name, Data FROM FileNameTable JOIN FileDataTable ON FileId = FileDataTable.Id")}
+        "SELECT FileNameTable.Name, Data FROM FileNameTable JOIN FileDataTable ON FileId = FileDataTable.Id "
+        "WHERE Data NOTNULL")}
 if namespaces != ["vxprinterstatus"]:
     sys.exit(f"{HELP} has the namespaces {namespaces}, expected vxprinterstatus")
 expected = {path.name for path in PAGES.glob("*.html")}
