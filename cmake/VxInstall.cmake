@@ -10,6 +10,7 @@ set(VX_PACKAGE_FOLDER "${CMAKE_INSTALL_LIBDIR}/cmake/VxPrinterStatus")
 set(VX_HEADER_FOLDER "${CMAKE_INSTALL_INCLUDEDIR}/VxPrinterStatus")
 set(VX_DATA_FOLDER "${CMAKE_INSTALL_DATADIR}/VxPrinterStatus")
 include(VxInstallFleet)
+include(VxInstallHosts)
 
 # vx_install_library(<target> <component> <export>)
 #

@@ -116,7 +116,17 @@ vx_package(development libvxprinterstatus-dev
     SUMMARY "finds label printers and watches them - development files"
     TEXT ${VX_PRODUCT_TEXT} " "
         "This package has what hosts are built with: the headers of the library, the"
-        "kit and the widgets, a CMake package, and files for pkg-config.")
+        "kit and the widgets, a CMake package, files for pkg-config, and the sources of"
+        "the binding for C#.")
+vx_package(python python3-vxprinterstatus INDEPENDENT
+    SECTION python
+    WITH kit
+    DEPENDS "python3:any (>= 3.9)"
+    SUGGESTS vxprinterstatus-doc
+    SUMMARY "finds label printers and watches them - Python"
+    TEXT ${VX_PRODUCT_TEXT} " "
+        "This package has the module vxprinterstatus, with which hosts in Python read"
+        "and watch printers. It has type hints.")
 vx_package(data vxprinterstatus-data INDEPENDENT
     SECTION misc
     SUMMARY "catalogue of supplies for label printers"
@@ -159,8 +169,9 @@ vx_package(documentation vxprinterstatus-doc INDEPENDENT
     SUMMARY "finds label printers and watches them - documentation"
     TEXT ${VX_PRODUCT_TEXT} " "
         "This package has the guides for those who write hosts and who look after"
-        "printers, example configurations of brokers and of Prometheus, and clients in"
-        "Python and JavaScript.")
+        "printers, the reference of all classes for browsers and for Qt Creator, example"
+        "configurations of brokers and of Prometheus, and hosts and clients in several"
+        "languages to start from.")
 set(CPACK_COMPONENTS_ALL ${VX_PACKAGED})
 
 # For packaging/debian/stage.cmake.

@@ -8,6 +8,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
+#include <QtCore/QObject>
 #include <QtCore/QTranslator>
 
 #include <array>
@@ -44,6 +45,18 @@ std::unique_ptr<QCoreApplication> makeApplication()
     static int argumentCount = 1;
     const KeptLocale kept;
     return std::make_unique<QCoreApplication>(argumentCount, arguments.data());
+}
+
+// When the process exits, Qt releases the data of the application's thread: that is usually the
+// main thread, which does not end and so cannot do it. The thread of the sessions ends before and
+// has released them once already. Plugins, which Qt moves to the application's thread, would then
+// use them after they were freed. This object shares them, and so makes up for the second release.
+void holdDataOfThread()
+{
+    // Volatile, so that the pointer is kept: those who search for leaks find the object by it.
+    static QObject* volatile object = nullptr;
+    if (!object)
+        object = new QObject;
 }
 
 void keepLog(const QString& fileName)
@@ -84,6 +97,7 @@ HostProcess::HostProcess(const SessionOptions& options)
         return;
     }
     m_application = makeApplication();
+    holdDataOfThread();
     keepLog(options.logFile);
     const QLocale locale = localeOf(options.language);
     loadTexts(QStringLiteral("vxprinterstatus"), locale);

@@ -18,6 +18,16 @@ import subprocess
 import sys
 
 ELF = b"\x7fELF"
+PARTS_OF_PAGES = """
+The pages in /usr/share/doc/vxprinterstatus-doc/html, and those in the help file, have styles, scripts and pictures
+that Doxygen has added, under the licence above:
+
+  navtree.js, resize.js, dynsections.js, search.js: Copyright 1997-2020 by Dimitri van Heesch
+  jquery.js: jQuery, Copyright OpenJS Foundation and other contributors;
+    jQuery UI, Copyright jQuery Foundation and other contributors;
+    jQuery UI Touch Punch, Copyright 2011-2014 Dave Furfero;
+    SmartMenus jQuery Plugin, Copyright Vasil Dinkov, Vadikom Web Ltd.
+"""
 
 
 def write(path, data):
@@ -43,6 +53,8 @@ def copyright_of(package, sources):
     if package == "vxprinterstatus-web":
         text += ("\nThe file /usr/share/VxPrinterStatus/web/vendor/mqtt.js is made of packages of others.\n"
                  + (sources / "web/vendor/LICENSES.txt").read_text(encoding="utf-8"))
+    if package == "vxprinterstatus-doc":
+        text += PARTS_OF_PAGES
     return text
 
 
@@ -95,6 +107,18 @@ def move_page_configuration(folder):
     beside.symlink_to("/etc/vxprinterstatus/page.json")
 
 
+def arrange_documentation(folder, package):
+    """Debian has a package's pages in its own folder, and what to start from among its examples."""
+    documents = folder / "usr/share/doc" / package
+    pages = folder / "usr/share/doc/VxPrinterStatus"
+    documents.mkdir(parents=True, exist_ok=True)
+    (pages / "html").rename(documents / "html")
+    pages.rmdir()
+    (documents / "examples").symlink_to("../../VxPrinterStatus/examples")
+    # The same place as in the sources, so what the guides say of them holds.
+    (folder / "usr/share/VxPrinterStatus/examples/clients").symlink_to("../clients")
+
+
 def is_script(path):
     with path.open("rb") as file:
         return file.read(2) == b"#!"
@@ -131,6 +155,8 @@ def main():
         add_files(folder, package, options, seconds)
         if package == "vxprinterstatus-web":
             move_page_configuration(folder)
+        if package == "vxprinterstatus-doc":
+            arrange_documentation(folder, package)
         set_modes_and_times(folder, seconds)
         if has_programs(folder):
             # CPack removes the folder when dpkg-shlibdeps has read it.

@@ -191,6 +191,21 @@ build_windows() { build_preset windows all "about 6 minutes on two cores, less w
 windows_packages=(ca-certificates ccache cmake g++-mingw-w64-x86-64-posix ninja-build python3
     qt6-base-dev qt6-base-dev-tools qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
 
+# make_reference BUILD_FOLDER: makes the reference where cmake --install finds it.
+make_reference() {
+    say "making the reference (about half a minute)"
+    "$root/scripts/docs" --output "$1/reference" --no-picture >&2
+}
+
+# make_python_package BUILD_FOLDER: makes the files of the Python package where cmake --install finds them.
+make_python_package() {
+    local build=$1 wheel
+    rm -rf "$build/wheel" "$build/python"
+    wheel=$("$root/scripts/python-wheel" "$build/wheel")
+    python3 -m zipfile -e "$wheel" "$build/python"
+    rm -rf "$build/wheel"
+}
+
 # For the installer for Windows.
 # shellcheck disable=SC2034
 installer_packages=(librsvg2-bin nsis)
@@ -210,6 +225,7 @@ stage_installer() {
     assignment=$build/installer/assignment.txt
     rm -rf "$build/installer"
     mkdir -p "$build/installer"
+    make_reference "$build"
     say "staging"
     "$root/scripts/lib/stage-windows" "$staged" "$build" "$VX_QT_MINGW" "$VX_MQTT_MINGW"
     python3 -B "$root/scripts/lib/installer_files.py" assign "$build" "$staged" >"$assignment" ||

@@ -67,6 +67,7 @@ class Component:
         self.reason = entry["reason"]
         self.debian = entry.get("debian", [])
         self.files = entry.get("files", [])
+        self.texts = entry.get("texts", [])
         self.evidence = re.compile(entry["evidence"].encode()) if "evidence" in entry else None
         self.version = re.compile(entry["version"].encode()) if "version" in entry else None
 
@@ -88,6 +89,10 @@ class Licences:
     def of_file(self, name):
         return next((each for each in self.components
                      if any(fnmatch.fnmatchcase(name.lower(), pattern) for pattern in each.files)), None)
+
+    def of_text(self, place):
+        return next((each for each in self.components
+                     if any(fnmatch.fnmatchcase(place, pattern) for pattern in each.texts)), None)
 
     def of_debian(self, source):
         return next((each for each in self.components
@@ -245,9 +250,14 @@ class Bill:
     def find_owner(self, file):
         if file.place.endswith("vendor/mqtt.js"):
             self.find_packages_of_page(file)
-        if not file.is_linked or self.licences.is_own(file.path.name):
+        if not file.is_linked:
+            component = self.licences.of_text(file.place)
+            if not component:
+                return
+        elif self.licences.is_own(file.path.name):
             return
-        component = self.licences.of_file(file.path.name)
+        else:
+            component = self.licences.of_file(file.path.name)
         if not component:
             raise Mistake(f"{file.place}: it is neither ours nor of a component that {self.licences.path.name} "
                           "names; add it there with its licence")

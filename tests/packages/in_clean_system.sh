@@ -3,7 +3,7 @@
 # Copyright The VxPrinterStatus authors
 #
 # The part of scripts/test-packages that runs in the clean system, as root: /older and /packages have the packages,
-# /test the sources of hosts. It leaves the system as it was, but for what this script makes as people would.
+# /test this script and its helpers. It leaves the system as it was, but for what this script makes as people would.
 set -eu
 
 say() { printf 'clean system: %s\n' "$*" >&2; }
@@ -73,9 +73,25 @@ needed=$(apt-get -s install --no-install-recommends /older/*.deb | sed -n 's/^In
 quietly apt-get -q install -y --no-install-recommends $needed g++ cmake make pkg-config qt6-l10n-tools qt6-tools-dev
 files >/tmp/before
 
+use_python() {
+    say "Python"
+    # The module finds the library by itself.
+    expect 'vxprinterstatus is installed' python3 /test/packages/installed_python.py
+    expect Shipping env VX_VIRTUAL_FLEET=built-in VX_VIRTUAL_SPEED=8 python3 "$@"
+}
+
+say "installing the Python package alone"
+quietly apt-get -q install -y --no-install-recommends /older/python3-vxprinterstatus_*.deb \
+    /older/libvxprinterstatus1_*.deb /older/libvxprinterstatuskit1_*.deb
+! dpkg-query -W libvxprinterstatus-dev >/dev/null 2>&1 || fail "the Python package needs the development files"
+use_python -c 'import vxprinterstatus
+with vxprinterstatus.Session() as session:
+    print(*(reading.name for reading in session.readings()))'
+
 say "installing the older version"
 quietly apt-get -q install -y --no-install-recommends /older/*.deb
 older=$(dpkg-query -W -f '${Version}' libvxprinterstatus1)
+examples=/usr/share/doc/vxprinterstatus-doc/examples
 
 use() {
     say "using version $(dpkg-query -W -f '${Version}' vxprinterstatus-tools)"
@@ -104,6 +120,17 @@ use() {
     [ "$(wc -c </home/tester/window.png)" -gt 15000 ] ||
         fail "the picture of the window is nearly empty: $(wc -c </home/tester/window.png) bytes"
 
+    use_python "$examples/python_host/python_host.py" --catalogue /usr/share/VxPrinterStatus/roll.db --changes 1
+    # The name of a supply comes from the catalogue.
+    grep -q 'Vinyl.* m;' /tmp/output || fail "the host in Python has found no supply in the catalogue"
+
+    say "the reference"
+    expect 'vxprinterstatus.qch' python3 /test/packages/installed_reference.py
+    quietly python3 -B /test/check_links.py --html /usr/share/doc/vxprinterstatus-doc/html
+    for file in VxKit.cs VxKitNative.cs; do
+        [ -s "/usr/share/VxPrinterStatus/bindings/csharp/$file" ] || fail "the binding for C# has no $file"
+    done
+
     say "the agent"
     quietly runuser -u vxprintagent -- vxprintagent check --config /etc/vxprintagent/agent.json
     install -d -o vxprintagent /tmp/agent
@@ -125,24 +152,33 @@ use() {
 use
 
 say "building hosts with CMake"
-chown -R tester /test
-for host in minimal_host kit_host widgets_host; do
-    quietly runuser -u tester -- cmake -S "/test/$host" -B "/tmp/cmake-$host" -DCMAKE_BUILD_TYPE=Release
+quietly runuser -u tester -- cp -rL "$examples" /home/tester/examples
+for host in minimal_host kit_host widgets_host c_host; do
+    quietly runuser -u tester -- cmake -S "/home/tester/examples/$host" -B "/tmp/cmake-$host" -DCMAKE_BUILD_TYPE=Release
     quietly runuser -u tester -- cmake --build "/tmp/cmake-$host"
 done
 say "building hosts with pkg-config"
 for host in minimal_host:vxprinterstatus kit_host:vxprinterstatuskit; do
     # shellcheck disable=SC2046 # words
-    quietly runuser -u tester -- g++ -std=c++20 -O1 -o "/tmp/pkg-config-${host%:*}" "/test/${host%:*}/main.cpp" \
+    quietly runuser -u tester -- g++ -std=c++20 -O1 -o "/tmp/pkg-config-${host%:*}" \
+        "/home/tester/examples/${host%:*}/main.cpp" \
         $(pkg-config --cflags --libs "${host#*:}")
 done
 # shellcheck disable=SC2046
-quietly runuser -u tester -- g++ -std=c++20 -O1 -o /tmp/pkg-config-widgets_host /test/widgets_host/main.cpp \
-    $(pkg-config --cflags --libs vxprinterstatuswidgets)
+quietly runuser -u tester -- g++ -std=c++20 -O1 -o /tmp/pkg-config-widgets_host \
+    /home/tester/examples/widgets_host/main.cpp $(pkg-config --cflags --libs vxprinterstatuswidgets)
+# shellcheck disable=SC2046
+quietly runuser -u tester -- gcc -std=c99 -pedantic-errors -o /tmp/pkg-config-c_host \
+    /home/tester/examples/c_host/main.c $(pkg-config --cflags --libs vxprinterstatuskit)
 
 run_hosts() {
     for host in /tmp/cmake-kit_host/kit_host /tmp/pkg-config-kit_host; do
         expect Shipping env VX_VIRTUAL_FLEET=built-in "$host" 3
+    done
+    for host in /tmp/cmake-c_host/c_host /tmp/pkg-config-c_host; do
+        # It ends with its input.
+        expect Shipping env VX_VIRTUAL_FLEET=built-in "$host" /usr/share/VxPrinterStatus/roll.db
+        grep -q 'Vinyl.* m' /tmp/output || fail "$host has found no supply in the catalogue"
     done
     for host in /tmp/cmake-minimal_host/minimal_host /tmp/pkg-config-minimal_host; do
         VX_VIRTUAL_FLEET=built-in runuser -u tester -- "$host" >/tmp/output 2>&1 &

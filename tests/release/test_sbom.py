@@ -216,6 +216,25 @@ class Bill(unittest.TestCase):
         bundle = next(entry for entry in document["files"] if entry["fileName"].endswith("mqtt.js"))
         self.assertEqual(bundle["licenseConcluded"], "0BSD AND BSD-3-Clause AND ISC AND MIT")
 
+    def test_names_what_the_reference_contains(self):
+        """What Doxygen has added to the pages, and nothing that it has made of our own texts."""
+        folder = self.root / "usr/share/doc/package/html"
+        added = ["jquery.js", "navtree.js", "doxygen.css", "nav_f.png", "search/search.js", "search/close.svg"]
+        own = ["index.html", "navtreeindex0.js", "guides.js", "search/all_0.js", "document.html", "style.css"]
+        for name in added + own:
+            (folder / name).parent.mkdir(parents=True, exist_ok=True)
+            (folder / name).write_text(name, encoding="utf-8")
+        document = self.document()
+        self.assertEqual(list(faults_of(document)), [])
+        names = {entry["SPDXID"]: entry["name"] for entry in document["packages"]}
+        files = {entry["SPDXID"]: entry["fileName"].partition("/html/")[2] for entry in document["files"]}
+        owners = {files[each["relatedSpdxElement"]]: names[each["spdxElementId"]] for each in document["relationships"]
+                  if each["relationshipType"] == "CONTAINS" and files.get(each["relatedSpdxElement"])}
+        self.assertEqual(owners, {**dict.fromkeys(own, "vxprinterstatus"), **dict.fromkeys(added, "Doxygen"),
+                                  "jquery.js": "jQuery"})
+        contained = {whom for who, whom in self.relations(document, "CONTAINS") if who == "vxprinterstatus"}
+        self.assertLessEqual({"Doxygen", "jQuery"}, contained)
+
     def test_finds_what_is_linked_statically(self):
         """By texts that SQLite has, with its version."""
         shutil.copyfile(PROGRAM, self.root / "usr/bin/rolldb")

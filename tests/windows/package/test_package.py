@@ -7,6 +7,7 @@ Usage: test_package.py monitor ZIP ADD_PRINTER
        test_package.py consumer ZIP SOURCE_FOLDER CMAKE_OPTION...
        test_package.py site ZIP
        test_package.py bill ZIP
+       test_package.py hosts ZIP
 
 monitor:  in a new Wine prefix, with printers that ADD_PRINTER adds to Wine's spooler, the monitor
           lists and watches them and loads no DLL but the package's and Wine's own. The catalogue is
@@ -16,6 +17,8 @@ window:   the same for the window, which shows printers on the display
 consumer: the project of SOURCE_FOLDER finds the package's CMake package, compiles, links and starts.
 site:     the page, the configurations and the guides are there, the agent accepts its examples, and the
           licences of everything that others have written are there.
+hosts:    what people write hosts with is there: the bindings and the examples as in the sources, the reference without
+          a dead link, and the same as a help file.
 bill:     the bill of materials names every file of the package with its checksum, and what it is linked with.
 """
 import collections
@@ -27,6 +30,7 @@ import os
 import pathlib
 import re
 import shutil
+import sqlite3
 import struct
 import subprocess
 import sys
@@ -315,9 +319,32 @@ def test_bill(scratch, archive):
         check(re.match(r"\d+\.\d", entry.get("versionInfo", "")), f"the bill of materials has no version of {name}")
 
 
+def contents_of(folder):
+    return {path.relative_to(folder).as_posix(): path.read_bytes() for path in folder.rglob("*")
+            if path.is_file() and not {"__pycache__", ".mypy_cache"} & {*path.parts}}
+
+
+def test_hosts(scratch, archive):
+    package = unpack(archive, scratch / "unpacked")
+    for name in ("bindings/python", "bindings/csharp", "examples"):
+        installed, expected = contents_of(package / "share/VxPrinterStatus" / name), contents_of(SOURCES / name)
+        # The clients of the status service are elsewhere.
+        expected = {path: data for path, data in expected.items() if not path.startswith("clients/")}
+        check(expected and installed == expected,
+              f"{name} differs from the sources: {sorted(path for path, _ in installed.items() ^ expected.items())}")
+    reference = package / "share/doc/VxPrinterStatus"
+    run([sys.executable, "-B", SOURCES / "scripts/lib/check_links.py", "--html", reference / "html"], scratch)
+    with contextlib.closing(sqlite3.connect(f"file:{reference}/vxprinterstatus.qch?mode=ro", uri=True)) as file:
+        namespaces = file.execute("SELECT Name FROM NamespaceTable").fetchall()
+        pages = {name for name, in file.execute("SELECT Name FROM FileNameTable")}
+    check(namespaces == [("vxprinterstatus",)], f"the help file has the namespaces {namespaces}")
+    missing = sorted({path.name for path in (reference / "html").glob("*.html")} - pages)
+    check(len(pages) > 100 and not missing, f"the help file has {len(pages)} files, and not {missing}")
+
+
 def main():
     tests = {"monitor": (test_monitor, 2, 2), "window": (test_window, 2, 3), "consumer": (test_consumer, 2, 99),
-             "site": (test_site, 1, 1), "bill": (test_bill, 1, 1)}
+             "site": (test_site, 1, 1), "bill": (test_bill, 1, 1), "hosts": (test_hosts, 1, 1)}
     test, least, most = tests.get(sys.argv[1] if len(sys.argv) > 1 else "", (None, 0, 0))
     if not test or not least <= len(sys.argv) - 2 <= most:
         sys.exit(__doc__.strip())
