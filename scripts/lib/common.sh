@@ -97,7 +97,7 @@ site_packages=(nats-server prometheus prometheus-alertmanager python3-paho-mqtt)
 
 # shellcheck disable=SC2034
 test_packages=(bash fish groff man-db mandoc prometheus prometheus-alertmanager python3-prometheus-client
-    shellcheck zsh)
+    shellcheck valgrind zsh)
 
 # Ubuntu has Chromium as a snap only; there the page is not tested.
 chromium_packages=()
