@@ -78,7 +78,9 @@ class Impostor:
         os.chmod(self.path, 0o600)
         self.socket.listen()
         self.content = content
-        threading.Thread(target=self.serve, daemon=True).start()
+        self.is_ending = False
+        self.thread = threading.Thread(target=self.serve, daemon=True)
+        self.thread.start()
 
     def serve(self):
         while True:
@@ -90,11 +92,14 @@ class Impostor:
                     while client.recv(1 << 16):
                         pass
             except OSError:
-                if self.socket.fileno() < 0:
+                if self.is_ending:
                     return
 
     def end(self):
+        self.is_ending = True
         self.socket.shutdown(socket.SHUT_RDWR)
+        # The next socket may have the number of this one, and a thread that goes on would accept its clients.
+        self.thread.join()
         self.socket.close()
         os.unlink(self.path)
 

@@ -153,7 +153,8 @@ class Subscription:
                 )
             )
         except BaseException:
-            del _subscriptions[self._number]
+            # Whoever closes the session on another thread may have removed it already.
+            _subscriptions.pop(self._number, None)
             raise
         self._identifier = identifier.value
 
