@@ -7,10 +7,16 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
+#include <QtCore/QRandomGenerator>
 #include <QtCore/QTemporaryDir>
 #include <QtNetwork/QHostAddress>
 #include <QtNetwork/QTcpServer>
 #include <QtNetwork/QTcpSocket>
+#include <QtNetwork/QUdpSocket>
+
+#include <memory>
+#include <utility>
+#include <vector>
 
 /// A real broker on a free port of this computer, which a test kills and starts as it likes. The
 /// build names the program in VX_MOSQUITTO; tests are skipped where there is none.
@@ -60,14 +66,42 @@ public:
         m_process.waitForFinished(patience);
     }
 
+    /// A port for a server that is ended and started again: nobody else gets it until this process
+    /// ends. The system does not give it to a client, and another test that looks for one sees that
+    /// the UDP port of the same number is taken.
     static quint16 freePort()
     {
-        QTcpServer server;
-        server.listen(QHostAddress::LocalHost, 0);
-        return server.serverPort();
+        // Reachable until the end, so that no socket is destroyed after the application.
+        static auto* const reservations = new std::vector<std::unique_ptr<QUdpSocket>>;
+        const auto [first, last] = portsOfClients();
+        constexpr int lowest = 10000;
+        constexpr int highest = 65535;
+        for (;;) {
+            const int port = QRandomGenerator::global()->bounded(lowest, highest + 1);
+            if (port >= first && port <= last)
+                continue;
+            auto reservation = std::make_unique<QUdpSocket>();
+            QTcpServer server;
+            if (!reservation->bind(QHostAddress::LocalHost, static_cast<quint16>(port),
+                                   QUdpSocket::DontShareAddress) ||
+                !server.listen(QHostAddress::LocalHost, static_cast<quint16>(port)))
+                continue;
+            reservations->push_back(std::move(reservation));
+            return static_cast<quint16>(port);
+        }
     }
 
 private:
+    /// The first and the last port that the system gives to clients.
+    static std::pair<int, int> portsOfClients()
+    {
+        QFile range(QStringLiteral("/proc/sys/net/ipv4/ip_local_port_range"));
+        if (!range.open(QIODevice::ReadOnly))
+            qFatal("cannot read %s", qPrintable(range.fileName()));
+        const QList<QByteArray> ends = range.readAll().simplified().split(' ');
+        return {ends.value(0).toInt(), ends.value(1).toInt()};
+    }
+
     QString configuration() const { return m_folder.filePath(QStringLiteral("mosquitto.conf")); }
 
     bool writeConfiguration() const

@@ -8,11 +8,15 @@ import shutil
 import signal
 import socket
 import subprocess
+import sys
 import tempfile
 import threading
 import time
 
 import paho.mqtt.client as mqtt
+
+sys.path.append(str(pathlib.Path(__file__).resolve().parents[1] / "support"))
+from ports import free_ports  # noqa: E402 (the folder is added above)
 
 # In seconds; ends what hangs.
 LIMIT = 120
@@ -21,16 +25,6 @@ LIMIT = 120
 def find_program(name):
     """Debian keeps some programs where only root looks for them."""
     return shutil.which(name) or shutil.which(name, path="/usr/sbin:/sbin:/usr/local/sbin")
-
-
-def free_ports(count):
-    """Ports that nobody uses now. Another process can take one before it is used: who starts a server tries
-    again then."""
-    with contextlib.ExitStack() as stack:
-        sockets = [stack.enter_context(socket.socket()) for _ in range(count)]
-        for one in sockets:
-            one.bind(("127.0.0.1", 0))
-        return [one.getsockname()[1] for one in sockets]
 
 
 def answers(port):
@@ -42,7 +36,9 @@ def answers(port):
 
 def until(condition, what, limit=LIMIT):
     """Waits until the condition answers something true, and returns that. Says every ten seconds that it
-    waits: who waits for a cluster on a busy machine does not hang."""
+    waits: who waits for a cluster on a busy machine does not hang. `what` is a text, or a function that makes it."""
+    def text():
+        return what() if callable(what) else what
     began = said = time.monotonic()
     while True:
         value = condition()
@@ -50,10 +46,10 @@ def until(condition, what, limit=LIMIT):
             return value
         now = time.monotonic()
         if now > began + limit:
-            raise AssertionError(f"{what}: not within {limit} s")
+            raise AssertionError(f"{text()}: not within {limit} s")
         if now > said + 10:
             said = now
-            print(f"waiting: {what}", flush=True)
+            print(f"waiting: {text()}", flush=True)
         time.sleep(0.02)
 
 
@@ -68,7 +64,7 @@ class Server:
         self.start()
 
     def start(self):
-        until(self._started, f"{self._command[0]} on {self._ports}: {self.log()[-2000:]}")
+        until(self._started, lambda: f"{self._command[0]} on {self._ports}: {self.log()[-2000:]}")
 
     def _started(self):
         if self._process is None or self._process.poll() is not None:

@@ -20,6 +20,9 @@ import tempfile
 import time
 import unittest
 
+sys.path.append(str(pathlib.Path(__file__).resolve().parents[2] / "support"))
+from ports import free_ports  # noqa: E402 (the folder is added above)
+
 ZIP, ADD_PRINTER, TRUST_AUTHORITY = sys.argv[1:]
 # In seconds; ends what hangs.
 LIMIT = 120
@@ -88,9 +91,7 @@ class Broker:
 
     def __init__(self, folder, authority):
         self.folder, self.authority, self.process = folder, authority, None
-        with socket.socket() as free:
-            free.bind(("127.0.0.1", 0))
-            self.port = free.getsockname()[1]
+        self.port = free_ports(1)[0]
         cert, key = authority.certificate_for("localhost")
         users = folder / "users"
         subprocess.run((program("mosquitto_passwd"), "-b", "-c", users, "agent", PASSWORD), check=True,
