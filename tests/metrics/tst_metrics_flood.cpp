@@ -5,7 +5,6 @@
 #include "processor_waits.h"
 
 #include <QtCore/QDeadlineTimer>
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
@@ -25,7 +24,6 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int badClients = 1000;
-constexpr int usualSeconds = 10;
 /// With a sanitizer, agent and bad clients are so slow that their times say nothing.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr bool isSanitized = true;
@@ -223,15 +221,13 @@ void MetricsFloodTest::servesGoodScrapesDuringAFlood()
         QSKIP("This user may not open so many connections");
     QVERIFY(scrape(agent.port()));
 
-    bool isByHand = false;
-    const int given = qEnvironmentVariableIntValue("VX_FLOOD_SECONDS", &isByHand);
-    const Measured measured = measure(agent, std::chrono::seconds(isByHand ? given : usualSeconds));
+    const FloodTime time = floodTime();
+    const Measured measured = measure(agent, time.length);
     QVERIFY(measured.isServed);
     QVERIFY(scrape(agent.port()));
     if (!isSanitized)
         QVERIFY(measured.growth < mostGrowth);
-    // Beside other tests the time says nothing: the caches and the disk are theirs too.
-    if (isByHand) {
+    if (time.isByHand) {
         QVERIFY2(measured.areWaitsKnown,
                  "The system does not report how long threads wait for a processor");
         QVERIFY(measured.p99 < slowestOfAHundred);
@@ -242,29 +238,23 @@ MetricsFloodTest::Measured MetricsFloodTest::measure(const AgentProcess& agent,
                                                      std::chrono::seconds floodTime)
 {
     const auto clients = flood(agent.port());
-    const ProcessorWaits waits({agent.processId(), QCoreApplication::applicationPid()});
-    std::vector<std::chrono::nanoseconds> times;
-    std::vector<std::chrono::nanoseconds> timesOfTheirOwn;
-    Measured measured{.areWaitsKnown = waits.isKnown()};
+    CallTimes times({agent.processId(), QCoreApplication::applicationPid()});
+    Measured measured{.areWaitsKnown = times.areWaitsKnown()};
     qint64 memoryAtHalfTime = 0;
     const QDeadlineTimer end(floodTime);
     const QDeadlineTimer halfTime(floodTime / 2);
     while (measured.isServed && !end.hasExpired()) {
         if (memoryAtHalfTime == 0 && halfTime.hasExpired())
             memoryAtHalfTime = agent.memory();
-        const std::chrono::nanoseconds waitedBefore = waits.all();
-        QElapsedTimer timer;
-        timer.start();
-        measured.isServed = scrape(agent.port());
-        times.emplace_back(timer.nsecsElapsed());
-        timesOfTheirOwn.push_back(times.back() - (waits.all() - waitedBefore));
+        measured.isServed = times.measure([&agent] { return scrape(agent.port()); });
     }
     measured.growth = agent.memory() - memoryAtHalfTime;
-    measured.p99 = quantile(timesOfTheirOwn, 0.99);
+    measured.p99 = quantile(times.own(), 0.99);
     qInfo("%zu scrapes: median %.2f ms, p99 %.2f ms, of which agent and client took p99 %.2f ms; "
           "the agent grew by %lld KiB in the second half",
-          times.size(), milliseconds(quantile(times, 0.5)), milliseconds(quantile(times, 0.99)),
-          milliseconds(measured.p99), measured.growth / 1024);
+          times.whole().size(), milliseconds(quantile(times.whole(), 0.5)),
+          milliseconds(quantile(times.whole(), 0.99)), milliseconds(measured.p99),
+          measured.growth / 1024);
     return measured;
 }
 

@@ -6,7 +6,6 @@
 #include "processor_waits.h"
 #include "vxipcclient.h"
 
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QJsonArray>
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
@@ -19,7 +18,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int usualSeconds = 10;
 constexpr auto slowestOfAHundred = 50ms;
 
 /// One kind of bad client.
@@ -135,37 +133,27 @@ void VXIPCFloodTest::servesAGoodClientDuringAFlood()
     VXIPCClient good(host.serverName());
     QVERIFY(good.connectToServer());
 
-    bool isByHand = false;
-    const int given = qEnvironmentVariableIntValue("VX_FLOOD_SECONDS", &isByHand);
+    const FloodTime time = floodTime();
     auto flood = startFlood(host.serverName());
-    const ProcessorWaits waits({host.processId(), QCoreApplication::applicationPid()});
-    std::vector<std::chrono::nanoseconds> times;
-    std::vector<std::chrono::nanoseconds> timesOfTheirOwn;
+    CallTimes times({host.processId(), QCoreApplication::applicationPid()});
     bool isServed = true;
-    const QDeadlineTimer end(std::chrono::seconds(isByHand ? given : usualSeconds));
+    const QDeadlineTimer end(time.length);
     while (isServed && !end.hasExpired()) {
-        const std::chrono::nanoseconds waitedBefore = waits.all();
-        QElapsedTimer timer;
-        timer.start();
-        const VXIPCReply reply =
-            good.callAndWait(QStringLiteral("echo"), QJsonArray{QStringLiteral("good")});
-        times.emplace_back(timer.nsecsElapsed());
-        timesOfTheirOwn.push_back(times.back() - (waits.all() - waitedBefore));
+        const VXIPCReply reply = times.measure([&good] {
+            return good.callAndWait(QStringLiteral("echo"), QJsonArray{QStringLiteral("good")});
+        });
         isServed = reply.isOk() && reply.result == QStringLiteral("good");
     }
     flood.reset();
 
     QVERIFY(isServed);
-    QVERIFY(!times.empty());
-    // The time that endpoint and client took themselves, working or blocked. On a busy machine both
-    // also wait for a processor, as do the bad clients and whatever else runs.
-    const std::chrono::nanoseconds p99 = quantile(timesOfTheirOwn, 0.99);
+    QVERIFY(!times.whole().empty());
+    const std::chrono::nanoseconds p99 = quantile(times.own(), 0.99);
     qInfo("%zu calls: median %.2f ms, p99 %.2f ms, of which endpoint and client took p99 %.2f ms",
-          times.size(), milliseconds(quantile(times, 0.5)), milliseconds(quantile(times, 0.99)),
-          milliseconds(p99));
-    // Beside other tests the time says nothing: the caches and the disk are theirs too.
-    if (isByHand) {
-        QVERIFY2(waits.isKnown(),
+          times.whole().size(), milliseconds(quantile(times.whole(), 0.5)),
+          milliseconds(quantile(times.whole(), 0.99)), milliseconds(p99));
+    if (time.isByHand) {
+        QVERIFY2(times.areWaitsKnown(),
                  "The system does not report how long threads wait for a processor");
         QVERIFY(p99 < slowestOfAHundred);
     }

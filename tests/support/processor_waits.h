@@ -2,6 +2,7 @@
 // Copyright The VxPrinterStatus authors
 #pragma once
 
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QString>
 
@@ -56,4 +57,57 @@ inline std::chrono::nanoseconds quantile(std::vector<std::chrono::nanoseconds> t
 {
     std::ranges::sort(times);
     return times.at(static_cast<std::size_t>(static_cast<double>(times.size() - 1) * share));
+}
+
+/// How long calls take, with and without the time in which server and client wait for a processor.
+class CallTimes
+{
+public:
+    /// Of the processes of server and client.
+    explicit CallTimes(const std::vector<qint64>& processes)
+        : m_waits(processes)
+    {}
+
+    /// Makes a call, adds its times, and returns what it returns.
+    template <typename Call>
+    auto measure(const Call& call)
+    {
+        const std::chrono::nanoseconds waitedBefore = m_waits.all();
+        QElapsedTimer timer;
+        timer.start();
+        auto result = call();
+        m_whole.emplace_back(timer.nsecsElapsed());
+        m_own.push_back(m_whole.back() - (m_waits.all() - waitedBefore));
+        return result;
+    }
+
+    bool areWaitsKnown() const { return m_waits.isKnown(); }
+    /// From the start to the end of each call.
+    const std::vector<std::chrono::nanoseconds>& whole() const { return m_whole; }
+    /// What server and client took themselves, working or blocked. On a busy machine both also wait
+    /// for a processor.
+    const std::vector<std::chrono::nanoseconds>& own() const { return m_own; }
+
+private:
+    ProcessorWaits m_waits;
+    std::vector<std::chrono::nanoseconds> m_whole;
+    std::vector<std::chrono::nanoseconds> m_own;
+};
+
+/// How long a test floods a server. Only a person who has chosen the time, with VX_FLOOD_SECONDS,
+/// judges the times of calls by it: beside other tests they say nothing, because the caches and the
+/// disk are theirs too.
+struct FloodTime
+{
+    bool isByHand = false;
+    std::chrono::seconds length{10};
+};
+
+inline FloodTime floodTime()
+{
+    FloodTime time;
+    const int given = qEnvironmentVariableIntValue("VX_FLOOD_SECONDS", &time.isByHand);
+    if (time.isByHand)
+        time.length = std::chrono::seconds(given);
+    return time;
 }
