@@ -107,10 +107,7 @@ def check_script(command):
     words = command.text.split()
     name = words[0]
     script = ROOT / name
-    awaited = DATA["awaited"].get(name)
     if not script.is_file():
-        if awaited:
-            return
         raise Fault(f"there is no {name}")
     if not os.access(script, os.X_OK):
         raise Fault(f"{name} is not executable")
@@ -127,13 +124,12 @@ def check_script(command):
                 not (script.parent / f"lib/{script.name}-{word}").exists():
             if before.startswith("--") and before in options:
                 raise Fault(f"{name} does not describe the value {word}")
-            if not awaited:
-                raise Fault(f"{name} does not describe {word}")
+            raise Fault(f"{name} does not describe {word}")
     if script in called_by_ci() or script == ROOT / ".ci/run":
         return
     if re.search(rf"(?<![\w-]){re.escape(name)}(?![\w-])", test_sources()):
         return
-    if name in DATA["by_hand"] or awaited:
+    if name in DATA["by_hand"]:
         return
     raise Fault(f"neither .ci/run, a script that it calls, nor a test calls {name}")
 
@@ -522,18 +518,11 @@ class DocumentedCommands(unittest.TestCase):
 
     def test_every_rule_is_needed(self):
         used = {rule_of(command) for commands in all_commands().values() for command in commands}
-        awaited = set(DATA["awaited_pages"])
-        self.assertEqual([rule["command"] for number, rule in enumerate(RULES)
-                          if number not in used and rule.get("page") not in awaited], [])
+        self.assertEqual([rule["command"] for number, rule in enumerate(RULES) if number not in used], [])
         for rule in RULES:
             if "run" not in rule and "script_lines" not in rule:
                 self.assertTrue(rule.get("why"), rule["command"])
         self.assertEqual([page for page in DATA["pages"] if page not in PAGES], [])
-        for name in DATA["awaited"]:
-            if (ROOT / name).is_file() and ROOT / name in called_by_ci():
-                print(f'.ci/run calls {name}: it can be removed from "awaited" in commands.json')
-        for name in awaited & set(PAGES):
-            print(f'{name} is there: it can be removed from "awaited_pages" in commands.json')
 
     def test_blocks_are_read(self):
         rows = {
